@@ -1,0 +1,91 @@
+#pragma once
+
+#include <concepts>
+#include <cstddef>
+#include <type_traits>
+
+namespace vxbase {
+
+/// The last component of a path.
+constexpr const char* fileNameOf(const char* path)
+{
+    const char* name = path;
+    for (; *path != '\0'; ++path) {
+        if (*path == '/' || *path == '\\') {
+            name = path + 1;
+        }
+    }
+    return name;
+}
+
+/// The text of a boolean in a log line.
+constexpr const char* trueFalse(bool value)
+{
+    return value ? "true" : "false";
+}
+
+namespace detail {
+
+/// Whether an argument of type T may stand for the conversion character c of a log text.
+template <class T>
+consteval bool fitsConversion(char c)
+{
+    switch (c) {
+    case 'd':
+        return std::same_as<T, int> || std::same_as<T, short>;
+    case 'u':
+        return std::same_as<T, unsigned>;
+    case 'f':
+    case 'g':
+        return std::same_as<T, float> || std::same_as<T, double>;
+    case 's':
+        return std::same_as<T, const char*> || std::same_as<T, char*>;
+    default:
+        return false;
+    }
+}
+
+/// Whether the conversions of a printf text are exactly those that the argument types need, in order.
+template <class... Args>
+consteval bool fitsArguments(const char* text)
+{
+    std::size_t used = 0;
+    for (; *text != '\0'; ++text) {
+        if (*text != '%') {
+            continue;
+        }
+        ++text;
+        if (*text == '%') {
+            continue;
+        }
+        std::size_t position = 0;
+        if (!((position++ == used ? fitsConversion<Args>(*text) : false) || ...)) {
+            return false;
+        }
+        ++used;
+    }
+    return used == sizeof...(Args);
+}
+
+} // namespace detail
+
+/// A printf text that the compiler has held against the types of its arguments, with the place where it was written.
+///
+/// Made implicitly from a string literal, so a text that a user typed can never become a format. The place comes from
+/// default arguments, which name the caller's line.
+template <class... Args>
+struct LogText {
+    const char* text;
+    const char* file;
+    int line;
+
+    consteval LogText(const char* format, const char* path = __builtin_FILE(), int place = __builtin_LINE())
+        : text(format), file(fileNameOf(path)), line(place)
+    {
+        if (!detail::fitsArguments<Args...>(format)) {
+            throw "the conversions of a log text do not fit its arguments";
+        }
+    }
+};
+
+} // namespace vxbase

@@ -1,0 +1,44 @@
+# Compiler settings that hold for every target.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+# All shared objects lie side by side, and each finds its neighbours there.
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+set(CMAKE_INSTALL_RPATH $ORIGIN)
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
+endif()
+
+add_library(vx_options INTERFACE)
+target_include_directories(vx_options INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_options(vx_options INTERFACE
+  # The same bytes on every machine: no fused multiply-add, no excess precision.
+  -ffp-contract=off
+  -fno-strict-aliasing
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wdouble-promotion -Wformat=2 -Wundef
+  $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wuseless-cast>
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-unknown-warning-option>)
+if(NOT DEFINED VX_WARNINGS_AS_ERRORS OR VX_WARNINGS_AS_ERRORS)
+  target_compile_options(vx_options INTERFACE -Werror)
+endif()
+if(VX_SANITIZE)
+  target_compile_options(vx_options INTERFACE -fsanitize=${VX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(vx_options INTERFACE -fsanitize=${VX_SANITIZE})
+else()
+  target_link_options(vx_options INTERFACE -Wl,--no-undefined)
+endif()
+target_link_options(vx_options INTERFACE -Wl,--as-needed)
+
+# Sources of a folder, found anew at every build.
+function(vx_glob result)
+  file(GLOB_RECURSE files CONFIGURE_DEPENDS ${ARGN})
+  set(${result} ${files} PARENT_SCOPE)
+endfunction()

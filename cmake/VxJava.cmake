@@ -1,0 +1,52 @@
+# Java compiler, JNI headers, and the function that builds one jar.
+#
+# FindJNI asks for a window toolkit that a headless JDK does not have, and nothing of the virtual machine is linked:
+# the headers beside javac are all that is needed.
+
+find_package(Java 17 REQUIRED COMPONENTS Development)
+file(REAL_PATH ${Java_JAVAC_EXECUTABLE} VX_JAVAC)
+cmake_path(GET VX_JAVAC PARENT_PATH VX_JAVA_HOME)
+cmake_path(GET VX_JAVA_HOME PARENT_PATH VX_JAVA_HOME)
+
+add_library(vx_jni_headers INTERFACE)
+target_include_directories(vx_jni_headers SYSTEM INTERFACE ${VX_JAVA_HOME}/include ${VX_JAVA_HOME}/include/linux)
+
+# vx_java_module(NAME name SOURCES folder [NEEDS module-target...] [NATIVE_HEADERS])
+# Compiles the Java sources below a folder into ${CMAKE_BINARY_DIR}/java/<name>/classes. With NATIVE_HEADERS the JNI
+# headers of the natives land in ${CMAKE_BINARY_DIR}/java/<name>/include, and the interface library <name>_headers
+# carries them: a native whose signature differs from the Java method does not compile.
+function(vx_java_module)
+  cmake_parse_arguments(arg "NATIVE_HEADERS" "NAME;SOURCES" "NEEDS" ${ARGN})
+  set(root ${CMAKE_BINARY_DIR}/java/${arg_NAME})
+  vx_glob(files ${arg_SOURCES}/*.java)
+  set(path)
+  set(stamps)
+  foreach(module ${arg_NEEDS})
+    list(APPEND path ${CMAKE_BINARY_DIR}/java/${module}/classes)
+    list(APPEND stamps ${CMAKE_BINARY_DIR}/java/${module}/stamp)
+  endforeach()
+  list(JOIN path ":" path)
+  set(options -g --release 17 -encoding UTF-8 -Xlint:all,-exports,-requires-automatic -Werror)
+  if(path)
+    list(APPEND options --module-path ${path})
+  endif()
+  if(arg_NATIVE_HEADERS)
+    list(APPEND options -h ${root}/include)
+  endif()
+  list(JOIN files "\n" argument_file)
+  file(GENERATE OUTPUT ${root}/sources.txt CONTENT "${argument_file}\n")
+  add_custom_command(OUTPUT ${root}/stamp
+    COMMAND ${CMAKE_COMMAND} -E rm -rf ${root}/classes
+    COMMAND ${VX_JAVAC} ${options} -d ${root}/classes @${root}/sources.txt
+    COMMAND ${CMAKE_COMMAND} -E touch ${root}/stamp
+    DEPENDS ${files} ${stamps} ${root}/sources.txt
+    COMMENT "Compiling Java module ${arg_NAME}"
+    VERBATIM)
+  add_custom_target(${arg_NAME}_classes ALL DEPENDS ${root}/stamp)
+  if(arg_NATIVE_HEADERS)
+    add_library(${arg_NAME}_headers INTERFACE)
+    target_include_directories(${arg_NAME}_headers INTERFACE ${root}/include)
+    target_link_libraries(${arg_NAME}_headers INTERFACE vx_jni_headers)
+    add_dependencies(${arg_NAME}_headers ${arg_NAME}_classes)
+  endif()
+endfunction()

@@ -1,0 +1,129 @@
+#pragma once
+
+#include "base/export.h"
+#include "base/logtext.h"
+
+#include <boost/shared_ptr.hpp>
+
+#include <cstdio>
+#include <string>
+#include <type_traits>
+
+namespace vxgraphics3d {
+
+/// The library's only diagnostic output: one line a message, silent until a level is set.
+///
+/// A line holds the level's name, the module field, the message, and source file and line, with tabs between the
+/// fields: `info <tab> graphics:0 <tab> Creating ... <tab> scenegraphgroup.cpp;12`. Reals are written with a decimal
+/// point whatever locale the process has set. The log lives until the process ends and takes no lock.
+class VX_API ErrorLog {
+public:
+    /// Severity of a message; a message passes if its level is not above the level in force.
+    enum class Level : int { none = 0, error = 1, warning = 2, info = 3, jniInfo = 4, debug = 5 };
+
+    /// Who writes a message. The library is one module, with one bit in the mask.
+    enum class ModuleID : int { graphics = 0 };
+
+    /// The process-wide log, made at the first call.
+    static ErrorLog* getInstance();
+
+    ErrorLog(const ErrorLog&) = delete;
+    ErrorLog& operator=(const ErrorLog&) = delete;
+    ~ErrorLog();
+
+    /// Switches the log off, or on at the level asked for last. Without a target it stays off.
+    void setActive(bool on);
+    bool isActive() const { return m_activeLevel > Level::none; }
+
+    /// Stores the level asked for and switches the log on at it.
+    void setReportLevel(Level level);
+    /// The level in force, not the one asked for: `Level::none` while the log is switched off.
+    Level getReportLevel() const { return m_activeLevel; }
+
+    /// Lets a module's messages pass. Unknown modules are ignored.
+    void activateModuleReporting(ModuleID module);
+    /// Holds a module's messages back. Unknown modules are ignored.
+    void deactivateModuleReporting(ModuleID module);
+    void activateAllModuleReporting();
+    void deactivateAllModuleReporting();
+
+    /// Writes to a file from now on, truncating it, and switches the log on. A file that cannot be opened leaves the
+    /// log without target and off.
+    /// @return true, also when the file does not open
+    bool setTargetToFile(const std::string& path);
+    bool setTargetToStdOut();
+    bool setTargetToStdErr();
+
+    /// Whether the stream is flushed after every line.
+    void flushAfterEachMessage(bool flush) { m_flushEachMessage = flush; }
+
+    /// Whether a message of this level and module would be written.
+    bool passes(Level level, ModuleID module) const
+    {
+        return level <= m_activeLevel && (m_moduleMask >> static_cast<int>(module) & 1u) != 0;
+    }
+
+    /// Writes one line if level and module pass. The format follows `printf`.
+    void log(Level level, ModuleID module, int subId, const char* file, int line, const char* format, ...)
+        __attribute__((format(printf, 7, 8)));
+
+private:
+    ErrorLog() = default;
+
+    void setTarget(std::FILE* target, bool owned);
+
+    static boost::shared_ptr<ErrorLog> m_instance;
+
+    Level m_reportLevel = Level::none;
+    Level m_activeLevel = Level::none;
+    unsigned m_moduleMask = 1;
+    bool m_ownsTarget = false;
+    std::FILE* m_target = stderr;
+    bool m_flushEachMessage = false;
+};
+
+/// Sub-id of the lines that the model's own files write.
+inline constexpr int c_coreLogSubId = 0;
+/// Sub-id of the lines that the natives write on entry.
+inline constexpr int c_nativeLogSubId = 8;
+
+namespace detail {
+
+template <class... Args>
+void logLine(ErrorLog::Level level, int subId, const vxbase::LogText<Args...>& text, Args... args)
+{
+    ErrorLog* log = ErrorLog::getInstance();
+    if (log->passes(level, ErrorLog::ModuleID::graphics)) {
+// The text was held against its arguments when it was compiled, which is more than this warning could do.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-security"
+#pragma GCC diagnostic ignored "-Wformat-nonliteral"
+        log->log(level, ErrorLog::ModuleID::graphics, subId, text.file, text.line, text.text, args...);
+#pragma GCC diagnostic pop
+    }
+}
+
+} // namespace detail
+
+/// Writes a life-cycle or progress message: `logInfo("Adding child %d", id)`. File and line are the caller's.
+template <class... Args>
+void logInfo(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
+{
+    detail::logLine<Args...>(ErrorLog::Level::info, c_coreLogSubId, text, args...);
+}
+
+/// Writes a message on a handled oddity.
+template <class... Args>
+void logWarning(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
+{
+    detail::logLine<Args...>(ErrorLog::Level::warning, c_coreLogSubId, text, args...);
+}
+
+/// Writes a message on bad input that makes the library skip a step.
+template <class... Args>
+void logError(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
+{
+    detail::logLine<Args...>(ErrorLog::Level::error, c_coreLogSubId, text, args...);
+}
+
+} // namespace vxgraphics3d

@@ -1,0 +1,52 @@
+#include "tests/support/capturedlog.h"
+
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+
+#include <stdlib.h>
+#include <unistd.h>
+
+namespace vxgraphics3d {
+
+CapturedLog::CapturedLog(ErrorLog::Level level)
+{
+    std::string name = "/tmp/vxlog-XXXXXX";
+    close(mkstemp(name.data()));
+    m_path = name;
+    ErrorLog* log = ErrorLog::getInstance();
+    log->setTargetToFile(m_path);
+    log->flushAfterEachMessage(true);
+    log->setReportLevel(level);
+}
+
+CapturedLog::~CapturedLog()
+{
+    ErrorLog* log = ErrorLog::getInstance();
+    log->activateAllModuleReporting();
+    log->setReportLevel(ErrorLog::Level::none);
+    log->flushAfterEachMessage(false);
+    log->setTargetToStdErr();
+    std::remove(m_path.c_str());
+}
+
+std::string CapturedLog::text() const
+{
+    std::ifstream file(m_path);
+    std::ostringstream all;
+    all << file.rdbuf();
+    return all.str();
+}
+
+std::vector<std::string> CapturedLog::messages() const
+{
+    std::vector<std::string> result;
+    std::istringstream lines(text());
+    for (std::string line; std::getline(lines, line);) {
+        const std::size_t begin = line.find('\t', line.find('\t') + 1) + 1;
+        result.push_back(line.substr(begin, line.rfind('\t') - begin));
+    }
+    return result;
+}
+
+} // namespace vxgraphics3d
