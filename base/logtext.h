@@ -79,7 +79,13 @@ struct LogText {
     const char* file;
     int line;
 
-    consteval LogText(const char* format, const char* path = __builtin_FILE(), int place = __builtin_LINE())
+    /// Keeps the arguments of a message apart from the place, which is never given.
+    struct Here {
+        explicit constexpr Here() = default;
+    };
+
+    consteval LogText(const char* format, Here = Here(), const char* path = __builtin_FILE(),
+                      int place = __builtin_LINE())
         : text(format), file(fileNameOf(path)), line(place)
     {
         if (!detail::fitsArguments<Args...>(format)) {

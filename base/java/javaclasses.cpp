@@ -1,0 +1,60 @@
+#include "base/java/javaclasses.h"
+
+namespace vxbase {
+
+namespace {
+
+JavaClasses g_classes;
+
+/// A global reference on a class, or null with the Java exception cleared.
+jclass findClass(JNIEnv* env, const char* name)
+{
+    const jclass local = env->FindClass(name);
+    if (local == nullptr) {
+        env->ExceptionClear();
+        return nullptr;
+    }
+    const auto global = static_cast<jclass>(env->NewGlobalRef(local));
+    env->DeleteLocalRef(local);
+    return global;
+}
+
+/// Whether all that peers need was found. The exception class may be missing: a standard one stands in for it.
+bool load(JNIEnv* env, JavaClasses& java)
+{
+    java.exception = findClass(env, "com/vexane/graphics3d/NativeException");
+    if (java.exception != nullptr) {
+        java.exceptionInit =
+            env->GetMethodID(java.exception, "<init>", "(Ljava/lang/String;Ljava/lang/String;Ljava/lang/String;I)V");
+        if (java.exceptionInit == nullptr) {
+            return false;
+        }
+    }
+    java.peer = findClass(env, "com/vexane/graphics3d/NativePeer");
+    java.doubleArray = findClass(env, "[D");
+    if (java.peer == nullptr || java.doubleArray == nullptr) {
+        return false;
+    }
+    java.peerHandle = env->GetFieldID(java.peer, "handle", "J");
+    java.peerSetHandle = env->GetMethodID(java.peer, "setHandle", "(J)V");
+    return java.peerHandle != nullptr && java.peerSetHandle != nullptr;
+}
+
+} // namespace
+
+const JavaClasses& javaClasses()
+{
+    return g_classes;
+}
+
+} // namespace vxbase
+
+extern "C" JNIEXPORT jint JNICALL JNI_OnLoad(JavaVM* vm, void*)
+{
+    constexpr jint version = JNI_VERSION_10;
+    void* env = nullptr;
+    if (vm->GetEnv(&env, version) != JNI_OK || !vxbase::load(static_cast<JNIEnv*>(env), vxbase::g_classes)) {
+        return JNI_ERR;
+    }
+    return version;
+}

@@ -1,0 +1,122 @@
+#pragma once
+
+#include "base/export.h"
+
+#include <jni.h>
+
+#include <boost/shared_ptr.hpp>
+
+#include <memory>
+#include <type_traits>
+#include <typeinfo>
+#include <utility>
+
+namespace vxbase {
+
+/// What the number in a Java peer points to: a share in one native object, kept as the root class of its family.
+///
+/// A native of a base peer class works on every derived peer because the pointer is cast back to the root only and
+/// from there down by the language's own casts; a peer of another family is told by `family` and refused. One handle
+/// belongs to one peer: `attach` makes it, `release` destroys it.
+struct PeerHandle {
+    const std::type_info& family;
+    boost::shared_ptr<void> object;
+};
+
+/// The handle in a peer.
+/// @throws Exception if the peer is null or closed
+VX_API void* getWsPtr(JNIEnv* env, jobject peer);
+/// The handle in a peer, or null if the peer is null or closed.
+VX_API void* getWsPtrOrNull(JNIEnv* env, jobject peer);
+VX_API void setWsPtr(JNIEnv* env, jobject peer, void* handle);
+VX_API void setNullWsPtr(JNIEnv* env, jobject peer);
+
+/// A class that names the root of its family: `using PeerRoot = SceneGraphNode;`.
+template <class T>
+concept HasPeerRoot = requires
+{
+    typename T::PeerRoot;
+};
+
+namespace detail {
+
+template <class T>
+struct PeerRootOf {
+    using Type = T;
+};
+
+template <HasPeerRoot T>
+struct PeerRootOf<T> {
+    using Type = typename T::PeerRoot;
+};
+
+/// @throws std::invalid_argument if the object is null or not a peer at all
+VX_API void requirePeer(JNIEnv* env, jobject object);
+VX_API void attachHandle(JNIEnv* env, jobject self, std::unique_ptr<PeerHandle> handle);
+
+template <class T>
+const PeerHandle& handleOf(JNIEnv* env, jobject peer)
+{
+    const auto* handle = static_cast<const PeerHandle*>(getWsPtr(env, peer));
+    if (handle->family != typeid(typename PeerRootOf<T>::Type)) {
+        throw std::bad_cast();
+    }
+    return *handle;
+}
+
+template <class T>
+T& downCast(const PeerHandle& handle)
+{
+    using Root = typename PeerRootOf<T>::Type;
+    auto* root = static_cast<Root*>(handle.object.get());
+    if constexpr (std::is_same_v<T, Root>) {
+        return *root;
+    } else {
+        // Most peers are asked as the class they are, for which the search of a dynamic cast is not needed.
+        return typeid(*root) == typeid(T) ? static_cast<T&>(*root) : dynamic_cast<T&>(*root);
+    }
+}
+
+} // namespace detail
+
+/// The native object of a peer.
+/// @throws Exception if the peer is null or closed
+/// @throws std::bad_cast if the peer stands for an object of another class
+template <class T>
+T& peer(JNIEnv* env, jobject object)
+{
+    return detail::downCast<T>(detail::handleOf<T>(env, object));
+}
+
+/// The native object of a peer, with a share in it.
+template <class T>
+boost::shared_ptr<T> share(JNIEnv* env, jobject object)
+{
+    const PeerHandle& handle = detail::handleOf<T>(env, object);
+    return boost::shared_ptr<T>(handle.object, &detail::downCast<T>(handle));
+}
+
+/// The same as `peer` for an argument whose Java type says nothing: it may be any object.
+template <class T>
+T& anyPeer(JNIEnv* env, jobject object)
+{
+    detail::requirePeer(env, object);
+    return peer<T>(env, object);
+}
+
+/// Gives a new peer its handle.
+/// @throws std::invalid_argument if there is no object
+/// @throws std::logic_error if the peer holds a handle already
+template <class T>
+void attach(JNIEnv* env, jobject self, boost::shared_ptr<T> object)
+{
+    using Root = typename detail::PeerRootOf<T>::Type;
+    boost::shared_ptr<Root> root = std::move(object);
+    detail::attachHandle(env, self, std::unique_ptr<PeerHandle>(new PeerHandle{typeid(Root), std::move(root)}));
+}
+
+/// Takes the handle from a peer and drops its share in the object. A peer without handle stays as it is, so this may
+/// be called twice.
+VX_API void release(JNIEnv* env, jobject self);
+
+} // namespace vxbase

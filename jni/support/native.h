@@ -1,0 +1,65 @@
+#pragma once
+
+#include "graphics3d/foundation/errorlog.h"
+
+#include "base/java/conversions.h"
+#include "base/java/nativeframe.h"
+#include "base/java/peerhandle.h"
+
+#include <jni.h>
+
+#include <type_traits>
+#include <utility>
+
+/// Spells the exported name of a native of a peer class: `VX_NATIVE(jint, SceneGraphNode, getType)(JNIEnv*, ...)`.
+/// The header that javac makes declares the same name, so a signature that differs from the Java method's does not
+/// compile.
+#define VX_NATIVE(result, Class, method)                                                                               \
+    extern "C" JNIEXPORT result JNICALL Java_com_vexane_graphics3d_##Class##_##method
+
+namespace vxgraphics3d {
+
+using vxbase::anyPeer;
+using vxbase::attach;
+using vxbase::fromJava;
+using vxbase::peer;
+using vxbase::release;
+using vxbase::share;
+using vxbase::toJava;
+using vxbase::toJavaNew;
+using vxbase::trueFalse;
+
+/// The entry line of a native: written when it is made, so before anything of the native can fail, and the place that
+/// a failure is reported with. Made from a text, or from a text and its arguments in braces.
+class NativeEntry {
+public:
+    template <class... Args>
+    NativeEntry(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
+        : m_file(text.file), m_line(text.line)
+    {
+        detail::logLine<Args...>(ErrorLog::Level::jniInfo, c_nativeLogSubId, text, args...);
+    }
+
+    const char* file() const { return m_file; }
+    int line() const { return m_line; }
+
+private:
+    const char* m_file;
+    int m_line;
+};
+
+/// The frame of every native: logs the entry, runs the body, and turns whatever it throws into a Java exception.
+/// @return what the body returns, or the zero of that type if it threw
+template <class Operation>
+auto native(JNIEnv* env, const NativeEntry& entry, Operation&& operation)
+{
+    return vxbase::guarded(env, std::forward<Operation>(operation), entry.file(), entry.line());
+}
+
+template <class Operation>
+auto native(JNIEnv* env, vxbase::LogText<> text, Operation&& operation)
+{
+    return native(env, NativeEntry(text), std::forward<Operation>(operation));
+}
+
+} // namespace vxgraphics3d
