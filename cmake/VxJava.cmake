@@ -50,3 +50,73 @@ function(vx_java_module)
     add_dependencies(${arg_NAME}_headers ${arg_NAME}_classes)
   endif()
 endfunction()
+
+# vx_java_jar(NAME module LIBRARIES target...)
+# Packs the classes of a module and native libraries into ${CMAKE_BINARY_DIR}/jars/vexane-<name>.jar, where the loader
+# finds the libraries.
+function(vx_java_jar)
+  cmake_parse_arguments(arg "" "NAME" "LIBRARIES" ${ARGN})
+  set(jar ${CMAKE_BINARY_DIR}/jars/vexane-${arg_NAME}.jar)
+  set(root ${CMAKE_BINARY_DIR}/java/${arg_NAME})
+  set(folder native/linux-${CMAKE_SYSTEM_PROCESSOR})
+  set(copies)
+  foreach(library ${arg_LIBRARIES})
+    list(APPEND copies COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:${library}> ${root}/packed/${folder}/)
+  endforeach()
+  add_custom_command(OUTPUT ${jar}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/jars ${root}/packed/${folder}
+    ${copies}
+    COMMAND ${Java_JAR_EXECUTABLE} --create --file ${jar} -C ${root}/classes . -C ${root}/packed .
+    DEPENDS ${root}/stamp ${arg_LIBRARIES}
+    COMMENT "Packing ${jar}"
+    VERBATIM)
+  add_custom_target(${arg_NAME}_jar ALL DEPENDS ${jar})
+  install(FILES ${jar} DESTINATION share/java)
+endfunction()
+
+# vx_java_tests(SOURCES folder... NEEDS module... )
+# Compiles the JUnit tests of all modules, on the class path so that tests reach what packages hide, into
+# ${CMAKE_BINARY_DIR}/java/tests/classes, and writes the class path that runs them to ${CMAKE_BINARY_DIR}/java/tests/path.
+function(vx_java_tests)
+  cmake_parse_arguments(arg "" "" "SOURCES;NEEDS" ${ARGN})
+  set(junit)
+  foreach(name junit-jupiter-api junit-jupiter-engine junit-jupiter-params junit-platform-commons
+               junit-platform-console junit-platform-engine junit-platform-launcher junit-platform-reporting
+               opentest4j opentest4j-reporting-events opentest4j-reporting-schema apiguardian-api picocli
+               univocity-parsers)
+    if(NOT EXISTS /usr/share/java/${name}.jar)
+      message(FATAL_ERROR "The Java tests need JUnit 5: /usr/share/java/${name}.jar is missing (Debian package junit5)")
+    endif()
+    list(APPEND junit /usr/share/java/${name}.jar)
+  endforeach()
+  set(root ${CMAKE_BINARY_DIR}/java/tests)
+  set(path ${junit})
+  set(stamps)
+  foreach(module ${arg_NEEDS})
+    list(APPEND path ${CMAKE_BINARY_DIR}/java/${module}/classes)
+    list(APPEND stamps ${CMAKE_BINARY_DIR}/java/${module}/stamp)
+  endforeach()
+  set(files)
+  set(resources)
+  foreach(folder ${arg_SOURCES})
+    vx_glob(found ${folder}/java/*.java)
+    list(APPEND files ${found})
+    if(EXISTS ${folder}/resources)
+      list(APPEND resources COMMAND ${CMAKE_COMMAND} -E copy_directory ${folder}/resources ${root}/classes)
+    endif()
+  endforeach()
+  list(JOIN path ":" path)
+  list(JOIN files "\n" argument_file)
+  file(GENERATE OUTPUT ${root}/sources.txt CONTENT "${argument_file}\n")
+  file(GENERATE OUTPUT ${root}/path CONTENT "${root}/classes:${path}\n")
+  add_custom_command(OUTPUT ${root}/stamp
+    COMMAND ${CMAKE_COMMAND} -E rm -rf ${root}/classes
+    COMMAND ${VX_JAVAC} -g --release 17 -encoding UTF-8 -Xlint:all,-processing,-path -Werror -cp ${path} -d ${root}/classes
+            @${root}/sources.txt
+    ${resources}
+    COMMAND ${CMAKE_COMMAND} -E touch ${root}/stamp
+    DEPENDS ${files} ${stamps} ${root}/sources.txt
+    COMMENT "Compiling Java tests"
+    VERBATIM)
+  add_custom_target(java_tests ALL DEPENDS ${root}/stamp)
+endfunction()

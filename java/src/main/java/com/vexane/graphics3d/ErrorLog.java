@@ -40,10 +40,6 @@ public final class ErrorLog {
         }
     }
 
-    static {
-        NativeLibrary.ensureLoaded();
-    }
-
     private ErrorLog() {}
 
     /**
@@ -53,6 +49,7 @@ public final class ErrorLog {
      * @param file the file
      */
     public static void setOutputFile(Path file) {
+        NativeLibrary.ensureLoaded();
         nSetOutputFile(file.toString());
     }
 
@@ -62,6 +59,7 @@ public final class ErrorLog {
      * @param flush true to write out every line
      */
     public static void setFlushAfterEachMessage(boolean flush) {
+        NativeLibrary.ensureLoaded();
         nFlushAfterEachMessage(flush);
     }
 
@@ -71,6 +69,7 @@ public final class ErrorLog {
      * @param level the level; {@link Level#NONE} silences the log
      */
     public static void setReportLevel(Level level) {
+        NativeLibrary.ensureLoaded();
         nSetReportLevel(level.number());
     }
 
@@ -80,6 +79,7 @@ public final class ErrorLog {
      * @param active true to switch it on
      */
     public static void setActive(boolean active) {
+        NativeLibrary.ensureLoaded();
         nSetActive(active);
     }
 

@@ -1,0 +1,67 @@
+package com.vexane.graphics3d;
+
+import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertThrows;
+import static org.junit.jupiter.api.Assertions.assertTrue;
+
+import java.io.IOException;
+import java.nio.charset.StandardCharsets;
+import java.nio.file.Files;
+import java.nio.file.Path;
+import org.junit.jupiter.api.Test;
+import org.junit.jupiter.api.io.TempDir;
+
+class NativeLibraryTest {
+    @TempDir Path folder;
+
+    /** Starts a virtual machine of its own, since a library is loaded once a process. */
+    private String runWithout(String... options) throws IOException, InterruptedException {
+        ProcessBuilder builder = new ProcessBuilder();
+        builder.command().add(Path.of(System.getProperty("java.home"), "bin", "java").toString());
+        builder.command().addAll(java.util.List.of(options));
+        builder.command().addAll(java.util.List.of("-cp", System.getProperty("java.class.path"), Main.class.getName()));
+        Process process = builder.redirectErrorStream(true).start();
+        String output = new String(process.getInputStream().readAllBytes(), StandardCharsets.UTF_8);
+        process.waitFor();
+        return output;
+    }
+
+    /** Uses the library twice, as a program does that goes on after a failure. */
+    static final class Main {
+        public static void main(String[] args) {
+            for (int i = 0; i < 2; ++i) {
+                try {
+                    ErrorLog.setActive(false);
+                    System.out.println("went through");
+                } catch (UnsatisfiedLinkError e) {
+                    System.out.println(e.getMessage());
+                }
+            }
+        }
+    }
+
+    @Test
+    void aMissingLibraryIsReportedWithEveryPlaceTriedEachTime() throws Exception {
+        String output = runWithout("-D" + NativeLibrary.FOLDER_PROPERTY + "=" + folder, "-Djava.library.path=/nowhere");
+        String once = "Could not find libvxutil.so. Tried, in this order:\n"
+                + "  property com.vexane.library.path: " + folder.toAbsolutePath() + "/libvxutil.so\n"
+                + "  jar: /native/linux-x86_64/libvxutil.so\n"
+                + "  java.library.path: /nowhere/libvxutil.so\n";
+        assertEquals(once + once, output);
+    }
+
+    @Test
+    void aFileThatIsNoLibraryIsRefused() throws Exception {
+        Files.writeString(folder.resolve("libvxutil.so"), "not a library");
+        String output = runWithout("-D" + NativeLibrary.FOLDER_PROPERTY + "=" + folder);
+        assertTrue(output.contains("libvxutil.so"), output);
+        assertTrue(!output.contains("went through"), output);
+    }
+
+    @Test
+    void loadingAgainFromAnotherFolderDoesNothing() {
+        NativeLibrary.load(folder);
+        ErrorLog.setActive(false);
+        assertThrows(UnsatisfiedLinkError.class, () -> NativeLibrary.require(NativeLibraryTest.class, "vxnothing"));
+    }
+}
