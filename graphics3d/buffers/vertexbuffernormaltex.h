@@ -1,0 +1,22 @@
+#pragma once
+
+#include "graphics3d/buffers/vertexbufferof.h"
+#include "graphics3d/buffers/vertexlayout.h"
+
+namespace vxgraphics3d {
+
+/// Vertices with normals and a place on the colour scale, for lit surfaces that show data.
+class VX_API VertexBufferNormalTex : public VertexBufferOf<VertexNormalTex> {
+public:
+    /// Appends with the place on the colour scale, 0 to 1; v is 0.
+    int appendVertex(const Vector3f& p, const Vector3f& n, float u)
+    {
+        return appendVertex(p.x, p.y, p.z, n.x, n.y, n.z, u);
+    }
+    int appendVertex(float x, float y, float z, float nx, float ny, float nz, float u)
+    {
+        return append({x, y, z, nx, ny, nz, u, 0.0f});
+    }
+};
+
+} // namespace vxgraphics3d
