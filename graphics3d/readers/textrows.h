@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdio>
+#include <memory>
+
+namespace vxgraphics3d {
+
+/// The rows of a text stream, one after another, exactly as `fgets` with a buffer of 256 bytes gives them.
+///
+/// A row is a C string that ends behind its line end. A line of more than 255 characters comes as several rows, the
+/// last line needs no line end, and a row that holds a zero byte seems to end there. The rows lie in the block that was
+/// read from the stream, so none is copied; memory does not grow with the file, however long it is.
+///
+/// The stream is not owned and must outlive this object; nobody else may read from it.
+class TextRows {
+public:
+    /// Longest row, line end included.
+    static constexpr std::size_t c_maxLength = 255;
+
+    /// @param file an open stream at the place of the first row, or null, which has no rows
+    explicit TextRows(std::FILE* file);
+
+    /// The next row, or null at the end of the stream. It stays valid until the next call.
+    const char* next();
+
+    /// Goes back to the start of the stream.
+    void rewind();
+
+private:
+    void fill();
+
+    std::FILE* m_file;
+    std::unique_ptr<char[]> m_block;
+    char* m_next;         // first byte behind the present row
+    char* m_end;          // behind the last byte read
+    char m_hidden = '\0'; // what stood at m_next before the present row got its terminating zero there
+    bool m_exhausted;     // the stream has no more bytes for the block
+};
+
+} // namespace vxgraphics3d

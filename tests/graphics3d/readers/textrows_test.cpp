@@ -1,0 +1,112 @@
+#include "graphics3d/readers/textrows.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace vxgraphics3d {
+namespace {
+
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+
+File fileOf(const std::string& bytes)
+{
+    File file(std::tmpfile(), std::fclose);
+    std::fwrite(bytes.data(), 1, bytes.size(), file.get());
+    std::rewind(file.get());
+    return file;
+}
+
+std::vector<std::string> rowsByLibrary(const std::string& bytes)
+{
+    const File file = fileOf(bytes);
+    std::vector<std::string> rows;
+    for (char buffer[256]; std::fgets(buffer, sizeof buffer, file.get()) != nullptr;) {
+        rows.emplace_back(buffer);
+    }
+    return rows;
+}
+
+std::vector<std::string> allRows(TextRows& rows)
+{
+    std::vector<std::string> result;
+    while (const char* row = rows.next()) {
+        result.emplace_back(row);
+    }
+    return result;
+}
+
+TEST(TextRows, splitAStreamLikeTheLibrary)
+{
+    const std::string zero(1, '\0');
+    const std::string cases[] = {
+        "",
+        "\n",
+        "a",
+        "a\nb",
+        "a\r\n\r\n",
+        "\n\n\n",
+        std::string(254, 'x') + "\ny",
+        std::string(255, 'x') + "\ny",
+        std::string(256, 'x') + "\ny",
+        std::string(510, 'x'),
+        std::string(100000, 'x') + "\nend\n",
+        zero,
+        "a" + zero + "b\nc\n",
+        zero + "\n" + zero + zero,
+        std::string(300, '\0') + "\nb",
+        "\xff\xfe\n",
+    };
+    for (const std::string& bytes : cases) {
+        const File file = fileOf(bytes);
+        TextRows rows(file.get());
+        EXPECT_EQ(allRows(rows), rowsByLibrary(bytes)) << bytes.substr(0, 20) << "... of " << bytes.size();
+        EXPECT_EQ(rows.next(), nullptr);
+    }
+}
+
+TEST(TextRows, areTheSameWhereverABlockEnds)
+{
+    std::mt19937 random(3);
+    for (int i = 0; i < 20; ++i) {
+        const auto longest = random() % 600 + 1;
+        std::string bytes;
+        while (bytes.size() < 200000) {
+            bytes.append(random() % longest, static_cast<char>('a' + random() % 26));
+            bytes += random() % 9 != 0 ? '\n' : '\0';
+        }
+        const File file = fileOf(bytes);
+        TextRows rows(file.get());
+        EXPECT_EQ(allRows(rows), rowsByLibrary(bytes));
+    }
+}
+
+TEST(TextRows, beginAgainAfterRewindWhereverTheyStood)
+{
+    const std::string bytes = "first\n" + std::string(70000, 'x') + "\nlast";
+    const File file = fileOf(bytes);
+    TextRows rows(file.get());
+    EXPECT_STREQ(rows.next(), "first\n");
+    rows.rewind();
+    EXPECT_EQ(allRows(rows), rowsByLibrary(bytes));
+    rows.rewind();
+    EXPECT_STREQ(rows.next(), "first\n");
+}
+
+TEST(TextRows, ofADirectoryOrOfNothingAreNone)
+{
+    const File directory(std::fopen("/", "r"), std::fclose);
+    ASSERT_NE(directory, nullptr);
+    TextRows rows(directory.get());
+    EXPECT_EQ(rows.next(), nullptr);
+    TextRows none(nullptr);
+    EXPECT_EQ(none.next(), nullptr);
+    none.rewind();
+    EXPECT_EQ(none.next(), nullptr);
+}
+
+} // namespace
+} // namespace vxgraphics3d
