@@ -1,0 +1,229 @@
+#include "datacarrier/postdataview.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+#include <stdexcept>
+
+namespace vxdatacarrier {
+
+namespace {
+
+const char* roleName(int role)
+{
+    constexpr const char* names[] = {"colour",
+                                     "",
+                                     "",
+                                     "",
+                                     "height",
+                                     "radius or width",
+                                     "",
+                                     "vector x",
+                                     "vector y",
+                                     "vector z",
+                                     "first direction x",
+                                     "first direction y",
+                                     "first direction z",
+                                     "second direction x",
+                                     "second direction y",
+                                     "second direction z",
+                                     "third direction x",
+                                     "third direction y",
+                                     "third direction z",
+                                     "iso level",
+                                     "",
+                                     ""};
+    static_assert(std::size(names) == PostDataObject::c_numRoles);
+    return names[role];
+}
+
+std::string roleText(int role)
+{
+    const std::string name = roleName(role);
+    return "role " + std::to_string(role) + (name.empty() ? "" : " (" + name + " data)");
+}
+
+std::string groupText(int group)
+{
+    return " of group " + std::to_string(group);
+}
+
+} // namespace
+
+PostDataView::PostDataView(const PostDataObject& record, const char* plot) : m_record(record), m_plot(plot)
+{
+    if (record.m_coordinates.empty()) {
+        fail("the record has no group");
+    }
+}
+
+int PostDataView::numPoints(int group) const
+{
+    return countOf(coordinates(group, 1).front().size(), group, "coordinates");
+}
+
+const PostDataView::DoubleArrays& PostDataView::coordinates(int group, int minAxes) const
+{
+    return equalArrays(entry(m_record.m_coordinates, group, "coordinates"), group, minAxes, "coordinates");
+}
+
+const PostDataView::FloatArrays& PostDataView::normals(int group) const
+{
+    const FloatArrays& arrays = equalArrays(entry(m_record.m_normals, group, "normals"), group, 3, "normals");
+    if (arrays.front().size() < coordinates(group, 1).front().size()) {
+        fail("normals" + groupText(group) + " are fewer than the points");
+    }
+    return arrays;
+}
+
+bool PostDataView::hasElements(int group) const
+{
+    return group >= 0 && static_cast<std::size_t>(group) < m_record.m_elements.size() &&
+           m_record.m_elements[static_cast<std::size_t>(group)];
+}
+
+int PostDataView::numElements(int group) const
+{
+    const IntArrays& corners = elements(group, 0);
+    return corners.empty() ? 0 : countOf(corners.front().size(), group, "elements");
+}
+
+const PostDataView::IntArrays& PostDataView::elements(int group, int minCorners) const
+{
+    return equalArrays(entry(m_record.m_elements, group, "elements"), group, minCorners, "elements");
+}
+
+const PostDataView::IntArrays& PostDataView::lineElements(int group) const
+{
+    return equalArrays(entry(m_record.m_lineElements, group, "line elements"), group, 2, "line elements");
+}
+
+const std::vector<double>& PostDataView::data(int group, int role) const
+{
+    const std::vector<double>& values = levelData(group, role);
+    if (values.size() < coordinates(group, 1).front().size()) {
+        fail(roleText(role) + groupText(group) + " has " + std::to_string(values.size()) + " values for " +
+             std::to_string(numPoints(group)) + " points");
+    }
+    return values;
+}
+
+const std::vector<double>& PostDataView::levelData(int group, int role) const
+{
+    const std::size_t index = filledIndex(role);
+    const DoubleArrays& arrays = entry(m_record.m_data, group, "data");
+    if (index >= arrays.size()) {
+        fail(roleText(role) + groupText(group) + " names data array " + std::to_string(index) + " of " +
+             std::to_string(arrays.size()));
+    }
+    return arrays[index];
+}
+
+double PostDataView::dataMin(int group, int role) const
+{
+    return limit(m_record.m_dataMin, group, role, "data minima");
+}
+
+double PostDataView::dataMax(int group, int role) const
+{
+    return limit(m_record.m_dataMax, group, role, "data maxima");
+}
+
+double PostDataView::dataMin(int role) const
+{
+    for (int group = 0; group < std::max(numGroups(), static_cast<int>(m_record.m_dataMin.size())); ++group) {
+        dataMin(group, role);
+    }
+    return m_record.getDataMin(role);
+}
+
+double PostDataView::dataMax(int role) const
+{
+    for (int group = 0; group < std::max(numGroups(), static_cast<int>(m_record.m_dataMax.size())); ++group) {
+        dataMax(group, role);
+    }
+    return m_record.getDataMax(role);
+}
+
+const PostDataView::DoubleArrays& PostDataView::bounds(int minAxes) const
+{
+    if (!m_record.m_bounds || m_record.m_bounds->size() < static_cast<std::size_t>(minAxes)) {
+        fail("the record has no bounds of " + std::to_string(minAxes) + " axes");
+    }
+    for (const std::vector<double>& axis : *m_record.m_bounds) {
+        if (axis.size() < 2) {
+            fail("an axis of the bounds has no minimum and maximum");
+        }
+    }
+    return *m_record.m_bounds;
+}
+
+int PostDataView::dataIndex(int role) const
+{
+    if (role < 0 || role >= PostDataObject::c_numRoles) {
+        fail("there is no role " + std::to_string(role));
+    }
+    return m_record.m_dataIndex[static_cast<std::size_t>(role)];
+}
+
+std::size_t PostDataView::filledIndex(int role) const
+{
+    const int index = dataIndex(role);
+    if (index < 0) {
+        fail(roleText(role) + " is not filled");
+    }
+    return static_cast<std::size_t>(index);
+}
+
+template <class Entry>
+const Entry& PostDataView::entry(const std::vector<boost::shared_ptr<Entry>>& groups, int group,
+                                 const char* field) const
+{
+    const auto at = static_cast<std::size_t>(group);
+    if (group < 0 || at >= groups.size() || !groups[at]) {
+        fail(std::string(field) + groupText(group) + " are missing");
+    }
+    return *groups[at];
+}
+
+template <class Arrays>
+const Arrays& PostDataView::equalArrays(const Arrays& arrays, int group, int minCount, const char* field) const
+{
+    if (arrays.size() < static_cast<std::size_t>(minCount)) {
+        fail(std::string(field) + groupText(group) + " have " + std::to_string(arrays.size()) + " arrays, not " +
+             std::to_string(minCount));
+    }
+    for (const auto& array : arrays) {
+        if (array.size() != arrays.front().size()) {
+            fail(std::string(field) + groupText(group) + " have arrays of different length");
+        }
+    }
+    return arrays;
+}
+
+double PostDataView::limit(const std::vector<boost::shared_ptr<std::vector<double>>>& limits, int group, int role,
+                           const char* field) const
+{
+    const std::size_t index = filledIndex(role);
+    const std::vector<double>& values = entry(limits, group, field);
+    if (index >= values.size()) {
+        fail(roleText(role) + groupText(group) + " names entry " + std::to_string(index) + " of " +
+             std::to_string(values.size()) + " " + field);
+    }
+    return values[index];
+}
+
+int PostDataView::countOf(std::size_t size, int group, const char* field) const
+{
+    if (size > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+        fail(std::string(field) + groupText(group) + " are more than a buffer can count");
+    }
+    return static_cast<int>(size);
+}
+
+void PostDataView::fail(const std::string& text) const
+{
+    throw std::invalid_argument(std::string(m_plot) + ": " + text + ".");
+}
+
+} // namespace vxdatacarrier
