@@ -1,0 +1,117 @@
+#include "graphics3d/scenegraph/scenegraphnode.h"
+
+#include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/foundation/errorlog.h"
+#include "graphics3d/scenegraph/scenegraphparent.h"
+
+#include <utility>
+
+namespace vxgraphics3d {
+
+const BoundingBox SceneGraphNode::c_emptyBox;
+int SceneGraphNode::m_lastUniqueNodeId = 0;
+
+SceneGraphNode::SceneGraphNode(NodeType type) : m_type(type)
+{
+    raiseChange(m_lastUniqueNodeId);
+    m_nodeId = m_lastUniqueNodeId;
+}
+
+SceneGraphNode::~SceneGraphNode() = default;
+
+void SceneGraphNode::setParent(boost::weak_ptr<SceneGraphParent> parent, int childId)
+{
+    const boost::shared_ptr<SceneGraphParent> newParent = parent.lock();
+    if (newParent) {
+        logInfo("Connecting node as child %d to parent (node %d)", childId, newParent->getNodeId());
+    }
+    if (const auto oldParent = getParent()) {
+        --oldParent->m_numAnswering;
+    }
+    m_parent = std::move(parent);
+    m_childId = childId;
+    if (newParent) {
+        ++newParent->m_numAnswering;
+    }
+    updateNodeSnapVertices();
+    markChanged();
+}
+
+void SceneGraphNode::removeParent()
+{
+    if (const auto parent = getParent()) {
+        removeNodeSnapVertices();
+        --parent->m_numAnswering;
+    }
+    m_parent.reset();
+    m_childId = 0;
+    markChanged();
+}
+
+void SceneGraphNode::disconnectFromParent()
+{
+    if (const auto parent = getParent()) {
+        logInfo("Disconnecting child node %d from parent (node %d)", m_childId, parent->getNodeId());
+        parent->removeChild(m_childId);
+    }
+}
+
+void SceneGraphNode::markChanged()
+{
+    raiseChange(m_changeId);
+    if (const auto parent = getParent()) {
+        parent->markChildChanged();
+    }
+}
+
+void SceneGraphNode::setActive(bool active)
+{
+    if (active != m_active) {
+        m_active = active;
+        updateBoxesAbove();
+    }
+}
+
+void SceneGraphNode::setBoundingBox(const BoundingBox& box)
+{
+    if (!(box == m_boundingBox)) {
+        m_boundingBox = box;
+        updateBoxesAbove();
+    }
+}
+
+/// Each parent has its box calculated as if by calculateBoundingBox(). That this goes on in a loop and not from parent
+/// to parent lets a tree be deeper than the stack.
+void SceneGraphNode::updateBoxesAbove()
+{
+    for (auto parent = getParent(); parent; parent = parent->getParent()) {
+        parent->m_numMerged = 0;
+        const BoundingBox box = parent->mergeChildBoxes();
+        if (box == parent->m_boundingBox) {
+            break;
+        }
+        parent->m_boundingBox = box;
+    }
+}
+
+void SceneGraphNode::updateNodeSnapVertices()
+{
+    if (const auto parent = getParent()) {
+        removeNodeSnapVertices();
+        parent->addSnapVertices(m_nodeId, m_snapVertices);
+    }
+}
+
+void SceneGraphNode::removeNodeSnapVertices()
+{
+    if (const auto parent = getParent()) {
+        parent->removeSnapVertices(m_nodeId);
+    }
+}
+
+const std::vector<SnapVertex>& SceneGraphNode::getSnapVertices() const
+{
+    return m_snapVertices;
+}
+
+} // namespace vxgraphics3d

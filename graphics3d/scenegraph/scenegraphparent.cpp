@@ -1,0 +1,198 @@
+#include "graphics3d/scenegraph/scenegraphparent.h"
+
+#include "graphics3d/foundation/changecounter.h"
+
+#include <stdexcept>
+#include <unordered_set>
+#include <utility>
+
+namespace vxgraphics3d {
+
+namespace {
+
+/// The node as a parent, or null for a leaf.
+const SceneGraphParent* asParent(const SceneGraphNode& node)
+{
+    const bool isParent = node.getType() == SceneGraphNode::NodeRoot || node.getType() == SceneGraphNode::NodeGroup;
+    return isParent ? dynamic_cast<const SceneGraphParent*>(&node) : nullptr;
+}
+
+} // namespace
+
+void SceneGraphParent::markChildChanged()
+{
+    raiseChange(m_childrenChangeId);
+    for (auto parent = getParent(); parent; parent = parent->getParent()) {
+        raiseChange(parent->m_childrenChangeId);
+    }
+}
+
+// --- ways down ------------------------------------------------------------------------------------------------------
+
+/// Visits this node and all below it, depth first, with a stack of its own.
+template <class Enter, class Leaf>
+void SceneGraphParent::walk(bool inside, Enter enter, Leaf leaf) const
+{
+    std::vector<OpenNode> open{{this, inside}};
+    while (!open.empty()) {
+        OpenNode next = open.back();
+        open.pop_back();
+        if (const SceneGraphParent* parent = asParent(*next.node)) {
+            if (enter(*parent, next.inside)) {
+                parent->pushChildren(open, next.inside);
+            }
+        } else {
+            leaf(*next.node, next.inside);
+        }
+    }
+}
+
+void SceneGraphParent::getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
+                                    PickedObjectCollection& result, bool inside) const
+{
+    walk(
+        inside,
+        [&](const SceneGraphParent& parent, bool& parentInside) { return parent.admitsPick(frustum, parentInside); },
+        [&](const SceneGraphNode& leaf, bool leafInside) { leaf.getSelection(frustum, settings, result, leafInside); });
+}
+
+void SceneGraphParent::getMarkedBoundingBox(BoundingBox& box, int include, int exclude) const
+{
+    walk(
+        false, [](const SceneGraphParent&, bool) { return true; },
+        [&](const SceneGraphNode& leaf, bool) { leaf.getMarkedBoundingBox(box, include, exclude); });
+}
+
+// --- ways up --------------------------------------------------------------------------------------------------------
+
+boost::shared_ptr<SceneGraphParent> SceneGraphParent::rootAbove() const
+{
+    auto parent = getParent();
+    while (parent && parent->getType() != NodeRoot) {
+        parent = parent->getParent();
+    }
+    return parent;
+}
+
+void SceneGraphParent::treeStructureChanged()
+{
+    if (const auto root = rootAbove()) {
+        root->treeStructureChanged();
+    }
+}
+
+void SceneGraphParent::calculateBoundingBox()
+{
+    setBoundingBox(mergeChildBoxes());
+}
+
+void SceneGraphParent::changeVertexState(int nodeId, int index, int state)
+{
+    if (const auto root = rootAbove()) {
+        root->changeVertexState(nodeId, index, state);
+    }
+}
+
+void SceneGraphParent::addSnapVertices(int nodeId, const std::vector<SnapVertex>& vertices)
+{
+    if (vertices.empty()) {
+        return;
+    }
+    if (const auto root = rootAbove()) {
+        root->addSnapVertices(nodeId, vertices);
+    }
+}
+
+void SceneGraphParent::removeSnapVertices(int nodeId)
+{
+    if (const auto root = rootAbove()) {
+        root->removeSnapVertices(nodeId);
+    }
+}
+
+// --- children -------------------------------------------------------------------------------------------------------
+
+boost::weak_ptr<SceneGraphParent> SceneGraphParent::weakSelf()
+{
+    if (m_self.expired()) {
+        throw boost::bad_weak_ptr();
+    }
+    return {m_self, this};
+}
+
+void SceneGraphParent::requireNewChild(const boost::shared_ptr<SceneGraphNode>& node) const
+{
+    if (!node) {
+        throw std::invalid_argument("The child is null.");
+    }
+    if (standsBelow(*node)) {
+        throw std::invalid_argument("Node " + std::to_string(node->getNodeId()) + " cannot be a child of node " +
+                                    std::to_string(getNodeId()) + ", which it is itself or which stands below it.");
+    }
+}
+
+bool SceneGraphParent::standsBelow(const SceneGraphNode& node) const
+{
+    if (&node == this) {
+        return true;
+    }
+    const SceneGraphParent* top = asParent(node);
+    if (top == nullptr || top->getNoOfChildren() == 0) {
+        return false;
+    }
+    boost::shared_ptr<SceneGraphParent> parent;
+    for (const SceneGraphNode* below = this; below->m_numHolders != 0; below = parent.get()) {
+        parent = below->getParent();
+        if (below->m_numHolders != 1 || !parent) {
+            // Other parents hold this node too, and the way up does not show them: look from above.
+            return contains(*top, *this);
+        }
+        if (parent.get() == &node) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool SceneGraphParent::contains(const SceneGraphParent& top, const SceneGraphNode& wanted)
+{
+    std::unordered_set<const SceneGraphNode*> seen;
+    bool found = false;
+    top.walk(
+        false,
+        [&](const SceneGraphParent& parent, bool) {
+            found = found || &parent == &wanted;
+            return !found && seen.insert(&parent).second;
+        },
+        [](const SceneGraphNode&, bool) {});
+    return found;
+}
+
+void SceneGraphParent::bury(boost::shared_ptr<SceneGraphNode>& child) noexcept
+{
+    letGo(*child);
+    if (asParent(*child) == nullptr) {
+        child.reset();
+        return;
+    }
+    // The first parent to die opens the list, and empties it; those that die meanwhile only add to it.
+    thread_local std::vector<boost::shared_ptr<SceneGraphNode>>* dying = nullptr;
+    if (dying != nullptr) {
+        try {
+            dying->push_back(std::move(child));
+        } catch (const std::bad_alloc&) {
+            child.reset();
+        }
+        return;
+    }
+    std::vector<boost::shared_ptr<SceneGraphNode>> list;
+    dying = &list;
+    child.reset();
+    while (!list.empty()) {
+        const auto next = std::move(list.back());
+        list.pop_back();
+    }
+    dying = nullptr;
+}
+
+} // namespace vxgraphics3d

@@ -1,0 +1,70 @@
+#include "graphics3d/scenegraph/scenegraphsinglechildparent.h"
+
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+namespace vxgraphics3d {
+
+SceneGraphSingleChildParent::~SceneGraphSingleChildParent()
+{
+    if (m_child) {
+        bury(m_child);
+    }
+}
+
+void SceneGraphSingleChildParent::setChild(boost::shared_ptr<SceneGraphNode> node)
+{
+    requireNewChild(node);
+    boost::weak_ptr<SceneGraphParent> parent = weakSelf();
+    takeChild();
+    m_child = std::move(node);
+    hold(*m_child);
+    m_child->setParent(std::move(parent), 0);
+    calculateBoundingBox();
+    treeStructureChanged();
+}
+
+void SceneGraphSingleChildParent::removeChild(int)
+{
+    takeChild();
+    calculateBoundingBox();
+    treeStructureChanged();
+}
+
+/// Detaches a present child and releases it.
+void SceneGraphSingleChildParent::takeChild()
+{
+    if (m_child) {
+        m_child->removeParent();
+        letGo(*m_child);
+        m_child.reset();
+    }
+}
+
+SceneGraphObject::ObjectType SceneGraphSingleChildParent::getChildObjectType(int) const
+{
+    return dynamic_cast<const SceneGraphObject&>(*find()).getObjectType();
+}
+
+const boost::shared_ptr<SceneGraphNode>& SceneGraphSingleChildParent::find() const
+{
+    if (!m_child) {
+        throw std::out_of_range("The node " + std::to_string(getNodeId()) + " has no child.");
+    }
+    return m_child;
+}
+
+BoundingBox SceneGraphSingleChildParent::mergeChildBoxes()
+{
+    return m_child ? m_child->getBoundingBox() : BoundingBox();
+}
+
+void SceneGraphSingleChildParent::pushChildren(std::vector<OpenNode>& open, bool inside) const
+{
+    if (m_child) {
+        open.push_back({m_child.get(), inside});
+    }
+}
+
+} // namespace vxgraphics3d
