@@ -24,6 +24,17 @@ constexpr const char* trueFalse(bool value)
     return value ? "true" : "false";
 }
 
+/// An argument as it goes to a function like `printf`: a float widens to double.
+template <class T>
+constexpr auto printable(T value)
+{
+    if constexpr (std::same_as<T, float>) {
+        return static_cast<double>(value);
+    } else {
+        return value;
+    }
+}
+
 namespace detail {
 
 /// Whether an argument of type T may stand for the conversion character c of a log text.

@@ -98,7 +98,8 @@ void logLine(ErrorLog::Level level, int subId, const vxbase::LogText<Args...>& t
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-security"
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
-        log->log(level, ErrorLog::ModuleID::graphics, subId, text.file, text.line, text.text, args...);
+        log->log(level, ErrorLog::ModuleID::graphics, subId, text.file, text.line, text.text,
+                 vxbase::printable(args)...);
 #pragma GCC diagnostic pop
     }
 }

@@ -29,8 +29,8 @@ TEST(ErrorLog, namesTheCallersFileAndLine)
 {
     CapturedLog log(Level::debug);
     const int line = __LINE__ + 1;
-    logWarning("odd %d of %s", 3, "shape");
-    EXPECT_EQ(log.text(), "warning\tgraphics:0\todd 3 of shape\terrorlog_test.cpp;" + std::to_string(line) + "\n");
+    logWarning("odd %d of %s, %f", 3, "shape", 0.5f);
+    EXPECT_EQ(log.text(), "warning\tgraphics:0\todd 3 of shape, 0.500000\terrorlog_test.cpp;" + std::to_string(line) + "\n");
 }
 
 TEST(ErrorLog, passesMessagesUpToTheLevelInForce)
