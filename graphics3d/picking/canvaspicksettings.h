@@ -1,0 +1,26 @@
+#pragma once
+
+namespace vxgraphics3d {
+
+/// What a pick on a canvas looks for. A plain pair that the renderer's canvas owns; Java sets it, the leaves of the
+/// scene tree read it.
+struct CanvasPickSettings {
+    /// Kinds of thing that a pick can find.
+    enum PickTarget : int {
+        PickNone = 0,
+        PickObject = 1,
+        PickSubdomain = 2,
+        PickSheet = 3,
+        PickLine = 4,
+        PickPoint = 5,
+        PickOther = 6
+    };
+
+    /// Bits of the mask: which kinds of geometry may answer for a draw object. Physics objects ignore it.
+    enum PickMask : int { PickMaskSheets = 1, PickMaskLines = 2, PickMaskPoints = 4 };
+
+    int pickTarget = PickNone;
+    int pickMask = 0;
+};
+
+} // namespace vxgraphics3d
