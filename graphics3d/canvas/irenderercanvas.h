@@ -1,0 +1,32 @@
+#pragma once
+
+#include "base/export.h"
+
+#include <boost/shared_ptr.hpp>
+
+namespace vxgraphics3d {
+
+class Canvas3dSettings;
+class CanvasPickSettings;
+class SceneSettings;
+struct ContextData;
+
+/// One view of a renderer, as far as Java peers connect to what it holds.
+///
+/// A renderer implements this for its native canvas and attaches the peer of that canvas as an `IRendererCanvas`; the
+/// peers of settings and of the context's data then connect through it. Each call gives a further owner of the object
+/// that the view uses itself, or null while it has none, which refuses the connection.
+class VX_API IRendererCanvas {
+public:
+    using PeerRoot = IRendererCanvas;
+
+    virtual ~IRendererCanvas();
+
+    virtual boost::shared_ptr<Canvas3dSettings> getCanvas3dSettings() = 0;
+    virtual boost::shared_ptr<CanvasPickSettings> getCanvasPickSettings() = 0;
+    /// The settings of the scene that the view shows.
+    virtual boost::shared_ptr<SceneSettings> getSceneSettings() = 0;
+    virtual boost::shared_ptr<ContextData> getContextData() = 0;
+};
+
+} // namespace vxgraphics3d

@@ -1,0 +1,195 @@
+#pragma once
+
+#include "base/export.h"
+#include "graphics3d/foundation/changeablesetting.h"
+#include "graphics3d/settings/fontsetting.h"
+#include "graphics3d/settings/renderquality.h"
+#include "graphics3d/settings/textitem.h"
+
+#include <boost/shared_ptr.hpp>
+
+namespace vxgraphics3d {
+
+class MarkingSetups;
+class RendererInfo;
+
+/// What holds for all canvases of the process: rendering quality, picking, how the mouse drives the cameras, default
+/// fonts, number precisions and the marking tables.
+///
+/// One object, made at the first `getInstance()` and kept until the process ends. Canvas, scene and hardcopy settings
+/// take their first fonts and resolution from it, cameras ask it for their behaviour, speeds and precisions serve the
+/// renderer and Java. Values are stored as they come, without a check of their range. Only the setters that say so
+/// raise the change number, and those raise it always.
+class VX_API Canvas3dGlobalSettings : public ChangeableSetting {
+public:
+    using TextItem = vxgraphics3d::TextItem;
+
+    /// How a camera adapts to a render area of another shape. `ResizeFill` and `ResizeFit` say what a 3D camera does; a
+    /// 2D camera fits with the first and fills with the second.
+    enum ResizeBehaviour : int {
+        ResizeWidth = 0,  ///< the width of the view stays, its height follows
+        ResizeHeight = 1, ///< the height of the view stays, its width follows
+        ResizeFill = 2,   ///< the view fills the area and loses what lies outside
+        ResizeFit = 3,    ///< the whole view stays visible
+        ResizePixels = 4, ///< a pixel keeps its size in the world
+        ResizeKeep = 5,   ///< the view stays as it is, so the picture stretches
+    };
+
+    /// What a renderer leaves around the scene when it zooms to its extent.
+    enum ZoomToExtentBehaviour : int {
+        ZoomToExtentWithMargin = 0, ///< the margin set here
+        ZoomToExtentTight = 1,      ///< nothing
+    };
+
+    /// What dragging the mouse does, each in the terms of `ICameraActions`.
+    enum CameraMouseAction : int {
+        ActionOrbit = 0,      ///< turn the scene about the rotation point
+        ActionOrbitRoll = 1,  ///< turn the scene about the line of sight
+        ActionSceneMove = 2,  ///< move across the line to the rotation point
+        ActionSceneDolly = 3, ///< move along the line to the rotation point
+        ActionTurn = 4,       ///< turn the camera about itself
+        ActionRoll = 5,       ///< turn the camera about its line of sight
+        ActionMove = 6,       ///< move the camera sideways
+        ActionDolly = 7,      ///< move the camera forwards
+        ActionPan = 8,        ///< shift the picture
+        ActionZoom = 9,       ///< scale the picture
+        ActionNone = 10,
+    };
+
+    /// Mouse buttons are 1 to this.
+    static constexpr int c_numMouseButtons = 3;
+    /// Key masks are the sets of three keys, 0 to 7.
+    static constexpr int c_numKeyMasks = 8;
+
+    /// The settings of the process, made at the first call.
+    static Canvas3dGlobalSettings* getInstance();
+
+    Canvas3dGlobalSettings(const Canvas3dGlobalSettings&) = delete;
+    Canvas3dGlobalSettings& operator=(const Canvas3dGlobalSettings&) = delete;
+    ~Canvas3dGlobalSettings() override;
+
+    /// What the renderer can do; null until a renderer has said so.
+    static RendererInfo* getRendererInfo() { return m_rendererInfo.get(); }
+    /// Called by the renderer when it starts. `setAntiAliasing` needs it.
+    static void setRendererInfo(const boost::shared_ptr<RendererInfo>& info) { m_rendererInfo = info; }
+
+    // Rendering.
+
+    /// Dots per inch of the screen.
+    int getOnScreenResolution() const { return m_onScreenResolution; }
+    void setOnScreenResolution(int dpi) { m_onScreenResolution = dpi; }
+    bool isOpenGlDisplayListsUsed() const { return m_useOpenGlDisplayLists; }
+    /// Counts a change.
+    void setUseOpenGlDisplayLists(bool use);
+    bool isShadersUsed() const { return m_useShaders; }
+    void setUseShaders(bool use) { m_useShaders = use; }
+    RenderQuality getOnScreenRenderQuality() const { return m_onScreenRenderQuality; }
+    void setOnScreenRenderQuality(RenderQuality quality) { m_onScreenRenderQuality = quality; }
+    RenderQuality getOffScreenRenderQuality() const { return m_offScreenRenderQuality; }
+    void setOffScreenRenderQuality(RenderQuality quality) { m_offScreenRenderQuality = quality; }
+
+    /// Samples a pixel; 0 for no antialiasing.
+    int getMultisampleSetting() const { return m_multisampleSetting; }
+    /// Counts a change.
+    void setMultisampleSetting(int samples);
+    bool isAntiAliasing() const { return m_multisampleSetting > 0; }
+    /// Sets the first number of samples that the renderer offers, or 0 to switch antialiasing off or if the renderer
+    /// offers none or is not known. Counts a change.
+    void setAntiAliasing(bool on);
+
+    // Picking.
+
+    bool isPBufferUsedForPicking() const { return m_usePBufferForPicking; }
+    void setUsePBufferForPicking(bool use) { m_usePBufferForPicking = use; }
+    /// How far from the pointer a part may lie and still be picked, in pixels.
+    int getPickingTolerance() const { return m_pickingTolerance; }
+    void setPickingTolerance(int pixels) { m_pickingTolerance = pixels; }
+
+    // Cameras.
+
+    ResizeBehaviour getResizeBehaviour() const { return m_resizeBehaviour; }
+    /// Counts a change.
+    void setResizeBehaviour(ResizeBehaviour behaviour);
+    ZoomToExtentBehaviour getZoomToExtentBehaviour() const { return m_zoomToExtentBehaviour; }
+    void setZoomToExtentBehaviour(ZoomToExtentBehaviour behaviour) { m_zoomToExtentBehaviour = behaviour; }
+    /// As a fraction of the extent.
+    float getZoomToExtentMargin() const { return m_zoomToExtentMargin; }
+    void setZoomToExtentMargin(float margin) { m_zoomToExtentMargin = margin; }
+
+    /// Radians a pixel.
+    float getCameraMouseOrbitSpeed() const { return m_cameraMouseOrbitSpeed; }
+    void setCameraMouseOrbitSpeed(float speed) { m_cameraMouseOrbitSpeed = speed; }
+    /// Fraction of the scene's size a pixel.
+    float getCameraMouseDollySpeed() const { return m_cameraMouseDollySpeed; }
+    void setCameraMouseDollySpeed(float speed) { m_cameraMouseDollySpeed = speed; }
+    /// Pixels for a zoom by one step.
+    float getCameraMouseZoomSpeed() const { return m_cameraMouseZoomSpeed; }
+    void setCameraMouseZoomSpeed(float speed) { m_cameraMouseZoomSpeed = speed; }
+
+    // The table of mouse actions: a row for each button and a column for each set of keys held down with it.
+
+    /// The action of a button, 1 to 3, under a key mask, of which the low three bits count. Other buttons have none.
+    CameraMouseAction getCameraMouseAction(int button, int mask) const;
+    /// Sets the action of a button, 1 to 3, under a key mask, 0 to 7.
+    /// @return false if there is no such button or mask; then nothing changes
+    bool setCameraMouseAction(int button, int mask, CameraMouseAction action);
+    /// Leaves no action anywhere.
+    void resetCameraMouseActions();
+    void setDefaultCameraMouseActions();
+    /// Whether a button has an action under one of the key masks 0 to 6.
+    bool isButtonForMouseAction(int button, CameraMouseAction action) const;
+
+    // Texts.
+
+    /// The font that new canvases and scenes take for a kind of text.
+    /// @throws std::out_of_range if there is no such kind
+    const FontSetting& getFont(TextItem item) const;
+    FontSetting& font(TextItem item);
+
+    // Significant digits of the numbers in a picture.
+
+    int getLegendTickPrecision() const { return m_legendTickPrecision; }
+    void setLegendTickPrecision(int digits) { m_legendTickPrecision = digits; }
+    int getLegendMinMaxPrecision() const { return m_legendMinMaxPrecision; }
+    void setLegendMinMaxPrecision(int digits) { m_legendMinMaxPrecision = digits; }
+    int getGridbox2dTickPrecision() const { return m_gridbox2dTickPrecision; }
+    void setGridbox2dTickPrecision(int digits) { m_gridbox2dTickPrecision = digits; }
+    int getGridbox3dTickPrecision() const { return m_gridbox3dTickPrecision; }
+    void setGridbox3dTickPrecision(int digits) { m_gridbox3dTickPrecision = digits; }
+
+    // Marking.
+
+    const MarkingSetups& getMarkingSetups() const { return *m_markingSetups; }
+    const boost::shared_ptr<MarkingSetups>& getMarkingSetupsPtr() const { return m_markingSetups; }
+
+protected:
+    Canvas3dGlobalSettings();
+
+private:
+    static boost::shared_ptr<Canvas3dGlobalSettings> m_instance;
+    static boost::shared_ptr<RendererInfo> m_rendererInfo;
+
+    int m_onScreenResolution = 72;
+    bool m_useOpenGlDisplayLists = true;
+    bool m_usePBufferForPicking = true;
+    int m_multisampleSetting = 0;
+    bool m_useShaders = false;
+    int m_pickingTolerance = 5;
+    ResizeBehaviour m_resizeBehaviour = ResizeFit;
+    ZoomToExtentBehaviour m_zoomToExtentBehaviour = ZoomToExtentWithMargin;
+    float m_zoomToExtentMargin = 0.05f;
+    float m_cameraMouseOrbitSpeed = 0.01f;
+    float m_cameraMouseDollySpeed = 0.02f;
+    float m_cameraMouseZoomSpeed = 200.0f;
+    CameraMouseAction m_cameraMouseActions[c_numMouseButtons][c_numKeyMasks];
+    boost::shared_ptr<MarkingSetups> m_markingSetups;
+    RenderQuality m_onScreenRenderQuality = QualityNormal;
+    RenderQuality m_offScreenRenderQuality = QualityBest;
+    FontSetting m_fonts[c_numTextItems];
+    int m_legendTickPrecision = 5;
+    int m_legendMinMaxPrecision = 5;
+    int m_gridbox2dTickPrecision = 4;
+    int m_gridbox3dTickPrecision = 3;
+};
+
+} // namespace vxgraphics3d

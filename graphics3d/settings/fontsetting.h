@@ -1,0 +1,51 @@
+#pragma once
+
+#include "base/export.h"
+#include "graphics3d/foundation/changecounter.h"
+
+#include <string>
+
+namespace vxgraphics3d {
+
+/// The font of one kind of text: its name, its size, and a count of changes by which a renderer sees that it has to
+/// lay the text out anew.
+///
+/// The count belongs to the object and never travels with the value.
+class VX_API FontSetting {
+public:
+    FontSetting() = default;
+    /// A new setting that has taken the other's font, so its count is 2.
+    FontSetting(const FontSetting& other) { *this = other; }
+    /// Takes the other's font and counts a change, also if the fonts were equal; assigned to itself it does nothing.
+    FontSetting& operator=(const FontSetting& other)
+    {
+        if (this != &other) {
+            m_name = other.m_name;
+            m_size = other.m_size;
+            raiseChange(m_changeCount);
+        }
+        return *this;
+    }
+
+    /// Sets the font and counts a change if name or size differ from the present ones.
+    void setFont(const std::string& name, int size)
+    {
+        if (name != m_name || size != m_size) {
+            m_name = name;
+            m_size = size;
+            raiseChange(m_changeCount);
+        }
+    }
+
+    int getChangeCount() const { return m_changeCount; }
+    const std::string& getName() const { return m_name; }
+    /// In points; -1 until a font is set.
+    int getSize() const { return m_size; }
+
+private:
+    int m_changeCount = 1;
+    std::string m_name;
+    int m_size = -1;
+};
+
+} // namespace vxgraphics3d

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace vxgraphics3d {
+
+/// How much a renderer spends on a picture.
+enum RenderQuality : int { QualityFast = 0, QualityNormal = 1, QualityBest = 2 };
+
+} // namespace vxgraphics3d

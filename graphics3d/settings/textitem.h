@@ -1,0 +1,19 @@
+#pragma once
+
+namespace vxgraphics3d {
+
+/// The kinds of text that a picture holds, each with a font of its own.
+enum TextItem : int {
+    TextLabel = 0,           ///< labels of points and parts
+    TextAxisTitle = 1,       ///< titles of axes
+    TextAxisTick = 2,        ///< numbers along axes and grid boxes
+    TextLegendTitle = 3,     ///< titles of legends, names in line legends
+    TextLegendTick = 4,      ///< numbers beside legends
+    TextTitle = 5,           ///< the title of the scene
+    TextAxisOrientation = 6, ///< letters of the axis orientation indicator
+};
+
+/// The number of kinds of text.
+inline constexpr int c_numTextItems = 7;
+
+} // namespace vxgraphics3d
