@@ -1,9 +1,10 @@
 #include "graphics3d/scenegraph/scenegraphgroup.h"
 
+#include "graphics3d/picking/canvaspicksettings.h"
+#include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/picking/selectionfrustrum.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "tests/support/capturedlog.h"
-#include "tests/support/handedthrough.h"
 #include "tests/support/testleaf.h"
 
 #include <gtest/gtest.h>
@@ -311,12 +312,12 @@ protected:
     Picks pick(const SceneGraphNode& node, bool inside = false)
     {
         picks.clear();
-        node.getSelection(frustumOverTen(), handedThrough<CanvasPickSettings>(),
-                          handedThrough<PickedObjectCollection>(), inside);
+        node.getSelection(frustumOverTen(), CanvasPickSettings(), result, inside);
         return picks;
     }
 
     Picks picks;
+    PickedObjectCollection result;
     boost::shared_ptr<SceneGraphRoot> root = SceneGraphRoot::create();
     boost::shared_ptr<SceneGraphGroup> top = SceneGraphGroup::create();
 };
