@@ -1,0 +1,95 @@
+package com.vexane.producer;
+
+import java.util.Objects;
+
+/**
+ * What a data array is to a plot. A record says for each role which of its data arrays plays it; one array may play
+ * several.
+ *
+ * <p>A principal plot uses the nine direction roles and the three of the vector in its own way, which
+ * {@link #principalLength} and {@link #principalDirection} spell.
+ */
+public enum DataRole {
+    /** The values that the colour table shows. */
+    COLOR(0),
+    /** Heights that raise a plot in the plane, and the y values of a graph. */
+    HEIGHT(4),
+    /** Radii of spheres and tubes, widths of ribbons. */
+    RADIUS(5),
+    /** First component of a vector field. */
+    VECTOR_X(7),
+    /** Second component of a vector field. */
+    VECTOR_Y(8),
+    /** Third component of a vector field; arrows without it lie in the plane. */
+    VECTOR_Z(9),
+    /** First component of the first direction, which a ribbon follows. */
+    FIRST_DIRECTION_X(10),
+    /** Second component of the first direction. */
+    FIRST_DIRECTION_Y(11),
+    /** Third component of the first direction. */
+    FIRST_DIRECTION_Z(12),
+    /** First component of the second direction. */
+    SECOND_DIRECTION_X(13),
+    /** Second component of the second direction. */
+    SECOND_DIRECTION_Y(14),
+    /** Third component of the second direction. */
+    SECOND_DIRECTION_Z(15),
+    /** First component of the third direction. */
+    THIRD_DIRECTION_X(16),
+    /** Second component of the third direction. */
+    THIRD_DIRECTION_Y(17),
+    /** Third component of the third direction. */
+    THIRD_DIRECTION_Z(18),
+    /** The levels of iso surfaces and contours: one value per point, or one for the whole group. */
+    ISO_LEVEL(19);
+
+    /** How many numbers a record keeps for roles; some have no meaning to any plot. */
+    static final int COUNT = 22;
+
+    private static final DataRole[] BY_NUMBER = new DataRole[COUNT];
+
+    static {
+        for (DataRole role : values()) {
+            BY_NUMBER[role.number] = role;
+        }
+    }
+
+    private final int number;
+
+    DataRole(int number) {
+        this.number = number;
+    }
+
+    /**
+     * The number by which native code knows the role.
+     *
+     * @return 0 to 21
+     */
+    public int number() {
+        return number;
+    }
+
+    /**
+     * The role of an axis' length in a principal plot.
+     *
+     * @param axis 0 to 2
+     * @return the role
+     * @throws IndexOutOfBoundsException if there is no such axis
+     */
+    public static DataRole principalLength(int axis) {
+        return BY_NUMBER[VECTOR_X.number + Objects.checkIndex(axis, 3)];
+    }
+
+    /**
+     * The role of a component of an axis' direction in a principal plot.
+     *
+     * @param axis 0 to 2
+     * @param component 0 for x, 1 for y, 2 for z
+     * @return the role
+     * @throws IndexOutOfBoundsException if there is no such axis or component
+     */
+    public static DataRole principalDirection(int axis, int component) {
+        // The x components of all three axes stand side by side, then those of y, then those of z.
+        return BY_NUMBER[FIRST_DIRECTION_X.number + 3 * Objects.checkIndex(component, 3) + Objects.checkIndex(axis, 3)];
+    }
+}

@@ -1,0 +1,171 @@
+#include "datacarrier/postdataobject.h"
+#include "producer/javavalues.h"
+#include "producer/recordlimits.h"
+
+#include "base/java/conversions.h"
+#include "base/java/nativeframe.h"
+#include "base/java/peerhandle.h"
+
+#include <boost/make_shared.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <utility>
+
+#include "com_vexane_producer_PostDataObject.h"
+
+using namespace vxbase;
+using vxdatacarrier::PostDataObject;
+using namespace vxproducer;
+
+#define VX_NATIVE(result, method) extern "C" JNIEXPORT result JNICALL Java_com_vexane_producer_PostDataObject_##method
+
+namespace {
+
+template <class Arrays>
+boost::shared_ptr<Arrays> shared(Arrays arrays)
+{
+    return boost::make_shared<Arrays>(std::move(arrays));
+}
+
+/// The entry of a group in one of a record's fields; nothing if a reader left the field shorter than the groups.
+template <class Arrays>
+const Arrays& entry(const std::vector<boost::shared_ptr<Arrays>>& groups, jint group)
+{
+    static const Arrays none;
+    const auto at = static_cast<std::size_t>(group);
+    return at < groups.size() && groups[at] ? *groups[at] : none;
+}
+
+/// Copies a group and tests its indices before the record is touched.
+void addGroup(JNIEnv* env, PostDataObject& record, jobjectArray coordinates, jobjectArray elements, jobjectArray data,
+              const std::vector<double>& limits, jobjectArray normals, jobjectArray lineElements)
+{
+    const std::size_t group = record.m_coordinates.size();
+    const auto points = shared(copyRows<double>(env, coordinates));
+    const auto corners = shared(copyRows<int>(env, elements));
+    const auto ends = shared(copyRows<int>(env, lineElements));
+    const std::size_t numPoints = points->front().size();
+    requireInside(*corners, numPoints, "elements", group);
+    requireInside(*ends, numPoints, "lineElements", group);
+    const auto values = shared(copyRows<double>(env, data));
+    const auto minima = shared(std::vector<double>(values->size()));
+    const auto maxima = shared(std::vector<double>(values->size()));
+    for (std::size_t i = 0; i < values->size(); ++i) {
+        const ValueRange given = {limits.at(2 * i), limits.at(2 * i + 1)};
+        const ValueRange range = std::isnan(given.min) ? finiteRange((*values)[i]) : given;
+        (*minima)[i] = range.min;
+        (*maxima)[i] = range.max;
+    }
+    const auto directions = shared(copyRows<float>(env, normals));
+    record.m_coordinates.push_back(points);
+    record.m_elements.push_back(corners);
+    record.m_data.push_back(values);
+    record.m_dataMax.push_back(maxima);
+    record.m_dataMin.push_back(minima);
+    record.m_normals.push_back(directions);
+    record.m_lineElements.push_back(ends);
+}
+
+} // namespace
+
+VX_NATIVE(void, createNative)(JNIEnv* env, jclass, jobject self, jint plotKind, jintArray dataIndex)
+{
+    guarded(env, [&] {
+        const auto record = boost::make_shared<PostDataObject>();
+        record->m_plotKind = plotKind;
+        const auto arrays = fromJava<std::vector<int>>(env, dataIndex);
+        std::copy_n(arrays.begin(), std::min(arrays.size(), record->m_dataIndex.size()), record->m_dataIndex.begin());
+        attach(env, self, record);
+    });
+}
+
+VX_NATIVE(void, cleanupNative)(JNIEnv* env, jclass, jobject self)
+{
+    guarded(env, [&] { release(env, self); });
+}
+
+VX_NATIVE(void, addGroup)
+(JNIEnv* env, jclass, jobject self, jobjectArray coordinates, jobjectArray elements, jobjectArray data,
+ jdoubleArray limits, jobjectArray normals, jobjectArray lineElements)
+{
+    guarded(env, [&] {
+        addGroup(env, peer<PostDataObject>(env, self), coordinates, elements, data,
+                 fromJava<std::vector<double>>(env, limits), normals, lineElements);
+    });
+}
+
+VX_NATIVE(void, setBounds)(JNIEnv* env, jclass, jobject self, jobjectArray bounds)
+{
+    guarded(env, [&] {
+        peer<PostDataObject>(env, self).m_bounds = shared(fromJava<PostDataObject::DoubleArrays>(env, bounds));
+    });
+}
+
+VX_NATIVE(void, computeBounds)(JNIEnv* env, jclass, jobject self)
+{
+    guarded(env, [&] {
+        auto& record = peer<PostDataObject>(env, self);
+        record.m_bounds = shared(boundsOf(record));
+    });
+}
+
+VX_NATIVE(jint, getPlotKind)(JNIEnv* env, jclass, jobject self)
+{
+    return guarded(env, [&]() -> jint { return peer<PostDataObject>(env, self).m_plotKind; });
+}
+
+VX_NATIVE(jint, getDataIndex)(JNIEnv* env, jclass, jobject self, jint role)
+{
+    return guarded(
+        env, [&]() -> jint { return peer<PostDataObject>(env, self).m_dataIndex.at(static_cast<std::size_t>(role)); });
+}
+
+VX_NATIVE(jint, getNumGroups)(JNIEnv* env, jclass, jobject self)
+{
+    return guarded(env, [&] { return static_cast<jint>(peer<PostDataObject>(env, self).m_coordinates.size()); });
+}
+
+VX_NATIVE(jobjectArray, getCoordinates)(JNIEnv* env, jclass, jobject self, jint group)
+{
+    return guarded(env, [&] { return toJavaRows(env, entry(peer<PostDataObject>(env, self).m_coordinates, group)); });
+}
+
+VX_NATIVE(jobjectArray, getElements)(JNIEnv* env, jclass, jobject self, jint group)
+{
+    return guarded(env, [&] { return toJavaRows(env, entry(peer<PostDataObject>(env, self).m_elements, group)); });
+}
+
+VX_NATIVE(jobjectArray, getData)(JNIEnv* env, jclass, jobject self, jint group)
+{
+    return guarded(env, [&] { return toJavaRows(env, entry(peer<PostDataObject>(env, self).m_data, group)); });
+}
+
+VX_NATIVE(jdoubleArray, getDataMin)(JNIEnv* env, jclass, jobject self, jint group)
+{
+    return guarded(env, [&] { return toJavaNew(env, entry(peer<PostDataObject>(env, self).m_dataMin, group)); });
+}
+
+VX_NATIVE(jdoubleArray, getDataMax)(JNIEnv* env, jclass, jobject self, jint group)
+{
+    return guarded(env, [&] { return toJavaNew(env, entry(peer<PostDataObject>(env, self).m_dataMax, group)); });
+}
+
+VX_NATIVE(jobjectArray, getNormals)(JNIEnv* env, jclass, jobject self, jint group)
+{
+    return guarded(env, [&] { return toJavaRows(env, entry(peer<PostDataObject>(env, self).m_normals, group)); });
+}
+
+VX_NATIVE(jobjectArray, getLineElements)(JNIEnv* env, jclass, jobject self, jint group)
+{
+    return guarded(env, [&] { return toJavaRows(env, entry(peer<PostDataObject>(env, self).m_lineElements, group)); });
+}
+
+VX_NATIVE(jobjectArray, getBounds)(JNIEnv* env, jclass, jobject self)
+{
+    return guarded(env, [&] {
+        const auto& bounds = peer<PostDataObject>(env, self).m_bounds;
+        return toJavaRows(env, bounds ? *bounds : PostDataObject::DoubleArrays());
+    });
+}
