@@ -11,10 +11,10 @@
 
 namespace vxgraphics3d {
 
-class CanvasPickSettings;
 class PickedObjectCollection;
 class SceneGraphParent;
 class SelectionFrustrum;
+struct CanvasPickSettings;
 
 /// A node of the scene tree: a parent, an object to show, or a group of plots.
 ///
