@@ -1,0 +1,27 @@
+#pragma once
+
+#include "graphics3d/plots/scalar/scenegraphplotsurface.h"
+
+namespace vxgraphics3d {
+
+/// A field on a flat domain: flat in the plane, or raised by the record's height data into a height map.
+///
+/// Reads colour data and, if there are any, height data of group 0. Heights are scaled once, at the fill, to a range as
+/// large as the plot is wide; the plot's own height scale stays with the renderer and comes on top. Normals of a height
+/// map are computed here, where each triangle counts with its area; a point without a triangle has the normal
+/// (0, 0, 0).
+class VX_API SceneGraphPlotSurface2d : public SceneGraphPlotSurface {
+public:
+    explicit SceneGraphPlotSurface2d(int id);
+    ~SceneGraphPlotSurface2d() override;
+
+protected:
+    void fillPlotImpl(const vxdatacarrier::PostDataObject& record) override;
+    void checkData(const vxdatacarrier::PostDataView& data) const override;
+
+private:
+    void fillFlat(const vxdatacarrier::PostDataView& data);
+    void fillRaised(const vxdatacarrier::PostDataView& data);
+};
+
+} // namespace vxgraphics3d

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "graphics3d/plots/scalar/scenegraphplotsurface.h"
+
+namespace vxgraphics3d {
+
+/// A field on a surface in space, with the normals of the record. Reads colour data of group 0. A record of
+/// two-dimensional surface data is drawn in the plane z = 0 and needs no normals.
+class VX_API SceneGraphPlotSurface3d : public SceneGraphPlotSurface {
+public:
+    explicit SceneGraphPlotSurface3d(int id);
+    ~SceneGraphPlotSurface3d() override;
+
+protected:
+    void fillPlotImpl(const vxdatacarrier::PostDataObject& record) override;
+    void checkData(const vxdatacarrier::PostDataView& data) const override;
+};
+
+} // namespace vxgraphics3d

@@ -1,0 +1,281 @@
+#pragma once
+
+#include "base/export.h"
+#include "base/ustring.h"
+#include "graphics3d/foundation/boundingbox.h"
+#include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/foundation/color.h"
+#include "graphics3d/foundation/textformat.h"
+
+#include <boost/enable_shared_from_this.hpp>
+#include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
+
+#include <string>
+#include <vector>
+
+namespace vxdatacarrier {
+class PostDataObject;
+class PostDataView;
+} // namespace vxdatacarrier
+
+namespace vxgraphics3d {
+
+class ColorTable;
+class SceneGraphPlotGroup;
+class TextureHandleStack;
+class VertexBufferTex;
+
+/// A plot: one record of post-processing results, turned into vertex and index buffers with a colour scale and a
+/// legend.
+///
+/// Vertices carry a texture coordinate that a fill computes once from the value range of the data. Legend limits, value
+/// restriction, symmetry and direction of the colour table are a handful of numbers beside the buffers, which a
+/// renderer combines when it samples the colour table: changing them rebuilds no buffer.
+///
+/// A plot is no node of the scene. It belongs to at most one SceneGraphPlotGroup, from which it takes the handles for
+/// its textures; it is shared with its Java peers, and dies with the last owner. It may be filled any number of times.
+/// Three change numbers tell a renderer what moved: geometry (buffers), colour (uniform colour, colour table, its
+/// direction) and texture (the numbers of legend and restriction). They only ever count, and may be compared for
+/// equality alone.
+class VX_API SceneGraphPlot : public boost::enable_shared_from_this<SceneGraphPlot> {
+public:
+    /// The kinds of plots. The numbers are fixed.
+    enum class PlotType : int {
+        arrow2d = 0,
+        arrow3d = 1,
+        contour = 2,
+        coordSys2d = 3,
+        coordSys3d = 4,
+        edge2d = 6,
+        edge3d = 7,
+        graph = 8,
+        interactive = 9,
+        isoSurface3d = 10,
+        mesh2d = 11,
+        mesh3d = 12,
+        pointLabel2d = 13,
+        pointLabel3d = 14,
+        principal2d = 15,
+        principal3d = 16,
+        ribbon3d = 17,
+        slice3d = 18,
+        sphere2d = 19,
+        sphere3d = 20,
+        surface2d = 21,
+        surface3d = 22,
+        tube2d = 23,
+        tube3d = 24,
+        domain3d = 25
+    };
+
+    /// What the value range of a fill came from.
+    enum class ValueSource : int { none = 0, colorData = 1, isoData = 2 };
+
+    using PeerRoot = SceneGraphPlot;
+
+    SceneGraphPlot(const SceneGraphPlot&) = delete;
+    SceneGraphPlot& operator=(const SceneGraphPlot&) = delete;
+
+    // Content
+
+    /// Builds the buffers from a record, of which nothing is kept. The value range becomes that of the colour data, or
+    /// else of the iso level data, or else 0 to 1; legend limits follow it and a restriction falls away, while colours,
+    /// symmetry, height scale and plane offset stay.
+    /// @throws std::invalid_argument if the record lacks what the plot reads; then nothing has changed. After any other
+    ///         failure the buffers may be empty, which counts as a change of geometry.
+    void fillPlot(const vxdatacarrier::PostDataObject& data);
+
+    /// Stores the box, in scene units, and lets the plot group renew its own; an equal box changes nothing.
+    void setBoundingBox(const BoundingBox& box);
+    /// Stores the box of a record's bounds; an axis that the bounds lack ranges from 0 to 0.
+    void setBoundingBox(const vxdatacarrier::PostDataObject& data);
+    /// The box while the plot is active, otherwise an empty one.
+    const BoundingBox& getBoundingBox() const;
+
+    // Legend and value restriction
+
+    /// Sets the data values at the ends of the legend, and ends automatic limits. With a symmetric colour table the
+    /// limits in force are plus and minus the larger magnitude of the two.
+    void setLegendLimits(double min, double max) { setLegendLimitsInternal(min, max); }
+    /// Lets the legend show the whole value range. The limits that getLegendMin() and getLegendMax() report stay as
+    /// they are until the next fill or resetValueRestrictions().
+    void setAutoLegendLimits();
+    void setLegendLimitsInternal(double min, double max);
+
+    /// Hides what lies outside the limits, which are clamped to the value range. Constant data are hidden as a whole if
+    /// their value lies outside.
+    void setValueRestrictions(double min, double max);
+    void resetValueRestrictions();
+
+    /// Whether the legend's limits lie symmetrically around 0.
+    void setSymmetricColorTable(bool symmetric);
+    /// Whether the colour table runs backwards.
+    void setReverseColorTable(bool reverse);
+    /// Whether the plot's legend is shown. Counts as no change.
+    void setShowLegend(bool show) { m_showLegend = show; }
+
+    // Colour
+
+    /// Takes the colour table of that name; if there is none yet, it is made from the rows first.
+    /// @param colors one row per colour: red, green, blue from 0 to 1 and, if present, the relative width of the colour
+    ///               (1 by default); ignored if the name is known
+    /// @param continuous whether colours of a new table run into each other
+    /// @return whether the plot has the table
+    /// @throws std::invalid_argument if a new table has no rows, a row shorter than 3, or no width at all; then nothing
+    ///         is registered
+    bool setColorTable(const std::string& name, const std::vector<std::vector<double>>& colors, bool continuous);
+    /// The colour table, or null for a plot of one uniform colour.
+    boost::shared_ptr<ColorTable> getColorTable() const { return m_colorTable.lock(); }
+    /// The name of the colour table; empty without one.
+    const std::string& getColorTableName() const;
+    bool hasColorTable() const { return !m_colorTable.expired(); }
+
+    /// Gives the plot one uniform colour in place of its colour table.
+    void setColor(const Color& color);
+    /// Sets the specular exponent, clamped to 1 to 128.
+    void setShininess(float shininess);
+
+    // Height, title, visibility
+
+    /// Sets the factor by which a renderer stretches the plot in z about its plane; a factor not above 0 is ignored. No
+    /// buffer and no change number moves, the box follows.
+    void setHeightScale(float scale);
+    /// Sets how far, in scene units, a renderer moves the plot along z. No buffer and no change number moves, the box
+    /// follows.
+    void setPlotPlaneOffset(float offset);
+
+    /// Sets the plot's part of the group's title; plain text is escaped on the way in.
+    void setTitle(TextFormat format, const vxbase::UString& text);
+
+    /// An inactive plot is not drawn and counts as empty in its group's box, title and legends.
+    void setActive(bool active);
+
+    // Plot group; called by the group
+
+    /// Takes the plot's texture handles from the group's stack and remembers the group.
+    /// @return false if the stack ran dry: the plot then has no new group
+    bool setPlotGroup(boost::shared_ptr<SceneGraphPlotGroup> group, TextureHandleStack& stack);
+    /// Gives the texture handles back and forgets the group.
+    void removeFromPlotGroup(TextureHandleStack& stack);
+
+    // Read access
+
+    int getGeometryChangeId() const { return m_geometryChangeId; }
+    int getColorChangeId() const { return m_colorChangeId; }
+    int getTextureChangeId() const { return m_textureChangeId; }
+    PlotType getType() const { return m_type; }
+    /// The number given by the creator, under which the plot stands in its group.
+    int getId() const { return m_id; }
+    double getValueMin() const { return m_valueMin; }
+    double getValueMax() const { return m_valueMax; }
+    /// Where the minimum of the values lies on the legend: 0 at its minimum, 1 at its maximum.
+    float getDataTexMin() const { return m_dataTexMin; }
+    float getDataTexMax() const { return m_dataTexMax; }
+    bool isConstantData() const { return m_constantData; }
+    double getRequestedLegendMin() const { return m_requestedLegendMin; }
+    double getRequestedLegendMax() const { return m_requestedLegendMax; }
+    double getLegendMin() const { return m_legendMin; }
+    double getLegendMax() const { return m_legendMax; }
+    bool isAutoLegendLimits() const { return m_autoLegendLimits; }
+    /// Where the legend begins in the colour table, from 0 to 1.
+    float getLegendTexMin() const { return m_legendTexMin; }
+    float getLegendTexMax() const { return m_legendTexMax; }
+    bool hasValueRestrictions() const { return m_hasValueRestrictions; }
+    double getValueRestrictionMin() const { return m_valueRestrictionMin; }
+    double getValueRestrictionMax() const { return m_valueRestrictionMax; }
+    /// The restricted range as texture coordinates of the vertices; equal ones (0 and 0) hide everything.
+    float getRestrictionTexMin() const { return m_restrictionTexMin; }
+    float getRestrictionTexMax() const { return m_restrictionTexMax; }
+    /// Whether a fill raised a two-dimensional plot by height data.
+    bool hasHeightData() const { return m_hasHeightData; }
+    float getHeightScale() const { return m_heightScale; }
+    float getPlotPlaneOffset() const { return m_plotPlaneOffset; }
+    /// The plot's group, or null.
+    boost::shared_ptr<SceneGraphPlotGroup> getPlotGroup() const { return m_plotGroup.lock(); }
+    bool isActive() const { return m_active; }
+    TextFormat getTitleFormat() const { return m_titleFormat; }
+    const vxbase::UString& getTitle() const { return m_title; }
+    const Color& getColor() const { return m_color; }
+    bool isShowLegend() const { return m_showLegend; }
+    bool isReverseColorTable() const { return m_reverseColorTable; }
+    bool isSymmetricColorTable() const { return m_symmetricColorTable; }
+    ValueSource getValueSource() const { return m_valueSource; }
+    float getShininess() const { return m_shininess; }
+
+    // What each kind of plot does its own way
+
+    virtual ~SceneGraphPlot();
+    /// Frees the buffers. Value range, legend and colours stay.
+    virtual void resetPlotData() = 0;
+    /// Whether there is something to draw.
+    virtual bool isValid() const = 0;
+    /// The renderer's handle for the plot's colour table texture number `index`; -1 while the plot has none.
+    virtual int getColorTableTextureHandle(int index) const = 0;
+
+protected:
+    SceneGraphPlot(PlotType type, int id);
+
+    /// Builds the buffers of a record that passed checkData().
+    virtual void fillPlotImpl(const vxdatacarrier::PostDataObject& data) = 0;
+    /// Takes the handles that the plot needs; false if the stack runs dry.
+    virtual bool setTextureHandles(TextureHandleStack& stack) = 0;
+    virtual void removeTextureHandles(TextureHandleStack& stack) = 0;
+    /// Fetches everything that the fill reads, so that a record which lacks some of it is refused with
+    /// std::invalid_argument before anything has changed. Costs nothing per point.
+    virtual void checkData(const vxdatacarrier::PostDataView& data) const;
+
+    /// The name of the plot's class, for messages.
+    const char* getTypeName() const;
+
+    // Services for fillPlotImpl()
+
+    /// The factor that gives heights of group 0, with 0 included, a range as large as the plot is wide on average.
+    /// @param min, max receive the limits of the height data, unscaled
+    void computeHeightScale(const vxdatacarrier::PostDataObject& data, double& min, double& max, double& scale) const;
+    /// Fills `vertices` with the points of one group and the texture coordinates of their colour data, 0 without any.
+    void allocateVertices(const vxdatacarrier::PostDataObject& data, VertexBufferTex& vertices, int group) const;
+    void markGeometryChanged() { raiseChange(m_geometryChangeId); }
+    void setHasHeightData(bool hasHeightData) { m_hasHeightData = hasHeightData; }
+
+private:
+    int m_geometryChangeId = 1;
+    int m_colorChangeId = 1;
+    int m_textureChangeId = 1;
+    PlotType m_type;
+    int m_id;
+    double m_valueMin = 0.0;
+    double m_valueMax = 1.0;
+    float m_dataTexMin = 0.0f;
+    float m_dataTexMax = 1.0f;
+    bool m_constantData = false;
+    double m_requestedLegendMin = 0.0;
+    double m_requestedLegendMax = 1.0;
+    double m_legendMin = 0.0;
+    double m_legendMax = 1.0;
+    bool m_autoLegendLimits = false;
+    float m_legendTexMin = 0.0f;
+    float m_legendTexMax = 1.0f;
+    bool m_hasValueRestrictions = false;
+    double m_valueRestrictionMin = 0.0;
+    double m_valueRestrictionMax = 1.0;
+    float m_restrictionTexMin = 0.0f;
+    float m_restrictionTexMax = 1.0f;
+    bool m_hasHeightData = false;
+    float m_heightScale = 1.0f;
+    float m_plotPlaneOffset = 0.0f;
+    boost::weak_ptr<SceneGraphPlotGroup> m_plotGroup;
+    bool m_active = true;
+    TextFormat m_titleFormat = TextFormat::plain;
+    vxbase::UString m_title;
+    boost::weak_ptr<ColorTable> m_colorTable;
+    Color m_color{255, 255, 255, 255};
+    bool m_showLegend = true;
+    bool m_reverseColorTable = false;
+    bool m_symmetricColorTable = false;
+    ValueSource m_valueSource = ValueSource::none;
+    float m_shininess = 64.0f;
+    BoundingBox m_boundingBox;
+};
+
+} // namespace vxgraphics3d

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "base/export.h"
+#include "base/ustring.h"
+#include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/foundation/textformat.h"
+#include "graphics3d/plots/texturehandlestack.h"
+#include "graphics3d/scenegraph/ilegendsource.h"
+#include "graphics3d/scenegraph/scenegraphnode.h"
+
+#include <boost/shared_ptr.hpp>
+
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace vxgraphics3d {
+
+class SceneGraphPlot;
+
+/// The node of the scene tree that holds plots, which are no nodes themselves.
+///
+/// It gives each plot its texture handles from a pool of 256, merges the boxes of its plots, builds the one title that
+/// stands over all of them, and answers for their legends. Made by create(); owned by its parent and its Java peers. A
+/// group that dies with plots in it leaves them without a group and with their handles.
+///
+/// The title change number counts whatever shows in title or legends, and may be compared for equality alone.
+class VX_API SceneGraphPlotGroup : public SceneGraphNode, public ILegendSource {
+public:
+    using PlotMap = std::map<int, boost::shared_ptr<SceneGraphPlot>>;
+
+    static boost::shared_ptr<SceneGraphPlotGroup> create();
+    ~SceneGraphPlotGroup() override;
+
+    // Plots
+
+    /// Takes a plot in under its own id, with texture handles from the pool. A plot that stands there already is
+    /// replaced without a call to it: its handles stay with it.
+    /// @return false if the pool ran dry: the group is then unchanged, and the plot keeps the handles it got
+    /// @throws std::invalid_argument without a plot
+    bool addPlot(boost::shared_ptr<SceneGraphPlot> plot);
+    /// Lets a plot go, which gives its handles back. An id that is not there is ignored.
+    void removePlot(int id);
+    void removeAllPlots();
+
+    bool doesPlotExist(int id) const { return m_plots.count(id) != 0; }
+    int getNoOfPlots() const { return static_cast<int>(m_plots.size()); }
+    /// The plot with an id.
+    /// @throws std::out_of_range if there is none
+    const SceneGraphPlot& getPlot(int id) const;
+    SceneGraphPlot& plot(int id);
+    boost::shared_ptr<SceneGraphPlot> plotPtr(int id);
+
+    /// Begin and end of the plots, by rising id.
+    std::pair<PlotMap::const_iterator, PlotMap::const_iterator> getPlots() const
+    {
+        return {m_plots.begin(), m_plots.end()};
+    }
+    std::pair<PlotMap::iterator, PlotMap::iterator> plots() { return {m_plots.begin(), m_plots.end()}; }
+
+    // Title and legends
+
+    /// Sets the group's own part of the title; plain text is escaped on the way in.
+    void setTitle(TextFormat format, const vxbase::UString& text);
+    /// Replaces `result` by the title over the whole group, in markup: the group's own part and those of its active
+    /// plots by rising id, centred. Empty if none of them has a title.
+    void getTotalTitle(vxbase::UString& result) const override;
+
+    /// Number of plots that show a legend for their colour table.
+    int getNumberOfColorLegends() const override;
+    /// Appends the legend entries of all graphs, by rising id.
+    void getLineLegend(std::vector<LineLegend>& result) const override;
+
+    /// Called by a plot when something of it that shows in title or legends has changed.
+    void markTitleChanged() { raiseChange(m_titleChangeId); }
+
+    // Tree
+
+    /// Merges the boxes of all plots and passes the result up the tree.
+    void calculateBoundingBox();
+    /// Counts a change of title and legends, and passes the change of structure up the tree.
+    void treeStructureChanged();
+
+    /// Does nothing: plots are picked through no frustum.
+    void getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
+                      PickedObjectCollection& result, bool inside) const override;
+    /// Merges the boxes of the plots into `box`.
+    /// @param logAxes 0 for all plots; otherwise only the graphs count, with their boxes for logarithmic axes (bit 0:
+    /// x,
+    ///                bit 1: y)
+    void getMarkedBoundingBox(BoundingBox& box, int logAxes, int exclude) const override;
+
+    // Read access
+
+    int getTitleChangeId() const override { return m_titleChangeId; }
+    TextFormat getTitleFormat() const { return m_titleFormat; }
+    const vxbase::UString& getTitle() const { return m_title; }
+    const TextureHandleStack& getTextureHandles() const { return m_textureHandles; }
+
+private:
+    SceneGraphPlotGroup();
+
+    int m_titleChangeId = 1;
+    TextFormat m_titleFormat = TextFormat::plain;
+    vxbase::UString m_title;
+    TextureHandleStack m_textureHandles;
+    PlotMap m_plots;
+};
+
+} // namespace vxgraphics3d

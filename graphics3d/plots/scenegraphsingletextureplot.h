@@ -1,0 +1,17 @@
+#pragma once
+
+#include "graphics3d/plots/scenegraphtextureplot.h"
+
+namespace vxgraphics3d {
+
+/// A plot with one colour table. It takes two texture handles from its group, not one: a renderer has room for the
+/// table in two forms.
+class VX_API SceneGraphSingleTexturePlot : public SceneGraphTexturePlot {
+public:
+    ~SceneGraphSingleTexturePlot() override;
+
+protected:
+    SceneGraphSingleTexturePlot(PlotType type, int id);
+};
+
+} // namespace vxgraphics3d

@@ -1,0 +1,56 @@
+#include "graphics3d/scene/scene.h"
+
+#include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/scenegraph/scenegraphroot.h"
+
+namespace vxgraphics3d {
+
+int Scene::m_lastSceneId = 0;
+
+Scene::Scene() : m_root(SceneGraphRoot::create())
+{
+    raiseChange(m_lastSceneId);
+    m_sceneId = m_lastSceneId;
+}
+
+Scene::~Scene() = default;
+
+void Scene::getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
+                         PickedObjectCollection& result) const
+{
+    m_root->getSelection(frustum, settings, result, false);
+}
+
+const BoundingBox& Scene::getBoundingBox() const
+{
+    return m_root->getBoundingBox();
+}
+
+BoundingBox Scene::calculateMarkedBoundingBox(int include, int exclude) const
+{
+    BoundingBox box;
+    m_root->getMarkedBoundingBox(box, include, exclude);
+    return box;
+}
+
+int Scene::getNumberOfColorLegends() const
+{
+    return m_root->getNumberOfColorLegends();
+}
+
+void Scene::getTitle(vxbase::UString& result) const
+{
+    m_root->getTitle(result);
+}
+
+bool Scene::isTitleChanged(const LastChangeId& last) const
+{
+    return m_root->isTitleChanged(last);
+}
+
+void Scene::resetTitleChanged(LastChangeId& last) const
+{
+    m_root->resetTitleChanged(last);
+}
+
+} // namespace vxgraphics3d

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "graphics3d/plots/scenegraphsingletextureplot.h"
+
+#include <functional>
+
+namespace vxgraphics3d {
+
+/// A plot without buffers, for tests of what all plots share.
+class FakePlot : public SceneGraphSingleTexturePlot {
+public:
+    explicit FakePlot(int id, PlotType type = PlotType::surface3d) : SceneGraphSingleTexturePlot(type, id) {}
+
+    void resetPlotData() override {}
+    bool isValid() const override { return m_valid; }
+
+    using SceneGraphPlot::allocateVertices;
+    using SceneGraphPlot::computeHeightScale;
+    using SceneGraphSingleTexturePlot::setTextureHandles;
+
+    std::function<void()> m_onFill;
+    bool m_valid = true;
+
+protected:
+    void fillPlotImpl(const vxdatacarrier::PostDataObject&) override
+    {
+        if (m_onFill) {
+            m_onFill();
+        }
+    }
+};
+
+} // namespace vxgraphics3d
