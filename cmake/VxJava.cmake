@@ -77,6 +77,7 @@ endfunction()
 # vx_java_tests(SOURCES folder... NEEDS module... )
 # Compiles the JUnit tests of all modules, on the class path so that tests reach what packages hide, into
 # ${CMAKE_BINARY_DIR}/java/tests/classes, and writes the class path that runs them to ${CMAKE_BINARY_DIR}/java/tests/path.
+# The JNI headers of natives that the tests bring themselves are carried by the interface library java_tests_headers.
 function(vx_java_tests)
   cmake_parse_arguments(arg "" "" "SOURCES;NEEDS" ${ARGN})
   set(junit)
@@ -111,12 +112,16 @@ function(vx_java_tests)
   file(GENERATE OUTPUT ${root}/path CONTENT "${root}/classes:${path}\n")
   add_custom_command(OUTPUT ${root}/stamp
     COMMAND ${CMAKE_COMMAND} -E rm -rf ${root}/classes
-    COMMAND ${VX_JAVAC} -g --release 17 -encoding UTF-8 -Xlint:all,-processing,-path -Werror -cp ${path} -d ${root}/classes
-            @${root}/sources.txt
+    COMMAND ${VX_JAVAC} -g --release 17 -encoding UTF-8 -Xlint:all,-processing,-path -Werror -cp ${path} -h ${root}/include
+            -d ${root}/classes @${root}/sources.txt
     ${resources}
     COMMAND ${CMAKE_COMMAND} -E touch ${root}/stamp
     DEPENDS ${files} ${stamps} ${root}/sources.txt
     COMMENT "Compiling Java tests"
     VERBATIM)
   add_custom_target(java_tests ALL DEPENDS ${root}/stamp)
+  add_library(java_tests_headers INTERFACE)
+  target_include_directories(java_tests_headers INTERFACE ${root}/include)
+  target_link_libraries(java_tests_headers INTERFACE vx_jni_headers)
+  add_dependencies(java_tests_headers java_tests)
 endfunction()

@@ -26,6 +26,53 @@ constexpr ConversionTable<7> c_partTypes{
 
 constexpr auto c_pickedObjectTypes = sameNumbers<8>();
 
+constexpr ConversionTable<4> c_markingTypes{{{{SceneGraphObject::MarkingPrimary, 1},
+                                              {SceneGraphObject::MarkingSecondary, 2},
+                                              {SceneGraphObject::MarkingHidden, 3},
+                                              {SceneGraphObject::MarkingUnpickable, 4}}},
+                                            SceneGraphObject::MarkingPrimary,
+                                            0};
+
+constexpr auto c_markingRows = sameNumbers<9>();
+
+constexpr ConversionTable<3> c_markingModes{
+    {{{MarkingSetups::MarkingMode0, 1}, {MarkingSetups::MarkingMode1, 2}, {MarkingSetups::MarkingMode2, 3}}},
+    MarkingSetups::MarkingMode0,
+    0};
+
+constexpr auto c_antialiasingTypes = sameNumbers<3>();
+
+using Settings = Canvas3dGlobalSettings;
+
+constexpr ConversionTable<11> c_cameraMouseActions{{{{Settings::ActionNone, 0},
+                                                     {Settings::ActionOrbitRoll, 1},
+                                                     {Settings::ActionTurn, 2},
+                                                     {Settings::ActionRoll, 3},
+                                                     {Settings::ActionSceneMove, 4},
+                                                     {Settings::ActionMove, 5},
+                                                     {Settings::ActionSceneDolly, 6},
+                                                     {Settings::ActionDolly, 7},
+                                                     {Settings::ActionPan, 8},
+                                                     {Settings::ActionZoom, 9},
+                                                     {Settings::ActionNone, 10}}},
+                                                   Settings::ActionNone,
+                                                   0};
+
+constexpr auto c_postMouseActions = sameNumbers<8>();
+
+constexpr auto c_renderQualities = sameNumbers<3>();
+
+constexpr ConversionTable<6> c_resizeBehaviours{{{{Settings::ResizeWidth, 0},
+                                                  {Settings::ResizeHeight, 1},
+                                                  {Settings::ResizeFit, 2},
+                                                  {Settings::ResizeFill, 3},
+                                                  {Settings::ResizePixels, 4},
+                                                  {Settings::ResizeKeep, 5}}},
+                                                Settings::ResizeWidth,
+                                                0};
+
+constexpr auto c_zoomToExtentBehaviours = sameNumbers<2>();
+
 } // namespace
 
 int cppSceneGraphNodeTypeToJava(SceneGraphNode::NodeType type)
@@ -46,6 +93,76 @@ int cppPartTypeToJava(PartType type)
 int cppPickedObjectTypeToJava(PickedObject::ObjectType type)
 {
     return c_pickedObjectTypes.toJava(type);
+}
+
+SceneGraphObject::MarkingType javaMarkingTypeToCpp(int type)
+{
+    return static_cast<SceneGraphObject::MarkingType>(c_markingTypes.toCpp(type));
+}
+
+MarkingType javaMarkingRowToCpp(int row)
+{
+    return static_cast<MarkingType>(c_markingRows.toCpp(row));
+}
+
+MarkingSetups::MarkingMode javaMarkingModeToCpp(int mode)
+{
+    return static_cast<MarkingSetups::MarkingMode>(c_markingModes.toCpp(mode));
+}
+
+int cppAntialiasingTypeToJava(int type)
+{
+    return c_antialiasingTypes.toJava(type);
+}
+
+int javaMouseKeyMaskToCpp(int mask)
+{
+    return mask & (Settings::c_numKeyMasks - 1);
+}
+
+Settings::CameraMouseAction javaCameraMouseActionToCpp(int action)
+{
+    return static_cast<Settings::CameraMouseAction>(c_cameraMouseActions.toCpp(action));
+}
+
+int cppCameraMouseActionToJava(Settings::CameraMouseAction action)
+{
+    return action;
+}
+
+int cppPostMouseActionToJava(MouseActionHandler::PostMouseActions actions)
+{
+    return c_postMouseActions.toJava(actions);
+}
+
+int cppRenderQualityToJava(RenderQuality quality)
+{
+    return c_renderQualities.toJava(quality);
+}
+
+RenderQuality javaRenderQualityToCpp(int quality)
+{
+    return static_cast<RenderQuality>(c_renderQualities.toCpp(quality));
+}
+
+int cppResizeBehaviourToJava(Settings::ResizeBehaviour behaviour)
+{
+    return c_resizeBehaviours.toJava(behaviour);
+}
+
+Settings::ResizeBehaviour javaResizeBehaviourToCpp(int behaviour)
+{
+    return static_cast<Settings::ResizeBehaviour>(c_resizeBehaviours.toCpp(behaviour));
+}
+
+int cppZoomToExtentBehaviourToJava(Settings::ZoomToExtentBehaviour behaviour)
+{
+    return c_zoomToExtentBehaviours.toJava(behaviour);
+}
+
+Settings::ZoomToExtentBehaviour javaZoomToExtentBehaviourToCpp(int behaviour)
+{
+    return static_cast<Settings::ZoomToExtentBehaviour>(c_zoomToExtentBehaviours.toCpp(behaviour));
 }
 
 } // namespace vxgraphics3d

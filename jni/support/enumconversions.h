@@ -1,8 +1,12 @@
 #pragma once
 
+#include "base/export.h"
+#include "graphics3d/geometry/markingsetups.h"
 #include "graphics3d/picking/pickedobject.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 #include "graphics3d/scenegraph/scenegraphobject.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "graphics3d/settings/mouseactionhandler.h"
 
 namespace vxgraphics3d {
 
@@ -17,5 +21,36 @@ int cppSceneGraphObjectTypeToJava(SceneGraphObject::ObjectType type);
 int cppPartTypeToJava(PartType type);
 /// The kinds of hit 1 to 7; anything else 0.
 int cppPickedObjectTypeToJava(PickedObject::ObjectType type);
+
+/// Java 1 to 4 are the actions 0 to 3; anything else 0.
+SceneGraphObject::MarkingType javaMarkingTypeToCpp(int type);
+/// Java 0 to 8 are the rows of the same number; anything else 0.
+MarkingType javaMarkingRowToCpp(int row);
+/// Java 1 to 3 are the modes 0 to 2; anything else 0.
+MarkingSetups::MarkingMode javaMarkingModeToCpp(int mode);
+
+/// 0 to 2 are the same on both sides; anything else 0.
+int cppAntialiasingTypeToJava(int type);
+
+/// The low three bits.
+int javaMouseKeyMaskToCpp(int mask);
+/// Java 0 and 10 are no action, which is 10, and so is anything else. Java counts the other actions in another order,
+/// in which orbiting has no number: 1 orbit roll, 2 turn, 3 roll, 4 and 6 move and dolly the scene, 5 and 7 the camera,
+/// 8 pan, 9 zoom.
+Canvas3dGlobalSettings::CameraMouseAction javaCameraMouseActionToCpp(int action);
+/// Java reads the number that native code has, which is not the one that it sets.
+VX_API int cppCameraMouseActionToJava(Canvas3dGlobalSettings::CameraMouseAction action);
+/// 0 to 7 are the same on both sides; anything else 0.
+VX_API int cppPostMouseActionToJava(MouseActionHandler::PostMouseActions actions);
+
+/// 0 to 2 are the same on both sides; anything else 0.
+int cppRenderQualityToJava(RenderQuality quality);
+RenderQuality javaRenderQualityToCpp(int quality);
+/// Java has 2 and 3 exchanged: 2 fits and 3 fills; anything that is not 0 to 5 becomes 0.
+int cppResizeBehaviourToJava(Canvas3dGlobalSettings::ResizeBehaviour behaviour);
+Canvas3dGlobalSettings::ResizeBehaviour javaResizeBehaviourToCpp(int behaviour);
+/// 0 and 1 are the same on both sides; anything else 0.
+int cppZoomToExtentBehaviourToJava(Canvas3dGlobalSettings::ZoomToExtentBehaviour behaviour);
+Canvas3dGlobalSettings::ZoomToExtentBehaviour javaZoomToExtentBehaviourToCpp(int behaviour);
 
 } // namespace vxgraphics3d

@@ -2,29 +2,53 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
 #include <vector>
 
 namespace vxgraphics3d {
 namespace {
 
 /// What a conversion gives for the numbers from -1 up.
-template <class Enum>
-std::vector<int> row(int (*convert)(Enum), int count)
+template <class To, class From>
+std::vector<int> row(To (*convert)(From), int count)
 {
     std::vector<int> result;
     for (int value = -1; value < count - 1; ++value) {
-        result.push_back(convert(static_cast<Enum>(value)));
+        if constexpr (std::is_enum_v<From>) {
+            result.push_back(convert(static_cast<From>(value)));
+        } else {
+            result.push_back(convert(value));
+        }
     }
     return result;
 }
 
+using Row = std::vector<int>;
+
 TEST(EnumConversions, nativeNumbersToJava)
 {
-    using Row = std::vector<int>;
     EXPECT_EQ(row(cppSceneGraphNodeTypeToJava, 6), (Row{0, 0, 1, 3, 2, 0}));
     EXPECT_EQ(row(cppSceneGraphObjectTypeToJava, 11), (Row{0, 1, 2, 3, 4, 5, 0, 0, 0, 0, 0}));
     EXPECT_EQ(row(cppPartTypeToJava, 10), (Row{0, 4, 3, 2, 1, 5, 6, 7, 0, 0}));
     EXPECT_EQ(row(cppPickedObjectTypeToJava, 10), (Row{0, 0, 1, 2, 3, 4, 5, 6, 7, 0}));
+    EXPECT_EQ(row(cppAntialiasingTypeToJava, 9), (Row{0, 0, 1, 2, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(row(cppCameraMouseActionToJava, 13), (Row{-1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}));
+    EXPECT_EQ(row(cppPostMouseActionToJava, 11), (Row{0, 0, 1, 2, 3, 4, 5, 6, 7, 0, 0}));
+    EXPECT_EQ(row(cppRenderQualityToJava, 6), (Row{0, 0, 1, 2, 0, 0}));
+    EXPECT_EQ(row(cppResizeBehaviourToJava, 9), (Row{0, 0, 1, 3, 2, 4, 5, 0, 0}));
+    EXPECT_EQ(row(cppZoomToExtentBehaviourToJava, 5), (Row{0, 0, 1, 0, 0}));
+}
+
+TEST(EnumConversions, javaNumbersToNative)
+{
+    EXPECT_EQ(row(javaMarkingTypeToCpp, 8), (Row{0, 0, 0, 1, 2, 3, 0, 0}));
+    EXPECT_EQ(row(javaMarkingRowToCpp, 12), (Row{0, 0, 1, 2, 3, 4, 5, 6, 7, 8, 0, 0}));
+    EXPECT_EQ(row(javaMarkingModeToCpp, 6), (Row{0, 0, 0, 1, 2, 0}));
+    EXPECT_EQ(row(javaMouseKeyMaskToCpp, 11), (Row{7, 0, 1, 2, 3, 4, 5, 6, 7, 0, 1}));
+    EXPECT_EQ(row(javaCameraMouseActionToCpp, 13), (Row{10, 10, 1, 4, 5, 2, 6, 3, 7, 8, 9, 10, 10}));
+    EXPECT_EQ(row(javaRenderQualityToCpp, 6), (Row{0, 0, 1, 2, 0, 0}));
+    EXPECT_EQ(row(javaResizeBehaviourToCpp, 9), (Row{0, 0, 1, 3, 2, 4, 5, 0, 0}));
+    EXPECT_EQ(row(javaZoomToExtentBehaviourToCpp, 5), (Row{0, 0, 1, 0, 0}));
 }
 
 } // namespace

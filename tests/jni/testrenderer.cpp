@@ -1,0 +1,116 @@
+#include "jni/support/native.h"
+
+#include "graphics3d/canvas/irenderercanvas.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "graphics3d/settings/contextdata.h"
+#include "graphics3d/settings/rendererinfo.h"
+
+#include <boost/make_shared.hpp>
+
+#include <set>
+#include <string>
+#include <utility>
+
+#include "com_vexane_graphics3d_TestRenderer.h"
+
+using namespace vxgraphics3d;
+
+namespace {
+
+/// A view of a renderer that draws nothing.
+class TestCanvas : public IRendererCanvas {
+public:
+    boost::shared_ptr<Canvas3dSettings> getCanvas3dSettings() override { return nullptr; }
+    boost::shared_ptr<CanvasPickSettings> getCanvasPickSettings() override { return nullptr; }
+    boost::shared_ptr<SceneSettings> getSceneSettings() override { return nullptr; }
+    boost::shared_ptr<ContextData> getContextData() override { return context; }
+
+    boost::shared_ptr<ContextData> context;
+};
+
+struct TestMonitor : RendererInfo::MonitorInfo {
+    explicit TestMonitor(std::set<std::string> extensions)
+    {
+        m_deviceId = "left";
+        m_videoCardVendor = "vendor";
+        m_videoCardName = "card";
+        m_videoCardVersion = "1.2";
+        m_openGlExtensions = std::move(extensions);
+        m_maxNumberOfLights = 8;
+        m_maxTextureSize = 4096;
+        m_maxVertexArraySize = 100000;
+        m_maxIndexArraySize = 200000;
+    }
+};
+
+/// Monitor 0 has three extensions, 1 has one, 2 none; 3 is an empty place and nobody owns 4.
+struct TestInfo : RendererInfo {
+    TestInfo()
+    {
+        m_missingRequirements = {"no context", "no window"};
+        m_rendererType = "test";
+        m_monitors = {boost::make_shared<TestMonitor>(std::set<std::string>{"c", "a", "b"}),
+                      boost::make_shared<TestMonitor>(std::set<std::string>{"only"}),
+                      boost::make_shared<TestMonitor>(std::set<std::string>{}),
+                      nullptr,
+                      {boost::shared_ptr<void>(), &m_unowned}};
+        m_hasDoubleBuffering = true;
+        m_numberOfMultisampleSettings = 2;
+        m_multisampleSettings[0] = 8;
+        m_multisampleSettings[1] = 4;
+        m_maxNumberOfAvailableLights = 6;
+        m_maxTextureSize = 2048;
+        m_maxVertexArraySize = 50000;
+        m_maxIndexArraySize = 60000;
+    }
+
+private:
+    MonitorInfo m_unowned;
+};
+
+} // namespace
+
+VX_NATIVE(void, TestRenderer, createNative)(JNIEnv* env, jclass, jobject self)
+{
+    native(env, "createNative", [&] { attach(env, self, boost::make_shared<TestCanvas>()); });
+}
+
+VX_NATIVE(void, TestRenderer, cleanupNative)(JNIEnv* env, jclass, jobject self)
+{
+    native(env, "cleanupNative", [&] { release(env, self); });
+}
+
+VX_NATIVE(void, TestRenderer, openContext)(JNIEnv* env, jclass, jobject self, jint antialiasingType)
+{
+    native(env, "openContext", [&] {
+        peer<TestCanvas>(env, self).context = boost::make_shared<ContextData>(ContextData{
+            .colorBits = 1,
+            .redBits = 2,
+            .greenBits = 3,
+            .blueBits = 4,
+            .alphaBits = 5,
+            .depthBits = 6,
+            .stencilBits = 7,
+            .accumBufferRedBits = 8,
+            .accumBufferGreenBits = 9,
+            .accumBufferBlueBits = 10,
+            .accumBufferAlphaBits = 11,
+            .doubleBuffered = true,
+            .hardwareAccelerated = false,
+            .antialiasingType = antialiasingType,
+            .multipleSamples = 12,
+        });
+    });
+}
+
+VX_NATIVE(void, TestRenderer, connectInfo)(JNIEnv* env, jclass, jobject info)
+{
+    native(env, "connectInfo", [&] { attach(env, info, boost::make_shared<TestInfo>()); });
+}
+
+VX_NATIVE(void, TestRenderer, announce)(JNIEnv* env, jclass, jobject infoOrNull)
+{
+    native(env, "announce", [&] {
+        Canvas3dGlobalSettings::setRendererInfo(infoOrNull != nullptr ? share<RendererInfo>(env, infoOrNull) : nullptr);
+    });
+}
