@@ -1,0 +1,23 @@
+package com.vexane.graphics3d;
+
+/**
+ * What one or several views show: a tree of nodes, below {@link SceneGraphRoot#connect its root}.
+ *
+ * <p>A scene lives while its peer is open or a renderer shows it. Its tree may outlive it, as long as a peer of the root
+ * is open.
+ */
+public final class Scene extends NativePeer {
+    /** Makes an empty scene. */
+    public Scene() {
+        createNative(this);
+    }
+
+    @Override
+    protected void cleanup() {
+        cleanupNative(this);
+    }
+
+    private static native void createNative(Scene peer);
+
+    private static native void cleanupNative(Scene peer);
+}
