@@ -39,7 +39,7 @@ VX_NATIVE(jint, RendererInfo, getNumberOfMissingRequirements)(JNIEnv* env, jclas
 
 VX_NATIVE(jstring, RendererInfo, getMissingRequirement)(JNIEnv* env, jclass, jobject self, jint index)
 {
-    return native(env, {"getMissingRequirement(%d)", index},
+    return native(env, "getMissingRequirement",
                   [&] { return toJavaNew(env, peer<RendererInfo>(env, self).getMissingRequirement(index)); });
 }
 
@@ -68,7 +68,7 @@ VX_NATIVE(jint, RendererInfo, getNumberOfMultisampleSettings)(JNIEnv* env, jclas
 
 VX_NATIVE(jint, RendererInfo, getMultisampleSetting)(JNIEnv* env, jclass, jobject self, jint index)
 {
-    return native(env, {"getMultisampleSetting(%d)", index},
+    return native(env, "getMultisampleSetting",
                   [&] { return peer<RendererInfo>(env, self).getMultisampleSetting(index); });
 }
 
@@ -96,7 +96,7 @@ VX_NATIVE(jint, RendererInfo, getMaxIndexArraySize)(JNIEnv* env, jclass, jobject
 VX_NATIVE(void, RendererInfo_00024MonitorInfo, connectNative)
 (JNIEnv* env, jclass, jobject self, jobject owner, jint monitor)
 {
-    native(env, {"00024MonitorInfo_connectNative(%d)", monitor},
+    native(env, "00024MonitorInfo_connectNative",
            [&] { attach(env, self, peer<RendererInfo>(env, owner).getMonitorInfoPtr(monitor)); });
 }
 

@@ -7,8 +7,8 @@
 namespace vxgraphics3d {
 
 class Canvas3dSettings;
-class CanvasPickSettings;
 class SceneSettings;
+struct CanvasPickSettings;
 struct ContextData;
 
 /// One view of a renderer, as far as Java peers connect to what it holds.

@@ -4,8 +4,6 @@
 #include "graphics3d/settings/rendererinfo.h"
 
 #include <algorithm>
-#include <stdexcept>
-#include <string>
 
 namespace vxgraphics3d {
 
@@ -28,14 +26,6 @@ constexpr DefaultAction c_defaultActions[] = {
 bool isButton(int button)
 {
     return button >= 1 && button <= Canvas3dGlobalSettings::c_numMouseButtons;
-}
-
-TextItem checkedItem(TextItem item)
-{
-    if (item < 0 || item >= c_numTextItems) {
-        throw std::out_of_range("There is no text item " + std::to_string(static_cast<int>(item)) + '.');
-    }
-    return item;
 }
 
 } // namespace
@@ -126,12 +116,12 @@ bool Canvas3dGlobalSettings::isButtonForMouseAction(int button, CameraMouseActio
 
 const FontSetting& Canvas3dGlobalSettings::getFont(TextItem item) const
 {
-    return m_fonts[checkedItem(item)];
+    return m_fonts[textItemIndex(item)];
 }
 
 FontSetting& Canvas3dGlobalSettings::font(TextItem item)
 {
-    return m_fonts[checkedItem(item)];
+    return m_fonts[textItemIndex(item)];
 }
 
 } // namespace vxgraphics3d

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 namespace vxgraphics3d {
 
 /// The kinds of text that a picture holds, each with a font of its own.
@@ -15,5 +17,9 @@ enum TextItem : int {
 
 /// The number of kinds of text.
 inline constexpr int c_numTextItems = 7;
+
+/// The place of a kind of text in a table of all kinds.
+/// @throws std::out_of_range if there is no such kind
+std::size_t textItemIndex(TextItem item);
 
 } // namespace vxgraphics3d

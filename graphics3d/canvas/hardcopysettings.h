@@ -1,0 +1,93 @@
+#pragma once
+
+#include "base/export.h"
+#include "graphics3d/foundation/color.h"
+#include "graphics3d/settings/textitem.h"
+
+#include <array>
+#include <string>
+
+namespace vxgraphics3d {
+
+/// What the export of one picture asks of a renderer. Java makes one for each export and fills it; the renderer reads
+/// it. A plain record: setters only store, and nobody is told of changes.
+class VX_API HardcopySettings {
+public:
+    using TextItem = vxgraphics3d::TextItem;
+
+    /// Without decorations on a white background, at the resolution that the screen has now.
+    HardcopySettings();
+
+    // Decorations.
+
+    bool isAxisOrientationShown() const { return m_axisOrientationShown; }
+    void setAxisOrientationShown(bool shown) { m_axisOrientationShown = shown; }
+    bool isLegendsShown() const { return m_legendsShown; }
+    void setLegendsShown(bool shown) { m_legendsShown = shown; }
+    bool isAxisShown() const { return m_axisShown; }
+    void setAxisShown(bool shown) { m_axisShown = shown; }
+    bool isTitleShown() const { return m_titleShown; }
+    void setTitleShown(bool shown) { m_titleShown = shown; }
+    bool isLogoShown() const { return m_logoShown; }
+    void setLogoShown(bool shown) { m_logoShown = shown; }
+    bool isShowPhysicsMarkers() const { return m_showPhysicsMarkers; }
+    void setShowPhysicsMarkers(bool show) { m_showPhysicsMarkers = show; }
+
+    // Background.
+
+    /// Whether the background is that of the canvas; otherwise it is the one set here.
+    bool isUseCurrentBackground() const { return m_useCurrentBackground; }
+    void setUseCurrentBackground(bool use) { m_useCurrentBackground = use; }
+    const Color& getTopColor() const { return m_topColor; }
+    const Color& getBottomColor() const { return m_bottomColor; }
+    /// Two opaque colours 0xRRGGBB, between which the background runs.
+    void setBackground(int top, int bottom);
+
+    // Picture.
+
+    /// Dots per inch.
+    int getDpi() const { return m_dpi; }
+    void setDpi(int dpi) { m_dpi = dpi; }
+    /// Samples a pixel.
+    int getMultisampleSetting() const { return m_multisampleSetting; }
+    void setMultisampleSetting(int samples) { m_multisampleSetting = samples; }
+    /// Whether transparent parts are drawn in layers, and in how many.
+    bool isUseTransparency() const { return m_useTransparency; }
+    void setUseTransparency(bool use) { m_useTransparency = use; }
+    int getTransparencyLayers() const { return m_transparencyLayers; }
+    void setTransparencyLayers(int layers) { m_transparencyLayers = layers; }
+
+    // Texts. The sizes are in points; the functions throw std::out_of_range if there is no such kind of text.
+
+    int getFontSize(TextItem item) const;
+    void setFontSize(TextItem item, int size);
+    /// Whether a size is given, which is above 0; otherwise the text has its size on the screen.
+    bool isFontSizeValid(TextItem item) const { return getFontSize(item) > 0; }
+
+    // What the file carries.
+
+    const std::string& getFileTitle() const { return m_fileTitle; }
+    void setFileTitle(const std::string& title) { m_fileTitle = title; }
+    const std::string& getFileCreator() const { return m_fileCreator; }
+    void setFileCreator(const std::string& creator) { m_fileCreator = creator; }
+
+private:
+    bool m_axisOrientationShown = false;
+    bool m_legendsShown = false;
+    bool m_axisShown = false;
+    bool m_titleShown = false;
+    bool m_logoShown = false;
+    bool m_useCurrentBackground = false;
+    bool m_showPhysicsMarkers = true;
+    int m_multisampleSetting = 1;
+    bool m_useTransparency = false;
+    int m_transparencyLayers = 0;
+    int m_dpi;
+    Color m_topColor = Color::fromRgb(0xffffff);
+    Color m_bottomColor = Color::fromRgb(0xffffff);
+    std::array<int, c_numTextItems> m_fontSizes;
+    std::string m_fileTitle;
+    std::string m_fileCreator;
+};
+
+} // namespace vxgraphics3d

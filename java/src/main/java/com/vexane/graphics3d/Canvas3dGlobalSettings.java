@@ -1,0 +1,654 @@
+package com.vexane.graphics3d;
+
+import java.util.Objects;
+
+/**
+ * What holds for all canvases of the process: rendering quality, picking, how the mouse drives the cameras, the fonts
+ * that new canvases and scenes start with, and the precision of numbers.
+ *
+ * <p>Values are stored as they come, without a check of their range, and last until the process ends. A renderer sees
+ * them when it draws next. Like peers, the settings are not synchronised. The colours of marked parts are in
+ * {@link MarkingSetups}.
+ */
+public final class Canvas3dGlobalSettings {
+    /** How much a renderer spends on a picture. */
+    public enum RenderQuality {
+        /** As little as it can. */
+        FAST(0),
+        /** Good enough to work with. */
+        NORMAL(1),
+        /** All it can. */
+        BEST(2);
+
+        private final int number;
+
+        RenderQuality(int number) {
+            this.number = number;
+        }
+
+        /**
+         * The number by which native code knows the quality.
+         *
+         * @return 0 to 2
+         */
+        public int number() {
+            return number;
+        }
+    }
+
+    /** What a renderer leaves around the scene when it zooms to its extent. */
+    public enum ZoomToExtentBehaviour {
+        /** The margin of these settings. */
+        WITH_MARGIN(0),
+        /** Nothing. */
+        TIGHT(1);
+
+        private final int number;
+
+        ZoomToExtentBehaviour(int number) {
+            this.number = number;
+        }
+
+        /**
+         * The number by which native code knows the behaviour.
+         *
+         * @return 0 or 1
+         */
+        public int number() {
+            return number;
+        }
+    }
+
+    /** What dragging the mouse does to a camera. */
+    public enum CameraMouseAction {
+        /** Turns the scene about the rotation point. Only the default actions contain it. */
+        ORBIT(0, -1),
+        /** Turns the scene about the line of sight. */
+        ORBIT_ROLL(1, 1),
+        /** Moves across the line to the rotation point. */
+        SCENE_MOVE(2, 4),
+        /** Moves along the line to the rotation point. */
+        SCENE_DOLLY(3, 6),
+        /** Turns the camera about itself. */
+        TURN(4, 2),
+        /** Turns the camera about its line of sight. */
+        ROLL(5, 3),
+        /** Moves the camera sideways. */
+        MOVE(6, 5),
+        /** Moves the camera forwards. */
+        DOLLY(7, 7),
+        /** Shifts the picture. */
+        PAN(8, 8),
+        /** Scales the picture. */
+        ZOOM(9, 9),
+        /** Does nothing. */
+        NONE(10, 10);
+
+        private final int number;
+        private final int settable;
+
+        CameraMouseAction(int number, int settable) {
+            this.number = number;
+            this.settable = settable;
+        }
+
+        /**
+         * The number under which native code keeps the action, and a renderer reads it.
+         *
+         * @return 0 to 10
+         */
+        public int number() {
+            return number;
+        }
+    }
+
+    /** How many mouse buttons the table of mouse actions has, counted from 1. */
+    public static final int MOUSE_BUTTONS = 3;
+
+    private Canvas3dGlobalSettings() {}
+
+    /**
+     * The resolution of the screen.
+     *
+     * @return dots per inch
+     */
+    public static int getOnScreenResolution() {
+        NativeLibrary.ensureLoaded();
+        return nGetOnScreenResolution();
+    }
+
+    /**
+     * Sets the resolution of the screen.
+     *
+     * @param dpi dots per inch
+     */
+    public static void setOnScreenResolution(int dpi) {
+        NativeLibrary.ensureLoaded();
+        nSetOnScreenResolution(dpi);
+    }
+
+    /**
+     * Whether a renderer may keep display lists.
+     *
+     * @return true at the start
+     */
+    public static boolean isOpenGlDisplayListsUsed() {
+        NativeLibrary.ensureLoaded();
+        return nIsOpenGlDisplayListsUsed();
+    }
+
+    /**
+     * Sets whether a renderer may keep display lists.
+     *
+     * @param use whether it may
+     */
+    public static void setUseOpenGlDisplayLists(boolean use) {
+        NativeLibrary.ensureLoaded();
+        nSetUseOpenGlDisplayLists(use);
+    }
+
+    /**
+     * Whether a renderer may pick with a buffer of pixels.
+     *
+     * @return true at the start
+     */
+    public static boolean isPBufferUsedForPicking() {
+        NativeLibrary.ensureLoaded();
+        return nIsPBufferUsedForPicking();
+    }
+
+    /**
+     * Sets whether a renderer may pick with a buffer of pixels.
+     *
+     * @param use whether it may
+     */
+    public static void setUsePBufferForPicking(boolean use) {
+        NativeLibrary.ensureLoaded();
+        nSetUsePBufferForPicking(use);
+    }
+
+    /**
+     * The number of samples a pixel.
+     *
+     * @return the number of samples, 0 for no antialiasing
+     */
+    public static int getMultisampleSetting() {
+        NativeLibrary.ensureLoaded();
+        return nGetMultisampleSetting();
+    }
+
+    /**
+     * Sets the number of samples a pixel.
+     *
+     * @param samples the number of samples, 0 for no antialiasing
+     */
+    public static void setMultisampleSetting(int samples) {
+        NativeLibrary.ensureLoaded();
+        nSetMultisampleSetting(samples);
+    }
+
+    /**
+     * Sets whether a renderer may use shaders. It may not at the start.
+     *
+     * @param use whether it may
+     */
+    public static void setUseShaders(boolean use) {
+        NativeLibrary.ensureLoaded();
+        nSetUseShaders(use);
+    }
+
+    /**
+     * Whether edges are smoothed: whether the number of samples a pixel is above 0.
+     *
+     * @return true if edges are smoothed
+     */
+    public static boolean isAntiAliasing() {
+        NativeLibrary.ensureLoaded();
+        return nIsAntiAliasing();
+    }
+
+    /**
+     * Switches the smoothing of edges on, with the first number of samples that the renderer offers, or off. It stays
+     * off while there is no renderer or if it offers none.
+     *
+     * @param on true to smooth edges
+     */
+    public static void setAntiAliasing(boolean on) {
+        NativeLibrary.ensureLoaded();
+        nSetAntiAliasing(on);
+    }
+
+    /**
+     * How far from the pointer a part may lie and still be picked.
+     *
+     * @return the distance in pixels
+     */
+    public static int getPickingTolerance() {
+        NativeLibrary.ensureLoaded();
+        return nGetPickingTolerance();
+    }
+
+    /**
+     * Sets how far from the pointer a part may lie and still be picked.
+     *
+     * @param pixels the distance in pixels
+     */
+    public static void setPickingTolerance(int pixels) {
+        NativeLibrary.ensureLoaded();
+        nSetPickingTolerance(pixels);
+    }
+
+    /**
+     * How cameras adapt to a canvas of another shape, unless they have a behaviour of their own.
+     *
+     * @return the behaviour
+     */
+    public static ResizeBehaviour getResizeBehaviour() {
+        NativeLibrary.ensureLoaded();
+        return ResizeBehaviour.of(nGetResizeBehaviour());
+    }
+
+    /**
+     * Sets how cameras adapt to a canvas of another shape.
+     *
+     * @param behaviour the behaviour
+     * @throws NullPointerException if the behaviour is null
+     */
+    public static void setResizeBehaviour(ResizeBehaviour behaviour) {
+        NativeLibrary.ensureLoaded();
+        nSetResizeBehaviour(behaviour.number());
+    }
+
+    /**
+     * What is left around the scene by a zoom to its extent.
+     *
+     * @return the behaviour
+     */
+    public static ZoomToExtentBehaviour getZoomToExtentBehaviour() {
+        NativeLibrary.ensureLoaded();
+        return ZoomToExtentBehaviour.values()[nGetZoomToExtentBehaviour()];
+    }
+
+    /**
+     * Sets what is left around the scene by a zoom to its extent.
+     *
+     * @param behaviour the behaviour
+     * @throws NullPointerException if the behaviour is null
+     */
+    public static void setZoomToExtentBehaviour(ZoomToExtentBehaviour behaviour) {
+        NativeLibrary.ensureLoaded();
+        nSetZoomToExtentBehaviour(behaviour.number());
+    }
+
+    /**
+     * The margin around the scene after a zoom to its extent.
+     *
+     * @return the margin as a fraction of the extent
+     */
+    public static float getZoomToExtentMargin() {
+        NativeLibrary.ensureLoaded();
+        return nGetZoomToExtentMargin();
+    }
+
+    /**
+     * Sets the margin around the scene after a zoom to its extent.
+     *
+     * @param margin the margin as a fraction of the extent
+     */
+    public static void setZoomToExtentMargin(float margin) {
+        NativeLibrary.ensureLoaded();
+        nSetZoomToExtentMargin(margin);
+    }
+
+    /**
+     * How fast dragging turns.
+     *
+     * @return radians a pixel
+     */
+    public static float getCameraMouseOrbitSpeed() {
+        NativeLibrary.ensureLoaded();
+        return nGetCameraMouseOrbitSpeed();
+    }
+
+    /**
+     * Sets how fast dragging turns.
+     *
+     * @param speed radians a pixel
+     */
+    public static void setCameraMouseOrbitSpeed(float speed) {
+        NativeLibrary.ensureLoaded();
+        nSetCameraMouseOrbitSpeed(speed);
+    }
+
+    /**
+     * How fast dragging moves.
+     *
+     * @return fractions of the size of the scene a pixel
+     */
+    public static float getCameraMouseDollySpeed() {
+        NativeLibrary.ensureLoaded();
+        return nGetCameraMouseDollySpeed();
+    }
+
+    /**
+     * Sets how fast dragging moves.
+     *
+     * @param speed fractions of the size of the scene a pixel
+     */
+    public static void setCameraMouseDollySpeed(float speed) {
+        NativeLibrary.ensureLoaded();
+        nSetCameraMouseDollySpeed(speed);
+    }
+
+    /**
+     * How fast dragging zooms.
+     *
+     * @return pixels for one step of the zoom
+     */
+    public static float getCameraMouseZoomSpeed() {
+        NativeLibrary.ensureLoaded();
+        return nGetCameraMouseZoomSpeed();
+    }
+
+    /**
+     * Sets how fast dragging zooms.
+     *
+     * @param speed pixels for one step of the zoom
+     */
+    public static void setCameraMouseZoomSpeed(float speed) {
+        NativeLibrary.ensureLoaded();
+        nSetCameraMouseZoomSpeed(speed);
+    }
+
+    /**
+     * What dragging with a button does while keys are held down.
+     *
+     * @param button 1 to {@value #MOUSE_BUTTONS}
+     * @param keyMask the set of keys, of which the low three bits count
+     * @return the action; {@link CameraMouseAction#NONE} for a button that the table does not have
+     */
+    public static CameraMouseAction getCameraMouseAction(int button, int keyMask) {
+        NativeLibrary.ensureLoaded();
+        return CameraMouseAction.values()[nGetCameraMouseAction(button, keyMask)];
+    }
+
+    /**
+     * Sets what dragging with a button does while keys are held down. Buttons that the table does not have are ignored.
+     *
+     * @param button 1 to {@value #MOUSE_BUTTONS}
+     * @param keyMask the set of keys, of which the low three bits count
+     * @param action the action
+     * @throws IllegalArgumentException if the action is {@link CameraMouseAction#ORBIT}
+     * @throws NullPointerException if the action is null
+     */
+    public static void setCameraMouseAction(int button, int keyMask, CameraMouseAction action) {
+        if (action.settable < 0) {
+            throw new IllegalArgumentException("Only the default actions contain " + action + ".");
+        }
+        NativeLibrary.ensureLoaded();
+        nSetCameraMouseAction(button, keyMask, action.settable);
+    }
+
+    /**
+     * Takes the actions of all buttons away, as at the start.
+     */
+    public static void resetCameraMouseActions() {
+        NativeLibrary.ensureLoaded();
+        nResetCameraMouseActions();
+    }
+
+    /**
+     * Gives the buttons their usual actions: the first turns, the second zooms, the third moves.
+     */
+    public static void setDefaultCameraMouseActions() {
+        NativeLibrary.ensureLoaded();
+        nSetDefaultCameraMouseActions();
+    }
+
+    /**
+     * How much is spent on pictures on the screen.
+     *
+     * @return the quality
+     */
+    public static RenderQuality getOnScreenRenderQuality() {
+        NativeLibrary.ensureLoaded();
+        return RenderQuality.values()[nGetOnScreenRenderQuality()];
+    }
+
+    /**
+     * Sets how much is spent on pictures on the screen.
+     *
+     * @param quality the quality
+     * @throws NullPointerException if the quality is null
+     */
+    public static void setOnScreenRenderQuality(RenderQuality quality) {
+        NativeLibrary.ensureLoaded();
+        nSetOnScreenRenderQuality(quality.number());
+    }
+
+    /**
+     * How much is spent on pictures made for files and printers.
+     *
+     * @return the quality
+     */
+    public static RenderQuality getOffScreenRenderQuality() {
+        NativeLibrary.ensureLoaded();
+        return RenderQuality.values()[nGetOffScreenRenderQuality()];
+    }
+
+    /**
+     * Sets how much is spent on pictures made for files and printers.
+     *
+     * @param quality the quality
+     * @throws NullPointerException if the quality is null
+     */
+    public static void setOffScreenRenderQuality(RenderQuality quality) {
+        NativeLibrary.ensureLoaded();
+        nSetOffScreenRenderQuality(quality.number());
+    }
+
+    /**
+     * The name of the font that new canvases and scenes take for a kind of text.
+     *
+     * @param item the kind of text
+     * @return the name, &quot;default&quot; at the start
+     * @throws NullPointerException if the item is null
+     */
+    public static String getFontName(TextItem item) {
+        NativeLibrary.ensureLoaded();
+        return nGetFontName(item.number());
+    }
+
+    /**
+     * The size of the font that new canvases and scenes take for a kind of text.
+     *
+     * @param item the kind of text
+     * @return the size in points, 12 at the start
+     * @throws NullPointerException if the item is null
+     */
+    public static int getFontSize(TextItem item) {
+        NativeLibrary.ensureLoaded();
+        return nGetFontSize(item.number());
+    }
+
+    /**
+     * Sets the font that new canvases and scenes take for a kind of text.
+     *
+     * @param item the kind of text
+     * @param name the name of the font
+     * @param size the size in points
+     * @throws NullPointerException if item or name is null
+     */
+    public static void setFont(TextItem item, String name, int size) {
+        NativeLibrary.ensureLoaded();
+        nSetFont(item.number(), Objects.requireNonNull(name, "name"), size);
+    }
+
+    /**
+     * The precision of the numbers beside legends.
+     *
+     * @return the number of significant digits
+     */
+    public static int getLegendTickPrecision() {
+        NativeLibrary.ensureLoaded();
+        return nGetLegendTickPrecision();
+    }
+
+    /**
+     * Sets the precision of the numbers beside legends.
+     *
+     * @param digits the number of significant digits
+     */
+    public static void setLegendTickPrecision(int digits) {
+        NativeLibrary.ensureLoaded();
+        nSetLegendTickPrecision(digits);
+    }
+
+    /**
+     * The precision of the extremes in legends.
+     *
+     * @return the number of significant digits
+     */
+    public static int getLegendMinMaxPrecision() {
+        NativeLibrary.ensureLoaded();
+        return nGetLegendMinMaxPrecision();
+    }
+
+    /**
+     * Sets the precision of the extremes in legends.
+     *
+     * @param digits the number of significant digits
+     */
+    public static void setLegendMinMaxPrecision(int digits) {
+        NativeLibrary.ensureLoaded();
+        nSetLegendMinMaxPrecision(digits);
+    }
+
+    /**
+     * The precision of the numbers along axes in 2D.
+     *
+     * @return the number of significant digits
+     */
+    public static int getGridbox2dTickPrecision() {
+        NativeLibrary.ensureLoaded();
+        return nGetGridbox2dTickPrecision();
+    }
+
+    /**
+     * Sets the precision of the numbers along axes in 2D.
+     *
+     * @param digits the number of significant digits
+     */
+    public static void setGridbox2dTickPrecision(int digits) {
+        NativeLibrary.ensureLoaded();
+        nSetGridbox2dTickPrecision(digits);
+    }
+
+    /**
+     * The precision of the numbers along axes in 3D.
+     *
+     * @return the number of significant digits
+     */
+    public static int getGridbox3dTickPrecision() {
+        NativeLibrary.ensureLoaded();
+        return nGetGridbox3dTickPrecision();
+    }
+
+    /**
+     * Sets the precision of the numbers along axes in 3D.
+     *
+     * @param digits the number of significant digits
+     */
+    public static void setGridbox3dTickPrecision(int digits) {
+        NativeLibrary.ensureLoaded();
+        nSetGridbox3dTickPrecision(digits);
+    }
+
+    private static native int nGetOnScreenResolution();
+
+    private static native void nSetOnScreenResolution(int value);
+
+    private static native boolean nIsOpenGlDisplayListsUsed();
+
+    private static native void nSetUseOpenGlDisplayLists(boolean use);
+
+    private static native boolean nIsPBufferUsedForPicking();
+
+    private static native void nSetUsePBufferForPicking(boolean use);
+
+    private static native int nGetMultisampleSetting();
+
+    private static native void nSetMultisampleSetting(int value);
+
+    private static native void nSetUseShaders(boolean use);
+
+    private static native boolean nIsAntiAliasing();
+
+    private static native void nSetAntiAliasing(boolean on);
+
+    private static native int nGetPickingTolerance();
+
+    private static native void nSetPickingTolerance(int value);
+
+    private static native int nGetResizeBehaviour();
+
+    private static native void nSetResizeBehaviour(int value);
+
+    private static native int nGetZoomToExtentBehaviour();
+
+    private static native void nSetZoomToExtentBehaviour(int value);
+
+    private static native float nGetZoomToExtentMargin();
+
+    private static native void nSetZoomToExtentMargin(float value);
+
+    private static native float nGetCameraMouseOrbitSpeed();
+
+    private static native void nSetCameraMouseOrbitSpeed(float value);
+
+    private static native float nGetCameraMouseDollySpeed();
+
+    private static native void nSetCameraMouseDollySpeed(float value);
+
+    private static native float nGetCameraMouseZoomSpeed();
+
+    private static native void nSetCameraMouseZoomSpeed(float value);
+
+    private static native int nGetCameraMouseAction(int button, int mask);
+
+    private static native void nSetCameraMouseAction(int button, int mask, int action);
+
+    private static native void nResetCameraMouseActions();
+
+    private static native void nSetDefaultCameraMouseActions();
+
+    private static native int nGetOnScreenRenderQuality();
+
+    private static native void nSetOnScreenRenderQuality(int value);
+
+    private static native int nGetOffScreenRenderQuality();
+
+    private static native void nSetOffScreenRenderQuality(int value);
+
+    private static native String nGetFontName(int item);
+
+    private static native int nGetFontSize(int item);
+
+    private static native void nSetFont(int item, String name, int size);
+
+    private static native int nGetLegendTickPrecision();
+
+    private static native void nSetLegendTickPrecision(int value);
+
+    private static native int nGetLegendMinMaxPrecision();
+
+    private static native void nSetLegendMinMaxPrecision(int value);
+
+    private static native int nGetGridbox2dTickPrecision();
+
+    private static native void nSetGridbox2dTickPrecision(int value);
+
+    private static native int nGetGridbox3dTickPrecision();
+
+    private static native void nSetGridbox3dTickPrecision(int value);
+}

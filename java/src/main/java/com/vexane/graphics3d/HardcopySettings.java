@@ -1,0 +1,283 @@
+package com.vexane.graphics3d;
+
+import java.util.Objects;
+
+/**
+ * What the export of one picture asks of a renderer: resolution, decorations, background, font sizes, and the title and
+ * creator that the file carries. Nothing is checked until a renderer reads it. Nobody is told of changes.
+ */
+public final class HardcopySettings extends NativePeer {
+    /** Makes settings without decorations on a white background, at the resolution that the screen has now. */
+    public HardcopySettings() {
+        createNative(this);
+    }
+
+    /**
+     * The title that the file carries.
+     *
+     * @return the title, empty at the start
+     */
+    public String getFileTitle() {
+        return getFileTitle(this);
+    }
+
+    /**
+     * Sets the title that the file carries.
+     *
+     * @param title the title
+     * @throws NullPointerException if the title is null
+     */
+    public void setFileTitle(String title) {
+        setFileTitle(this, Objects.requireNonNull(title, "title"));
+    }
+
+    /**
+     * The creator that the file carries.
+     *
+     * @return the creator, empty at the start
+     */
+    public String getFileCreator() {
+        return getFileCreator(this);
+    }
+
+    /**
+     * Sets the creator that the file carries.
+     *
+     * @param creator the creator
+     * @throws NullPointerException if the creator is null
+     */
+    public void setFileCreator(String creator) {
+        setFileCreator(this, Objects.requireNonNull(creator, "creator"));
+    }
+
+    /**
+     * Sets the background, which runs from one colour at the top to another at the bottom.
+     *
+     * @param topColor 0xRRGGBB; higher bits are ignored
+     * @param bottomColor 0xRRGGBB; higher bits are ignored
+     */
+    public void setBackground(int topColor, int bottomColor) {
+        setBackground(this, topColor, bottomColor);
+    }
+
+    /**
+     * The size of a kind of text.
+     *
+     * @param item the kind of text
+     * @return the size in points; 0 or less, as at the start, for the size on the screen
+     * @throws NullPointerException if the item is null
+     */
+    public int getFontSize(TextItem item) {
+        return getFontSize(this, item.number());
+    }
+
+    /**
+     * Sets the size of a kind of text.
+     *
+     * @param item the kind of text
+     * @param size the size in points; 0 or less for the size on the screen
+     * @throws NullPointerException if the item is null
+     */
+    public void setFontSize(TextItem item, int size) {
+        setFontSize(this, item.number(), size);
+    }
+
+    /**
+     * The resolution of the picture.
+     *
+     * @return dots per inch; at the start the resolution that the screen had when these settings were made
+     */
+    public int getDpi() {
+        return getDpi(this);
+    }
+
+    /**
+     * Sets the resolution of the picture.
+     *
+     * @param dpi dots per inch
+     */
+    public void setDpi(int dpi) {
+        setDpi(this, dpi);
+    }
+
+    /**
+     * The number of samples a pixel.
+     *
+     * @return the number of samples, 1 at the start
+     */
+    public int getMultisampleSetting() {
+        return getMultisampleSetting(this);
+    }
+
+    /**
+     * Sets the number of samples a pixel.
+     *
+     * @param setting the number of samples
+     */
+    public void setMultisampleSetting(int setting) {
+        setMultisampleSetting(this, setting);
+    }
+
+    /**
+     * Sets whether the markers of physics are shown. They are at the start.
+     *
+     * @param shown true to show them
+     */
+    public void setShowPhysicsMarkers(boolean shown) {
+        setShowPhysicsMarkers(this, shown);
+    }
+
+    /**
+     * Whether the background is that of the canvas.
+     *
+     * @return false at the start: the background is set here
+     */
+    public boolean isUseCurrentBackground() {
+        return isUseCurrentBackground(this);
+    }
+
+    /**
+     * Sets whether the background is that of the canvas.
+     *
+     * @param use false for the background that is set here
+     */
+    public void setUseCurrentBackground(boolean use) {
+        setUseCurrentBackground(this, use);
+    }
+
+    /**
+     * Whether the axis orientation indicator is shown.
+     *
+     * @return false at the start
+     */
+    public boolean isAxisOrientationShown() {
+        return isAxisOrientationShown(this);
+    }
+
+    /**
+     * Sets whether the axis orientation indicator is shown.
+     *
+     * @param shown true to show it
+     */
+    public void setAxisOrientationShown(boolean shown) {
+        setAxisOrientationShown(this, shown);
+    }
+
+    /**
+     * Whether legends are shown.
+     *
+     * @return false at the start
+     */
+    public boolean isLegendsShown() {
+        return isLegendsShown(this);
+    }
+
+    /**
+     * Sets whether legends are shown.
+     *
+     * @param shown true to show them
+     */
+    public void setLegendsShown(boolean shown) {
+        setLegendsShown(this, shown);
+    }
+
+    /**
+     * Whether axes and grid boxes are shown.
+     *
+     * @return false at the start
+     */
+    public boolean isAxisShown() {
+        return isAxisShown(this);
+    }
+
+    /**
+     * Sets whether axes and grid boxes are shown.
+     *
+     * @param shown true to show them
+     */
+    public void setAxisShown(boolean shown) {
+        setAxisShown(this, shown);
+    }
+
+    /**
+     * Whether the title is shown.
+     *
+     * @return false at the start
+     */
+    public boolean isTitleShown() {
+        return isTitleShown(this);
+    }
+
+    /**
+     * Sets whether the title is shown.
+     *
+     * @param shown true to show it
+     */
+    public void setTitleShown(boolean shown) {
+        setTitleShown(this, shown);
+    }
+
+    /**
+     * Sets whether the logo is shown. It is not at the start.
+     *
+     * @param shown true to show it
+     */
+    public void setLogoShown(boolean shown) {
+        setLogoShown(this, shown);
+    }
+
+    @Override
+    protected void cleanup() {
+        cleanupNative(this);
+    }
+
+    private static native void createNative(HardcopySettings peer);
+
+    private static native void cleanupNative(HardcopySettings peer);
+
+    private static native void setFileTitle(HardcopySettings peer, String title);
+
+    private static native void setFileCreator(HardcopySettings peer, String creator);
+
+    private static native String getFileTitle(HardcopySettings peer);
+
+    private static native String getFileCreator(HardcopySettings peer);
+
+    private static native void setBackground(HardcopySettings peer, int topColor, int bottomColor);
+
+    private static native void setFontSize(HardcopySettings peer, int item, int size);
+
+    private static native int getFontSize(HardcopySettings peer, int item);
+
+    private static native void setDpi(HardcopySettings peer, int dpi);
+
+    private static native void setMultisampleSetting(HardcopySettings peer, int setting);
+
+    private static native int getDpi(HardcopySettings peer);
+
+    private static native int getMultisampleSetting(HardcopySettings peer);
+
+    private static native void setShowPhysicsMarkers(HardcopySettings peer, boolean value);
+
+    private static native void setUseCurrentBackground(HardcopySettings peer, boolean value);
+
+    private static native void setLogoShown(HardcopySettings peer, boolean value);
+
+    private static native void setTitleShown(HardcopySettings peer, boolean value);
+
+    private static native void setAxisShown(HardcopySettings peer, boolean value);
+
+    private static native void setLegendsShown(HardcopySettings peer, boolean value);
+
+    private static native void setAxisOrientationShown(HardcopySettings peer, boolean value);
+
+    private static native boolean isUseCurrentBackground(HardcopySettings peer);
+
+    private static native boolean isTitleShown(HardcopySettings peer);
+
+    private static native boolean isAxisShown(HardcopySettings peer);
+
+    private static native boolean isLegendsShown(HardcopySettings peer);
+
+    private static native boolean isAxisOrientationShown(HardcopySettings peer);
+}

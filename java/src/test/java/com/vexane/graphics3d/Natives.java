@@ -1,0 +1,34 @@
+package com.vexane.graphics3d;
+
+import java.lang.reflect.InvocationTargetException;
+import java.lang.reflect.Method;
+import java.lang.reflect.Modifier;
+import java.util.Arrays;
+
+/** Calls private natives with what their public methods would not let through, as a program with bad intent could. */
+final class Natives {
+    private Natives() {}
+
+    /**
+     * Calls the one native of a class that has that name and number of arguments.
+     *
+     * @throws RuntimeException what the native throws
+     */
+    static Object call(Class<?> type, String name, Object... arguments) {
+        Method method = Arrays.stream(type.getDeclaredMethods())
+                .filter(m -> m.getName().equals(name) && Modifier.isNative(m.getModifiers())
+                        && m.getParameterCount() == arguments.length)
+                .findAny().orElseThrow();
+        method.setAccessible(true);
+        try {
+            return method.invoke(null, arguments);
+        } catch (InvocationTargetException e) {
+            if (e.getCause() instanceof RuntimeException failure) {
+                throw failure;
+            }
+            throw new AssertionError(e.getCause());
+        } catch (IllegalAccessException e) {
+            throw new AssertionError(e);
+        }
+    }
+}
