@@ -2,6 +2,10 @@
 
 #include "graphics3d/settings/rendererinfo.h"
 
+#include <iterator>
+#include <set>
+#include <string>
+
 #include "com_vexane_graphics3d_RendererInfo.h"
 #include "com_vexane_graphics3d_RendererInfo_MonitorInfo.h"
 
@@ -17,9 +21,9 @@ jstring joinedOrNull(JNIEnv* env, const std::set<std::string>& names)
     if (names.empty()) {
         return nullptr;
     }
-    std::string joined;
-    for (const std::string& name : names) {
-        joined += joined.empty() ? name : ',' + name;
+    std::string joined = *names.begin();
+    for (auto name = std::next(names.begin()); name != names.end(); ++name) {
+        joined += ',' + *name;
     }
     return toJavaNew(env, joined);
 }
