@@ -35,10 +35,10 @@ public:
         ResizeKeep = 5,   ///< the view stays as it is, so the picture stretches
     };
 
-    /// What a renderer leaves around the scene when it zooms to its extent.
+    /// What fills the render area when a 3D camera zooms to the extent of a box.
     enum ZoomToExtentBehaviour : int {
-        ZoomToExtentWithMargin = 0, ///< the margin set here
-        ZoomToExtentTight = 1,      ///< nothing
+        ZoomToExtentTight = 0,  ///< the box itself fills the area, but for the margin
+        ZoomToExtentSphere = 1, ///< the sphere around the box does, so that it stays visible however it is turned
     };
 
     /// What dragging the mouse does, each in the terms of `ICameraActions`.
@@ -176,7 +176,7 @@ private:
     bool m_useShaders = false;
     int m_pickingTolerance = 5;
     ResizeBehaviour m_resizeBehaviour = ResizeFit;
-    ZoomToExtentBehaviour m_zoomToExtentBehaviour = ZoomToExtentWithMargin;
+    ZoomToExtentBehaviour m_zoomToExtentBehaviour = ZoomToExtentTight;
     float m_zoomToExtentMargin = 0.05f;
     float m_cameraMouseOrbitSpeed = 0.01f;
     float m_cameraMouseDollySpeed = 0.02f;

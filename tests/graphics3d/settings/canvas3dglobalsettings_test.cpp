@@ -81,7 +81,7 @@ TEST(Canvas3dGlobalSettings, onlyFourSettersCountAndTheyCountAlways)
     settings.setUsePBufferForPicking(false);
     settings.setUseShaders(true);
     settings.setPickingTolerance(-1);
-    settings.setZoomToExtentBehaviour(Settings::ZoomToExtentTight);
+    settings.setZoomToExtentBehaviour(Settings::ZoomToExtentSphere);
     settings.setZoomToExtentMargin(-2.5f);
     settings.setCameraMouseOrbitSpeed(1.5f);
     settings.setCameraMouseDollySpeed(2.5f);

@@ -1,0 +1,410 @@
+// Placing, setting up and driving the 3D camera. How it makes its matrices stands in camera3dtransforms.cpp.
+#include "graphics3d/cameras/camera3d.h"
+
+#include "graphics3d/cameras/viewarithmetic.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vxgraphics3d {
+
+namespace {
+
+constexpr float c_pi = 3.1415927f;
+constexpr float c_defaultFov = 20.0f;
+/// The view is not magnified further once it is smaller than this fraction of the clipping range.
+constexpr float c_smallestView = 1e-05f;
+
+float toRadians(float degrees)
+{
+    return degrees * c_pi / 180.0f;
+}
+
+float toDegrees(float radians)
+{
+    return radians * 180.0f / c_pi;
+}
+
+/// The half angle of a view that is s times as large.
+float scaledAngle(float angle, float s)
+{
+    return static_cast<float>(std::atan(static_cast<double>(s) * view::tangent(angle)));
+}
+
+/// The extent of a view of a half angle at a distance.
+float extentAt(float distance, float angle)
+{
+    return static_cast<float>(2.0 * static_cast<double>(distance) * view::tangent(angle));
+}
+
+Vector3f row(const Matrixf& m, int i)
+{
+    return {m.get(i, 1), m.get(i, 2), m.get(i, 3)};
+}
+
+} // namespace
+
+Camera3d::Camera3d() : m_horizontalFov(toRadians(c_defaultFov)), m_verticalFov(toRadians(c_defaultFov))
+{
+    calculatePerspective();
+}
+
+Camera3d::Camera3d(const Camera3d& other) : ChangeableSetting(other), ICameraTransforms(), ICameraActions()
+{
+    *this = other;
+    calculatePerspective();
+}
+
+void Camera3d::import(const Camera3d& other)
+{
+    if (&other == this) {
+        return;
+    }
+    ChangeableSetting::import(other);
+    Camera3d taken(other);
+    taken.m_canvasWidth = m_canvasWidth;
+    taken.m_canvasHeight = m_canvasHeight;
+    taken.m_renderAreaWidth = m_renderAreaWidth;
+    taken.m_renderAreaHeight = m_renderAreaHeight;
+    taken.m_renderAreaLeft = m_renderAreaLeft;
+    taken.m_renderAreaBottom = m_renderAreaBottom;
+    taken.m_dollySpeedScale = m_dollySpeedScale;
+    *this = taken;
+    calculatePerspective();
+    countChange();
+}
+
+void Camera3d::lookAt(const Vector3f& position, const Vector3f& direction, const Vector3f& upHint)
+{
+    const float length = direction.length();
+    m_forward = direction.normalized();
+    m_right = m_forward.cross(upHint).normalized();
+    m_up = m_right.cross(m_forward);
+    m_position = position;
+    calculateRotationMatrix(m_right, m_up, m_forward);
+    m_actualPosition = m_position;
+    calculateViewMatrix();
+    calculateDepthOrder();
+    m_lookAtLength = length;
+    countChange();
+}
+
+void Camera3d::moveToBoundingBox(const BoundingBox& focus, const BoundingBox& scene, float expansion)
+{
+    const Canvas3dGlobalSettings& settings = *Canvas3dGlobalSettings::getInstance();
+    const float margin = 1.0f + settings.getZoomToExtentMargin();
+
+    const BoundingBox whole = getViewBoundingBox(scene);
+    const float distance = whole.isZeroSize() ? 1.0f : whole.getBoundingRadius() * margin / 0.1f;
+    m_dollySpeedScale = whole.getBoundingRadius();
+
+    BoundingBox target = getViewBoundingBox(focus);
+    const float border = target.getBoundingRadius() * expansion;
+    target.expand(border, border, border);
+    const float t = target.isZeroSize() ? 0.25f : target.getBoundingRadius() * margin / distance;
+
+    if (isPerspectiveProjection()) {
+        setFOV(toDegrees(static_cast<float>(std::atan(static_cast<double>(t)))));
+    } else if (renderAreaRatio() < 1.0f) {
+        setOrthographicHeight(2.0f * t * distance);
+    } else {
+        setOrthographicWidth(2.0f * t * distance);
+    }
+    lookAt(target.getCenter() - m_forward * distance, m_forward, m_up);
+
+    if (settings.getZoomToExtentBehaviour() == Canvas3dGlobalSettings::ZoomToExtentTight) {
+        fitTightly(target, margin);
+    }
+}
+
+/// Moves and scales the picture so that the corners of a box of the view fill the render area but for the margin.
+void Camera3d::fitTightly(const BoundingBox& viewBox, float margin)
+{
+    float minX = 1.0f;
+    float maxX = -1.0f;
+    float minY = 1.0f;
+    float maxY = -1.0f;
+    for (int i = 0; i < 8; ++i) {
+        const Vector3f corner = viewBox.getVertex(i).transformed(m_viewTransform).transformed(m_projectionTransformLH);
+        minX = std::min(minX, corner.x);
+        maxX = std::max(maxX, corner.x);
+        minY = std::min(minY, corner.y);
+        maxY = std::max(maxY, corner.y);
+    }
+    for (const auto& [min, max] : {std::pair(&minX, &maxX), std::pair(&minY, &maxY)}) {
+        if (*min == *max) {
+            *min -= 0.05f;
+            *max += 0.05f;
+        }
+        *min *= margin;
+        *max *= margin;
+    }
+    setAdditionalRelativeViewOffset(-(minX + maxX) * 0.25f, -(minY + maxY) * 0.25f);
+    mergeAdditionalTransformation();
+    setAdditionalScale(0.5f, 0.5f, std::max((maxX - minX) * 0.5f, (maxY - minY) * 0.5f));
+    mergeAdditionalTransformation();
+}
+
+void Camera3d::setFOV(float degrees)
+{
+    m_horizontalFov = toRadians(degrees);
+    m_verticalFov = m_horizontalFov;
+    recalculateIn(ProjectionPerspective);
+}
+
+void Camera3d::setHorizontalFOV(float degrees)
+{
+    m_horizontalFov = toRadians(degrees);
+    recalculateIn(ProjectionPerspective);
+}
+
+void Camera3d::setVerticalFOV(float degrees)
+{
+    m_verticalFov = toRadians(degrees);
+    recalculateIn(ProjectionPerspective);
+}
+
+void Camera3d::setOrthographicSize(float size)
+{
+    m_orthographicWidth = size;
+    m_orthographicHeight = size;
+    recalculateIn(ProjectionOrthographic);
+}
+
+void Camera3d::setOrthographicWidth(float width)
+{
+    m_orthographicWidth = width;
+    m_orthographicHeight = width / static_cast<float>(m_renderAreaWidth) * static_cast<float>(m_renderAreaHeight);
+    recalculateIn(ProjectionOrthographic);
+}
+
+void Camera3d::setOrthographicHeight(float height)
+{
+    m_orthographicHeight = height;
+    m_orthographicWidth = height / static_cast<float>(m_renderAreaHeight) * static_cast<float>(m_renderAreaWidth);
+    recalculateIn(ProjectionOrthographic);
+}
+
+/// Counts a change of a value that only one projection shows.
+void Camera3d::recalculateIn(ProjectionType type)
+{
+    if (m_projectionType == type) {
+        calculatePerspective();
+    }
+    countChange();
+}
+
+void Camera3d::setViewingScale(float scale)
+{
+    m_viewingScale = scale;
+    if (resizeBehaviour() == ResizeBehaviour::ResizePixels) {
+        calculatePerspective();
+    }
+    countChange();
+}
+
+void Camera3d::setRelativeViewOffset(float x, float y)
+{
+    m_baseRelativeViewOffsetX = x;
+    m_baseRelativeViewOffsetY = y;
+    m_relativeViewOffsetX = x;
+    m_relativeViewOffsetY = y;
+    calculatePerspective();
+    countChange();
+}
+
+void Camera3d::setProjectionType(ProjectionType type)
+{
+    if (type != m_projectionType) {
+        const float distance = (m_scaledRotationPoint - m_actualPosition).length();
+        if (type == ProjectionPerspective) {
+            m_horizontalFov = view::halfAngle(m_orthographicWidth, distance);
+            m_verticalFov = view::halfAngle(m_orthographicHeight, distance);
+            m_viewingScale *= distance / m_nearClip;
+        } else {
+            m_orthographicWidth = extentAt(distance, m_horizontalFov);
+            m_orthographicHeight = extentAt(distance, m_verticalFov);
+            m_viewingScale *= m_nearClip / distance;
+        }
+        m_projectionType = type;
+    }
+    calculatePerspective();
+    countChange();
+}
+
+void Camera3d::setRotationPoint(const Vector3f& point)
+{
+    m_rotationPoint = point;
+    m_scaledRotationPoint = point.scaled(m_axisViewScaleX, m_axisViewScaleY, m_axisViewScaleZ);
+}
+
+void Camera3d::setOverrideResizeBehaviour(bool overrideGlobal, ResizeBehaviour behaviour)
+{
+    m_overrideResizeBehaviour = overrideGlobal;
+    m_ownResizeBehaviour = behaviour;
+}
+
+float Camera3d::getHorizontalFOV() const
+{
+    return toDegrees(m_horizontalFov);
+}
+
+float Camera3d::getVerticalFOV() const
+{
+    return toDegrees(m_verticalFov);
+}
+
+Vector3f Camera3d::getLookAtDirection() const
+{
+    return -row(m_rotationTransform, 3);
+}
+
+Vector3f Camera3d::getUpDirection() const
+{
+    return row(m_rotationTransform, 2);
+}
+
+float Camera3d::getPanSpeed() const
+{
+    const float pixel = m_nearWidth / static_cast<float>(m_renderAreaWidth);
+    return isOrthographicProjection() ? pixel : pixel * distanceToRotationPoint() / m_nearClip;
+}
+
+void Camera3d::setAdditionalSceneRotation(float a, float b, float c)
+{
+    Matrixf turn(Matrixf::MatrixIdentity);
+    const Vector3f toPoint = m_scaledRotationPoint - m_position;
+    const Vector3f sight = toPoint.normalized();
+    if (a != 0.0f || b != 0.0f) {
+        const Vector3f horizontal = sight.cross(m_up);
+        if (b != 0.0f) {
+            turn.rotate(horizontal.cross(sight), b);
+        }
+        if (a != 0.0f) {
+            turn.rotate(horizontal, a);
+        }
+    }
+    if (c != 0.0f) {
+        turn.rotate(sight, c);
+    }
+    calculateRotationMatrix(turn);
+    m_actualPosition = m_scaledRotationPoint - turn * toPoint;
+    calculateViewMatrix();
+    calculateDepthOrder();
+    countChange();
+}
+
+void Camera3d::setAdditionalRotation(float a, float b, float c)
+{
+    Matrixf turn(Matrixf::MatrixIdentity);
+    if (b != 0.0f) {
+        turn.rotate(m_up, b);
+    }
+    if (a != 0.0f) {
+        turn.rotate(m_right, a);
+    }
+    if (c != 0.0f) {
+        turn.rotate(m_forward, c);
+    }
+    calculateRotationMatrix(turn);
+    calculateViewMatrix();
+    calculateDepthOrder();
+    countChange();
+}
+
+void Camera3d::setAdditionalSceneTranslation(float a, float b, float c)
+{
+    const Vector3f toPoint = m_scaledRotationPoint - m_position;
+    Vector3f step;
+    if (c != 0.0f) {
+        step += toPoint.normalized() * c;
+    }
+    if (a != 0.0f || b != 0.0f) {
+        const Vector3f horizontal = toPoint.cross(m_up);
+        if (a != 0.0f) {
+            step += horizontal.normalized() * a;
+        }
+        if (b != 0.0f) {
+            step += horizontal.cross(toPoint).normalized() * b;
+        }
+    }
+    m_actualPosition = m_position + step;
+    calculateViewMatrix();
+    countChange();
+}
+
+void Camera3d::setAdditionalTranslation(float a, float b, float c)
+{
+    m_actualPosition = m_position + a * m_right + b * m_up + c * m_forward;
+    calculateViewMatrix();
+    countChange();
+}
+
+void Camera3d::setAdditionalScale(float cx, float cy, float s)
+{
+    if (s < 1.0f) {
+        const double smallest = static_cast<double>((m_farClip - m_nearClip) * c_smallestView);
+        const double extent = isOrthographicProjection()
+                                  ? static_cast<double>(m_nearWidth)
+                                  : view::tangent(std::min(m_actualHorizontalFov, m_actualVerticalFov)) *
+                                        static_cast<double>(distanceToRotationPoint());
+        if (extent < smallest) {
+            return;
+        }
+    }
+    const float k = 1.0f - 1.0f / s;
+    m_relativeViewOffsetX = ((cx - 0.5f) - m_baseRelativeViewOffsetX) * k + m_baseRelativeViewOffsetX;
+    m_relativeViewOffsetY = ((cy - 0.5f) - m_baseRelativeViewOffsetY) * k + m_baseRelativeViewOffsetY;
+    m_additionalScale = s;
+    calculatePerspective();
+    countChange();
+}
+
+void Camera3d::setAdditionalScale(float cx, float cy, float sx, float sy)
+{
+    setAdditionalScale(cx, cy, std::max(sx, sy));
+}
+
+void Camera3d::setAdditionalRelativeViewOffset(float x, float y)
+{
+    m_relativeViewOffsetX = m_baseRelativeViewOffsetX + x;
+    m_relativeViewOffsetY = m_baseRelativeViewOffsetY + y;
+    calculatePerspective();
+    countChange();
+}
+
+void Camera3d::mergeAdditionalTransformation()
+{
+    m_right = row(m_rotationTransform, 1);
+    m_up = row(m_rotationTransform, 2);
+    m_forward = -row(m_rotationTransform, 3);
+    m_position = m_actualPosition;
+    m_orthographicWidth *= m_additionalScale;
+    m_orthographicHeight *= m_additionalScale;
+    m_horizontalFov = scaledAngle(m_horizontalFov, m_additionalScale);
+    m_verticalFov = scaledAngle(m_verticalFov, m_additionalScale);
+    m_baseRelativeViewOffsetX = m_relativeViewOffsetX;
+    m_baseRelativeViewOffsetY = m_relativeViewOffsetY;
+    m_additionalScale = 1.0f;
+    countChange();
+}
+
+void Camera3d::discardAdditionalTransformation()
+{
+    calculateRotationMatrix(m_right, m_up, m_forward);
+    m_actualPosition = m_position;
+    m_additionalScale = 1.0f;
+    m_relativeViewOffsetX = m_baseRelativeViewOffsetX;
+    m_relativeViewOffsetY = m_baseRelativeViewOffsetY;
+    calculateViewMatrix();
+    calculatePerspective();
+    countChange();
+}
+
+float Camera3d::distanceToRotationPoint() const
+{
+    return (m_scaledRotationPoint - m_position).length();
+}
+
+} // namespace vxgraphics3d

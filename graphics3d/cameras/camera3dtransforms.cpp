@@ -1,0 +1,358 @@
+// How the 3D camera makes its matrices, and what it reads from them. Placing and driving it stand in camera3d.cpp.
+#include "graphics3d/cameras/camera3d.h"
+
+#include "graphics3d/cameras/viewarithmetic.h"
+
+#include "graphics3d/foundation/errorlog.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vxgraphics3d {
+
+namespace {
+
+/// A clipping plane moves only by more than this fraction of the clipping range.
+constexpr float c_clippingThreshold = 0.1f;
+/// The nearest that the near plane comes, as a fraction of the radius that the planes enclose.
+constexpr float c_smallestNearClip = 0.001f;
+
+/// Whether the base view decides how large the view is.
+constexpr bool isGoverned(Camera3d::ResizeBehaviour behaviour)
+{
+    using enum Canvas3dGlobalSettings::ResizeBehaviour;
+    return behaviour == ResizeWidth || behaviour == ResizeHeight || behaviour == ResizeFill || behaviour == ResizeFit;
+}
+
+} // namespace
+
+void Camera3d::setAxisViewScales(float x, float y, float z)
+{
+    m_axisViewScaleX = x;
+    m_axisViewScaleY = y;
+    m_axisViewScaleZ = z;
+    if (x != 1.0f || y != 1.0f || z != 1.0f) {
+        m_axisViewScaleTransform.initScale(x, y, z);
+        m_invAxisViewScaleTransform.initScale(1.0f / x, 1.0f / y, 1.0f / z);
+        m_hasAxisViewScale = true;
+    } else {
+        resetAxisViewScales();
+    }
+    m_scaledRotationPoint = m_rotationPoint.scaled(x, y, z);
+}
+
+float Camera3d::getFOV() const
+{
+    const ResizeBehaviour behaviour = resizeBehaviour();
+    if (!isGoverned(behaviour)) {
+        return 0.0f;
+    }
+    return widthGoverns(behaviour, view::tangent(m_verticalFov) / view::tangent(m_horizontalFov)) ? getHorizontalFOV()
+                                                                                                  : getVerticalFOV();
+}
+
+float Camera3d::getOrthographicSize() const
+{
+    const ResizeBehaviour behaviour = resizeBehaviour();
+    if (behaviour == ResizeBehaviour::ResizePixels || behaviour == ResizeBehaviour::ResizeKeep) {
+        return static_cast<float>(
+            std::sqrt(static_cast<double>(m_orthographicHeight) * static_cast<double>(m_orthographicWidth)));
+    }
+    if (!isGoverned(behaviour)) {
+        return 0.0f;
+    }
+    return widthGoverns(behaviour, static_cast<double>(m_orthographicHeight / m_orthographicWidth))
+               ? m_orthographicWidth
+               : m_orthographicHeight;
+}
+
+Vector3f Camera3d::screenToWorld(int x, int y, float z) const
+{
+    const Vector3f device(
+        view::pixelDistance(m_renderAreaLeft, x) * 2.0f / static_cast<float>(m_renderAreaWidth) - 1.0f,
+        view::pixelDistance(m_renderAreaBottom, y) * 2.0f / static_cast<float>(m_renderAreaHeight) - 1.0f, z);
+    return device.transformed(m_invProjectionTransformRH).transformed(m_invAxisViewScaleTransform * m_invViewTransform);
+}
+
+Vector3f Camera3d::toPixels(const Vector3f& viewPoint, const Matrixf& projection) const
+{
+    const Vector3f device = viewPoint.transformed(projection);
+    return {(device.x * 0.5f + 0.5f) * static_cast<float>(m_renderAreaWidth),
+            (device.y * 0.5f + 0.5f) * static_cast<float>(m_renderAreaHeight), device.z};
+}
+
+Vector3f Camera3d::worldToScreen(const Vector3f& point, const Matrixf& projection) const
+{
+    const Vector3f scaled = m_hasAxisViewScale ? point.transformed(m_axisViewScaleTransform) : point;
+    return toPixels(scaled.transformed(m_viewTransform), projection);
+}
+
+Vector3f Camera3d::worldToScreenRH(const Vector3f& point) const
+{
+    return worldToScreen(point, m_projectionTransformRH);
+}
+
+Vector3f Camera3d::worldToScreenLH(const Vector3f& point) const
+{
+    return worldToScreen(point, m_projectionTransformLH);
+}
+
+float Camera3d::worldToPixelScale(const Vector3f& point) const
+{
+    const Vector3f viewPoint = point.transformed(m_axisViewScaleTransform).transformed(m_viewTransform);
+    const Vector3f step = Vector3f(1.0f, 1.0f, 0.0f).transformed(m_axisViewScaleTransform);
+    return (toPixels(viewPoint + step, m_projectionTransformRH) - toPixels(viewPoint, m_projectionTransformRH))
+        .length();
+}
+
+void Camera3d::setRenderArea(int canvasWidth, int canvasHeight, int left, int bottom, int width, int height)
+{
+    if (canvasWidth != m_canvasWidth || canvasHeight != m_canvasHeight || left != m_renderAreaLeft ||
+        bottom != m_renderAreaBottom || width != m_renderAreaWidth || height != m_renderAreaHeight) {
+        m_canvasWidth = canvasWidth;
+        m_canvasHeight = canvasHeight;
+        m_renderAreaLeft = left;
+        m_renderAreaBottom = bottom;
+        m_renderAreaWidth = width;
+        m_renderAreaHeight = height;
+        logInfo("Setting renderarea to, w:%d, h:%d.", width, height);
+        countChange();
+    }
+    calculatePerspective();
+}
+
+void Camera3d::setBoundingBox(const BoundingBox& box)
+{
+    m_sceneBoundingBox = box;
+    if (!box.isValid()) {
+        return;
+    }
+    const auto [x, y, z] = m_scaledRotationPoint;
+    BoundingBox enclosed(x, x, y, y, z, z);
+    enclosed.merge(getViewBoundingBox(box));
+    const float distance = (enclosed.getCenter() - m_actualPosition).length();
+    const float radius = enclosed.isZeroSize() ? 1.0f : 1.5f * enclosed.getBoundingRadius();
+    const float nearClip = std::max(distance - radius, c_smallestNearClip * radius);
+    const float farClip = distance + radius;
+
+    const float threshold = c_clippingThreshold * (m_farClip - m_nearClip);
+    const bool moves = std::abs(nearClip - m_nearClip) > threshold || std::abs(farClip - m_farClip) > threshold;
+    if (moves && farClip != nearClip) {
+        logInfo("Setting clippingplanes near: %f, far: %f", nearClip, farClip);
+        m_nearClip = nearClip;
+        m_farClip = farClip;
+        calculatePerspective();
+        countChange();
+    }
+}
+
+BoundingBox Camera3d::getViewBoundingBox(const BoundingBox& box) const
+{
+    if (!box.isValid()) {
+        return box;
+    }
+    const Vector3f min = box.getMin().scaled(m_axisViewScaleX, m_axisViewScaleY, m_axisViewScaleZ);
+    const Vector3f max = box.getMax().scaled(m_axisViewScaleX, m_axisViewScaleY, m_axisViewScaleZ);
+    return {min.x, max.x, min.y, max.y, min.z, max.z};
+}
+
+void Camera3d::jitterPerspective(float dx, float dy)
+{
+    const float jx = dx / static_cast<float>(m_renderAreaWidth) + m_relativeViewOffsetX;
+    const float jy = dy / static_cast<float>(m_renderAreaHeight) + m_relativeViewOffsetY;
+    shiftProjection(jx, jy);
+}
+
+void Camera3d::setAxisViewScalesAuto()
+{
+    if (!m_sceneBoundingBox.isValid()) {
+        resetAxisViewScales();
+        return;
+    }
+    const Vector3f extent = m_sceneBoundingBox.getHalfSize() * 2.0f;
+    const float largest = std::max({extent.x, extent.y, extent.z});
+    const auto scale = [largest](float e) { return e > 0.0f ? largest / e : 1.0f; };
+    setAxisViewScales(scale(extent.x), scale(extent.y), scale(extent.z));
+}
+
+void Camera3d::resetAxisViewScales()
+{
+    m_axisViewScaleX = 1.0f;
+    m_axisViewScaleY = 1.0f;
+    m_axisViewScaleZ = 1.0f;
+    m_hasAxisViewScale = false;
+    m_axisViewScaleTransform.identity();
+    m_invAxisViewScaleTransform.identity();
+    m_scaledRotationPoint = m_rotationPoint;
+}
+
+/// The resize behaviour in force.
+Camera3d::ResizeBehaviour Camera3d::resizeBehaviour() const
+{
+    return m_overrideResizeBehaviour ? m_ownResizeBehaviour
+                                     : Canvas3dGlobalSettings::getInstance()->getResizeBehaviour();
+}
+
+/// Whether the base width decides how large the view is, not the base height.
+/// @param baseRatio height over width of the base view
+bool Camera3d::widthGoverns(ResizeBehaviour behaviour, double baseRatio) const
+{
+    const double areaRatio = static_cast<double>(renderAreaRatio());
+    switch (behaviour) {
+    case ResizeBehaviour::ResizeWidth:
+        return true;
+    case ResizeBehaviour::ResizeFill:
+        return areaRatio < baseRatio;
+    case ResizeBehaviour::ResizeFit:
+        return !(areaRatio < baseRatio);
+    default:
+        return false;
+    }
+}
+
+/// Height over width.
+float Camera3d::renderAreaRatio() const
+{
+    return view::aspect(m_renderAreaHeight, m_renderAreaWidth);
+}
+
+void Camera3d::calculateViewRectangle()
+{
+    const float areaRatio = renderAreaRatio();
+    const ResizeBehaviour behaviour = resizeBehaviour();
+    if (behaviour == ResizeBehaviour::ResizePixels) {
+        m_nearWidth = m_additionalScale * static_cast<float>(m_renderAreaWidth) / m_viewingScale;
+        m_nearHeight = m_nearWidth * areaRatio;
+    } else if (isGoverned(behaviour)) {
+        // In perspective the base view is given by tangents, at twice the near distance to cover both halves.
+        double width = static_cast<double>(m_orthographicWidth);
+        double height = static_cast<double>(m_orthographicHeight);
+        double baseRatio = static_cast<double>(m_orthographicHeight / m_orthographicWidth);
+        double unit = 1.0;
+        if (isPerspectiveProjection()) {
+            width = view::tangent(m_horizontalFov);
+            height = view::tangent(m_verticalFov);
+            baseRatio = height / width;
+            unit = 2.0 * static_cast<double>(m_nearClip);
+        }
+        const double scale = static_cast<double>(m_additionalScale);
+        if (widthGoverns(behaviour, baseRatio)) {
+            m_nearWidth = static_cast<float>(scale * width * unit);
+            m_nearHeight = m_nearWidth * areaRatio;
+        } else {
+            m_nearHeight = static_cast<float>(scale * height * unit);
+            m_nearWidth = m_nearHeight / areaRatio;
+        }
+    }
+}
+
+void Camera3d::calculatePerspective()
+{
+    calculateViewRectangle();
+    const float n = m_nearClip;
+    const float f = m_farClip;
+    const float w = m_nearWidth;
+    const float h = m_nearHeight;
+    if (isOrthographicProjection()) {
+        m_actualHorizontalFov = 0.0f;
+        m_actualVerticalFov = 0.0f;
+        m_projectionTransformRH.init(2.0f / w, 0.0f, 0.0f, 0.0f,                      //
+                                     0.0f, 2.0f / h, 0.0f, 0.0f,                      //
+                                     0.0f, 0.0f, -2.0f / (f - n), -(f + n) / (f - n), //
+                                     0.0f, 0.0f, 0.0f, 1.0f);
+        m_invProjectionTransformRH.init(w / 2.0f, 0.0f, 0.0f, 0.0f,                  //
+                                        0.0f, h / 2.0f, 0.0f, 0.0f,                  //
+                                        0.0f, 0.0f, -(f - n) / 2.0f, (f + n) / 2.0f, //
+                                        0.0f, 0.0f, 0.0f, 1.0f);
+        m_projectionTransformLH = m_projectionTransformRH;
+        m_projectionTransformLH.set(3, 3, 1.0f / (n - f));
+        m_projectionTransformLH.set(3, 4, n / (n - f));
+    } else {
+        m_actualHorizontalFov = view::halfAngle(w, n);
+        m_actualVerticalFov = view::halfAngle(h, n);
+        m_projectionTransformRH.init(2.0f * n / w, 0.0f, 0.0f, 0.0f,                          //
+                                     0.0f, 2.0f * n / h, 0.0f, 0.0f,                          //
+                                     0.0f, 0.0f, -(f + n) / (f - n), -2.0f * f * n / (f - n), //
+                                     0.0f, 0.0f, -1.0f, 0.0f);
+        m_invProjectionTransformRH.init(w / (2.0f * n), 0.0f, 0.0f, 0.0f, //
+                                        0.0f, h / (2.0f * n), 0.0f, 0.0f, //
+                                        0.0f, 0.0f, 0.0f, -1.0f,          //
+                                        0.0f, 0.0f, -(f - n) / (2.0f * f * n), (n + f) / (2.0f * n * f));
+        m_projectionTransformLH = m_projectionTransformRH;
+        m_projectionTransformLH.set(3, 3, -f / (f - n));
+        m_projectionTransformLH.set(3, 4, -f * n / (f - n));
+    }
+    shiftProjection(m_relativeViewOffsetX, m_relativeViewOffsetY);
+}
+
+/// Writes the entries of the projections that move the image, by a fraction of the render area.
+void Camera3d::shiftProjection(float x, float y)
+{
+    // A shift acts after the division by depth, so in perspective it stands where depth itself multiplies it.
+    const bool orthographic = isOrthographicProjection();
+    const int column = orthographic ? 4 : 3;
+    const float factor = orthographic ? 2.0f : -2.0f;
+    for (Matrixf* projection : {&m_projectionTransformRH, &m_projectionTransformLH}) {
+        projection->set(1, column, factor * x);
+        projection->set(2, column, factor * y);
+    }
+    if (orthographic) {
+        m_invProjectionTransformRH.set(1, 4, -x * m_nearWidth);
+        m_invProjectionTransformRH.set(2, 4, -y * m_nearHeight);
+    } else {
+        m_invProjectionTransformRH.set(1, 4, -2.0f * x * m_nearWidth / (2.0f * m_nearClip));
+        m_invProjectionTransformRH.set(2, 4, -2.0f * y * m_nearHeight / (2.0f * m_nearClip));
+    }
+}
+
+/// Sets the displayed rotation from orthonormal axes of the camera.
+void Camera3d::calculateRotationMatrix(const Vector3f& right, const Vector3f& up, const Vector3f& forward)
+{
+    const Vector3f back = -forward;
+    m_rotationTransform.init(right.x, right.y, right.z, 0.0f, //
+                             up.x, up.y, up.z, 0.0f,          //
+                             back.x, back.y, back.z, 0.0f,    //
+                             0.0f, 0.0f, 0.0f, 1.0f);
+    m_invRotationTransform.init(right.x, up.x, back.x, 0.0f, //
+                                right.y, up.y, back.y, 0.0f, //
+                                right.z, up.z, back.z, 0.0f, //
+                                0.0f, 0.0f, 0.0f, 1.0f);
+}
+
+/// Sets the displayed rotation from the committed axes, turned.
+void Camera3d::calculateRotationMatrix(const Matrixf& turn)
+{
+    calculateRotationMatrix(turn * m_right, turn * m_up, turn * m_forward);
+}
+
+void Camera3d::calculateViewMatrix()
+{
+    const Vector3f t = -(m_rotationTransform * m_actualPosition);
+    m_viewTransform = m_rotationTransform;
+    m_viewTransform.set(1, 4, t.x);
+    m_viewTransform.set(2, 4, t.y);
+    m_viewTransform.set(3, 4, t.z);
+    const Vector3f eye = -(m_invRotationTransform * t);
+    m_invViewTransform = m_invRotationTransform;
+    m_invViewTransform.set(1, 4, eye.x);
+    m_invViewTransform.set(2, 4, eye.y);
+    m_invViewTransform.set(3, 4, eye.z);
+}
+
+/// Sorts the axes by the depth of their ends; axes at equal depth keep their places.
+void Camera3d::calculateDepthOrder()
+{
+    const auto depth = [this](int axis) { return m_rotationTransform.get(3, axis + 1); };
+    auto [a, b, c] = m_depthOrder;
+    if (depth(a) > depth(b)) {
+        std::swap(a, b);
+    }
+    if (depth(b) > depth(c)) {
+        m_depthOrder = depth(a) > depth(c) ? std::array{c, a, b} : std::array{a, c, b};
+    } else {
+        m_depthOrder = {a, b, c};
+    }
+}
+
+} // namespace vxgraphics3d

@@ -1,0 +1,854 @@
+#include "graphics3d/cameras/camera3d.h"
+
+#include "tests/support/capturedlog.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace vxgraphics3d {
+namespace {
+
+using Resize = Canvas3dGlobalSettings;
+using Strings = std::vector<std::string>;
+
+constexpr float c_infinity = std::numeric_limits<float>::infinity();
+
+/// Looks along negative z from (0, 0, 6), clipped at 4 and 8.
+Camera3d frontCamera()
+{
+    Camera3d camera;
+    camera.lookAt({0.0f, 0.0f, 6.0f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
+    const float half = 4.0f / 3.0f;
+    camera.setBoundingBox(BoundingBox(-half, half, 0.0f, 0.0f, 0.0f, 0.0f));
+    return camera;
+}
+
+/// Random cameras that look at a scene around a rotation point, in both projections and with all resize behaviours.
+class RandomCameras {
+public:
+    float uniform(float low, float high)
+    {
+        const auto fraction = static_cast<float>(m_generator() >> 8) / 16777216.0f;
+        return low + (high - low) * fraction;
+    }
+    int integer(int low, int high)
+    {
+        return low + static_cast<int>(m_generator() % static_cast<unsigned>(high - low + 1));
+    }
+    Vector3f vector(float size) { return {uniform(-size, size), uniform(-size, size), uniform(-size, size)}; }
+    BoundingBox box(const Vector3f& centre, float size)
+    {
+        const Vector3f half(uniform(0.1f, size), uniform(0.1f, size), uniform(0.1f, size));
+        const Vector3f min = centre - half;
+        const Vector3f max = centre + half;
+        return {min.x, max.x, min.y, max.y, min.z, max.z};
+    }
+
+    Camera3d camera(Camera3d::ProjectionType type, int behaviour)
+    {
+        Camera3d camera;
+        camera.setProjectionType(type);
+        camera.setRenderArea(2000, 2000, integer(0, 100), integer(0, 100), integer(50, 1900), integer(50, 1900));
+        camera.setAxisViewScales(uniform(0.5f, 2.0f), uniform(0.5f, 2.0f), uniform(0.5f, 2.0f));
+        const Vector3f point = vector(5.0f);
+        camera.setRotationPoint(point);
+        camera.setFOV(uniform(5.0f, 40.0f));
+        camera.setVerticalFOV(uniform(5.0f, 40.0f));
+        camera.setOrthographicSize(uniform(2.0f, 20.0f));
+        camera.setViewingScale(uniform(20.0f, 200.0f));
+        camera.setRelativeViewOffset(uniform(-0.3f, 0.3f), uniform(-0.3f, 0.3f));
+        const Vector3f centre =
+            point.scaled(camera.getAxisViewScaleX(), camera.getAxisViewScaleY(), camera.getAxisViewScaleZ());
+        const Vector3f direction = vector(1.0f) + Vector3f(0.0f, 0.0f, 1.5f);
+        camera.lookAt(centre - direction.normalized() * uniform(8.0f, 30.0f), direction,
+                      vector(1.0f) + Vector3f(3.0f, 0.0f, 0.0f));
+        camera.setOverrideResizeBehaviour(true, static_cast<Camera3d::ResizeBehaviour>(behaviour));
+        camera.setBoundingBox(box(point, 4.0f));
+        return camera;
+    }
+
+private:
+    std::mt19937 m_generator{20260101};
+};
+
+template <class Check>
+void forRandomCameras(Check check)
+{
+    RandomCameras random;
+    for (int i = 0; i < 300; ++i) {
+        const auto type = i % 2 == 0 ? Camera3d::ProjectionPerspective : Camera3d::ProjectionOrthographic;
+        SCOPED_TRACE("random camera " + std::to_string(i));
+        Camera3d camera = random.camera(type, i / 2 % 6);
+        check(camera, random);
+        if (testing::Test::HasFailure()) {
+            return;
+        }
+    }
+}
+
+std::vector<Matrixf> displayedMatrices(const Camera3d& camera)
+{
+    return {camera.getViewTransform(),           camera.getInvViewTransform(),      camera.getRotationTransform(),
+            camera.getInvRotationTransform(),    camera.getProjectionTransformRH(), camera.getProjectionTransformLH(),
+            camera.getInvProjectionTransformRH()};
+}
+
+/// The greatest difference of the elements of two matrices, against the greatest element.
+float relativeDifference(const Matrixf& a, const Matrixf& b)
+{
+    float difference = 0.0f;
+    float size = 0.0f;
+    for (int i = 0; i < 16; ++i) {
+        difference = std::max(difference, std::abs(a.data()[i] - b.data()[i]));
+        size = std::max(size, std::abs(a.data()[i]));
+    }
+    return difference / size;
+}
+
+TEST(Camera3d, aNewCameraHasItsDefaultsAndIdentityViews)
+{
+    const Camera3d camera;
+    EXPECT_EQ(camera.getChangeId(), 1);
+    EXPECT_TRUE(camera.isPerspectiveProjection());
+    EXPECT_FALSE(camera.isOrthographicProjection());
+    EXPECT_FALSE(camera.isOverrideResizeBehaviour());
+    EXPECT_EQ(camera.getOwnResizeBehaviour(), 2);
+    EXPECT_NEAR(camera.getHorizontalFOV(), 20.0f, 1e-5f);
+    EXPECT_NEAR(camera.getVerticalFOV(), 20.0f, 1e-5f);
+    EXPECT_EQ(camera.getOrthographicSize(), 10.0f);
+    EXPECT_EQ(camera.getNearClippingPlane(), 0.1f);
+    EXPECT_EQ(camera.getFarClippingPlane(), 100.0f);
+    EXPECT_EQ(camera.getRenderAreaWidth(), 100);
+    EXPECT_EQ(camera.getRenderAreaHeight(), 100);
+    EXPECT_EQ(camera.getForward(), Vector3f(0.0f, 0.0f, 1.0f));
+    EXPECT_EQ(camera.getDepthOrder(), (std::array{2, 0, 1}));
+    EXPECT_EQ(camera.getDollySpeedScale(), 1.0f);
+    const Matrixf identity(Matrixf::MatrixIdentity);
+    EXPECT_EQ(camera.getViewTransform(), identity);
+    EXPECT_EQ(camera.getRotationTransform(), identity);
+    // 2 * 0.1 * tan(20 degrees); the projection is there from the start.
+    EXPECT_NEAR(camera.getNearWidth(), 0.07279405f, 1e-8f);
+    EXPECT_NEAR(camera.getProjectionTransformRH().get(1, 1), 2.7474774f, 1e-6f);
+    EXPECT_NEAR(camera.getActualHorizontalFOV(), 0.34906585f, 1e-7f);
+}
+
+TEST(Camera3d, lookAtMakesOrthonormalAxesAndRemembersTheLength)
+{
+    Camera3d camera;
+    camera.lookAt({1.0f, 2.0f, 3.0f}, {0.0f, 4.0f, 0.0f}, {0.0f, 5.0f, 2.0f});
+    EXPECT_EQ(camera.getForward(), Vector3f(0.0f, 1.0f, 0.0f));
+    EXPECT_EQ(camera.getRight(), Vector3f(1.0f, 0.0f, 0.0f));
+    EXPECT_EQ(camera.getUp(), Vector3f(0.0f, 0.0f, 1.0f));
+    EXPECT_EQ(camera.getLookAtLength(), 4.0f);
+    EXPECT_EQ(camera.getPosition(), Vector3f(1.0f, 2.0f, 3.0f));
+    EXPECT_EQ(camera.getActualPosition(), camera.getPosition());
+    EXPECT_EQ(camera.getChangeId(), 2);
+}
+
+TEST(Camera3d, countsChangesAsTold)
+{
+    struct Case {
+        const char* name;
+        std::function<void(Camera3d&)> change;
+        int count;
+    };
+    const Case cases[] = {
+        {"setFOV", [](Camera3d& c) { c.setFOV(10.0f); }, 1},
+        {"setHorizontalFOV", [](Camera3d& c) { c.setHorizontalFOV(10.0f); }, 1},
+        {"setVerticalFOV", [](Camera3d& c) { c.setVerticalFOV(10.0f); }, 1},
+        {"setOrthographicSize", [](Camera3d& c) { c.setOrthographicSize(1.0f); }, 1},
+        {"setOrthographicWidth", [](Camera3d& c) { c.setOrthographicWidth(1.0f); }, 1},
+        {"setOrthographicHeight", [](Camera3d& c) { c.setOrthographicHeight(1.0f); }, 1},
+        {"setViewingScale", [](Camera3d& c) { c.setViewingScale(2.0f); }, 1},
+        {"setRelativeViewOffset", [](Camera3d& c) { c.setRelativeViewOffset(0.0f, 0.0f); }, 1},
+        {"setProjectionType, the same", [](Camera3d& c) { c.setProjectionType(Camera3d::ProjectionPerspective); }, 1},
+        {"setRotationPoint",
+         [](Camera3d& c) {
+             c.setRotationPoint({1.0f, 1.0f, 1.0f});
+         },
+         0},
+        {"setOverrideResizeBehaviour", [](Camera3d& c) { c.setOverrideResizeBehaviour(true, Resize::ResizeWidth); }, 0},
+        {"setAxisViewScales", [](Camera3d& c) { c.setAxisViewScales(1.0f, 2.0f, 3.0f); }, 0},
+        {"setAxisViewScalesAuto", [](Camera3d& c) { c.setAxisViewScalesAuto(); }, 0},
+        {"resetAxisViewScales", [](Camera3d& c) { c.resetAxisViewScales(); }, 0},
+        {"jitterPerspective", [](Camera3d& c) { c.jitterPerspective(0.5f, 0.5f); }, 0},
+        {"setRenderArea, the same", [](Camera3d& c) { c.setRenderArea(100, 100, 0, 0, 100, 100); }, 0},
+        {"setRenderArea, another canvas", [](Camera3d& c) { c.setRenderArea(101, 100, 0, 0, 100, 100); }, 1},
+        {"setBoundingBox, empty", [](Camera3d& c) { c.setBoundingBox(BoundingBox()); }, 0},
+        {"orbit by nothing", [](Camera3d& c) { c.setAdditionalSceneRotation(0.0f, 0.0f, 0.0f); }, 1},
+        {"turn", [](Camera3d& c) { c.setAdditionalRotation(0.0f, 0.0f, 0.1f); }, 1},
+        {"dolly", [](Camera3d& c) { c.setAdditionalSceneTranslation(0.0f, 0.0f, 1.0f); }, 1},
+        {"move", [](Camera3d& c) { c.setAdditionalTranslation(1.0f, 0.0f, 0.0f); }, 1},
+        {"zoom", [](Camera3d& c) { c.setAdditionalScale(0.5f, 0.5f, 0.5f); }, 1},
+        {"zoom on two axes", [](Camera3d& c) { c.setAdditionalScale(0.5f, 0.5f, 0.5f, 0.6f); }, 1},
+        {"pan", [](Camera3d& c) { c.setAdditionalRelativeViewOffset(0.1f, 0.1f); }, 1},
+        {"merge", [](Camera3d& c) { c.mergeAdditionalTransformation(); }, 1},
+        {"discard", [](Camera3d& c) { c.discardAdditionalTransformation(); }, 1},
+        {"import", [](Camera3d& c) { c.import(Camera3d()); }, 2},
+        {"import of itself", [](Camera3d& c) { c.import(c); }, 0},
+    };
+    for (const Case& row : cases) {
+        Camera3d camera = frontCamera();
+        camera.setRenderArea(100, 100, 0, 0, 100, 100);
+        const int before = camera.getChangeId();
+        row.change(camera);
+        EXPECT_EQ(camera.getChangeId() - before, row.count) << row.name;
+    }
+}
+
+TEST(Camera3d, aCopyIsTheSameViewWithItsOwnCount)
+{
+    Camera3d source = frontCamera();
+    source.setAdditionalSceneRotation(0.25f, 0.5f, 0.0f);
+    source.setAdditionalScale(0.25f, 0.5f, 0.5f);
+    const Camera3d copy(source);
+    EXPECT_EQ(copy.getChangeId(), 1);
+    EXPECT_EQ(displayedMatrices(copy), displayedMatrices(source));
+    EXPECT_EQ(copy.getActualPosition(), source.getActualPosition());
+    EXPECT_EQ(copy.getSceneBoundingBox(), source.getSceneBoundingBox());
+}
+
+TEST(Camera3d, importKeepsTheTargetsAreaAndDollySpeed)
+{
+    Camera3d source = frontCamera();
+    source.setRenderArea(300, 300, 5, 6, 70, 80);
+    source.moveToBoundingBox(BoundingBox(0.0f, 2.0f, 0.0f, 2.0f, 0.0f, 2.0f),
+                             BoundingBox(0.0f, 4.0f, 0.0f, 4.0f, 0.0f, 4.0f), 0.0f);
+    source.setAdditionalRotation(0.0f, 0.25f, 0.0f);
+    Camera3d target;
+    target.setRenderArea(100, 100, 1, 2, 50, 25);
+    target.import(source);
+    EXPECT_EQ(target.getRenderAreaLeft(), 1);
+    EXPECT_EQ(target.getRenderAreaBottom(), 2);
+    EXPECT_EQ(target.getRenderAreaWidth(), 50);
+    EXPECT_EQ(target.getRenderAreaHeight(), 25);
+    EXPECT_EQ(target.getDollySpeedScale(), 1.0f);
+    EXPECT_EQ(target.getViewTransform(), source.getViewTransform());
+    EXPECT_EQ(target.getPosition(), source.getPosition());
+    EXPECT_EQ(target.getHorizontalFOV(), source.getHorizontalFOV());
+    // The projection is that of its own area.
+    EXPECT_EQ(target.getNearHeight(), target.getNearWidth() * 0.5f);
+}
+
+TEST(Camera3d, eachResizeBehaviourGivesItsViewRectangle)
+{
+    struct Case {
+        int behaviour;
+        float width; ///< of the view of a base 8 by 2 in an area 200 by 100
+        float height;
+        float steepWidth; ///< of the view of a base 2 by 8
+        float steepHeight;
+        float size;      ///< what `getOrthographicSize` says of the first
+        float steepSize; ///< and of the second
+    };
+    const Case cases[] = {
+        {0, 8.0f, 4.0f, 2.0f, 1.0f, 8.0f, 2.0f}, {1, 4.0f, 2.0f, 16.0f, 8.0f, 2.0f, 8.0f},
+        {2, 4.0f, 2.0f, 2.0f, 1.0f, 2.0f, 2.0f}, {3, 8.0f, 4.0f, 16.0f, 8.0f, 8.0f, 8.0f},
+        {4, 4.0f, 2.0f, 4.0f, 2.0f, 4.0f, 4.0f}, {5, 8.0f, 2.0f, 2.0f, 8.0f, 4.0f, 4.0f},
+    };
+    for (const Case& row : cases) {
+        SCOPED_TRACE(row.behaviour);
+        for (const bool steep : {false, true}) {
+            Camera3d camera;
+            camera.setProjectionType(Camera3d::ProjectionOrthographic);
+            camera.setRenderArea(400, 400, 0, 0, steep ? 25 : 400, steep ? 100 : 100);
+            camera.setOrthographicWidth(steep ? 2.0f : 8.0f);
+            camera.setViewingScale(50.0f);
+            camera.setOverrideResizeBehaviour(true, static_cast<Camera3d::ResizeBehaviour>(row.behaviour));
+            camera.setRenderArea(400, 400, 0, 0, 200, 100);
+            EXPECT_EQ(camera.getNearWidth(), steep ? row.steepWidth : row.width);
+            EXPECT_EQ(camera.getNearHeight(), steep ? row.steepHeight : row.height);
+            EXPECT_EQ(camera.getOrthographicSize(), steep ? row.steepSize : row.size);
+            EXPECT_EQ(camera.getActualHorizontalFOV(), 0.0f);
+        }
+    }
+}
+
+TEST(Camera3d, eachResizeBehaviourHasItsAngleOfView)
+{
+    // An area as wide as high, angles of 30 and 45 degrees: the base view is higher than wide.
+    constexpr float angles[] = {30.0f, 45.0f, 30.0f, 45.0f, 0.0f, 0.0f};
+    for (int behaviour = 0; behaviour < 6; ++behaviour) {
+        Camera3d camera;
+        camera.setHorizontalFOV(30.0f);
+        camera.setVerticalFOV(45.0f);
+        camera.setOverrideResizeBehaviour(true, static_cast<Camera3d::ResizeBehaviour>(behaviour));
+        camera.setRenderArea(100, 100, 0, 0, 50, 50);
+        EXPECT_NEAR(camera.getFOV(), angles[behaviour], 1e-5f) << behaviour;
+        if (behaviour < 4) {
+            EXPECT_NEAR(camera.getNearWidth(), 0.2f * std::tan(angles[behaviour] * 3.14159265f / 180.0f), 1e-7f);
+            EXPECT_NEAR(camera.getActualVerticalFOV(), angles[behaviour] * 3.14159265f / 180.0f, 1e-6f);
+        }
+    }
+}
+
+TEST(Camera3d, theGlobalBehaviourHoldsUntilItIsOverridden)
+{
+    Camera3d camera;
+    camera.setProjectionType(Camera3d::ProjectionOrthographic);
+    camera.setRenderArea(200, 200, 0, 0, 200, 100);
+    camera.setOrthographicSize(8.0f);
+    EXPECT_EQ(camera.getNearHeight(), 8.0f); // The global one keeps the whole base view visible.
+    camera.setOverrideResizeBehaviour(true, Resize::ResizeFill);
+    EXPECT_EQ(camera.getNearHeight(), 8.0f);
+    camera.setRenderArea(200, 200, 0, 0, 200, 100);
+    EXPECT_EQ(camera.getNearHeight(), 4.0f);
+}
+
+TEST(Camera3d, valuesOfTheOtherProjectionLeaveThePictureAlone)
+{
+    Camera3d camera = frontCamera();
+    const std::vector<Matrixf> before = displayedMatrices(camera);
+    camera.setOrthographicSize(3.0f);
+    camera.setOrthographicWidth(5.0f);
+    camera.setOrthographicHeight(7.0f);
+    camera.setViewingScale(9.0f);
+    EXPECT_EQ(displayedMatrices(camera), before);
+    camera.setHorizontalFOV(7.0f);
+    camera.setVerticalFOV(7.0f);
+    EXPECT_NE(displayedMatrices(camera), before);
+}
+
+TEST(Camera3d, changingTheProjectionKeepsTheSizeAtTheRotationPoint)
+{
+    forRandomCameras([](Camera3d& camera, RandomCameras&) {
+        // The picture is computed from the base values in all behaviours but the one that keeps its size.
+        if (camera.getOwnResizeBehaviour() == Resize::ResizeKeep) {
+            return;
+        }
+        camera.setAdditionalTranslation(0.5f, -0.25f, 1.0f);
+        const Vector3f point = camera.getRotationPoint();
+        const Vector3f step =
+            camera.getViewBoundingBox(BoundingBox(point.x, point.x, point.y, point.y, point.z, point.z)).getCenter() -
+            camera.getActualPosition();
+        const float distance = step.length();
+        const auto size = [&] {
+            return camera.isPerspectiveProjection() ? camera.getNearWidth() * distance / camera.getNearClippingPlane()
+                                                    : camera.getNearWidth();
+        };
+        const float before = size();
+        camera.setProjectionType(camera.isPerspectiveProjection() ? Camera3d::ProjectionOrthographic
+                                                                  : Camera3d::ProjectionPerspective);
+        EXPECT_NEAR(size() / before, 1.0f, 1e-5f);
+    });
+}
+
+TEST(Camera3d, aPixelGoesToTheWorldAndBack)
+{
+    forRandomCameras([](Camera3d& camera, RandomCameras& random) {
+        const int x = camera.getRenderAreaLeft() + random.integer(0, camera.getRenderAreaWidth());
+        const int y = camera.getRenderAreaBottom() + random.integer(0, camera.getRenderAreaHeight());
+        const float depth = random.uniform(-1.0f, 1.0f);
+        const Vector3f screen = camera.worldToScreenRH(camera.screenToWorld(x, y, depth));
+        const float pixels = static_cast<float>(std::max(camera.getRenderAreaWidth(), camera.getRenderAreaHeight()));
+        EXPECT_NEAR(screen.x, static_cast<float>(x - camera.getRenderAreaLeft()), 1e-4f * pixels);
+        EXPECT_NEAR(screen.y, static_cast<float>(y - camera.getRenderAreaBottom()), 1e-4f * pixels);
+        if (camera.isPerspectiveProjection()) {
+            EXPECT_NEAR(screen.z, depth, 1e-3f);
+        } else {
+            // The world point lies near plus far behind the one that was seen.
+            const float n = camera.getNearClippingPlane();
+            const float f = camera.getFarClippingPlane();
+            EXPECT_NEAR(screen.z, depth - 2.0f * (n + f) / (f - n), 1e-3f);
+        }
+    });
+}
+
+TEST(Camera3d, aWorldPointGoesToTheScreenAsByTheFullMatrices)
+{
+    forRandomCameras([](Camera3d& camera, RandomCameras& random) {
+        const Vector3f point = camera.getRotationPoint() + random.vector(2.0f);
+        const Matrixf whole =
+            camera.getProjectionTransformLH() * camera.getViewTransform() * camera.getAxisViewScaleTransform();
+        const Vector3f device = whole * point;
+        const Vector3f screen = camera.worldToScreenLH(point);
+        const auto width = static_cast<float>(camera.getRenderAreaWidth());
+        const auto height = static_cast<float>(camera.getRenderAreaHeight());
+        EXPECT_NEAR(screen.x, (device.x + 1.0f) * 0.5f * width, 1e-4f * width);
+        EXPECT_NEAR(screen.y, (device.y + 1.0f) * 0.5f * height, 1e-4f * height);
+        EXPECT_NEAR(screen.z, device.z, 1e-4f);
+        // The two depth ranges agree.
+        EXPECT_NEAR(camera.worldToScreenRH(point).z, 2.0f * screen.z - 1.0f, 1e-3f);
+        EXPECT_LT(relativeDifference(camera.getViewTransform() * camera.getInvViewTransform(),
+                                     Matrixf(Matrixf::MatrixIdentity)),
+                  1e-5f);
+    });
+}
+
+/// One interaction with a strength from 0 to 1.
+using Drag = std::function<void(Camera3d&, float)>;
+
+const std::vector<Drag>& drags()
+{
+    static const std::vector<Drag> all{
+        [](Camera3d& c, float t) { c.setAdditionalSceneRotation(0.7f * t, -1.1f * t, 0.3f * t); },
+        [](Camera3d& c, float t) { c.setAdditionalRotation(-0.2f * t, 0.4f * t, 0.9f * t); },
+        [](Camera3d& c, float t) { c.setAdditionalSceneTranslation(1.5f * t, -0.5f * t, 2.0f * t); },
+        [](Camera3d& c, float t) { c.setAdditionalTranslation(-1.5f * t, 0.25f * t, 1.0f * t); },
+        [](Camera3d& c, float t) { c.setAdditionalScale(0.3f, 0.8f, 1.0f + 1.5f * t); },
+        [](Camera3d& c, float t) { c.setAdditionalScale(0.3f, 0.8f, 1.0f - 0.5f * t, 1.0f - 0.6f * t); },
+        [](Camera3d& c, float t) { c.setAdditionalRelativeViewOffset(0.2f * t, -0.4f * t); },
+    };
+    return all;
+}
+
+TEST(Camera3d, aDragInManyStepsEqualsItsLastStep)
+{
+    forRandomCameras([](Camera3d& camera, RandomCameras&) {
+        for (const Drag& drag : drags()) {
+            Camera3d inOneStep(camera);
+            drag(inOneStep, 1.0f);
+            Camera3d inManySteps(camera);
+            for (int step = 1; step <= 16; ++step) {
+                drag(inManySteps, static_cast<float>(step) / 16.0f);
+            }
+            EXPECT_EQ(displayedMatrices(inManySteps), displayedMatrices(inOneStep));
+        }
+    });
+}
+
+TEST(Camera3d, aMergeChangesNoDisplayedMatrix)
+{
+    forRandomCameras([](Camera3d& camera, RandomCameras&) {
+        for (const Drag& drag : drags()) {
+            drag(camera, 0.5f);
+            const std::vector<Matrixf> displayed = displayedMatrices(camera);
+            camera.mergeAdditionalTransformation();
+            EXPECT_EQ(displayedMatrices(camera), displayed);
+            EXPECT_EQ(camera.getPosition(), camera.getActualPosition());
+            // The base alone gives the same picture again, within rounding; where the size is not the base's to give,
+            // it falls back to the scale of 1.
+            const bool fixedPixels = camera.getOwnResizeBehaviour() == Resize::ResizePixels;
+            camera.discardAdditionalTransformation();
+            for (std::size_t i = 0; i < displayed.size() && !fixedPixels; ++i) {
+                EXPECT_LT(relativeDifference(displayedMatrices(camera)[i], displayed[i]), 1e-5f) << "matrix " << i;
+            }
+        }
+    });
+}
+
+TEST(Camera3d, discardReturnsToTheBitsOfTheBase)
+{
+    forRandomCameras([](Camera3d& camera, RandomCameras&) {
+        if (camera.getOwnResizeBehaviour() == Resize::ResizeKeep) {
+            return;
+        }
+        const std::vector<Matrixf> base = displayedMatrices(camera);
+        for (const Drag& drag : drags()) {
+            drag(camera, 1.0f);
+        }
+        EXPECT_NE(displayedMatrices(camera), base);
+        camera.discardAdditionalTransformation();
+        EXPECT_EQ(displayedMatrices(camera), base);
+    });
+}
+
+TEST(Camera3d, anOrbitKeepsTheRotationPointOnItsPixel)
+{
+    forRandomCameras([](Camera3d& camera, RandomCameras& random) {
+        const Vector3f before = camera.worldToScreenRH(camera.getRotationPoint());
+        camera.setAdditionalSceneRotation(random.uniform(-3.0f, 3.0f), random.uniform(-3.0f, 3.0f),
+                                          random.uniform(-3.0f, 3.0f));
+        const Vector3f after = camera.worldToScreenRH(camera.getRotationPoint());
+        EXPECT_NEAR(after.x, before.x, 0.05f);
+        EXPECT_NEAR(after.y, before.y, 0.05f);
+        EXPECT_NEAR(after.z, before.z, 1e-3f);
+    });
+}
+
+TEST(Camera3d, orbitTurnsAboutTheAxesOfTheView)
+{
+    const float quarter = 1.5707964f;
+    struct Case {
+        Vector3f angles;
+        Vector3f position; ///< of an eye at (0, 0, 6) that turns about the origin
+        Vector3f up;
+    };
+    const Case cases[] = {
+        {{quarter, 0.0f, 0.0f}, {0.0f, -6.0f, 0.0f}, {0.0f, 0.0f, 1.0f}},
+        {{0.0f, quarter, 0.0f}, {6.0f, 0.0f, 0.0f}, {0.0f, 1.0f, 0.0f}},
+        {{0.0f, 0.0f, quarter}, {0.0f, 0.0f, 6.0f}, {1.0f, 0.0f, 0.0f}},
+    };
+    for (const Case& row : cases) {
+        Camera3d camera = frontCamera();
+        camera.setAdditionalSceneRotation(row.angles.x, row.angles.y, row.angles.z);
+        EXPECT_LT((camera.getActualPosition() - row.position).length(), 1e-5f) << camera.getActualPosition();
+        EXPECT_LT((camera.getUpDirection() - row.up).length(), 1e-6f) << camera.getUpDirection();
+        EXPECT_LT((camera.getLookAtDirection() + row.position / 6.0f).length(), 1e-6f);
+        // The committed state waits for the merge.
+        EXPECT_EQ(camera.getForward(), Vector3f(0.0f, 0.0f, -1.0f));
+        EXPECT_EQ(camera.getPosition(), Vector3f(0.0f, 0.0f, 6.0f));
+    }
+}
+
+TEST(Camera3d, orbitByNothingTakesAnUncommittedMoveBack)
+{
+    Camera3d camera = frontCamera();
+    camera.setAdditionalTranslation(1.0f, 2.0f, 3.0f);
+    EXPECT_EQ(camera.getActualPosition(), Vector3f(1.0f, 2.0f, 3.0f));
+    camera.setAdditionalSceneRotation(0.0f, 0.0f, 0.0f);
+    EXPECT_EQ(camera.getActualPosition(), Vector3f(0.0f, 0.0f, 6.0f));
+}
+
+TEST(Camera3d, turningAppliesYawThenPitchThenRollAndStaysInPlace)
+{
+    const float quarter = 1.5707964f;
+    Camera3d camera = frontCamera();
+    camera.setAdditionalRotation(quarter, quarter, 0.0f);
+    // Pitch acts first on the axes: forward goes to up, which the yaw leaves.
+    EXPECT_LT((camera.getLookAtDirection() - Vector3f(0.0f, 1.0f, 0.0f)).length(), 1e-6f);
+    EXPECT_LT((camera.getUpDirection() - Vector3f(1.0f, 0.0f, 0.0f)).length(), 1e-6f);
+    EXPECT_EQ(camera.getActualPosition(), Vector3f(0.0f, 0.0f, 6.0f));
+}
+
+TEST(Camera3d, dollyMovesAlongTheLineToTheRotationPoint)
+{
+    Camera3d camera = frontCamera();
+    camera.setRotationPoint({0.0f, 8.0f, 0.0f});
+    // The line of sight to the point is (0, 0.8, -0.6); across it lie (1, 0, 0) and (0, 0.6, 0.8).
+    camera.setAdditionalSceneTranslation(2.0f, 5.0f, 10.0f);
+    EXPECT_LT((camera.getActualPosition() - Vector3f(2.0f, 11.0f, 4.0f)).length(), 1e-5f);
+    camera.setAdditionalSceneTranslation(0.0f, 0.0f, 0.0f);
+    EXPECT_EQ(camera.getActualPosition(), camera.getPosition());
+}
+
+TEST(Camera3d, zoomHoldsThePointThatItIsAbout)
+{
+    forRandomCameras([](Camera3d& camera, RandomCameras& random) {
+        const float cx = random.uniform(0.1f, 0.9f);
+        const float cy = random.uniform(0.1f, 0.9f);
+        const float factor = random.uniform(0.3f, 3.0f);
+        if (camera.getOwnResizeBehaviour() == Resize::ResizeKeep) {
+            return;
+        }
+        // The point of the picture in the view, by the inverse projection.
+        const Vector3f device(2.0f * cx - 1.0f, 2.0f * cy - 1.0f, 0.5f);
+        const Vector3f before = device.transformed(camera.getInvProjectionTransformRH());
+        const float width = camera.getNearWidth();
+        camera.setAdditionalScale(cx, cy, factor);
+        const Vector3f after = device.transformed(camera.getInvProjectionTransformRH());
+        EXPECT_NEAR(camera.getNearWidth() / width, factor, 1e-5f);
+        EXPECT_NEAR(after.x / width, before.x / width, 1e-4f * std::abs(before.z) / camera.getNearClippingPlane());
+        EXPECT_NEAR(after.y / width, before.y / width, 1e-4f * std::abs(before.z) / camera.getNearClippingPlane());
+    });
+}
+
+TEST(Camera3d, zoomToTheCentreHalvesTheViewAndLeavesNoOffset)
+{
+    for (const auto type : {Camera3d::ProjectionPerspective, Camera3d::ProjectionOrthographic}) {
+        Camera3d camera = frontCamera();
+        camera.setProjectionType(type);
+        const float width = camera.getNearWidth();
+        camera.setAdditionalScale(0.5f, 0.5f, 1.0f / 2.0f);
+        camera.mergeAdditionalTransformation();
+        EXPECT_EQ(camera.getNearWidth(), width * 0.5f);
+        EXPECT_EQ(camera.getRelativeViewOffsetX(), 0.0f);
+        camera.setRenderArea(100, 100, 0, 0, 100, 100);
+        EXPECT_NEAR(camera.getNearWidth() / width, 0.5f, 1e-6f);
+    }
+}
+
+TEST(Camera3d, magnificationStopsWhereTheViewIsTinyAgainstTheClippingRange)
+{
+    // 8 - 4 times 1e-5 is 4e-5.
+    for (const auto type : {Camera3d::ProjectionPerspective, Camera3d::ProjectionOrthographic}) {
+        SCOPED_TRACE(type);
+        Camera3d camera = frontCamera();
+        camera.setProjectionType(type);
+        camera.setFOV(45.0f);
+        camera.setOrthographicSize(6.0f);
+        // In perspective the half extent at the rotation point counts, six units away.
+        camera.setAdditionalScale(0.5f, 0.5f, 0.9e-5f);
+        EXPECT_EQ(camera.getNearWidth() < 8.0f, true);
+        camera.mergeAdditionalTransformation();
+        camera.setAdditionalScale(0.5f, 0.5f, 0.7f);
+        camera.mergeAdditionalTransformation();
+        const std::vector<Matrixf> smallest = displayedMatrices(camera);
+        const int count = camera.getChangeId();
+        camera.setAdditionalScale(0.1f, 0.1f, 0.999f);
+        EXPECT_EQ(displayedMatrices(camera), smallest);
+        EXPECT_EQ(camera.getRelativeViewOffsetX(), 0.0f);
+        EXPECT_EQ(camera.getChangeId(), count);
+        camera.setAdditionalScale(0.5f, 0.5f, 1.0f);
+        EXPECT_EQ(camera.getChangeId(), count + 1);
+        camera.setAdditionalScale(0.5f, 0.5f, 2.0f);
+        EXPECT_NE(displayedMatrices(camera), smallest);
+    }
+}
+
+TEST(Camera3d, panSpeedIsTheSizeOfAPixelAtTheRotationPoint)
+{
+    forRandomCameras([](Camera3d& camera, RandomCameras&) {
+        // The eye looks at the rotation point, so a step to the right is a step across the line of sight.
+        camera.resetAxisViewScales();
+        camera.setRelativeViewOffset(0.0f, 0.0f);
+        camera.lookAt(camera.getRotationPoint() - camera.getForward() * 12.0f, camera.getForward(), camera.getUp());
+        const Vector3f step = camera.getRight() * (100.0f * camera.getPanSpeed());
+        const float from = camera.worldToScreenRH(camera.getRotationPoint()).x;
+        EXPECT_NEAR(camera.worldToScreenRH(camera.getRotationPoint() + step).x - from, 100.0f, 0.1f);
+    });
+}
+
+TEST(Camera3d, worldToPixelScaleIsTheLengthOfADiagonalStepOfTheView)
+{
+    Camera3d camera = frontCamera();
+    camera.setOverrideResizeBehaviour(true, Resize::ResizePixels);
+    camera.setViewingScale(25.0f);
+    // At the near plane a unit is 25 pixels wide and, in the twice as wide area, as high; at 6 units a pixel is 1.5 as
+    // large.
+    camera.setRenderArea(200, 200, 0, 0, 200, 100);
+    EXPECT_NEAR(camera.worldToPixelScale({0.0f, 0.0f, 2.0f}), 25.0f * std::sqrt(2.0f), 1e-4f);
+    EXPECT_NEAR(camera.worldToPixelScale({0.0f, 0.0f, 0.0f}), 25.0f / 1.5f * std::sqrt(2.0f), 1e-4f);
+    camera.setAxisViewScales(3.0f, 4.0f, 1.0f);
+    EXPECT_NEAR(camera.worldToPixelScale({0.0f, 0.0f, 2.0f}), 25.0f * 5.0f, 1e-4f);
+}
+
+TEST(Camera3d, renderAreaIsLoggedAndAJitterEndsWithIt)
+{
+    Camera3d camera = frontCamera();
+    camera.setRelativeViewOffset(0.125f, -0.25f);
+    CapturedLog log(ErrorLog::Level::info);
+    camera.setRenderArea(300, 200, 0, 0, 200, 100);
+    EXPECT_EQ(log.messages(), (Strings{"Setting renderarea to, w:200, h:100."}));
+    for (const auto type : {Camera3d::ProjectionPerspective, Camera3d::ProjectionOrthographic}) {
+        camera.setProjectionType(type);
+        const std::vector<Matrixf> still = displayedMatrices(camera);
+        const Vector3f point(0.25f, 0.5f, 1.0f);
+        const Vector3f before = camera.worldToScreenRH(point);
+        camera.jitterPerspective(0.25f, -0.5f);
+        // A jitter moves the image by parts of pixels, and the inverse with it.
+        EXPECT_NEAR(camera.worldToScreenRH(point).x - before.x, 0.25f, 1e-3f);
+        EXPECT_NEAR(camera.worldToScreenRH(point).y - before.y, -0.5f, 1e-3f);
+        EXPECT_NEAR(camera.worldToScreenLH(point).x - before.x, 0.25f, 1e-3f);
+        const Vector3f device(0.5f, 0.25f, 0.75f);
+        const Vector3f back =
+            device.transformed(camera.getInvProjectionTransformRH()).transformed(camera.getProjectionTransformRH());
+        EXPECT_NEAR(back.x, device.x, 1e-6f);
+        EXPECT_NEAR(back.y, device.y, 1e-6f);
+        camera.jitterPerspective(0.0f, 0.0f);
+        EXPECT_EQ(displayedMatrices(camera), still);
+        camera.jitterPerspective(0.25f, -0.5f);
+        camera.setRenderArea(300, 200, 0, 0, 200, 100);
+        EXPECT_EQ(displayedMatrices(camera), still);
+    }
+    EXPECT_EQ(log.messages().size(), 1u);
+}
+
+TEST(Camera3d, theClippingPlanesEncloseTheSceneAndTheRotationPoint)
+{
+    Camera3d camera;
+    camera.lookAt({0.0f, 0.0f, 20.0f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
+    camera.setRotationPoint({0.0f, 0.0f, -8.0f});
+    camera.setAxisViewScales(1.0f, 1.0f, 2.0f);
+    CapturedLog log(ErrorLog::Level::info);
+    // With the rotation point at z = -16 and the box at -8 to 8: a centre at -4, a radius of 12 times 1.5.
+    camera.setBoundingBox(BoundingBox(0.0f, 0.0f, 0.0f, 0.0f, -4.0f, 4.0f));
+    EXPECT_EQ(camera.getNearClippingPlane(), 6.0f);
+    EXPECT_EQ(camera.getFarClippingPlane(), 42.0f);
+    EXPECT_EQ(log.messages(), (Strings{"Setting clippingplanes near: 6.000000, far: 42.000000"}));
+}
+
+TEST(Camera3d, theClippingPlanesMoveOnlyByMoreThanATenth)
+{
+    // Eye at 6, planes 4 and 8, so the threshold is 0.4.
+    const auto widen = [](float half) {
+        Camera3d camera = frontCamera();
+        const BoundingBox box(-half, half, 0.0f, 0.0f, 0.0f, 0.0f);
+        camera.setBoundingBox(box);
+        EXPECT_EQ(camera.getSceneBoundingBox(), box);
+        return camera.getNearClippingPlane();
+    };
+    EXPECT_EQ(widen(2.39f / 1.5f), 4.0f);
+    EXPECT_NEAR(widen(2.41f / 1.5f), 3.59f, 1e-5f);
+
+    Camera3d camera = frontCamera();
+    camera.setBoundingBox(BoundingBox());
+    EXPECT_FALSE(camera.getSceneBoundingBox().isValid());
+    EXPECT_EQ(camera.getNearClippingPlane(), 4.0f);
+}
+
+TEST(Camera3d, theNearPlaneKeepsAThousandthOfTheRadius)
+{
+    Camera3d camera;
+    camera.lookAt({0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
+    camera.setBoundingBox(BoundingBox(-2e7f, 2e7f, 0.0f, 0.0f, 0.0f, 0.0f));
+    EXPECT_FLOAT_EQ(camera.getNearClippingPlane(), 3e4f);
+    EXPECT_EQ(camera.getFarClippingPlane(), 3e7f);
+    // One point at the rotation point counts as a sphere of radius 1.
+    camera.setBoundingBox(BoundingBox(0.0f, 0.0f, 0.0f, 0.0f, 0.0f, 0.0f));
+    EXPECT_EQ(camera.getNearClippingPlane(), 0.001f);
+    EXPECT_EQ(camera.getFarClippingPlane(), 1.0f);
+}
+
+TEST(Camera3d, aSceneLargerThanFloatsLeavesThePlanes)
+{
+    Camera3d camera = frontCamera();
+    const float half = 1.6e38f;
+    camera.setBoundingBox(BoundingBox(-half, half, -half, half, -half, half));
+    EXPECT_EQ(camera.getNearClippingPlane(), 4.0f);
+    EXPECT_EQ(camera.getFarClippingPlane(), 8.0f);
+}
+
+TEST(Camera3d, axisScalesStretchTheSceneToACube)
+{
+    Camera3d camera;
+    camera.setAxisViewScalesAuto();
+    EXPECT_FALSE(camera.hasViewScaleTransform());
+    camera.setRotationPoint({1.0f, 1.0f, 1.0f});
+    camera.setBoundingBox(BoundingBox(0.0f, 8.0f, 0.0f, 2.0f, 3.0f, 3.0f));
+    camera.setAxisViewScalesAuto();
+    EXPECT_EQ(camera.getAxisViewScaleX(), 1.0f);
+    EXPECT_EQ(camera.getAxisViewScaleY(), 4.0f);
+    EXPECT_EQ(camera.getAxisViewScaleZ(), 1.0f);
+    EXPECT_TRUE(camera.hasViewScaleTransform());
+    EXPECT_EQ(camera.getAxisViewScaleTransform() * Vector3f(1.0f, 1.0f, 1.0f), Vector3f(1.0f, 4.0f, 1.0f));
+    EXPECT_EQ(camera.getInvAxisViewScaleTransform() * Vector3f(1.0f, 1.0f, 1.0f), Vector3f(1.0f, 0.25f, 1.0f));
+    EXPECT_EQ(camera.getRotationPoint(), Vector3f(1.0f, 1.0f, 1.0f));
+    // The scaled point (1, 4, 1) is what the camera turns about.
+    camera.lookAt({1.0f, 4.0f, 9.0f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
+    camera.setAdditionalSceneTranslation(0.0f, 0.0f, 8.0f);
+    EXPECT_EQ(camera.getActualPosition(), Vector3f(1.0f, 4.0f, 1.0f));
+
+    camera.setAxisViewScales(1.0f, 1.0f, 1.0f);
+    EXPECT_FALSE(camera.hasViewScaleTransform());
+    EXPECT_EQ(camera.getAxisViewScaleTransform(), Matrixf(Matrixf::MatrixIdentity));
+    EXPECT_FALSE(camera.getViewBoundingBox(BoundingBox()).isValid());
+}
+
+TEST(Camera3d, depthOrderPutsTheFarthestAxisFirstAndEqualOnesStay)
+{
+    struct Case {
+        Vector3f direction; ///< of the line of sight; an axis along it ends far away
+        std::array<int, 3> order;
+    };
+    const Case cases[] = {
+        {{1.0f, 2.0f, 3.0f}, {2, 1, 0}},  {{3.0f, 2.0f, 1.0f}, {0, 1, 2}},  {{-3.0f, -1.0f, -2.0f}, {1, 2, 0}},
+        {{2.0f, 3.0f, -1.0f}, {1, 0, 2}}, {{1.0f, -2.0f, 2.5f}, {2, 0, 1}}, {{3.0f, 1.0f, 2.0f}, {0, 2, 1}},
+    };
+    for (const Case& row : cases) {
+        Camera3d camera;
+        camera.lookAt({0.0f, 0.0f, 0.0f}, row.direction, {0.3f, 0.7f, -0.9f});
+        EXPECT_EQ(camera.getDepthOrder(), row.order) << row.direction;
+        // Along z alone the other two axes are equally deep and keep their places.
+        const bool yBeforeX = row.order[1] == 1 ? row.order[2] == 0 : row.order[0] == 1;
+        camera.lookAt({0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 1.0f}, {0.0f, 1.0f, 0.0f});
+        EXPECT_EQ(camera.getDepthOrder(), (yBeforeX ? std::array{2, 1, 0} : std::array{2, 0, 1})) << row.direction;
+    }
+}
+
+TEST(Camera3d, moveToBoundingBoxShowsTheWholeBoxInAreasOfAnyShape)
+{
+    forRandomCameras([](Camera3d& camera, RandomCameras& random) {
+        camera.setOverrideResizeBehaviour(true, Resize::ResizeFit);
+        camera.setRelativeViewOffset(0.0f, 0.0f);
+        const int width = random.integer(1, 64);
+        camera.setRenderArea(2000, 2000, 0, 0, width, random.integer(1, 64));
+        const BoundingBox focus = random.box(random.vector(5.0f), 4.0f);
+        BoundingBox scene = random.box(random.vector(5.0f), 9.0f);
+        scene.merge(focus);
+        camera.moveToBoundingBox(focus, scene, 0.0f);
+        camera.setBoundingBox(scene);
+        float widest = 0.0f;
+        for (int i = 0; i < 8; ++i) {
+            const Vector3f screen = camera.worldToScreenRH(focus.getVertex(i));
+            const float x = screen.x / static_cast<float>(width) * 2.0f - 1.0f;
+            const float y = screen.y / static_cast<float>(camera.getRenderAreaHeight()) * 2.0f - 1.0f;
+            widest = std::max({widest, std::abs(x), std::abs(y)});
+        }
+        // Inside, and no farther than the margin of 5 percent.
+        EXPECT_LT(widest, 1.0f);
+        EXPECT_GT(widest, 0.9f);
+        const float expected = camera.getViewBoundingBox(scene).getBoundingRadius();
+        EXPECT_EQ(camera.getDollySpeedScale(), expected);
+    });
+}
+
+TEST(Camera3d, moveToABoxOfOnePointLooksAtIt)
+{
+    for (const auto type : {Camera3d::ProjectionPerspective, Camera3d::ProjectionOrthographic}) {
+        Camera3d camera = frontCamera();
+        camera.setProjectionType(type);
+        const BoundingBox point(1.0f, 1.0f, 2.0f, 2.0f, 3.0f, 3.0f);
+        camera.moveToBoundingBox(point, point, 0.5f);
+        EXPECT_EQ(camera.getPosition(), Vector3f(1.0f, 2.0f, 4.0f));
+        EXPECT_EQ(camera.getDollySpeedScale(), 0.0f);
+        // A quarter of the distance on each side, drawn in to a twentieth of it with the margin.
+        const float half = camera.isPerspectiveProjection()
+                               ? camera.getNearWidth() / camera.getNearClippingPlane() * 0.5f
+                               : camera.getNearWidth() * 0.5f;
+        EXPECT_NEAR(half, 0.25f * 0.05f * 1.05f, 1e-7f);
+        const Vector3f screen = camera.worldToScreenRH({1.0f, 2.0f, 3.0f});
+        EXPECT_NEAR(screen.x, 50.0f, 1e-3f);
+        EXPECT_NEAR(screen.y, 50.0f, 1e-3f);
+    }
+}
+
+TEST(Camera3d, moveToBoundingBoxFitsTheSphereWhereTheSettingsSaySo)
+{
+    Canvas3dGlobalSettings& settings = *Canvas3dGlobalSettings::getInstance();
+    settings.setZoomToExtentBehaviour(Canvas3dGlobalSettings::ZoomToExtentSphere);
+    Camera3d camera = frontCamera();
+    const BoundingBox focus(-1.0f, 1.0f, -2.0f, 2.0f, -2.0f, 2.0f);
+    const BoundingBox scene(-2.0f, 2.0f, -4.0f, 4.0f, -4.0f, 4.0f);
+    camera.moveToBoundingBox(focus, scene, 1.0f);
+    // A radius of 6 with the margin, seen from ten times as far; around the focus its own radius of 3 on each side.
+    EXPECT_NEAR(camera.getPosition().z, 63.0f, 1e-4f);
+    const float radius = std::sqrt(4.0f * 4.0f + 5.0f * 5.0f + 5.0f * 5.0f);
+    EXPECT_NEAR(std::tan(camera.getActualHorizontalFOV()), radius * 1.05f / 63.0f, 1e-6f);
+    EXPECT_EQ(camera.getRelativeViewOffsetX(), 0.0f);
+
+    camera.setProjectionType(Camera3d::ProjectionOrthographic);
+    camera.setRenderArea(200, 200, 0, 0, 200, 100);
+    camera.moveToBoundingBox(focus, scene, 0.0f);
+    EXPECT_NEAR(camera.getNearHeight(), 2.0f * 3.0f * 1.05f, 1e-5f);
+    EXPECT_NEAR(camera.getNearWidth(), 4.0f * 3.0f * 1.05f, 1e-5f);
+    settings.setZoomToExtentBehaviour(Canvas3dGlobalSettings::ZoomToExtentTight);
+}
+
+TEST(Camera3d, aFarPlaneTenMillionTimesTheNearOneStillMapsPixels)
+{
+    Camera3d camera;
+    camera.lookAt({0.0f, 0.0f, 1.0f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
+    camera.setBoundingBox(BoundingBox(-1e6f, 1e6f, 0.0f, 0.0f, 0.0f, 0.0f));
+    camera.lookAt({0.0f, 0.0f, 1500.0f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
+    const Vector3f near = camera.screenToWorld(75, 25, -1.0f);
+    const Vector3f screen = camera.worldToScreenRH(near);
+    EXPECT_NEAR(screen.x, 75.0f, 1e-2f);
+    EXPECT_NEAR(screen.y, 25.0f, 1e-2f);
+    EXPECT_NEAR(screen.z, -1.0f, 1e-3f);
+}
+
+TEST(Camera3d, degenerateInputGivesNumbersOrNotButNeverFails)
+{
+    Camera3d camera = frontCamera();
+    camera.setRenderArea(0, 0, 0, 0, 0, 0);
+    camera.setAdditionalScale(0.5f, 0.5f, 0.0f);
+    camera.mergeAdditionalTransformation();
+    camera.lookAt({1.0f, 1.0f, 1.0f}, {0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 0.0f});
+    camera.setProjectionType(Camera3d::ProjectionOrthographic);
+    camera.setAxisViewScales(0.0f, std::nanf(""), c_infinity);
+    camera.screenToWorld(std::numeric_limits<int>::max(), std::numeric_limits<int>::min(), c_infinity);
+    camera.setRenderArea(10, 10, std::numeric_limits<int>::min(), 0, 1, 1);
+    camera.screenToWorld(std::numeric_limits<int>::max(), 0, 0.0f);
+    camera.setRotationPoint(camera.getPosition());
+    camera.setAdditionalSceneRotation(1.0f, 1.0f, 1.0f);
+    camera.setAdditionalSceneTranslation(1.0f, 1.0f, 1.0f);
+    EXPECT_EQ(camera.getForward(), Vector3f());
+
+    // Good values bring it back.
+    camera.import(frontCamera());
+    camera.setRenderArea(100, 100, 0, 0, 1, 1);
+    const Vector3f screen = camera.worldToScreenRH({0.0f, 0.0f, 0.0f});
+    EXPECT_EQ(screen.x, 0.5f);
+    EXPECT_EQ(screen.y, 0.5f);
+}
+
+} // namespace
+} // namespace vxgraphics3d
