@@ -48,6 +48,18 @@ private:
     int m_line;
 };
 
+/// A message on a number from Java that stands for nothing and is tolerated.
+inline void logNativeError(vxbase::LogText<> text)
+{
+    detail::logLine<>(ErrorLog::Level::error, c_nativeLogSubId, text);
+}
+
+/// A message on an oddity in a call from Java.
+inline void logNativeWarning(vxbase::LogText<> text)
+{
+    detail::logLine<>(ErrorLog::Level::warning, c_nativeLogSubId, text);
+}
+
 /// The frame of every native: logs the entry, runs the body, and turns whatever it throws into a Java exception.
 /// @return what the body returns, or the zero of that type if it threw
 template <class Operation>
