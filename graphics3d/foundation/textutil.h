@@ -1,12 +1,13 @@
 #pragma once
 
+#include "base/export.h"
 #include "base/ustring.h"
 #include "graphics3d/foundation/textformat.h"
 
 namespace vxgraphics3d {
 
 /// Prepares texts for the renderer's text formatter.
-class TextUtil {
+class VX_API TextUtil {
 public:
     TextUtil() = delete;
 

@@ -1,0 +1,76 @@
+#include "renderer/gl/glprogram.h"
+
+#include "graphics3d/foundation/matrixf.h"
+
+#include <stdexcept>
+#include <string>
+
+namespace vxrenderer {
+namespace {
+
+constexpr const char* c_version = "#version 330 core\n";
+
+std::string failureText(const char* name, const char* step, const char* log)
+{
+    return std::string("the shader of ") + name + " does not " + step + ": " + log;
+}
+
+class Shader {
+public:
+    Shader(GLenum type, const char* name, const char* source) : m_shader(glCreateShader(type))
+    {
+        const char* const sources[] = {c_version, source};
+        glShaderSource(m_shader, 2, sources, nullptr);
+        glCompileShader(m_shader);
+        GLint isCompiled = GL_FALSE;
+        glGetShaderiv(m_shader, GL_COMPILE_STATUS, &isCompiled);
+        if (isCompiled == GL_FALSE) {
+            char log[1024] = "";
+            glGetShaderInfoLog(m_shader, sizeof log, nullptr, log);
+            glDeleteShader(m_shader);
+            throw std::runtime_error(failureText(name, "compile", log));
+        }
+    }
+    ~Shader() { glDeleteShader(m_shader); }
+    Shader(const Shader&) = delete;
+    Shader& operator=(const Shader&) = delete;
+
+    GLuint name() const { return m_shader; }
+
+private:
+    GLuint m_shader;
+};
+
+} // namespace
+
+GlProgram::GlProgram(const char* name, const char* vertexSource, const char* fragmentSource) : m_program(0)
+{
+    const Shader vertexShader(GL_VERTEX_SHADER, name, vertexSource);
+    const Shader fragmentShader(GL_FRAGMENT_SHADER, name, fragmentSource);
+    m_program = glCreateProgram();
+    glAttachShader(m_program, vertexShader.name());
+    glAttachShader(m_program, fragmentShader.name());
+    glLinkProgram(m_program);
+    GLint isLinked = GL_FALSE;
+    glGetProgramiv(m_program, GL_LINK_STATUS, &isLinked);
+    if (isLinked == GL_FALSE) {
+        char log[1024] = "";
+        glGetProgramInfoLog(m_program, sizeof log, nullptr, log);
+        glDeleteProgram(m_program);
+        throw std::runtime_error(failureText(name, "link", log));
+    }
+    glDetachShader(m_program, vertexShader.name());
+    glDetachShader(m_program, fragmentShader.name());
+}
+
+GlProgram::~GlProgram()
+{
+    glDeleteProgram(m_program);
+}
+
+void GlProgram::set(GLint place, const vxgraphics3d::Matrixf& matrix)
+{
+    glUniformMatrix4fv(place, 1, GL_FALSE, matrix.data());
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "renderer/gl/globject.h"
+
+#include <cstdint>
+
+namespace vxrenderer {
+
+/// The buffers that a picture is drawn into: one with several samples a pixel for the scene, and a plain one that the
+/// scene is resolved to and that text and legends are drawn over.
+class Target {
+public:
+    /// Pixels that a picture may have at most; beyond it the buffers would take the memory of the process.
+    static constexpr std::int64_t c_largestPixelCount = std::int64_t(1) << 26;
+
+    /// @param samples a pixel, 1 for none; more than the driver has are reduced to what it has
+    /// @throws std::invalid_argument if a size is below 1 or above what the driver allows
+    /// @throws std::runtime_error if the driver does not give the buffers
+    Target(int width, int height, int samples);
+
+    int getWidth() const { return m_width; }
+    int getHeight() const { return m_height; }
+    /// Samples in use.
+    int getSamples() const { return m_samples; }
+
+    /// Lets what follows draw into the scene buffer, which is cleared to a colour (0 to 1).
+    void beginScene(float red, float green, float blue) const;
+    /// Brings the scene into the plain buffer and lets what follows draw over it.
+    void beginOverlay() const;
+    /// Copies the plain buffer out: four bytes a pixel, red first, the top row first.
+    /// @param pixels room for 4 * width * height bytes
+    void read(std::uint8_t* pixels) const;
+
+private:
+    int m_width;
+    int m_height;
+    int m_samples;
+    GlFramebuffer m_scene;
+    GlRenderbuffer m_sceneColor;
+    GlRenderbuffer m_sceneDepth;
+    GlFramebuffer m_plain;
+    GlRenderbuffer m_plainColor;
+};
+
+} // namespace vxrenderer

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace vxrenderer {
+
+/// What is written into an image file beside its pixels. Texts are UTF-8; empty ones are left out.
+struct PngSettings {
+    /// Pixels per inch for the physical size; 0 for none.
+    int dpi = 0;
+    /// Whether the file keeps the alpha channel.
+    bool hasAlpha = false;
+    std::string title;
+    std::string creator;
+};
+
+/// The bytes of a PNG file with 8 bits a channel.
+/// @param rgba four bytes a pixel, the top row first
+/// @throws std::invalid_argument if a size is below 1, or the dpi negative or above a million
+/// @throws std::runtime_error if the encoder fails
+std::vector<std::uint8_t> encodePng(const std::uint8_t* rgba, int width, int height, const PngSettings& settings);
+
+/// Writes an image to a file. A file that cannot be written in full is removed again.
+/// @param path in UTF-8
+/// @throws std::runtime_error that names the path and what the system said
+void writePng(const std::string& path, const std::uint8_t* rgba, int width, int height, const PngSettings& settings);
+
+} // namespace vxrenderer

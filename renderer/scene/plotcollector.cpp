@@ -1,0 +1,60 @@
+#include "renderer/scene/plotcollector.h"
+
+#include "graphics3d/plots/scenegraphplotgroup.h"
+#include "graphics3d/scenegraph/scenegraphgroup.h"
+#include "graphics3d/scenegraph/scenegraphroot.h"
+
+#include <boost/pointer_cast.hpp>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::SceneGraphGroup;
+using vxgraphics3d::SceneGraphNode;
+using vxgraphics3d::SceneGraphPlotGroup;
+using vxgraphics3d::SceneGraphRoot;
+
+void addPlots(const SceneGraphNode& node, std::vector<PlotItem>& plots)
+{
+    const auto group = boost::dynamic_pointer_cast<const SceneGraphPlotGroup>(node.self());
+    if (!group) {
+        return;
+    }
+    for (auto [plot, end] = group->getPlots(); plot != end; ++plot) {
+        if (plot->second->isActive() && plot->second->isValid()) {
+            plots.push_back({group, plot->second});
+        }
+    }
+}
+
+} // namespace
+
+std::vector<PlotItem> collectPlots(const SceneGraphRoot& root)
+{
+    std::vector<PlotItem> plots;
+    // A list of open nodes instead of calls: groups may be nested deeper than any stack.
+    std::vector<const SceneGraphNode*> open;
+    if (root.isActive() && root.doesChildExist(0)) {
+        open.push_back(root.getChild(0));
+    }
+    while (!open.empty()) {
+        const SceneGraphNode* node = open.back();
+        open.pop_back();
+        if (!node->isActive()) {
+            continue;
+        }
+        if (node->getType() == SceneGraphNode::NodePlotGroup) {
+            addPlots(*node, plots);
+        } else if (node->getType() == SceneGraphNode::NodeGroup) {
+            // The last child first, so that the first one is taken up next.
+            auto [first, child] = static_cast<const SceneGraphGroup*>(node)->getChildren();
+            while (child != first) {
+                --child;
+                open.push_back(child->second.get());
+            }
+        }
+    }
+    return plots;
+}
+
+} // namespace vxrenderer

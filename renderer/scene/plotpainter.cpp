@@ -1,0 +1,14 @@
+#include "renderer/scene/plotpainter.h"
+
+#include "renderer/scene/surfacepainter.h"
+
+namespace vxrenderer {
+
+std::vector<std::unique_ptr<PlotPainter>> makePlotPainters()
+{
+    std::vector<std::unique_ptr<PlotPainter>> painters;
+    painters.push_back(std::make_unique<SurfacePainter>());
+    return painters;
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,14 @@
+#pragma once
+
+namespace vxrenderer {
+
+/// How often data were handed to the graphics hardware since the renderer was made: what a change has cost.
+struct UploadCounts {
+    int meshes = 0;
+    int colorTables = 0;
+    int glyphPictures = 0;
+
+    bool operator==(const UploadCounts&) const = default;
+};
+
+} // namespace vxrenderer

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "renderer/text/fontlibrary.h"
+#include "renderer/text/glyphatlas.h"
+
+#include <unordered_map>
+
+namespace vxrenderer {
+
+/// One face at one size: the glyphs that were asked for, drawn once into an atlas of its own.
+class Font {
+public:
+    /// Where a glyph stands in the atlas and how it lies at the pen, in pixels.
+    struct Glyph {
+        /// Empty for a blank.
+        int width = 0;
+        int height = 0;
+        int atlasX = 0;
+        int atlasY = 0;
+        /// From the pen to the left edge, and from the baseline up to the top edge.
+        int left = 0;
+        int top = 0;
+        float advance = 0.0f;
+    };
+
+    /// @param pixelSize height of the em square, at least 1
+    Font(FontLibrary::Face face, int pixelSize);
+
+    /// The glyph of a character, or null if the face does not have it. It lives as long as the font.
+    const Glyph* glyph(char32_t character);
+    /// What the face stores for this pair.
+    float kerning(char32_t left, char32_t right);
+
+    float getAscent() const { return m_ascent; }
+    float getDescent() const { return m_descent; }
+    const GlyphAtlas& getAtlas() const { return m_atlas; }
+
+private:
+    /// The size is a property of the shared face: it is set before every use.
+    void useSize();
+    Glyph draw(unsigned glyphIndex);
+
+    FontLibrary::Face m_face;
+    int m_pixelSize;
+    float m_ascent = 0.0f;
+    float m_descent = 0.0f;
+    GlyphAtlas m_atlas;
+    std::unordered_map<char32_t, Glyph> m_glyphs;
+};
+
+} // namespace vxrenderer

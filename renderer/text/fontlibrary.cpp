@@ -1,0 +1,99 @@
+#include "renderer/text/fontlibrary.h"
+
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+namespace vxrenderer {
+namespace {
+
+constexpr std::array c_folders = {"/usr/share/fonts/truetype/dejavu", "/usr/share/fonts/dejavu",
+                                  "/usr/share/fonts/dejavu-sans-fonts", "/usr/share/fonts/TTF",
+                                  "/usr/local/share/fonts/dejavu"};
+
+const char* fileOf(const FontFace& face)
+{
+    // By family, then regular, bold, italic, bold italic.
+    static constexpr const char* c_files[5][4] = {
+        {"DejaVuSans.ttf", "DejaVuSans-Bold.ttf", "DejaVuSans-Oblique.ttf", "DejaVuSans-BoldOblique.ttf"},
+        {"DejaVuSerif.ttf", "DejaVuSerif-Bold.ttf", "DejaVuSerif-Italic.ttf", "DejaVuSerif-BoldItalic.ttf"},
+        {"DejaVuSansMono.ttf", "DejaVuSansMono-Bold.ttf", "DejaVuSansMono-Oblique.ttf",
+         "DejaVuSansMono-BoldOblique.ttf"},
+        {"DejaVuSansCondensed.ttf", "DejaVuSansCondensed-Bold.ttf", "DejaVuSansCondensed-Oblique.ttf",
+         "DejaVuSansCondensed-BoldOblique.ttf"},
+        {"DejaVuMathTeXGyre.ttf", "DejaVuMathTeXGyre.ttf", "DejaVuMathTeXGyre.ttf", "DejaVuMathTeXGyre.ttf"}};
+    return c_files[static_cast<int>(face.family)][(face.bold ? 1 : 0) + (face.italic ? 2 : 0)];
+}
+
+} // namespace
+
+FontLibrary::FontLibrary()
+{
+    FT_Library library = nullptr;
+    if (FT_Init_FreeType(&library) != 0) {
+        throw std::runtime_error("the font library does not start");
+    }
+    m_library.reset(library, FT_Done_FreeType);
+}
+
+FontFace::Family FontLibrary::familyByName(const std::string& name)
+{
+    std::string key;
+    for (const char c : name) {
+        if (c != ' ' && c != '-') {
+            key.push_back(c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c);
+        }
+    }
+    if (key.starts_with("dejavu")) {
+        key.erase(0, 6);
+    }
+    if (key == "serif") {
+        return FontFace::Family::serif;
+    }
+    if (key == "sansmono" || key == "mono" || key == "monospaced" || key == "monospace") {
+        return FontFace::Family::mono;
+    }
+    if (key == "sanscondensed" || key == "condensed") {
+        return FontFace::Family::condensed;
+    }
+    return FontFace::Family::sans;
+}
+
+FontLibrary::Face FontLibrary::find(const FontFace& face)
+{
+    const auto known = m_faces.find(face);
+    if (known != m_faces.end()) {
+        return known->second;
+    }
+    Face& found = m_faces[face];
+    for (const char* folder : c_folders) {
+        const std::string path = std::string(folder) + "/" + fileOf(face);
+        FT_Face opened = nullptr;
+        if (FT_New_Face(m_library.get(), path.c_str(), 0, &opened) == 0) {
+            const boost::shared_ptr<FT_LibraryRec_> library = m_library;
+            found.reset(opened, [library](FT_Face gone) { FT_Done_Face(gone); });
+            break;
+        }
+    }
+    return found;
+}
+
+FontLibrary::Face FontLibrary::face(const FontFace& face)
+{
+    const FontFace plain;
+    for (const FontFace& wanted : {face, FontFace{face.family, face.bold, false}, plain}) {
+        if (Face found = find(wanted)) {
+            return found;
+        }
+    }
+    std::string places;
+    for (const char* folder : c_folders) {
+        places += std::string(places.empty() ? "" : ", ") + folder;
+    }
+    throw std::runtime_error(std::string("the font file ") + fileOf(plain) + " is in none of " + places);
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,203 @@
+#include "renderer/canvas/offscreencanvas.h"
+
+#include "base/ustring.h"
+#include "graphics3d/plots/colortable.h"
+#include "renderer/scene/view.h"
+#include "tests/renderer/support/testscene.h"
+
+#include <gtest/gtest.h>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::SceneGraphPlotSurface2d;
+
+constexpr Rgb c_blue = {0, 0, 255};
+constexpr Rgb c_red = {255, 0, 0};
+const std::vector<int> c_twoColors = {0x0000ff, 0xff0000};
+
+/// Title and legends about a flat plot, in a picture of 400 by 300 pixels.
+class DecorationTest : public ::testing::Test {
+protected:
+    DecorationTest()
+    {
+        m_settings.showBox = false;
+        m_canvas.setSettings(m_settings);
+        m_canvas.setRoot(m_scene.root);
+    }
+
+    /// Rows of a column that have a colour.
+    static std::vector<int> rowsOf(const Picture& picture, int x, const Rgb& color)
+    {
+        std::vector<int> rows;
+        for (int y = 0; y < picture.height; ++y) {
+            if (picture.at(x, y) == color) {
+                rows.push_back(y);
+            }
+        }
+        return rows;
+    }
+    /// The middle of the first bar right of the scene.
+    int barColumn() const
+    {
+        const PixelArea& area = m_canvas.getView().area;
+        return area.x + area.width + 20;
+    }
+
+    PictureSettings m_settings;
+    OffscreenCanvas m_canvas{400, 300, 4};
+    TestScene m_scene;
+};
+
+TEST_F(DecorationTest, theSceneKeepsClearOfTitleAndLegends)
+{
+    m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors)->setTitle(TextFormat::plain, "A title");
+    drawn(m_canvas);
+    const PixelArea withBoth = m_canvas.getView().area;
+    m_settings.showTitle = false;
+    m_canvas.setSettings(m_settings);
+    drawn(m_canvas);
+    const PixelArea withLegend = m_canvas.getView().area;
+    m_settings.showLegends = false;
+    m_canvas.setSettings(m_settings);
+    const Picture bare = drawn(m_canvas);
+    const PixelArea alone = m_canvas.getView().area;
+    EXPECT_LT(withLegend.y, withBoth.y);
+    EXPECT_LT(withLegend.width, alone.width);
+    // What is drawn beside the scene is what was asked for, and nothing else.
+    EXPECT_EQ(bare.countDrawn(0, 0, 400, alone.y), 0);
+    EXPECT_EQ(bare.countDrawn(alone.x + alone.width, 0, 400, 300), 0);
+    m_settings.showTitle = true;
+    m_settings.showLegends = true;
+    m_canvas.setSettings(m_settings);
+    const Picture full = drawn(m_canvas);
+    EXPECT_GT(full.countDrawn(0, 0, withBoth.x + withBoth.width, withBoth.y), 100) << "the title";
+    EXPECT_GT(full.countDrawn(withBoth.x + withBoth.width, withBoth.y, 400, 300), 1000) << "the legend";
+    EXPECT_EQ(full.countDrawn(withBoth.x + withBoth.width, withBoth.y, withBoth.x + withBoth.width + 8, 300), 0);
+}
+
+TEST_F(DecorationTest, theBarRunsFromTheLowestColorBelowToTheHighestAbove)
+{
+    const auto plot = m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
+    const Picture picture = drawn(m_canvas);
+    const auto red = rowsOf(picture, barColumn(), c_red);
+    const auto blue = rowsOf(picture, barColumn(), c_blue);
+    ASSERT_GT(red.size(), 50u);
+    EXPECT_NEAR(static_cast<double>(red.size()), static_cast<double>(blue.size()), 1.0);
+    EXPECT_EQ(red.back() + 1, blue.front());
+    // Limits move the data within the colours; the bar goes on showing all of them.
+    plot->setLegendLimits(-5.0, 5.0);
+    EXPECT_EQ(rowsOf(drawn(m_canvas), barColumn(), c_red), red);
+    plot->setReverseColorTable(true);
+    EXPECT_EQ(rowsOf(drawn(m_canvas), barColumn(), c_blue), red);
+}
+
+TEST_F(DecorationTest, constantDataShowOneColorAndOneLabel)
+{
+    GridRecord record;
+    record.value = [](double, double) { return 5.0; };
+    m_scene.add<SceneGraphPlotSurface2d>(1, record, {0x0000ff, 0x00ff00, 0xff0000});
+    const Picture picture = drawn(m_canvas);
+    EXPECT_TRUE(rowsOf(picture, barColumn(), c_blue).empty());
+    EXPECT_TRUE(rowsOf(picture, barColumn(), c_red).empty());
+    EXPECT_GT(rowsOf(picture, barColumn(), {0, 255, 0}).size(), 100u);
+    // Right of the bar there is something at half its height and nowhere else.
+    const auto green = rowsOf(picture, barColumn(), {0, 255, 0});
+    const int middle = (green.front() + green.back()) / 2;
+    const int right = barColumn() + 14;
+    EXPECT_GT(picture.countDrawn(right, middle - 10, 400, middle + 10), 10);
+    EXPECT_EQ(picture.countDrawn(right, 0, 400, middle - 10), 0);
+    EXPECT_EQ(picture.countDrawn(right, middle + 10, 400, 300), 0);
+}
+
+TEST_F(DecorationTest, ticksStandAtTheHeightOfTheirValues)
+{
+    m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
+    const Picture picture = drawn(m_canvas);
+    // The ends of the ticks, just right of the frame of the bar.
+    int frame = barColumn();
+    while (picture.at(frame, 150) == c_red || picture.at(frame, 150) == c_blue) {
+        ++frame;
+    }
+    std::vector<int> ticks;
+    for (int y = 0; y < 300; ++y) {
+        if (picture.at(frame + 2, y) != c_white) {
+            ticks.push_back(y);
+        }
+    }
+    // 0.0 to 1.0 in steps of 0.2; the first and last in the rows of the frame's ends.
+    ASSERT_EQ(ticks.size(), 6u);
+    const auto red = rowsOf(picture, barColumn(), c_red);
+    const auto blue = rowsOf(picture, barColumn(), c_blue);
+    EXPECT_EQ(ticks.front(), red.front() - 1);
+    EXPECT_EQ(ticks.back(), blue.back() + 1);
+    for (std::size_t i = 1; i < ticks.size(); ++i) {
+        EXPECT_NEAR(ticks[i] - ticks[i - 1], (ticks.back() - ticks.front()) / 5.0, 1.0);
+    }
+}
+
+TEST_F(DecorationTest, showsALegendForEachPlotThatHasOne)
+{
+    m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
+    drawn(m_canvas);
+    const int one = m_canvas.getView().area.width;
+    const auto second = m_scene.add<SceneGraphPlotSurface2d>(2, {}, c_twoColors);
+    drawn(m_canvas);
+    EXPECT_LT(m_canvas.getView().area.width, one - 30);
+    second->setShowLegend(false);
+    drawn(m_canvas);
+    EXPECT_EQ(m_canvas.getView().area.width, one);
+    second->setShowLegend(true);
+    second->setColor({255, 255, 255, 255});
+    drawn(m_canvas);
+    EXPECT_EQ(m_canvas.getView().area.width, one);
+}
+
+TEST_F(DecorationTest, theTitleFollowsItsChanges)
+{
+    const auto plot = m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
+    const auto top = [&] {
+        drawn(m_canvas);
+        return m_canvas.getView().area.y;
+    };
+    const int none = top();
+    m_scene.group->setTitle(TextFormat::plain, "One line");
+    const int one = top();
+    EXPECT_GT(one, none);
+    m_scene.group->setTitle(TextFormat::plain, "Two\nlines");
+    EXPECT_GT(top(), one);
+    m_scene.group->setTitle(TextFormat::plain, "");
+    EXPECT_EQ(top(), none);
+    // Another group whose titles were changed as often.
+    m_scene.group->setTitle(TextFormat::plain, "One line");
+    EXPECT_EQ(top(), one);
+    const auto other = vxgraphics3d::SceneGraphPlotGroup::create();
+    m_scene.group->removePlot(1);
+    other->addPlot(plot);
+    while (other->getTitleChangeId() < m_scene.group->getTitleChangeId()) {
+        other->setTitle(TextFormat::plain, "");
+    }
+    m_scene.root->setChild(other);
+    EXPECT_EQ(top(), none);
+}
+
+TEST_F(DecorationTest, longTitlesAndSmallPicturesStayReadable)
+{
+    const auto plot = m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
+    std::string text;
+    for (int i = 0; i < 500; ++i) {
+        text += "word ";
+    }
+    plot->setTitle(TextFormat::plain, vxbase::UString(text));
+    drawn(m_canvas);
+    EXPECT_GE(m_canvas.getView().area.height, 150);
+    EXPECT_GE(m_canvas.getView().area.width, 150);
+    for (const int size : {1, 2, 10, 30, 60}) {
+        m_canvas.resize(size, size);
+        drawn(m_canvas);
+        EXPECT_LE(m_canvas.getView().area.width, size);
+    }
+}
+
+} // namespace
+} // namespace vxrenderer

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "datacarrier/postdataobject.h"
+#include "graphics3d/plots/scalar/scenegraphplotsurface2d.h"
+#include "graphics3d/plots/scalar/scenegraphplotsurface3d.h"
+#include "graphics3d/plots/scenegraphplotgroup.h"
+#include "graphics3d/scenegraph/scenegraphroot.h"
+#include "renderer/canvas/offscreencanvas.h"
+
+#include <boost/shared_ptr.hpp>
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace vxrenderer {
+
+/// A surface over the unit square as a grid of n by n cells of two triangles, in the form that plots are filled from.
+/// Its functions take x and y from 0 to 1.
+struct GridRecord {
+    using Function = std::function<double(double, double)>;
+
+    int cells = 1;
+    Function value = [](double x, double) { return x; };
+    /// Third coordinate; absent for a flat surface without normals.
+    Function height;
+    /// Turns all normals round.
+    bool areNormalsDown = false;
+
+    vxdatacarrier::PostDataObject make() const;
+};
+
+/// The colour of a pixel.
+using Rgb = std::array<int, 3>;
+
+/// A picture, read back.
+struct Picture {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint8_t> bytes;
+
+    /// The pixel at a place from the top left corner.
+    Rgb at(int x, int y) const;
+    /// Number of pixels of another colour than white in a rectangle.
+    int countDrawn(int left, int top, int right, int bottom) const;
+};
+
+inline constexpr Rgb c_white = {255, 255, 255};
+
+/// Draws and reads back.
+Picture drawn(OffscreenCanvas& canvas);
+
+/// Where a point of the scene stands in the picture drawn last, in pixels from the top left corner.
+std::array<double, 2> pixelOf(const OffscreenCanvas& canvas, const vxgraphics3d::Vector3f& point);
+
+/// A scene with one group of plots.
+struct TestScene {
+    boost::shared_ptr<vxgraphics3d::SceneGraphRoot> root = vxgraphics3d::SceneGraphRoot::create();
+    boost::shared_ptr<vxgraphics3d::SceneGraphPlotGroup> group = vxgraphics3d::SceneGraphPlotGroup::create();
+
+    TestScene() { root->setChild(group); }
+
+    /// Adds a filled plot with a colour table of these colours (0xRRGGBB), in bands of one colour.
+    template <class Plot>
+    boost::shared_ptr<Plot> add(int id, const GridRecord& record, const std::vector<int>& colors)
+    {
+        boost::shared_ptr<Plot> plot(new Plot(id));
+        addFilled(plot, record, colors);
+        return plot;
+    }
+
+private:
+    void addFilled(const boost::shared_ptr<vxgraphics3d::SceneGraphPlot>& plot, const GridRecord& record,
+                   const std::vector<int>& colors);
+};
+
+/// Settings for exact colours: no light, and nothing but the plots.
+PictureSettings bareSettings();
+
+} // namespace vxrenderer

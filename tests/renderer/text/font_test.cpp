@@ -1,0 +1,113 @@
+#include "renderer/text/fontset.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+namespace vxrenderer {
+namespace {
+
+TEST(FontSet, takesItsFacesFromTheFamilyAskedFor)
+{
+    const struct {
+        const char* name;
+        FontFace::Family family;
+    } cases[] = {{"default", FontFace::Family::sans},          {"", FontFace::Family::sans},
+                 {"No Such Font", FontFace::Family::sans},     {"DejaVu Serif", FontFace::Family::serif},
+                 {"Serif", FontFace::Family::serif},           {"Monospaced", FontFace::Family::mono},
+                 {"DejaVu Sans Mono", FontFace::Family::mono}, {"DejaVu Sans Condensed", FontFace::Family::condensed}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(FontLibrary::familyByName(c.name), c.family) << c.name;
+    }
+}
+
+TEST(FontSet, scalesWithTheSizeAndTheScriptLevel)
+{
+    FontLibrary library;
+    FontSet small(library, "default", 20);
+    FontSet large(library, "default", 40);
+    const TextStyle normal;
+    TextStyle index;
+    index.scriptLevel = 1;
+    EXPECT_NEAR(large.advance(U'm', normal), 2.0f * small.advance(U'm', normal), 1.0f);
+    EXPECT_NEAR(small.advance(U'm', index), 0.72f * small.advance(U'm', normal), 1.0f);
+    EXPECT_GT(large.ascent(normal), large.descent(normal));
+    EXPECT_EQ(FontSet(library, "default", 100000).fontSize(), static_cast<float>(FontSet::c_largestSize));
+}
+
+TEST(FontSet, drawsACharacterOnceAndTellsWhereItLies)
+{
+    FontLibrary library;
+    FontSet fonts(library, "default", 24);
+    const FontSet::Found found = fonts.find(U'H', {});
+    const GlyphAtlas& atlas = found.font->getAtlas();
+    const int changeId = atlas.getChangeId();
+    ASSERT_GT(found.glyph->height, 14);
+    EXPECT_EQ(found.glyph->top, found.glyph->height) << "the letter stands on the baseline";
+    EXPECT_EQ(fonts.find(U'H', {}).glyph, found.glyph);
+    EXPECT_EQ(atlas.getChangeId(), changeId);
+
+    // The left stem is dark from top to bottom.
+    const auto at = [&](int x, int y) {
+        const int offset = (found.glyph->atlasY + y) * atlas.getWidth() + found.glyph->atlasX + x;
+        return atlas.getPixels()[static_cast<std::size_t>(offset)];
+    };
+    for (int y = 0; y < found.glyph->height; ++y) {
+        EXPECT_GT(at(1, y), 200) << y;
+    }
+}
+
+TEST(FontSet, kernsPairsThatTheFaceNames)
+{
+    FontLibrary library;
+    FontSet fonts(library, "default", 40);
+    EXPECT_LT(fonts.kerning(U'A', U'V', {}), 0.0f);
+    EXPECT_EQ(fonts.kerning(U'H', U'H', {}), 0.0f);
+}
+
+TEST(FontSet, findsWhatTheFamilyLacksElsewhere)
+{
+    FontLibrary library;
+    FontSet mono(library, "mono", 20);
+    FontSet sans(library, "default", 20);
+    const char32_t script = 0x1D4B6;
+    EXPECT_GT(sans.find(script, {}).glyph->width, 0) << "a letter of the mathematics face";
+    // No face has a character of this plane: all such show the same glyph.
+    const Font::Glyph& unknown = *mono.find(0x10FFFD, {}).glyph;
+    EXPECT_GT(unknown.width, 0);
+    EXPECT_EQ(mono.find(0xD800, {}).glyph->width, unknown.width);
+}
+
+TEST(GlyphAtlas, keepsGlyphsApartAndInPlaceWhileItGrows)
+{
+    GlyphAtlas atlas(32);
+    std::vector<std::uint8_t> glyph(100);
+    std::vector<GlyphAtlas::Place> places;
+    for (int i = 0; i < 40; ++i) {
+        std::fill(glyph.begin(), glyph.end(), static_cast<std::uint8_t>(i + 1));
+        const auto place = atlas.add(glyph.data(), 10, 7, 10);
+        ASSERT_TRUE(place);
+        places.push_back(*place);
+    }
+    EXPECT_EQ(atlas.getChangeId(), 41);
+    int covered = 0;
+    for (int y = 0; y < atlas.getHeight(); ++y) {
+        for (int x = 0; x < atlas.getWidth(); ++x) {
+            const int value = atlas.getPixels()[static_cast<std::size_t>(y * atlas.getWidth() + x)];
+            if (value == 0) {
+                continue;
+            }
+            ++covered;
+            const GlyphAtlas::Place place = places[static_cast<std::size_t>(value - 1)];
+            EXPECT_TRUE(x >= place.x && x < place.x + 10 && y >= place.y && y < place.y + 7);
+            const bool hasRight = x + 1 < atlas.getWidth();
+            const int right = hasRight ? atlas.getPixels()[static_cast<std::size_t>(y * atlas.getWidth() + x + 1)] : 0;
+            EXPECT_TRUE(right == 0 || right == value);
+        }
+    }
+    EXPECT_EQ(covered, 40 * 70);
+    EXPECT_FALSE(atlas.add(glyph.data(), 31, 3, 31)) << "wider than a row";
+}
+
+} // namespace
+} // namespace vxrenderer
