@@ -1,5 +1,7 @@
 #include "base/java/javaclasses.h"
 
+#include "base/java/peerhandle.h"
+
 namespace vxbase {
 
 namespace {
@@ -35,9 +37,9 @@ bool load(JNIEnv* env, JavaClasses& java)
     if (java.peer == nullptr || java.doubleArray == nullptr) {
         return false;
     }
-    java.peerHandle = env->GetFieldID(java.peer, "handle", "J");
+    detail::g_peerHandleField = env->GetFieldID(java.peer, "handle", "J");
     java.peerSetHandle = env->GetMethodID(java.peer, "setHandle", "(J)V");
-    return java.peerHandle != nullptr && java.peerSetHandle != nullptr;
+    return detail::g_peerHandleField != nullptr && java.peerSetHandle != nullptr;
 }
 
 } // namespace

@@ -7,7 +7,6 @@ namespace vxbase {
 /// The Java classes and members that native code reaches, looked up once when the virtual machine loads the library.
 struct JavaClasses {
     jclass peer = nullptr;             ///< com.vexane.graphics3d.NativePeer
-    jfieldID peerHandle = nullptr;     ///< its field `long handle`
     jmethodID peerSetHandle = nullptr; ///< its method `void setHandle(long)`
     jclass exception = nullptr;        ///< com.vexane.graphics3d.NativeException
     jmethodID exceptionInit = nullptr; ///< its constructor (key, detail, file, line)

@@ -14,8 +14,6 @@ namespace {
 
 constexpr const char* c_internalError = "Internal_error_graphics3d";
 
-static_assert(sizeof(jlong) >= sizeof(void*));
-
 void* toPointer(jlong number)
 {
     return std::bit_cast<void*>(static_cast<std::uintptr_t>(number));
@@ -26,31 +24,24 @@ jlong toNumber(void* pointer)
     return static_cast<jlong>(std::bit_cast<std::uintptr_t>(pointer));
 }
 
-[[noreturn]] void throwNoHandle(bool isNull, int line = __builtin_LINE())
-{
-    throw Exception(fileNameOf(__FILE__), line, c_internalError, isNull ? "The peer is null." : "The peer is closed.");
-}
-
 } // namespace
 
-void* getWsPtrOrNull(JNIEnv* env, jobject peer)
+namespace detail {
+
+jfieldID g_peerHandleField = nullptr;
+
+void throwNoHandle(bool isNull)
 {
-    return peer == nullptr ? nullptr : toPointer(env->GetLongField(peer, javaClasses().peerHandle));
+    throw Exception(fileNameOf(__FILE__), __LINE__, c_internalError,
+                    isNull ? "The peer is null." : "The peer is closed.");
 }
 
-void* getWsPtr(JNIEnv* env, jobject peer)
-{
-    void* pointer = getWsPtrOrNull(env, peer);
-    if (pointer == nullptr) {
-        throwNoHandle(peer == nullptr);
-    }
-    return pointer;
-}
+} // namespace detail
 
 void setWsPtr(JNIEnv* env, jobject peer, void* handle)
 {
     if (peer == nullptr) {
-        throwNoHandle(true);
+        detail::throwNoHandle(true);
     }
     env->CallVoidMethod(peer, javaClasses().peerSetHandle, toNumber(handle));
     throwIfPending(env);

@@ -6,6 +6,8 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <bit>
+#include <cstdint>
 #include <memory>
 #include <type_traits>
 #include <typeinfo>
@@ -23,11 +25,36 @@ struct PeerHandle {
     boost::shared_ptr<void> object;
 };
 
+namespace detail {
+
+/// The field of a Java peer that holds the address of its handle, known once the virtual machine has loaded the
+/// library.
+extern VX_API jfieldID g_peerHandleField;
+
+[[noreturn]] VX_API void throwNoHandle(bool isNull);
+
+} // namespace detail
+
+/// The handle in a peer, or null if the peer is null or closed. Every native begins with it, so it is inline.
+inline void* getWsPtrOrNull(JNIEnv* env, jobject peer)
+{
+    static_assert(sizeof(jlong) >= sizeof(void*));
+    return peer == nullptr
+               ? nullptr
+               : std::bit_cast<void*>(static_cast<std::uintptr_t>(env->GetLongField(peer, detail::g_peerHandleField)));
+}
+
 /// The handle in a peer.
 /// @throws Exception if the peer is null or closed
-VX_API void* getWsPtr(JNIEnv* env, jobject peer);
-/// The handle in a peer, or null if the peer is null or closed.
-VX_API void* getWsPtrOrNull(JNIEnv* env, jobject peer);
+inline void* getWsPtr(JNIEnv* env, jobject peer)
+{
+    void* handle = getWsPtrOrNull(env, peer);
+    if (handle == nullptr) {
+        detail::throwNoHandle(peer == nullptr);
+    }
+    return handle;
+}
+
 VX_API void setWsPtr(JNIEnv* env, jobject peer, void* handle);
 VX_API void setNullWsPtr(JNIEnv* env, jobject peer);
 

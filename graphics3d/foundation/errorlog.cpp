@@ -48,11 +48,9 @@ private:
 
 boost::shared_ptr<ErrorLog> ErrorLog::m_instance;
 
-ErrorLog* ErrorLog::getInstance()
+ErrorLog* ErrorLog::makeInstance()
 {
-    if (!m_instance) {
-        m_instance.reset(new ErrorLog);
-    }
+    m_instance.reset(new ErrorLog);
     return m_instance.get();
 }
 

@@ -25,7 +25,7 @@ public:
     enum class ModuleID : int { graphics = 0 };
 
     /// The process-wide log, made at the first call.
-    static ErrorLog* getInstance();
+    static ErrorLog* getInstance() { return m_instance ? m_instance.get() : makeInstance(); }
 
     ErrorLog(const ErrorLog&) = delete;
     ErrorLog& operator=(const ErrorLog&) = delete;
@@ -70,6 +70,7 @@ public:
 private:
     ErrorLog() = default;
 
+    static ErrorLog* makeInstance();
     void setTarget(std::FILE* target, bool owned);
 
     static boost::shared_ptr<ErrorLog> m_instance;
