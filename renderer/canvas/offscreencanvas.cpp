@@ -1,5 +1,6 @@
 #include "renderer/canvas/offscreencanvas.h"
 
+#include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "renderer/gl/target.h"
 #include "renderer/scene/scenerenderer.h"
@@ -26,16 +27,25 @@ void requireNoFault()
 
 OffscreenCanvas::OffscreenCanvas(int width, int height, int samples) : m_samples(samples)
 {
+    // Into the members at the end only: what fails on the way is undone while the context is still current.
     const EglContext::Current current(m_context);
-    m_target = std::make_unique<Target>(width, height, samples);
-    m_renderer = std::make_unique<SceneRenderer>();
+    auto target = std::make_unique<Target>(width, height, samples);
+    auto renderer = std::make_unique<SceneRenderer>();
+    m_target = std::move(target);
+    m_renderer = std::move(renderer);
 }
 
 OffscreenCanvas::~OffscreenCanvas()
 {
-    const EglContext::Current current(m_context);
-    m_renderer.reset();
-    m_target.reset();
+    try {
+        const EglContext::Current current(m_context);
+        m_renderer.reset();
+        m_target.reset();
+    } catch (...) {
+        // The context is in use on another thread, against the rules. Without it nothing can be freed in order.
+        static_cast<void>(m_renderer.release());
+        static_cast<void>(m_target.release());
+    }
 }
 
 void OffscreenCanvas::resize(int width, int height)
@@ -60,8 +70,15 @@ int OffscreenCanvas::getSamples() const
     return m_target->getSamples();
 }
 
+void OffscreenCanvas::setScene(boost::shared_ptr<const vxgraphics3d::Scene> scene)
+{
+    m_scene = std::move(scene);
+    m_root = m_scene ? m_scene->getRoot() : nullptr;
+}
+
 void OffscreenCanvas::setRoot(boost::shared_ptr<const vxgraphics3d::SceneGraphRoot> root)
 {
+    m_scene.reset();
     m_root = std::move(root);
 }
 
@@ -84,18 +101,24 @@ const PictureSettings& OffscreenCanvas::getSettings() const
 
 void OffscreenCanvas::draw()
 {
+    if (m_scene && m_scene->isDisposed()) {
+        setScene(nullptr);
+    }
     const EglContext::Current current(m_context);
     m_renderer->draw(m_root.get(), *m_target);
     requireNoFault();
     m_isDrawn = true;
 }
 
+std::size_t OffscreenCanvas::imageSize() const
+{
+    return std::size_t(4) * static_cast<std::size_t>(getWidth()) * static_cast<std::size_t>(getHeight());
+}
+
 void OffscreenCanvas::readImage(std::uint8_t* pixels, std::size_t numBytes) const
 {
-    const std::size_t needed =
-        std::size_t(4) * static_cast<std::size_t>(getWidth()) * static_cast<std::size_t>(getHeight());
-    if (numBytes != needed) {
-        throw std::invalid_argument("The image takes " + std::to_string(needed) + " bytes, not " +
+    if (numBytes != imageSize()) {
+        throw std::invalid_argument("The image takes " + std::to_string(imageSize()) + " bytes, not " +
                                     std::to_string(numBytes) + ".");
     }
     if (!m_isDrawn) {
@@ -106,17 +129,11 @@ void OffscreenCanvas::readImage(std::uint8_t* pixels, std::size_t numBytes) cons
     requireNoFault();
 }
 
-std::vector<std::uint8_t> OffscreenCanvas::image() const
+std::vector<std::uint8_t> OffscreenCanvas::encodePng(const PngSettings& settings) const
 {
-    std::vector<std::uint8_t> pixels(std::size_t(4) * static_cast<std::size_t>(getWidth()) *
-                                     static_cast<std::size_t>(getHeight()));
+    std::vector<std::uint8_t> pixels(imageSize());
     readImage(pixels.data(), pixels.size());
-    return pixels;
-}
-
-void OffscreenCanvas::writePng(const std::string& path, const PngSettings& settings) const
-{
-    vxrenderer::writePng(path, image().data(), getWidth(), getHeight(), settings);
+    return vxrenderer::encodePng(pixels.data(), getWidth(), getHeight(), settings);
 }
 
 const UploadCounts& OffscreenCanvas::getUploadCounts() const

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "renderer/gl/eglcontext.h"
-#include "renderer/picture/pngwriter.h"
+#include "renderer/picture/pngencoder.h"
 #include "renderer/scene/picturesettings.h"
 #include "renderer/scene/uploadcounts.h"
 
@@ -43,9 +43,9 @@ public:
     int getHeight() const;
     int getSamples() const;
 
-    /// Shows a scene, or nothing for null.
+    /// Shows a scene, or nothing for null. The canvas drops its share when it finds the scene disposed.
     void setScene(boost::shared_ptr<const vxgraphics3d::Scene> scene);
-    /// Shows a tree without a scene, or nothing for null.
+    /// Shows a tree by itself, or nothing for null.
     void setRoot(boost::shared_ptr<const vxgraphics3d::SceneGraphRoot> root);
 
     /// How the next picture is drawn.
@@ -56,12 +56,15 @@ public:
     /// Draws the picture.
     /// @throws std::runtime_error if the driver reports a fault
     void draw();
+    /// Bytes of the picture.
+    std::size_t imageSize() const;
     /// Copies the picture drawn last: four bytes a pixel, red first, the top row first.
     /// @throws std::invalid_argument if there is not exactly the room for it
     /// @throws std::logic_error if nothing was drawn since the size was given
     void readImage(std::uint8_t* pixels, std::size_t numBytes) const;
-    /// Writes the picture drawn last to a file.
-    void writePng(const std::string& path, const PngSettings& settings) const;
+    /// The bytes of an image file of the picture drawn last.
+    /// @throws std::logic_error if nothing was drawn since the size was given
+    std::vector<std::uint8_t> encodePng(const PngSettings& settings) const;
 
     const UploadCounts& getUploadCounts() const;
     /// How the scene was seen in the picture drawn last.
@@ -70,8 +73,6 @@ public:
     std::string getDriver() const;
 
 private:
-    std::vector<std::uint8_t> image() const;
-
     EglContext m_context;
     std::unique_ptr<Target> m_target;
     std::unique_ptr<SceneRenderer> m_renderer;

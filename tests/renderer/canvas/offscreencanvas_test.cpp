@@ -2,11 +2,13 @@
 
 #include "graphics3d/plots/colortable.h"
 #include "graphics3d/plots/scalar/scenegraphplotdomain3d.h"
+#include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphgroup.h"
 #include "renderer/scene/view.h"
 #include "tests/renderer/support/testscene.h"
 #include "tests/support/capturedlog.h"
 
+#include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -313,6 +315,20 @@ TEST_F(OffscreenCanvasTest, takesNoNewPlotForAnOldOneAtTheSameAddress)
         m_canvas.setRoot(scene.root);
         EXPECT_EQ(colorAt(drawn(m_canvas), {0.5f, 0.5f, 0.0f}), (Rgb{color >> 16, color >> 8 & 255, color & 255}));
     }
+}
+
+TEST_F(OffscreenCanvasTest, keepsAClosedSceneAndLetsADisposedOneGo)
+{
+    auto scene = boost::make_shared<vxgraphics3d::Scene>();
+    scene->getRoot()->setChild(m_scene.group);
+    m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_fourColors);
+    m_canvas.setScene(scene);
+    const boost::weak_ptr<vxgraphics3d::Scene> weak = scene;
+    scene.reset();
+    EXPECT_GT(drawn(m_canvas).countDrawn(0, 0, 200, 200), 20000);
+    weak.lock()->dispose();
+    EXPECT_EQ(drawn(m_canvas).countDrawn(0, 0, 200, 200), 0);
+    EXPECT_TRUE(weak.expired());
 }
 
 TEST_F(OffscreenCanvasTest, resizingKeepsSceneAndUploads)

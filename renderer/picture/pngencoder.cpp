@@ -1,18 +1,14 @@
-#include "renderer/picture/pngwriter.h"
+#include "renderer/picture/pngencoder.h"
 
 #include <png.h>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cmath>
 #include <csetjmp>
 #include <cstdio>
-#include <cstring>
-#include <filesystem>
 #include <new>
 #include <stdexcept>
-#include <system_error>
 #include <utility>
 
 namespace vxrenderer {
@@ -117,11 +113,6 @@ bool encode(const Encoder& encoder, const std::uint8_t* rgba, int width, int hei
     return true;
 }
 
-[[noreturn]] void throwUnwritable(const std::string& path, int error)
-{
-    throw std::runtime_error("The image file " + path + " cannot be written: " + std::strerror(error));
-}
-
 } // namespace
 
 std::vector<std::uint8_t> encodePng(const std::uint8_t* rgba, int width, int height, const PngSettings& settings)
@@ -147,30 +138,6 @@ std::vector<std::uint8_t> encodePng(const std::uint8_t* rgba, int width, int hei
         throw std::runtime_error(std::string("The image cannot be encoded: ") + encoding.message.data());
     }
     return std::move(encoding.bytes);
-}
-
-void writePng(const std::string& path, const std::uint8_t* rgba, int width, int height, const PngSettings& settings)
-{
-    const std::vector<std::uint8_t> bytes = encodePng(rgba, width, height, settings);
-    std::FILE* const file = std::fopen(path.c_str(), "wb");
-    if (file == nullptr) {
-        throwUnwritable(path, errno);
-    }
-    errno = 0;
-    const bool isWritten = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
-    int error = isWritten ? 0 : errno;
-    // What a full disk refuses may show only here.
-    if (std::fclose(file) != 0 && error == 0) {
-        error = errno;
-    }
-    if (!isWritten || error != 0) {
-        // What is no file, such as a device or a pipe, stays.
-        std::error_code ignored;
-        if (std::filesystem::is_regular_file(path, ignored)) {
-            std::filesystem::remove(path, ignored);
-        }
-        throwUnwritable(path, error);
-    }
 }
 
 } // namespace vxrenderer

@@ -22,9 +22,4 @@ struct PngSettings {
 /// @throws std::runtime_error if the encoder fails
 std::vector<std::uint8_t> encodePng(const std::uint8_t* rgba, int width, int height, const PngSettings& settings);
 
-/// Writes an image to a file. A file that cannot be written in full is removed again.
-/// @param path in UTF-8
-/// @throws std::runtime_error that names the path and what the system said
-void writePng(const std::string& path, const std::uint8_t* rgba, int width, int height, const PngSettings& settings);
-
 } // namespace vxrenderer
