@@ -1,0 +1,122 @@
+#include "graphics3d/lights/scenelight.h"
+
+#include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/lights/directionlightsource.h"
+#include "graphics3d/lights/pointlightsource.h"
+#include "graphics3d/lights/spotlightsource.h"
+
+#include <boost/make_shared.hpp>
+
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
+namespace vxgraphics3d {
+
+SceneLight::SceneLight() : m_link(boost::make_shared<LightSourceLink>())
+{
+    m_link->parent = this;
+}
+
+SceneLight::~SceneLight()
+{
+    m_link->parent = nullptr;
+}
+
+void SceneLight::markChanged()
+{
+    raiseChange(m_changeId);
+}
+
+template <class Source>
+int SceneLight::create()
+{
+    const int id = ++m_lastLightId;
+    m_lightSources.emplace(id, boost::make_shared<Source>(id, m_link));
+    markChanged();
+    return id;
+}
+
+int SceneLight::createDirectionLight()
+{
+    return create<DirectionLightSource>();
+}
+
+int SceneLight::createPointLight()
+{
+    return create<PointLightSource>();
+}
+
+int SceneLight::createSpotLight()
+{
+    return create<SpotLightSource>();
+}
+
+bool SceneLight::removeLightSource(int id)
+{
+    const auto found = m_lightSources.find(id);
+    if (found == m_lightSources.end()) {
+        return false;
+    }
+    found->second->setActiveFlag(false);
+    m_lightSources.erase(found);
+    markChanged();
+    return true;
+}
+
+void SceneLight::removeAllLightSources()
+{
+    if (m_lightSources.empty()) {
+        return;
+    }
+    while (!m_lightSources.empty()) {
+        m_lightSources.begin()->second->setActiveFlag(false);
+        m_lightSources.erase(m_lightSources.begin());
+    }
+    markChanged();
+}
+
+const LightSource* SceneLight::getLightSource(int id) const
+{
+    const auto found = m_lightSources.find(id);
+    if (found == m_lightSources.end()) {
+        throw std::out_of_range("There is no light source " + std::to_string(id) + ".");
+    }
+    return found->second.get();
+}
+
+LightSource* SceneLight::lightSource(int id)
+{
+    return getLightSourcePtr(id).get();
+}
+
+boost::shared_ptr<LightSource> SceneLight::getLightSourcePtr(int id)
+{
+    getLightSource(id);
+    return m_lightSources.find(id)->second;
+}
+
+bool SceneLight::mayChangeLightSourceActiveState(int id, bool active)
+{
+    const auto found = m_lightSources.find(id);
+    if (!active || (found != m_lightSources.end() && found->second->isActive())) {
+        return true;
+    }
+    return std::count_if(m_lightSources.begin(), m_lightSources.end(),
+                         [](const auto& entry) { return entry.second->isActive(); }) < c_maxActiveLights;
+}
+
+float SceneLight::calculateAmbientScale(bool globalAmbient, bool lightAmbient) const
+{
+    float sum = globalAmbient ? 1.0f : 0.0f;
+    if (lightAmbient) {
+        for (const auto& [id, light] : m_lightSources) {
+            if (light->isActive() && light->getType() != LightSource::LightSpot) {
+                sum += light->getAmbientIntensity() * light->getIntensity();
+            }
+        }
+    }
+    return sum > 0.0f ? m_ambientIntensity / sum : 0.0f;
+}
+
+} // namespace vxgraphics3d
