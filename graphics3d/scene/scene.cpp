@@ -1,19 +1,41 @@
 #include "graphics3d/scene/scene.h"
 
+#include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/lights/scenelight.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
+
+#include <boost/make_shared.hpp>
+
+#include <stdexcept>
 
 namespace vxgraphics3d {
 
 int Scene::m_lastSceneId = 0;
 
-Scene::Scene() : m_root(SceneGraphRoot::create())
+Scene::Scene() : m_sceneLight(boost::make_shared<SceneLight>()), m_root(SceneGraphRoot::create())
 {
     raiseChange(m_lastSceneId);
     m_sceneId = m_lastSceneId;
 }
 
+// The members go in reverse order: the root first, then the settings, the lights last.
 Scene::~Scene() = default;
+
+boost::shared_ptr<SceneSettings> Scene::createSceneSettings(IRendererSetup& setup)
+{
+    auto settings = boost::make_shared<SceneSettings>(setup);
+    m_sceneSettings.emplace(settings->getId(), settings);
+    return settings;
+}
+
+void Scene::disconnect(boost::shared_ptr<SceneSettings> settings)
+{
+    if (!settings) {
+        throw std::invalid_argument("There are no scene settings to disconnect.");
+    }
+    m_sceneSettings.erase(settings->getId());
+}
 
 void Scene::getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
                          PickedObjectCollection& result) const

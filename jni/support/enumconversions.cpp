@@ -40,6 +40,14 @@ constexpr ConversionTable<3> c_markingModes{
     MarkingSetups::MarkingMode0,
     0};
 
+constexpr ConversionTable<3> c_lightSourceTypes{
+    {{{LightSource::LightDirection, 1}, {LightSource::LightPoint, 2}, {LightSource::LightSpot, 3}}},
+    LightSource::LightDirection,
+    0};
+
+constexpr ConversionTable<2> c_renderModes{
+    {{{Canvas3dSettings::RenderMode3d, 0}, {Canvas3dSettings::RenderMode2d, 1}}}, Canvas3dSettings::RenderMode3d, -1};
+
 constexpr auto c_antialiasingTypes = sameNumbers<3>();
 
 using Settings = Canvas3dGlobalSettings;
@@ -108,6 +116,21 @@ MarkingType javaMarkingRowToCpp(int row)
 MarkingSetups::MarkingMode javaMarkingModeToCpp(int mode)
 {
     return static_cast<MarkingSetups::MarkingMode>(c_markingModes.toCpp(mode));
+}
+
+int cppLightSourceTypeToJava(LightSource::Type type)
+{
+    return c_lightSourceTypes.toJava(type);
+}
+
+int cppRenderModeToJava(Canvas3dSettings::RenderMode mode)
+{
+    return c_renderModes.toJava(mode);
+}
+
+Canvas3dSettings::RenderMode javaRenderModeToCpp(int mode)
+{
+    return static_cast<Canvas3dSettings::RenderMode>(c_renderModes.toCpp(mode));
 }
 
 int cppAntialiasingTypeToJava(int type)

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "base/export.h"
+#include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/geometry/markingsetups.h"
+#include "graphics3d/lights/lightsource.h"
 #include "graphics3d/picking/pickedobject.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 #include "graphics3d/scenegraph/scenegraphobject.h"
@@ -28,6 +30,12 @@ SceneGraphObject::MarkingType javaMarkingTypeToCpp(int type);
 MarkingType javaMarkingRowToCpp(int row);
 /// Java 1 to 3 are the modes 0 to 2; anything else 0.
 MarkingSetups::MarkingMode javaMarkingModeToCpp(int mode);
+
+/// Direction 1, point 2, spot 3; anything else 0.
+int cppLightSourceTypeToJava(LightSource::Type type);
+/// 0 and 1 are the same on both sides; to Java anything else is -1, from Java it is 0.
+int cppRenderModeToJava(Canvas3dSettings::RenderMode mode);
+Canvas3dSettings::RenderMode javaRenderModeToCpp(int mode);
 
 /// 0 to 2 are the same on both sides; anything else 0.
 int cppAntialiasingTypeToJava(int type);

@@ -1,6 +1,9 @@
 #include "graphics3d/scene/scene.h"
 
 #include "base/ustring.h"
+#include "graphics3d/canvas/irenderersetup.h"
+#include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/lights/scenelight.h"
 #include "graphics3d/picking/canvaspicksettings.h"
 #include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/picking/selectionfrustrum.h"
@@ -9,8 +12,12 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 namespace vxgraphics3d {
 namespace {
+
+class TestSetup : public IRendererSetup {};
 
 const BoundingBox c_box(0.0f, 1.0f, 0.0f, 1.0f, 0.0f, 1.0f);
 
@@ -37,6 +44,50 @@ TEST(Scene, aNewSceneIsEmpty)
     EXPECT_FALSE(scene.isTitleChanged(last));
     EXPECT_TRUE(title.empty());
     EXPECT_EQ(last.changeId, 0);
+    EXPECT_TRUE(scene.getSceneSettingsMap().empty());
+    EXPECT_TRUE(scene.getSceneLight()->getLightSources().empty());
+}
+
+TEST(Scene, keepsSettingsOfEachViewUntilItDisconnects)
+{
+    Scene scene;
+    Scene other;
+    TestSetup setup;
+    const auto first = scene.createSceneSettings(setup);
+    const auto second = scene.createSceneSettings(setup);
+    const auto foreign = other.createSceneSettings(setup);
+    EXPECT_EQ(&first->getSetup(), &setup);
+    EXPECT_EQ(second->getId(), first->getId() + 1);
+    EXPECT_EQ(scene.getSceneSettingsMap().at(first->getId()), first);
+    EXPECT_EQ(scene.getSceneSettingsMap().size(), 2u);
+    scene.disconnect(foreign);
+    EXPECT_EQ(scene.getSceneSettingsMap().size(), 2u);
+    EXPECT_THROW(scene.disconnect(nullptr), std::invalid_argument);
+    scene.disconnect(first);
+    scene.disconnect(first);
+    EXPECT_EQ(scene.getSceneSettingsMap().begin()->second, second);
+    first->setShowLabels(true);
+    scene.disconnect(second);
+    EXPECT_TRUE(scene.getSceneSettingsMap().empty());
+    EXPECT_EQ(scene.createSceneSettings(setup)->getId(), foreign->getId() + 1);
+    scene.dispose();
+    EXPECT_EQ(scene.getSceneSettingsMap().size(), 1u);
+}
+
+TEST(Scene, settingsAndLightsOutliveTheSceneWithTheirOwners)
+{
+    TestSetup setup;
+    boost::shared_ptr<SceneSettings> settings;
+    boost::shared_ptr<SceneLight> light;
+    {
+        Scene scene;
+        settings = scene.createSceneSettings(setup);
+        light = scene.getSceneLight();
+    }
+    EXPECT_EQ(settings.use_count(), 1);
+    settings->setShowTitle(false);
+    EXPECT_EQ(settings->getChangedFlags(), 0x10u);
+    EXPECT_EQ(light->createPointLight(), 1);
 }
 
 TEST(Scene, answersForItsTree)

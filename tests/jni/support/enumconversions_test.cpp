@@ -31,6 +31,8 @@ TEST(EnumConversions, nativeNumbersToJava)
     EXPECT_EQ(row(cppSceneGraphObjectTypeToJava, 11), (Row{0, 1, 2, 3, 4, 5, 0, 0, 0, 0, 0}));
     EXPECT_EQ(row(cppPartTypeToJava, 10), (Row{0, 4, 3, 2, 1, 5, 6, 7, 0, 0}));
     EXPECT_EQ(row(cppPickedObjectTypeToJava, 10), (Row{0, 0, 1, 2, 3, 4, 5, 6, 7, 0}));
+    EXPECT_EQ(row(cppLightSourceTypeToJava, 6), (Row{0, 1, 2, 3, 0, 0}));
+    EXPECT_EQ(row(cppRenderModeToJava, 5), (Row{-1, 0, 1, -1, -1}));
     EXPECT_EQ(row(cppAntialiasingTypeToJava, 9), (Row{0, 0, 1, 2, 0, 0, 0, 0, 0}));
     EXPECT_EQ(row(cppCameraMouseActionToJava, 13), (Row{-1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}));
     EXPECT_EQ(row(cppPostMouseActionToJava, 11), (Row{0, 0, 1, 2, 3, 4, 5, 6, 7, 0, 0}));
@@ -44,6 +46,7 @@ TEST(EnumConversions, javaNumbersToNative)
     EXPECT_EQ(row(javaMarkingTypeToCpp, 8), (Row{0, 0, 0, 1, 2, 3, 0, 0}));
     EXPECT_EQ(row(javaMarkingRowToCpp, 12), (Row{0, 0, 1, 2, 3, 4, 5, 6, 7, 8, 0, 0}));
     EXPECT_EQ(row(javaMarkingModeToCpp, 6), (Row{0, 0, 0, 1, 2, 0}));
+    EXPECT_EQ(row(javaRenderModeToCpp, 5), (Row{0, 0, 1, 0, 0}));
     EXPECT_EQ(row(javaMouseKeyMaskToCpp, 11), (Row{7, 0, 1, 2, 3, 4, 5, 6, 7, 0, 1}));
     EXPECT_EQ(row(javaCameraMouseActionToCpp, 13), (Row{10, 10, 1, 4, 5, 2, 6, 3, 7, 8, 9, 10, 10}));
     EXPECT_EQ(row(javaRenderQualityToCpp, 6), (Row{0, 0, 1, 2, 0, 0}));

@@ -1,0 +1,7 @@
+#include "graphics3d/canvas/irenderersetup.h"
+
+namespace vxgraphics3d {
+
+IRendererSetup::~IRendererSetup() = default;
+
+} // namespace vxgraphics3d
