@@ -1,5 +1,7 @@
 #include "graphics3d/picking/selectionfrustrum.h"
 
+#include "graphics3d/cameras/icameratransforms.h"
+
 namespace vxgraphics3d {
 
 namespace {
@@ -11,6 +13,17 @@ SelectionFrustrum::FrustrumPlane planeThrough(const Vector3f& corner, const Vect
 }
 
 } // namespace
+
+SelectionFrustrum::SelectionFrustrum(const ICameraTransforms& camera, int x0, int y0, int x1, int y1)
+    : SelectionFrustrum(camera.screenToWorld(x0, y0, -1.0f), camera.screenToWorld(x0, y1, -1.0f),
+                        camera.screenToWorld(x1, y1, -1.0f), camera.screenToWorld(x1, y0, -1.0f),
+                        camera.screenToWorld(x0, y0, 1.0f), camera.screenToWorld(x0, y1, 1.0f),
+                        camera.screenToWorld(x1, y1, 1.0f), camera.screenToWorld(x1, y0, 1.0f))
+{
+    for (FrustrumPlane& plane : m_planes) {
+        plane.normal.normalize();
+    }
+}
 
 SelectionFrustrum::SelectionFrustrum(const Vector3f& v1, const Vector3f& v2, const Vector3f& v3, const Vector3f& v4,
                                      const Vector3f& v5, const Vector3f& v6, const Vector3f& v7, const Vector3f& v8)

@@ -8,11 +8,13 @@
 
 namespace vxgraphics3d {
 
+class ICameraTransforms;
+
 /// The part of space behind a rectangle on the screen: four side planes, with neither near nor far plane. Built for one
 /// pick and not changed afterwards.
 class VX_API SelectionFrustrum {
 public:
-    /// A side plane; the normal points to the inside and may have any length.
+    /// A side plane; the normal points to the inside.
     struct FrustrumPlane {
         Vector3f point;
         Vector3f normal;
@@ -33,7 +35,12 @@ public:
     /// Where a box lies.
     enum Enclosure { Inside = 0, PartlyInside = 1, Outside = 2 };
 
-    /// From eight corners: the four of the near end, then the four of the far end in the same order.
+    /// What a camera shows in the rectangle between two pixels, which count from the lower left corner of the drawable.
+    /// From corner 0 to 1 the rectangle goes to the right and down, or to the left and up; one that goes otherwise, or
+    /// has no width or height, holds nothing that the camera shows. The normals of the planes have length 1.
+    SelectionFrustrum(const ICameraTransforms& camera, int x0, int y0, int x1, int y1);
+    /// From eight corners: the four of the near end, then the four of the far end in the same order. The normals have
+    /// any length.
     SelectionFrustrum(const Vector3f& v1, const Vector3f& v2, const Vector3f& v3, const Vector3f& v4,
                       const Vector3f& v5, const Vector3f& v6, const Vector3f& v7, const Vector3f& v8);
 

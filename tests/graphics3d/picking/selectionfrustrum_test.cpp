@@ -1,10 +1,16 @@
 #include "graphics3d/picking/selectionfrustrum.h"
 
+#include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/foundation/boundingbox.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <random>
+#include <string>
+#include <utility>
 
 namespace vxgraphics3d {
 namespace {
@@ -83,6 +89,84 @@ TEST(SelectionFrustrum, encloseAnswersNeverContradictThePointsOfABox)
     for (const int count : seen) {
         EXPECT_GT(count, 50);
     }
+}
+
+/// The points that a frustum of a camera's rectangle holds are those whose picture lies in the rectangle and that are
+/// in front of the camera. Points closer to the rim than floats can tell are left out.
+/// @param origin where the camera's `worldToScreenRH` counts from
+/// @param inFront whether a point is in front of the camera
+template <class InFront>
+void expectFrustrumsHoldWhatTheyShow(const ICameraTransforms& camera, const Vector3f& origin, InFront inFront)
+{
+    constexpr float rim = 0.05f;
+    std::mt19937 random(11);
+    std::uniform_int_distribution<int> pixelX(10, 409);
+    std::uniform_int_distribution<int> pixelY(20, 219);
+    std::uniform_real_distribution<float> place(-3.0f, 3.0f);
+    int held = 0;
+    int left = 0;
+    for (int rectangle = 0; rectangle < 50; ++rectangle) {
+        const auto [x0, x1] = std::minmax({pixelX(random), pixelX(random)});
+        const auto [y0, y1] = std::minmax({pixelY(random), pixelY(random)});
+        if (x1 - x0 < 2 || y1 - y0 < 2) {
+            continue;
+        }
+        const SelectionFrustrum frustrum(camera, x0, y1, x1, y0);
+        const SelectionFrustrum swapped(camera, x1, y0, x0, y1);
+        const SelectionFrustrum turnedOut(camera, x0, y0, x1, y1);
+        for (const SelectionFrustrum::FrustrumPlane& plane : frustrum.getPlanes()) {
+            EXPECT_NEAR(plane.normal.length(), 1.0f, 1e-6f);
+        }
+        for (int i = 0; i < 200; ++i) {
+            const Vector3f point(place(random), place(random), place(random));
+            const Vector3f pixel = camera.worldToScreenRH(point) + origin;
+            // How far the picture of the point lies within the rectangle, negative outside.
+            const float depth = std::min({pixel.x - static_cast<float>(x0), static_cast<float>(x1) - pixel.x,
+                                          pixel.y - static_cast<float>(y0), static_cast<float>(y1) - pixel.y});
+            if (std::fabs(depth) < rim) {
+                continue;
+            }
+            const bool shown = depth > 0.0f && inFront(point);
+            ASSERT_EQ(frustrum.isInside(point), shown) << point << " at " << pixel;
+            ASSERT_EQ(swapped.isInside(point), shown) << "both pairs swapped";
+            ASSERT_FALSE(turnedOut.isInside(point) && inFront(point)) << "one pair swapped";
+            ++(shown ? held : left);
+        }
+    }
+    EXPECT_GT(held, 200);
+    EXPECT_GT(left, 200);
+}
+
+TEST(SelectionFrustrum, ofA3dCameraHoldsWhatTheRectangleShows)
+{
+    const BoundingBox scene(-3.0f, 3.0f, -3.0f, 3.0f, -3.0f, 3.0f);
+    for (const auto type : {Camera3d::ProjectionPerspective, Camera3d::ProjectionOrthographic}) {
+        for (const bool amongThePoints : {false, true}) {
+            Camera3d camera;
+            camera.setRenderArea(500, 300, 10, 20, 400, 200);
+            const Vector3f eye = amongThePoints ? Vector3f(0.5f, 0.3f, -0.2f) : Vector3f(6.0f, 5.0f, 4.0f);
+            const Vector3f direction(-6.0f, -5.0f, -4.0f);
+            camera.lookAt(eye, direction, {0.0f, 0.0f, 1.0f});
+            camera.setProjectionType(type);
+            camera.setOrthographicSize(6.0f);
+            camera.setFOV(40.0f);
+            camera.setRelativeViewOffset(0.125f, -0.0625f);
+            camera.setBoundingBox(scene);
+            SCOPED_TRACE(std::to_string(type) + (amongThePoints ? " among the points" : ""));
+            expectFrustrumsHoldWhatTheyShow(camera, {10.0f, 20.0f, 0.0f}, [&](const Vector3f& point) {
+                return type == Camera3d::ProjectionOrthographic || (point - eye).dot(direction) > 0.0f;
+            });
+        }
+    }
+}
+
+TEST(SelectionFrustrum, ofA2dCameraHoldsWhatTheRectangleShowsAtAnyDepth)
+{
+    Camera2d camera;
+    camera.setRenderArea(500, 300, 10, 20, 400, 200);
+    ASSERT_TRUE(camera.setViewLimits(-2.0f, 2.5f, -1.0f, 1.5f, false));
+    expectFrustrumsHoldWhatTheyShow(camera, {}, [](const Vector3f&) { return true; });
+    EXPECT_FALSE(SelectionFrustrum(camera, 50, 100, 50, 60).isInside(camera.screenToWorld(50, 80, 0.0f))) << "no width";
 }
 
 } // namespace
