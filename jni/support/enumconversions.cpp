@@ -48,6 +48,25 @@ constexpr ConversionTable<3> c_lightSourceTypes{
 constexpr ConversionTable<2> c_renderModes{
     {{{Canvas3dSettings::RenderMode3d, 0}, {Canvas3dSettings::RenderMode2d, 1}}}, Canvas3dSettings::RenderMode3d, -1};
 
+constexpr ConversionTable<2> c_textFormats{
+    {{{static_cast<int>(TextFormat::plain), 1}, {static_cast<int>(TextFormat::markup), 2}}},
+    static_cast<int>(TextFormat::plain),
+    0};
+
+constexpr NumberPair plotType(SceneGraphPlot::PlotType type, int java)
+{
+    return {static_cast<int>(type), java};
+}
+
+using PlotType = SceneGraphPlot::PlotType;
+
+constexpr ConversionTable<8> c_plotTypes{
+    {{plotType(PlotType::surface3d, 2), plotType(PlotType::arrow3d, 3), plotType(PlotType::edge3d, 4),
+      plotType(PlotType::isoSurface3d, 5), plotType(PlotType::slice3d, 6), plotType(PlotType::tube3d, 7),
+      plotType(PlotType::surface2d, 8), plotType(PlotType::sphere3d, 10)}},
+    -1,
+    -1};
+
 constexpr auto c_antialiasingTypes = sameNumbers<3>();
 
 using Settings = Canvas3dGlobalSettings;
@@ -131,6 +150,16 @@ int cppRenderModeToJava(Canvas3dSettings::RenderMode mode)
 Canvas3dSettings::RenderMode javaRenderModeToCpp(int mode)
 {
     return static_cast<Canvas3dSettings::RenderMode>(c_renderModes.toCpp(mode));
+}
+
+TextFormat javaTextFormatToCpp(int format)
+{
+    return static_cast<TextFormat>(c_textFormats.toCpp(format));
+}
+
+int cppPlotTypeToJava(SceneGraphPlot::PlotType type)
+{
+    return c_plotTypes.toJava(static_cast<int>(type));
 }
 
 int cppAntialiasingTypeToJava(int type)

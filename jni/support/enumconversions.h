@@ -2,9 +2,11 @@
 
 #include "base/export.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/foundation/textformat.h"
 #include "graphics3d/geometry/markingsetups.h"
 #include "graphics3d/lights/lightsource.h"
 #include "graphics3d/picking/pickedobject.h"
+#include "graphics3d/plots/scenegraphplot.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 #include "graphics3d/scenegraph/scenegraphobject.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
@@ -36,6 +38,11 @@ int cppLightSourceTypeToJava(LightSource::Type type);
 /// 0 and 1 are the same on both sides; to Java anything else is -1, from Java it is 0.
 int cppRenderModeToJava(Canvas3dSettings::RenderMode mode);
 Canvas3dSettings::RenderMode javaRenderModeToCpp(int mode);
+/// Java 1 is plain text, Java 2 is markup; anything else is plain text.
+TextFormat javaTextFormatToCpp(int format);
+/// The kinds of plots that Java tells apart: surface 2, arrows 3, edges 4, iso surfaces 5, slices 6, tubes 7 and
+/// spheres 10, all in 3D, and the surface in 2D 8; any other -1.
+int cppPlotTypeToJava(SceneGraphPlot::PlotType type);
 
 /// 0 to 2 are the same on both sides; anything else 0.
 int cppAntialiasingTypeToJava(int type);

@@ -363,10 +363,11 @@ TEST(SceneGraphPlot, setColorTable_makesATableOnceForAName)
     EXPECT_EQ(first.getColorTable(), second.getColorTable());
     EXPECT_EQ(moved.now(), (Numbers{0, 1, 0}));
 
-    const ColorTable& table = *second.getColorTable();
-    EXPECT_EQ(table.getType(), ColorTable::Discrete);
-    EXPECT_EQ(table.getRgba()[255], 0x0080ffffu); // 0.5 * 255 + 0.5 = 128
-    EXPECT_EQ(table.getRgba()[256], 0x00fe00ffu); // the second colour is three times as wide
+    const boost::shared_ptr<ColorTable> table = second.getColorTable();
+    ASSERT_TRUE(table);
+    EXPECT_EQ(table->getType(), ColorTable::Discrete);
+    EXPECT_EQ(table->getRgba()[255], 0x0080ffffu); // 0.5 * 255 + 0.5 = 128
+    EXPECT_EQ(table->getRgba()[256], 0x00fe00ffu); // the second colour is three times as wide
     EXPECT_EQ(log.messages()[2], "Setting color table to plot test once for plot 1");
 }
 

@@ -1,0 +1,404 @@
+package com.vexane.graphics3d;
+
+import java.util.Objects;
+
+/**
+ * A plot: one record of post-processing results with a colour scale, a legend and a title.
+ *
+ * <p>{@link #fillPlot} builds the buffers that a renderer draws; it costs one pass over the record. Everything else here
+ * sets a few numbers beside the buffers and costs no more than the call, but for a new colour table, which is computed
+ * once for each name.
+ *
+ * <p>A plot is drawn while it is in a {@link SceneGraphPlotGroup}. Values are those of the record; colours are
+ * {@code 0xRRGGBB}.
+ */
+public abstract class SceneGraphPlot extends NativePeer {
+    /** The kinds of plots that are told apart. */
+    public enum Kind {
+        /** A {@link SceneGraphPlotSurface3d}. */
+        SURFACE_3D(2),
+        /** Arrows in three dimensions. */
+        ARROW_3D(3),
+        /** Edges in three dimensions. */
+        EDGE_3D(4),
+        /** Iso surfaces. */
+        ISO_SURFACE_3D(5),
+        /** Slices. */
+        SLICE_3D(6),
+        /** Tubes in three dimensions. */
+        TUBE_3D(7),
+        /** A {@link SceneGraphPlotSurface2d}. */
+        SURFACE_2D(8),
+        /** Spheres in three dimensions. */
+        SPHERE_3D(10),
+        /** Any other plot. */
+        OTHER(-1);
+
+        private final int number;
+
+        Kind(int number) {
+            this.number = number;
+        }
+
+        /**
+         * The number by which native code knows the kind.
+         *
+         * @return 2 to 8, 10 or -1
+         */
+        public int number() {
+            return number;
+        }
+
+        static Kind of(int number) {
+            for (Kind kind : values()) {
+                if (kind.number == number) {
+                    return kind;
+                }
+            }
+            return OTHER;
+        }
+    }
+
+    /** For the classes of this package, one for each kind of plot. */
+    SceneGraphPlot() {}
+
+    /**
+     * Fills the plot from a record. Legend limits follow the values of the record from now on and a value restriction
+     * falls away; colours, symmetry, height scale, offset and title stay. The record is not kept and may be closed.
+     *
+     * @param record the peer of a record of post-processing results
+     * @throws NativeException if the peer is no record, or if the record lacks something that this plot draws; the
+     *     message names it, and the plot is as it was
+     * @throws NullPointerException if the record is null
+     * @throws IllegalStateException if the record's peer is closed
+     */
+    public final void fillPlot(NativePeer record) {
+        fillPlot(this, requireOpen(record, "record"));
+    }
+
+    /** Frees the buffers, so that nothing is drawn. Value range, legend and colours stay. */
+    public final void resetPlotData() {
+        resetPlotData(this);
+    }
+
+    /**
+     * The number given to the plot when it was made, under which it stands in its group.
+     *
+     * @return the id
+     */
+    public final int getId() {
+        return getId(this);
+    }
+
+    /**
+     * The kind of the plot, as far as kinds are told apart.
+     *
+     * @return the kind
+     */
+    public final Kind getKind() {
+        return Kind.of(getType(this));
+    }
+
+    /**
+     * Whether the plot is drawn.
+     *
+     * @return false if it was switched off
+     */
+    public final boolean isActive() {
+        return isActive(this);
+    }
+
+    /**
+     * Switches the plot on or off. A plot that is off adds nothing to the box, the title and the legends of its group.
+     *
+     * @param active true to draw the plot
+     */
+    public final void setActive(boolean active) {
+        setActive(this, active);
+    }
+
+    /**
+     * Sets the plot's part of the title of its group.
+     *
+     * @param format how the text is written
+     * @param text the text; empty for no title
+     * @throws NullPointerException if an argument is null
+     */
+    public final void setTitle(TextFormat format, String text) {
+        setTitle(this, format.number(), Objects.requireNonNull(text, "text"));
+    }
+
+    /**
+     * The smallest value of the last fill.
+     *
+     * @return the value; 0 before the first fill or without colour data
+     */
+    public final double getValueMin() {
+        return getValueMin(this);
+    }
+
+    /**
+     * The largest value of the last fill.
+     *
+     * @return the value; 1 before the first fill or without colour data
+     */
+    public final double getValueMax() {
+        return getValueMax(this);
+    }
+
+    /**
+     * Sets the values at the ends of the legend, and ends automatic limits. With a symmetric colour table the limits in
+     * force become plus and minus the larger magnitude of the two.
+     *
+     * @param min the value at the lower end
+     * @param max the value at the upper end
+     */
+    public final void setLegendLimits(double min, double max) {
+        setLegendLimits(this, min, max);
+    }
+
+    /**
+     * Lets the legend span all values of the fill. {@link #getLegendMin} and {@link #getLegendMax} go on reporting the
+     * limits in force before, until the next fill or {@link #resetValueRestrictions}.
+     */
+    public final void setAutoLegendLimits() {
+        setAutoLegendLimits(this);
+    }
+
+    /**
+     * The value at the lower end of the legend.
+     *
+     * @return the limit in force
+     */
+    public final double getLegendMin() {
+        return getLegendMin(this);
+    }
+
+    /**
+     * The value at the upper end of the legend.
+     *
+     * @return the limit in force
+     */
+    public final double getLegendMax() {
+        return getLegendMax(this);
+    }
+
+    /**
+     * Whether the plot asks for a legend.
+     *
+     * @return true if its legend is shown
+     */
+    public final boolean isShowLegend() {
+        return isShowLegend(this);
+    }
+
+    /**
+     * Shows or hides the legend of the plot.
+     *
+     * @param show true to show it
+     */
+    public final void setShowLegend(boolean show) {
+        setShowLegend(this, show);
+    }
+
+    /**
+     * Hides what lies outside a range of values. The range is clamped to the values of the fill.
+     *
+     * @param min the smallest value shown
+     * @param max the largest value shown
+     */
+    public final void setValueRestrictions(double min, double max) {
+        setValueRestrictions(this, min, max);
+    }
+
+    /** Shows all values again. */
+    public final void resetValueRestrictions() {
+        resetValueRestrictions(this);
+    }
+
+    /**
+     * The smallest value shown.
+     *
+     * @return the lower end of the restriction; without one, the smallest value of the fill
+     */
+    public final double getValueRestrictionMin() {
+        return getValueRestrictionMin(this);
+    }
+
+    /**
+     * The largest value shown.
+     *
+     * @return the upper end of the restriction; without one, the largest value of the fill
+     */
+    public final double getValueRestrictionMax() {
+        return getValueRestrictionMax(this);
+    }
+
+    /**
+     * Whether the limits of the legend lie symmetrically about 0. A change applies the limits requested last anew, and
+     * so ends automatic limits.
+     *
+     * @param symmetric true for symmetric limits
+     */
+    public final void setSymmetricColorTable(boolean symmetric) {
+        setSymmetricColorTable(this, symmetric);
+    }
+
+    /**
+     * Whether the colour table runs backwards.
+     *
+     * @param reverse true to turn it round
+     */
+    public final void setReverseColorTable(boolean reverse) {
+        setReverseColorTable(this, reverse);
+    }
+
+    /**
+     * The name of the colour table.
+     *
+     * @return the name, or null for a plot of one uniform colour
+     */
+    public final String getColorTable() {
+        return getColorTable(this);
+    }
+
+    /**
+     * Draws the plot with a colour table. Tables are known by name in the whole process: the first call with a name
+     * makes the table from the rows, later ones find it and ignore theirs.
+     *
+     * @param name the name of the table
+     * @param colors one row for each colour: red, green and blue from 0 to 1, and optionally the relative width of the
+     *     colour, which is 1 otherwise
+     * @param continuous whether the colours of a new table run into each other, or stand side by side
+     * @return whether the plot has the table now
+     * @throws NativeException if the name is new and there is no row, or a row has fewer than 3 values, or the widths
+     *     have no sum above 0; no table is made then
+     * @throws NullPointerException if an argument or a row is null
+     */
+    public final boolean setColorTable(String name, double[][] colors, boolean continuous) {
+        Objects.requireNonNull(name, "name");
+        for (double[] row : colors) {
+            Objects.requireNonNull(row, "row of colors");
+        }
+        return setColorTable(this, name, colors, continuous);
+    }
+
+    /**
+     * The uniform colour.
+     *
+     * @return {@code 0xRRGGBB}
+     */
+    public final int getColor() {
+        return getColor(this);
+    }
+
+    /**
+     * Draws the plot in one uniform colour, without a colour table.
+     *
+     * @param color {@code 0xRRGGBB}; higher bits are ignored
+     */
+    public final void setColor(int color) {
+        setColor(this, color);
+    }
+
+    /**
+     * The specular exponent.
+     *
+     * @return 1 to 128
+     */
+    public final float getShininess() {
+        return getShininess(this);
+    }
+
+    /**
+     * Sets the specular exponent: the higher, the smaller the highlights.
+     *
+     * @param shininess the exponent, clamped to 1 to 128
+     */
+    public final void setShininess(float shininess) {
+        setShininess(this, shininess);
+    }
+
+    /**
+     * Stretches the plot in z about its plane.
+     *
+     * @param scale the factor; one that is not above 0 is ignored
+     */
+    public final void setHeightScale(float scale) {
+        setHeightScale(this, scale);
+    }
+
+    /**
+     * Moves the plot along z.
+     *
+     * @param offset the distance from its place, in the units of the scene
+     */
+    public final void setPlotPlaneOffset(float offset) {
+        setPlotPlaneOffset(this, offset);
+    }
+
+    @Override
+    protected final void cleanup() {
+        cleanupNative(this);
+    }
+
+    private static native void setPlotPlaneOffset(SceneGraphPlot peer, float offset);
+
+    private static native void setHeightScale(SceneGraphPlot peer, float scale);
+
+    private static native float getShininess(SceneGraphPlot peer);
+
+    private static native void setShininess(SceneGraphPlot peer, float shininess);
+
+    private static native double getValueRestrictionMin(SceneGraphPlot peer);
+
+    private static native double getValueRestrictionMax(SceneGraphPlot peer);
+
+    private static native void resetValueRestrictions(SceneGraphPlot peer);
+
+    private static native void setValueRestrictions(SceneGraphPlot peer, double min, double max);
+
+    private static native boolean isShowLegend(SceneGraphPlot peer);
+
+    private static native void setShowLegend(SceneGraphPlot peer, boolean show);
+
+    private static native void setSymmetricColorTable(SceneGraphPlot peer, boolean symmetric);
+
+    private static native void setReverseColorTable(SceneGraphPlot peer, boolean reverse);
+
+    private static native double getLegendMin(SceneGraphPlot peer);
+
+    private static native double getLegendMax(SceneGraphPlot peer);
+
+    private static native void setAutoLegendLimits(SceneGraphPlot peer);
+
+    private static native void setLegendLimits(SceneGraphPlot peer, double min, double max);
+
+    private static native double getValueMin(SceneGraphPlot peer);
+
+    private static native double getValueMax(SceneGraphPlot peer);
+
+    private static native int getColor(SceneGraphPlot peer);
+
+    private static native void setColor(SceneGraphPlot peer, int color);
+
+    private static native String getColorTable(SceneGraphPlot peer);
+
+    private static native boolean setColorTable(SceneGraphPlot peer, String name, double[][] colors, boolean continuous);
+
+    private static native void setTitle(SceneGraphPlot peer, int format, String text);
+
+    private static native void resetPlotData(SceneGraphPlot peer);
+
+    private static native void fillPlot(SceneGraphPlot peer, Object record);
+
+    private static native boolean isActive(SceneGraphPlot peer);
+
+    private static native void setActive(SceneGraphPlot peer, boolean active);
+
+    private static native int getType(SceneGraphPlot peer);
+
+    private static native int getId(SceneGraphPlot peer);
+
+    private static native void cleanupNative(SceneGraphPlot peer);
+}

@@ -1,0 +1,108 @@
+package com.vexane.graphics3d;
+
+import java.util.Objects;
+
+/**
+ * The node of a scene that holds plots.
+ *
+ * <p>A group has 256 texture handles, of which most plots take two and a mesh plot four while they are in the group, so
+ * it holds 128 plots of the usual kind. Its title stands over all of its plots, together with theirs.
+ */
+public final class SceneGraphPlotGroup extends SceneGraphNode {
+    /** Makes a group without plots. */
+    public SceneGraphPlotGroup() {
+        this(true);
+        createNative(this);
+    }
+
+    private SceneGraphPlotGroup(boolean unattached) {}
+
+    /**
+     * Makes a further peer of a plot group that stands under a parent.
+     *
+     * @param parent the parent of the group
+     * @param childId the id of the group under its parent; a parent with a single child ignores it
+     * @return the peer
+     * @throws NativeException if the parent has no such child, or one that is no plot group
+     * @throws NullPointerException if the parent is null
+     * @throws IllegalStateException if the parent's peer is closed
+     */
+    public static SceneGraphPlotGroup connect(SceneGraphParent parent, int childId) {
+        SceneGraphPlotGroup group = new SceneGraphPlotGroup(true);
+        connectNative(group, requireOpen(parent, "parent"), childId);
+        return group;
+    }
+
+    /**
+     * Takes a plot in under its own id. Another plot with that id is replaced, and its texture handles are lost to the
+     * group. If the group has too few handles left, the plot stays outside and the log has a warning;
+     * {@link #doesPlotExist} tells.
+     *
+     * @param plot the plot
+     * @throws NullPointerException if the plot is null
+     * @throws IllegalStateException if the plot's peer is closed
+     */
+    public void addPlot(SceneGraphPlot plot) {
+        addPlot(this, requireOpen(plot, "plot"));
+    }
+
+    /**
+     * Takes a plot out. It stays usable and can enter a group again.
+     *
+     * @param plotId the id of the plot; one that is not there is ignored
+     */
+    public void removePlot(int plotId) {
+        removePlot(this, plotId);
+    }
+
+    /** Takes all plots out. */
+    public void removeAllPlots() {
+        removeAllPlots(this);
+    }
+
+    /**
+     * Whether there is a plot with an id.
+     *
+     * @param plotId the id
+     * @return true if the group holds such a plot
+     */
+    public boolean doesPlotExist(int plotId) {
+        return doesPlotExist(this, plotId);
+    }
+
+    /**
+     * The number of plots in the group.
+     *
+     * @return 0 or more
+     */
+    public int getNoOfPlots() {
+        return getNoOfPlots(this);
+    }
+
+    /**
+     * Sets the group's own part of the title, which stands ahead of those of its plots.
+     *
+     * @param format how the text is written
+     * @param text the text; empty for no title
+     * @throws NullPointerException if an argument is null
+     */
+    public void setTitle(TextFormat format, String text) {
+        setTitle(this, format.number(), Objects.requireNonNull(text, "text"));
+    }
+
+    private static native void createNative(SceneGraphPlotGroup peer);
+
+    private static native void connectNative(SceneGraphPlotGroup peer, SceneGraphNode owner, int childId);
+
+    private static native void addPlot(SceneGraphPlotGroup peer, SceneGraphPlot plot);
+
+    private static native void removePlot(SceneGraphPlotGroup peer, int plotId);
+
+    private static native void removeAllPlots(SceneGraphPlotGroup peer);
+
+    private static native boolean doesPlotExist(SceneGraphPlotGroup peer, int plotId);
+
+    private static native int getNoOfPlots(SceneGraphPlotGroup peer);
+
+    private static native void setTitle(SceneGraphPlotGroup peer, int format, String text);
+}

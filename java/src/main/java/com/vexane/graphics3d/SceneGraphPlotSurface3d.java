@@ -1,0 +1,40 @@
+package com.vexane.graphics3d;
+
+/**
+ * A plot of a field on a triangulated surface in space, with the normals of the record.
+ *
+ * <p>A fill reads the first group of the record: points, triangles and colour data. Ten million points take 320 MB of
+ * native memory, and each triangle 12 bytes more (6 for up to 65535 points).
+ */
+public final class SceneGraphPlotSurface3d extends SceneGraphPlot {
+    /**
+     * Makes an empty plot.
+     *
+     * @param id the number under which the plot will stand in its group
+     */
+    public SceneGraphPlotSurface3d(int id) {
+        createNative(this, id);
+    }
+
+    private SceneGraphPlotSurface3d() {}
+
+    /**
+     * Makes a further peer of a plot that a group holds.
+     *
+     * @param group the group
+     * @param plotId the id of the plot
+     * @return the peer
+     * @throws NativeException if the group has no plot with that id, or one of another kind
+     * @throws NullPointerException if the group is null
+     * @throws IllegalStateException if the group's peer is closed
+     */
+    public static SceneGraphPlotSurface3d connect(SceneGraphPlotGroup group, int plotId) {
+        SceneGraphPlotSurface3d plot = new SceneGraphPlotSurface3d();
+        connectNative(plot, requireOpen(group, "group"), plotId);
+        return plot;
+    }
+
+    private static native void createNative(SceneGraphPlotSurface3d peer, int id);
+
+    private static native void connectNative(SceneGraphPlotSurface3d peer, SceneGraphPlotGroup owner, int plotId);
+}

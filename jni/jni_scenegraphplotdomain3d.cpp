@@ -1,0 +1,20 @@
+#include "jni/support/native.h"
+#include "jni/support/plotof.h"
+
+#include "graphics3d/plots/scalar/scenegraphplotdomain3d.h"
+
+#include <boost/make_shared.hpp>
+
+#include "com_vexane_graphics3d_SceneGraphPlotDomain3d.h"
+
+using namespace vxgraphics3d;
+
+VX_NATIVE(void, SceneGraphPlotDomain3d, createNative)(JNIEnv* env, jclass, jobject self, jint id)
+{
+    native(env, "createNative", [&] { attach(env, self, boost::make_shared<SceneGraphPlotDomain3d>(id)); });
+}
+
+VX_NATIVE(void, SceneGraphPlotDomain3d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint plotId)
+{
+    native(env, "connectNative", [&] { attach(env, self, plotOf<SceneGraphPlotDomain3d>(env, owner, plotId)); });
+}
