@@ -29,10 +29,12 @@ bool SceneGraphPlotDomain3d::isValid() const
 void SceneGraphPlotDomain3d::checkData(const PostDataView& data) const
 {
     data.bounds(3);
+    data.numPoints(0);
     data.coordinates(0, 3);
     data.normals(0);
     data.data(0, PostDataObject::ColorData);
     data.elements(0, 3);
+    data.numElements(0);
 }
 
 void SceneGraphPlotDomain3d::fillPlotImpl(const PostDataObject& record)

@@ -45,8 +45,10 @@ SceneGraphPlotSurface2d::~SceneGraphPlotSurface2d() = default;
 
 void SceneGraphPlotSurface2d::checkData(const PostDataView& data) const
 {
+    data.numPoints(0);
     data.coordinates(0, 2);
     data.elements(0, 3);
+    data.numElements(0);
     data.data(0, PostDataObject::ColorData);
     if (data.hasRole(PostDataObject::HeightData)) {
         data.data(0, PostDataObject::HeightData);

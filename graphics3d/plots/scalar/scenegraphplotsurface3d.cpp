@@ -25,12 +25,14 @@ SceneGraphPlotSurface3d::~SceneGraphPlotSurface3d() = default;
 void SceneGraphPlotSurface3d::checkData(const PostDataView& data) const
 {
     data.bounds(1);
+    data.numPoints(0);
     data.coordinates(0, isFlat(data) ? 2 : 3);
     if (!isFlat(data)) {
         data.normals(0);
     }
     data.data(0, PostDataObject::ColorData);
     data.elements(0, 3);
+    data.numElements(0);
 }
 
 void SceneGraphPlotSurface3d::fillPlotImpl(const PostDataObject& record)
