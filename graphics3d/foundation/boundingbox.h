@@ -37,8 +37,13 @@ public:
     /// Copies a valid box; an empty one leaves this box untouched. To copy in every case, assign.
     void init(const BoundingBox& box)
     {
+        // Member by member: compilers then keep a box that is merged in a loop in registers.
         if (box.m_valid) {
-            *this = box;
+            m_center.init(box.m_center.x, box.m_center.y, box.m_center.z);
+            m_halfSizeX = box.m_halfSizeX;
+            m_halfSizeY = box.m_halfSizeY;
+            m_halfSizeZ = box.m_halfSizeZ;
+            m_valid = true;
         }
     }
     /// Makes the box empty.

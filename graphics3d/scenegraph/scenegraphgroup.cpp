@@ -3,7 +3,6 @@
 #include "graphics3d/foundation/errorlog.h"
 #include "graphics3d/picking/selectionfrustrum.h"
 
-#include <iterator>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -41,9 +40,9 @@ bool SceneGraphGroup::addChild(boost::shared_ptr<SceneGraphNode> node)
     const int id = ++m_lastChildId;
     logInfo("Adding child %d to group (node %d).", id, getNodeId());
     SceneGraphNode& child = *node;
+    m_inOrder.push_back(&child);
     m_children.emplace_hint(m_children.end(), id, std::move(node));
-    hold(child);
-    child.setParent(std::move(group), id);
+    takeIn(child, std::move(group), id);
     calculateBoundingBox();
     treeStructureChanged();
     return true;
@@ -53,9 +52,9 @@ SceneGraphGroup::ChildMap::iterator SceneGraphGroup::take(ChildMap::iterator pla
 {
     // The child may die with its place in the table, but not while it is being detached.
     const boost::shared_ptr<SceneGraphNode> child = place->second;
-    child->removeParent();
     letGo(*child);
     m_numMerged = 0;
+    m_inOrder.clear();
     return m_children.erase(place);
 }
 
@@ -96,19 +95,27 @@ const boost::shared_ptr<SceneGraphNode>& SceneGraphGroup::find(int childId) cons
 
 // --- boxes, snap vertices and picks ---------------------------------------------------------------------------------
 
-/// A box that has been merged so far stays good while children only come at the end: merging the new ones into it is
-/// what merging all of them in id order does, to the last bit. So filling a group takes a time linear in its children.
-BoundingBox SceneGraphGroup::mergeChildBoxes()
+/// While children only come at the end, merging the newest into the last result is what merging all of them in id order
+/// does, to the last bit. So filling a group takes a time linear in its children.
+const BoundingBox& SceneGraphGroup::mergeChildBoxes()
 {
-    const auto count = getNoOfChildren();
-    if (m_numMerged == 0 || !hearsOf(count)) {
-        m_mergedBox.reset();
-        m_numMerged = 0;
+    const int count = getNoOfChildren();
+    if (m_numMerged != 0 && m_numMerged + 1 == count) {
+        m_mergedBox.merge(m_children.rbegin()->second->getBoundingBox());
+    } else {
+        if (m_inOrder.size() != m_children.size()) {
+            m_inOrder.clear();
+            for (const auto& [id, child] : m_children) {
+                m_inOrder.push_back(child.get());
+            }
+        }
+        BoundingBox box;
+        for (const SceneGraphNode* child : m_inOrder) {
+            box.merge(child->getBoundingBox());
+        }
+        m_mergedBox = box;
     }
-    for (auto place = std::prev(m_children.end(), count - m_numMerged); place != m_children.end(); ++place) {
-        m_mergedBox.merge(place->second->getBoundingBox());
-    }
-    m_numMerged = count;
+    m_numMerged = hearsOf(count) ? count : 0;
     return m_mergedBox;
 }
 

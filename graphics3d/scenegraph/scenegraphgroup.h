@@ -48,7 +48,7 @@ public:
     NodeType getChildType(int childId) const override { return find(childId)->getType(); }
 
 protected:
-    BoundingBox mergeChildBoxes() override;
+    const BoundingBox& mergeChildBoxes() override;
     bool admitsPick(const SelectionFrustrum& frustum, bool& inside) const override;
     void pushChildren(std::vector<OpenNode>& open, bool inside) const override;
 
@@ -62,6 +62,8 @@ private:
 
     int m_lastChildId = 0;
     ChildMap m_children;
+    /// The children of the table side by side, for the merging of their boxes. Built anew when it has another length.
+    std::vector<const SceneGraphNode*> m_inOrder;
     BoundingBox m_mergedBox; ///< over the first m_numMerged children
 };
 

@@ -21,27 +21,31 @@ SceneGraphNode::~SceneGraphNode() = default;
 
 void SceneGraphNode::setParent(boost::weak_ptr<SceneGraphParent> parent, int childId)
 {
-    const boost::shared_ptr<SceneGraphParent> newParent = parent.lock();
-    if (newParent) {
-        logInfo("Connecting node as child %d to parent (node %d)", childId, newParent->getNodeId());
+    SceneGraphParent* address = parent.lock().get();
+    answerTo(address, std::move(parent), childId);
+}
+
+void SceneGraphNode::answerTo(SceneGraphParent* parent, boost::weak_ptr<SceneGraphParent> weakParent, int childId)
+{
+    if (parent != nullptr) {
+        logInfo("Connecting node as child %d to parent (node %d)", childId, parent->getNodeId());
+        ++parent->m_numAnswering;
     }
-    if (const auto oldParent = getParent()) {
-        --oldParent->m_numAnswering;
+    if (SceneGraphParent* oldParent = parentOrNull()) {
+        oldParent->loseChild();
     }
-    m_parent = std::move(parent);
+    m_parent = std::move(weakParent);
+    m_parentAddress = parent;
     m_childId = childId;
-    if (newParent) {
-        ++newParent->m_numAnswering;
-    }
     updateNodeSnapVertices();
     markChanged();
 }
 
 void SceneGraphNode::removeParent()
 {
-    if (const auto parent = getParent()) {
+    if (SceneGraphParent* parent = parentOrNull()) {
         removeNodeSnapVertices();
-        --parent->m_numAnswering;
+        parent->loseChild();
     }
     m_parent.reset();
     m_childId = 0;
@@ -50,7 +54,7 @@ void SceneGraphNode::removeParent()
 
 void SceneGraphNode::disconnectFromParent()
 {
-    if (const auto parent = getParent()) {
+    if (SceneGraphParent* parent = parentOrNull()) {
         logInfo("Disconnecting child node %d from parent (node %d)", m_childId, parent->getNodeId());
         parent->removeChild(m_childId);
     }
@@ -59,7 +63,7 @@ void SceneGraphNode::disconnectFromParent()
 void SceneGraphNode::markChanged()
 {
     raiseChange(m_changeId);
-    if (const auto parent = getParent()) {
+    if (SceneGraphParent* parent = parentOrNull()) {
         parent->markChildChanged();
     }
 }
@@ -84,9 +88,9 @@ void SceneGraphNode::setBoundingBox(const BoundingBox& box)
 /// to parent lets a tree be deeper than the stack.
 void SceneGraphNode::updateBoxesAbove()
 {
-    for (auto parent = getParent(); parent; parent = parent->getParent()) {
+    for (SceneGraphParent* parent = parentOrNull(); parent != nullptr; parent = parent->parentOrNull()) {
         parent->m_numMerged = 0;
-        const BoundingBox box = parent->mergeChildBoxes();
+        const BoundingBox& box = parent->mergeChildBoxes();
         if (box == parent->m_boundingBox) {
             break;
         }
@@ -96,7 +100,7 @@ void SceneGraphNode::updateBoxesAbove()
 
 void SceneGraphNode::updateNodeSnapVertices()
 {
-    if (const auto parent = getParent()) {
+    if (SceneGraphParent* parent = parentOrNull()) {
         removeNodeSnapVertices();
         parent->addSnapVertices(m_nodeId, m_snapVertices);
     }
@@ -104,7 +108,7 @@ void SceneGraphNode::updateNodeSnapVertices()
 
 void SceneGraphNode::removeNodeSnapVertices()
 {
-    if (const auto parent = getParent()) {
+    if (SceneGraphParent* parent = parentOrNull()) {
         parent->removeSnapVertices(m_nodeId);
     }
 }

@@ -111,6 +111,10 @@ protected:
 private:
     friend class SceneGraphParent;
 
+    /// The parent without a share in it: for steps that no parent can die in.
+    SceneGraphParent* parentOrNull() const { return m_parent.expired() ? nullptr : m_parentAddress; }
+    /// setParent() for a caller that knows the parent; null for one that has died.
+    void answerTo(SceneGraphParent* parent, boost::weak_ptr<SceneGraphParent> weakParent, int childId);
     void updateBoxesAbove();
 
     static const BoundingBox c_emptyBox;
@@ -120,6 +124,7 @@ private:
     NodeType m_type;
     int m_nodeId;
     boost::weak_ptr<SceneGraphParent> m_parent;
+    SceneGraphParent* m_parentAddress = nullptr; ///< of m_parent; good while that has not expired
     int m_childId = -1;
     bool m_active = true;
     int m_changeId = 1;

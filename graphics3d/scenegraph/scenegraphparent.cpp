@@ -22,7 +22,7 @@ const SceneGraphParent* asParent(const SceneGraphNode& node)
 void SceneGraphParent::markChildChanged()
 {
     raiseChange(m_childrenChangeId);
-    for (auto parent = getParent(); parent; parent = parent->getParent()) {
+    for (SceneGraphParent* parent = parentOrNull(); parent != nullptr; parent = parent->parentOrNull()) {
         raiseChange(parent->m_childrenChangeId);
     }
 }
@@ -65,18 +65,18 @@ void SceneGraphParent::getMarkedBoundingBox(BoundingBox& box, int include, int e
 
 // --- ways up --------------------------------------------------------------------------------------------------------
 
-boost::shared_ptr<SceneGraphParent> SceneGraphParent::rootAbove() const
+SceneGraphParent* SceneGraphParent::rootAbove() const
 {
-    auto parent = getParent();
-    while (parent && parent->getType() != NodeRoot) {
-        parent = parent->getParent();
+    SceneGraphParent* parent = parentOrNull();
+    while (parent != nullptr && parent->getType() != NodeRoot) {
+        parent = parent->parentOrNull();
     }
     return parent;
 }
 
 void SceneGraphParent::treeStructureChanged()
 {
-    if (const auto root = rootAbove()) {
+    if (SceneGraphParent* root = rootAbove()) {
         root->treeStructureChanged();
     }
 }
@@ -88,7 +88,7 @@ void SceneGraphParent::calculateBoundingBox()
 
 void SceneGraphParent::changeVertexState(int nodeId, int index, int state)
 {
-    if (const auto root = rootAbove()) {
+    if (SceneGraphParent* root = rootAbove()) {
         root->changeVertexState(nodeId, index, state);
     }
 }
@@ -98,14 +98,14 @@ void SceneGraphParent::addSnapVertices(int nodeId, const std::vector<SnapVertex>
     if (vertices.empty()) {
         return;
     }
-    if (const auto root = rootAbove()) {
+    if (SceneGraphParent* root = rootAbove()) {
         root->addSnapVertices(nodeId, vertices);
     }
 }
 
 void SceneGraphParent::removeSnapVertices(int nodeId)
 {
-    if (const auto root = rootAbove()) {
+    if (SceneGraphParent* root = rootAbove()) {
         root->removeSnapVertices(nodeId);
     }
 }
@@ -131,6 +131,25 @@ void SceneGraphParent::requireNewChild(const boost::shared_ptr<SceneGraphNode>& 
     }
 }
 
+void SceneGraphParent::takeIn(SceneGraphNode& child, boost::weak_ptr<SceneGraphParent> weakThis, int childId)
+{
+    ++child.m_numHolders;
+    child.answerTo(this, std::move(weakThis), childId);
+}
+
+void SceneGraphParent::letGo(SceneGraphNode& child)
+{
+    child.removeParent();
+    --child.m_numHolders;
+}
+
+/// Takes note that a node which answered to this one no longer does, though it may still stand in the table.
+void SceneGraphParent::loseChild()
+{
+    --m_numAnswering;
+    m_numMerged = 0;
+}
+
 bool SceneGraphParent::standsBelow(const SceneGraphNode& node) const
 {
     if (&node == this) {
@@ -140,14 +159,14 @@ bool SceneGraphParent::standsBelow(const SceneGraphNode& node) const
     if (top == nullptr || top->getNoOfChildren() == 0) {
         return false;
     }
-    boost::shared_ptr<SceneGraphParent> parent;
-    for (const SceneGraphNode* below = this; below->m_numHolders != 0; below = parent.get()) {
-        parent = below->getParent();
-        if (below->m_numHolders != 1 || !parent) {
+    const SceneGraphParent* parent = nullptr;
+    for (const SceneGraphNode* below = this; below->m_numHolders != 0; below = parent) {
+        parent = below->parentOrNull();
+        if (below->m_numHolders != 1 || parent == nullptr) {
             // Other parents hold this node too, and the way up does not show them: look from above.
             return contains(*top, *this);
         }
-        if (parent.get() == &node) {
+        if (parent == &node) {
             return true;
         }
     }
@@ -170,7 +189,7 @@ bool SceneGraphParent::contains(const SceneGraphParent& top, const SceneGraphNod
 
 void SceneGraphParent::bury(boost::shared_ptr<SceneGraphNode>& child) noexcept
 {
-    letGo(*child);
+    --child->m_numHolders;
     if (asParent(*child) == nullptr) {
         child.reset();
         return;

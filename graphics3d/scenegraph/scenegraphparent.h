@@ -49,6 +49,8 @@ public:
     virtual void removeSnapVertices(int nodeId);
 
 protected:
+    static const BoundingBox& emptyBox() { return c_emptyBox; }
+
     /// A node that a walk through the tree has yet to visit.
     struct OpenNode {
         const SceneGraphNode* node;
@@ -64,9 +66,10 @@ protected:
     /// a time that does not depend on the number of children, and for a leaf or an empty parent not on the depth.
     /// @throws std::invalid_argument
     void requireNewChild(const boost::shared_ptr<SceneGraphNode>& node) const;
-    /// Counts this node among the parents that hold the child.
-    static void hold(SceneGraphNode& child) { ++child.m_numHolders; }
-    static void letGo(SceneGraphNode& child) { --child.m_numHolders; }
+    /// Makes a node that has entered the table of children answer to this one, with setParent().
+    void takeIn(SceneGraphNode& child, boost::weak_ptr<SceneGraphParent> weakThis, int childId);
+    /// Makes a node that is to leave the table of children answer to nobody.
+    static void letGo(SceneGraphNode& child);
     /// Gives a child up while this node dies, so that a deep tree is taken apart without deep recursion.
     static void bury(boost::shared_ptr<SceneGraphNode>& child) noexcept;
 
@@ -75,22 +78,23 @@ protected:
     bool hearsOf(int numChildren) const { return m_numAnswering == numChildren; }
 
     /// The box over all children, inactive ones left out, merged in id order.
-    virtual BoundingBox mergeChildBoxes() = 0;
+    virtual const BoundingBox& mergeChildBoxes() = 0;
     /// Whether a pick goes on to the children.
     /// @param inside in: whether a group above lies wholly in the frustum; out: whether this node does
     virtual bool admitsPick(const SelectionFrustrum& frustum, bool& inside) const = 0;
     /// Puts the children on a stack, the first one on top.
     virtual void pushChildren(std::vector<OpenNode>& open, bool inside) const = 0;
 
-    /// For mergeChildBoxes(): how many of the first children its last result covers and still stands for. Goes to 0
-    /// when the box of a child has changed.
+    /// For mergeChildBoxes(): how many of the first children its last result covers; 0 when the box of one of them may
+    /// have changed since.
     int m_numMerged = 0;
 
 private:
     friend class SceneGraphNode;
 
-    boost::shared_ptr<SceneGraphParent> rootAbove() const;
+    SceneGraphParent* rootAbove() const;
     bool standsBelow(const SceneGraphNode& node) const;
+    void loseChild();
     static bool contains(const SceneGraphParent& top, const SceneGraphNode& wanted);
     template <class Enter, class Leaf>
     void walk(bool inside, Enter enter, Leaf leaf) const;

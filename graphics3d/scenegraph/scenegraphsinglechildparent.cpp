@@ -19,8 +19,7 @@ void SceneGraphSingleChildParent::setChild(boost::shared_ptr<SceneGraphNode> nod
     boost::weak_ptr<SceneGraphParent> parent = weakSelf();
     takeChild();
     m_child = std::move(node);
-    hold(*m_child);
-    m_child->setParent(std::move(parent), 0);
+    takeIn(*m_child, std::move(parent), 0);
     calculateBoundingBox();
     treeStructureChanged();
 }
@@ -36,7 +35,6 @@ void SceneGraphSingleChildParent::removeChild(int)
 void SceneGraphSingleChildParent::takeChild()
 {
     if (m_child) {
-        m_child->removeParent();
         letGo(*m_child);
         m_child.reset();
     }
@@ -55,9 +53,9 @@ const boost::shared_ptr<SceneGraphNode>& SceneGraphSingleChildParent::find() con
     return m_child;
 }
 
-BoundingBox SceneGraphSingleChildParent::mergeChildBoxes()
+const BoundingBox& SceneGraphSingleChildParent::mergeChildBoxes()
 {
-    return m_child ? m_child->getBoundingBox() : BoundingBox();
+    return m_child ? m_child->getBoundingBox() : emptyBox();
 }
 
 void SceneGraphSingleChildParent::pushChildren(std::vector<OpenNode>& open, bool inside) const
