@@ -35,6 +35,12 @@ std::string failed(const char* call)
     return std::string(call) + " failed with " + number.data();
 }
 
+std::string failureText(const std::string& reasons)
+{
+    return "There is no drawing context (is a graphics driver installed? One that draws in software will do): " +
+           reasons;
+}
+
 template <class Function>
 Function function(const char* name)
 {
@@ -49,7 +55,7 @@ EglContext::EglContext()
     const char* extensions = eglQueryString(EGL_NO_DISPLAY, EGL_EXTENSIONS);
     const auto getDisplay = function<PFNEGLGETPLATFORMDISPLAYEXTPROC>("eglGetPlatformDisplayEXT");
     if (!hasExtension(extensions, "EGL_EXT_platform_base") || getDisplay == nullptr) {
-        throw std::runtime_error("no drawing context: EGL has no EGL_EXT_platform_base (is a driver installed?)");
+        throw std::runtime_error(failureText("EGL has no EGL_EXT_platform_base"));
     }
 
     const std::string surfaceless = "surfaceless";
@@ -73,7 +79,7 @@ EglContext::EglContext()
             return;
         }
     }
-    throw std::runtime_error("no drawing context: " + reasons);
+    throw std::runtime_error(failureText(reasons));
 }
 
 bool EglContext::create(void* display, const std::string& platform, std::string& reasons)
