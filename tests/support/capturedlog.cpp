@@ -1,21 +1,13 @@
 #include "tests/support/capturedlog.h"
 
-#include <cstdio>
-#include <fstream>
 #include <sstream>
-
-#include <stdlib.h>
-#include <unistd.h>
 
 namespace vxgraphics3d {
 
 CapturedLog::CapturedLog(ErrorLog::Level level)
 {
-    std::string name = "/tmp/vxlog-XXXXXX";
-    close(mkstemp(name.data()));
-    m_path = name;
     ErrorLog* log = ErrorLog::getInstance();
-    log->setTargetToFile(m_path);
+    log->setTargetToFile(m_file.path());
     log->flushAfterEachMessage(true);
     log->setReportLevel(level);
 }
@@ -27,15 +19,6 @@ CapturedLog::~CapturedLog()
     log->setReportLevel(ErrorLog::Level::none);
     log->flushAfterEachMessage(false);
     log->setTargetToStdErr();
-    std::remove(m_path.c_str());
-}
-
-std::string CapturedLog::text() const
-{
-    std::ifstream file(m_path);
-    std::ostringstream all;
-    all << file.rdbuf();
-    return all.str();
 }
 
 std::vector<std::string> CapturedLog::messages() const

@@ -2,6 +2,8 @@
 
 #include "graphics3d/foundation/errorlog.h"
 
+#include "tests/support/temporaryfile.h"
+
 #include <string>
 #include <vector>
 
@@ -16,12 +18,12 @@ public:
     CapturedLog& operator=(const CapturedLog&) = delete;
 
     /// All that has been written so far.
-    std::string text() const;
+    std::string text() const { return m_file.read(); }
     /// The message field of each line written so far.
     std::vector<std::string> messages() const;
 
 private:
-    std::string m_path;
+    TemporaryFile m_file;
 };
 
 } // namespace vxgraphics3d
