@@ -1,5 +1,7 @@
 #include "graphics3d/readers/textrows.h"
 
+#include "graphics3d/readers/decimal.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -9,6 +11,19 @@ namespace {
 
 // Small enough to stay in the processor's cache, large enough that the calls to the system do not count.
 constexpr std::size_t c_blockSize = 64 * 1024;
+
+unsigned digitOf(char c)
+{
+    return static_cast<unsigned char>(c - '0');
+}
+
+const char* skipBlanks(const char* at)
+{
+    while (*at == ' ' || *at == '\t' || *at == '\r') {
+        ++at;
+    }
+    return at;
+}
 
 } // namespace
 
@@ -41,6 +56,70 @@ const char* TextRows::next()
     m_hidden = *m_next;
     *m_next = '\0';
     return row != m_next ? row : nullptr;
+}
+
+/// Reads rows of numbers until one is not plain. No number leads past the block, because a zero byte stands behind it.
+/// @param readNumber reads one number and gives what stands behind it, or null if it is not plain
+template <class Number, class ReadNumber>
+int TextRows::nextPlainRows(Number* values, int numbersPerRow, int maxRows, ReadNumber readNumber)
+{
+    *m_next = m_hidden;
+    const char* row = m_next;
+    int numRows = 0;
+    while (numRows < maxRows) {
+        const char* at = row;
+        for (int i = 0; i < numbersPerRow && at != nullptr; ++i) {
+            at = readNumber(at, values[i]);
+        }
+        if (at == nullptr) {
+            break;
+        }
+        if (*at != '\n') {
+            at = skipBlanks(at);
+        }
+        const auto length = static_cast<std::size_t>(at - row) + 1;
+        if (*at != '\n' || length > c_maxLength) {
+            break;
+        }
+        row = at + 1;
+        values += numbersPerRow;
+        ++numRows;
+    }
+    m_next += row - m_next;
+    m_hidden = *m_next;
+    return numRows;
+}
+
+int TextRows::nextPlainIntegers(int* values, int numbersPerRow, int maxRows)
+{
+    return nextPlainRows(values, numbersPerRow, maxRows, [](const char* at, int& value) -> const char* {
+        unsigned number = digitOf(*at);
+        if (number > 9) {
+            at = skipBlanks(at);
+            number = digitOf(*at);
+            if (number > 9) {
+                return nullptr;
+            }
+        }
+#pragma GCC unroll 9
+        for (int i = 1; i < 10; ++i) {
+            const unsigned digit = digitOf(at[i]);
+            if (digit > 9) {
+                value = static_cast<int>(number);
+                return at + i;
+            }
+            number = number * 10 + digit;
+        }
+        return nullptr;
+    });
+}
+
+int TextRows::nextPlainReals(double* values, int numbersPerRow, int maxRows)
+{
+    return nextPlainRows(values, numbersPerRow, maxRows, [](const char* at, double& value) {
+        const Decimal decimal = Decimal::at(skipBlanks(at));
+        return decimal.toExact(value) ? decimal.end : nullptr;
+    });
 }
 
 void TextRows::rewind()

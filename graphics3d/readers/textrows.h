@@ -24,11 +24,22 @@ public:
     /// The next row, or null at the end of the stream. It stays valid until the next call.
     const char* next();
 
+    /// Takes up to so many of the next rows while they are plain: just so many integers each, of at most nine digits
+    /// and without signs, blanks between and around them, and a line end. This is the short way through rows for which
+    /// `next` and the C library's functions would give the same numbers.
+    /// @param values takes the numbers of all rows one after another
+    /// @return how many rows were taken; the one behind them is still to come
+    int nextPlainIntegers(int* values, int numbersPerRow, int maxRows);
+    /// The same for reals: decimal numbers of few enough digits.
+    int nextPlainReals(double* values, int numbersPerRow, int maxRows);
+
     /// Goes back to the start of the stream.
     void rewind();
 
 private:
     void fill();
+    template <class Number, class ReadNumber>
+    int nextPlainRows(Number* values, int numbersPerRow, int maxRows, ReadNumber readNumber);
 
     std::FILE* m_file;
     std::unique_ptr<char[]> m_block;

@@ -84,6 +84,51 @@ TEST(TextRows, areTheSameWhereverABlockEnds)
     }
 }
 
+TEST(TextRows, takePlainRowsOfNumbersAndLeaveTheOthers)
+{
+    const struct {
+        std::string row;
+        bool isPlainIntegers;
+        bool isPlainReals;
+        double second = 2.0;
+    } cases[] = {
+        {"1 23 456\n", true, true, 23.0},
+        {"\t1  2 3 \r\n", true, true},
+        {"999999999 000000000 3\n", true, true, 0.0},
+        {"1234567890 2 3\n", false, true},
+        {"1 2 -3\n", false, true},
+        {"1.5 .5 5.e-1\n", false, true, 0.5},
+        {"1 2\n", false, false},
+        {"1 2 3 4\n", false, false},
+        {"1 2 3,\n", false, false},
+        {"1 2 3", false, false},
+        {"1 2\v3\n", false, false},
+        {"1 2 0x3\n", false, false},
+        {"1 2 12345678901234567\n", false, false},
+        {"\n", false, false},
+        {"%1 2 3\n", false, false},
+        {"1 2 3" + std::string(249, ' ') + "\n", true, true},
+        {"1 2 3" + std::string(250, ' ') + "\n", false, false},
+    };
+    for (const auto& [row, isPlainIntegers, isPlainReals, second] : cases) {
+        const std::string bytes = "first\n" + row + row;
+        const File file = fileOf(bytes);
+        TextRows rows(file.get());
+        int integers[9];
+        double reals[9];
+        // The short way leaves everything as it is for the long one, and may follow it at any row.
+        EXPECT_EQ(rows.nextPlainIntegers(integers, 3, 3), 0);
+        rows.next();
+        EXPECT_EQ(rows.nextPlainIntegers(integers, 3, 1), isPlainIntegers ? 1 : 0) << row;
+        EXPECT_EQ(rows.nextPlainReals(reals, 3, 3), (isPlainReals ? 2 : 0) - (isPlainIntegers ? 1 : 0)) << row;
+        if (!isPlainReals) {
+            EXPECT_EQ(rows.next(), rowsByLibrary(bytes)[1]) << row;
+        }
+        EXPECT_EQ(isPlainIntegers ? static_cast<double>(integers[1]) : second, second) << row;
+        EXPECT_EQ(isPlainReals ? reals[1] : second, second) << row;
+    }
+}
+
 TEST(TextRows, beginAgainAfterRewindWhereverTheyStood)
 {
     const std::string bytes = "first\n" + std::string(70000, 'x') + "\nlast";

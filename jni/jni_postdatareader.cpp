@@ -1,0 +1,17 @@
+#include "jni/support/native.h"
+
+#include "graphics3d/readers/postdatareader.h"
+
+#include "datacarrier/postdataobject.h"
+
+#include "com_vexane_graphics3d_PostDataReader.h"
+
+using namespace vxgraphics3d;
+using vxdatacarrier::PostDataObject;
+
+VX_NATIVE(jboolean, PostDataReader, readPostData)(JNIEnv* env, jclass, jobject record, jstring file)
+{
+    return native(env, "readPostData", [&] {
+        return toJava(readPostData(peer<PostDataObject>(env, record), fromJava<std::string>(env, file)));
+    });
+}
