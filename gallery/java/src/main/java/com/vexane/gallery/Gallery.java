@@ -1,0 +1,91 @@
+package com.vexane.gallery;
+
+import com.vexane.gallery.pictures.BracketStress;
+import com.vexane.gallery.pictures.EarthRelief;
+import com.vexane.gallery.pictures.SeaTemperature;
+import com.vexane.gallery.pictures.TerrainColors;
+import com.vexane.gallery.pictures.TerrainFine;
+import com.vexane.gallery.pictures.TerrainFlat;
+import com.vexane.gallery.pictures.TerrainRaised;
+import com.vexane.renderer.OffscreenRenderer;
+import java.io.IOException;
+import java.nio.file.Files;
+import java.nio.file.Path;
+import java.util.Arrays;
+import java.util.List;
+import java.util.stream.Collectors;
+
+/** Draws all pictures and the contact sheet, in one virtual machine and without a screen. */
+public final class Gallery {
+    private static final List<Picture> PICTURES = List.of(
+            new TerrainFlat(),
+            new TerrainRaised(),
+            new TerrainFine(),
+            new TerrainColors(),
+            new SeaTemperature(),
+            new BracketStress(),
+            new EarthRelief());
+
+    private static final int WIDTH = 1600;
+    private static final int HEIGHT = 1000;
+    private static final int SAMPLES = 4;
+
+    private Gallery() {}
+
+    /**
+     * Draws the gallery: {@code Gallery ROOT OUTPUT [NAME...]}.
+     *
+     * @param arguments the folder of the project, which holds data and sources; the folder for the pictures; names of
+     *         programs, if not all are to be drawn
+     * @throws IOException if a file cannot be read or written
+     */
+    public static void main(String[] arguments) throws IOException {
+        List<String> names = Arrays.asList(arguments).subList(Math.min(2, arguments.length), arguments.length);
+        List<String> unknown = names.stream().filter(name -> PICTURES.stream().noneMatch(p -> name.equals(nameOf(p))))
+                .toList();
+        if (arguments.length < 2 || !unknown.isEmpty()) {
+            System.err.println("usage: Gallery ROOT OUTPUT [NAME...]\nnames: "
+                    + PICTURES.stream().map(Gallery::nameOf).collect(Collectors.joining(" "))
+                    + (unknown.isEmpty() ? "" : "\nunknown: " + String.join(" ", unknown)));
+            System.exit(2);
+        }
+        Path output = Path.of(arguments[1]);
+        draw(Path.of(arguments[0]), output, names, WIDTH, HEIGHT).forEach(System.out::println);
+        System.out.println(output.resolve("index.html"));
+    }
+
+    private static String nameOf(Picture picture) {
+        return picture.getClass().getSimpleName();
+    }
+
+    /** Draws the named pictures, or all if no name is given, and returns where they lie. */
+    static List<Path> draw(Path root, Path output, List<String> names, int width, int height) throws IOException {
+        Files.createDirectories(output);
+        ContactSheet sheet = new ContactSheet();
+        List<Path> files = new java.util.ArrayList<>();
+        try (OffscreenRenderer renderer = OffscreenRenderer.create(width, height, SAMPLES)) {
+            for (Picture picture : PICTURES) {
+                if (names.isEmpty() || names.contains(nameOf(picture))) {
+                    List<Studio.Shot> shots = shoot(picture, root, output, renderer);
+                    sheet.add(picture.getClass().getAnnotation(About.class), shots, source(picture, root));
+                    shots.forEach(shot -> files.add(shot.file()));
+                }
+            }
+        }
+        sheet.write(output.resolve("index.html"));
+        return files;
+    }
+
+    private static List<Studio.Shot> shoot(Picture picture, Path root, Path output, OffscreenRenderer renderer)
+            throws IOException {
+        try (Studio studio = new Studio(root, output, picture.getClass(), renderer)) {
+            picture.draw(studio);
+            return studio.shots();
+        }
+    }
+
+    private static String source(Picture picture, Path root) throws IOException {
+        String file = picture.getClass().getName().replace('.', '/') + ".java";
+        return Files.readString(root.resolve("gallery/java/src/main/java").resolve(file));
+    }
+}

@@ -1,0 +1,35 @@
+package com.vexane.gallery.pictures;
+
+import com.vexane.gallery.About;
+import com.vexane.gallery.Picture;
+import com.vexane.gallery.PlotFile;
+import com.vexane.gallery.Studio;
+import com.vexane.graphics3d.SceneGraphPlotSurface2d;
+import com.vexane.producer.DataRole;
+import com.vexane.producer.PlotKind;
+import com.vexane.producer.PostDataBuilder;
+import com.vexane.producer.PostDataGroup;
+import com.vexane.producer.PostDataObject;
+import java.io.IOException;
+
+@About(title = "Temperature of the sea surface in January",
+        text = "A map of the world by longitude and latitude; the continents and a stretch of the southern "
+                + "Pacific without data are holes. The values are handed over by the producer, which keeps "
+                + "their unit.")
+public final class SeaTemperature implements Picture {
+    @Override
+    public void draw(Studio studio) throws IOException {
+        PlotFile file = PlotFile.read(studio.data("sea_temperature_2d.txt"));
+        PostDataGroup sea = new PostDataGroup()
+                .coordinates(file.coordinates()[0], file.coordinates()[1])
+                .elements(file.triangles())
+                .data(file.data());
+        try (SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
+                PostDataObject record =
+                        new PostDataBuilder(PlotKind.SURFACE_2D).role(DataRole.COLOR, 0).addGroup(sea).build()) {
+            plot.setColorTable("inferno", studio.colors("inferno"), true);
+            plot.fillPlot(record);
+            studio.show(plot, "Temperature in \\degree C").save();
+        }
+    }
+}

@@ -1,0 +1,32 @@
+package com.vexane.gallery.pictures;
+
+import com.vexane.gallery.About;
+import com.vexane.gallery.Picture;
+import com.vexane.gallery.Studio;
+import com.vexane.graphics3d.PostDataReader;
+import com.vexane.graphics3d.SceneGraphPlotSurface2d;
+import com.vexane.producer.DataRole;
+import com.vexane.producer.PlotKind;
+import com.vexane.producer.PostDataObject;
+import java.io.IOException;
+import java.util.Map;
+
+@About(title = "One corner in full detail",
+        text = "70000 points are more than 16 bits can count, so the index buffer has 32 bits. The colours show "
+                + "the slope, the height the elevation.")
+public final class TerrainFine implements Picture {
+    @Override
+    public void draw(Studio studio) throws IOException {
+        Map<DataRole, Integer> roles = Map.of(DataRole.COLOR, 0, DataRole.HEIGHT, 1);
+        try (SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
+                PostDataObject record = PostDataObject.forFile(PlotKind.SURFACE_2D, roles)) {
+            if (!PostDataReader.readPostData(record, studio.data("terrain_fine_2d.txt"))) {
+                throw new IOException("The file cannot be read; the log says why.");
+            }
+            plot.setColorTable("plasma", studio.colors("plasma"), true);
+            plot.fillPlot(record);
+            plot.setHeightScale(0.25f);
+            studio.show(plot, "Slope, 1 being the steepest").view(-120, 40).save();
+        }
+    }
+}

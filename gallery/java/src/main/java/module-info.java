@@ -1,0 +1,5 @@
+/** Pictures of real data, each made by a small program. */
+module com.vexane.gallery {
+    requires com.vexane.producer;
+    requires com.vexane.renderer;
+}

@@ -1,0 +1,80 @@
+package com.vexane.gallery;
+
+import static org.junit.jupiter.api.Assertions.assertArrayEquals;
+import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertThrows;
+
+import java.io.IOException;
+import java.nio.file.Files;
+import java.nio.file.Path;
+import org.junit.jupiter.api.Test;
+import org.junit.jupiter.api.io.TempDir;
+
+class PlotFileTest {
+    @TempDir Path folder;
+
+    private PlotFile read(String text) throws IOException {
+        return PlotFile.read(Files.writeString(folder.resolve("plot.txt"), text));
+    }
+
+    @Test
+    void everySectionIsReadWithItsUnitsAndIndicesFromZero() throws IOException {
+        PlotFile file = read("""
+                % Coordinates
+                0 0 5
+                2\t0 5
+                0 2 5
+
+                0 0 -1
+                % Elements (triangular)
+                1 2 3
+                % Elements (lines)
+                4 1
+                % Data
+                -10
+                20.5
+                3e1
+                0
+                """);
+        assertArrayEquals(new double[][] {{0, 2, 0, 0}, {0, 0, 2, 0}, {5, 5, 5, -1}}, file.coordinates());
+        assertArrayEquals(new int[][] {{0}, {1}, {2}}, file.triangles());
+        assertArrayEquals(new int[][] {{3}, {0}}, file.lines());
+        assertArrayEquals(new double[] {-10, 20.5, 30, 0}, file.data());
+        // The fourth point is in no triangle.
+        assertArrayEquals(new float[][] {{0, 0, 0, 0}, {0, 0, 0, 0}, {1, 1, 1, 0}}, file.normals());
+        assertEquals(-10, file.percentile(0));
+        assertEquals(20.5, file.percentile(0.66));
+        assertEquals(30, file.percentile(1));
+    }
+
+    @Test
+    void aPointsNormalCountsLargerTrianglesMore() throws IOException {
+        PlotFile file = read("""
+                % Coordinates
+                0 0 0
+                3 0 0
+                0 1 0
+                0 0 4
+                % Elements (triangular)
+                1 2 3
+                1 3 4
+                % Data
+                0
+                0
+                0
+                0
+                """);
+        // Twice the areas are 3, facing along z, and 4, facing along x.
+        float[][] normals = file.normals();
+        assertArrayEquals(new float[] {0.8f, 0, 0.6f}, new float[] {normals[0][0], normals[1][0], normals[2][0]});
+        assertArrayEquals(new float[] {0, 0, 1}, new float[] {normals[0][1], normals[1][1], normals[2][1]});
+    }
+
+    @Test
+    void aFileOfAnotherKindIsRefusedWithItsRow() {
+        assertEquals(folder.resolve("plot.txt") + ": no tag for surfaces: % Vector data",
+                assertThrows(IOException.class, () -> read("% Coordinates\n% Vector data\n")).getMessage());
+        assertEquals(folder.resolve("plot.txt") + ": 3 numbers are needed: 1 2",
+                assertThrows(IOException.class, () -> read("% Coordinates\n1 2\n")).getMessage());
+    }
+}
