@@ -104,6 +104,7 @@ void OffscreenCanvas::draw()
     if (m_scene && m_scene->isDisposed()) {
         setScene(nullptr);
     }
+    m_isDrawn = false;
     const EglContext::Current current(m_context);
     m_renderer->draw(m_root.get(), *m_target);
     requireNoFault();

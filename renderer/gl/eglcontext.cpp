@@ -126,24 +126,24 @@ EglContext::~EglContext()
 }
 
 EglContext::Current::Current(const EglContext& context)
-    : m_display(context.m_display),
-      m_previousDisplay(eglGetCurrentDisplay()),
-      m_previousDraw(eglGetCurrentSurface(EGL_DRAW)),
-      m_previousRead(eglGetCurrentSurface(EGL_READ)),
+    : m_display(context.m_display), m_previousApi(eglQueryAPI()), m_previousDisplay(eglGetCurrentDisplay()),
+      m_previousDraw(eglGetCurrentSurface(EGL_DRAW)), m_previousRead(eglGetCurrentSurface(EGL_READ)),
       m_previousContext(eglGetCurrentContext())
 {
     eglBindAPI(EGL_OPENGL_API);
     if (eglMakeCurrent(m_display, EGL_NO_SURFACE, EGL_NO_SURFACE, context.m_context) == EGL_FALSE) {
-        throw std::runtime_error("the drawing context cannot be used on this thread: " + failed("eglMakeCurrent"));
+        const std::string failure = failed("eglMakeCurrent");
+        eglBindAPI(m_previousApi);
+        throw std::runtime_error("The drawing context cannot be used on this thread: " + failure);
     }
 }
 
 EglContext::Current::~Current()
 {
+    eglMakeCurrent(m_display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+    eglBindAPI(m_previousApi);
     if (m_previousContext != EGL_NO_CONTEXT) {
         eglMakeCurrent(m_previousDisplay, m_previousDraw, m_previousRead, m_previousContext);
-    } else {
-        eglMakeCurrent(m_display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
     }
 }
 

@@ -22,6 +22,7 @@ public:
 
     private:
         void* m_display;
+        unsigned m_previousApi;
         void* m_previousDisplay;
         void* m_previousDraw;
         void* m_previousRead;

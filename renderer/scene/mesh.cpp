@@ -89,6 +89,9 @@ void Mesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
     glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, m_indices.name());
     glBufferData(GL_ELEMENT_ARRAY_BUFFER, indexSize * numIndices, indexData, GL_STATIC_DRAW);
     glBindVertexArray(0);
+    if (glGetError() == GL_OUT_OF_MEMORY) {
+        throw std::runtime_error("The driver has no memory for a mesh.");
+    }
 
     m_mode = modeOf(indices.getType());
     m_indexType = isWide ? GL_UNSIGNED_INT : GL_UNSIGNED_SHORT;

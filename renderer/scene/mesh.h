@@ -20,6 +20,7 @@ public:
     /// Copies both buffers, as far as they have been filled. The layout of the vertices follows from their type.
     /// @throws std::invalid_argument for a type of vertices that is not known
     /// @throws std::out_of_range if an index points beyond the vertices; hardware would read whatever lies there
+    /// @throws std::runtime_error if the driver has no memory for it
     void load(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
 
     /// Draws all segments with the program in use.

@@ -1,8 +1,7 @@
-#include "renderer/canvas/offscreencanvas.h"
+#include "renderer/scene/scenerenderer.h"
 
 #include "base/ustring.h"
 #include "graphics3d/plots/colortable.h"
-#include "renderer/scene/view.h"
 #include "tests/renderer/support/testscene.h"
 
 #include <gtest/gtest.h>
@@ -17,9 +16,9 @@ constexpr Rgb c_red = {255, 0, 0};
 const std::vector<int> c_twoColors = {0x0000ff, 0xff0000};
 
 /// Title and legends about a flat plot, in a picture of 400 by 300 pixels.
-class DecorationTest : public ::testing::Test {
+class SceneRendererTest : public ::testing::Test {
 protected:
-    DecorationTest()
+    SceneRendererTest()
     {
         m_settings.showBox = false;
         m_canvas.setSettings(m_settings);
@@ -49,7 +48,7 @@ protected:
     TestScene m_scene;
 };
 
-TEST_F(DecorationTest, theSceneKeepsClearOfTitleAndLegends)
+TEST_F(SceneRendererTest, theSceneKeepsClearOfTitleAndLegends)
 {
     m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors)->setTitle(TextFormat::plain, "A title");
     drawn(m_canvas);
@@ -76,7 +75,7 @@ TEST_F(DecorationTest, theSceneKeepsClearOfTitleAndLegends)
     EXPECT_EQ(full.countDrawn(withBoth.x + withBoth.width, withBoth.y, withBoth.x + withBoth.width + 8, 300), 0);
 }
 
-TEST_F(DecorationTest, theBarRunsFromTheLowestColorBelowToTheHighestAbove)
+TEST_F(SceneRendererTest, theBarRunsFromTheLowestColorBelowToTheHighestAbove)
 {
     const auto plot = m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
     const Picture picture = drawn(m_canvas);
@@ -92,7 +91,7 @@ TEST_F(DecorationTest, theBarRunsFromTheLowestColorBelowToTheHighestAbove)
     EXPECT_EQ(rowsOf(drawn(m_canvas), barColumn(), c_blue), red);
 }
 
-TEST_F(DecorationTest, constantDataShowOneColorAndOneLabel)
+TEST_F(SceneRendererTest, constantDataShowOneColorAndOneLabel)
 {
     GridRecord record;
     record.value = [](double, double) { return 5.0; };
@@ -110,7 +109,7 @@ TEST_F(DecorationTest, constantDataShowOneColorAndOneLabel)
     EXPECT_EQ(picture.countDrawn(right, middle + 10, 400, 300), 0);
 }
 
-TEST_F(DecorationTest, ticksStandAtTheHeightOfTheirValues)
+TEST_F(SceneRendererTest, ticksStandAtTheHeightOfTheirValues)
 {
     m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
     const Picture picture = drawn(m_canvas);
@@ -136,7 +135,7 @@ TEST_F(DecorationTest, ticksStandAtTheHeightOfTheirValues)
     }
 }
 
-TEST_F(DecorationTest, showsALegendForEachPlotThatHasOne)
+TEST_F(SceneRendererTest, showsALegendForEachPlotThatHasOne)
 {
     m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
     drawn(m_canvas);
@@ -153,7 +152,7 @@ TEST_F(DecorationTest, showsALegendForEachPlotThatHasOne)
     EXPECT_EQ(m_canvas.getView().area.width, one);
 }
 
-TEST_F(DecorationTest, theTitleFollowsItsChanges)
+TEST_F(SceneRendererTest, theTitleFollowsItsChanges)
 {
     const auto plot = m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
     const auto top = [&] {
@@ -181,7 +180,7 @@ TEST_F(DecorationTest, theTitleFollowsItsChanges)
     EXPECT_EQ(top(), none);
 }
 
-TEST_F(DecorationTest, longTitlesAndSmallPicturesStayReadable)
+TEST_F(SceneRendererTest, longTitlesAndSmallPicturesStayReadable)
 {
     const auto plot = m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
     std::string text;
