@@ -30,7 +30,8 @@ TEST(ErrorLog, namesTheCallersFileAndLine)
     CapturedLog log(Level::debug);
     const int line = __LINE__ + 1;
     logWarning("odd %d of %s, %f", 3, "shape", 0.5f);
-    EXPECT_EQ(log.text(), "warning\tgraphics:0\todd 3 of shape, 0.500000\terrorlog_test.cpp;" + std::to_string(line) + "\n");
+    EXPECT_EQ(log.text(),
+              "warning\tgraphics:0\todd 3 of shape, 0.500000\terrorlog_test.cpp;" + std::to_string(line) + "\n");
 }
 
 TEST(ErrorLog, passesMessagesUpToTheLevelInForce)
