@@ -36,12 +36,12 @@ public final class Canvas3dGlobalSettings {
         }
     }
 
-    /** What a renderer leaves around the scene when it zooms to its extent. */
+    /** What fills the canvas when a 3D camera zooms to the extent of a box. */
     public enum ZoomToExtentBehaviour {
-        /** The margin of these settings. */
-        WITH_MARGIN(0),
-        /** Nothing. */
-        TIGHT(1);
+        /** The box itself, but for the margin. */
+        TIGHT(0),
+        /** The sphere around the box, so that it stays visible however it is turned. */
+        SPHERE(1);
 
         private final int number;
 
@@ -260,7 +260,7 @@ public final class Canvas3dGlobalSettings {
     }
 
     /**
-     * What is left around the scene by a zoom to its extent.
+     * What fills the canvas when a 3D camera zooms to the extent of a box.
      *
      * @return the behaviour
      */
@@ -270,7 +270,7 @@ public final class Canvas3dGlobalSettings {
     }
 
     /**
-     * Sets what is left around the scene by a zoom to its extent.
+     * Sets what fills the canvas when a 3D camera zooms to the extent of a box.
      *
      * @param behaviour the behaviour
      * @throws NullPointerException if the behaviour is null

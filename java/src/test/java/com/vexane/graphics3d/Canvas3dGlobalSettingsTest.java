@@ -75,7 +75,7 @@ class Canvas3dGlobalSettingsTest {
     @Test
     void startValuesThatJavaKnowsByNameAreThose() {
         assertEquals(ResizeBehaviour.FIT, Canvas3dGlobalSettings.getResizeBehaviour());
-        assertEquals(ZoomToExtentBehaviour.WITH_MARGIN, Canvas3dGlobalSettings.getZoomToExtentBehaviour());
+        assertEquals(ZoomToExtentBehaviour.TIGHT, Canvas3dGlobalSettings.getZoomToExtentBehaviour());
         assertEquals(RenderQuality.NORMAL, Canvas3dGlobalSettings.getOnScreenRenderQuality());
         assertEquals(RenderQuality.BEST, Canvas3dGlobalSettings.getOffScreenRenderQuality());
         for (TextItem item : TextItem.values()) {

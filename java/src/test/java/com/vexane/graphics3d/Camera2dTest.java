@@ -1,0 +1,168 @@
+package com.vexane.graphics3d;
+
+import static org.junit.jupiter.api.Assertions.assertArrayEquals;
+import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertFalse;
+import static org.junit.jupiter.api.Assertions.assertThrows;
+import static org.junit.jupiter.api.Assertions.assertTrue;
+
+import com.vexane.graphics3d.Camera2d.UseMode;
+import java.io.IOException;
+import java.nio.file.Files;
+import java.nio.file.Path;
+import java.util.List;
+import org.junit.jupiter.api.Test;
+import org.junit.jupiter.api.io.TempDir;
+
+/** The canvas of a camera of its own is square, 100 by 100 pixels. */
+class Camera2dTest {
+    private static float[] limits(float... limits) {
+        return limits;
+    }
+
+    @Test
+    void limitsComeBackAdaptedToTheCanvas() {
+        try (Camera2d camera = new Camera2d()) {
+            assertArrayEquals(limits(0, 1, 0, 1), camera.getViewLimits());
+            assertTrue(camera.setViewLimits(0, 4, 1, 3));
+            assertArrayEquals(limits(0, 4, 0, 4), camera.getViewLimits());
+            assertTrue(camera.setViewLimitsWithPreserve(0, 4, 1, 3, false));
+            assertArrayEquals(limits(0, 4, 1, 3), camera.getViewLimits());
+            assertEquals(1, camera.getAxisViewScaleX());
+            assertEquals(2, camera.getAxisViewScaleY());
+            assertTrue(camera.setViewLimitsWithPreserve(0, 0, 0, 0, true));
+            assertFalse(camera.setViewLimitsWithPreserve(0, 0, 0, 0, false));
+        }
+    }
+
+    @Test
+    void oneAxisLetsTheOtherFollowOrStay() {
+        try (Camera2d camera = new Camera2d()) {
+            assertTrue(camera.isPreserveAspectRatio());
+            assertTrue(camera.setViewLimitsX(2, 4));
+            assertArrayEquals(limits(2, 4, -0.5f, 1.5f), camera.getViewLimits());
+            camera.setPreserveAspectRatio(false);
+            assertFalse(camera.isPreserveAspectRatio());
+            assertTrue(camera.setViewLimitsY(0, 8));
+            assertArrayEquals(limits(2, 4, 0, 8), camera.getViewLimits());
+            assertFalse(camera.setViewLimitsY(8, 8));
+            assertFalse(camera.setViewLimits(0, 1, 1, 0));
+            assertArrayEquals(limits(2, 4, 0, 8), camera.getViewLimits());
+        }
+    }
+
+    @Test
+    void polarModeReportsRadii() {
+        try (Camera2d camera = new Camera2d()) {
+            camera.setUseMode(UseMode.POLAR);
+            camera.setPolarLimits(7, 3);
+            assertArrayEquals(limits(3, 7, 0, 0), camera.getViewLimits());
+            camera.setPolarLimits(1, 5);
+            assertArrayEquals(limits(5, 6, 0, 0), camera.getViewLimits());
+            camera.setUseMode(UseMode.PLANE);
+            camera.setViewLimits(0, 1, 0, 1);
+            assertArrayEquals(limits(0, 1, 0, 1), camera.getViewLimits());
+            camera.setUseMode(UseMode.ONE_DIMENSIONAL);
+            camera.setViewLimits(0, 1, 0, 1);
+            assertArrayEquals(limits(0, 1, -1, 1), camera.getViewLimits());
+            Natives.call(Camera2d.class, "setUseMode", camera, -1);
+            camera.setViewLimits(0, 1, 0, 1);
+            assertArrayEquals(limits(0, 1, 0, 1), camera.getViewLimits());
+        }
+    }
+
+    @Test
+    void zoomHalvesTheRange() {
+        try (Camera2d camera = new Camera2d()) {
+            camera.zoomCenter(2);
+            assertArrayEquals(limits(0.25f, 0.75f, 0.25f, 0.75f), camera.getViewLimits());
+        }
+    }
+
+    @Test
+    void fitAndFillReachTheCameraExchanged() {
+        // With the y axis stretched, a merge adapts the limits anew: to this camera FIT fills and FILL fits.
+        for (ResizeBehaviour behaviour : List.of(ResizeBehaviour.FIT, ResizeBehaviour.FILL)) {
+            try (Camera2d camera = new Camera2d()) {
+                camera.setOverrideResizeBehaviour(true, behaviour);
+                camera.setAxisViewScales(1, 2);
+                camera.zoomCenter(1);
+                assertArrayEquals(behaviour == ResizeBehaviour.FIT ? limits(0, 1, 0.25f, 0.75f) : limits(-0.5f, 1.5f, 0, 1),
+                        camera.getViewLimits());
+            }
+        }
+    }
+
+    @Test
+    void scalesFollowTheSceneUntilTheyAreReset() {
+        try (Camera2d camera = new Camera2d()) {
+            assertTrue(camera.getAxisViewScalesAuto());
+            camera.setAxisViewScales(3, 4);
+            assertEquals(3, camera.getAxisViewScaleX());
+            assertEquals(4, camera.getAxisViewScaleY());
+            assertTrue(camera.getAxisViewScalesAuto());
+            camera.resetAxisViewScales();
+            assertFalse(camera.getAxisViewScalesAuto());
+            assertEquals(1, camera.getAxisViewScaleY());
+            camera.setAxisViewScalesAuto();
+            assertTrue(camera.getAxisViewScalesAuto());
+        }
+    }
+
+    @Test
+    void callsAreLoggedWithTheirNumbers(@TempDir Path folder) throws IOException {
+        Path file = folder.resolve("log.txt");
+        try (Camera2d camera = new Camera2d()) {
+            ErrorLog.setFlushAfterEachMessage(true);
+            ErrorLog.setOutputFile(file);
+            ErrorLog.setReportLevel(ErrorLog.Level.CALLS);
+            camera.setPolarLimits(2, 1);
+            camera.setAxisViewScales(1, 2);
+            camera.getViewLimits();
+            camera.setViewLimitsX(0, 1);
+            camera.setViewLimitsY(0, 1);
+            camera.setViewLimits(0, 1, 2, 3);
+            camera.setViewLimitsWithPreserve(0, 1, 2, 3, false);
+            camera.isPreserveAspectRatio();
+            camera.setPreserveAspectRatio(true);
+            camera.zoomCenter(0.5f);
+            camera.setOverrideResizeBehaviour(false, ResizeBehaviour.FIT);
+            camera.setUseMode(UseMode.POLAR);
+        } finally {
+            ErrorLog.setReportLevel(ErrorLog.Level.NONE);
+            ErrorLog.setFlushAfterEachMessage(false);
+        }
+        assertEquals(List.of("setPolarLimits(2.000000, 1.000000)", "setAxisViewScales(1.000000, 2.000000)",
+                        "getViewLimits()", "setViewLimitsX(0.000000, 1.000000)", "setViewLimitsY(0.000000, 1.000000)",
+                        "setViewLimits(0.000000, 1.000000, 2.000000, 3.000000)",
+                        "setViewLimitsWithPreserve(0.000000, 1.000000, 2.000000, 3.000000, false)",
+                        "isPreserveAspectRatio()", "setPreserveAspectRatio(true)", "zoomCenter(0.500000)",
+                        "setOverrideResizeBehaviour()", "setUseMode"),
+                Files.readAllLines(file).stream().map(line -> line.split("\t")[2]).limit(12).toList());
+    }
+
+    @Test
+    void badArgumentsAreRefusedAndNumbersThatMakeNoPictureHarmNothing() {
+        Camera2d closed = new Camera2d();
+        closed.close();
+        assertThrows(NativeException.class, closed::getViewLimits);
+        assertThrows(NativeException.class, () -> closed.setViewLimits(0, 1, 0, 1));
+        assertThrows(NativeException.class, () -> Natives.call(Camera2d.class, "getViewLimits", (Object) null));
+        try (Camera2d camera = new Camera2d()) {
+            assertThrows(NullPointerException.class, () -> camera.setUseMode(null));
+            assertThrows(NullPointerException.class, () -> camera.setOverrideResizeBehaviour(true, null));
+            for (float number : new float[] {0, -1, Float.NaN, Float.POSITIVE_INFINITY, -Float.MAX_VALUE}) {
+                for (UseMode mode : UseMode.values()) {
+                    camera.setUseMode(mode);
+                    camera.setAxisViewScales(number, number);
+                    camera.setViewLimits(number, 1, 0, number);
+                    camera.setPolarLimits(number, number);
+                    camera.zoomCenter(number);
+                    camera.setAxisViewScalesAuto();
+                }
+            }
+            camera.setViewLimits(0, 1, 0, 1);
+            assertArrayEquals(limits(0, 1, 0, 1), camera.getViewLimits());
+        }
+    }
+}

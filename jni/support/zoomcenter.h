@@ -1,0 +1,14 @@
+#pragma once
+
+#include "graphics3d/cameras/icameraactions.h"
+
+namespace vxgraphics3d {
+
+/// Magnifies the picture of any camera about its centre and keeps it so.
+inline void zoomCenter(ICameraActions& camera, float factor)
+{
+    camera.setAdditionalScale(0.5f, 0.5f, 1.0f / factor);
+    camera.mergeAdditionalTransformation();
+}
+
+} // namespace vxgraphics3d
