@@ -4,6 +4,7 @@
 #include "jni/support/zoomcenter.h"
 
 #include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/canvas/canvas3dsettings.h"
 
 #include <boost/make_shared.hpp>
 
@@ -24,6 +25,11 @@ constexpr ConversionTable<2> c_useModes{
 VX_NATIVE(void, Camera2d, createNative)(JNIEnv* env, jclass, jobject self)
 {
     native(env, "createNative", [&] { attach(env, self, boost::make_shared<Camera2d>()); });
+}
+
+VX_NATIVE(void, Camera2d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner)
+{
+    native(env, "connectNative", [&] { attach(env, self, peer<Canvas3dSettings>(env, owner).getCamera2dPtr()); });
 }
 
 VX_NATIVE(void, Camera2d, cleanupNative)(JNIEnv* env, jclass, jobject self)

@@ -4,6 +4,7 @@
 #include "jni/support/zoomcenter.h"
 
 #include "graphics3d/cameras/camera3d.h"
+#include "graphics3d/canvas/canvas3dsettings.h"
 
 #include <boost/make_shared.hpp>
 
@@ -28,6 +29,11 @@ Vector3f committedDirection(const Camera3d& camera)
 VX_NATIVE(void, Camera3d, createNative)(JNIEnv* env, jclass, jobject self)
 {
     native(env, "createNative", [&] { attach(env, self, boost::make_shared<Camera3d>()); });
+}
+
+VX_NATIVE(void, Camera3d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner)
+{
+    native(env, "connectNative", [&] { attach(env, self, peer<Canvas3dSettings>(env, owner).getCamera3dPtr()); });
 }
 
 VX_NATIVE(void, Camera3d, cleanupNative)(JNIEnv* env, jclass, jobject self)

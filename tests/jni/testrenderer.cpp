@@ -1,6 +1,11 @@
 #include "jni/support/native.h"
 
+#include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/irenderercanvas.h"
+#include "graphics3d/canvas/irenderersetup.h"
+#include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/picking/canvaspicksettings.h"
+#include "graphics3d/scene/scene.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/settings/contextdata.h"
 #include "graphics3d/settings/rendererinfo.h"
@@ -17,15 +22,36 @@ using namespace vxgraphics3d;
 
 namespace {
 
+class TestSetup : public IRendererSetup {};
+
 /// A view of a renderer that draws nothing.
 class TestCanvas : public IRendererCanvas {
 public:
-    boost::shared_ptr<Canvas3dSettings> getCanvas3dSettings() override { return nullptr; }
-    boost::shared_ptr<CanvasPickSettings> getCanvasPickSettings() override { return nullptr; }
-    boost::shared_ptr<SceneSettings> getSceneSettings() override { return nullptr; }
+    ~TestCanvas() override { show(nullptr); }
+
+    boost::shared_ptr<Canvas3dSettings> getCanvas3dSettings() override { return m_settings; }
+    boost::shared_ptr<CanvasPickSettings> getCanvasPickSettings() override { return m_pickSettings; }
+    boost::shared_ptr<SceneSettings> getSceneSettings() override { return m_sceneSettings; }
     boost::shared_ptr<ContextData> getContextData() override { return context; }
 
+    /// Shows another scene, or none.
+    void show(boost::shared_ptr<Scene> scene)
+    {
+        if (m_scene) {
+            m_scene->disconnect(m_sceneSettings);
+        }
+        m_sceneSettings = scene ? scene->createSceneSettings(m_setup) : nullptr;
+        m_scene = std::move(scene);
+    }
+
     boost::shared_ptr<ContextData> context;
+
+private:
+    TestSetup m_setup;
+    boost::shared_ptr<Canvas3dSettings> m_settings = boost::make_shared<Canvas3dSettings>();
+    boost::shared_ptr<CanvasPickSettings> m_pickSettings = boost::make_shared<CanvasPickSettings>();
+    boost::shared_ptr<Scene> m_scene;
+    boost::shared_ptr<SceneSettings> m_sceneSettings;
 };
 
 struct TestMonitor : RendererInfo::MonitorInfo {
@@ -101,6 +127,27 @@ VX_NATIVE(void, TestRenderer, openContext)(JNIEnv* env, jclass, jobject self, ji
             .multipleSamples = 12,
         });
     });
+}
+
+VX_NATIVE(void, TestRenderer, show)(JNIEnv* env, jclass, jobject self, jobject sceneOrNull)
+{
+    native(env, "show", [&] {
+        peer<TestCanvas>(env, self).show(sceneOrNull != nullptr ? share<Scene>(env, sceneOrNull) : nullptr);
+    });
+}
+
+VX_NATIVE(void, TestRenderer, setRenderMode)(JNIEnv* env, jclass, jobject self, jint mode)
+{
+    native(env, "setRenderMode", [&] {
+        peer<TestCanvas>(env, self).getCanvas3dSettings()->setRenderMode(
+            static_cast<Canvas3dSettings::RenderMode>(mode));
+    });
+}
+
+VX_NATIVE(jint, TestRenderer, getChangedFlags)(JNIEnv* env, jclass, jobject self)
+{
+    return native(env, "getChangedFlags",
+                  [&] { return static_cast<jint>(peer<TestCanvas>(env, self).getSceneSettings()->getChangedFlags()); });
 }
 
 VX_NATIVE(void, TestRenderer, connectInfo)(JNIEnv* env, jclass, jobject info)

@@ -40,6 +40,22 @@ public final class Camera2d extends NativePeer {
         createNative(this);
     }
 
+    private Camera2d(Canvas3dSettings settings) {
+        connectNative(this, requireOpen(settings, "settings"));
+    }
+
+    /**
+     * Makes a peer of the 2D camera of a view. The camera lives as long as the peer, also when the view is gone.
+     *
+     * @param settings the settings of the view
+     * @return the peer
+     * @throws NullPointerException if the settings are null
+     * @throws IllegalStateException if the settings are closed
+     */
+    public static Camera2d connect(Canvas3dSettings settings) {
+        return new Camera2d(settings);
+    }
+
     /**
      * Sets the radii of the polar mode.
      *
@@ -215,6 +231,8 @@ public final class Camera2d extends NativePeer {
     }
 
     private static native void createNative(Camera2d peer);
+
+    private static native void connectNative(Camera2d peer, Canvas3dSettings owner);
 
     private static native void cleanupNative(Camera2d peer);
 

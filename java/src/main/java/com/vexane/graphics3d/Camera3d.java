@@ -41,6 +41,22 @@ public final class Camera3d extends NativePeer {
         createNative(this);
     }
 
+    private Camera3d(Canvas3dSettings settings) {
+        connectNative(this, requireOpen(settings, "settings"));
+    }
+
+    /**
+     * Makes a peer of the 3D camera of a view. The camera lives as long as the peer, also when the view is gone.
+     *
+     * @param settings the settings of the view
+     * @return the peer
+     * @throws NullPointerException if the settings are null
+     * @throws IllegalStateException if the settings are closed
+     */
+    public static Camera3d connect(Canvas3dSettings settings) {
+        return new Camera3d(settings);
+    }
+
     /**
      * Places the eye and turns it. Only the length of the direction is kept, not used; zoom and view offset stay.
      *
@@ -356,6 +372,8 @@ public final class Camera3d extends NativePeer {
     }
 
     private static native void createNative(Camera3d peer);
+
+    private static native void connectNative(Camera3d peer, Canvas3dSettings owner);
 
     private static native void cleanupNative(Camera3d peer);
 

@@ -1,10 +1,11 @@
 package com.vexane.graphics3d;
 
 /**
- * What one or several views show: a tree of nodes, below {@link SceneGraphRoot#connect its root}.
+ * What one or several views show: a tree of nodes, below {@link SceneGraphRoot#connect its root}, and
+ * {@linkplain SceneLight#connect light}. How a view shows it is set in the {@link SceneSettings} of that view.
  *
- * <p>A scene lives while its peer is open or a renderer shows it. Its tree may outlive it, as long as a peer of the root
- * is open.
+ * <p>A scene lives while its peer is open or a renderer shows it. Its tree and its light may outlive it, each as long
+ * as a peer of it is open.
  */
 public final class Scene extends NativePeer {
     /** Makes an empty scene. */

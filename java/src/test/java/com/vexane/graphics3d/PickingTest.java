@@ -36,6 +36,16 @@ class PickingTest {
     }
 
     @Test
+    void peersOfTheSameCanvasShareItsSettings() {
+        try (TestRenderer view = new TestRenderer();
+                CanvasPickSettings settings = new CanvasPickSettings(view);
+                CanvasPickSettings again = new CanvasPickSettings(view)) {
+            settings.setPickTarget(Target.LINE);
+            assertEquals(Target.LINE, again.getPickTarget());
+        }
+    }
+
+    @Test
     void anEmptyCollectionHasNoResultToGive() {
         PickedObjectCollection picked = new PickedObjectCollection();
         assertEquals(0, picked.size());

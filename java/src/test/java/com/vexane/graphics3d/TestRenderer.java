@@ -6,7 +6,7 @@ final class TestRenderer extends NativePeer {
         NativeLibrary.require(TestRenderer.class, "vxtestrenderer");
     }
 
-    /** Makes a view without context. */
+    /** Makes a view without context and scene, with settings of a view and of picks. */
     TestRenderer() {
         createNative(this);
     }
@@ -14,6 +14,21 @@ final class TestRenderer extends NativePeer {
     /** Gives the view a context; its fields are 1 to 12 in their order, double buffered, not accelerated. */
     void openContext(int antialiasingType) {
         openContext(this, antialiasingType);
+    }
+
+    /** Makes the view show a scene, or none for null; settings of the scene shown before are disconnected. */
+    void show(Scene scene) {
+        show(this, scene);
+    }
+
+    /** Sets the mode of the view as a renderer does, which may know more modes. */
+    void setRenderMode(int mode) {
+        setRenderMode(this, mode);
+    }
+
+    /** The bits of what has changed in the settings of the scene that the view shows. */
+    int getChangedFlags() {
+        return getChangedFlags(this);
     }
 
     /** The record of a renderer's capabilities, as the native side of these tests fills it. */
@@ -43,6 +58,12 @@ final class TestRenderer extends NativePeer {
     private static native void cleanupNative(TestRenderer peer);
 
     private static native void openContext(TestRenderer peer, int antialiasingType);
+
+    private static native void show(TestRenderer peer, Scene sceneOrNull);
+
+    private static native void setRenderMode(TestRenderer peer, int mode);
+
+    private static native int getChangedFlags(TestRenderer peer);
 
     private static native void connectInfo(RendererInfo info);
 

@@ -1,0 +1,470 @@
+package com.vexane.graphics3d;
+
+import java.util.Objects;
+
+/**
+ * What belongs to one view: whether it shows the 3D or the 2D mode, a camera for each, backgrounds, grid box, axes,
+ * fonts, and what the mouse does.
+ *
+ * <p>A view of a renderer has settings to {@linkplain #connect connect} to. Settings made here belong to no view. The
+ * parts of the settings have peers of their own: {@link Camera3d}, {@link Camera2d}, {@link GridBoxSettings} and
+ * {@link AxisSetup}; they may outlive the settings and the view. All calls but the copying take constant time.
+ */
+public final class Canvas3dSettings extends NativePeer {
+    /** What a view shows. */
+    public enum RenderMode {
+        /** The scene in space, through the 3D camera. */
+        VIEW_3D(0),
+        /** The scene in a plane, through the 2D camera. */
+        VIEW_2D(1);
+
+        private final int number;
+
+        RenderMode(int number) {
+            this.number = number;
+        }
+
+        /**
+         * The number by which native code knows the mode.
+         *
+         * @return 0 to 1
+         */
+        public int number() {
+            return number;
+        }
+    }
+
+    /** The kinds of text that belong to a view, each with a font of its own. */
+    public enum Text {
+        /** Titles of axes. */
+        AXIS_TITLE(0),
+        /** Numbers along axes and grid boxes. */
+        AXIS_TICK(1),
+        /** Titles of legends, and names in line legends. */
+        LEGEND_TITLE(2),
+        /** Numbers beside legends. */
+        LEGEND_TICK(3),
+        /** Letters of the axis orientation indicator. */
+        AXIS_ORIENTATION(4);
+
+        private final int number;
+
+        Text(int number) {
+            this.number = number;
+        }
+
+        /**
+         * The number by which native code knows the kind of text.
+         *
+         * @return 0 to 4
+         */
+        public int number() {
+            return number;
+        }
+    }
+
+    /** Where the image of a background stands between left and right. */
+    public enum HorizontalPosition {
+        /** At the left. */
+        LEFT(0),
+        /** In the middle. */
+        CENTER(1),
+        /** At the right. */
+        RIGHT(2);
+
+        private final int number;
+
+        HorizontalPosition(int number) {
+            this.number = number;
+        }
+
+        /**
+         * The number by which native code knows the position.
+         *
+         * @return 0 to 2
+         */
+        public int number() {
+            return number;
+        }
+    }
+
+    /** Where the image of a background stands between top and bottom. */
+    public enum VerticalPosition {
+        /** At the top. */
+        TOP(0),
+        /** In the middle. */
+        CENTER(1),
+        /** At the bottom. */
+        BOTTOM(2);
+
+        private final int number;
+
+        VerticalPosition(int number) {
+            this.number = number;
+        }
+
+        /**
+         * The number by which native code knows the position.
+         *
+         * @return 0 to 2
+         */
+        public int number() {
+            return number;
+        }
+    }
+
+    /**
+     * Makes settings that belong to no view: the 3D mode with new cameras on black, with the fonts that the
+     * {@linkplain Canvas3dGlobalSettings settings of the process} have now.
+     */
+    public Canvas3dSettings() {
+        createNative(this);
+    }
+
+    private Canvas3dSettings(NativePeer renderer) {
+        connectNative(this, requireOpen(renderer, "renderer"));
+    }
+
+    private Canvas3dSettings(Canvas3dSettings source) {
+        cloneNative(this, requireOpen(source, "source"));
+    }
+
+    /**
+     * Makes a peer of a view's settings.
+     *
+     * @param renderer the peer of the renderer's view
+     * @return the peer
+     * @throws NullPointerException if the view's peer is null
+     * @throws IllegalStateException if the view's peer is closed
+     * @throws NativeException if the peer is no view of a renderer, or the view has no settings
+     */
+    public static Canvas3dSettings connect(NativePeer renderer) {
+        return new Canvas3dSettings(renderer);
+    }
+
+    /**
+     * Makes settings with the values of others, and with cameras, grid box, axes and indicator of their own. Only the
+     * images of backgrounds are shared.
+     *
+     * @param source the settings to copy
+     * @return the copy, which belongs to no view
+     * @throws NullPointerException if the source is null
+     * @throws IllegalStateException if the source is closed
+     */
+    public static Canvas3dSettings copyOf(Canvas3dSettings source) {
+        return new Canvas3dSettings(source);
+    }
+
+    /**
+     * What the view shows.
+     *
+     * @return the mode, {@link RenderMode#VIEW_3D} at the start
+     * @throws IllegalStateException if the renderer has set a mode that has no name here
+     */
+    public RenderMode getRenderMode() {
+        int number = getRenderMode(this);
+        if (number < 0) {
+            throw new IllegalStateException("The view is in a mode without a name.");
+        }
+        return RenderMode.values()[number];
+    }
+
+    /**
+     * Sets what the view shows.
+     *
+     * @param mode the mode
+     * @throws NullPointerException if the mode is null
+     */
+    public void setRenderMode(RenderMode mode) {
+        setRenderMode(this, mode.number());
+    }
+
+    /**
+     * Which kinds of item the renderer draws.
+     *
+     * @return a bit for each kind, among bits 0 to 20 and 25; all of them at the start
+     */
+    public int getRenderMask() {
+        return getRenderMask(this);
+    }
+
+    /**
+     * Sets which kinds of item the renderer draws.
+     *
+     * @param mask a bit for each kind; bits beyond 0 to 20 and 25 are ignored
+     */
+    public void setRenderMask(int mask) {
+        setRenderMask(this, mask);
+    }
+
+    /**
+     * Makes the renderer draw more kinds of item.
+     *
+     * @param mask a bit for each further kind; bits beyond 0 to 20 and 25 are ignored
+     */
+    public void addRenderMask(int mask) {
+        addRenderMask(this, mask);
+    }
+
+    /**
+     * Makes the renderer draw fewer kinds of item.
+     *
+     * @param mask a bit for each kind to leave out; bits beyond 0 to 20 and 25 are ignored
+     */
+    public void removeRenderMask(int mask) {
+        removeRenderMask(this, mask);
+    }
+
+    /**
+     * What the mouse does in the view.
+     *
+     * @return 0 to 6, 1 at the start; what the numbers mean is the view's
+     */
+    public int getMouseMode() {
+        return getMouseMode(this);
+    }
+
+    /**
+     * Sets what the mouse does in the view.
+     *
+     * @param mode 0 to 6; anything else is reported in the log and becomes 0
+     */
+    public void setMouseMode(int mode) {
+        setMouseMode(this, mode);
+    }
+
+    /**
+     * Whether the pointer snaps to vertices.
+     *
+     * @return true at the start
+     */
+    public boolean getSnap() {
+        return getSnap(this);
+    }
+
+    /**
+     * Sets whether the pointer snaps to vertices.
+     *
+     * @param snap true to snap
+     */
+    public void setSnap(boolean snap) {
+        setSnap(this, snap);
+    }
+
+    /**
+     * The name of the font of a kind of text.
+     *
+     * @param text the kind of text
+     * @return the name
+     * @throws NullPointerException if the kind is null
+     */
+    public String getFontName(Text text) {
+        return getFontName(this, text.number());
+    }
+
+    /**
+     * The size of the font of a kind of text.
+     *
+     * @param text the kind of text
+     * @return the size in points; -1 if none has been set
+     * @throws NullPointerException if the kind is null
+     */
+    public int getFontSize(Text text) {
+        return getFontSize(this, text.number());
+    }
+
+    /**
+     * Sets the font of a kind of text.
+     *
+     * @param text the kind of text
+     * @param name the name of the font
+     * @param size the size in points
+     * @throws NullPointerException if the kind or the name is null
+     */
+    public void setFont(Text text, String name, int size) {
+        setFont(this, text.number(), Objects.requireNonNull(name, "name"), size);
+    }
+
+    /**
+     * Sets the background of a mode to one colour.
+     *
+     * @param mode the mode
+     * @param color 0xRRGGBB; higher bits are ignored
+     * @throws NullPointerException if the mode is null
+     */
+    public void setBackgroundColor(RenderMode mode, int color) {
+        setBackgroundColor(this, mode.number(), color);
+    }
+
+    /**
+     * Sets the background of a mode to two colours that run into each other. Two equal colours are one colour.
+     *
+     * @param mode the mode
+     * @param topColor 0xRRGGBB; higher bits are ignored
+     * @param bottomColor 0xRRGGBB; higher bits are ignored
+     * @throws NullPointerException if the mode is null
+     */
+    public void setShadedBackground(RenderMode mode, int topColor, int bottomColor) {
+        setShadedBackground(this, mode.number(), topColor, bottomColor);
+    }
+
+    /**
+     * Whether the background of a mode has two colours.
+     *
+     * @param mode the mode
+     * @return false at the start
+     * @throws NullPointerException if the mode is null
+     */
+    public boolean isBackgroundShaded(RenderMode mode) {
+        return isBackgroundShaded(this, mode.number());
+    }
+
+    /**
+     * The colour at the top of the background of a mode.
+     *
+     * @param mode the mode
+     * @return 0xRRGGBB, black at the start
+     * @throws NullPointerException if the mode is null
+     */
+    public int getTopBackgroundColor(RenderMode mode) {
+        return getTopBackgroundColor(this, mode.number());
+    }
+
+    /**
+     * The colour at the bottom of the background of a mode.
+     *
+     * @param mode the mode
+     * @return 0xRRGGBB, black at the start
+     * @throws NullPointerException if the mode is null
+     */
+    public int getBottomBackgroundColor(RenderMode mode) {
+        return getBottomBackgroundColor(this, mode.number());
+    }
+
+    /**
+     * Sets the image on the background of a mode. The view shares the image and follows its changes.
+     *
+     * @param mode the mode
+     * @param image the image, or null for none
+     * @param horizontal where it stands between left and right
+     * @param vertical where it stands between top and bottom
+     * @throws NullPointerException if the mode or a position is null
+     * @throws IllegalStateException if the image is closed
+     */
+    public void setBackgroundImage(
+            RenderMode mode, CanvasBackgroundImage image, HorizontalPosition horizontal, VerticalPosition vertical) {
+        if (image != null) {
+            requireOpen(image, "image");
+        }
+        setBackgroundImage(this, mode.number(), image, horizontal.number(), vertical.number());
+    }
+
+    /**
+     * Whether the axis orientation indicator is shown.
+     *
+     * @return false at the start
+     */
+    public boolean isAxisOrientationIndicatorShown() {
+        return isAxisOrientationIndicatorShown(this);
+    }
+
+    /**
+     * Sets whether the axis orientation indicator is shown.
+     *
+     * @param show true to show it
+     */
+    public void setShowAxisOrientationIndicator(boolean show) {
+        setShowAxisOrientationIndicator(this, show);
+    }
+
+    /**
+     * Sets how the axis orientation indicator looks.
+     *
+     * @param length the length of its axes, in the renderer's units
+     * @param labelX the label of the x axis
+     * @param colorX the colour of the x axis, 0xRRGGBB; higher bits are ignored
+     * @param labelY the label of the y axis
+     * @param colorY the colour of the y axis, 0xRRGGBB; higher bits are ignored
+     * @param labelZ the label of the z axis
+     * @param colorZ the colour of the z axis, 0xRRGGBB; higher bits are ignored
+     * @throws NullPointerException if a label is null
+     */
+    public void setAxisOrientationIndicator(
+            float length, String labelX, int colorX, String labelY, int colorY, String labelZ, int colorZ) {
+        setAxisOrientationIndicator(
+                this,
+                length,
+                Objects.requireNonNull(labelX, "labelX"),
+                colorX,
+                Objects.requireNonNull(labelY, "labelY"),
+                colorY,
+                Objects.requireNonNull(labelZ, "labelZ"),
+                colorZ);
+    }
+
+    @Override
+    protected void cleanup() {
+        cleanupNative(this);
+    }
+
+    private static native void createNative(Canvas3dSettings peer);
+
+    private static native void cleanupNative(Canvas3dSettings peer);
+
+    private static native void connectNative(Canvas3dSettings peer, Object renderer);
+
+    private static native void cloneNative(Canvas3dSettings peer, Canvas3dSettings source);
+
+    private static native int getRenderMode(Canvas3dSettings peer);
+
+    private static native void setRenderMode(Canvas3dSettings peer, int mode);
+
+    private static native int getRenderMask(Canvas3dSettings peer);
+
+    private static native void setRenderMask(Canvas3dSettings peer, int mask);
+
+    private static native void addRenderMask(Canvas3dSettings peer, int mask);
+
+    private static native void removeRenderMask(Canvas3dSettings peer, int mask);
+
+    private static native int getMouseMode(Canvas3dSettings peer);
+
+    private static native void setMouseMode(Canvas3dSettings peer, int mode);
+
+    private static native boolean getSnap(Canvas3dSettings peer);
+
+    private static native void setSnap(Canvas3dSettings peer, boolean snap);
+
+    private static native String getFontName(Canvas3dSettings peer, int item);
+
+    private static native int getFontSize(Canvas3dSettings peer, int item);
+
+    private static native void setFont(Canvas3dSettings peer, int item, String name, int size);
+
+    private static native void setBackgroundColor(Canvas3dSettings peer, int mode, int color);
+
+    private static native void setShadedBackground(Canvas3dSettings peer, int mode, int topColor, int bottomColor);
+
+    private static native boolean isBackgroundShaded(Canvas3dSettings peer, int mode);
+
+    private static native int getTopBackgroundColor(Canvas3dSettings peer, int mode);
+
+    private static native int getBottomBackgroundColor(Canvas3dSettings peer, int mode);
+
+    private static native void setBackgroundImage(
+            Canvas3dSettings peer, int mode, CanvasBackgroundImage image, int horizontal, int vertical);
+
+    private static native boolean isAxisOrientationIndicatorShown(Canvas3dSettings peer);
+
+    private static native void setShowAxisOrientationIndicator(Canvas3dSettings peer, boolean show);
+
+    private static native void setAxisOrientationIndicator(
+            Canvas3dSettings peer,
+            float length,
+            String labelX,
+            int colorX,
+            String labelY,
+            int colorY,
+            String labelZ,
+            int colorZ);
+}

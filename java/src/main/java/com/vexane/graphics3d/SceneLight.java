@@ -1,0 +1,183 @@
+package com.vexane.graphics3d;
+
+import java.util.NoSuchElementException;
+
+/**
+ * The light of a scene: its light sources, and the ambient light and intensity that hold for all of them. Every view of
+ * the scene decides through {@link SceneSettingsLight} which of it it uses.
+ *
+ * <p>Light sources have ids, from 1, which are never used again. At most eight shine at one time. Calls take time
+ * logarithmic in the number of sources, except where they say otherwise.
+ */
+public final class SceneLight extends NativePeer {
+    private SceneLight() {}
+
+    /**
+     * Makes a peer of the light of a scene. The light lives as long as the peer, also when the scene is closed.
+     *
+     * @param scene the scene
+     * @return the peer
+     * @throws NullPointerException if the scene is null
+     * @throws IllegalStateException if the scene is closed
+     */
+    public static SceneLight connect(Scene scene) {
+        SceneLight light = new SceneLight();
+        connectNative(light, requireOpen(scene, "scene"));
+        return light;
+    }
+
+    /**
+     * Makes a light from one direction. It does not shine yet, and its intensity is 0.
+     *
+     * @return the id of the light source, for {@link DirectionLightSource#connect}
+     */
+    public int createDirectionLight() {
+        return createDirectionLight(this);
+    }
+
+    /**
+     * Makes a light from one point. It does not shine yet, and its intensity is 0.
+     *
+     * @return the id of the light source, for {@link PointLightSource#connect}
+     */
+    public int createPointLight() {
+        return createPointLight(this);
+    }
+
+    /**
+     * Makes a light within a cone. It does not shine yet, and its intensity is 0.
+     *
+     * @return the id of the light source, for {@link SpotLightSource#connect}
+     */
+    public int createSpotLight() {
+        return createSpotLight(this);
+    }
+
+    /**
+     * Switches a light source off and removes it. Peers of it stay good.
+     *
+     * @param lightId the id of the light source
+     * @return false if there is no such light source
+     */
+    public boolean removeLightSource(int lightId) {
+        return removeLightSource(this, lightId);
+    }
+
+    /** Switches all light sources off and removes them, in time linear in their number. Peers of them stay good. */
+    public void removeAllLightSources() {
+        removeAllLightSources(this);
+    }
+
+    /**
+     * Whether there is a light source of an id.
+     *
+     * @param lightId the id
+     * @return true if there is
+     */
+    public boolean lightSourceExists(int lightId) {
+        return lightSourceExists(this, lightId);
+    }
+
+    /**
+     * The kind of a light source.
+     *
+     * @param lightId the id of the light source
+     * @return the kind
+     * @throws NoSuchElementException if there is no such light source
+     */
+    public LightSource.Type getLightSourceType(int lightId) {
+        if (!lightSourceExists(this, lightId)) {
+            throw new NoSuchElementException("There is no light source " + lightId + ".");
+        }
+        return LightSource.Type.of(getLightSourceType(this, lightId));
+    }
+
+    /**
+     * The factor on the intensity of every light source.
+     *
+     * @return the factor, 1 at the start
+     */
+    public float getTotalLightSourceIntensity() {
+        return getTotalLightSourceIntensity(this);
+    }
+
+    /**
+     * Sets the factor on the intensity of every light source.
+     *
+     * @param intensity the factor; not checked
+     */
+    public void setTotalLightSourceIntensity(float intensity) {
+        setTotalLightSourceIntensity(this, intensity);
+    }
+
+    /**
+     * The intensity of all ambient light together.
+     *
+     * @return the intensity, 1 at the start
+     */
+    public float getAmbientIntensity() {
+        return getAmbientIntensity(this);
+    }
+
+    /**
+     * Sets the intensity of all ambient light together.
+     *
+     * @param intensity the intensity; not checked
+     */
+    public void setAmbientIntensity(float intensity) {
+        setAmbientIntensity(this, intensity);
+    }
+
+    /**
+     * The colour of the ambient light that comes from no source.
+     *
+     * @return 0xRRGGBB, white at the start
+     */
+    public int getGlobalAmbientColor() {
+        return getGlobalAmbientColor(this);
+    }
+
+    /**
+     * Sets the colour of the ambient light that comes from no source.
+     *
+     * @param color 0xRRGGBB; higher bits are ignored
+     */
+    public void setGlobalAmbientColor(int color) {
+        setGlobalAmbientColor(this, color);
+    }
+
+    @Override
+    protected void cleanup() {
+        cleanupNative(this);
+    }
+
+    private static native void connectNative(SceneLight peer, Scene owner);
+
+    private static native void cleanupNative(SceneLight peer);
+
+    private static native int createDirectionLight(SceneLight peer);
+
+    private static native int createPointLight(SceneLight peer);
+
+    private static native int createSpotLight(SceneLight peer);
+
+    private static native boolean removeLightSource(SceneLight peer, int lightId);
+
+    private static native void removeAllLightSources(SceneLight peer);
+
+    private static native boolean lightSourceExists(SceneLight peer, int lightId);
+
+    private static native int getLightSourceType(SceneLight peer, int lightId);
+
+    private static native float getTotalLightSourceIntensity(SceneLight peer);
+
+    private static native void setTotalLightSourceIntensity(SceneLight peer, float intensity);
+
+    private static native float getAmbientIntensity(SceneLight peer);
+
+    private static native void setAmbientIntensity(SceneLight peer, float intensity);
+
+    private static native int getGlobalAmbientColor(SceneLight peer);
+
+    private static native void setGlobalAmbientColor(SceneLight peer, int color);
+}

@@ -1,0 +1,263 @@
+package com.vexane.graphics3d;
+
+import java.util.Objects;
+
+/**
+ * How one view shows one scene: which decorations are on, the opacity, two fonts, and the light of the scene that it
+ * uses. The settings stay good when the view shows another scene; they then have no effect.
+ */
+public final class SceneSettings extends NativePeer {
+    /** The kinds of text that belong to a scene, each with a font of its own. */
+    public enum Text {
+        /** Labels of points and parts. */
+        LABEL(0),
+        /** The title of the scene. */
+        TITLE(1);
+
+        private final int number;
+
+        Text(int number) {
+            this.number = number;
+        }
+
+        /**
+         * The number by which native code knows the kind of text.
+         *
+         * @return 0 to 1
+         */
+        public int number() {
+            return number;
+        }
+    }
+
+    private SceneSettings() {}
+
+    /**
+     * Makes a peer of the settings of the scene that a view shows.
+     *
+     * @param renderer the peer of the renderer's view
+     * @return the peer
+     * @throws NullPointerException if the view's peer is null
+     * @throws IllegalStateException if the view's peer is closed
+     * @throws NativeException if the peer is no view of a renderer, or the view shows no scene
+     */
+    public static SceneSettings connect(NativePeer renderer) {
+        SceneSettings settings = new SceneSettings();
+        connectNative(settings, requireOpen(renderer, "renderer"));
+        return settings;
+    }
+
+    /**
+     * Whether legends are shown.
+     *
+     * @return true at the start
+     */
+    public boolean isLegendsShown() {
+        return isLegendsShown(this);
+    }
+
+    /**
+     * Sets whether legends are shown.
+     *
+     * @param show true to show them
+     */
+    public void setShowLegends(boolean show) {
+        setShowLegends(this, show);
+    }
+
+    /**
+     * Whether the smallest and the largest value of legends are shown.
+     *
+     * @return true at the start
+     */
+    public boolean isMinMaxShown() {
+        return isMinMaxShown(this);
+    }
+
+    /**
+     * Sets whether the smallest and the largest value of legends are shown.
+     *
+     * @param show true to show them
+     */
+    public void setShowMinMax(boolean show) {
+        setShowMinMax(this, show);
+    }
+
+    /**
+     * Whether the title is shown.
+     *
+     * @return true at the start
+     */
+    public boolean isTitleShown() {
+        return isTitleShown(this);
+    }
+
+    /**
+     * Sets whether the title is shown.
+     *
+     * @param show true to show it
+     */
+    public void setShowTitle(boolean show) {
+        setShowTitle(this, show);
+    }
+
+    /**
+     * Whether labels of points and parts are shown.
+     *
+     * @return false at the start
+     */
+    public boolean isLabelsShown() {
+        return isLabelsShown(this);
+    }
+
+    /**
+     * Sets whether labels of points and parts are shown.
+     *
+     * @param show true to show them
+     */
+    public void setShowLabels(boolean show) {
+        setShowLabels(this, show);
+    }
+
+    /**
+     * Whether the markers of physics are shown.
+     *
+     * @return false at the start
+     */
+    public boolean isPhysicsMarkersShown() {
+        return isPhysicsMarkersShown(this);
+    }
+
+    /**
+     * Sets whether the markers of physics are shown.
+     *
+     * @param show true to show them
+     */
+    public void setShowPhysicsMarkers(boolean show) {
+        setShowPhysicsMarkers(this, show);
+    }
+
+    /**
+     * Whether the directions of lines are shown.
+     *
+     * @return false at the start
+     */
+    public boolean isLineDirectionsShown() {
+        return isLineDirectionsShown(this);
+    }
+
+    /**
+     * Sets whether the directions of lines are shown.
+     *
+     * @param show true to show them
+     */
+    public void setShowLineDirections(boolean show) {
+        setShowLineDirections(this, show);
+    }
+
+    /**
+     * The opacity of the whole scene.
+     *
+     * @return the opacity, 1 at the start
+     */
+    public float getGlobalOpacity() {
+        return getGlobalOpacity(this);
+    }
+
+    /**
+     * Sets the opacity of the whole scene.
+     *
+     * @param opacity from 0, invisible, to 1, opaque; not checked
+     */
+    public void setGlobalOpacity(float opacity) {
+        setGlobalOpacity(this, opacity);
+    }
+
+    /**
+     * Whether nothing shines through the scene.
+     *
+     * @return true if the opacity is 1 or more
+     */
+    public boolean isGlobalOpaque() {
+        return isGlobalOpaque(this);
+    }
+
+    /**
+     * The name of the font of a kind of text.
+     *
+     * @param text the kind of text
+     * @return the name
+     * @throws NullPointerException if the kind is null
+     */
+    public String getFontName(Text text) {
+        return getFontName(this, text.number());
+    }
+
+    /**
+     * The size of the font of a kind of text.
+     *
+     * @param text the kind of text
+     * @return the size in points; -1 if none has been set
+     * @throws NullPointerException if the kind is null
+     */
+    public int getFontSize(Text text) {
+        return getFontSize(this, text.number());
+    }
+
+    /**
+     * Sets the font of a kind of text.
+     *
+     * @param text the kind of text
+     * @param name the name of the font
+     * @param size the size in points
+     * @throws NullPointerException if the kind or the name is null
+     */
+    public void setFont(Text text, String name, int size) {
+        setFont(this, text.number(), Objects.requireNonNull(name, "name"), size);
+    }
+
+    @Override
+    protected void cleanup() {
+        cleanupNative(this);
+    }
+
+    private static native void connectNative(SceneSettings peer, Object renderer);
+
+    private static native void cleanupNative(SceneSettings peer);
+
+    private static native boolean isLegendsShown(SceneSettings peer);
+
+    private static native void setShowLegends(SceneSettings peer, boolean show);
+
+    private static native boolean isMinMaxShown(SceneSettings peer);
+
+    private static native void setShowMinMax(SceneSettings peer, boolean show);
+
+    private static native boolean isTitleShown(SceneSettings peer);
+
+    private static native void setShowTitle(SceneSettings peer, boolean show);
+
+    private static native boolean isLabelsShown(SceneSettings peer);
+
+    private static native void setShowLabels(SceneSettings peer, boolean show);
+
+    private static native boolean isPhysicsMarkersShown(SceneSettings peer);
+
+    private static native void setShowPhysicsMarkers(SceneSettings peer, boolean show);
+
+    private static native boolean isLineDirectionsShown(SceneSettings peer);
+
+    private static native void setShowLineDirections(SceneSettings peer, boolean show);
+
+    private static native float getGlobalOpacity(SceneSettings peer);
+
+    private static native void setGlobalOpacity(SceneSettings peer, float opacity);
+
+    private static native boolean isGlobalOpaque(SceneSettings peer);
+
+    private static native String getFontName(SceneSettings peer, int item);
+
+    private static native int getFontSize(SceneSettings peer, int item);
+
+    private static native void setFont(SceneSettings peer, int item, String name, int size);
+}
