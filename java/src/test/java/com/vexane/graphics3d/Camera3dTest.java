@@ -125,7 +125,7 @@ class Camera3dTest {
         Camera3d closed = new Camera3d();
         closed.close();
         closed.close();
-        try (Camera3d camera = new Camera3d(); Camera2d other = new Camera2d()) {
+        try (Camera3d camera = new Camera3d()) {
             assertThrows(NullPointerException.class, () -> camera.setProjectionType(null));
             assertThrows(NullPointerException.class, () -> camera.setOverrideResizeBehaviour(true, null));
             assertThrows(NativeException.class, closed::getPositionX);
