@@ -126,7 +126,8 @@ void orbit3d(benchmark::State& state)
     Camera3d camera = orbitCamera();
     int step = 0;
     for (auto _ : state) {
-        camera.setAdditionalSceneRotation(angleOf(++step), -angleOf(step), 0.0f);
+        const float angle = angleOf(++step);
+        camera.setAdditionalSceneRotation(angle, -angle, 0.0f);
         benchmark::DoNotOptimize(camera.getViewTransform().data()[12] + camera.getProjectionTransformRH().data()[0]);
         benchmark::ClobberMemory();
     }
@@ -145,7 +146,8 @@ void orbit3d_limit(benchmark::State& state)
     BareOrbit bare;
     int step = 0;
     for (auto _ : state) {
-        bare.turn(angleOf(++step), -angleOf(step));
+        const float angle = angleOf(++step);
+        bare.turn(angle, -angle);
         benchmark::DoNotOptimize(bare.view[12] + bare.inverse[12]);
         benchmark::ClobberMemory();
     }
