@@ -67,7 +67,7 @@ void addChildren(benchmark::State& state)
         }
         state.ResumeTiming();
     }
-    state.counters["allowed"] = 2.5;
+    state.counters["allowed"] = 1.5;
 }
 BENCHMARK(addChildren)->Arg(1000)->Arg(10000)->Arg(100000);
 

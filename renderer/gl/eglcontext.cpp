@@ -126,8 +126,11 @@ EglContext::~EglContext()
 }
 
 EglContext::Current::Current(const EglContext& context)
-    : m_display(context.m_display), m_previousApi(eglQueryAPI()), m_previousDisplay(eglGetCurrentDisplay()),
-      m_previousDraw(eglGetCurrentSurface(EGL_DRAW)), m_previousRead(eglGetCurrentSurface(EGL_READ)),
+    : m_display(context.m_display),
+      m_previousApi(eglQueryAPI()),
+      m_previousDisplay(eglGetCurrentDisplay()),
+      m_previousDraw(eglGetCurrentSurface(EGL_DRAW)),
+      m_previousRead(eglGetCurrentSurface(EGL_READ)),
       m_previousContext(eglGetCurrentContext())
 {
     eglBindAPI(EGL_OPENGL_API);
