@@ -1,7 +1,7 @@
 // One step of a drag: the additional transformation and both matrices that a renderer reads then. The limit is the bare
 // arithmetic of the same matrices on arrays of floats, without the camera's state.
 
-#include "graphics3d/cameras/camera2d.h"
+#include "benchmarks/allocations.h"
 #include "graphics3d/cameras/camera3d.h"
 
 #include <benchmark/benchmark.h>
@@ -33,9 +33,14 @@ Vector cross(const Vector& a, const Vector& b)
     return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
 }
 
+float lengthOf(const Vector& v)
+{
+    return std::sqrt(v[0] * v[0] + v[1] * v[1] + v[2] * v[2]);
+}
+
 Vector unit(const Vector& v)
 {
-    const float length = std::sqrt(v[0] * v[0] + v[1] * v[1] + v[2] * v[2]);
+    const float length = lengthOf(v);
     return {v[0] / length, v[1] / length, v[2] / length};
 }
 
@@ -116,6 +121,20 @@ float angleOf(int step)
     return 0.001f * static_cast<float>(step & 511);
 }
 
+/// The factors of a zoom that magnifies as often as it reduces.
+float factorOf(int step)
+{
+    return 0.75f + angleOf(step);
+}
+
+/// Fails the benchmark if the camera has taken memory since it was set up.
+void checkNothingAllocated(benchmark::State& state, std::size_t before)
+{
+    if (numAllocations() != before) {
+        state.SkipWithError("A step of a drag takes memory.");
+    }
+}
+
 bool close(float a, float b)
 {
     return std::abs(a - b) < 1e-4f;
@@ -124,6 +143,7 @@ bool close(float a, float b)
 void orbit3d(benchmark::State& state)
 {
     Camera3d camera = orbitCamera();
+    const std::size_t allocations = numAllocations();
     int step = 0;
     for (auto _ : state) {
         const float angle = angleOf(++step);
@@ -131,6 +151,7 @@ void orbit3d(benchmark::State& state)
         benchmark::DoNotOptimize(camera.getViewTransform().data()[12] + camera.getProjectionTransformRH().data()[0]);
         benchmark::ClobberMemory();
     }
+    checkNothingAllocated(state, allocations);
     BareOrbit bare;
     bare.turn(angleOf(step), -angleOf(step));
     if (!std::equal(bare.view.begin(), bare.view.end(), camera.getViewTransform().data(), close) ||
@@ -154,26 +175,45 @@ void orbit3d_limit(benchmark::State& state)
 }
 BENCHMARK(orbit3d_limit);
 
-/// The projections of a perspective view whose height governs, of a square area.
+/// The projections of a perspective view of which all stays visible, with nothing about its angles, clipping distances
+/// and area known beforehand.
 struct BareZoom {
     std::array<float, 16> rightHanded{};
     std::array<float, 16> leftHanded{};
     std::array<float, 16> inverse{};
-    float fov = 20.0f * 3.1415927f / 180.0f;
-    float actualHorizontalFov = 0.0f;
-    float actualVerticalFov = 0.0f;
+    float horizontalFov = 20.0f * 3.1415927f / 180.0f;
+    float verticalFov = 20.0f * 3.1415927f / 180.0f;
+    float aspect = 1.0f;
+    float n = 0.1f;
+    float f = 100.0f;
+    float actualHorizontalFov = horizontalFov;
+    float actualVerticalFov = verticalFov;
+    Vector toPoint{-1.0f, -2.0f, -10.0f};
 
     void scale(float cx, float cy, float s)
     {
-        constexpr float n = 0.1f;
-        constexpr float f = 100.0f;
+        // A view that is tiny against the clipping range is not magnified further.
+        if (s < 1.0f) {
+            const auto angle = static_cast<double>(std::min(actualHorizontalFov, actualVerticalFov));
+            if (std::tan(angle) * static_cast<double>(lengthOf(toPoint)) < static_cast<double>((f - n) * 1e-05f)) {
+                return;
+            }
+        }
         const float k = 1.0f - 1.0f / s;
         const float ox = (cx - 0.5f) * k;
         const float oy = (cy - 0.5f) * k;
-        const double tangentX = std::tan(static_cast<double>(fov));
-        const double tangentY = std::tan(static_cast<double>(fov) * 1.0);
-        const auto w = static_cast<float>(static_cast<double>(s) * tangentX * static_cast<double>(2.0f * n));
-        const auto h = static_cast<float>(static_cast<double>(s) * tangentY * static_cast<double>(2.0f * n));
+        const double tangentX = std::tan(static_cast<double>(horizontalFov));
+        const double tangentY = std::tan(static_cast<double>(verticalFov));
+        const double scale = static_cast<double>(s) * static_cast<double>(2.0f * n);
+        float w = 0.0f;
+        float h = 0.0f;
+        if (static_cast<double>(aspect) < tangentY / tangentX) {
+            h = static_cast<float>(scale * tangentY);
+            w = h / aspect;
+        } else {
+            w = static_cast<float>(scale * tangentX);
+            h = w * aspect;
+        }
         actualHorizontalFov = static_cast<float>(std::atan(0.5 * static_cast<double>(w) / static_cast<double>(n)));
         actualVerticalFov = static_cast<float>(std::atan(0.5 * static_cast<double>(h) / static_cast<double>(n)));
         rightHanded = {2.0f * n / w,
@@ -205,14 +245,16 @@ struct BareZoom {
 void zoom3d(benchmark::State& state)
 {
     Camera3d camera = orbitCamera();
+    const std::size_t allocations = numAllocations();
     int step = 0;
     for (auto _ : state) {
-        camera.setAdditionalScale(0.25f, 0.75f, 1.0f + angleOf(++step));
+        camera.setAdditionalScale(0.25f, 0.75f, factorOf(++step));
         benchmark::DoNotOptimize(camera.getViewTransform().data()[12] + camera.getProjectionTransformRH().data()[0]);
         benchmark::ClobberMemory();
     }
+    checkNothingAllocated(state, allocations);
     BareZoom bare;
-    bare.scale(0.25f, 0.75f, 1.0f + angleOf(step));
+    bare.scale(0.25f, 0.75f, factorOf(step));
     if (!std::equal(bare.rightHanded.begin(), bare.rightHanded.end(), camera.getProjectionTransformRH().data(),
                     close) ||
         !std::equal(bare.leftHanded.begin(), bare.leftHanded.end(), camera.getProjectionTransformLH().data(), close) ||
@@ -228,8 +270,8 @@ void zoom3d_limit(benchmark::State& state)
     BareZoom bare;
     int step = 0;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(bare.fov);
-        bare.scale(0.25f, 0.75f, 1.0f + angleOf(++step));
+        benchmark::DoNotOptimize(bare);
+        bare.scale(0.25f, 0.75f, factorOf(++step));
         benchmark::DoNotOptimize(bare.rightHanded[0] + bare.inverse[0] + bare.actualHorizontalFov);
         benchmark::ClobberMemory();
     }

@@ -16,9 +16,9 @@ constexpr float c_defaultFov = 20.0f;
 /// The view is not magnified further once it is smaller than this fraction of the clipping range.
 constexpr float c_smallestView = 1e-05f;
 
-float toRadians(float degrees)
+HalfAngle fromDegrees(float degrees)
 {
-    return degrees * c_pi / 180.0f;
+    return HalfAngle(degrees * c_pi / 180.0f);
 }
 
 float toDegrees(float radians)
@@ -27,16 +27,48 @@ float toDegrees(float radians)
 }
 
 /// The half angle of a view that is s times as large.
-float scaledAngle(float angle, float s)
+HalfAngle scaledAngle(const HalfAngle& angle, float s)
 {
-    return static_cast<float>(std::atan(static_cast<double>(s) * view::tangent(angle)));
+    return HalfAngle(static_cast<float>(std::atan(static_cast<double>(s) * angle.tangent())));
 }
 
 /// The extent of a view of a half angle at a distance.
-float extentAt(float distance, float angle)
+float extentAt(float distance, const HalfAngle& angle)
 {
-    return static_cast<float>(2.0 * static_cast<double>(distance) * view::tangent(angle));
+    return static_cast<float>(2.0 * static_cast<double>(distance) * angle.tangent());
 }
+
+/// Turns about axes through the origin, one multiplied on the right of the other, kept as where they take the axes of
+/// space: a whole matrix would add a translation by nothing and a division by 1 to every step.
+class Turn {
+public:
+    Turn() = default;
+
+    /// Turns no further for an angle of 0.
+    void rotate(const Vector3f& axis, float angle)
+    {
+        if (angle == 0.0f) {
+            return;
+        }
+        Matrixf rotation(Matrixf::MatrixUninitialized);
+        rotation.initRotation(axis, angle);
+        const float* m = rotation.data();
+        const Vector3f x(m[0], m[1], m[2]);
+        const Vector3f y(m[4], m[5], m[6]);
+        const Vector3f z(m[8], m[9], m[10]);
+        *this = m_turned ? Turn((*this)(x), (*this)(y), (*this)(z)) : Turn(x, y, z);
+    }
+    /// Where a vector goes. The last summand keeps a component of 0 from being negative.
+    Vector3f operator()(const Vector3f& v) const { return m_x * v.x + m_y * v.y + m_z * v.z + Vector3f(); }
+
+private:
+    Turn(const Vector3f& x, const Vector3f& y, const Vector3f& z) : m_x(x), m_y(y), m_z(z), m_turned(true) {}
+
+    Vector3f m_x{1.0f, 0.0f, 0.0f};
+    Vector3f m_y{0.0f, 1.0f, 0.0f};
+    Vector3f m_z{0.0f, 0.0f, 1.0f};
+    bool m_turned = false;
+};
 
 Vector3f row(const Matrixf& m, int i)
 {
@@ -45,7 +77,7 @@ Vector3f row(const Matrixf& m, int i)
 
 } // namespace
 
-Camera3d::Camera3d() : m_horizontalFov(toRadians(c_defaultFov)), m_verticalFov(toRadians(c_defaultFov))
+Camera3d::Camera3d() : m_horizontalFov(fromDegrees(c_defaultFov)), m_verticalFov(fromDegrees(c_defaultFov))
 {
     calculatePerspective();
 }
@@ -148,20 +180,20 @@ void Camera3d::fitTightly(const BoundingBox& viewBox, float margin)
 
 void Camera3d::setFOV(float degrees)
 {
-    m_horizontalFov = toRadians(degrees);
+    m_horizontalFov = fromDegrees(degrees);
     m_verticalFov = m_horizontalFov;
     recalculateIn(ProjectionPerspective);
 }
 
 void Camera3d::setHorizontalFOV(float degrees)
 {
-    m_horizontalFov = toRadians(degrees);
+    m_horizontalFov = fromDegrees(degrees);
     recalculateIn(ProjectionPerspective);
 }
 
 void Camera3d::setVerticalFOV(float degrees)
 {
-    m_verticalFov = toRadians(degrees);
+    m_verticalFov = fromDegrees(degrees);
     recalculateIn(ProjectionPerspective);
 }
 
@@ -219,8 +251,8 @@ void Camera3d::setProjectionType(ProjectionType type)
     if (type != m_projectionType) {
         const float distance = (m_scaledRotationPoint - m_actualPosition).length();
         if (type == ProjectionPerspective) {
-            m_horizontalFov = view::halfAngle(m_orthographicWidth, distance);
-            m_verticalFov = view::halfAngle(m_orthographicHeight, distance);
+            m_horizontalFov = HalfAngle(view::halfAngle(m_orthographicWidth, distance));
+            m_verticalFov = HalfAngle(view::halfAngle(m_orthographicHeight, distance));
             m_viewingScale *= distance / m_nearClip;
         } else {
             m_orthographicWidth = extentAt(distance, m_horizontalFov);
@@ -247,12 +279,12 @@ void Camera3d::setOverrideResizeBehaviour(bool overrideGlobal, ResizeBehaviour b
 
 float Camera3d::getHorizontalFOV() const
 {
-    return toDegrees(m_horizontalFov);
+    return toDegrees(m_horizontalFov.radians());
 }
 
 float Camera3d::getVerticalFOV() const
 {
-    return toDegrees(m_verticalFov);
+    return toDegrees(m_verticalFov.radians());
 }
 
 Vector3f Camera3d::getLookAtDirection() const
@@ -273,23 +305,15 @@ float Camera3d::getPanSpeed() const
 
 void Camera3d::setAdditionalSceneRotation(float a, float b, float c)
 {
-    Matrixf turn(Matrixf::MatrixIdentity);
     const Vector3f toPoint = m_scaledRotationPoint - m_position;
     const Vector3f sight = toPoint.normalized();
-    if (a != 0.0f || b != 0.0f) {
-        const Vector3f horizontal = sight.cross(m_up);
-        if (b != 0.0f) {
-            turn.rotate(horizontal.cross(sight), b);
-        }
-        if (a != 0.0f) {
-            turn.rotate(horizontal, a);
-        }
-    }
-    if (c != 0.0f) {
-        turn.rotate(sight, c);
-    }
-    calculateRotationMatrix(turn);
-    m_actualPosition = m_scaledRotationPoint - turn * toPoint;
+    const Vector3f horizontal = sight.cross(m_up);
+    Turn turn;
+    turn.rotate(horizontal.cross(sight), b);
+    turn.rotate(horizontal, a);
+    turn.rotate(sight, c);
+    calculateRotationMatrix(turn(m_right), turn(m_up), turn(m_forward));
+    m_actualPosition = m_scaledRotationPoint - turn(toPoint);
     calculateViewMatrix();
     calculateDepthOrder();
     countChange();
@@ -297,17 +321,11 @@ void Camera3d::setAdditionalSceneRotation(float a, float b, float c)
 
 void Camera3d::setAdditionalRotation(float a, float b, float c)
 {
-    Matrixf turn(Matrixf::MatrixIdentity);
-    if (b != 0.0f) {
-        turn.rotate(m_up, b);
-    }
-    if (a != 0.0f) {
-        turn.rotate(m_right, a);
-    }
-    if (c != 0.0f) {
-        turn.rotate(m_forward, c);
-    }
-    calculateRotationMatrix(turn);
+    Turn turn;
+    turn.rotate(m_up, b);
+    turn.rotate(m_right, a);
+    turn.rotate(m_forward, c);
+    calculateRotationMatrix(turn(m_right), turn(m_up), turn(m_forward));
     calculateViewMatrix();
     calculateDepthOrder();
     countChange();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics3d/cameras/halfangle.h"
 #include "graphics3d/cameras/icameraactions.h"
 #include "graphics3d/cameras/icameratransforms.h"
 
@@ -176,7 +177,6 @@ private:
     void calculatePerspective();
     void shiftProjection(float x, float y);
     void calculateRotationMatrix(const Vector3f& right, const Vector3f& up, const Vector3f& forward);
-    void calculateRotationMatrix(const Matrixf& turn);
     void calculateViewMatrix();
     void calculateDepthOrder();
     void fitTightly(const BoundingBox& viewBox, float margin);
@@ -186,8 +186,8 @@ private:
     BoundingBox m_sceneBoundingBox;
     bool m_overrideResizeBehaviour = false;
     ResizeBehaviour m_ownResizeBehaviour = ResizeBehaviour::ResizeFill;
-    float m_horizontalFov = 0.0f;
-    float m_verticalFov = 0.0f;
+    HalfAngle m_horizontalFov;
+    HalfAngle m_verticalFov;
     float m_orthographicWidth = 10.0f;
     float m_orthographicHeight = 10.0f;
     float m_additionalScale = 1.0f;

@@ -25,6 +25,24 @@ constexpr bool isGoverned(Camera3d::ResizeBehaviour behaviour)
     return behaviour == ResizeWidth || behaviour == ResizeHeight || behaviour == ResizeFill || behaviour == ResizeFit;
 }
 
+/// A point under a rotation, without the division by its w, which is 1.
+Vector3f turned(const Matrixf& rotation, const Vector3f& p)
+{
+    const float* m = rotation.data();
+    return {m[0] * p.x + m[4] * p.y + m[8] * p.z + m[12], m[1] * p.x + m[5] * p.y + m[9] * p.z + m[13],
+            m[2] * p.x + m[6] * p.y + m[10] * p.z + m[14]};
+}
+
+/// A rotation with a translation after it.
+Matrixf movedTo(const Matrixf& rotation, const Vector3f& t)
+{
+    const Matrixf& r = rotation;
+    return {r.get(1, 1), r.get(1, 2), r.get(1, 3), t.x, //
+            r.get(2, 1), r.get(2, 2), r.get(2, 3), t.y, //
+            r.get(3, 1), r.get(3, 2), r.get(3, 3), t.z, //
+            0.0f,        0.0f,        0.0f,        1.0f};
+}
+
 } // namespace
 
 void Camera3d::setAxisViewScales(float x, float y, float z)
@@ -48,8 +66,8 @@ float Camera3d::getFOV() const
     if (!isGoverned(behaviour)) {
         return 0.0f;
     }
-    return widthGoverns(behaviour, view::tangent(m_verticalFov) / view::tangent(m_horizontalFov)) ? getHorizontalFOV()
-                                                                                                  : getVerticalFOV();
+    return widthGoverns(behaviour, m_verticalFov.tangent() / m_horizontalFov.tangent()) ? getHorizontalFOV()
+                                                                                        : getVerticalFOV();
 }
 
 float Camera3d::getOrthographicSize() const
@@ -231,8 +249,8 @@ void Camera3d::calculateViewRectangle()
         double baseRatio = static_cast<double>(m_orthographicHeight / m_orthographicWidth);
         double unit = 1.0;
         if (isPerspectiveProjection()) {
-            width = view::tangent(m_horizontalFov);
-            height = view::tangent(m_verticalFov);
+            width = m_horizontalFov.tangent();
+            height = m_verticalFov.tangent();
             baseRatio = height / width;
             unit = 2.0 * static_cast<double>(m_nearClip);
         }
@@ -265,9 +283,10 @@ void Camera3d::calculatePerspective()
                                         0.0f, h / 2.0f, 0.0f, 0.0f,                  //
                                         0.0f, 0.0f, -(f - n) / 2.0f, (f + n) / 2.0f, //
                                         0.0f, 0.0f, 0.0f, 1.0f);
-        m_projectionTransformLH = m_projectionTransformRH;
-        m_projectionTransformLH.set(3, 3, 1.0f / (n - f));
-        m_projectionTransformLH.set(3, 4, n / (n - f));
+        m_projectionTransformLH.init(2.0f / w, 0.0f, 0.0f, 0.0f,              //
+                                     0.0f, 2.0f / h, 0.0f, 0.0f,              //
+                                     0.0f, 0.0f, 1.0f / (n - f), n / (n - f), //
+                                     0.0f, 0.0f, 0.0f, 1.0f);
     } else {
         m_actualHorizontalFov = view::halfAngle(w, n);
         m_actualVerticalFov = view::halfAngle(h, n);
@@ -279,9 +298,10 @@ void Camera3d::calculatePerspective()
                                         0.0f, h / (2.0f * n), 0.0f, 0.0f, //
                                         0.0f, 0.0f, 0.0f, -1.0f,          //
                                         0.0f, 0.0f, -(f - n) / (2.0f * f * n), (n + f) / (2.0f * n * f));
-        m_projectionTransformLH = m_projectionTransformRH;
-        m_projectionTransformLH.set(3, 3, -f / (f - n));
-        m_projectionTransformLH.set(3, 4, -f * n / (f - n));
+        m_projectionTransformLH.init(2.0f * n / w, 0.0f, 0.0f, 0.0f,             //
+                                     0.0f, 2.0f * n / h, 0.0f, 0.0f,             //
+                                     0.0f, 0.0f, -f / (f - n), -f * n / (f - n), //
+                                     0.0f, 0.0f, -1.0f, 0.0f);
     }
     shiftProjection(m_relativeViewOffsetX, m_relativeViewOffsetY);
 }
@@ -320,24 +340,11 @@ void Camera3d::calculateRotationMatrix(const Vector3f& right, const Vector3f& up
                                 0.0f, 0.0f, 0.0f, 1.0f);
 }
 
-/// Sets the displayed rotation from the committed axes, turned.
-void Camera3d::calculateRotationMatrix(const Matrixf& turn)
-{
-    calculateRotationMatrix(turn * m_right, turn * m_up, turn * m_forward);
-}
-
 void Camera3d::calculateViewMatrix()
 {
-    const Vector3f t = -(m_rotationTransform * m_actualPosition);
-    m_viewTransform = m_rotationTransform;
-    m_viewTransform.set(1, 4, t.x);
-    m_viewTransform.set(2, 4, t.y);
-    m_viewTransform.set(3, 4, t.z);
-    const Vector3f eye = -(m_invRotationTransform * t);
-    m_invViewTransform = m_invRotationTransform;
-    m_invViewTransform.set(1, 4, eye.x);
-    m_invViewTransform.set(2, 4, eye.y);
-    m_invViewTransform.set(3, 4, eye.z);
+    const Vector3f t = -turned(m_rotationTransform, m_actualPosition);
+    m_viewTransform = movedTo(m_rotationTransform, t);
+    m_invViewTransform = movedTo(m_invRotationTransform, -turned(m_invRotationTransform, t));
 }
 
 /// Sorts the axes by the depth of their ends; axes at equal depth keep their places.

@@ -40,31 +40,6 @@ void forEachRow(const float* m, Print print)
 
 } // namespace
 
-Matrixf::Matrixf(MatrixType type)
-{
-    if (type == MatrixZero) {
-        reset();
-    } else if (type == MatrixIdentity) {
-        identity();
-    }
-}
-
-Matrixf::Matrixf(float m00, float m01, float m02, float m03, float m10, float m11, float m12, float m13, float m20,
-                 float m21, float m22, float m23, float m30, float m31, float m32, float m33)
-    : m_elements{m00, m10, m20, m30, m01, m11, m21, m31, m02, m12, m22, m32, m03, m13, m23, m33}
-{}
-
-void Matrixf::init(float m00, float m01, float m02, float m03, float m10, float m11, float m12, float m13, float m20,
-                   float m21, float m22, float m23, float m30, float m31, float m32, float m33)
-{
-    *this = Matrixf(m00, m01, m02, m03, m10, m11, m12, m13, m20, m21, m22, m23, m30, m31, m32, m33);
-}
-
-void Matrixf::identity()
-{
-    initScale(1.0f, 1.0f, 1.0f);
-}
-
 void Matrixf::initTranslation(float x, float y, float z)
 {
     identity();
@@ -73,9 +48,15 @@ void Matrixf::initTranslation(float x, float y, float z)
     m_elements[14] = z;
 }
 
-void Matrixf::initScale(float x, float y, float z)
+void Matrixf::initRotation(const Vector3f& axis, float angle)
 {
-    m_elements = {x, 0.0f, 0.0f, 0.0f, 0.0f, y, 0.0f, 0.0f, 0.0f, 0.0f, z, 0.0f, 0.0f, 0.0f, 0.0f, 1.0f};
+    const auto [x, y, z] = Vector3f(axis).normalize();
+    const auto [s, c] = Turn(angle);
+    const float t = 1.0f - c;
+    init(x * x * t + c, x * y * t - z * s, x * z * t + y * s, 0.0f, //
+         x * y * t + z * s, y * y * t + c, y * z * t - x * s, 0.0f, //
+         x * z * t - y * s, y * z * t + x * s, z * z * t + c, 0.0f, //
+         0.0f, 0.0f, 0.0f, 1.0f);
 }
 
 Matrixf Matrixf::operator*(const Matrixf& other) const
@@ -132,13 +113,9 @@ Matrixf& Matrixf::rotateZ(float angle)
 
 Matrixf& Matrixf::rotate(const Vector3f& axis, float angle)
 {
-    const auto [x, y, z] = Vector3f(axis).normalize();
-    const auto [s, c] = Turn(angle);
-    const float t = 1.0f - c;
-    return *this *= Matrixf(x * x * t + c, x * y * t - z * s, x * z * t + y * s, 0.0f, //
-                            x * y * t + z * s, y * y * t + c, y * z * t - x * s, 0.0f, //
-                            x * z * t - y * s, y * z * t + x * s, z * z * t + c, 0.0f, //
-                            0.0f, 0.0f, 0.0f, 1.0f);
+    Matrixf rotation(MatrixUninitialized);
+    rotation.initRotation(axis, angle);
+    return *this *= rotation;
 }
 
 Matrixf& Matrixf::invert()

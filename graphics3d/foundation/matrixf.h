@@ -22,19 +22,37 @@ public:
         MatrixUninitialized = 2, ///< for a result that is filled at once
     };
 
-    explicit Matrixf(MatrixType type);
+    explicit Matrixf(MatrixType type)
+    {
+        if (type == MatrixZero) {
+            reset();
+        } else if (type == MatrixIdentity) {
+            identity();
+        }
+    }
     /// Takes the elements row by row.
     Matrixf(float m00, float m01, float m02, float m03, float m10, float m11, float m12, float m13, float m20,
-            float m21, float m22, float m23, float m30, float m31, float m32, float m33);
+            float m21, float m22, float m23, float m30, float m31, float m32, float m33)
+        : m_elements{m00, m10, m20, m30, m01, m11, m21, m31, m02, m12, m22, m32, m03, m13, m23, m33}
+    {}
 
     /// Takes the elements row by row.
     void init(float m00, float m01, float m02, float m03, float m10, float m11, float m12, float m13, float m20,
-              float m21, float m22, float m23, float m30, float m31, float m32, float m33);
+              float m21, float m22, float m23, float m30, float m31, float m32, float m33)
+    {
+        m_elements = {m00, m10, m20, m30, m01, m11, m21, m31, m02, m12, m22, m32, m03, m13, m23, m33};
+    }
     /// Sets all elements to 0.
     void reset() { m_elements = {}; }
-    void identity();
+    void identity() { initScale(1.0f, 1.0f, 1.0f); }
     void initTranslation(float x, float y, float z);
-    void initScale(float x, float y, float z);
+    void initScale(float x, float y, float z)
+    {
+        m_elements = {x, 0.0f, 0.0f, 0.0f, 0.0f, y, 0.0f, 0.0f, 0.0f, 0.0f, z, 0.0f, 0.0f, 0.0f, 0.0f, 1.0f};
+    }
+
+    /// Sets a rotation about an axis through the origin. The axis need not have length 1.
+    void initRotation(const Vector3f& axis, float angle);
 
     /// The element of row i and column j, both counted from 1.
     float get(int i, int j) const { return m_elements[index(i, j)]; }
