@@ -1,13 +1,13 @@
 package com.vexane.graphics3d;
 
 /** One view of a renderer that draws nothing, for what peers get from a renderer. */
-final class TestRenderer extends NativePeer {
+public final class TestRenderer extends NativePeer {
     static {
         NativeLibrary.require(TestRenderer.class, "vxtestrenderer");
     }
 
     /** Makes a view without context and scene, with settings of a view and of picks. */
-    TestRenderer() {
+    public TestRenderer() {
         createNative(this);
     }
 
