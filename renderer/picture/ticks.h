@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -19,13 +20,27 @@ struct Ticks {
     int exponent = 0;
 };
 
+/// As many significant digits as the labels of ticks need.
+inline constexpr int c_allDigits = 15;
+
 /// The ticks between two ends of a scale, in either order and both included: multiples of 1, 2 or 5 times a power of
 /// ten. Ends that are equal, or so close that no tick lies between them, give one tick in the middle; ends that are not
 /// finite give none.
 /// @param aboutCount how many are wanted, at least 1; there is at most one more
-Ticks makeTicks(double end, double otherEnd, int aboutCount);
+/// @param digits how many significant digits a label may have, from 1 to `c_allDigits`, others count as the nearest of
+///     them. Ticks are set further apart for it; labels only get longer where less than two ticks would be left.
+Ticks makeTicks(double end, double otherEnd, int aboutCount, int digits = c_allDigits);
 
-/// A number with six digits at most, in title markup: `1.5`, `2.5\times10^{-7}`.
-std::string numberText(double value);
+/// The multiples of a step between two ends, in either order and both included. Labels are rounded to the digits, but
+/// not so far that neighbours would become equal. Ends or a step that are not finite, and a step that is not above 0 or
+/// gives more than `c_mostMultiples`, give none.
+Ticks makeMultiples(double end, double otherEnd, double step, int digits = c_allDigits);
+inline constexpr int c_mostMultiples = 10000;
+
+/// A number with so many significant digits at most, in title markup: `1.5`, `2.5\times10^{-7}`.
+std::string numberText(double value, int digits = 6);
+
+/// A power of ten in title markup: `10^{-7}`.
+std::string powerText(std::int64_t exponent);
 
 } // namespace vxrenderer

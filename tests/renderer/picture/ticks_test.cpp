@@ -9,9 +9,8 @@ namespace vxrenderer {
 namespace {
 
 /// Labels with blanks between them, a plain minus, and the common power of ten behind.
-std::string told(double low, double high, int count)
+std::string told(const Ticks& ticks)
 {
-    const Ticks ticks = makeTicks(low, high, count);
     std::string text;
     for (const Ticks::Tick& tick : ticks.ticks) {
         text += text.empty() ? "" : " ";
@@ -21,6 +20,11 @@ std::string told(double low, double high, int count)
         }
     }
     return ticks.exponent == 0 ? text : text + " e" + std::to_string(ticks.exponent);
+}
+
+std::string told(double low, double high, int count)
+{
+    return told(makeTicks(low, high, count));
 }
 
 TEST(Ticks, areRoundAndReadable)
@@ -49,6 +53,55 @@ TEST(Ticks, areRoundAndReadable)
     };
     for (const auto& c : cases) {
         EXPECT_EQ(told(c.low, c.high, c.count), c.expected) << c.low << " to " << c.high;
+    }
+}
+
+TEST(Ticks, haveNoMoreDigitsThanWantedWhileTwoAreLeft)
+{
+    const struct {
+        double low;
+        double high;
+        int digits;
+        const char* expected;
+    } cases[] = {
+        {0.0, 1.0, 1, "0 1"},
+        {1000.0, 1001.0, 4, "1000 1001"},
+        {1000.0, 1000.8, 4, "1000.0 1000.2 1000.4 1000.6 1000.8"},
+        {0.0, 20000.0, 3, "0.0 0.5 1.0 1.5 2.0 e4"},
+        {0.0, 20000.0, 4, "0 5000 10000 15000 20000"},
+        {0.0, 0.005, 3, "0.000 0.001 0.002 0.003 0.004 0.005"},
+        {0.0, 0.0025, 3, "0.0 0.5 1.0 1.5 2.0 2.5 e-3"},
+        {0.0, 1.0, -7, "0 1"},
+        {0.0, 1.0, 99, "0.0 0.2 0.4 0.6 0.8 1.0"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(told(makeTicks(c.low, c.high, 5, c.digits)), c.expected) << c.low << " to " << c.high;
+    }
+}
+
+TEST(Ticks, multiplesOfAStepShowWhatItNeeds)
+{
+    const struct {
+        double low;
+        double high;
+        double step;
+        const char* expected;
+    } cases[] = {
+        {0.0, 0.5, 0.125, "0.000 0.125 0.250 0.375 0.500"},
+        {-1.0, 1.0, 1.0 / 3.0, "-1.00 -0.67 -0.33 0.00 0.33 0.67 1.00"},
+        {0.0, 90.0, 30.0, "0 30 60 90"},
+        {1.0, 2.0, 0.7, "1.4"},
+        {100.0, 100.5, 0.25, "100.00 100.25 100.50"},
+        {0.0, 30000.0, 12500.0, "0.00 1.25 2.50 e4"},
+        {-0.5, 0.5, 3.0, "0"},
+        {0.5, 1.0, 3.0, ""},
+        {0.0, 1.0, 0.0, ""},
+        {0.0, 1.0, -1.0, ""},
+        {0.0, 1.0, 1e-9, ""},
+        {1e17, 1e17 + 64.0, 16.0, ""},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(told(makeMultiples(c.low, c.high, c.step, 3)), c.expected) << c.low << " to " << c.high;
     }
 }
 
