@@ -1,6 +1,7 @@
 #include "renderer/text/textlayout.h"
 
 #include "base/ustring.h"
+#include "tests/renderer/support/squaremetrics.h"
 
 #include <gtest/gtest.h>
 
@@ -8,26 +9,6 @@
 
 namespace vxrenderer {
 namespace {
-
-/// Every character is as wide as its font is high: 10, in scripts 7 and 5. A and V move together by 2.
-class SquareMetrics : public TextMetrics {
-public:
-    float fontSize() const override { return 10.0f; }
-    float advance(char32_t, const TextStyle& style) override { return sizeOf(style); }
-    float kerning(char32_t left, char32_t right, const TextStyle&) override
-    {
-        return left == U'A' && right == U'V' ? -2.0f : 0.0f;
-    }
-    float ascent(const TextStyle& style) override { return 0.8f * sizeOf(style); }
-    float descent(const TextStyle& style) override { return 0.2f * sizeOf(style); }
-
-private:
-    static float sizeOf(const TextStyle& style)
-    {
-        constexpr float sizes[] = {10.0f, 7.0f, 5.0f};
-        return sizes[style.scriptLevel];
-    }
-};
 
 constexpr TextRoom c_wide = {1e6f, 1e6f};
 

@@ -1,0 +1,352 @@
+#include "renderer/axes/axes2d.h"
+
+#include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/plots/graph/axissetup.h"
+#include "renderer/axes/axisscale.h"
+#include "renderer/axes/labelplacer.h"
+#include "renderer/picture/ticks.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <string>
+#include <utility>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::AxisSetup;
+using vxgraphics3d::Camera2d;
+using vxgraphics3d::Vector3f;
+
+// All in units of the font size.
+constexpr float c_tickLength = 0.4f;
+constexpr float c_gap = 0.3f;
+constexpr float c_labelPadding = 0.6f;
+constexpr float c_tickDistance = 5.0f;
+constexpr float c_spokeDistance = 6.0f;
+
+constexpr const char* c_degree = "\xC2\xB0";
+
+bool isPolar(const Axes2dInput& input)
+{
+    return input.camera.getCameraMode() == Camera2d::ModePolar;
+}
+
+/// How far the parts of the axes reach out from the area, the same for margins and labels.
+struct Room {
+    /// Of the widest tick label of the left axis, and of half a label at the right end.
+    float labelWidth = 0.0f;
+    float labelHeight = 0.0f;
+    float lineHeight = 0.0f;
+    float em = 0.0f;
+    LabelSize xTitle;
+    LabelSize yTitle;
+    LabelSize symmetryTitle;
+
+    Room(const Axes2dInput& input, TextMetrics& metrics) : em(metrics.fontSize())
+    {
+        const auto heightOf = [&](const char* markup) { return sizeOfMarkup(markup, metrics).height; };
+        lineHeight = heightOf("0");
+        labelHeight = std::max(lineHeight, heightOf("10^{0}"));
+        if (isPolar(input)) {
+            labelWidth = sizeOfMarkup(std::string("330") + c_degree, metrics).width;
+        } else {
+            // A sign, the point, and a digit more than asked for: the zero ahead of the point.
+            const int digits = std::clamp(input.digits, 1, c_allDigits) + 1;
+            labelWidth = std::max(
+                sizeOfMarkup(numberText(-0.5) + std::string(static_cast<std::size_t>(digits - 2), '0'), metrics).width,
+                sizeOfMarkup(powerText(-88), metrics).width);
+        }
+        const auto sizeOf = [&](const vxbase::UString& title, int room) {
+            return title.empty() ? LabelSize() : sizeOfMarkup(title.toUtf8(), metrics, static_cast<float>(room));
+        };
+        xTitle = sizeOf(input.setup.getXAxisTitle(), input.pictureWidth);
+        yTitle = sizeOf(input.setup.getYAxisTitle(), input.pictureHeight);
+        symmetryTitle = sizeOf(input.setup.getSymmetryAxisTitle(), input.pictureWidth);
+    }
+
+    /// From the area to the far side of its tick labels.
+    float toLabels() const { return (c_tickLength + c_gap) * em; }
+    float besideLabels() const { return toLabels() + labelWidth + c_gap * em; }
+    float belowLabels() const { return toLabels() + labelHeight + c_gap * em; }
+};
+
+class Layouter {
+public:
+    Layouter(const Axes2dInput& input, const PixelArea& area, TextMetrics& metrics)
+        : m_input(input),
+          m_setup(input.setup),
+          m_metrics(metrics),
+          m_room(input, metrics),
+          m_labels(metrics),
+          m_left(static_cast<float>(area.x)),
+          m_top(static_cast<float>(area.y)),
+          m_right(static_cast<float>(area.x + area.width)),
+          m_bottom(static_cast<float>(area.y + area.height))
+    {}
+
+    Axes2dLayout layout()
+    {
+        isPolar(m_input) ? layoutPolar() : layoutStraight();
+        m_layout.labels = m_labels.takeLabels();
+        return std::move(m_layout);
+    }
+
+private:
+    static AxisLine line(float x0, float y0, float x1, float y1, bool isMinor = false)
+    {
+        return {Vector3f(x0, y0, 0.0f), Vector3f(x1, y1, 0.0f), isMinor};
+    }
+
+    AxisScale scaleOf(double low, double high, double length, bool isLog, double spacing,
+                      const std::vector<double>& extra, float LabelSize::*extent) const
+    {
+        AxisScale scale;
+        scale.low = low;
+        scale.high = high;
+        scale.length = length;
+        scale.isLog = isLog;
+        scale.spacing = m_setup.isAutoSpacing() ? 0.0 : spacing;
+        scale.extra = extra;
+        scale.digits = m_input.digits;
+        scale.tickDistance = static_cast<double>(c_tickDistance * m_room.em);
+        scale.labelLength = [this, extent](const std::string& markup) {
+            return static_cast<double>(sizeOfMarkup(markup, m_metrics).*extent + c_labelPadding * m_room.em);
+        };
+        return scale;
+    }
+
+    /// Takes a label that lies within the picture.
+    void place(const AxisLabel& label)
+    {
+        const LabelRect rect = rectOf(label, m_metrics);
+        if (rect.left >= 0.0f && rect.top >= 0.0f && rect.right <= static_cast<float>(m_input.pictureWidth) &&
+            rect.bottom <= static_cast<float>(m_input.pictureHeight)) {
+            m_labels.place(label);
+        }
+    }
+
+    /// Takes a title, moved into the picture.
+    void placeTitle(AxisLabel label)
+    {
+        const LabelRect rect = rectOf(label, m_metrics);
+        const auto into = [](float low, float high, float end) { return std::max(std::min(0.0f, end - high), -low); };
+        label.isTitle = true;
+        label.x += into(rect.left, rect.right, static_cast<float>(m_input.pictureWidth));
+        label.y += into(rect.top, rect.bottom, static_cast<float>(m_input.pictureHeight));
+        m_labels.place(label);
+    }
+
+    void layoutStraight()
+    {
+        const Camera2d& camera = m_input.camera;
+        m_layout.frame = {line(m_left, m_top, m_right, m_top), line(m_right, m_top, m_right, m_bottom),
+                          line(m_right, m_bottom, m_left, m_bottom), line(m_left, m_bottom, m_left, m_top)};
+        const auto toDouble = [](float value) { return static_cast<double>(value); };
+        const AxisScale x =
+            scaleOf(toDouble(camera.getActualMinX()), toDouble(camera.getActualMaxX()), toDouble(m_right - m_left),
+                    m_setup.getXAxisLog(), m_setup.getXAxisSpacing(), m_setup.getExtraX(), &LabelSize::width);
+        const AxisScale y =
+            scaleOf(toDouble(camera.getActualMinY()), toDouble(camera.getActualMaxY()), toDouble(m_bottom - m_top),
+                    m_setup.getYAxisLog(), m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
+        const AxisTicks xTicks = makeAxisTicks(x);
+        // In the one-dimensional mode the height of the view means nothing.
+        const AxisTicks yTicks =
+            camera.getCameraMode() == Camera2d::ModeOneDimensional ? AxisTicks() : makeAxisTicks(y);
+        addTitles(xTicks.exponent, yTicks.exponent);
+        addSymmetryAxis(x);
+        addXTicks(x, xTicks);
+        addYTicks(y, yTicks);
+    }
+
+    static float fraction(const AxisScale& scale, double position)
+    {
+        return static_cast<float>(std::clamp((position - scale.low) / (scale.high - scale.low), 0.0, 1.0));
+    }
+
+    void addXTicks(const AxisScale& scale, const AxisTicks& ticks)
+    {
+        for (const AxisTick& tick : ticks.ticks) {
+            const float x = m_left + fraction(scale, tick.position) * (m_right - m_left);
+            m_layout.grid.push_back(line(x, m_bottom, x, m_top, tick.isMinor));
+            if (!tick.label.empty()) {
+                m_layout.ticks.push_back(line(x, m_bottom, x, m_bottom + c_tickLength * m_room.em));
+                place({.markup = tick.label, .x = x, .y = m_bottom + m_room.toLabels(), .alignY = 0.0f});
+            }
+        }
+    }
+
+    void addYTicks(const AxisScale& scale, const AxisTicks& ticks)
+    {
+        for (const AxisTick& tick : ticks.ticks) {
+            const float y = m_bottom - fraction(scale, tick.position) * (m_bottom - m_top);
+            m_layout.grid.push_back(line(m_left, y, m_right, y, tick.isMinor));
+            if (!tick.label.empty()) {
+                m_layout.ticks.push_back(line(m_left, y, m_left - c_tickLength * m_room.em, y));
+                place({.markup = tick.label, .x = m_left - m_room.toLabels(), .y = y, .alignX = 1.0f});
+            }
+        }
+    }
+
+    /// The titles, each with the power of ten of its axis; a power without a title stands at the end of the axis.
+    void addTitles(int xExponent, int yExponent)
+    {
+        const float below = m_bottom + m_room.belowLabels();
+        const float beside = m_left - m_room.besideLabels();
+        if (!m_setup.getXAxisTitle().empty()) {
+            placeTitle({.markup = withPower(m_setup.getXAxisTitle(), xExponent),
+                        .x = centerX(),
+                        .y = below,
+                        .alignY = 0.0f,
+                        .room = static_cast<float>(m_input.pictureWidth)});
+        } else if (xExponent != 0) {
+            placeTitle({.markup = powerOf(xExponent), .x = m_right, .y = below, .alignX = 1.0f, .alignY = 0.0f});
+        }
+        if (!m_setup.getYAxisTitle().empty()) {
+            placeTitle({.markup = withPower(m_setup.getYAxisTitle(), yExponent),
+                        .x = beside,
+                        .y = centerY(),
+                        .alignX = 1.0f,
+                        .isVertical = true,
+                        .room = static_cast<float>(m_input.pictureHeight)});
+        } else if (yExponent != 0) {
+            placeTitle({.markup = powerOf(yExponent), .x = m_left, .y = above(), .alignX = 1.0f, .alignY = 1.0f});
+        }
+    }
+
+    static std::string powerOf(int exponent) { return "\\times" + powerText(exponent); }
+
+    static std::string withPower(const vxbase::UString& title, int exponent)
+    {
+        return title.toUtf8() + (exponent == 0 ? "" : " (" + powerOf(exponent) + ")");
+    }
+
+    float above() const { return m_top - c_gap * m_room.em; }
+
+    void addSymmetryAxis(const AxisScale& x)
+    {
+        if (m_setup.getSymmetryAxisTitle().empty() || x.isLog || !(x.low <= 0.0 && x.high >= 0.0 && x.low < x.high)) {
+            return;
+        }
+        const float at = m_left + fraction(x, 0.0) * (m_right - m_left);
+        m_layout.frame.push_back(line(at, m_bottom, at, m_top));
+        // A power of ten may stand at the left end: the title then begins at the line.
+        const bool isAtEnd = at - 0.5f * m_room.symmetryTitle.width < m_left + m_room.em;
+        placeTitle({.markup = m_setup.getSymmetryAxisTitle().toUtf8(),
+                    .x = isAtEnd ? std::max(at, m_left + 0.5f * m_room.em) : at,
+                    .y = above(),
+                    .alignX = isAtEnd ? 0.0f : 0.5f,
+                    .alignY = 1.0f,
+                    .room = static_cast<float>(m_input.pictureWidth)});
+    }
+
+    // --- the round view
+
+    float centerX() const { return 0.5f * (m_left + m_right); }
+    float centerY() const { return 0.5f * (m_top + m_bottom); }
+
+    /// The place at a part of the outer radius and an angle in degrees; both radii differ if the area is no square.
+    Vector3f at(double part, double degrees) const
+    {
+        const double angle = degrees * std::numbers::pi / 180.0;
+        return {static_cast<double>(centerX()) + part * 0.5 * static_cast<double>(m_right - m_left) * std::cos(angle),
+                static_cast<double>(centerY()) - part * 0.5 * static_cast<double>(m_bottom - m_top) * std::sin(angle),
+                0.0};
+    }
+
+    void layoutPolar()
+    {
+        const double radius = 0.5 * static_cast<double>(std::min(m_right - m_left, m_bottom - m_top));
+        addCircle(m_layout.frame, 1.0, false);
+        addSpokes(radius);
+        const AxisScale scale =
+            scaleOf(static_cast<double>(m_input.camera.getActualPolarMin()),
+                    static_cast<double>(m_input.camera.getActualPolarMax()), radius, m_setup.getYAxisLog(),
+                    m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
+        const AxisTicks ticks = makeAxisTicks(scale);
+        addTitles(0, ticks.exponent);
+        for (const AxisTick& tick : ticks.ticks) {
+            const auto part = static_cast<double>(fraction(scale, tick.position));
+            if (part * radius >= 1.0) {
+                addCircle(m_layout.grid, part, tick.isMinor);
+            }
+            const Vector3f inner = at(part, 90.0);
+            place(
+                {.markup = tick.label, .x = inner.x + c_gap * m_room.em, .y = inner.y, .alignX = 0.0f, .alignY = 0.0f});
+        }
+    }
+
+    void addCircle(std::vector<AxisLine>& lines, double part, bool isMinor) const
+    {
+        const double radius = part * 0.5 * static_cast<double>(std::max(m_right - m_left, m_bottom - m_top));
+        // A chord leaves its circle by less than a fifth of a pixel.
+        const int corners = std::clamp(static_cast<int>(5.0 * std::sqrt(radius)), 24, 720);
+        Vector3f from = at(part, 0.0);
+        for (int i = 1; i <= corners; ++i) {
+            const Vector3f to = at(part, 360.0 * (i % corners) / corners);
+            lines.push_back({from, to, isMinor});
+            from = to;
+        }
+    }
+
+    /// The lines of equal angle, as close as their labels have room.
+    void addSpokes(double radius)
+    {
+        const double room = static_cast<double>(c_spokeDistance * m_room.em);
+        int step = 90;
+        for (const int finer : {45, 30, 15}) {
+            step = radius * finer * std::numbers::pi / 180.0 >= room ? finer : step;
+        }
+        for (int degrees = 0; degrees < 360; degrees += step) {
+            const Vector3f end = at(1.0, degrees);
+            m_layout.grid.push_back({Vector3f(centerX(), centerY(), 0.0f), end, false});
+            const float cosine = std::cos(static_cast<float>(degrees * std::numbers::pi / 180.0));
+            const float sine = std::sin(static_cast<float>(degrees * std::numbers::pi / 180.0));
+            const float gap = c_gap * m_room.em;
+            place({.markup = std::to_string(degrees) + c_degree,
+                   .x = end.x + gap * cosine,
+                   .y = end.y - gap * sine,
+                   .alignX = 0.5f - 0.5f * cosine,
+                   .alignY = 0.5f + 0.5f * sine});
+        }
+    }
+
+    const Axes2dInput& m_input;
+    const AxisSetup& m_setup;
+    TextMetrics& m_metrics;
+    Room m_room;
+    LabelPlacer m_labels;
+    float m_left;
+    float m_top;
+    float m_right;
+    float m_bottom;
+    Axes2dLayout m_layout;
+};
+
+} // namespace
+
+AxisMargins axes2dMargins(const Axes2dInput& input, TextMetrics& metrics)
+{
+    const Room room(input, metrics);
+    const float gap = c_gap * room.em;
+    AxisMargins margins;
+    margins.bottom = room.belowLabels() + std::max(room.xTitle.height, room.labelHeight) + gap;
+    margins.left =
+        room.besideLabels() + (room.yTitle.height > 0.0f ? std::max(room.yTitle.height, room.labelHeight) + gap : 0.0f);
+    if (isPolar(input)) {
+        margins.right = gap + room.labelWidth + gap;
+        margins.top = gap + room.lineHeight + gap;
+    } else {
+        margins.right = 0.5f * room.labelWidth + gap;
+        margins.top = gap + std::max(room.symmetryTitle.height, room.labelHeight) + gap;
+    }
+    return margins;
+}
+
+Axes2dLayout layoutAxes2d(const Axes2dInput& input, const PixelArea& area, TextMetrics& metrics)
+{
+    return area.width < 1 || area.height < 1 ? Axes2dLayout() : Layouter(input, area, metrics).layout();
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "renderer/axes/axislayout.h"
+#include "renderer/scene/view.h"
+#include "renderer/text/textmetrics.h"
+
+#include <vector>
+
+namespace vxgraphics3d {
+class AxisSetup;
+class Camera2d;
+} // namespace vxgraphics3d
+
+namespace vxrenderer {
+
+/// The axes of a 2D view, all in pixels.
+struct Axes2dLayout {
+    /// Over the area, from border to border: below the frame.
+    std::vector<AxisLine> grid;
+    /// Around the area, the outer circle of a polar view, and the symmetry axis.
+    std::vector<AxisLine> frame;
+    /// Short lines from the frame outwards.
+    std::vector<AxisLine> ticks;
+    std::vector<AxisLabel> labels;
+};
+
+/// What the axes of a 2D view are laid out from.
+///
+/// The camera says how the area is filled: in polar mode a round view whose centre is the inner radial limit, at equal
+/// scales, so its area has to be a square. Angles are in degrees, counted from the right against the clock.
+struct Axes2dInput {
+    const vxgraphics3d::Camera2d& camera;
+    const vxgraphics3d::AxisSetup& setup;
+    /// Of the whole picture, in pixels.
+    int pictureWidth = 0;
+    int pictureHeight = 0;
+    /// Significant digits of tick labels.
+    int digits = 4;
+};
+
+/// The room that tick labels and titles need around the area. It follows from titles, kind of axes, digits and font
+/// alone, not from the limits in sight: limits follow the shape of the area, and both would chase each other.
+AxisMargins axes2dMargins(const Axes2dInput& input, TextMetrics& metrics);
+
+/// The axes around the area that the camera draws to. Labels that would leave the picture, and ticks of an axis without
+/// extent, are left out; an empty area has no axes.
+Axes2dLayout layoutAxes2d(const Axes2dInput& input, const PixelArea& area, TextMetrics& metrics);
+
+} // namespace vxrenderer

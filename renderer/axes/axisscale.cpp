@@ -1,0 +1,320 @@
+#include "renderer/axes/axisscale.h"
+
+#include "renderer/picture/ticks.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+namespace vxrenderer {
+namespace {
+
+constexpr int c_mostTicks = 100;
+/// So many wanted ticks give one for certain.
+constexpr int c_fewestTicks = 3;
+/// Lines are at least so many pixels apart.
+constexpr double c_closestLines = 4.0;
+/// Below so many decades a logarithmic scale shows numbers instead of powers.
+constexpr double c_fewDecades = 2.0;
+/// Decimal logarithms of numbers that a double holds.
+constexpr double c_largestLog = 300.0;
+/// Decades are counted one by one up to here; no data has such logarithms.
+constexpr double c_farthestDecade = 1e9;
+
+/// The next of 1, 2, 5, 10, 20 ... that is at least `smallest`.
+std::int64_t roundFactor(double smallest)
+{
+    for (std::int64_t power = 1;; power *= 10) {
+        for (const std::int64_t mantissa : {1, 2, 5}) {
+            if (static_cast<double>(mantissa * power) >= smallest || power > 1'000'000'000'000'000) {
+                return mantissa * power;
+            }
+        }
+    }
+}
+
+class ScaleFiller {
+public:
+    explicit ScaleFiller(const AxisScale& scale)
+        : m_scale(scale),
+          m_pixels(scale.length / (scale.high - scale.low)),
+          m_count(std::clamp(static_cast<int>(scale.length / scale.tickDistance), c_fewestTicks, c_mostTicks))
+    {}
+
+    AxisTicks fill()
+    {
+        if (m_scale.isLog) {
+            fillLogarithmic();
+        } else if (!(m_scale.spacing > 0.0) || !fillMultiples()) {
+            fillLinear();
+        }
+        addExtra();
+        thinOut();
+        return std::move(m_result);
+    }
+
+private:
+    /// Whether the labels have room beside each other.
+    bool fits(const std::vector<AxisTick>& ticks) const
+    {
+        double end = -HUGE_VAL;
+        for (const AxisTick& tick : ticks) {
+            if (!tick.label.empty()) {
+                const double half = 0.5 * m_scale.labelLength(tick.label);
+                if (tick.position * m_pixels - half < end) {
+                    return false;
+                }
+                end = tick.position * m_pixels + half;
+            }
+        }
+        return true;
+    }
+
+    bool isInside(double position) const
+    {
+        const double slack = 1e-6 * (m_scale.high - m_scale.low);
+        return position >= m_scale.low - slack && position <= m_scale.high + slack;
+    }
+
+    /// Takes over ticks as the result, unless there are none.
+    /// @return whether no better ones need be looked for, because these have room
+    bool take(std::vector<AxisTick> ticks, int exponent = 0)
+    {
+        const bool hasLabel =
+            std::any_of(ticks.begin(), ticks.end(), [](const AxisTick& tick) { return !tick.label.empty(); });
+        if (!hasLabel && !m_result.ticks.empty()) {
+            return true;
+        }
+        m_result = {std::move(ticks), exponent};
+        return fits(m_result.ticks);
+    }
+
+    static std::vector<AxisTick> ticksOf(const Ticks& ticks)
+    {
+        std::vector<AxisTick> result;
+        for (const Ticks::Tick& tick : ticks.ticks) {
+            result.push_back({tick.value, tick.label});
+        }
+        return result;
+    }
+
+    void fillLinear()
+    {
+        for (int count = m_count; count > 0; count = count * 3 / 4) {
+            const Ticks ticks = makeTicks(m_scale.low, m_scale.high, count, m_scale.digits);
+            if (take(ticksOf(ticks), ticks.exponent)) {
+                return;
+            }
+        }
+    }
+
+    /// @return whether the spacing leads to any line
+    bool fillMultiples()
+    {
+        const double lines = (m_scale.high - m_scale.low) / m_scale.spacing;
+        const auto thinning = static_cast<double>(roundFactor(lines * c_closestLines / m_scale.length));
+        const double spacing = m_scale.spacing * thinning;
+        const Ticks ticks = makeMultiples(m_scale.low, m_scale.high, spacing, m_scale.digits);
+        if (ticks.ticks.empty()) {
+            return std::isfinite(lines) && lines < 1.0;
+        }
+        const std::vector<AxisTick> all = ticksOf(ticks);
+        for (std::int64_t factor = 1;; factor = roundFactor(static_cast<double>(factor) + 0.5)) {
+            m_result = {all, ticks.exponent};
+            for (AxisTick& tick : m_result.ticks) {
+                if (std::llround(tick.position / spacing) % factor != 0) {
+                    tick.label.clear();
+                }
+            }
+            if (factor > static_cast<std::int64_t>(all.size()) || fits(m_result.ticks)) {
+                return true;
+            }
+        }
+    }
+
+    void fillLogarithmic()
+    {
+        const double decades = m_scale.high - m_scale.low;
+        const double largest = std::max(std::abs(m_scale.low), std::abs(m_scale.high));
+        if (decades < c_fewDecades && largest < c_largestLog && (fillNumbers() || fillValuesWithinDecade())) {
+            return;
+        }
+        fillDecades();
+    }
+
+    /// 1, 2 and 5 times powers of ten.
+    /// @return whether there are at least three, and room for them
+    bool fillNumbers()
+    {
+        std::vector<AxisTick> ticks;
+        int numLabels = 0;
+        const auto first = static_cast<int>(std::floor(m_scale.low));
+        for (int decade = first; decade <= static_cast<int>(std::ceil(m_scale.high)); ++decade) {
+            for (int mantissa = 1; mantissa < 10; ++mantissa) {
+                const double position = decade + std::log10(mantissa);
+                const bool isLabelled = mantissa == 1 || mantissa == 2 || mantissa == 5;
+                if (isInside(position) && (isLabelled || hasRoomForMinorLines())) {
+                    ticks.push_back({position, isLabelled ? logLabel(mantissa, decade) : "", !isLabelled});
+                    numLabels += isLabelled ? 1 : 0;
+                }
+            }
+        }
+        if (numLabels < 3 || !fits(ticks)) {
+            return false;
+        }
+        m_result.ticks = std::move(ticks);
+        return true;
+    }
+
+    /// Round values as on a linear scale.
+    /// @return whether there are any
+    bool fillValuesWithinDecade()
+    {
+        if (m_scale.high - m_scale.low >= 1.0) {
+            return false;
+        }
+        for (int count = m_count; count > 0; count = count * 3 / 4) {
+            const Ticks values =
+                makeTicks(std::pow(10.0, m_scale.low), std::pow(10.0, m_scale.high), count, m_scale.digits);
+            std::vector<AxisTick> ticks = ticksOf(values);
+            for (AxisTick& tick : ticks) {
+                tick.position = std::log10(tick.position);
+            }
+            if (take(std::move(ticks), values.exponent)) {
+                break;
+            }
+        }
+        return !m_result.ticks.empty();
+    }
+
+    void fillDecades()
+    {
+        if (std::max(std::abs(m_scale.low), std::abs(m_scale.high)) > c_farthestDecade) {
+            return;
+        }
+        const auto factor = [&](double pixels) { return static_cast<double>(roundFactor(pixels / m_pixels)); };
+        const double closest = factor(c_closestLines);
+        // A third of the range holds one of its multiples for certain.
+        double labelled = std::min(factor(0.6 * m_scale.tickDistance),
+                                   static_cast<double>(roundFactor((m_scale.high - m_scale.low) / 3.0)));
+        while (!take(decades(closest, labelled))) {
+            labelled = static_cast<double>(roundFactor(labelled + 0.5));
+        }
+        if (closest == 1.0 && hasRoomForMinorLines()) {
+            addMinorLines();
+        }
+    }
+
+    std::vector<AxisTick> decades(double step, double labelled) const
+    {
+        std::vector<AxisTick> ticks;
+        // Every labelled decade must be among the lines.
+        step = std::fmod(labelled, step) == 0.0 ? step : labelled;
+        for (double decade = std::ceil(m_scale.low / step - 1e-6) * step; isInside(decade); decade += step) {
+            const bool isLabelled = std::fmod(decade, labelled) == 0.0;
+            ticks.push_back({decade, isLabelled ? powerText(std::llround(decade)) : "", !isLabelled});
+        }
+        return ticks;
+    }
+
+    bool hasRoomForMinorLines() const { return m_pixels * std::log10(10.0 / 9.0) >= c_closestLines; }
+
+    void addMinorLines()
+    {
+        for (double decade = std::floor(m_scale.low); decade <= m_scale.high; ++decade) {
+            for (int mantissa = 2; mantissa < 10; ++mantissa) {
+                if (const double position = decade + std::log10(mantissa); isInside(position)) {
+                    m_result.ticks.push_back({position, "", true});
+                }
+            }
+        }
+        sort();
+    }
+
+    /// A number of one digit and a power of ten: as a plain number where that is short.
+    std::string logLabel(int mantissa, int decade) const
+    {
+        if (decade > -4 && decade < 5) {
+            return numberText(mantissa * std::pow(10.0, decade), m_scale.digits + 5);
+        }
+        return (mantissa == 1 ? "" : std::to_string(mantissa) + "\\times") + powerText(decade);
+    }
+
+    void addExtra()
+    {
+        const double unit = std::pow(10.0, m_result.exponent);
+        for (const double value : m_scale.extra) {
+            const double position = m_scale.isLog ? std::log10(value) : value;
+            if (!std::isfinite(position) || !isInside(position)) {
+                continue;
+            }
+            const auto isHere = [&](const AxisTick& tick) {
+                return std::abs(tick.position - position) * m_pixels < 0.5;
+            };
+            if (std::none_of(m_extra.begin(), m_extra.end(), isHere)) {
+                std::erase_if(m_result.ticks, isHere);
+                m_extra.push_back({position, numberText(value / unit, m_scale.digits)});
+            }
+        }
+    }
+
+    /// Takes the labels away that still overlap, those of extra places last.
+    void thinOut()
+    {
+        struct Interval {
+            double low;
+            double high;
+        };
+        std::vector<Interval> taken;
+        const auto keep = [&](AxisTick& tick) {
+            if (tick.label.empty()) {
+                return;
+            }
+            const double half = 0.5 * m_scale.labelLength(tick.label);
+            const double middle = tick.position * m_pixels;
+            const Interval place = {middle - half, middle + half};
+            const auto overlaps = [&](const Interval& other) {
+                return place.low < other.high && other.low < place.high;
+            };
+            if (std::any_of(taken.begin(), taken.end(), overlaps)) {
+                tick.label.clear();
+            } else {
+                taken.push_back(place);
+            }
+        };
+        std::for_each(m_extra.begin(), m_extra.end(), keep);
+        std::for_each(m_result.ticks.begin(), m_result.ticks.end(), keep);
+        m_result.ticks.insert(m_result.ticks.end(), m_extra.begin(), m_extra.end());
+        sort();
+    }
+
+    void sort()
+    {
+        std::stable_sort(m_result.ticks.begin(), m_result.ticks.end(),
+                         [](const AxisTick& a, const AxisTick& b) { return a.position < b.position; });
+    }
+
+    const AxisScale& m_scale;
+    /// Per unit of the scale.
+    double m_pixels;
+    int m_count;
+    AxisTicks m_result;
+    std::vector<AxisTick> m_extra;
+};
+
+} // namespace
+
+AxisTicks makeAxisTicks(const AxisScale& scale)
+{
+    const double range = scale.high - scale.low;
+    const bool isUsable = std::isfinite(scale.low) && std::isfinite(scale.high) && range > 0.0 &&
+                          std::isfinite(scale.length) && scale.length >= 1.0;
+    // Without a distance that a double can tell apart there is nothing to write on the scale.
+    const double largest = std::max(std::abs(scale.low), std::abs(scale.high));
+    if (!isUsable || !std::isfinite(range) || range <= 1e-12 * largest || range < 1e-290) {
+        return {};
+    }
+    return ScaleFiller(scale).fill();
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vxrenderer {
+
+/// What a straight scale shows, and how much room it has.
+struct AxisScale {
+    /// The ends, as the view counts them: of a logarithmic scale the decimal logarithms.
+    double low = 0.0;
+    double high = 1.0;
+    bool isLog = false;
+    /// Distance of lines in data units, 0 for one that suits the room. Logarithmic scales choose their own.
+    double spacing = 0.0;
+    /// Further places of lines, in data units also on a logarithmic scale.
+    std::vector<double> extra;
+    /// Significant digits of a label.
+    int digits = 4;
+    /// From end to end, in pixels.
+    double length = 0.0;
+    /// Distance in pixels that suits neighbouring labels well.
+    double tickDistance = 70.0;
+    /// What a label takes along the scale in pixels, with the room to the next one.
+    std::function<double(const std::string& markup)> labelLength;
+};
+
+/// A place on a scale where a line crosses.
+struct AxisTick {
+    /// As the view counts: of a logarithmic scale the decimal logarithm.
+    double position;
+    /// In title markup, empty for a line without a label.
+    std::string label;
+    bool isMinor = false;
+};
+
+struct AxisTicks {
+    /// By rising position.
+    std::vector<AxisTick> ticks;
+    /// The labels have to be multiplied by ten to this power.
+    int exponent = 0;
+};
+
+/// Ticks whose labels have room beside each other.
+///
+/// Linear scales take multiples of 1, 2 or 5 times a power of ten, or of the spacing; where that gives more than one
+/// line every four pixels, of a whole multiple of it. Logarithmic scales take decades, every second, fifth and so on
+/// where there are many, with minor lines between them; where few decades are in sight they take plain numbers. Extra
+/// places come first where labels would overlap. Ends that are not finite or not in rising order, and a scale without
+/// length, give none.
+AxisTicks makeAxisTicks(const AxisScale& scale);
+
+} // namespace vxrenderer

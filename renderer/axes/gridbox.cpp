@@ -1,0 +1,504 @@
+#include "renderer/axes/gridbox.h"
+
+#include "graphics3d/cameras/icameratransforms.h"
+#include "graphics3d/foundation/boundingbox.h"
+#include "renderer/axes/labelplacer.h"
+#include "renderer/picture/ticks.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::BoundingBox;
+using vxgraphics3d::ICameraTransforms;
+using vxgraphics3d::Matrixf;
+using vxgraphics3d::Vector3f;
+
+using Point = std::array<double, 3>;
+
+// In units of the font size.
+constexpr double c_tickLength = 0.4;
+constexpr double c_gap = 0.3;
+constexpr double c_titleGap = 0.5;
+constexpr double c_tickDistance = 3.5;
+/// Axes that look shorter are not labelled.
+constexpr double c_shortestAxis = 1.5;
+constexpr int c_mostTicks = 100;
+/// Farther away, a float cannot tell pixels apart.
+constexpr double c_farthestPixel = 1e7;
+/// Sine of the angle below which a face is seen edge-on.
+constexpr double c_edgeOn = 1e-4;
+
+struct Pixel {
+    double x;
+    double y;
+
+    Pixel operator+(const Pixel& other) const { return {x + other.x, y + other.y}; }
+    Pixel operator-(const Pixel& other) const { return {x - other.x, y - other.y}; }
+    Pixel operator*(double factor) const { return {x * factor, y * factor}; }
+    double dot(const Pixel& other) const { return x * other.x + y * other.y; }
+    double length() const { return std::hypot(x, y); }
+};
+
+Point toDouble(const Vector3f& v)
+{
+    return {static_cast<double>(v.x), static_cast<double>(v.y), static_cast<double>(v.z)};
+}
+
+bool isFinite(const Point& p)
+{
+    return std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]);
+}
+
+/// From the world to the pixels of an area, in double precision.
+class Projector {
+public:
+    Projector(const ICameraTransforms& camera, const PixelArea& area) : m_area(area)
+    {
+        const Matrixf matrix =
+            camera.getProjectionTransformRH() * camera.getViewTransform() * camera.getAxisViewScaleTransform();
+        for (int row = 0; row < 4; ++row) {
+            for (int column = 0; column < 4; ++column) {
+                m_rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] =
+                    static_cast<double>(matrix.get(row + 1, column + 1));
+            }
+        }
+        // In parallel projection the eye is a direction: away from what it sees.
+        const Matrixf& view = camera.getInvViewTransform();
+        m_isPerspective = camera.getProjectionTransformRH().get(4, 3) != 0.0f;
+        const int column = m_isPerspective ? 4 : 3;
+        const Matrixf& scale = camera.getInvAxisViewScaleTransform();
+        m_eye = {static_cast<double>(view.get(1, column) * scale.get(1, 1)),
+                 static_cast<double>(view.get(2, column) * scale.get(2, 2)),
+                 static_cast<double>(view.get(3, column) * scale.get(3, 3))};
+        m_scale = {static_cast<double>(scale.get(1, 1)), static_cast<double>(scale.get(2, 2)),
+                   static_cast<double>(scale.get(3, 3))};
+    }
+
+    bool isFinite() const
+    {
+        return vxrenderer::isFinite(m_eye) && std::all_of(m_rows.begin(), m_rows.end(), [](const auto& row) {
+                   return std::all_of(row.begin(), row.end(), [](double value) { return std::isfinite(value); });
+               });
+    }
+
+    /// Where a point is seen; nothing for one that is not in front of the eye.
+    std::optional<Pixel> pixelOf(const Point& point) const
+    {
+        const double w = product(3, point);
+        const Pixel pixel = {m_area.x + (0.5 + 0.5 * product(0, point) / w) * m_area.width,
+                             m_area.y + (0.5 - 0.5 * product(1, point) / w) * m_area.height};
+        const bool isSeen = w > 0.0 && std::abs(pixel.x) < c_farthestPixel && std::abs(pixel.y) < c_farthestPixel;
+        return isSeen ? std::optional(pixel) : std::nullopt;
+    }
+
+    /// How far the eye is in front of a face, along the outward normal of the face, in parts of its distance.
+    double height(std::size_t axis, double side, double coordinate, const Point& center) const
+    {
+        // Lengths as the eye sees them, in axis-scaled space.
+        Point away = m_eye;
+        double ahead = m_eye[axis];
+        if (m_isPerspective) {
+            for (std::size_t i = 0; i < 3; ++i) {
+                away[i] -= center[i];
+            }
+            ahead -= coordinate;
+        }
+        double squares = 0.0;
+        for (std::size_t i = 0; i < 3; ++i) {
+            squares += away[i] / m_scale[i] * (away[i] / m_scale[i]);
+        }
+        return squares > 0.0 ? side * ahead / std::abs(m_scale[axis]) / std::sqrt(squares) : 0.0;
+    }
+
+private:
+    double product(std::size_t row, const Point& point) const
+    {
+        const auto& r = m_rows[row];
+        return r[0] * point[0] + r[1] * point[1] + r[2] * point[2] + r[3];
+    }
+
+    PixelArea m_area;
+    std::array<std::array<double, 4>, 4> m_rows;
+    bool m_isPerspective;
+    Point m_eye;
+    Point m_scale;
+};
+
+enum class Facing { behind, edgeOn, ahead };
+
+/// The part of a segment within the area, as parts of its length; empty if the first is not below the second.
+struct Range {
+    double from = 0.0;
+    double to = 1.0;
+
+    double length() const { return std::max(0.0, to - from); }
+};
+
+Range visiblePart(const Pixel& from, const Pixel& to, const PixelArea& area)
+{
+    // A little more, so that a box that fills the area keeps its labels.
+    const double slack = 1.0;
+    Range range;
+    const auto clip = [&range](double start, double step, double low, double high) {
+        if (step == 0.0) {
+            range.to = start < low || start > high ? -1.0 : range.to;
+            return;
+        }
+        const double a = (low - start) / step;
+        const double b = (high - start) / step;
+        range.from = std::max(range.from, std::min(a, b));
+        range.to = std::min(range.to, std::max(a, b));
+    };
+    clip(from.x, to.x - from.x, area.x - slack, area.x + area.width + slack);
+    clip(from.y, to.y - from.y, area.y - slack, area.y + area.height + slack);
+    return range;
+}
+
+/// An edge of the box, seen in the picture, that an axis may be labelled along.
+struct Edge {
+    /// Of the lowest coordinate of the axis.
+    Point start;
+    double length;
+    Pixel from;
+    Pixel to;
+    /// Away from the box, of length 1.
+    Pixel outward;
+    Range visible;
+};
+
+/// An axis with its ticks.
+struct Axis {
+    std::vector<double> ticks;
+    std::optional<Edge> edge;
+    std::vector<AxisLabel> labels;
+    std::vector<Pixel> places;
+    /// How far the labels reach out from the edge.
+    double reach = 0.0;
+    std::string power;
+};
+
+class Layouter {
+public:
+    Layouter(const GridBoxInput& input, const PixelArea& area, TextMetrics& metrics)
+        : m_input(input),
+          m_area(area),
+          m_metrics(metrics),
+          m_em(static_cast<double>(metrics.fontSize())),
+          m_projector(input.camera, area),
+          m_low(toDouble(input.box.getMin())),
+          m_high(toDouble(input.box.getMax())),
+          m_labels(metrics)
+    {}
+
+    GridBoxLayout layout()
+    {
+        if (!isUsable()) {
+            return {};
+        }
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            findEdge(axis);
+            addTicks(axis);
+        }
+        addGrid();
+        addEdges();
+        addLabels();
+        m_layout.labels = m_labels.takeLabels();
+        return std::move(m_layout);
+    }
+
+private:
+    bool isUsable()
+    {
+        if (!m_input.box.isValid() || m_area.width < 1 || m_area.height < 1 || !isFinite(m_low) || !isFinite(m_high) ||
+            !m_projector.isFinite()) {
+            return false;
+        }
+        int numSeen = 0;
+        for (unsigned corner = 0; corner < 8; ++corner) {
+            const std::optional<Pixel> pixel = m_projector.pixelOf(cornerOf(corner));
+            m_corners[corner] = pixel.value_or(Pixel{0.0, 0.0});
+            numSeen += pixel ? 1 : 0;
+        }
+        m_isWhole = numSeen == 8;
+        Point center;
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            center[axis] = 0.5 * (m_low[axis] + m_high[axis]);
+        }
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            for (const bool isHigh : {false, true}) {
+                const double height =
+                    m_projector.height(axis, isHigh ? 1.0 : -1.0, isHigh ? m_high[axis] : m_low[axis], center);
+                m_facing[axis][isHigh] = height > c_edgeOn    ? Facing::ahead
+                                         : height < -c_edgeOn ? Facing::behind
+                                                              : Facing::edgeOn;
+            }
+        }
+        return numSeen > 0;
+    }
+
+    bool isFlat(std::size_t axis) const { return !(m_high[axis] > m_low[axis]); }
+
+    /// A corner by its bits: bit i says whether it lies at the high side of axis i.
+    Point cornerOf(unsigned bits) const
+    {
+        return {(bits & 1u) != 0 ? m_high[0] : m_low[0], (bits & 2u) != 0 ? m_high[1] : m_low[1],
+                (bits & 4u) != 0 ? m_high[2] : m_low[2]};
+    }
+
+    Facing facing(std::size_t axis, unsigned corner) const { return m_facing[axis][(corner >> axis) & 1u]; }
+
+    /// Whether a face lies behind the scene. Both sides of a flat box are one face, which does not hide anything.
+    bool isBehind(std::size_t axis, bool isHigh) const
+    {
+        return isFlat(axis) ? !isHigh && m_facing[axis][0] != Facing::edgeOn : m_facing[axis][isHigh] == Facing::behind;
+    }
+
+    /// Whether the edge along an axis from a corner on lies on the outline of the box.
+    bool isOnOutline(std::size_t axis, unsigned corner) const
+    {
+        const Facing a = facing((axis + 1) % 3, corner);
+        const Facing b = facing((axis + 2) % 3, corner);
+        return (a == Facing::ahead && b != Facing::ahead) || (b == Facing::ahead && a != Facing::ahead) ||
+               (a == Facing::edgeOn && b == Facing::edgeOn) || (a == Facing::edgeOn && b == Facing::behind) ||
+               (b == Facing::edgeOn && a == Facing::behind);
+    }
+
+    /// The edge that the labels of an axis stand along.
+    void findEdge(std::size_t axis)
+    {
+        if (!m_isWhole || isFlat(axis)) {
+            return;
+        }
+        double best = -HUGE_VAL;
+        for (unsigned corner = 0; corner < 8; ++corner) {
+            const unsigned end = corner | (1u << axis);
+            if (end == corner || !isOnOutline(axis, corner)) {
+                continue;
+            }
+            Edge edge = {cornerOf(corner), m_high[axis] - m_low[axis], m_corners[corner], m_corners[end], {}, {}};
+            const Pixel along = edge.to - edge.from;
+            if (along.length() < c_shortestAxis * m_em) {
+                continue;
+            }
+            edge.outward = Pixel{along.y, -along.x} * (1.0 / along.length());
+            edge.visible = visiblePart(edge.from, edge.to, m_area);
+            turnOutward(edge);
+            // Below is best, left is next; what lies outside of the picture is worst.
+            const double preference = 0.92 * edge.outward.y - 0.4 * edge.outward.x;
+            const double score = preference + 4.0 * std::min(edge.visible.length(), 0.5);
+            if (score > best && edge.visible.length() * along.length() >= c_shortestAxis * m_em) {
+                best = score;
+                m_axes[axis].edge = edge;
+            }
+        }
+    }
+
+    /// Turns the normal of an edge away from the box; of a box seen as a line it points down or to the left.
+    void turnOutward(Edge& edge) const
+    {
+        double farthest = 0.0;
+        for (const Pixel& corner : m_corners) {
+            const double distance = edge.outward.dot(corner - edge.from);
+            farthest = std::abs(distance) > std::abs(farthest) ? distance : farthest;
+        }
+        const bool isLine = std::abs(farthest) < 1e-3;
+        if (isLine ? 0.92 * edge.outward.y - 0.4 * edge.outward.x < 0.0 : farthest > 0.0) {
+            edge.outward = edge.outward * -1.0;
+        }
+    }
+
+    /// Length in pixels by which the number of ticks is chosen where no edge is labelled.
+    double longestEdge(std::size_t axis) const
+    {
+        double longest = 0.0;
+        for (unsigned corner = 0; corner < 8; ++corner) {
+            longest = std::max(longest, (m_corners[corner] - m_corners[corner | (1u << axis)]).length());
+        }
+        return longest;
+    }
+
+    /// Chooses ticks whose labels have room beside each other, and lays the labels out.
+    void addTicks(std::size_t index)
+    {
+        if (isFlat(index)) {
+            return;
+        }
+        Axis& axis = m_axes[index];
+        const double length = axis.edge   ? (axis.edge->to - axis.edge->from).length()
+                              : m_isWhole ? longestEdge(index)
+                                          : std::max(m_area.width, m_area.height);
+        const double wanted = length / (c_tickDistance * m_em);
+        for (int count = std::clamp(static_cast<int>(std::min(wanted, 1e6)), 1, c_mostTicks); count > 0;
+             count = count * 3 / 4) {
+            const Ticks ticks = makeTicks(m_low[index], m_high[index], count, m_input.digits);
+            axis.ticks.clear();
+            axis.labels.clear();
+            axis.places.clear();
+            axis.reach = 0.0;
+            axis.power = ticks.exponent == 0 ? "" : "\\times" + powerText(ticks.exponent);
+            LabelPlacer placer(m_metrics);
+            bool isFree = true;
+            for (const Ticks::Tick& tick : ticks.ticks) {
+                axis.ticks.push_back(std::clamp(tick.value, m_low[index], m_high[index]));
+                isFree &= !axis.edge || addLabel(axis, index, tick, placer);
+            }
+            if (isFree) {
+                return;
+            }
+        }
+    }
+
+    /// @return whether the label has room beside the ones before
+    bool addLabel(Axis& axis, std::size_t index, const Ticks::Tick& tick, LabelPlacer& placer) const
+    {
+        const Edge& edge = *axis.edge;
+        Point point = edge.start;
+        point[index] = std::clamp(tick.value, m_low[index], m_high[index]);
+        const std::optional<Pixel> place = m_projector.pixelOf(point);
+        if (!place) {
+            return true;
+        }
+        const Pixel along = edge.to - edge.from;
+        const double part = (*place - edge.from).dot(along) / along.dot(along);
+        if (part < edge.visible.from - 1e-6 || part > edge.visible.to + 1e-6) {
+            return true;
+        }
+        AxisLabel label;
+        label.markup = tick.label;
+        const double begin = (c_tickLength + c_gap) * m_em;
+        axis.reach = std::max(axis.reach, begin + moveOut(label, *place, edge.outward, begin));
+        axis.labels.push_back(label);
+        axis.places.push_back(*place);
+        return placer.place(label);
+    }
+
+    /// Moves a label to where its rectangle just touches a line beside an edge.
+    /// @return the extent of the label at right angles to the edge
+    double moveOut(AxisLabel& label, const Pixel& from, const Pixel& outward, double distance) const
+    {
+        const LabelSize size = sizeOfMarkup(label.markup, m_metrics);
+        const double half = 0.5 * (std::abs(outward.x) * static_cast<double>(size.width) +
+                                   std::abs(outward.y) * static_cast<double>(size.height));
+        const Pixel center = from + outward * (distance + half);
+        label.x = static_cast<float>(center.x);
+        label.y = static_cast<float>(center.y);
+        return 2.0 * half;
+    }
+
+    /// A line in the world, between two corners of which one coordinate may be given.
+    static AxisLine worldLine(const Point& from, const Point& to)
+    {
+        return {Vector3f(from[0], from[1], from[2]), Vector3f(to[0], to[1], to[2]), false};
+    }
+
+    void addGrid()
+    {
+        for (std::size_t normal = 0; normal < 3; ++normal) {
+            for (const bool isHigh : {false, true}) {
+                if (isBehind(normal, isHigh)) {
+                    addFaceLines(normal, isHigh, (normal + 1) % 3, (normal + 2) % 3);
+                    addFaceLines(normal, isHigh, (normal + 2) % 3, (normal + 1) % 3);
+                }
+            }
+        }
+    }
+
+    /// The lines of a face at the ticks of one axis, along another one.
+    void addFaceLines(std::size_t normal, bool isHigh, std::size_t tickAxis, std::size_t lineAxis)
+    {
+        if (isFlat(lineAxis)) {
+            return;
+        }
+        for (const double tick : m_axes[tickAxis].ticks) {
+            Point from = m_low;
+            from[normal] = isHigh ? m_high[normal] : m_low[normal];
+            from[tickAxis] = tick;
+            Point to = from;
+            to[lineAxis] = m_high[lineAxis];
+            m_layout.grid.push_back(worldLine(from, to));
+        }
+    }
+
+    void addEdges()
+    {
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            const std::size_t other = (axis + 1) % 3;
+            const std::size_t third = (axis + 2) % 3;
+            for (unsigned corner = 0; corner < 8 && !isFlat(axis); ++corner) {
+                const bool isTwin =
+                    (isFlat(other) && (corner >> other & 1u) != 0) || (isFlat(third) && (corner >> third & 1u) != 0);
+                const bool isOnBackFace =
+                    isBehind(other, (corner >> other & 1u) != 0) || isBehind(third, (corner >> third & 1u) != 0);
+                const bool isLow = (corner >> axis & 1u) == 0;
+                if (isLow && !isTwin && isOnBackFace) {
+                    m_layout.edges.push_back(worldLine(cornerOf(corner), cornerOf(corner | (1u << axis))));
+                }
+            }
+        }
+    }
+
+    /// Names come first, then the numbers, those of the longest axis ahead.
+    void addLabels()
+    {
+        std::vector<std::pair<double, std::size_t>> order;
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            if (const std::optional<Edge>& edge = m_axes[axis].edge) {
+                order.push_back({-(edge->to - edge->from).length(), axis});
+            }
+        }
+        std::sort(order.begin(), order.end());
+        for (const auto& [length, axis] : order) {
+            addName(axis);
+        }
+        for (const auto& [length, index] : order) {
+            const Axis& axis = m_axes[index];
+            for (std::size_t i = 0; i < axis.labels.size(); ++i) {
+                const Pixel end = axis.places[i] + axis.edge->outward * (c_tickLength * m_em);
+                m_layout.ticks.push_back(
+                    {Vector3f(axis.places[i].x, axis.places[i].y, 0.0), Vector3f(end.x, end.y, 0.0), false});
+                m_labels.place(axis.labels[i]);
+            }
+        }
+    }
+
+    void addName(std::size_t index)
+    {
+        const Axis& axis = m_axes[index];
+        const Edge& edge = *axis.edge;
+        const std::string& name = m_input.names[index];
+        AxisLabel label;
+        label.isTitle = true;
+        label.markup = axis.power.empty() ? name : name.empty() ? axis.power : name + " (" + axis.power + ")";
+        const Pixel middle = edge.from + (edge.to - edge.from) * (0.5 * (edge.visible.from + edge.visible.to));
+        moveOut(label, middle, edge.outward, std::max(axis.reach, c_tickLength * m_em) + c_titleGap * m_em);
+        m_labels.place(label);
+    }
+
+    const GridBoxInput& m_input;
+    PixelArea m_area;
+    TextMetrics& m_metrics;
+    double m_em;
+    Projector m_projector;
+    Point m_low;
+    Point m_high;
+    LabelPlacer m_labels;
+    std::array<Pixel, 8> m_corners{};
+    bool m_isWhole = false;
+    Facing m_facing[3][2] = {};
+    std::array<Axis, 3> m_axes;
+    GridBoxLayout m_layout;
+};
+
+} // namespace
+
+GridBoxLayout layoutGridBox(const GridBoxInput& input, const PixelArea& area, TextMetrics& metrics)
+{
+    return Layouter(input, area, metrics).layout();
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "renderer/axes/axislayout.h"
+#include "renderer/scene/view.h"
+#include "renderer/text/textmetrics.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace vxgraphics3d {
+class BoundingBox;
+class ICameraTransforms;
+} // namespace vxgraphics3d
+
+namespace vxrenderer {
+
+/// The box around a scene of a 3D view.
+struct GridBoxLayout {
+    /// In world coordinates, on the faces behind the scene.
+    std::vector<AxisLine> grid;
+    /// In world coordinates: the edges of those faces.
+    std::vector<AxisLine> edges;
+    /// In pixels, from an edge on the outline of the box outwards.
+    std::vector<AxisLine> ticks;
+    /// Outside of the outline of the box. Titles are the names of the axes.
+    std::vector<AxisLabel> labels;
+};
+
+/// What a grid box shows.
+struct GridBoxInput {
+    /// In world coordinates.
+    const vxgraphics3d::BoundingBox& box;
+    const vxgraphics3d::ICameraTransforms& camera;
+    /// Names of the axes, in title markup.
+    std::array<std::string, 3> names = {"x", "y", "z"};
+    /// Significant digits of tick labels.
+    int digits = 3;
+};
+
+/// Lays out the box as the camera sees it in an area of the picture.
+///
+/// A face is behind the scene if its normal points away from the eye; faces seen edge-on have no grid. Each axis with
+/// an extent on the screen is labelled along one edge on the outline of the box, the lowest or else the leftmost one,
+/// and only where that lies within the area. A box that reaches behind the eye keeps its grid but has no labels; an
+/// empty box, one behind the eye, or one that is not finite has nothing.
+GridBoxLayout layoutGridBox(const GridBoxInput& input, const PixelArea& area, TextMetrics& metrics);
+
+} // namespace vxrenderer

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "renderer/axes/axislayout.h"
+#include "renderer/text/textmetrics.h"
+
+#include <vector>
+
+namespace vxrenderer {
+
+/// Width and height of a text, in pixels.
+struct LabelSize {
+    float width = 0.0f;
+    float height = 0.0f;
+};
+
+/// The rectangle that a text covers, in pixels from the top left corner of the picture.
+struct LabelRect {
+    float left = 0.0f;
+    float top = 0.0f;
+    float right = 0.0f;
+    float bottom = 0.0f;
+};
+
+/// The size of a text set in one font.
+LabelSize sizeOfMarkup(const std::string& markup, TextMetrics& metrics, float room = AxisLabel::c_noLimit);
+
+/// Where a label lies in the picture.
+LabelRect rectOf(const AxisLabel& label, TextMetrics& metrics);
+
+/// Collects labels that leave room between each other: whoever comes first stays.
+class LabelPlacer {
+public:
+    explicit LabelPlacer(TextMetrics& metrics) : m_metrics(metrics) {}
+
+    /// Takes a label, unless its text is empty, its place is not finite, or it would come too close to another one.
+    bool place(const AxisLabel& label);
+
+    const std::vector<AxisLabel>& getLabels() const { return m_labels; }
+    std::vector<AxisLabel> takeLabels() { return std::move(m_labels); }
+
+private:
+    TextMetrics& m_metrics;
+    std::vector<AxisLabel> m_labels;
+    std::vector<LabelRect> m_rects;
+};
+
+} // namespace vxrenderer

@@ -1,0 +1,221 @@
+#include "renderer/axes/axes2d.h"
+
+#include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/plots/graph/axissetup.h"
+#include "renderer/axes/labelplacer.h"
+#include "tests/renderer/support/squaremetrics.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::AxisSetup;
+using vxgraphics3d::Camera2d;
+using vxgraphics3d::Vector3f;
+
+/// A view of 400 by 200 pixels in a picture of 600 by 300.
+struct Axes2d : ::testing::Test {
+    Camera2d camera;
+    AxisSetup setup;
+    SquareMetrics metrics;
+    PixelArea area = {120, 50, 400, 200};
+
+    void show(float x0, float x1, float y0, float y1)
+    {
+        camera.setRenderArea(600, 300, area.x, 300 - area.y - area.height, area.width, area.height);
+        ASSERT_TRUE(camera.setViewLimits(x0, x1, y0, y1, false));
+    }
+
+    Axes2dInput input() const { return {camera, setup, 600, 300}; }
+    Axes2dLayout layout() { return layoutAxes2d(input(), area, metrics); }
+
+    static std::string told(const Axes2dLayout& layout, bool isTitle)
+    {
+        std::string text;
+        for (const AxisLabel& label : layout.labels) {
+            text += label.isTitle == isTitle ? (text.empty() ? "" : " ") + label.markup : "";
+        }
+        return text;
+    }
+
+    static void expectLine(const AxisLine& line, const Vector3f& from, const Vector3f& to)
+    {
+        EXPECT_LT((line.from - from).length(), 1e-3f) << line.from;
+        EXPECT_LT((line.to - to).length(), 1e-3f) << line.to;
+    }
+
+    static void expectLabel(const AxisLabel& label, float x, float y, float alignX, float alignY)
+    {
+        EXPECT_NEAR(label.x, x, 1e-3) << label.markup;
+        EXPECT_NEAR(label.y, y, 1e-3) << label.markup;
+        EXPECT_EQ(label.alignX, alignX) << label.markup;
+        EXPECT_EQ(label.alignY, alignY) << label.markup;
+    }
+};
+
+TEST_F(Axes2d, standLeftAndBelow)
+{
+    show(0.0f, 10.0f, 0.0f, 1.0f);
+    const Axes2dLayout layout = this->layout();
+    EXPECT_EQ(told(layout, false), "0 2 4 6 8 10 0.0 0.5 1.0");
+    EXPECT_EQ(told(layout, true), "");
+    ASSERT_EQ(layout.frame.size(), 4u);
+    expectLine(layout.frame[0], {120.0f, 50.0f, 0.0f}, {520.0f, 50.0f, 0.0f});
+    ASSERT_EQ(layout.grid.size(), 9u);
+    expectLine(layout.grid[2], {280.0f, 250.0f, 0.0f}, {280.0f, 50.0f, 0.0f});
+    expectLine(layout.grid[7], {120.0f, 150.0f, 0.0f}, {520.0f, 150.0f, 0.0f});
+    ASSERT_EQ(layout.ticks.size(), 9u);
+    expectLine(layout.ticks[2], {280.0f, 250.0f, 0.0f}, {280.0f, 254.0f, 0.0f});
+    expectLine(layout.ticks[7], {120.0f, 150.0f, 0.0f}, {116.0f, 150.0f, 0.0f});
+    expectLabel(layout.labels[2], 280.0f, 257.0f, 0.5f, 0.0f);
+    expectLabel(layout.labels[7], 113.0f, 150.0f, 1.0f, 0.5f);
+}
+
+TEST_F(Axes2d, titlesTakeThePowersOfTen)
+{
+    show(0.0f, 2e5f, 0.0f, 4e6f);
+    Axes2dLayout layout = this->layout();
+    EXPECT_EQ(told(layout, true), "\\times10^{5} \\times10^{6}");
+    // The script makes a line 11.8 high.
+    expectLabel(layout.labels[0], 520.0f, 271.8f, 1.0f, 0.0f);
+    expectLabel(layout.labels[1], 120.0f, 47.0f, 1.0f, 1.0f);
+
+    setup.setXAxisTitle("t");
+    setup.setYAxisTitle("U");
+    layout = this->layout();
+    EXPECT_EQ(told(layout, true), "\\begin{center}\\unicode{t}\\end{center} (\\times10^{5}) "
+                                  "\\begin{center}\\unicode{U}\\end{center} (\\times10^{6})");
+    expectLabel(layout.labels[0], 320.0f, 271.8f, 0.5f, 0.0f);
+    // Ticks take 7 pixels, labels as wide as -0.5000 take 70, and the gap 3.
+    expectLabel(layout.labels[1], 40.0f, 150.0f, 1.0f, 0.5f);
+    EXPECT_FALSE(layout.labels[0].isVertical);
+    EXPECT_TRUE(layout.labels[1].isVertical);
+}
+
+TEST_F(Axes2d, theSymmetryAxisIsNamedAboveTheFrame)
+{
+    setup.setSymmetryAxis("r");
+    show(-1.0f, 3.0f, 0.0f, 1.0f);
+    Axes2dLayout layout = this->layout();
+    ASSERT_EQ(layout.frame.size(), 5u);
+    expectLine(layout.frame[4], {220.0f, 250.0f, 0.0f}, {220.0f, 50.0f, 0.0f});
+    EXPECT_EQ(told(layout, true), "\\begin{center}\\unicode{r=0}\\end{center}");
+    expectLabel(layout.labels[0], 220.0f, 47.0f, 0.5f, 1.0f);
+    show(0.0f, 3.0f, 0.0f, 4e6f);
+    EXPECT_EQ(told(this->layout(), true), "\\times10^{6} \\begin{center}\\unicode{r=0}\\end{center}");
+    show(1.0f, 3.0f, 0.0f, 1.0f);
+    EXPECT_EQ(this->layout().frame.size(), 4u) << "out of sight";
+    show(-1.0f, 3.0f, 0.0f, 1.0f);
+    setup.setXAxisLog(true);
+    EXPECT_EQ(this->layout().frame.size(), 4u) << "a logarithmic axis has no 0";
+}
+
+TEST_F(Axes2d, followTheSetup)
+{
+    show(0.0f, 10.0f, 0.0f, 4.0f);
+    setup.setXSpacing(2.5);
+    setup.setYSpacing(1.0);
+    EXPECT_EQ(told(layout(), false), "0 2 4 6 8 10 0 1 2 3 4") << "spacings wait until they are asked for";
+    setup.setAutoSpacing(false);
+    setup.setExtraY({3.3});
+    setup.setYAxisLog(true);
+    EXPECT_EQ(told(layout(), false), "0.0 2.5 5.0 7.5 10.0 10^{0} 3.3 10^{1} 10^{2} 10^{3} 10^{4}");
+    camera.setCameraMode(Camera2d::ModeOneDimensional);
+    EXPECT_EQ(told(layout(), false), "0.0 2.5 5.0 7.5 10.0");
+    area = {0, 0, 0, 200};
+    EXPECT_TRUE(layout().frame.empty());
+}
+
+TEST_F(Axes2d, aPolarViewHasCirclesAndSpokes)
+{
+    area = {100, 50, 200, 200};
+    camera.setCameraMode(Camera2d::ModePolar);
+    camera.setPolarLimits(5.0f, 1.0f);
+    const Axes2dLayout layout = this->layout();
+    const Vector3f center(200.0f, 150.0f, 0.0f);
+    for (const AxisLine& line : layout.frame) {
+        EXPECT_NEAR((line.from - center).length(), 100.0, 1e-3);
+    }
+    expectLine({layout.frame.back().to, layout.frame.front().from}, {300.0f, 150.0f, 0.0f}, {300.0f, 150.0f, 0.0f});
+    // At radius 1 is the middle; the spokes come first, every 45 degrees.
+    EXPECT_EQ(told(layout, false), "0\xC2\xB0 45\xC2\xB0 90\xC2\xB0 135\xC2\xB0 180\xC2\xB0 225\xC2\xB0 270\xC2\xB0 "
+                                   "315\xC2\xB0 2 4");
+    expectLine(layout.grid[2], center, {200.0f, 50.0f, 0.0f});
+    expectLabel(layout.labels[0], 303.0f, 150.0f, 0.0f, 0.5f);
+    expectLabel(layout.labels[8], 203.0f, 125.0f, 0.0f, 0.0f);
+    std::vector<int> radii;
+    for (std::size_t i = 8; i < layout.grid.size(); ++i) {
+        radii.push_back(static_cast<int>(std::lround((layout.grid[i].from - center).length())));
+    }
+    EXPECT_EQ(std::count(radii.begin(), radii.end(), 25), 25);
+    EXPECT_EQ(std::count(radii.begin(), radii.end(), 75), 43);
+    EXPECT_EQ(radii.size(), 68u);
+}
+
+TEST_F(Axes2d, marginsHoldEveryLabel)
+{
+    AxisMargins margins = axes2dMargins(input(), metrics);
+    EXPECT_NEAR(margins.left, 80.0, 1e-3);
+    EXPECT_NEAR(margins.bottom, 36.6, 1e-3);
+    EXPECT_NEAR(margins.right, 38.0, 1e-3);
+    EXPECT_NEAR(margins.top, 17.8, 1e-3);
+    setup.setYAxisTitle("U");
+    EXPECT_NEAR(axes2dMargins(input(), metrics).left, 94.8, 1e-3);
+    setup.setXAxisTitle("two\nlines");
+    setup.setSymmetryAxis("r");
+
+    std::mt19937 random(3);
+    std::uniform_real_distribution<float> unit(0.0f, 1.0f);
+    margins = axes2dMargins(input(), metrics);
+    for (int round = 0; round < 500; ++round) {
+        setup.setXAxisLog(round % 5 == 0);
+        setup.setYAxisLog(round % 3 == 0);
+        setup.setExtraX({static_cast<double>(unit(random)), 1.0});
+        camera.setCameraMode(round % 7 == 0 ? Camera2d::ModePolar : Camera2d::ModeOrdinary);
+        margins = axes2dMargins(input(), metrics);
+        area.x = static_cast<int>(std::ceil(margins.left));
+        area.y = static_cast<int>(std::ceil(margins.top));
+        area.width = static_cast<int>(600.0f - margins.right) - area.x;
+        area.height = static_cast<int>(300.0f - margins.bottom) - area.y;
+        const auto limit = [&](bool isLog) {
+            return isLog ? 20.0f * unit(random) - 10.0f
+                         : (unit(random) - 0.5f) * std::pow(10.0f, 12.0f * unit(random) - 6.0f);
+        };
+        const float x = limit(setup.getXAxisLog());
+        const float y = limit(setup.getYAxisLog());
+        show(x, x + std::abs(x) * (0.01f + unit(random)), y, y + std::abs(y) * (0.01f + unit(random)));
+        const AxisMargins later = axes2dMargins(input(), metrics);
+        ASSERT_EQ(later.left, margins.left) << "the limits must not move the area that they follow";
+        ASSERT_EQ(later.bottom, margins.bottom);
+
+        const Axes2dLayout layout = this->layout();
+        std::vector<LabelRect> rects;
+        for (const AxisLabel& label : layout.labels) {
+            const LabelRect rect = rectOf(label, metrics);
+            ASSERT_TRUE(rect.left >= 0.0f && rect.top >= 0.0f && rect.right <= 600.0f && rect.bottom <= 300.0f);
+            for (const LabelRect& other : rects) {
+                ASSERT_FALSE(rect.left < other.right && other.left < rect.right && rect.top < other.bottom &&
+                             other.top < rect.bottom)
+                    << label.markup;
+            }
+            rects.push_back(rect);
+        }
+        const auto numTitles = static_cast<std::size_t>(
+            std::count_if(layout.labels.begin(), layout.labels.end(), [](const AxisLabel& l) { return l.isTitle; }));
+        if (camera.getCameraMode() == Camera2d::ModeOrdinary) {
+            ASSERT_EQ(layout.labels.size() - numTitles, layout.ticks.size()) << round << ": a label has no room";
+            ASSERT_GE(numTitles, 2u);
+        }
+        for (const AxisLine& line : layout.grid) {
+            ASSERT_TRUE(std::isfinite((line.to - line.from).length()));
+        }
+    }
+}
+
+} // namespace
+} // namespace vxrenderer
