@@ -1,16 +1,32 @@
 #include "renderer/canvas/offscreencanvas.h"
 
+#include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/cameras/camera3d.h"
+#include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/hardcopysettings.h"
+#include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/picking/canvaspicksettings.h"
 #include "graphics3d/scene/scene.h"
-#include "graphics3d/scenegraph/scenegraphroot.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "graphics3d/settings/contextdata.h"
+#include "renderer/canvas/glrendererinfo.h"
 #include "renderer/gl/target.h"
+#include "renderer/picture/pngencoder.h"
 #include "renderer/scene/scenerenderer.h"
 
-#include <cmath>
+#include <boost/make_shared.hpp>
+
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
 namespace vxrenderer {
 namespace {
+
+using namespace vxgraphics3d;
+
+/// Beyond the margin of the settings, room for what stands around the box of a scene, as a part of its radius.
+constexpr float c_roomForAxes = 0.2f;
 
 void requireNoFault()
 {
@@ -23,20 +39,33 @@ void requireNoFault()
     }
 }
 
+std::size_t bytesOf(const Target& target)
+{
+    return std::size_t(4) * static_cast<std::size_t>(target.getWidth()) * static_cast<std::size_t>(target.getHeight());
+}
+
 } // namespace
 
-OffscreenCanvas::OffscreenCanvas(int width, int height, int samples) : m_samples(samples)
+OffscreenCanvas::OffscreenCanvas(int width, int height, int samples)
+    : m_samples(samples),
+      m_settings(boost::make_shared<Canvas3dSettings>()),
+      m_pickSettings(boost::make_shared<CanvasPickSettings>()),
+      m_contextData(boost::make_shared<ContextData>())
 {
-    // Into the members at the end only: what fails on the way is undone while the context is still current.
+    for (const auto mode : {Canvas3dSettings::RenderMode3d, Canvas3dSettings::RenderMode2d}) {
+        m_settings->background(mode).setBackgroundColor(Color::fromRgb(0xffffff));
+    }
     const EglContext::Current current(m_context);
-    auto target = std::make_unique<Target>(width, height, samples);
+    GlRendererInfo::announce(m_context.getPlatform());
+    // Into the member at the end only: if the target is refused, the renderer goes while the context is still current.
     auto renderer = std::make_unique<SceneRenderer>();
-    m_target = std::move(target);
+    makeTarget(width, height);
     m_renderer = std::move(renderer);
 }
 
 OffscreenCanvas::~OffscreenCanvas()
 {
+    setScene(nullptr);
     try {
         const EglContext::Current current(m_context);
         m_renderer.reset();
@@ -48,11 +77,24 @@ OffscreenCanvas::~OffscreenCanvas()
     }
 }
 
+int OffscreenCanvas::wantedSamples() const
+{
+    return m_samples > 0 ? m_samples : std::max(1, Canvas3dGlobalSettings::getInstance()->getMultisampleSetting());
+}
+
+void OffscreenCanvas::makeTarget(int width, int height)
+{
+    const int samples = wantedSamples();
+    m_target = std::make_unique<Target>(width, height, samples);
+    m_targetSamples = samples;
+    *m_contextData = contextDataOf(*m_target);
+    m_isDrawn = false;
+}
+
 void OffscreenCanvas::resize(int width, int height)
 {
     const EglContext::Current current(m_context);
-    m_target = std::make_unique<Target>(width, height, m_samples);
-    m_isDrawn = false;
+    makeTarget(width, height);
 }
 
 int OffscreenCanvas::getWidth() const
@@ -70,50 +112,75 @@ int OffscreenCanvas::getSamples() const
     return m_target->getSamples();
 }
 
-void OffscreenCanvas::setScene(boost::shared_ptr<const vxgraphics3d::Scene> scene)
+boost::shared_ptr<SceneSettings> OffscreenCanvas::getSceneSettings()
 {
-    m_scene = std::move(scene);
-    m_root = m_scene ? m_scene->getRoot() : nullptr;
+    return SceneView::shareSettings(m_sceneView);
 }
 
-void OffscreenCanvas::setRoot(boost::shared_ptr<const vxgraphics3d::SceneGraphRoot> root)
+void OffscreenCanvas::setScene(const boost::shared_ptr<Scene>& scene)
 {
-    m_scene.reset();
-    m_root = std::move(root);
-}
-
-void OffscreenCanvas::setSettings(const PictureSettings& settings)
-{
-    if (!std::isfinite(settings.direction.azimuth) || !std::isfinite(settings.direction.elevation)) {
-        throw std::invalid_argument("The direction of view is not finite.");
+    if (m_sceneView) {
+        m_sceneView->disconnect();
     }
-    if (settings.fontSize < 1) {
-        throw std::invalid_argument("The font size " + std::to_string(settings.fontSize) + " is below 1.");
-    }
-    const EglContext::Current current(m_context);
-    m_renderer->setSettings(settings);
+    m_sceneView = scene ? SceneView::connect(scene) : nullptr;
 }
 
-const PictureSettings& OffscreenCanvas::getSettings() const
+void OffscreenCanvas::dropDisposedScene()
 {
-    return m_renderer->getSettings();
+    if (m_sceneView && m_sceneView->getScene()->isDisposed()) {
+        setScene(nullptr);
+    }
+}
+
+Appearance OffscreenCanvas::appearance() const
+{
+    return Appearance::onScreen(*m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
+}
+
+Frame OffscreenCanvas::frameOf(ICameraTransforms& camera, const Appearance& appearance) const
+{
+    return {*m_settings, m_sceneView ? m_sceneView->getScene().get() : nullptr,
+            m_sceneView ? &m_sceneView->getSettings() : nullptr, camera, appearance};
+}
+
+void OffscreenCanvas::zoomExtents()
+{
+    dropDisposedScene();
+    if (!m_sceneView || !m_sceneView->getScene()->getBoundingBox().isValid()) {
+        return;
+    }
+    const BoundingBox box = m_sceneView->getScene()->getBoundingBox();
+    const Appearance look = appearance();
+    m_renderer->layOut(frameOf(m_settings->cameraTransforms(), look), getWidth(), getHeight());
+    if (m_settings->getRenderMode() == Canvas3dSettings::RenderMode2d) {
+        m_settings->camera2d()->moveToBoundingBox(box, Canvas3dGlobalSettings::getInstance()->getZoomToExtentMargin());
+    } else {
+        Camera3d& camera = *m_settings->camera3d();
+        camera.setRotationPoint(box.getCenter());
+        camera.moveToBoundingBox(box, box, look.showAxes ? c_roomForAxes : 0.0f);
+    }
 }
 
 void OffscreenCanvas::draw()
 {
-    if (m_scene && m_scene->isDisposed()) {
-        setScene(nullptr);
+    dropDisposedScene();
+    const EglContext::Current current(m_context);
+    if (m_targetSamples != wantedSamples()) {
+        makeTarget(getWidth(), getHeight());
     }
     m_isDrawn = false;
-    const EglContext::Current current(m_context);
-    m_renderer->draw(m_root.get(), *m_target);
+    const Appearance look = appearance();
+    m_renderer->draw(frameOf(m_settings->cameraTransforms(), look), *m_target);
+    if (m_sceneView) {
+        m_sceneView->getSettings().resetChangedFlags();
+    }
     requireNoFault();
     m_isDrawn = true;
 }
 
 std::size_t OffscreenCanvas::imageSize() const
 {
-    return std::size_t(4) * static_cast<std::size_t>(getWidth()) * static_cast<std::size_t>(getHeight());
+    return bytesOf(*m_target);
 }
 
 void OffscreenCanvas::readImage(std::uint8_t* pixels, std::size_t numBytes) const
@@ -130,11 +197,35 @@ void OffscreenCanvas::readImage(std::uint8_t* pixels, std::size_t numBytes) cons
     requireNoFault();
 }
 
-std::vector<std::uint8_t> OffscreenCanvas::encodePng(const PngSettings& settings) const
+std::vector<std::uint8_t> OffscreenCanvas::encodePng() const
 {
     std::vector<std::uint8_t> pixels(imageSize());
     readImage(pixels.data(), pixels.size());
-    return vxrenderer::encodePng(pixels.data(), getWidth(), getHeight(), settings);
+    return vxrenderer::encodePng(pixels.data(), getWidth(), getHeight(), {});
+}
+
+std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings& settings, int width, int height)
+{
+    dropDisposedScene();
+    const EglContext::Current current(m_context);
+    const Target target(width, height, std::max(1, settings.getMultisampleSetting()));
+    const Appearance look =
+        Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
+    // A camera that takes another size may not find back to its base, so a copy does.
+    if (m_settings->getRenderMode() == Canvas3dSettings::RenderMode2d) {
+        Camera2d camera(*m_settings->getCamera2d());
+        m_renderer->draw(frameOf(camera, look), target);
+    } else {
+        Camera3d camera(*m_settings->getCamera3d());
+        m_renderer->draw(frameOf(camera, look), target);
+    }
+    requireNoFault();
+    std::vector<std::uint8_t> pixels(bytesOf(target));
+    target.read(pixels.data());
+    requireNoFault();
+    return vxrenderer::encodePng(
+        pixels.data(), width, height,
+        {.dpi = settings.getDpi(), .title = settings.getFileTitle(), .creator = settings.getFileCreator()});
 }
 
 const UploadCounts& OffscreenCanvas::getUploadCounts() const

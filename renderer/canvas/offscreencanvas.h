@@ -1,8 +1,8 @@
 #pragma once
 
+#include "graphics3d/canvas/irenderercanvas.h"
+#include "renderer/canvas/sceneview.h"
 #include "renderer/gl/eglcontext.h"
-#include "renderer/picture/pngencoder.h"
-#include "renderer/scene/picturesettings.h"
 #include "renderer/scene/uploadcounts.h"
 
 #include <boost/shared_ptr.hpp>
@@ -14,28 +14,39 @@
 #include <vector>
 
 namespace vxgraphics3d {
+class HardcopySettings;
+class ICameraTransforms;
 class Scene;
-class SceneGraphRoot;
 } // namespace vxgraphics3d
 
 namespace vxrenderer {
 
+struct Appearance;
+struct Frame;
+struct View;
 class SceneRenderer;
 class Target;
 
-/// A picture of a scene that no screen shows: what a Java OffscreenRenderer stands for.
+/// A view of a scene that no screen shows: what a Java OffscreenRenderer stands for.
 ///
-/// It owns the drawing context and everything that lives in it, and shares in the scene that it shows. Calls may come
-/// from any thread, one at a time, and never while the scene is being changed.
-class OffscreenCanvas {
+/// It owns the drawing context and everything that lives in it, the settings of the view with its cameras, and shares
+/// in the scene that it shows. The settings start as new ones do, but on white. Calls may come from any thread, one at
+/// a time, and never while the scene is being changed.
+class OffscreenCanvas : public vxgraphics3d::IRendererCanvas {
 public:
-    /// @param samples a pixel against jagged edges, 1 for none; reduced to what the driver has
+    /// @param samples a pixel against jagged edges, 1 for none; reduced to what the driver has. With 0 the picture
+    /// follows the multisample setting of the process
     /// @throws std::invalid_argument for a size below 1 or beyond what the driver allows
     /// @throws std::runtime_error if there is no drawing context, saying what is missing, or no font
     OffscreenCanvas(int width, int height, int samples);
-    ~OffscreenCanvas();
+    ~OffscreenCanvas() override;
     OffscreenCanvas(const OffscreenCanvas&) = delete;
     OffscreenCanvas& operator=(const OffscreenCanvas&) = delete;
+
+    boost::shared_ptr<vxgraphics3d::Canvas3dSettings> getCanvas3dSettings() override { return m_settings; }
+    boost::shared_ptr<vxgraphics3d::CanvasPickSettings> getCanvasPickSettings() override { return m_pickSettings; }
+    boost::shared_ptr<vxgraphics3d::SceneSettings> getSceneSettings() override;
+    boost::shared_ptr<vxgraphics3d::ContextData> getContextData() override { return m_contextData; }
 
     /// Gives the picture another size. What was drawn is gone. If the size is refused, the old one stays.
     void resize(int width, int height);
@@ -44,14 +55,11 @@ public:
     int getSamples() const;
 
     /// Shows a scene, or nothing for null. The canvas drops its share when it finds the scene disposed.
-    void setScene(boost::shared_ptr<const vxgraphics3d::Scene> scene);
-    /// Shows a tree by itself, or nothing for null.
-    void setRoot(boost::shared_ptr<const vxgraphics3d::SceneGraphRoot> root);
+    void setScene(const boost::shared_ptr<vxgraphics3d::Scene>& scene);
 
-    /// How the next picture is drawn.
-    /// @throws std::invalid_argument for a direction that is not finite or a font size below 1
-    void setSettings(const PictureSettings& settings);
-    const PictureSettings& getSettings() const;
+    /// Looks at the whole scene with the camera of the present mode: a 3D camera keeps its direction and turns about
+    /// the middle of the scene from now on. Without a scene, or with one that is empty, nothing happens.
+    void zoomExtents();
 
     /// Draws the picture.
     /// @throws std::runtime_error if the driver reports a fault
@@ -64,7 +72,13 @@ public:
     void readImage(std::uint8_t* pixels, std::size_t numBytes) const;
     /// The bytes of an image file of the picture drawn last.
     /// @throws std::logic_error if nothing was drawn since the size was given
-    std::vector<std::uint8_t> encodePng(const PngSettings& settings) const;
+    std::vector<std::uint8_t> encodePng() const;
+
+    /// Draws the view at another size as its settings ask, and gives the bytes of an image file. The view itself stays
+    /// as it is.
+    /// @throws std::invalid_argument for a size below 1 or beyond what the driver allows
+    /// @throws std::runtime_error if the driver reports a fault
+    std::vector<std::uint8_t> encodeHardcopy(const vxgraphics3d::HardcopySettings& settings, int width, int height);
 
     const UploadCounts& getUploadCounts() const;
     /// How the scene was seen in the picture drawn last.
@@ -73,12 +87,22 @@ public:
     std::string getDriver() const;
 
 private:
+    Frame frameOf(vxgraphics3d::ICameraTransforms& camera, const Appearance& appearance) const;
+    Appearance appearance() const;
+    void dropDisposedScene();
+    int wantedSamples() const;
+    void makeTarget(int width, int height);
+
     EglContext m_context;
+    /// Samples asked for; 0 to follow the settings of the process.
+    int m_samples;
+    int m_targetSamples = 0;
     std::unique_ptr<Target> m_target;
     std::unique_ptr<SceneRenderer> m_renderer;
-    boost::shared_ptr<const vxgraphics3d::Scene> m_scene;
-    boost::shared_ptr<const vxgraphics3d::SceneGraphRoot> m_root;
-    int m_samples;
+    boost::shared_ptr<vxgraphics3d::Canvas3dSettings> m_settings;
+    boost::shared_ptr<vxgraphics3d::CanvasPickSettings> m_pickSettings;
+    boost::shared_ptr<vxgraphics3d::ContextData> m_contextData;
+    boost::shared_ptr<SceneView> m_sceneView;
     bool m_isDrawn = false;
 };
 

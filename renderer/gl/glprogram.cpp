@@ -73,4 +73,17 @@ void GlProgram::set(GLint place, const vxgraphics3d::Matrixf& matrix)
     glUniformMatrix4fv(place, 1, GL_FALSE, matrix.data());
 }
 
+void GlProgram::set(GLint place, const vxgraphics3d::Color& color)
+{
+    const auto channel = [](int value) { return static_cast<float>(value) / 255.0f; };
+    set(place, channel(color.red), channel(color.green), channel(color.blue), channel(color.alpha));
+}
+
+void GlProgram::set(GLint place, std::span<const std::array<float, 4>> values)
+{
+    if (!values.empty()) {
+        glUniform4fv(place, static_cast<GLsizei>(values.size()), values.front().data());
+    }
+}
+
 } // namespace vxrenderer

@@ -1,6 +1,11 @@
 #pragma once
 
+#include "graphics3d/foundation/color.h"
+
 #include <epoxy/gl.h>
+
+#include <array>
+#include <span>
 
 namespace vxgraphics3d {
 class Matrixf;
@@ -29,6 +34,10 @@ public:
     static void set(GLint place, float x, float y, float z) { glUniform3f(place, x, y, z); }
     static void set(GLint place, float x, float y, float z, float w) { glUniform4f(place, x, y, z, w); }
     static void set(GLint place, const vxgraphics3d::Matrixf& matrix);
+    /// Channels from 0 to 1.
+    static void set(GLint place, const vxgraphics3d::Color& color);
+    /// The elements of an array, from its first one on.
+    static void set(GLint place, std::span<const std::array<float, 4>> values);
 
 private:
     GLuint m_program;

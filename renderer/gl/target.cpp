@@ -63,14 +63,18 @@ Target::Target(int width, int height, int samples) : m_width(width), m_height(he
     }
 }
 
-void Target::beginScene(float red, float green, float blue) const
+void Target::bindScene() const
 {
     glBindFramebuffer(GL_FRAMEBUFFER, m_scene.name());
+}
+
+void Target::beginScene() const
+{
+    bindScene();
     glViewport(0, 0, m_width, m_height);
     glDisable(GL_SCISSOR_TEST);
     glDepthMask(GL_TRUE);
-    glClearColor(red, green, blue, 1.0f);
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    glClear(GL_DEPTH_BUFFER_BIT);
 }
 
 void Target::beginOverlay() const

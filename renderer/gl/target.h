@@ -23,8 +23,10 @@ public:
     /// Samples in use.
     int getSamples() const { return m_samples; }
 
-    /// Lets what follows draw into the scene buffer, which is cleared to a colour (0 to 1).
-    void beginScene(float red, float green, float blue) const;
+    /// Lets what follows draw into the scene buffer, or ask about it.
+    void bindScene() const;
+    /// Lets what follows draw into the scene buffer, whose depths are cleared and whose colours are anything.
+    void beginScene() const;
     /// Brings the scene into the plain buffer and lets what follows draw over it.
     void beginOverlay() const;
     /// Copies the plain buffer out: four bytes a pixel, red first, the top row first.

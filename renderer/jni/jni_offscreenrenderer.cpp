@@ -1,8 +1,9 @@
+#include "renderer/canvas/glrendererinfo.h"
 #include "renderer/canvas/offscreencanvas.h"
 #include "renderer/jni/javabytes.h"
 
+#include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/scene/scene.h"
-#include "graphics3d/scenegraph/scenegraphroot.h"
 
 #include "base/java/conversions.h"
 #include "base/java/nativeframe.h"
@@ -14,8 +15,9 @@
 
 using namespace vxbase;
 using namespace vxrenderer;
+using vxgraphics3d::HardcopySettings;
+using vxgraphics3d::IRendererCanvas;
 using vxgraphics3d::Scene;
-using vxgraphics3d::SceneGraphRoot;
 
 #define VX_NATIVE(result, method)                                                                                      \
     extern "C" JNIEXPORT result JNICALL Java_com_vexane_renderer_OffscreenRenderer_##method
@@ -27,22 +29,14 @@ OffscreenCanvas& canvas(JNIEnv* env, jobject self)
     return peer<OffscreenCanvas>(env, self);
 }
 
-/// Changes some of the settings of a canvas.
-template <class Change>
-void changeSettings(JNIEnv* env, jobject self, Change&& change)
-{
-    guarded(env, [&] {
-        PictureSettings settings = canvas(env, self).getSettings();
-        change(settings);
-        canvas(env, self).setSettings(settings);
-    });
-}
-
 } // namespace
 
 VX_NATIVE(void, createNative)(JNIEnv* env, jclass, jobject self, jint width, jint height, jint samples)
 {
-    guarded(env, [&] { attach(env, self, boost::make_shared<OffscreenCanvas>(width, height, samples)); });
+    guarded(env, [&] {
+        const boost::shared_ptr<IRendererCanvas> canvas = boost::make_shared<OffscreenCanvas>(width, height, samples);
+        attach(env, self, canvas);
+    });
 }
 
 VX_NATIVE(void, cleanupNative)(JNIEnv* env, jclass, jobject self)
@@ -55,9 +49,9 @@ VX_NATIVE(void, setScene)(JNIEnv* env, jclass, jobject self, jobject scene)
     guarded(env, [&] { canvas(env, self).setScene(scene == nullptr ? nullptr : share<Scene>(env, scene)); });
 }
 
-VX_NATIVE(void, setRoot)(JNIEnv* env, jclass, jobject self, jobject root)
+VX_NATIVE(void, zoomExtents)(JNIEnv* env, jclass, jobject self)
 {
-    guarded(env, [&] { canvas(env, self).setRoot(root == nullptr ? nullptr : share<SceneGraphRoot>(env, root)); });
+    guarded(env, [&] { canvas(env, self).zoomExtents(); });
 }
 
 VX_NATIVE(void, resize)(JNIEnv* env, jclass, jobject self, jint width, jint height)
@@ -80,39 +74,6 @@ VX_NATIVE(jint, getSamples)(JNIEnv* env, jclass, jobject self)
     return guarded(env, [&] { return canvas(env, self).getSamples(); });
 }
 
-VX_NATIVE(void, setViewDirection)(JNIEnv* env, jclass, jobject self, jdouble azimuth, jdouble elevation)
-{
-    changeSettings(env, self, [&](PictureSettings& settings) { settings.direction = {azimuth, elevation}; });
-}
-
-VX_NATIVE(void, setLit)(JNIEnv* env, jclass, jobject self, jboolean lit)
-{
-    changeSettings(env, self, [&](PictureSettings& settings) { settings.isLit = lit; });
-}
-
-VX_NATIVE(void, setDecoration)(JNIEnv* env, jclass, jobject self, jboolean title, jboolean legends, jboolean box)
-{
-    changeSettings(env, self, [&](PictureSettings& settings) {
-        settings.showTitle = title;
-        settings.showLegends = legends;
-        settings.showBox = box;
-    });
-}
-
-VX_NATIVE(void, setBackground)(JNIEnv* env, jclass, jobject self, jint rgb)
-{
-    changeSettings(env, self,
-                   [&](PictureSettings& settings) { settings.background = vxgraphics3d::Color::fromRgb(rgb); });
-}
-
-VX_NATIVE(void, setFont)(JNIEnv* env, jclass, jobject self, jstring name, jint size)
-{
-    changeSettings(env, self, [&](PictureSettings& settings) {
-        settings.fontName = fromJava<std::string>(env, name);
-        settings.fontSize = size;
-    });
-}
-
 VX_NATIVE(void, draw)(JNIEnv* env, jclass, jobject self)
 {
     guarded(env, [&] { canvas(env, self).draw(); });
@@ -126,15 +87,21 @@ VX_NATIVE(void, readImage)(JNIEnv* env, jclass, jobject self, jobject out)
     });
 }
 
-VX_NATIVE(jbyteArray, encodePng)(JNIEnv* env, jclass, jobject self, jint dpi, jstring title, jstring creator)
+VX_NATIVE(jbyteArray, encodePng)(JNIEnv* env, jclass, jobject self)
+{
+    return guarded(env, [&] { return toJavaNew(env, canvas(env, self).encodePng()); });
+}
+
+VX_NATIVE(jbyteArray, encodeHardcopy)(JNIEnv* env, jclass, jobject self, jobject settings, jint width, jint height)
 {
     return guarded(env, [&] {
-        const PngSettings settings = {.dpi = dpi,
-                                      .hasAlpha = false,
-                                      .title = fromJava<std::string>(env, title),
-                                      .creator = fromJava<std::string>(env, creator)};
-        return toJavaNew(env, canvas(env, self).encodePng(settings));
+        return toJavaNew(env, canvas(env, self).encodeHardcopy(peer<HardcopySettings>(env, settings), width, height));
     });
+}
+
+VX_NATIVE(void, connectInfo)(JNIEnv* env, jclass, jobject info)
+{
+    guarded(env, [&] { attach(env, info, GlRendererInfo::ofProcess()); });
 }
 
 VX_NATIVE(jstring, describeDriver)(JNIEnv* env, jclass, jobject self)

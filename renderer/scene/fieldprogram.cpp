@@ -3,9 +3,11 @@
 #include "graphics3d/plots/colortable.h"
 #include "graphics3d/plots/scenegraphplot.h"
 #include "renderer/scene/colortextures.h"
+#include "renderer/scene/lighting.h"
 #include "renderer/scene/view.h"
 
 #include <limits>
+#include <span>
 #include <utility>
 
 namespace vxrenderer {
@@ -39,10 +41,7 @@ void main()
 
 constexpr const char* c_fragmentSource = R"(
 const int c_tableSize = 1024;
-const vec3 c_toLight = normalize(vec3(-0.25, 0.35, 1.0));
-const float c_ambient = 0.42;
-const float c_diffuse = 0.62;
-const float c_specular = 0.18;
+const int c_maxLights = 8;
 
 uniform sampler1D colorTable;
 uniform bool hasTable;
@@ -51,8 +50,16 @@ uniform vec2 dataTex;
 uniform vec2 legendTex;
 uniform vec2 restriction;
 uniform bool isReversed;
-uniform bool isLit;
+uniform float opacity;
 uniform float shininess;
+uniform bool isLit;
+uniform bool isPerspective;
+uniform vec4 ambient;
+uniform int numLights;
+uniform vec4 lightPlaces[c_maxLights];
+uniform vec4 lightDiffuse[c_maxLights];
+uniform vec4 lightSpecular[c_maxLights];
+uniform vec4 lightCones[c_maxLights];
 centroid in float u;
 in vec3 eyePosition;
 in vec3 eyeNormal;
@@ -68,14 +75,24 @@ vec3 dataColor()
 
 vec3 lit(vec3 color)
 {
-    vec3 toEye = normalize(-eyePosition);
-    // Vertices without a normal are lit by the slope of the triangle.
+    vec3 toEye = isPerspective ? normalize(-eyePosition) : vec3(0.0, 0.0, 1.0);
+    // Vertices without a normal are lit by the slope of the triangle. Surfaces are seen from both sides.
     vec3 n = dot(eyeNormal, eyeNormal) > 0.0 ? normalize(eyeNormal)
                                              : normalize(cross(dFdx(eyePosition), dFdy(eyePosition)));
     n = dot(n, toEye) < 0.0 ? -n : n;
-    float diffuse = max(dot(n, c_toLight), 0.0);
-    float specular = pow(max(dot(n, normalize(c_toLight + toEye)), 0.0), shininess);
-    return min(color * (c_ambient + c_diffuse * diffuse) + vec3(c_specular * specular), vec3(1.0));
+    vec3 received = ambient.rgb;
+    vec3 reflected = vec3(0.0);
+    for (int i = 0; i < numLights; ++i) {
+        vec4 place = lightPlaces[i];
+        vec3 toLight = normalize(place.xyz - place.w * eyePosition);
+        if (dot(-toLight, lightCones[i].xyz) < lightCones[i].w) {
+            continue;
+        }
+        received += lightDiffuse[i].rgb * max(dot(n, toLight), 0.0);
+        float mirrored = max(dot(n, normalize(toLight + toEye)), 0.0);
+        reflected += lightSpecular[i].rgb * pow(mirrored, shininess);
+    }
+    return min(color * received + reflected, vec3(1.0));
 }
 
 void main()
@@ -84,7 +101,7 @@ void main()
         discard;
     }
     vec3 color = hasTable ? dataColor() : uniformColor.rgb;
-    result = vec4(isLit ? lit(color) : color, 1.0);
+    result = vec4(isLit ? lit(color) : color, opacity);
 }
 )";
 
@@ -114,8 +131,16 @@ FieldProgram::FieldProgram()
       m_legendTex(m_program.place("legendTex")),
       m_restriction(m_program.place("restriction")),
       m_isReversed(m_program.place("isReversed")),
+      m_opacity(m_program.place("opacity")),
+      m_shininess(m_program.place("shininess")),
       m_isLit(m_program.place("isLit")),
-      m_shininess(m_program.place("shininess"))
+      m_isPerspective(m_program.place("isPerspective")),
+      m_ambient(m_program.place("ambient")),
+      m_numLights(m_program.place("numLights")),
+      m_lightPlaces(m_program.place("lightPlaces")),
+      m_lightDiffuse(m_program.place("lightDiffuse")),
+      m_lightSpecular(m_program.place("lightSpecular")),
+      m_lightCones(m_program.place("lightCones"))
 {}
 
 bool FieldProgram::use(const PlotItem& item, const PaintContext& context) const
@@ -128,7 +153,7 @@ bool FieldProgram::use(const PlotItem& item, const PaintContext& context) const
 
     // Height scale and plane offset were never applied to the vertices: the plot is stretched about its plane, which
     // lies at the offset.
-    Matrixf modelView = context.view.view;
+    Matrixf modelView = context.view.sceneToEye;
     modelView.translate(0.0f, 0.0f, plot.getPlotPlaneOffset()).scale(1.0f, 1.0f, plot.getHeightScale());
     Matrixf inverse = modelView;
     inverse.invert();
@@ -146,18 +171,31 @@ bool FieldProgram::use(const PlotItem& item, const PaintContext& context) const
     if (table) {
         context.colorTextures.bind(item.group, plot.getColorTableTextureHandle(0), *table);
     }
-    const auto channel = [](int value) { return static_cast<float>(value) / 255.0f; };
-    const vxgraphics3d::Color& color = plot.getColor();
     GlProgram::set(m_hasTable, table ? 1 : 0);
-    GlProgram::set(m_uniformColor, channel(color.red), channel(color.green), channel(color.blue), 1.0f);
+    GlProgram::set(m_uniformColor, plot.getColor());
     GlProgram::set(m_dataTex, plot.getDataTexMin(), plot.getDataTexMax());
     GlProgram::set(m_legendTex, plot.getLegendTexMin(), plot.getLegendTexMax());
     GlProgram::set(m_isReversed, plot.isReverseColorTable() ? 1 : 0);
     const auto [low, high] = restrictionOf(plot);
     GlProgram::set(m_restriction, low, high);
-    GlProgram::set(m_isLit, context.isLit && !context.view.isFlat ? 1 : 0);
+    GlProgram::set(m_opacity, context.opacity);
     GlProgram::set(m_shininess, plot.getShininess());
+    setLight(context);
     return true;
+}
+
+void FieldProgram::setLight(const PaintContext& context) const
+{
+    const Lighting& light = context.lighting;
+    const auto lights = [&](const auto& values) { return std::span(values).first(light.numLights); };
+    GlProgram::set(m_isLit, light.isUsed && !context.view.isFlat ? 1 : 0);
+    GlProgram::set(m_isPerspective, context.view.isPerspective ? 1 : 0);
+    GlProgram::set(m_ambient, std::span(&light.ambient, 1));
+    GlProgram::set(m_numLights, static_cast<int>(light.numLights));
+    GlProgram::set(m_lightPlaces, lights(light.places));
+    GlProgram::set(m_lightDiffuse, lights(light.diffuse));
+    GlProgram::set(m_lightSpecular, lights(light.specular));
+    GlProgram::set(m_lightCones, lights(light.cones));
 }
 
 } // namespace vxrenderer

@@ -19,6 +19,8 @@ public:
     bool use(const PlotItem& item, const PaintContext& context) const;
 
 private:
+    void setLight(const PaintContext& context) const;
+
     GlProgram m_program;
     GLint m_modelView;
     GLint m_projection;
@@ -29,8 +31,16 @@ private:
     GLint m_legendTex;
     GLint m_restriction;
     GLint m_isReversed;
-    GLint m_isLit;
+    GLint m_opacity;
     GLint m_shininess;
+    GLint m_isLit;
+    GLint m_isPerspective;
+    GLint m_ambient;
+    GLint m_numLights;
+    GLint m_lightPlaces;
+    GLint m_lightDiffuse;
+    GLint m_lightSpecular;
+    GLint m_lightCones;
 };
 
 } // namespace vxrenderer

@@ -80,21 +80,24 @@ void OverlayPainter::begin(int width, int height)
 
 void OverlayPainter::addQuad(const PixelRect& rect, const PixelRect& texture)
 {
-    const Vertex corners[4] = {{rect.left, rect.top, texture.left, texture.top},
-                               {rect.right, rect.top, texture.right, texture.top},
-                               {rect.right, rect.bottom, texture.right, texture.bottom},
-                               {rect.left, rect.bottom, texture.left, texture.bottom}};
-    for (const int corner : {0, 1, 2, 0, 2, 3}) {
+    addQuad({{{rect.left, rect.top, texture.left, texture.top},
+              {rect.right, rect.top, texture.right, texture.top},
+              {rect.right, rect.bottom, texture.right, texture.bottom},
+              {rect.left, rect.bottom, texture.left, texture.bottom}}});
+}
+
+void OverlayPainter::addQuad(const std::array<Vertex, 4>& corners)
+{
+    for (const std::size_t corner : {0u, 1u, 2u, 0u, 2u, 3u}) {
         m_quads.push_back(corners[corner]);
     }
 }
 
 void OverlayPainter::drawQuads(int mode, const Color& color)
 {
-    const auto channel = [](int value) { return static_cast<float>(value) / 255.0f; };
     m_program.use();
     GlProgram::set(m_mode, mode);
-    GlProgram::set(m_color, channel(color.red), channel(color.green), channel(color.blue), channel(color.alpha));
+    GlProgram::set(m_color, color);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(m_quads.size() * sizeof(Vertex)), m_quads.data(),
@@ -143,6 +146,31 @@ void OverlayPainter::bindAtlas(const GlyphAtlas& atlas)
 
 void OverlayPainter::drawText(const TextLayout& text, FontSet& fonts, float left, float top, const Color& color)
 {
+    drawGlyphs(text, fonts, color, [&](const PixelRect& rect, const PixelRect& texture) {
+        const float x = std::round(left + rect.left);
+        const float y = std::round(top + rect.top);
+        addQuad({x, y, x + rect.right - rect.left, y + rect.bottom - rect.top}, texture);
+    });
+}
+
+void OverlayPainter::drawTextUpwards(const TextLayout& text, FontSet& fonts, float left, float bottom,
+                                     const Color& color)
+{
+    drawGlyphs(text, fonts, color, [&](const PixelRect& rect, const PixelRect& texture) {
+        const float x = std::round(left + rect.top);
+        const float y = std::round(bottom - rect.left);
+        const float right = x + rect.bottom - rect.top;
+        const float upper = y - (rect.right - rect.left);
+        addQuad({{{x, y, texture.left, texture.top},
+                  {x, upper, texture.right, texture.top},
+                  {right, upper, texture.right, texture.bottom},
+                  {right, y, texture.left, texture.bottom}}});
+    });
+}
+
+template <class AddGlyph>
+void OverlayPainter::drawGlyphs(const TextLayout& text, FontSet& fonts, const Color& color, AddGlyph&& addGlyph)
+{
     std::map<const GlyphAtlas*, std::vector<Vertex>> byAtlas;
     for (const PlacedCharacter& placed : text.characters) {
         const FontSet::Found found = fonts.find(placed.character, placed.style);
@@ -150,15 +178,16 @@ void OverlayPainter::drawText(const TextLayout& text, FontSet& fonts, float left
         if (glyph.width == 0) {
             continue;
         }
-        const float x = std::round(left + placed.x) + static_cast<float>(glyph.left);
-        const float y = std::round(top + placed.y) - static_cast<float>(glyph.top);
+        const float x = std::round(placed.x) + static_cast<float>(glyph.left);
+        const float y = std::round(placed.y) - static_cast<float>(glyph.top);
         const auto s = static_cast<float>(glyph.atlasX);
         const auto t = static_cast<float>(glyph.atlasY);
         const auto width = static_cast<float>(glyph.width);
         const auto height = static_cast<float>(glyph.height);
-        m_quads.swap(byAtlas[&found.font->getAtlas()]);
-        addQuad({x, y, x + width, y + height}, {s, t, s + width, t + height});
-        m_quads.swap(byAtlas[&found.font->getAtlas()]);
+        std::vector<Vertex>& quads = byAtlas[&found.font->getAtlas()];
+        m_quads.swap(quads);
+        addGlyph(PixelRect{x, y, x + width, y + height}, PixelRect{s, t, s + width, t + height});
+        m_quads.swap(quads);
     }
     for (auto& [atlas, quads] : byAtlas) {
         bindAtlas(*atlas);

@@ -7,6 +7,7 @@
 #include "renderer/text/fontset.h"
 #include "renderer/text/textlayout.h"
 
+#include <array>
 #include <map>
 #include <vector>
 
@@ -35,6 +36,9 @@ public:
     void fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor);
     /// A text with its top left corner at a place; characters stand on whole pixels.
     void drawText(const TextLayout& text, FontSet& fonts, float left, float top, const vxgraphics3d::Color& color);
+    /// A text that runs from bottom to top; the corner is where its first line begins.
+    void drawTextUpwards(const TextLayout& text, FontSet& fonts, float left, float bottom,
+                         const vxgraphics3d::Color& color);
 
     /// Frees the pictures of all glyphs: the fonts they belong to are gone.
     void forgetFonts() { m_atlases.clear(); }
@@ -53,6 +57,10 @@ private:
     };
 
     void addQuad(const PixelRect& rect, const PixelRect& texture);
+    /// Corners in a circle, the first one at the top left of its texture.
+    void addQuad(const std::array<Vertex, 4>& corners);
+    template <class AddGlyph>
+    void drawGlyphs(const TextLayout& text, FontSet& fonts, const vxgraphics3d::Color& color, AddGlyph&& addGlyph);
     void drawQuads(int mode, const vxgraphics3d::Color& color);
     void bindAtlas(const GlyphAtlas& atlas);
 

@@ -15,6 +15,7 @@ namespace vxrenderer {
 
 class ColorTextures;
 class MeshCache;
+struct Lighting;
 struct View;
 
 /// A plot as it stands in the scene.
@@ -26,8 +27,9 @@ struct PlotItem {
 /// What all painters of a frame share.
 struct PaintContext {
     const View& view;
-    /// False for surfaces in the bare colours of their table.
-    bool isLit;
+    const Lighting& lighting;
+    /// From 0 to 1; below 1, what lies behind shines through.
+    float opacity;
     MeshCache& meshes;
     ColorTextures& colorTextures;
 };

@@ -1,10 +1,18 @@
 #include "renderer/scene/scenerenderer.h"
 
 #include "base/ustring.h"
+#include "graphics3d/cameras/axisorientationindicator.h"
+#include "graphics3d/cameras/icameratransforms.h"
+#include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/boundingbox.h"
+#include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "renderer/gl/target.h"
+#include "renderer/scene/lighting.h"
+#include "renderer/scene/lightmarkers.h"
 #include "renderer/scene/plotcollector.h"
+#include "renderer/scene/triad.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,55 +20,48 @@
 namespace vxrenderer {
 namespace {
 
-using vxgraphics3d::Color;
-using vxgraphics3d::SceneGraphRoot;
+using namespace vxgraphics3d;
 
-constexpr Color c_black = {0, 0, 0, 255};
-
-/// Size of the title's font beside that of all other text.
-constexpr float c_titleSize = 1.3f;
-/// Room around title, legends and scene, in units of the font size.
+/// Room around title, legends and scene, in units of the size of the legend's numbers.
 constexpr float c_margin = 0.8f;
-/// Gap between two legends, and the widest title of a legend, in units of the font size.
+/// Gap between two legends, and the widest title of a legend, in the same units.
 constexpr float c_legendGap = 1.6f;
 constexpr float c_legendTitleWidth = 13.0f;
 /// Parts of the picture that title and legends may take.
 constexpr float c_titlePart = 0.3f;
 constexpr float c_legendPart = 0.45f;
-/// Legends that would be lower than this, in units of the font size, are left out.
+/// Legends that would be lower than this, in units of the size of their numbers, are left out.
 constexpr float c_lowestLegend = 4.0f;
-
-bool haveSameFont(const PictureSettings& a, const PictureSettings& b)
-{
-    return a.fontName == b.fontName && a.fontSize == b.fontSize;
-}
+/// Widths of the lines of light markers, in pixels of the screen.
+constexpr float c_markerWidth = 1.5f;
+constexpr float c_selectedMarkerWidth = 3.5f;
+/// Font sets kept before those of former sizes are given up.
+constexpr std::size_t c_manyFontSets = 24;
 
 } // namespace
 
-SceneRenderer::SceneRenderer() : m_plotPainters(makePlotPainters())
+bool Frame::isFlat() const
 {
-    updateFonts();
+    return canvas.getRenderMode() == Canvas3dSettings::RenderMode2d;
 }
 
-void SceneRenderer::setSettings(const PictureSettings& settings)
+SceneRenderer::SceneRenderer() : m_plotPainters(makePlotPainters()) {}
+
+FontSet& SceneRenderer::fonts(const Frame& frame, TextItem item)
 {
-    const bool isSameFont = haveSameFont(m_settings, settings);
-    m_settings = settings;
-    if (!isSameFont) {
-        updateFonts();
-    }
+    const Appearance::Font& font = frame.appearance.font(item);
+    return m_fontSets.get(font.name, font.size);
 }
 
-void SceneRenderer::updateFonts()
+LegendStyle SceneRenderer::legendStyle(const Frame& frame)
 {
-    m_overlay.forgetFonts();
-    const auto titleSize = static_cast<int>(std::lround(c_titleSize * static_cast<float>(m_settings.fontSize)));
-    m_fonts = std::make_unique<FontSet>(m_fontLibrary, m_settings.fontName, m_settings.fontSize);
-    m_titleFonts = std::make_unique<FontSet>(m_fontLibrary, m_settings.fontName, titleSize);
+    return {fonts(frame, TextLegendTitle), fonts(frame, TextLegendTick), frame.appearance.textColor(),
+            frame.appearance.showMinMax};
 }
 
-void SceneRenderer::updateTitle(const SceneGraphRoot& root)
+void SceneRenderer::updateTitle(const Scene& scene)
 {
+    const SceneGraphRoot& root = *scene.getRoot();
     // Another group of plots may have counted its titles up to the same number.
     const bool isSameTree = m_titleRoot.lock().get() == &root && !root.isTreeStructureChanged(m_lastTreeStructure);
     if (isSameTree && !root.isTitleChanged(m_lastTitle)) {
@@ -74,19 +75,21 @@ void SceneRenderer::updateTitle(const SceneGraphRoot& root)
     root.resetTitleChanged(m_lastTitle);
 }
 
-SceneRenderer::Decoration SceneRenderer::layOut(const std::vector<PlotItem>& plots, int width, int height)
+SceneRenderer::Decoration SceneRenderer::decorate(const Frame& frame, const std::vector<PlotItem>& plots, int width,
+                                                  int height)
 {
     Decoration decoration;
-    const float em = m_fonts->fontSize();
+    LegendStyle style = legendStyle(frame);
+    const float em = style.tickFonts.fontSize();
     const auto fullWidth = static_cast<float>(width);
     const auto fullHeight = static_cast<float>(height);
     const float margin = std::round(c_margin * em);
     decoration.margin = margin;
 
     float top = margin;
-    if (m_settings.showTitle && !m_title.empty()) {
-        decoration.title =
-            layoutTitle(m_title, *m_titleFonts, {std::max(fullWidth - 2.0f * margin, 1.0f), c_titlePart * fullHeight});
+    if (frame.appearance.showTitle && !m_title.empty()) {
+        decoration.title = layoutTitle(m_title, fonts(frame, TextTitle),
+                                       {std::max(fullWidth - 2.0f * margin, 1.0f), c_titlePart * fullHeight});
         if (decoration.title.height <= c_titlePart * fullHeight) {
             top += std::ceil(decoration.title.height) + margin;
         } else {
@@ -97,12 +100,16 @@ SceneRenderer::Decoration SceneRenderer::layOut(const std::vector<PlotItem>& plo
     const float legendHeight = fullHeight - top - margin;
     const float legendRoom = c_legendPart * fullWidth;
     float legendWidth = 0.0f;
-    if (m_settings.showLegends && legendHeight >= c_lowestLegend * em) {
+    if (frame.appearance.showLegends && legendHeight >= c_lowestLegend * em) {
+        const auto numLegends =
+            std::ranges::count_if(plots, [](const PlotItem& item) { return hasColorLegend(*item.plot); });
+        // The title of a plot stands in the title of the picture. Beside a single legend that is enough.
+        style.showTitle = numLegends > 1 || decoration.title.numLines == 0;
         for (const PlotItem& item : plots) {
             if (!hasColorLegend(*item.plot)) {
                 continue;
             }
-            Legend legend(item, *m_fonts, std::min(c_legendTitleWidth * em, legendRoom), legendHeight);
+            Legend legend(item, style, std::min(c_legendTitleWidth * em, legendRoom), legendHeight);
             const float wider =
                 legendWidth + legend.getWidth() + (decoration.legends.empty() ? 0.0f : c_legendGap * em);
             if (wider > legendRoom) {
@@ -120,11 +127,26 @@ SceneRenderer::Decoration SceneRenderer::layOut(const std::vector<PlotItem>& plo
     return decoration;
 }
 
-void SceneRenderer::drawScene(const std::vector<PlotItem>& plots, const SceneGraphRoot& root, const Target& target)
+void SceneRenderer::setUpCamera(const Frame& frame, const PixelArea& area, int width, int height) const
 {
-    if (m_view.isEmpty()) {
+    if (area.isEmpty()) {
         return;
     }
+    frame.camera.setRenderArea(width, height, area.x, height - area.y - area.height, area.width, area.height);
+    frame.camera.setBoundingBox(frame.scene->getBoundingBox());
+}
+
+void SceneRenderer::layOut(const Frame& frame, int width, int height)
+{
+    if (frame.scene != nullptr) {
+        updateTitle(*frame.scene);
+        const Decoration decoration = decorate(frame, collectPlots(*frame.scene->getRoot()), width, height);
+        setUpCamera(frame, decoration.sceneArea, width, height);
+    }
+}
+
+void SceneRenderer::drawScene(const Frame& frame, std::vector<PlotItem>& plots, const Target& target)
+{
     const PixelArea& area = m_view.area;
     const int bottom = target.getHeight() - area.y - area.height;
     glViewport(area.x, bottom, area.width, area.height);
@@ -132,31 +154,123 @@ void SceneRenderer::drawScene(const std::vector<PlotItem>& plots, const SceneGra
     glEnable(GL_SCISSOR_TEST);
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
-    glDisable(GL_BLEND);
     // Surfaces lie a little deeper than lines at the same place.
     glEnable(GL_POLYGON_OFFSET_FILL);
     glPolygonOffset(1.0f, 1.0f);
-
-    const PaintContext context = {m_view, m_settings.isLit, m_meshes, m_colorTextures};
-    for (const PlotItem& item : plots) {
-        for (const auto& painter : m_plotPainters) {
-            if (painter->draws(item.plot->getType())) {
-                painter->draw(item, context);
-                break;
-            }
-        }
-    }
-    if (m_settings.showBox) {
-        m_boxPainter.draw(root.getBoundingBox(), m_view);
-    }
+    const Lighting lighting =
+        Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera);
+    drawPlots(plots, {m_view, lighting, frame.appearance.opacity, m_meshes, m_colorTextures});
     glDisable(GL_POLYGON_OFFSET_FILL);
+    if (frame.appearance.showLightMarkers && !m_view.isFlat) {
+        drawLightMarkers(frame);
+    }
+    glDisable(GL_SCISSOR_TEST);
 }
 
-void SceneRenderer::drawDecoration(const Decoration& decoration, const Target& target)
+void SceneRenderer::drawPlots(std::vector<PlotItem>& plots, const PaintContext& context)
+{
+    const auto drawAll = [&] {
+        for (const PlotItem& item : plots) {
+            for (const auto& painter : m_plotPainters) {
+                if (painter->draws(item.plot->getType())) {
+                    painter->draw(item, context);
+                    break;
+                }
+            }
+        }
+    };
+    if (context.opacity >= 1.0f) {
+        glDisable(GL_BLEND);
+        drawAll();
+        return;
+    }
+    if (context.opacity <= 0.0f) {
+        return;
+    }
+    // What lies farther off comes first: plots by their middles, and of each surface the side that faces away.
+    const auto depthOf = [&](const PlotItem& item) {
+        return (context.view.sceneToEye * item.plot->getBoundingBox().getCenter()).z;
+    };
+    std::stable_sort(plots.begin(), plots.end(),
+                     [&](const PlotItem& a, const PlotItem& b) { return depthOf(a) < depthOf(b); });
+    glEnable(GL_BLEND);
+    glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    glDepthMask(GL_FALSE);
+    glEnable(GL_CULL_FACE);
+    for (const GLenum culled : {GLenum{GL_FRONT}, GLenum{GL_BACK}}) {
+        glCullFace(culled);
+        drawAll();
+    }
+    glDisable(GL_CULL_FACE);
+    glDepthMask(GL_TRUE);
+    glDisable(GL_BLEND);
+}
+
+void SceneRenderer::drawLightMarkers(const Frame& frame)
+{
+    const Matrixf toClip = m_view.projection * m_view.sceneToEye;
+    const BoundingBox& box = frame.scene->getBoundingBox();
+    for (const LightMarker& marker : lightMarkers(*frame.scene->getSceneLight(), box, frame.camera)) {
+        const float width = marker.isSelected ? c_selectedMarkerWidth : c_markerWidth;
+        m_lines.draw(marker.lines, toClip, m_view.area.width, m_view.area.height, width * frame.appearance.scale,
+                     marker.color);
+    }
+}
+
+namespace {
+
+/// The triad of a frame in the lower left corner of the scene's area.
+struct PlacedTriad {
+    Triad triad;
+    float lineWidth;
+};
+
+PlacedTriad placeTriad(const Frame& frame, const View& view, float letterSize)
+{
+    const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
+    const float length = frame.appearance.millimetres(indicator.getAxisLength());
+    const float reach = length + 1.5f * letterSize;
+    const auto x = static_cast<float>(view.area.x) + reach;
+    const auto y = static_cast<float>(view.area.y + view.area.height) - reach;
+    return {Triad::of(frame.camera, x, y, length, 0.7f * letterSize),
+            std::max(1.0f, frame.appearance.millimetres(indicator.getLineWidth()))};
+}
+
+} // namespace
+
+void SceneRenderer::drawAxisOrientation(const Frame& frame, const Target& target)
+{
+    const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
+    const auto letterSize = static_cast<float>(frame.appearance.font(TextAxisOrientation).size);
+    const PlacedTriad placed = placeTriad(frame, m_view, letterSize);
+    glViewport(0, 0, target.getWidth(), target.getHeight());
+    glDisable(GL_DEPTH_TEST);
+    const Matrixf toClip = pixelsToClip(target.getWidth(), target.getHeight());
+    for (const Triad::Axis& axis : placed.triad.axes) {
+        m_lines.draw(axis.lines, toClip, target.getWidth(), target.getHeight(), placed.lineWidth,
+                     indicator.getColor(static_cast<AxisOrientationIndicator::Axis>(axis.index)));
+    }
+}
+
+void SceneRenderer::drawAxisLetters(const Frame& frame)
+{
+    const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
+    FontSet& letters = fonts(frame, TextAxisOrientation);
+    for (const Triad::Axis& axis : placeTriad(frame, m_view, letters.fontSize()).triad.axes) {
+        const std::string& label = indicator.getLabel(static_cast<AxisOrientationIndicator::Axis>(axis.index));
+        const TextLayout text = layoutTitle(parseTitle(vxbase::UString(label)), letters,
+                                            {static_cast<float>(m_view.area.width), letters.fontSize() * 2.0f});
+        m_overlay.drawText(text, letters, axis.letterX - 0.5f * text.width, axis.letterY - 0.5f * text.height,
+                           frame.appearance.textColor());
+    }
+}
+
+void SceneRenderer::drawDecoration(const Frame& frame, const Decoration& decoration, const Target& target)
 {
     m_overlay.begin(target.getWidth(), target.getHeight());
+    const LegendStyle style = legendStyle(frame);
     const float titleLeft = 0.5f * (static_cast<float>(target.getWidth()) - decoration.title.width);
-    m_overlay.drawText(decoration.title, *m_titleFonts, titleLeft, decoration.margin, c_black);
+    m_overlay.drawText(decoration.title, fonts(frame, TextTitle), titleLeft, decoration.margin, style.color);
 
     float headHeight = 0.0f;
     for (const Legend& legend : decoration.legends) {
@@ -164,30 +278,53 @@ void SceneRenderer::drawDecoration(const Decoration& decoration, const Target& t
     }
     float left = decoration.legendLeft;
     for (const Legend& legend : decoration.legends) {
-        legend.draw(m_overlay, m_colorTextures, *m_fonts, left, decoration.legendTop, headHeight);
-        left += legend.getWidth() + c_legendGap * m_fonts->fontSize();
+        legend.draw(m_overlay, m_colorTextures, style, left, decoration.legendTop, headHeight);
+        left += legend.getWidth() + c_legendGap * style.tickFonts.fontSize();
     }
 }
 
-void SceneRenderer::draw(const SceneGraphRoot* root, const Target& target)
+void SceneRenderer::dropUnused()
 {
-    const auto channel = [](int value) { return static_cast<float>(value) / 255.0f; };
-    const Color& background = m_settings.background;
-    target.beginScene(channel(background.red), channel(background.green), channel(background.blue));
-    m_view = View();
-    if (root != nullptr) {
-        const std::vector<PlotItem> plots = collectPlots(*root);
-        updateTitle(*root);
-        const Decoration decoration = layOut(plots, target.getWidth(), target.getHeight());
-        m_view = fitView(root->getBoundingBox(), decoration.sceneArea, m_settings.direction);
-        drawScene(plots, *root, target);
-        target.beginOverlay();
-        drawDecoration(decoration, target);
-    } else {
-        target.beginOverlay();
-    }
     m_meshes.dropLost();
     m_colorTextures.dropLost();
+    if (m_fontSets.getSize() > c_manyFontSets) {
+        m_overlay.forgetFonts();
+        m_fontSets.forget();
+    }
+}
+
+void SceneRenderer::draw(const Frame& frame, const Target& target)
+{
+    target.beginScene();
+    m_view = View();
+    m_background.draw(frame.appearance.backdrop, target.getWidth(), target.getHeight(), frame.appearance.scale);
+    if (frame.scene == nullptr) {
+        target.beginOverlay();
+        return;
+    }
+    updateTitle(*frame.scene);
+    std::vector<PlotItem> plots = collectPlots(*frame.scene->getRoot());
+    const Decoration decoration = decorate(frame, plots, target.getWidth(), target.getHeight());
+    const PixelArea& area = decoration.sceneArea;
+    const bool hasRoom = !area.isEmpty();
+    const bool showTriad = hasRoom && frame.appearance.showAxisOrientation && !frame.isFlat();
+    if (hasRoom) {
+        setUpCamera(frame, area, target.getWidth(), target.getHeight());
+        m_view = View::of(frame.camera, area, frame.isFlat());
+        if ((frame.canvas.getRenderMask() & RenderPlots) == 0) {
+            plots.clear();
+        }
+        drawScene(frame, plots, target);
+    }
+    if (showTriad) {
+        drawAxisOrientation(frame, target);
+    }
+    target.beginOverlay();
+    drawDecoration(frame, decoration, target);
+    if (showTriad) {
+        drawAxisLetters(frame);
+    }
+    dropUnused();
 }
 
 } // namespace vxrenderer

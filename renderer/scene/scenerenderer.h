@@ -1,16 +1,17 @@
 #pragma once
 
 #include "graphics3d/foundation/lastchangeid.h"
-#include "renderer/scene/boxpainter.h"
+#include "renderer/scene/appearance.h"
+#include "renderer/scene/backgroundpainter.h"
 #include "renderer/scene/colortextures.h"
 #include "renderer/scene/legend.h"
+#include "renderer/scene/linepainter.h"
 #include "renderer/scene/meshcache.h"
 #include "renderer/scene/overlaypainter.h"
-#include "renderer/scene/picturesettings.h"
 #include "renderer/scene/plotpainter.h"
 #include "renderer/scene/uploadcounts.h"
-#include "renderer/text/fontlibrary.h"
-#include "renderer/text/fontset.h"
+#include "renderer/scene/view.h"
+#include "renderer/text/fontsets.h"
 
 #include <boost/weak_ptr.hpp>
 
@@ -18,29 +19,44 @@
 #include <vector>
 
 namespace vxgraphics3d {
+class Canvas3dSettings;
+class ICameraTransforms;
+class Scene;
 class SceneGraphNode;
-class SceneGraphRoot;
+class SceneSettings;
 } // namespace vxgraphics3d
 
 namespace vxrenderer {
 
+struct Lighting;
 class Target;
 
-/// Draws a scene, with its title and legends, into a target.
+/// Everything that one picture is drawn from.
+struct Frame {
+    const vxgraphics3d::Canvas3dSettings& canvas;
+    /// Null for a picture of the background alone.
+    const vxgraphics3d::Scene* scene;
+    const vxgraphics3d::SceneSettings* sceneSettings;
+    /// A camera of the canvas, or a copy of one for a picture of another size.
+    vxgraphics3d::ICameraTransforms& camera;
+    const Appearance& appearance;
+
+    bool isFlat() const;
+};
+
+/// Draws a scene, with its title, legends and axes, into a target.
 ///
 /// It reads the scene anew in every frame, but copies to the graphics hardware only what the change numbers say has
-/// changed. Title and legends get their room first, and the scene what is left, so that nothing lies over the plots.
-/// Everything happens while the context is current.
+/// changed. Title and legends get their room first, and the camera what is left, so that nothing lies over the plots.
+/// Everything but `layOut` happens while the context is current.
 class SceneRenderer {
 public:
     SceneRenderer();
 
-    /// Settings that take effect with the next frame.
-    void setSettings(const PictureSettings& settings);
-    const PictureSettings& getSettings() const { return m_settings; }
-
+    /// Finds out which part of a picture is left for the scene, and tells the camera of it and of the box of the scene.
+    void layOut(const Frame& frame, int width, int height);
     /// Draws a frame. Without a scene only the background is drawn.
-    void draw(const vxgraphics3d::SceneGraphRoot* root, const Target& target);
+    void draw(const Frame& frame, const Target& target);
 
     const UploadCounts& getUploadCounts() const { return m_counts; }
     /// The view of the frame drawn last.
@@ -57,23 +73,28 @@ private:
         PixelArea sceneArea;
     };
 
-    void updateFonts();
-    void updateTitle(const vxgraphics3d::SceneGraphRoot& root);
-    Decoration layOut(const std::vector<PlotItem>& plots, int width, int height);
-    void drawScene(const std::vector<PlotItem>& plots, const vxgraphics3d::SceneGraphRoot& root, const Target& target);
-    void drawDecoration(const Decoration& decoration, const Target& target);
+    FontSet& fonts(const Frame& frame, vxgraphics3d::TextItem item);
+    LegendStyle legendStyle(const Frame& frame);
+    void updateTitle(const vxgraphics3d::Scene& scene);
+    Decoration decorate(const Frame& frame, const std::vector<PlotItem>& plots, int width, int height);
+    void setUpCamera(const Frame& frame, const PixelArea& area, int width, int height) const;
+    void drawScene(const Frame& frame, std::vector<PlotItem>& plots, const Target& target);
+    void drawPlots(std::vector<PlotItem>& plots, const PaintContext& context);
+    void drawLightMarkers(const Frame& frame);
+    void drawAxisOrientation(const Frame& frame, const Target& target);
+    void drawDecoration(const Frame& frame, const Decoration& decoration, const Target& target);
+    void drawAxisLetters(const Frame& frame);
+    void dropUnused();
 
     UploadCounts m_counts;
-    PictureSettings m_settings;
     View m_view;
     MeshCache m_meshes{m_counts};
     ColorTextures m_colorTextures{m_counts};
     std::vector<std::unique_ptr<PlotPainter>> m_plotPainters;
-    BoxPainter m_boxPainter;
+    BackgroundPainter m_background;
+    LinePainter m_lines;
     OverlayPainter m_overlay{m_counts};
-    FontLibrary m_fontLibrary;
-    std::unique_ptr<FontSet> m_fonts;
-    std::unique_ptr<FontSet> m_titleFonts;
+    FontSets m_fontSets;
     boost::weak_ptr<const vxgraphics3d::SceneGraphNode> m_titleRoot;
     int m_lastTreeStructure = 0;
     vxgraphics3d::LastChangeId m_lastTitle;

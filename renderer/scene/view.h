@@ -3,7 +3,7 @@
 #include "graphics3d/foundation/matrixf.h"
 
 namespace vxgraphics3d {
-class BoundingBox;
+class ICameraTransforms;
 }
 
 namespace vxrenderer {
@@ -14,30 +14,24 @@ struct PixelArea {
     int y = 0;
     int width = 0;
     int height = 0;
-};
-
-/// How the scene is seen, and where in the picture.
-struct View {
-    PixelArea area;
-    /// From the scene to the eye, which looks along its negative z axis.
-    vxgraphics3d::Matrixf view{vxgraphics3d::Matrixf::MatrixIdentity};
-    vxgraphics3d::Matrixf projection{vxgraphics3d::Matrixf::MatrixIdentity};
-    /// Looks straight down on a flat scene: without perspective, and colours are shown unlit.
-    bool isFlat = false;
 
     /// Whether there is anything to see.
-    bool isEmpty() const { return area.width < 1 || area.height < 1; }
+    bool isEmpty() const { return width < 1 || height < 1; }
 };
 
-/// Where a picture without a camera is taken from.
-struct ViewDirection {
-    /// Degrees around the z axis, from the x axis on, and above the xy plane.
-    double azimuth = -50.0;
-    double elevation = 30.0;
-};
+/// How a camera sees the scene in one frame, in the form that shaders take it.
+struct View {
+    PixelArea area;
+    /// From the world through the scales of the axes to the eye, which looks along its negative z axis. In a flat view
+    /// all depth is lost: what is drawn later lies above.
+    vxgraphics3d::Matrixf sceneToEye{vxgraphics3d::Matrixf::MatrixIdentity};
+    vxgraphics3d::Matrixf projection{vxgraphics3d::Matrixf::MatrixIdentity};
+    bool isPerspective = false;
+    bool isFlat = false;
 
-/// A view that shows a whole box, as large as it fits into the area. A box without height in z is seen flat from above.
-/// An empty box, or one that is not finite, gives an empty view.
-View fitView(const vxgraphics3d::BoundingBox& box, const PixelArea& area, const ViewDirection& direction);
+    /// The present view of a camera that draws to an area.
+    /// @param isFlat whether it is the camera of a 2D view
+    static View of(const vxgraphics3d::ICameraTransforms& camera, const PixelArea& area, bool isFlat);
+};
 
 } // namespace vxrenderer

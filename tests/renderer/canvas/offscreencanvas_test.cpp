@@ -1,5 +1,7 @@
 #include "renderer/canvas/offscreencanvas.h"
 
+#include "graphics3d/lights/directionlightsource.h"
+#include "graphics3d/lights/scenelight.h"
 #include "graphics3d/plots/colortable.h"
 #include "graphics3d/plots/scalar/scenegraphplotdomain3d.h"
 #include "graphics3d/scene/scene.h"
@@ -33,8 +35,8 @@ class OffscreenCanvasTest : public ::testing::Test {
 protected:
     OffscreenCanvasTest()
     {
-        m_canvas.setSettings(bareSettings());
-        m_canvas.setRoot(m_scene.root);
+        showFlat(m_canvas, m_scene);
+        showPlotsAlone(m_canvas);
     }
 
     /// The colour where a point of the scene is drawn.
@@ -64,8 +66,8 @@ TEST_F(OffscreenCanvasTest, showsEveryTexelWhereItsValueLies)
     const auto& texels = plot->getColorTable()->getRgba();
     for (const int samples : {1, 4}) {
         OffscreenCanvas canvas(300, 100, samples);
-        canvas.setSettings(bareSettings());
-        canvas.setRoot(m_scene.root);
+        showFlat(canvas, m_scene);
+        showPlotsAlone(canvas);
         const Picture picture = drawn(canvas);
         const auto [left, bottom] = pixelOf(canvas, {0.0f, 0.0f, 0.0f});
         const auto [right, top] = pixelOf(canvas, {1.0f, 1.0f, 0.0f});
@@ -119,7 +121,7 @@ TEST_F(OffscreenCanvasTest, changesOfLegendRestrictionAndHeightUploadNothing)
 
     plot->setLegendLimits(0.0, 2.0);
     EXPECT_EQ(quarters(drawn(m_canvas)), (std::vector<Rgb>{c_blue, c_blue, c_green, c_green}));
-    plot->setLegendLimits(0.25, 0.75);
+    plot->setLegendLimits(0.2, 0.8);
     EXPECT_EQ(quarters(drawn(m_canvas)), (std::vector<Rgb>{c_blue, c_green, c_yellow, c_red}));
     plot->setLegendLimits(0.0, 1.0);
     plot->setSymmetricColorTable(true);
@@ -211,7 +213,7 @@ TEST_F(OffscreenCanvasTest, leavesOutWhatIsNotActiveOrHasNothingToShow)
     EXPECT_EQ(count(), 0);
     m_scene.group->removeAllPlots();
     EXPECT_EQ(count(), 0);
-    m_canvas.setRoot(nullptr);
+    m_canvas.setScene(nullptr);
     EXPECT_EQ(count(), 0);
 }
 
@@ -238,9 +240,7 @@ TEST_F(OffscreenCanvasTest, stretchesAPlotAboutItsPlane)
     ridge.value = ridge.height;
     const auto plot = m_scene.add<SceneGraphPlotSurface3d>(1, ridge, c_fourColors);
     // From the front, the picture is a triangle: its tip stands where the highest point is said to be.
-    PictureSettings settings = bareSettings();
-    settings.direction = {-90.0, 0.0};
-    m_canvas.setSettings(settings);
+    lookFrom(m_canvas, -90.0, 0.0);
     const auto tip = [&](float z) {
         const Picture picture = drawn(m_canvas);
         const auto [x, y] = pixelOf(m_canvas, {0.5f, 0.0f, z});
@@ -266,16 +266,20 @@ TEST_F(OffscreenCanvasTest, lightsBothSidesByTheSlopeTowardsTheEye)
     GridRecord roof = flat;
     roof.height = [](double x, double) { return 0.5 * x; };
     roof.areNormalsDown = true;
-    PictureSettings settings = bareSettings();
-    settings.isLit = true;
-    settings.direction = {-90.0, 80.0};
-    m_canvas.setSettings(settings);
+    lookFrom(m_canvas, -90.0, 80.0);
     // Two plots keep the box the same, and only one is shown.
     const auto colorOf = [&](const GridRecord& record) {
         TestScene scene;
         const auto plot = scene.add<SceneGraphPlotDomain3d>(1, record, {0x808080});
         plot->setBoundingBox(vxgraphics3d::BoundingBox(0.0f, 1.0f, 0.0f, 1.0f, -0.5f, 0.5f));
-        m_canvas.setRoot(scene.root);
+        vxgraphics3d::SceneLight& light = *scene.scene->getSceneLight();
+        const int id = light.createDirectionLight();
+        static_cast<vxgraphics3d::DirectionLightSource*>(light.lightSource(id))
+            ->setFromDirection(true, Vector3f(-1.0f, 0.0f, 2.0f));
+        light.lightSource(id)->setIntensity(0.8f);
+        light.lightSource(id)->setActive(true);
+        light.setAmbientIntensity(0.2f);
+        m_canvas.setScene(scene.scene);
         return colorAt(drawn(m_canvas), {0.5f, 0.5f, static_cast<float>(record.height(0.5, 0.5))})[0];
     };
     const int level = colorOf(flat);
@@ -312,19 +316,17 @@ TEST_F(OffscreenCanvasTest, takesNoNewPlotForAnOldOneAtTheSameAddress)
         GridRecord record;
         record.value = [](double, double) { return 1.0; };
         scene.add<SceneGraphPlotSurface2d>(1, record, {color});
-        m_canvas.setRoot(scene.root);
+        m_canvas.setScene(scene.scene);
         EXPECT_EQ(colorAt(drawn(m_canvas), {0.5f, 0.5f, 0.0f}), (Rgb{color >> 16, color >> 8 & 255, color & 255}));
     }
 }
 
 TEST_F(OffscreenCanvasTest, keepsAClosedSceneAndLetsADisposedOneGo)
 {
-    auto scene = boost::make_shared<vxgraphics3d::Scene>();
-    scene->getRoot()->setChild(m_scene.group);
     m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_fourColors);
-    m_canvas.setScene(scene);
-    const boost::weak_ptr<vxgraphics3d::Scene> weak = scene;
-    scene.reset();
+    m_scene.root.reset();
+    const boost::weak_ptr<vxgraphics3d::Scene> weak = m_scene.scene;
+    m_scene.scene.reset();
     EXPECT_GT(drawn(m_canvas).countDrawn(0, 0, 200, 200), 20000);
     weak.lock()->dispose();
     EXPECT_EQ(drawn(m_canvas).countDrawn(0, 0, 200, 200), 0);
@@ -347,7 +349,7 @@ TEST_F(OffscreenCanvasTest, resizingKeepsSceneAndUploads)
     EXPECT_EQ(quarters(drawn(m_canvas)), (std::vector<Rgb>{c_blue, c_green, c_yellow, c_red}));
 }
 
-TEST(OffscreenCanvas, refusesSizesAndSettingsThatAreNone)
+TEST(OffscreenCanvas, refusesSizesThatAreNone)
 {
     EXPECT_THROW(OffscreenCanvas(0, 100, 1), std::invalid_argument);
     EXPECT_THROW(OffscreenCanvas(100, -1, 1), std::invalid_argument);
@@ -360,12 +362,6 @@ TEST(OffscreenCanvas, refusesSizesAndSettingsThatAreNone)
     canvas.draw();
     EXPECT_THROW(canvas.readImage(bytes.data(), 401), std::invalid_argument);
     EXPECT_NO_THROW(canvas.readImage(bytes.data(), 400));
-    PictureSettings settings;
-    settings.direction.azimuth = std::nan("");
-    EXPECT_THROW(canvas.setSettings(settings), std::invalid_argument);
-    settings = {};
-    settings.fontSize = 0;
-    EXPECT_THROW(canvas.setSettings(settings), std::invalid_argument);
 }
 
 TEST(OffscreenCanvas, anyNumberOfThemDrawSideBySide)
@@ -374,8 +370,8 @@ TEST(OffscreenCanvas, anyNumberOfThemDrawSideBySide)
     scene.add<SceneGraphPlotSurface2d>(1, {}, c_fourColors);
     OffscreenCanvas one(64, 64, 4);
     OffscreenCanvas two(64, 64, 4);
-    one.setRoot(scene.root);
-    two.setRoot(scene.root);
+    one.setScene(scene.scene);
+    two.setScene(scene.scene);
     EXPECT_EQ(drawn(one).bytes, drawn(two).bytes);
     EXPECT_EQ(drawn(one).bytes, drawn(two).bytes);
 }

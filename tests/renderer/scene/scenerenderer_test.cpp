@@ -1,7 +1,11 @@
 #include "renderer/scene/scenerenderer.h"
 
 #include "base/ustring.h"
+#include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/gridboxsettings.h"
+#include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/plots/colortable.h"
+#include "renderer/scene/view.h"
 #include "tests/renderer/support/testscene.h"
 
 #include <gtest/gtest.h>
@@ -20,9 +24,9 @@ class SceneRendererTest : public ::testing::Test {
 protected:
     SceneRendererTest()
     {
-        m_settings.showBox = false;
-        m_canvas.setSettings(m_settings);
-        m_canvas.setRoot(m_scene.root);
+        showFlat(m_canvas, m_scene);
+        m_canvas.getCanvas3dSettings()->getGridBoxSettingsPtr()->setShowGrid(false);
+        m_canvas.getSceneSettings()->setShowMinMax(false);
     }
 
     /// Rows of a column that have a colour.
@@ -43,7 +47,6 @@ protected:
         return area.x + area.width + 20;
     }
 
-    PictureSettings m_settings;
     OffscreenCanvas m_canvas{400, 300, 4};
     TestScene m_scene;
 };
@@ -53,12 +56,10 @@ TEST_F(SceneRendererTest, theSceneKeepsClearOfTitleAndLegends)
     m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors)->setTitle(TextFormat::plain, "A title");
     drawn(m_canvas);
     const PixelArea withBoth = m_canvas.getView().area;
-    m_settings.showTitle = false;
-    m_canvas.setSettings(m_settings);
+    m_canvas.getSceneSettings()->setShowTitle(false);
     drawn(m_canvas);
     const PixelArea withLegend = m_canvas.getView().area;
-    m_settings.showLegends = false;
-    m_canvas.setSettings(m_settings);
+    m_canvas.getSceneSettings()->setShowLegends(false);
     const Picture bare = drawn(m_canvas);
     const PixelArea alone = m_canvas.getView().area;
     EXPECT_LT(withLegend.y, withBoth.y);
@@ -66,9 +67,8 @@ TEST_F(SceneRendererTest, theSceneKeepsClearOfTitleAndLegends)
     // What is drawn beside the scene is what was asked for, and nothing else.
     EXPECT_EQ(bare.countDrawn(0, 0, 400, alone.y), 0);
     EXPECT_EQ(bare.countDrawn(alone.x + alone.width, 0, 400, 300), 0);
-    m_settings.showTitle = true;
-    m_settings.showLegends = true;
-    m_canvas.setSettings(m_settings);
+    m_canvas.getSceneSettings()->setShowTitle(true);
+    m_canvas.getSceneSettings()->setShowLegends(true);
     const Picture full = drawn(m_canvas);
     EXPECT_GT(full.countDrawn(0, 0, withBoth.x + withBoth.width, withBoth.y), 100) << "the title";
     EXPECT_GT(full.countDrawn(withBoth.x + withBoth.width, withBoth.y, 400, 300), 1000) << "the legend";

@@ -1,11 +1,16 @@
 #include "tests/renderer/support/testscene.h"
 
+#include "graphics3d/cameras/camera3d.h"
+#include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/plots/colortablehandler.h"
+#include "renderer/scene/appearance.h"
+#include "renderer/scene/view.h"
 
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <string>
 
 namespace vxrenderer {
@@ -96,6 +101,12 @@ int Picture::countDrawn(int left, int top, int right, int bottom) const
 
 Picture drawn(OffscreenCanvas& canvas)
 {
+    canvas.zoomExtents();
+    return drawnAsIs(canvas);
+}
+
+Picture drawnAsIs(OffscreenCanvas& canvas)
+{
     Picture picture;
     canvas.draw();
     picture.width = canvas.getWidth();
@@ -108,7 +119,7 @@ Picture drawn(OffscreenCanvas& canvas)
 std::array<double, 2> pixelOf(const OffscreenCanvas& canvas, const vxgraphics3d::Vector3f& point)
 {
     const View& view = canvas.getView();
-    const vxgraphics3d::Vector3f place = view.projection * (view.view * point);
+    const vxgraphics3d::Vector3f place = view.projection * (view.sceneToEye * point);
     return {view.area.x + 0.5 * (1.0 + static_cast<double>(place.x)) * view.area.width,
             view.area.y + 0.5 * (1.0 - static_cast<double>(place.y)) * view.area.height};
 }
@@ -128,14 +139,28 @@ void TestScene::addFilled(const boost::shared_ptr<vxgraphics3d::SceneGraphPlot>&
     plot->fillPlot(record.make());
 }
 
-PictureSettings bareSettings()
+void showPlotsAlone(OffscreenCanvas& canvas)
 {
-    PictureSettings settings;
-    settings.isLit = false;
-    settings.showTitle = false;
-    settings.showLegends = false;
-    settings.showBox = false;
-    return settings;
+    canvas.getCanvas3dSettings()->setRenderMask(RenderPlots | RenderBackground);
+}
+
+void showFlat(OffscreenCanvas& canvas, const TestScene& scene)
+{
+    canvas.getCanvas3dSettings()->setRenderMode(vxgraphics3d::Canvas3dSettings::RenderMode2d);
+    canvas.setScene(scene.scene);
+}
+
+void lookFrom(OffscreenCanvas& canvas, double azimuth, double elevation)
+{
+    const double a = azimuth * std::numbers::pi / 180.0;
+    const double e = elevation * std::numbers::pi / 180.0;
+    const auto vector = [](double x, double y, double z) {
+        return vxgraphics3d::Vector3f(static_cast<float>(x), static_cast<float>(y), static_cast<float>(z));
+    };
+    const auto settings = canvas.getCanvas3dSettings();
+    settings->setRenderMode(vxgraphics3d::Canvas3dSettings::RenderMode3d);
+    settings->camera3d()->lookAt({}, vector(-std::cos(a) * std::cos(e), -std::sin(a) * std::cos(e), -std::sin(e)),
+                                 vector(-std::cos(a) * std::sin(e), -std::sin(a) * std::sin(e), std::cos(e)));
 }
 
 } // namespace vxrenderer

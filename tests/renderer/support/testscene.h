@@ -4,9 +4,11 @@
 #include "graphics3d/plots/scalar/scenegraphplotsurface2d.h"
 #include "graphics3d/plots/scalar/scenegraphplotsurface3d.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
+#include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "renderer/canvas/offscreencanvas.h"
 
+#include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
 
 #include <array>
@@ -48,15 +50,18 @@ struct Picture {
 
 inline constexpr Rgb c_white = {255, 255, 255};
 
-/// Draws and reads back.
+/// Looks at the whole scene, draws and reads back.
 Picture drawn(OffscreenCanvas& canvas);
+/// The same with the camera as it is.
+Picture drawnAsIs(OffscreenCanvas& canvas);
 
 /// Where a point of the scene stands in the picture drawn last, in pixels from the top left corner.
 std::array<double, 2> pixelOf(const OffscreenCanvas& canvas, const vxgraphics3d::Vector3f& point);
 
 /// A scene with one group of plots.
 struct TestScene {
-    boost::shared_ptr<vxgraphics3d::SceneGraphRoot> root = vxgraphics3d::SceneGraphRoot::create();
+    boost::shared_ptr<vxgraphics3d::Scene> scene = boost::make_shared<vxgraphics3d::Scene>();
+    boost::shared_ptr<vxgraphics3d::SceneGraphRoot> root = scene->getRoot();
     boost::shared_ptr<vxgraphics3d::SceneGraphPlotGroup> group = vxgraphics3d::SceneGraphPlotGroup::create();
 
     TestScene() { root->setChild(group); }
@@ -75,7 +80,11 @@ private:
                    const std::vector<int>& colors);
 };
 
-/// Settings for exact colours: no light, and nothing but the plots.
-PictureSettings bareSettings();
+/// Lets a canvas show nothing of its scene but the plots.
+void showPlotsAlone(OffscreenCanvas& canvas);
+/// Lets a canvas show a scene flat, from above.
+void showFlat(OffscreenCanvas& canvas, const TestScene& scene);
+/// Turns a canvas to a 3D view from a direction, given by its azimuth and elevation in degrees.
+void lookFrom(OffscreenCanvas& canvas, double azimuth, double elevation);
 
 } // namespace vxrenderer

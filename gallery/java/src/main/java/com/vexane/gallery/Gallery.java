@@ -7,7 +7,7 @@ import com.vexane.gallery.pictures.TerrainColors;
 import com.vexane.gallery.pictures.TerrainFine;
 import com.vexane.gallery.pictures.TerrainFlat;
 import com.vexane.gallery.pictures.TerrainRaised;
-import com.vexane.renderer.OffscreenRenderer;
+import com.vexane.graphics3d.Canvas3dGlobalSettings;
 import java.io.IOException;
 import java.nio.file.Files;
 import java.nio.file.Path;
@@ -28,7 +28,8 @@ public final class Gallery {
 
     private static final int WIDTH = 1600;
     private static final int HEIGHT = 1000;
-    private static final int SAMPLES = 4;
+    /** Dots per inch of the pictures: texts of 12 points are 18 pixels high. */
+    private static final int RESOLUTION = 108;
 
     private Gallery() {}
 
@@ -63,22 +64,21 @@ public final class Gallery {
         Files.createDirectories(output);
         ContactSheet sheet = new ContactSheet();
         List<Path> files = new java.util.ArrayList<>();
-        try (OffscreenRenderer renderer = OffscreenRenderer.create(width, height, SAMPLES)) {
-            for (Picture picture : PICTURES) {
-                if (names.isEmpty() || names.contains(nameOf(picture))) {
-                    List<Studio.Shot> shots = shoot(picture, root, output, renderer);
-                    sheet.add(picture.getClass().getAnnotation(About.class), shots, source(picture, root));
-                    shots.forEach(shot -> files.add(shot.file()));
-                }
+        Canvas3dGlobalSettings.setOnScreenResolution(RESOLUTION);
+        for (Picture picture : PICTURES) {
+            if (names.isEmpty() || names.contains(nameOf(picture))) {
+                List<Studio.Shot> shots = shoot(picture, root, output, width, height);
+                sheet.add(picture.getClass().getAnnotation(About.class), shots, source(picture, root));
+                shots.forEach(shot -> files.add(shot.file()));
             }
         }
         sheet.write(output.resolve("index.html"));
         return files;
     }
 
-    private static List<Studio.Shot> shoot(Picture picture, Path root, Path output, OffscreenRenderer renderer)
+    private static List<Studio.Shot> shoot(Picture picture, Path root, Path output, int width, int height)
             throws IOException {
-        try (Studio studio = new Studio(root, output, picture.getClass(), renderer)) {
+        try (Studio studio = new Studio(root, output, picture.getClass(), width, height)) {
             picture.draw(studio);
             return studio.shots();
         }

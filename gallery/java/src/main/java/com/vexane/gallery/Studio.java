@@ -1,9 +1,17 @@
 package com.vexane.gallery;
 
+import com.vexane.graphics3d.AxisSetup;
+import com.vexane.graphics3d.Camera2d;
+import com.vexane.graphics3d.Camera3d;
+import com.vexane.graphics3d.Canvas3dSettings;
+import com.vexane.graphics3d.DirectionLightSource;
+import com.vexane.graphics3d.GridBoxSettings;
 import com.vexane.graphics3d.Scene;
 import com.vexane.graphics3d.SceneGraphPlot;
 import com.vexane.graphics3d.SceneGraphPlotGroup;
 import com.vexane.graphics3d.SceneGraphRoot;
+import com.vexane.graphics3d.SceneLight;
+import com.vexane.graphics3d.SceneSettings;
 import com.vexane.graphics3d.TextFormat;
 import com.vexane.renderer.OffscreenRenderer;
 import java.io.IOException;
@@ -13,10 +21,12 @@ import java.util.ArrayList;
 import java.util.List;
 import java.util.Locale;
 
-/** Where a program of the gallery draws: a scene with one plot group, the view, the folders of data and pictures. */
+/**
+ * Where a program of the gallery draws: a scene with one plot group and a light, a view of it with its settings, the
+ * folders of data and pictures.
+ */
 public final class Studio implements AutoCloseable {
-    private static final double[] DEFAULT_VIEW = {-50, 30};
-    private static final int FONT_SIZE = 18;
+    private static final int SAMPLES = 4;
 
     private final Path root;
     private final Path output;
@@ -24,6 +34,14 @@ public final class Studio implements AutoCloseable {
     private final OffscreenRenderer renderer;
     private final Scene scene = new Scene();
     private final SceneGraphPlotGroup group = new SceneGraphPlotGroup();
+    private final Canvas3dSettings canvas;
+    private final Camera3d camera3d;
+    private final Camera2d camera2d;
+    private final GridBoxSettings grid;
+    private final AxisSetup axes;
+    private final SceneSettings settings;
+    private final SceneLight light;
+    private final DirectionLightSource lamp;
     private final List<Shot> shots = new ArrayList<>();
 
     /**
@@ -34,18 +52,28 @@ public final class Studio implements AutoCloseable {
      */
     public record Shot(Path file, String caption) {}
 
-    Studio(Path root, Path output, Class<? extends Picture> picture, OffscreenRenderer renderer) {
+    Studio(Path root, Path output, Class<? extends Picture> picture, int width, int height) {
         this.root = root;
         this.output = output;
         this.name = picture.getSimpleName().replaceAll("(?<=[a-z0-9])(?=[A-Z])", "-").toLowerCase(Locale.ROOT);
-        this.renderer = renderer;
         try (SceneGraphRoot sceneRoot = SceneGraphRoot.connect(scene)) {
             sceneRoot.setChild(group);
         }
+        renderer = OffscreenRenderer.create(width, height, SAMPLES);
         renderer.setScene(scene);
-        renderer.setFont("default", FONT_SIZE);
-        renderer.setDecoration(true, true, true);
-        view(DEFAULT_VIEW[0], DEFAULT_VIEW[1]);
+        canvas = Canvas3dSettings.connect(renderer);
+        camera3d = Camera3d.connect(canvas);
+        camera2d = Camera2d.connect(canvas);
+        grid = GridBoxSettings.connect(canvas);
+        axes = AxisSetup.connect(canvas);
+        settings = SceneSettings.connect(renderer);
+        light = SceneLight.connect(scene);
+        lamp = DirectionLightSource.connect(light, light.createDirectionLight());
+        light.setAmbientIntensity(0.42f);
+        lamp.setFromDirection(false, -0.25f, 0.35f, 1);
+        lamp.setIntensity(0.62f);
+        lamp.setSpecularIntensity(0.3f);
+        lamp.setActive(true);
     }
 
     /**
@@ -93,25 +121,108 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Looks at the scene from another side.
+     * Looks at the whole scene in space.
      *
      * @param azimuth degrees around the z axis, from the x axis on
      * @param elevation degrees above the xy plane
      * @return this studio
      */
     public Studio view(double azimuth, double elevation) {
-        renderer.setViewDirection(azimuth, elevation);
+        canvas.setRenderMode(Canvas3dSettings.RenderMode.VIEW_3D);
+        renderer.viewFrom(azimuth, elevation);
         return this;
     }
 
     /**
-     * Leaves out the box around the scene.
+     * Looks at the whole scene from above, as at a map.
      *
      * @return this studio
      */
-    public Studio withoutBox() {
-        renderer.setDecoration(true, true, false);
+    public Studio flat() {
+        canvas.setRenderMode(Canvas3dSettings.RenderMode.VIEW_2D);
+        renderer.zoomExtents();
         return this;
+    }
+
+    /**
+     * The renderer that draws the pictures.
+     *
+     * @return the renderer
+     */
+    public OffscreenRenderer renderer() {
+        return renderer;
+    }
+
+    /**
+     * The settings of the view.
+     *
+     * @return a peer that the studio closes, like those of all that follow
+     */
+    public Canvas3dSettings canvas() {
+        return canvas;
+    }
+
+    /**
+     * The camera of the view in space.
+     *
+     * @return a peer
+     */
+    public Camera3d camera3d() {
+        return camera3d;
+    }
+
+    /**
+     * The camera of the flat view.
+     *
+     * @return a peer
+     */
+    public Camera2d camera2d() {
+        return camera2d;
+    }
+
+    /**
+     * The grid box of the view in space, the grid of the flat one.
+     *
+     * @return a peer
+     */
+    public GridBoxSettings grid() {
+        return grid;
+    }
+
+    /**
+     * The axes of the flat view.
+     *
+     * @return a peer
+     */
+    public AxisSetup axes() {
+        return axes;
+    }
+
+    /**
+     * How the view shows the scene.
+     *
+     * @return a peer
+     */
+    public SceneSettings settings() {
+        return settings;
+    }
+
+    /**
+     * The lights of the scene.
+     *
+     * @return a peer
+     */
+    public SceneLight light() {
+        return light;
+    }
+
+    /**
+     * The light that every studio has: it is locked to the camera and comes from above its left shoulder.
+     *
+     * @return a peer
+     */
+    public DirectionLightSource lamp() {
+        return lamp;
     }
 
     /**
@@ -130,10 +241,20 @@ public final class Studio implements AutoCloseable {
      * @throws IOException if it cannot be written
      */
     public void save(String caption) throws IOException {
-        Path file = output.resolve(name + (caption.isEmpty() ? "" : "-" + (shots.size() + 1)) + ".png");
         renderer.draw();
-        renderer.writePng(file);
+        renderer.writePng(file(caption));
+    }
+
+    /**
+     * Where the next picture of a program goes, for those that are not just drawn.
+     *
+     * @param caption what it shows
+     * @return the file to write
+     */
+    public Path file(String caption) {
+        Path file = output.resolve(name + (caption.isEmpty() ? "" : "-" + (shots.size() + 1)) + ".png");
         shots.add(new Shot(file, caption));
+        return file;
     }
 
     List<Shot> shots() {
@@ -143,11 +264,10 @@ public final class Studio implements AutoCloseable {
     /** Plots give their texture handles back when they leave the group, so they leave it here. */
     @Override
     public void close() {
-        renderer.setScene(null);
         if (!group.isClosed()) {
             group.removeAllPlots();
         }
-        group.close();
-        scene.close();
+        List.of(lamp, light, settings, axes, grid, camera2d, camera3d, canvas, renderer, group, scene)
+                .forEach(peer -> peer.close());
     }
 }

@@ -77,6 +77,35 @@ public final class PostDataGroup {
     }
 
     /**
+     * Sets the elements to the triangles of a grid, two in each cell, for points that lie row by row. Seen with columns
+     * to the right and rows upwards, their corners go round counterclockwise.
+     *
+     * @param columns points in a row, at least 2
+     * @param rows rows of points, at least 2
+     * @return this group
+     * @throws IllegalArgumentException if a number is below 2, or the points or triangles are more than an int counts
+     */
+    public PostDataGroup gridElements(int columns, int rows) {
+        long cells = (columns - 1L) * (rows - 1L);
+        if (columns < 2 || rows < 2 || (long) columns * rows > Integer.MAX_VALUE || 2 * cells > Integer.MAX_VALUE) {
+            throw new IllegalArgumentException("A grid of " + columns + " by " + rows + " points");
+        }
+        int[][] corners = new int[3][(int) (2 * cells)];
+        int next = 0;
+        for (int row = 0; row + 1 < rows; ++row) {
+            for (int point = row * columns; point + 1 < (row + 1) * columns; ++point, next += 2) {
+                corners[0][next] = point;
+                corners[1][next] = point + 1;
+                corners[2][next] = point + columns;
+                corners[0][next + 1] = point + 1;
+                corners[1][next + 1] = point + columns + 1;
+                corners[2][next + 1] = point + columns;
+            }
+        }
+        return elements(corners);
+    }
+
+    /**
      * Adds lines that are drawn with triangles, such as the outline of a slice.
      *
      * @param from the points where the lines begin, counted from 0 in this group

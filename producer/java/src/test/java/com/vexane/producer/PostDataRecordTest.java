@@ -259,4 +259,17 @@ class PostDataRecordTest {
         assertThrows(NativeException.class, () -> record.getCoordinates(0));
         assertThrows(NativeException.class, record::getBounds);
     }
+
+    @Test
+    void aGridHasTwoTrianglesInEachCell() {
+        double[] x = {0, 1, 2, 0, 1, 2};
+        double[] y = {0, 0, 0, 1, 1, 1};
+        try (PostDataObject record = recordOf(new PostDataGroup().coordinates(x, y).gridElements(3, 2))) {
+            int[][] corners = {{0, 1, 1, 2}, {1, 4, 2, 5}, {3, 3, 4, 4}};
+            assertArrayEquals(corners, record.getElements(0));
+        }
+        for (int[] size : new int[][] {{1, 2}, {2, 0}, {1 << 16, 1 << 15}, {1 << 16, 1 << 16}}) {
+            assertThrows(IllegalArgumentException.class, () -> new PostDataGroup().gridElements(size[0], size[1]));
+        }
+    }
 }

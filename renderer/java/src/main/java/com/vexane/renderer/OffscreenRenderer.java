@@ -1,9 +1,12 @@
 package com.vexane.renderer;
 
+import com.vexane.graphics3d.Camera3d;
+import com.vexane.graphics3d.Canvas3dSettings;
+import com.vexane.graphics3d.HardcopySettings;
 import com.vexane.graphics3d.NativeLibrary;
 import com.vexane.graphics3d.NativePeer;
+import com.vexane.graphics3d.RendererInfo;
 import com.vexane.graphics3d.Scene;
-import com.vexane.graphics3d.SceneGraphRoot;
 import java.io.IOException;
 import java.nio.ByteBuffer;
 import java.nio.file.Files;
@@ -11,15 +14,22 @@ import java.nio.file.Path;
 import java.util.Objects;
 
 /**
- * Draws scenes into pictures that no window shows. It needs neither a screen nor a graphics card.
+ * A view that draws scenes into pictures which no window shows. It needs neither a screen nor a graphics card.
  *
  * <pre>{@code
  * try (OffscreenRenderer renderer = OffscreenRenderer.create(1600, 1000, 4)) {
  *     renderer.setScene(scene);
+ *     renderer.viewFrom(-50, 30);
  *     renderer.draw();
  *     renderer.writePng(Path.of("plot.png"));
  * }
  * }</pre>
+ *
+ * <p>The view owns settings, to which peers connect: {@link Canvas3dSettings#connect Canvas3dSettings} and through them
+ * cameras, backgrounds, grid box, axes and fonts; {@link com.vexane.graphics3d.SceneSettings#connect SceneSettings} for
+ * title, legends, opacity and light switches while a scene is shown; {@link com.vexane.graphics3d.ContextData#connect
+ * ContextData} for what the drawing context turned out to be. A new view is white. Sizes of fonts are in points of the
+ * resolution of the screen, or of the export. The bits of the render mask are the {@code RENDER_} constants.
  *
  * <p>Buffers of the scene go to the graphics hardware once and again only when their plots are filled anew, so a picture
  * after a change of legend limits, colours or view costs the drawing alone. Plots, titles and legends are read when a
@@ -29,12 +39,48 @@ import java.util.Objects;
  * <p>While a scene is shown it is kept alive, also if its peer is closed.
  */
 public final class OffscreenRenderer extends NativePeer {
+    /** Bit of the render mask: plots. */
+    public static final int RENDER_PLOTS = 0x1;
+
+    /** Bit of the render mask: the grid box of a 3D view, the axes of a 2D view. */
+    public static final int RENDER_AXES = 0x2;
+
+    /** Bit of the render mask: the axis orientation indicator. */
+    public static final int RENDER_AXIS_ORIENTATION = 0x4;
+
+    /** Bit of the render mask: colour legends. */
+    public static final int RENDER_LEGENDS = 0x8;
+
+    /** Bit of the render mask: titles. */
+    public static final int RENDER_TITLE = 0x10;
+
+    /** Bit of the render mask: markers of lights. */
+    public static final int RENDER_LIGHT_MARKERS = 0x20;
+
+    /** Bit of the render mask: the background; without it, everything stands on black. */
+    public static final int RENDER_BACKGROUND = 0x40;
+
     private static final int BYTES_PER_PIXEL = 4;
 
     /** The image that Java sees: memory of the virtual machine, so that it outlives the renderer. */
     private ByteBuffer image;
 
     private OffscreenRenderer() {}
+
+    /**
+     * Makes a renderer whose pictures follow the multisample setting of {@link
+     * com.vexane.graphics3d.Canvas3dGlobalSettings}.
+     *
+     * @param width pixels in a row, at least 1
+     * @param height rows, at least 1
+     * @return the renderer
+     * @throws IllegalArgumentException if a number is below 1
+     * @throws com.vexane.graphics3d.NativeException as with a number of samples
+     * @throws UnsatisfiedLinkError if the native library or one that it needs cannot be loaded
+     */
+    public static OffscreenRenderer create(int width, int height) {
+        return make(width, height, 0);
+    }
 
     /**
      * Makes a renderer. That starts the graphics driver, which takes some 50 to 200 milliseconds.
@@ -49,9 +95,13 @@ public final class OffscreenRenderer extends NativePeer {
      * @throws UnsatisfiedLinkError if the native library or one that it needs cannot be loaded
      */
     public static OffscreenRenderer create(int width, int height, int samples) {
+        requirePositive(samples, "samples");
+        return make(width, height, samples);
+    }
+
+    private static OffscreenRenderer make(int width, int height, int samples) {
         requirePositive(width, "width");
         requirePositive(height, "height");
-        requirePositive(samples, "samples");
         NativeLibrary.require(OffscreenRenderer.class, "vxrenderer");
         OffscreenRenderer renderer = new OffscreenRenderer();
         createNative(renderer, width, height, samples);
@@ -66,16 +116,6 @@ public final class OffscreenRenderer extends NativePeer {
      */
     public void setScene(Scene scene) {
         setScene(this, scene == null ? null : requireOpen(scene, "scene"));
-    }
-
-    /**
-     * Shows the tree below a root from the next picture on.
-     *
-     * @param root the root, or null for an empty picture
-     * @throws IllegalStateException if the root is closed
-     */
-    public void setRoot(SceneGraphRoot root) {
-        setRoot(this, root == null ? null : requireOpen(root, "root"));
     }
 
     /**
@@ -120,60 +160,36 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Sets where a scene in space is seen from; -50 and 30 degrees at first. The scene always fills the picture. Scenes
-     * that are flat in z are seen from above, whatever the direction.
+     * Looks at the whole scene with the camera of the present render mode. A 3D camera keeps its direction and turns
+     * about the middle of the scene from now on. Without a scene, or with an empty one, nothing happens.
+     */
+    public void zoomExtents() {
+        zoomExtents(this);
+    }
+
+    /**
+     * Looks at the whole scene from a direction with the 3D camera, as {@link #zoomExtents()} does; z points upwards in
+     * the picture.
      *
      * @param azimuth degrees around the z axis, from the x axis on
-     * @param elevation degrees above the xy plane
+     * @param elevation degrees above the xy plane; at 90 and -90 the view goes along the z axis
      * @throws IllegalArgumentException if a number is not finite
      */
-    public void setViewDirection(double azimuth, double elevation) {
-        requireFinite(azimuth, "azimuth");
-        requireFinite(elevation, "elevation");
-        setViewDirection(this, azimuth, elevation);
+    public void viewFrom(double azimuth, double elevation) {
+        double a = Math.toRadians(requireFinite(azimuth, "azimuth"));
+        double e = Math.toRadians(requireFinite(elevation, "elevation"));
+        float[] towards = vector(-Math.cos(a) * Math.cos(e), -Math.sin(a) * Math.cos(e), -Math.sin(e));
+        // At right angles to the direction, so that it is as good a hint when that is vertical.
+        float[] up = vector(-Math.cos(a) * Math.sin(e), -Math.sin(a) * Math.sin(e), Math.cos(e));
+        try (Canvas3dSettings settings = Canvas3dSettings.connect(this);
+                Camera3d camera = Camera3d.connect(settings)) {
+            camera.setPosition(0, 0, 0, towards[0], towards[1], towards[2], up[0], up[1], up[2]);
+        }
+        zoomExtents();
     }
 
-    /**
-     * Sets whether surfaces in space are lit, as at first, or show the bare colours of their colour table.
-     *
-     * @param lit whether there is light
-     */
-    public void setLit(boolean lit) {
-        setLit(this, lit);
-    }
-
-    /**
-     * Sets what is shown beside the plots; at first all of it. What is not shown leaves its room to the plots.
-     *
-     * @param title the titles of plots and group, above
-     * @param legends the colour legends, to the right
-     * @param box the edges of the box around the scene
-     */
-    public void setDecoration(boolean title, boolean legends, boolean box) {
-        setDecoration(this, title, legends, box);
-    }
-
-    /**
-     * Sets the colour behind the scene; white at first.
-     *
-     * @param rgb 0xRRGGBB; higher bits are ignored
-     */
-    public void setBackground(int rgb) {
-        setBackground(this, rgb);
-    }
-
-    /**
-     * Sets the font of legends; titles take it somewhat larger. 14 pixels of the default font at first.
-     *
-     * @param name {@code "default"}, {@code "Serif"}, {@code "Monospaced"} or the like; unknown names give the default
-     * @param size height in pixels, at least 1; beyond 4 to 200 the nearest of these is taken
-     * @throws NullPointerException if the name is null
-     * @throws IllegalArgumentException if the size is below 1
-     */
-    public void setFont(String name, int size) {
-        Objects.requireNonNull(name, "name");
-        requirePositive(size, "size");
-        setFont(this, name, size);
+    private static float[] vector(double x, double y, double z) {
+        return new float[] {(float) x, (float) y, (float) z};
     }
 
     /**
@@ -213,30 +229,46 @@ public final class OffscreenRenderer extends NativePeer {
      * @throws com.vexane.graphics3d.NativeException if nothing was drawn since the size was given
      */
     public void writePng(Path file) throws IOException {
-        writePng(file, 0, "", "");
+        Objects.requireNonNull(file, "file");
+        Files.write(file, encodePng(this));
     }
 
     /**
-     * Writes the picture drawn last to a PNG file, with what is known about it.
+     * Draws the view at a size of its own and writes it to a PNG file, with the resolution, decorations, background and
+     * sizes of fonts that the settings ask for and their texts in the file. The view itself stays as it is.
      *
      * @param file the file, which is replaced
-     * @param dpi pixels per inch, from which the physical size follows; 0 for none
-     * @param title the text field Title; left out if empty
-     * @param creator the text field Creator; left out if empty
-     * @throws NullPointerException if file, title or creator is null
-     * @throws IllegalArgumentException if dpi is below 0 or above a million
+     * @param settings what is asked
+     * @param width pixels in a row, at least 1
+     * @param height rows, at least 1
+     * @throws NullPointerException if file or settings are null
+     * @throws IllegalStateException if the settings are closed
+     * @throws IllegalArgumentException if a number is below 1
      * @throws IOException if the file cannot be written
-     * @throws com.vexane.graphics3d.NativeException if nothing was drawn since the size was given
+     * @throws com.vexane.graphics3d.NativeException if the driver does not allow the size or reports a fault
      */
-    public void writePng(Path file, int dpi, String title, String creator) throws IOException {
+    public void writeHardcopy(Path file, HardcopySettings settings, int width, int height) throws IOException {
         Objects.requireNonNull(file, "file");
-        Objects.requireNonNull(title, "title");
-        Objects.requireNonNull(creator, "creator");
-        if (dpi < 0 || dpi > 1_000_000) {
-            throw new IllegalArgumentException("dpi: " + dpi);
-        }
-        Files.write(file, encodePng(this, dpi, title, creator));
+        requireOpen(settings, "settings");
+        requirePositive(width, "width");
+        requirePositive(height, "height");
+        Files.write(file, encodeHardcopy(this, settings, width, height));
     }
+
+    /**
+     * What the renderer of this process can do, or what it lacks. The first call may start the graphics driver.
+     *
+     * @return a new peer, which the caller closes
+     * @throws UnsatisfiedLinkError if the native library or one that it needs cannot be loaded
+     */
+    public static RendererInfo info() {
+        NativeLibrary.require(OffscreenRenderer.class, "vxrenderer");
+        RendererInfo info = new Info();
+        connectInfo(info);
+        return info;
+    }
+
+    private static final class Info extends RendererInfo {}
 
     /**
      * Who draws: the way to the drawing context, the driver and its version, for reports.
@@ -278,10 +310,11 @@ public final class OffscreenRenderer extends NativePeer {
         }
     }
 
-    private static void requireFinite(double value, String name) {
+    private static double requireFinite(double value, String name) {
         if (!Double.isFinite(value)) {
             throw new IllegalArgumentException(name + ": " + value);
         }
+        return value;
     }
 
     private static native void createNative(OffscreenRenderer peer, int width, int height, int samples);
@@ -290,7 +323,7 @@ public final class OffscreenRenderer extends NativePeer {
 
     private static native void setScene(OffscreenRenderer peer, Scene scene);
 
-    private static native void setRoot(OffscreenRenderer peer, SceneGraphRoot root);
+    private static native void zoomExtents(OffscreenRenderer peer);
 
     private static native void resize(OffscreenRenderer peer, int width, int height);
 
@@ -300,21 +333,16 @@ public final class OffscreenRenderer extends NativePeer {
 
     private static native int getSamples(OffscreenRenderer peer);
 
-    private static native void setViewDirection(OffscreenRenderer peer, double azimuth, double elevation);
-
-    private static native void setLit(OffscreenRenderer peer, boolean lit);
-
-    private static native void setDecoration(OffscreenRenderer peer, boolean title, boolean legends, boolean box);
-
-    private static native void setBackground(OffscreenRenderer peer, int rgb);
-
-    private static native void setFont(OffscreenRenderer peer, String name, int size);
-
     private static native void draw(OffscreenRenderer peer);
 
     private static native void readImage(OffscreenRenderer peer, ByteBuffer out);
 
-    private static native byte[] encodePng(OffscreenRenderer peer, int dpi, String title, String creator);
+    private static native byte[] encodePng(OffscreenRenderer peer);
+
+    private static native byte[] encodeHardcopy(
+            OffscreenRenderer peer, HardcopySettings settings, int width, int height);
+
+    private static native void connectInfo(RendererInfo info);
 
     private static native String describeDriver(OffscreenRenderer peer);
 

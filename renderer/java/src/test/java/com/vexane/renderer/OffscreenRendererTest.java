@@ -5,9 +5,17 @@ import static org.junit.jupiter.api.Assertions.assertNotSame;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.vexane.graphics3d.Camera3d;
+import com.vexane.graphics3d.Canvas3dGlobalSettings;
+import com.vexane.graphics3d.Canvas3dSettings;
+import com.vexane.graphics3d.Canvas3dSettings.RenderMode;
+import com.vexane.graphics3d.ContextData;
+import com.vexane.graphics3d.HardcopySettings;
 import com.vexane.graphics3d.NativeException;
+import com.vexane.graphics3d.NativePeer;
+import com.vexane.graphics3d.RendererInfo;
 import com.vexane.graphics3d.Scene;
-import com.vexane.graphics3d.SceneGraphRoot;
+import com.vexane.graphics3d.SceneSettings;
 import java.io.DataInputStream;
 import java.io.IOException;
 import java.nio.ByteBuffer;
@@ -15,13 +23,21 @@ import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
 import java.nio.file.NoSuchFileException;
 import java.nio.file.Path;
+import java.util.List;
 import java.util.Map;
 import java.util.TreeMap;
+import javax.imageio.ImageIO;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.api.io.TempDir;
 
 class OffscreenRendererTest {
     @TempDir Path folder;
+
+    private static void setBackground(OffscreenRenderer renderer, int color) {
+        try (Canvas3dSettings settings = Canvas3dSettings.connect(renderer)) {
+            settings.setBackgroundColor(RenderMode.VIEW_3D, color);
+        }
+    }
 
     /** The pixel as 0xRRGGBBAA. */
     private static int pixel(ByteBuffer image, int index) {
@@ -37,7 +53,7 @@ class OffscreenRendererTest {
             ByteBuffer image = renderer.image();
             assertEquals(40 * 30 * 4, image.remaining());
             assertEquals(0xffffffff, pixel(image, 0));
-            renderer.setBackground(0x204060);
+            setBackground(renderer, 0x204060);
             renderer.draw();
             assertEquals(0x204060ff, pixel(renderer.image(), 40 * 30 - 1));
         }
@@ -47,7 +63,7 @@ class OffscreenRendererTest {
     void theImageCanBeReadAfterTheRendererIsClosed() {
         ByteBuffer image;
         try (OffscreenRenderer renderer = OffscreenRenderer.create(500, 400, 1)) {
-            renderer.setBackground(0x112233);
+            setBackground(renderer, 0x112233);
             renderer.draw();
             image = renderer.image();
         }
@@ -74,11 +90,29 @@ class OffscreenRendererTest {
     }
 
     @Test
-    void writesPngFilesWithResolutionAndTexts() throws IOException {
+    void hardcopiesHaveTheirOwnSizeResolutionBackgroundAndTexts() throws IOException {
         Path file = folder.resolve("picture.png");
-        try (OffscreenRenderer renderer = OffscreenRenderer.create(20, 10, 1)) {
+        try (OffscreenRenderer renderer = OffscreenRenderer.create(40, 40, 1);
+                HardcopySettings settings = new HardcopySettings()) {
+            setBackground(renderer, 0xabcdef);
             renderer.draw();
-            renderer.writePng(file, 254, "Title of it", "Creator of it");
+            settings.setDpi(254);
+            settings.setFileTitle("Title of it");
+            settings.setFileCreator("Creator of it");
+            settings.setBackground(0x112233, 0x112233);
+            renderer.writeHardcopy(file, settings, 20, 10);
+            assertEquals(0x112233, ImageIO.read(file.toFile()).getRGB(3, 3) & 0xffffff);
+            assertEquals(0xabcdefff, pixel(renderer.image(), 0), "the view has changed");
+            settings.setUseCurrentBackground(true);
+            renderer.writeHardcopy(folder.resolve("other.png"), settings, 20, 10);
+            assertEquals(
+                    0xabcdef,
+                    ImageIO.read(folder.resolve("other.png").toFile()).getRGB(3, 3) & 0xffffff);
+            assertThrows(IllegalArgumentException.class, () -> renderer.writeHardcopy(file, settings, 0, 10));
+            assertThrows(NullPointerException.class, () -> renderer.writeHardcopy(file, null, 20, 10));
+            HardcopySettings closed = new HardcopySettings();
+            closed.close();
+            assertThrows(IllegalStateException.class, () -> renderer.writeHardcopy(file, closed, 20, 10));
         }
         Map<String, byte[]> chunks = new TreeMap<>();
         try (DataInputStream in = new DataInputStream(Files.newInputStream(file))) {
@@ -99,6 +133,50 @@ class OffscreenRendererTest {
         assertEquals(10000, ByteBuffer.wrap(chunks.get("pHYs")).getInt());
         assertEquals("Title\0Title of it", new String(chunks.get("tEXtT"), StandardCharsets.US_ASCII));
         assertEquals("Creator\0Creator of it", new String(chunks.get("tEXtC"), StandardCharsets.US_ASCII));
+    }
+
+    @Test
+    void peersOutliveTheViewThatTheyConnectedTo() {
+        Scene scene = new Scene();
+        OffscreenRenderer renderer = OffscreenRenderer.create(8, 8, 4);
+        assertThrows(NativeException.class, () -> SceneSettings.connect(renderer), "no scene is shown");
+        renderer.setScene(scene);
+        Canvas3dSettings canvas = Canvas3dSettings.connect(renderer);
+        Camera3d camera = Camera3d.connect(canvas);
+        SceneSettings settings = SceneSettings.connect(renderer);
+        ContextData context = ContextData.connect(renderer);
+        assertEquals(32, context.getColorBits());
+        assertEquals(renderer.getSamples(), context.getMultipleSamples());
+        renderer.setScene(null);
+        settings.setShowTitle(false);
+        renderer.close();
+        scene.close();
+        canvas.close();
+        settings.setGlobalOpacity(0.5f);
+        camera.zoomCenter(2);
+        assertEquals(0.5f, settings.getGlobalOpacity());
+        List.of(camera, settings, context).forEach(NativePeer::close);
+    }
+
+    @Test
+    void tellsWhatTheDriverCanDo() {
+        try (RendererInfo info = OffscreenRenderer.info();
+                RendererInfo.MonitorInfo monitor = RendererInfo.MonitorInfo.connect(info, 0)) {
+            assertEquals("OpenGL", info.getRendererType());
+            assertEquals(0, info.getNumberOfMissingRequirements());
+            assertEquals(8, info.getNumberOfLights());
+            assertTrue(info.getMaxTextureSize() >= 2048 && info.getNumberOfMultisampleSettings() > 0);
+            assertTrue(monitor.getOpenGlExtensions().size() > 10);
+            Canvas3dGlobalSettings.setAntiAliasing(true);
+            int samples = Canvas3dGlobalSettings.getMultisampleSetting();
+            assertEquals(info.getMultisampleSetting(0), samples);
+            try (OffscreenRenderer renderer = OffscreenRenderer.create(8, 8)) {
+                assertEquals(samples, renderer.getSamples());
+                Canvas3dGlobalSettings.setAntiAliasing(false);
+                renderer.draw();
+                assertEquals(1, renderer.getSamples());
+            }
+        }
     }
 
     @Test
@@ -123,12 +201,9 @@ class OffscreenRendererTest {
             assertTrue(renderer.getSamples() >= 1 && renderer.getSamples() <= 64);
             assertThrows(IllegalArgumentException.class, () -> renderer.resize(10, 0));
             assertThrows(NativeException.class, () -> renderer.resize(1 << 20, 1 << 20));
-            assertThrows(IllegalArgumentException.class, () -> renderer.setViewDirection(Double.NaN, 0.0));
-            assertThrows(IllegalArgumentException.class, () -> renderer.setFont("Serif", 0));
-            assertThrows(NullPointerException.class, () -> renderer.setFont(null, 10));
+            assertThrows(IllegalArgumentException.class, () -> renderer.viewFrom(Double.NaN, 0.0));
             renderer.draw();
             assertThrows(NullPointerException.class, () -> renderer.writePng(null));
-            assertThrows(IllegalArgumentException.class, () -> renderer.writePng(folder.resolve("a"), -1, "", ""));
             assertEquals(10 * 10 * 4, renderer.image().capacity());
         }
     }
@@ -136,23 +211,19 @@ class OffscreenRendererTest {
     @Test
     void closedPeersAreRefusedAndClosingTwiceIsNothing() {
         Scene scene = new Scene();
-        SceneGraphRoot root = SceneGraphRoot.connect(scene);
         OffscreenRenderer renderer = OffscreenRenderer.create(8, 8, 1);
-        renderer.setRoot(root);
-        root.close();
+        renderer.setScene(scene);
         scene.close();
         renderer.draw();
         assertThrows(IllegalStateException.class, () -> renderer.setScene(scene));
-        assertThrows(IllegalStateException.class, () -> renderer.setRoot(root));
         renderer.setScene(null);
-        renderer.setRoot(null);
         renderer.draw();
         renderer.close();
         renderer.close();
         assertThrows(NativeException.class, renderer::draw);
         assertThrows(NativeException.class, renderer::image);
         assertThrows(NativeException.class, renderer::getWidth);
-        assertThrows(NativeException.class, () -> renderer.setLit(true));
+        assertThrows(NativeException.class, renderer::zoomExtents);
     }
 
     @Test
@@ -165,7 +236,7 @@ class OffscreenRendererTest {
     @Test
     void drawsOnWhicheverThreadCalls() throws InterruptedException {
         try (OffscreenRenderer renderer = OffscreenRenderer.create(8, 8, 1)) {
-            renderer.setBackground(0xabcdef);
+            setBackground(renderer, 0xabcdef);
             Thread thread = new Thread(renderer::draw);
             thread.start();
             thread.join();

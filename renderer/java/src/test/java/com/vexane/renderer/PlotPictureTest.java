@@ -3,10 +3,12 @@ package com.vexane.renderer;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.Scene;
 import com.vexane.graphics3d.SceneGraphPlotGroup;
 import com.vexane.graphics3d.SceneGraphPlotSurface2d;
 import com.vexane.graphics3d.SceneGraphRoot;
+import com.vexane.graphics3d.SceneSettings;
 import com.vexane.graphics3d.TextFormat;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.PlotKind;
@@ -41,6 +43,15 @@ class PlotPictureTest {
         return image.getInt(4 * (row * renderer.getWidth() + column));
     }
 
+    /** Looks at the whole scene from above and draws the kinds of item of a render mask. */
+    private static void showFlat(OffscreenRenderer renderer, int mask) {
+        try (Canvas3dSettings settings = Canvas3dSettings.connect(renderer)) {
+            settings.setRenderMode(Canvas3dSettings.RenderMode.VIEW_2D);
+            settings.setRenderMask(mask);
+        }
+        renderer.zoomExtents();
+    }
+
     @Test
     void legendLimitsChangeThePictureAndCostNoUpload() {
         try (Scene scene = new Scene();
@@ -54,7 +65,7 @@ class PlotPictureTest {
             group.addPlot(plot);
             plot.fillPlot(record);
             renderer.setScene(scene);
-            renderer.setDecoration(false, false, false);
+            showFlat(renderer, OffscreenRenderer.RENDER_PLOTS | OffscreenRenderer.RENDER_BACKGROUND);
 
             renderer.draw();
             assertEquals(BLUE, pixelAt(renderer, 0.25, 0.5));
@@ -63,9 +74,6 @@ class PlotPictureTest {
             OffscreenRenderer.UploadCounts before = renderer.countUploads();
             assertEquals(1, before.meshes());
 
-            // A flat scene is seen from above, whatever the direction, and without light.
-            renderer.setViewDirection(77, 12);
-            renderer.setLit(false);
             plot.setLegendLimits(0, 8);
             renderer.draw();
             assertEquals(BLUE, pixelAt(renderer, 0.75, 0.5));
@@ -99,23 +107,23 @@ class PlotPictureTest {
             plot.fillPlot(record);
             group.setTitle(TextFormat.PLAIN, "A title");
             renderer.setScene(scene);
-            renderer.draw();
-            int withAll = countRed(renderer);
-            renderer.setFont("Serif", 28);
-            renderer.draw();
-            assertTrue(countRed(renderer) < withAll - 1000, "larger letters leave less room");
-            renderer.setFont("default", 14);
-            renderer.setDecoration(false, true, true);
-            renderer.draw();
-            int withLegend = countRed(renderer);
-            renderer.setDecoration(false, false, true);
-            renderer.draw();
-            int alone = countRed(renderer);
+            int bare = OffscreenRenderer.RENDER_PLOTS | OffscreenRenderer.RENDER_BACKGROUND;
+            int withLegends = bare | OffscreenRenderer.RENDER_LEGENDS;
+            int withAll = countRed(renderer, withLegends | OffscreenRenderer.RENDER_TITLE);
+            try (SceneSettings settings = SceneSettings.connect(renderer)) {
+                settings.setFont(SceneSettings.Text.TITLE, "Serif", 40);
+                int withLargeTitle = countRed(renderer, withLegends | OffscreenRenderer.RENDER_TITLE);
+                assertTrue(withLargeTitle < withAll, "a larger title leaves less room");
+            }
+            int withLegend = countRed(renderer, withLegends);
+            int alone = countRed(renderer, bare);
             assertTrue(withAll <= withLegend && withLegend < alone, withAll + " " + withLegend + " " + alone);
         }
     }
 
-    private static int countRed(OffscreenRenderer renderer) {
+    private static int countRed(OffscreenRenderer renderer, int mask) {
+        showFlat(renderer, mask);
+        renderer.draw();
         ByteBuffer image = renderer.image();
         int count = 0;
         while (image.hasRemaining()) {

@@ -31,7 +31,8 @@ public final class EarthRelief implements Picture {
             plot.setColorTable("relief", studio.colors("relief"), true);
             plot.setSymmetricColorTable(true);
             plot.fillPlot(record);
-            studio.withoutBox().show(plot, "Height in m");
+            studio.grid().setShowGrid(false);
+            studio.show(plot, "Height in m");
             studio.view(75, 20).save("Asia and the Indian Ocean.");
             studio.view(-75, 5).save("The Americas.");
         }

@@ -33,7 +33,7 @@ public final class TerrainColors implements Picture {
                         .build()) {
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(record);
-            studio.show(plot, "Height over " + Math.round(mean) + " m");
+            studio.show(plot, "Height over " + Math.round(mean) + " m").flat();
             studio.save("As filled: the legend runs over the data, so grey is not the mean.");
 
             plot.setSymmetricColorTable(true);

@@ -25,7 +25,7 @@ public final class TerrainFlat implements Picture {
             }
             plot.setColorTable("magma", studio.colors("magma"), true);
             plot.fillPlot(record);
-            studio.show(plot, "Slope, 1 being the steepest").save();
+            studio.show(plot, "Slope, 1 being the steepest").flat().save();
         }
     }
 }

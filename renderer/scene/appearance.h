@@ -1,0 +1,84 @@
+#pragma once
+
+#include "graphics3d/canvas/canvas3dbackgroundsettings.h"
+#include "graphics3d/foundation/color.h"
+#include "graphics3d/settings/textitem.h"
+
+#include <boost/shared_ptr.hpp>
+
+#include <array>
+#include <cstddef>
+#include <string>
+
+namespace vxgraphics3d {
+class Canvas3dSettings;
+class HardcopySettings;
+class SceneSettings;
+} // namespace vxgraphics3d
+
+namespace vxrenderer {
+
+/// Kinds of item that the renderer draws: the bits of a canvas' render mask.
+enum RenderMask : unsigned {
+    RenderPlots = 0x1,
+    RenderAxes = 0x2,
+    RenderAxisOrientation = 0x4,
+    RenderLegends = 0x8,
+    RenderTitle = 0x10,
+    RenderLightMarkers = 0x20,
+    RenderBackground = 0x40,
+};
+
+/// What a picture shows besides the plots, and in which fonts and colours.
+///
+/// The settings of canvas and scene say it for the screen. An export has settings of its own, which decide on the
+/// decorations and on the background and may give texts another size. The rest of the renderer draws from this record,
+/// so that it does not matter to it where a picture goes.
+struct Appearance {
+    struct Font {
+        std::string name;
+        /// Height in pixels.
+        int size = 12;
+    };
+
+    /// What lies behind everything.
+    struct Backdrop {
+        vxgraphics3d::Color top;
+        vxgraphics3d::Color bottom;
+        /// Stands over the colours, or null.
+        boost::shared_ptr<const vxgraphics3d::CanvasBackgroundImage> image;
+        vxgraphics3d::Canvas3dBackgroundSettings::HorizontalPosition horizontal{};
+        vxgraphics3d::Canvas3dBackgroundSettings::VerticalPosition vertical{};
+    };
+
+    /// Pixels of the picture in an inch.
+    float pixelsPerInch = 72.0f;
+    /// Size of the picture beside the one on the screen, which images and thin lines follow.
+    float scale = 1.0f;
+    std::array<Font, vxgraphics3d::c_numTextItems> fonts;
+    Backdrop backdrop;
+    bool showTitle = false;
+    bool showLegends = false;
+    bool showMinMax = false;
+    bool showAxes = false;
+    bool showAxisOrientation = false;
+    bool showLightMarkers = false;
+    /// What the whole scene lets through, from 0, invisible, to 1, opaque.
+    float opacity = 1.0f;
+
+    const Font& font(vxgraphics3d::TextItem item) const { return fonts[static_cast<std::size_t>(item)]; }
+    /// Pixels of a length in millimetres.
+    float millimetres(float length) const { return length * pixelsPerInch / 25.4f; }
+    /// Black or white, whichever can be read on the background.
+    vxgraphics3d::Color textColor() const;
+
+    /// The picture on the screen.
+    /// @param scene the settings of the scene in this view, or null without a scene
+    static Appearance onScreen(const vxgraphics3d::Canvas3dSettings& canvas, const vxgraphics3d::SceneSettings* scene);
+    /// The picture of an export. Marks at legends, opacity and light markers are those of the screen.
+    static Appearance ofHardcopy(const vxgraphics3d::HardcopySettings& hardcopy,
+                                 const vxgraphics3d::Canvas3dSettings& canvas,
+                                 const vxgraphics3d::SceneSettings* scene);
+};
+
+} // namespace vxrenderer
