@@ -30,7 +30,9 @@ VX_NATIVE(jint, CanvasBackgroundImage, setImage)
         if (width < 0 || height < 0 || static_cast<std::int64_t>(width) * height != source.length()) {
             return -1;
         }
-        Image image(width, height, Image::Rgba, scale);
+        // A picture without pixels is one clear pixel, however long its other side is said to be.
+        const bool empty = source.length() == 0;
+        Image image(empty ? 1 : width, empty ? 1 : height, Image::Rgba, scale);
         std::transform(source.get(), source.get() + source.length(), image.data(), Image::wordFromArgb);
         return background.setImage(image);
     });

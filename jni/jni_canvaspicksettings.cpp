@@ -20,7 +20,7 @@ bool isPickTarget(int target)
 
 VX_NATIVE(void, CanvasPickSettings, setPickMask)(JNIEnv* env, jclass, jobject self, jint mask)
 {
-    native(env, {"setPickMask(%d)", mask}, [&] { peer<CanvasPickSettings>(env, self).pickMask = mask; });
+    native(env, "setPickMask", [&] { peer<CanvasPickSettings>(env, self).pickMask = mask; });
 }
 
 VX_NATIVE(jint, CanvasPickSettings, getPickMask)(JNIEnv* env, jclass, jobject self)
@@ -30,7 +30,7 @@ VX_NATIVE(jint, CanvasPickSettings, getPickMask)(JNIEnv* env, jclass, jobject se
 
 VX_NATIVE(void, CanvasPickSettings, setPickTarget)(JNIEnv* env, jclass, jobject self, jint target)
 {
-    native(env, {"setPickTarget(%d)", target}, [&] {
+    native(env, "setPickTarget", [&] {
         auto& settings = peer<CanvasPickSettings>(env, self);
         if (isPickTarget(target)) {
             settings.pickTarget = target;

@@ -12,13 +12,12 @@ VX_NATIVE(jboolean, ErrorLog, nSetOutputFile)(JNIEnv* env, jclass, jstring path)
 
 VX_NATIVE(void, ErrorLog, nFlushAfterEachMessage)(JNIEnv* env, jclass, jboolean flush)
 {
-    native(env, {"nFlushAfterEachMessage(%s)", trueFalse(flush)},
-           [&] { ErrorLog::getInstance()->flushAfterEachMessage(flush); });
+    native(env, "nFlushAfterEachMessage", [&] { ErrorLog::getInstance()->flushAfterEachMessage(flush); });
 }
 
 VX_NATIVE(void, ErrorLog, nSetReportLevel)(JNIEnv* env, jclass, jint level)
 {
-    native(env, {"nSetReportLevel(%d)", level}, [&] {
+    native(env, "nSetReportLevel", [&] {
         // Every number that is no level silences the log.
         const bool isLevel =
             level >= static_cast<int>(ErrorLog::Level::error) && level <= static_cast<int>(ErrorLog::Level::debug);
@@ -28,5 +27,5 @@ VX_NATIVE(void, ErrorLog, nSetReportLevel)(JNIEnv* env, jclass, jint level)
 
 VX_NATIVE(void, ErrorLog, nSetActive)(JNIEnv* env, jclass, jboolean active)
 {
-    native(env, {"nSetActive(%s)", trueFalse(active)}, [&] { ErrorLog::getInstance()->setActive(active); });
+    native(env, "nSetActive", [&] { ErrorLog::getInstance()->setActive(active); });
 }

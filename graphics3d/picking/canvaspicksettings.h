@@ -1,10 +1,12 @@
 #pragma once
 
+#include "base/export.h"
+
 namespace vxgraphics3d {
 
 /// What a pick on a canvas looks for. A plain pair that the renderer's canvas owns; Java sets it, the leaves of the
 /// scene tree read it.
-struct CanvasPickSettings {
+struct VX_API CanvasPickSettings {
     /// Kinds of thing that a pick can find.
     enum PickTarget : int {
         PickNone = 0,

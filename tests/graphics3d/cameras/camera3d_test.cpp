@@ -123,18 +123,38 @@ TEST(Camera3d, aNewCameraHasItsDefaultsAndIdentityViews)
     EXPECT_NEAR(camera.getHorizontalFOV(), 20.0f, 1e-5f);
     EXPECT_NEAR(camera.getVerticalFOV(), 20.0f, 1e-5f);
     EXPECT_EQ(camera.getOrthographicSize(), 10.0f);
+    EXPECT_EQ(camera.getViewingScale(), 1.0f);
+    EXPECT_EQ(camera.getRelativeViewOffsetX(), 0.0f);
+    EXPECT_EQ(camera.getRelativeViewOffsetY(), 0.0f);
     EXPECT_EQ(camera.getNearClippingPlane(), 0.1f);
     EXPECT_EQ(camera.getFarClippingPlane(), 100.0f);
     EXPECT_EQ(camera.getRenderAreaWidth(), 100);
     EXPECT_EQ(camera.getRenderAreaHeight(), 100);
+    EXPECT_EQ(camera.getRenderAreaLeft(), 0);
+    EXPECT_EQ(camera.getRenderAreaBottom(), 0);
+    EXPECT_FALSE(camera.getSceneBoundingBox().isValid());
+    EXPECT_FALSE(camera.hasViewScaleTransform());
+    for (const float scale : {camera.getAxisViewScaleX(), camera.getAxisViewScaleY(), camera.getAxisViewScaleZ()}) {
+        EXPECT_EQ(scale, 1.0f);
+    }
+    for (const Vector3f& origin : {camera.getRotationPoint(), camera.getPosition(), camera.getActualPosition()}) {
+        EXPECT_EQ(origin, Vector3f());
+    }
+    EXPECT_EQ(camera.getRight(), Vector3f(1.0f, 0.0f, 0.0f));
+    EXPECT_EQ(camera.getUp(), Vector3f(0.0f, 1.0f, 0.0f));
     EXPECT_EQ(camera.getForward(), Vector3f(0.0f, 0.0f, 1.0f));
+    EXPECT_EQ(camera.getLookAtLength(), 1.0f);
     EXPECT_EQ(camera.getDepthOrder(), (std::array{2, 0, 1}));
     EXPECT_EQ(camera.getDollySpeedScale(), 1.0f);
     const Matrixf identity(Matrixf::MatrixIdentity);
-    EXPECT_EQ(camera.getViewTransform(), identity);
-    EXPECT_EQ(camera.getRotationTransform(), identity);
+    for (const Matrixf* matrix : {&camera.getViewTransform(), &camera.getInvViewTransform(),
+                                  &camera.getRotationTransform(), &camera.getInvRotationTransform(),
+                                  &camera.getAxisViewScaleTransform(), &camera.getInvAxisViewScaleTransform()}) {
+        EXPECT_EQ(*matrix, identity);
+    }
     // 2 * 0.1 * tan(20 degrees); the projection is there from the start.
     EXPECT_NEAR(camera.getNearWidth(), 0.07279405f, 1e-8f);
+    EXPECT_EQ(camera.getNearHeight(), camera.getNearWidth());
     EXPECT_NEAR(camera.getProjectionTransformRH().get(1, 1), 2.7474774f, 1e-6f);
     EXPECT_NEAR(camera.getActualHorizontalFOV(), 0.34906585f, 1e-7f);
 }
@@ -750,7 +770,12 @@ TEST(Camera3d, moveToBoundingBoxShowsTheWholeBoxInAreasOfAnyShape)
         camera.setRelativeViewOffset(0.0f, 0.0f);
         const int width = random.integer(1, 64);
         camera.setRenderArea(2000, 2000, 0, 0, width, random.integer(1, 64));
-        const BoundingBox focus = random.box(random.vector(5.0f), 4.0f);
+        BoundingBox focus = random.box(random.vector(5.0f), 4.0f);
+        // Every third box is flat, every third a line.
+        const int numFlat = random.integer(0, 2);
+        for (int i = 0, axis = random.integer(0, 2); i < numFlat; ++i, ++axis) {
+            focus.scale(axis % 3 == 0 ? 0.0f : 1.0f, axis % 3 == 1 ? 0.0f : 1.0f, axis % 3 == 2 ? 0.0f : 1.0f);
+        }
         BoundingBox scene = random.box(random.vector(5.0f), 9.0f);
         scene.merge(focus);
         camera.moveToBoundingBox(focus, scene, 0.0f);
@@ -812,17 +837,19 @@ TEST(Camera3d, moveToBoundingBoxFitsTheSphereWhereTheSettingsSaySo)
     settings.setZoomToExtentBehaviour(Canvas3dGlobalSettings::ZoomToExtentTight);
 }
 
-TEST(Camera3d, aFarPlaneTenMillionTimesTheNearOneStillMapsPixels)
+TEST(Camera3d, pixelsGoThroughTheDeepestClippingRangeAndBack)
 {
+    // The near plane keeps a thousandth of the radius, so with the eye on the sphere the far one is at 2000 times it.
     Camera3d camera;
-    camera.lookAt({0.0f, 0.0f, 1.0f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
+    camera.lookAt({0.0f, 0.0f, 1.5e6f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
     camera.setBoundingBox(BoundingBox(-1e6f, 1e6f, 0.0f, 0.0f, 0.0f, 0.0f));
-    camera.lookAt({0.0f, 0.0f, 1500.0f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
-    const Vector3f near = camera.screenToWorld(75, 25, -1.0f);
-    const Vector3f screen = camera.worldToScreenRH(near);
-    EXPECT_NEAR(screen.x, 75.0f, 1e-2f);
-    EXPECT_NEAR(screen.y, 25.0f, 1e-2f);
-    EXPECT_NEAR(screen.z, -1.0f, 1e-3f);
+    EXPECT_NEAR(camera.getFarClippingPlane() / camera.getNearClippingPlane(), 2000.0f, 0.1f);
+    for (const float depth : {-1.0f, 0.0f, 0.999f}) {
+        const Vector3f screen = camera.worldToScreenRH(camera.screenToWorld(75, 25, depth));
+        EXPECT_NEAR(screen.x, 75.0f, 1e-2f);
+        EXPECT_NEAR(screen.y, 25.0f, 1e-2f);
+        EXPECT_NEAR(screen.z, depth, 1e-3f);
+    }
 }
 
 TEST(Camera3d, degenerateInputGivesNumbersOrNotButNeverFails)

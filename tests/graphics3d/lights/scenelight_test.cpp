@@ -42,6 +42,11 @@ TEST(SceneLight, startsWithItsDefaults)
     EXPECT_EQ(direction.getColor(), (Color{255, 255, 255, 255}));
     EXPECT_FALSE(direction.isActive() || direction.isLockedToCamera() || direction.isSelected() ||
                  direction.isMarkerVisible());
+    EXPECT_EQ(direction.getId(), 1);
+    EXPECT_EQ(direction.getName(), "");
+    EXPECT_EQ(direction.getIntensity(), 0.0f);
+    EXPECT_EQ(direction.getAmbientIntensity(), 0.0f);
+    EXPECT_EQ(direction.getSpecularIntensity(), 0.0f);
     EXPECT_EQ(direction.getEffectiveIntensity(), 0.0f);
     EXPECT_EQ(sourceOf<PointLightSource>(light, light.createPointLight()).getPosition(), Vector3f());
     const SpotLightSource& spot = sourceOf<SpotLightSource>(light, light.createSpotLight());

@@ -169,5 +169,56 @@ TEST(SelectionFrustrum, ofA2dCameraHoldsWhatTheRectangleShowsAtAnyDepth)
     EXPECT_FALSE(SelectionFrustrum(camera, 50, 100, 50, 60).isInside(camera.screenToWorld(50, 80, 0.0f))) << "no width";
 }
 
+/// Places of world points in a pixel, as fractions of its side from the lower left corner: well inside or well outside.
+struct Place {
+    float x;
+    float y;
+    bool inside;
+};
+
+constexpr Place c_places[] = {{0.5f, 0.5f, true},  {0.1f, 0.9f, true},   {0.9f, 0.1f, true},  {-0.1f, 0.5f, false},
+                              {1.1f, 0.5f, false}, {0.5f, -0.1f, false}, {0.5f, 1.1f, false}, {1.5f, 1.5f, false}};
+
+/// Picks with rectangles of one pixel among points between the world points of their corners.
+void expectPixelsHoldTheirPoints(const ICameraTransforms& camera)
+{
+    const int left = camera.getRenderAreaLeft();
+    const int bottom = camera.getRenderAreaBottom();
+    const int right = left + camera.getRenderAreaWidth() - 1;
+    const int top = bottom + camera.getRenderAreaHeight() - 1;
+    const int pixels[][2] = {{left, bottom}, {right, bottom}, {left, top}, {right, top}, {(left + right) / 2, bottom}};
+    for (const auto& [x, y] : pixels) {
+        const SelectionFrustrum frustrum(camera, x, y + 1, x + 1, y);
+        for (const float depth : {-0.9f, 0.25f, 0.9f}) {
+            const Vector3f origin = camera.screenToWorld(x, y, depth);
+            const Vector3f toRight = camera.screenToWorld(x + 1, y, depth) - origin;
+            const Vector3f upwards = camera.screenToWorld(x, y + 1, depth) - origin;
+            for (const Place& place : c_places) {
+                EXPECT_EQ(frustrum.isInside(origin + toRight * place.x + upwards * place.y), place.inside)
+                    << "pixel " << x << ' ' << y << ", depth " << depth << ", at " << place.x << ' ' << place.y;
+            }
+        }
+    }
+}
+
+TEST(SelectionFrustrum, ofOnePixelHoldsWhatThatPixelShowsAlsoInAnAreaOfOnePixel)
+{
+    for (const auto& [width, height] : {std::pair(400, 200), std::pair(1, 1), std::pair(1, 300)}) {
+        SCOPED_TRACE(std::to_string(width) + " by " + std::to_string(height));
+        for (const auto type : {Camera3d::ProjectionPerspective, Camera3d::ProjectionOrthographic}) {
+            Camera3d camera;
+            camera.setRenderArea(500, 300, 10, 20, width, height);
+            camera.lookAt({6.0f, 5.0f, 4.0f}, {-6.0f, -5.0f, -4.0f}, {0.0f, 0.0f, 1.0f});
+            camera.setProjectionType(type);
+            camera.setBoundingBox(BoundingBox(-3.0f, 3.0f, -3.0f, 3.0f, -3.0f, 3.0f));
+            expectPixelsHoldTheirPoints(camera);
+        }
+        Camera2d flat;
+        flat.setRenderArea(500, 300, 10, 20, width, height);
+        ASSERT_TRUE(flat.setViewLimits(-2.0f, 2.5f, -1.0f, 1.5f, false));
+        expectPixelsHoldTheirPoints(flat);
+    }
+}
+
 } // namespace
 } // namespace vxgraphics3d

@@ -114,6 +114,9 @@ class CanvasSettingsTest {
             assertThrows(NativeException.class,
                     () -> Natives.call(CanvasBackgroundImage.class, "setImage", image, null, 1, 1, 1.0f));
             image.setImage(new int[0], 0, 0, 1.0f);
+            // No pixels, and sides that would take gigabytes.
+            image.setImage(new int[0], 0, Integer.MAX_VALUE, 1.0f);
+            image.setImage(new int[0], Integer.MAX_VALUE, 0, 1.0f);
             image.resetImage();
             image.resetImage();
         }
