@@ -25,8 +25,10 @@ namespace {
 
 using namespace vxgraphics3d;
 
-/// Beyond the margin of the settings, room for what stands around the box of a scene, as a part of its radius.
-constexpr float c_roomForAxes = 0.2f;
+/// Beyond the margin of the settings, room for the labels around the box of a scene, in units of their font size.
+constexpr float c_labelRoom = 4.0f;
+/// What the labels may take of the picture at most.
+constexpr float c_largestLabelPart = 0.5f;
 
 void requireNoFault()
 {
@@ -151,13 +153,18 @@ void OffscreenCanvas::zoomExtents()
     }
     const BoundingBox box = m_sceneView->getScene()->getBoundingBox();
     const Appearance look = appearance();
-    m_renderer->layOut(frameOf(m_settings->cameraTransforms(), look), getWidth(), getHeight());
+    const PixelArea area = m_renderer->layOut(frameOf(m_settings->cameraTransforms(), look), getWidth(), getHeight());
+    if (area.isEmpty()) {
+        return;
+    }
     if (m_settings->getRenderMode() == Canvas3dSettings::RenderMode2d) {
         m_settings->camera2d()->moveToBoundingBox(box, Canvas3dGlobalSettings::getInstance()->getZoomToExtentMargin());
     } else {
         Camera3d& camera = *m_settings->camera3d();
         camera.setRotationPoint(box.getCenter());
-        camera.moveToBoundingBox(box, box, look.showAxes ? c_roomForAxes : 0.0f);
+        const float room = c_labelRoom * static_cast<float>(look.font(TextAxisTick).size);
+        const float part = 2.0f * room / static_cast<float>(std::min(area.width, area.height));
+        camera.moveToBoundingBox(box, box, look.showAxes ? std::min(part, c_largestLabelPart) : 0.0f);
     }
 }
 

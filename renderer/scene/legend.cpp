@@ -54,14 +54,16 @@ Legend::Legend(const PlotItem& item, const LegendStyle& style, float maxWidth, f
         m_title = layoutOf(title, style.titleFonts, {maxWidth, c_titlePart * height});
     }
     if (style.showMinMax) {
-        m_largest = layoutOf(UString(c_upwards + numberText(plot.getValueMax())), style.tickFonts, line);
-        m_smallest = layoutOf(UString(c_downwards + numberText(plot.getValueMin())), style.tickFonts, line);
+        m_largest =
+            layoutOf(UString(c_upwards + numberText(plot.getValueMax(), style.minMaxDigits)), style.tickFonts, line);
+        m_smallest =
+            layoutOf(UString(c_downwards + numberText(plot.getValueMin(), style.minMaxDigits)), style.tickFonts, line);
     }
     const float barRoom = height - m_title.height - m_largest.height - m_smallest.height - (c_headGap + 1.5f) * em;
     const int count = std::clamp(static_cast<int>(barRoom / (c_tickDistance * em)), 1, c_mostTicks);
-    const Ticks ticks = makeTicks(m_scale.lowerValue, m_scale.upperValue, count);
+    const Ticks ticks = makeTicks(m_scale.lowerValue, m_scale.upperValue, count, style.tickDigits);
     if (ticks.exponent != 0) {
-        m_power = layoutOf(UString("\\times10^{" + numberText(ticks.exponent) + "}"), style.tickFonts, line);
+        m_power = layoutOf(UString("\\times" + powerText(ticks.exponent)), style.tickFonts, line);
     }
     float labelWidth = 0.0f;
     for (const Ticks::Tick& tick : ticks.ticks) {

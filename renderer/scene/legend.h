@@ -18,6 +18,9 @@ struct LegendStyle {
     /// Whether the smallest and the largest value of the data stand below and above the bar.
     bool showMinMax = false;
     bool showTitle = true;
+    /// Significant digits of numbers beside the bar, and of the smallest and the largest value.
+    int tickDigits = 5;
+    int minMaxDigits = 5;
 };
 
 /// The colour legend of one plot: a bar with the part of the colour table that is in use, round values beside it, and

@@ -8,6 +8,7 @@
 #include "graphics3d/foundation/boundingbox.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/gl/target.h"
 #include "renderer/scene/lighting.h"
 #include "renderer/scene/lightmarkers.h"
@@ -16,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace vxrenderer {
 namespace {
@@ -38,12 +40,18 @@ constexpr float c_selectedMarkerWidth = 3.5f;
 /// Font sets kept before those of former sizes are given up.
 constexpr std::size_t c_manyFontSets = 24;
 
-} // namespace
-
-bool Frame::isFlat() const
+/// Whether what is drawn covers what is there by its alpha, or replaces it.
+void setBlending(bool on)
 {
-    return canvas.getRenderMode() == Canvas3dSettings::RenderMode2d;
+    if (on) {
+        glEnable(GL_BLEND);
+        glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    } else {
+        glDisable(GL_BLEND);
+    }
 }
+
+} // namespace
 
 SceneRenderer::SceneRenderer() : m_plotPainters(makePlotPainters()) {}
 
@@ -53,10 +61,20 @@ FontSet& SceneRenderer::fonts(const Frame& frame, TextItem item)
     return m_fontSets.get(font.name, font.size);
 }
 
+AxisFonts SceneRenderer::axisFonts(const Frame& frame)
+{
+    return {fonts(frame, TextAxisTitle), fonts(frame, TextAxisTick)};
+}
+
 LegendStyle SceneRenderer::legendStyle(const Frame& frame)
 {
-    return {fonts(frame, TextLegendTitle), fonts(frame, TextLegendTick), frame.appearance.textColor(),
-            frame.appearance.showMinMax};
+    const Canvas3dGlobalSettings& settings = *Canvas3dGlobalSettings::getInstance();
+    return {.titleFonts = fonts(frame, TextLegendTitle),
+            .tickFonts = fonts(frame, TextLegendTick),
+            .color = frame.appearance.textColor(),
+            .showMinMax = frame.appearance.showMinMax,
+            .tickDigits = settings.getLegendTickPrecision(),
+            .minMaxDigits = settings.getLegendMinMaxPrecision()};
 }
 
 void SceneRenderer::updateTitle(const Scene& scene)
@@ -122,9 +140,31 @@ SceneRenderer::Decoration SceneRenderer::decorate(const Frame& frame, const std:
     decoration.legendTop = top;
     decoration.legendLeft = fullWidth - margin - std::ceil(legendWidth);
     const float right = decoration.legends.empty() ? fullWidth - margin : decoration.legendLeft - margin;
-    decoration.sceneArea = {static_cast<int>(margin), static_cast<int>(top), static_cast<int>(right - margin),
-                            static_cast<int>(fullHeight - top - margin)};
+    decoration.rest = {static_cast<int>(margin), static_cast<int>(top), static_cast<int>(right - margin),
+                       static_cast<int>(fullHeight - top - margin)};
     return decoration;
+}
+
+PixelArea SceneRenderer::sceneArea(const Frame& frame, const Decoration& decoration, int width, int height)
+{
+    PixelArea area = decoration.rest;
+    if (frame.appearance.showAxes) {
+        const AxisMargins margins = axisMargins(frame, width, height, axisFonts(frame));
+        const auto pixels = [](float length) { return static_cast<int>(std::ceil(length)); };
+        area.x += pixels(margins.left);
+        area.y += pixels(margins.top);
+        area.width -= pixels(margins.left) + pixels(margins.right);
+        area.height -= pixels(margins.top) + pixels(margins.bottom);
+    }
+    if (frame.isPolar()) {
+        // A round view has its centre in the middle of a square.
+        const int side = std::min(area.width, area.height);
+        area.x += (area.width - side) / 2;
+        area.y += (area.height - side) / 2;
+        area.width = side;
+        area.height = side;
+    }
+    return area;
 }
 
 void SceneRenderer::setUpCamera(const Frame& frame, const PixelArea& area, int width, int height) const
@@ -136,22 +176,31 @@ void SceneRenderer::setUpCamera(const Frame& frame, const PixelArea& area, int w
     frame.camera.setBoundingBox(frame.scene->getBoundingBox());
 }
 
-void SceneRenderer::layOut(const Frame& frame, int width, int height)
+PixelArea SceneRenderer::layOut(const Frame& frame, int width, int height)
 {
-    if (frame.scene != nullptr) {
-        updateTitle(*frame.scene);
-        const Decoration decoration = decorate(frame, collectPlots(*frame.scene->getRoot()), width, height);
-        setUpCamera(frame, decoration.sceneArea, width, height);
+    if (frame.scene == nullptr) {
+        return {};
     }
+    updateTitle(*frame.scene);
+    const Decoration decoration = decorate(frame, collectPlots(*frame.scene->getRoot()), width, height);
+    const PixelArea area = sceneArea(frame, decoration, width, height);
+    setUpCamera(frame, area, width, height);
+    return area;
 }
 
-void SceneRenderer::drawScene(const Frame& frame, std::vector<PlotItem>& plots, const Target& target)
+void SceneRenderer::drawScene(const Frame& frame, std::vector<PlotItem>& plots, const AxesPainter* axes,
+                              const Target& target)
 {
     const PixelArea& area = m_view.area;
     const int bottom = target.getHeight() - area.y - area.height;
     glViewport(area.x, bottom, area.width, area.height);
     glScissor(area.x, bottom, area.width, area.height);
     glEnable(GL_SCISSOR_TEST);
+    if (axes != nullptr) {
+        setBlending(true);
+        axes->drawBehind(m_lines);
+        setBlending(false);
+    }
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
     // Surfaces lie a little deeper than lines at the same place.
@@ -165,6 +214,7 @@ void SceneRenderer::drawScene(const Frame& frame, std::vector<PlotItem>& plots, 
         drawLightMarkers(frame);
     }
     glDisable(GL_SCISSOR_TEST);
+    glDisable(GL_DEPTH_TEST);
 }
 
 void SceneRenderer::drawPlots(std::vector<PlotItem>& plots, const PaintContext& context)
@@ -180,7 +230,6 @@ void SceneRenderer::drawPlots(std::vector<PlotItem>& plots, const PaintContext& 
         }
     };
     if (context.opacity >= 1.0f) {
-        glDisable(GL_BLEND);
         drawAll();
         return;
     }
@@ -193,8 +242,7 @@ void SceneRenderer::drawPlots(std::vector<PlotItem>& plots, const PaintContext& 
     };
     std::stable_sort(plots.begin(), plots.end(),
                      [&](const PlotItem& a, const PlotItem& b) { return depthOf(a) < depthOf(b); });
-    glEnable(GL_BLEND);
-    glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    setBlending(true);
     glDepthMask(GL_FALSE);
     glEnable(GL_CULL_FACE);
     for (const GLenum culled : {GLenum{GL_FRONT}, GLenum{GL_BACK}}) {
@@ -203,7 +251,7 @@ void SceneRenderer::drawPlots(std::vector<PlotItem>& plots, const PaintContext& 
     }
     glDisable(GL_CULL_FACE);
     glDepthMask(GL_TRUE);
-    glDisable(GL_BLEND);
+    setBlending(false);
 }
 
 void SceneRenderer::drawLightMarkers(const Frame& frame)
@@ -243,8 +291,6 @@ void SceneRenderer::drawAxisOrientation(const Frame& frame, const Target& target
     const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
     const auto letterSize = static_cast<float>(frame.appearance.font(TextAxisOrientation).size);
     const PlacedTriad placed = placeTriad(frame, m_view, letterSize);
-    glViewport(0, 0, target.getWidth(), target.getHeight());
-    glDisable(GL_DEPTH_TEST);
     const Matrixf toClip = pixelsToClip(target.getWidth(), target.getHeight());
     for (const Triad::Axis& axis : placed.triad.axes) {
         m_lines.draw(axis.lines, toClip, target.getWidth(), target.getHeight(), placed.lineWidth,
@@ -303,24 +349,38 @@ void SceneRenderer::draw(const Frame& frame, const Target& target)
         return;
     }
     updateTitle(*frame.scene);
+    const int width = target.getWidth();
+    const int height = target.getHeight();
     std::vector<PlotItem> plots = collectPlots(*frame.scene->getRoot());
-    const Decoration decoration = decorate(frame, plots, target.getWidth(), target.getHeight());
-    const PixelArea& area = decoration.sceneArea;
-    const bool hasRoom = !area.isEmpty();
-    const bool showTriad = hasRoom && frame.appearance.showAxisOrientation && !frame.isFlat();
-    if (hasRoom) {
-        setUpCamera(frame, area, target.getWidth(), target.getHeight());
+    const Decoration decoration = decorate(frame, plots, width, height);
+    const PixelArea area = sceneArea(frame, decoration, width, height);
+    const bool showTriad = !area.isEmpty() && frame.appearance.showAxisOrientation && !frame.isFlat();
+    std::optional<AxesPainter> axes;
+    if (!area.isEmpty()) {
+        setUpCamera(frame, area, width, height);
         m_view = View::of(frame.camera, area, frame.isFlat());
+        if (frame.appearance.showAxes) {
+            axes.emplace(frame, m_view, width, height, axisFonts(frame));
+        }
         if ((frame.canvas.getRenderMask() & RenderPlots) == 0) {
             plots.clear();
         }
-        drawScene(frame, plots, target);
+        drawScene(frame, plots, axes ? &*axes : nullptr, target);
+    }
+    glViewport(0, 0, width, height);
+    setBlending(true);
+    if (axes) {
+        axes->drawAround(m_lines);
     }
     if (showTriad) {
         drawAxisOrientation(frame, target);
     }
+    setBlending(false);
     target.beginOverlay();
     drawDecoration(frame, decoration, target);
+    if (axes) {
+        axes->drawLabels(m_overlay, axisFonts(frame));
+    }
     if (showTriad) {
         drawAxisLetters(frame);
     }

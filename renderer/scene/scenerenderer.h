@@ -1,9 +1,10 @@
 #pragma once
 
 #include "graphics3d/foundation/lastchangeid.h"
-#include "renderer/scene/appearance.h"
+#include "renderer/scene/axespainter.h"
 #include "renderer/scene/backgroundpainter.h"
 #include "renderer/scene/colortextures.h"
+#include "renderer/scene/frame.h"
 #include "renderer/scene/legend.h"
 #include "renderer/scene/linepainter.h"
 #include "renderer/scene/meshcache.h"
@@ -19,30 +20,13 @@
 #include <vector>
 
 namespace vxgraphics3d {
-class Canvas3dSettings;
-class ICameraTransforms;
-class Scene;
 class SceneGraphNode;
-class SceneSettings;
-} // namespace vxgraphics3d
+}
 
 namespace vxrenderer {
 
 struct Lighting;
 class Target;
-
-/// Everything that one picture is drawn from.
-struct Frame {
-    const vxgraphics3d::Canvas3dSettings& canvas;
-    /// Null for a picture of the background alone.
-    const vxgraphics3d::Scene* scene;
-    const vxgraphics3d::SceneSettings* sceneSettings;
-    /// A camera of the canvas, or a copy of one for a picture of another size.
-    vxgraphics3d::ICameraTransforms& camera;
-    const Appearance& appearance;
-
-    bool isFlat() const;
-};
 
 /// Draws a scene, with its title, legends and axes, into a target.
 ///
@@ -54,7 +38,8 @@ public:
     SceneRenderer();
 
     /// Finds out which part of a picture is left for the scene, and tells the camera of it and of the box of the scene.
-    void layOut(const Frame& frame, int width, int height);
+    /// @return that part; empty without a scene
+    PixelArea layOut(const Frame& frame, int width, int height);
     /// Draws a frame. Without a scene only the background is drawn.
     void draw(const Frame& frame, const Target& target);
 
@@ -70,15 +55,18 @@ private:
         float margin = 0.0f;
         float legendTop = 0.0f;
         float legendLeft = 0.0f;
-        PixelArea sceneArea;
+        /// What is left for the scene and its axes.
+        PixelArea rest;
     };
 
     FontSet& fonts(const Frame& frame, vxgraphics3d::TextItem item);
+    AxisFonts axisFonts(const Frame& frame);
     LegendStyle legendStyle(const Frame& frame);
     void updateTitle(const vxgraphics3d::Scene& scene);
     Decoration decorate(const Frame& frame, const std::vector<PlotItem>& plots, int width, int height);
     void setUpCamera(const Frame& frame, const PixelArea& area, int width, int height) const;
-    void drawScene(const Frame& frame, std::vector<PlotItem>& plots, const Target& target);
+    PixelArea sceneArea(const Frame& frame, const Decoration& decoration, int width, int height);
+    void drawScene(const Frame& frame, std::vector<PlotItem>& plots, const AxesPainter* axes, const Target& target);
     void drawPlots(std::vector<PlotItem>& plots, const PaintContext& context);
     void drawLightMarkers(const Frame& frame);
     void drawAxisOrientation(const Frame& frame, const Target& target);

@@ -27,6 +27,7 @@ import java.util.Locale;
  */
 public final class Studio implements AutoCloseable {
     private static final int SAMPLES = 4;
+    private static final int TITLE_SIZE = 15;
 
     private final Path root;
     private final Path output;
@@ -69,6 +70,8 @@ public final class Studio implements AutoCloseable {
         settings = SceneSettings.connect(renderer);
         light = SceneLight.connect(scene);
         lamp = DirectionLightSource.connect(light, light.createDirectionLight());
+        settings.setFont(SceneSettings.Text.TITLE, "default", TITLE_SIZE);
+        camera2d.resetAxisViewScales();
         light.setAmbientIntensity(0.42f);
         lamp.setFromDirection(false, -0.25f, 0.35f, 1);
         lamp.setIntensity(0.62f);
@@ -134,7 +137,7 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Looks at the whole scene from above, as at a map.
+     * Looks at the whole scene from above, as at a map: in both directions a unit is as long.
      *
      * @return this studio
      */

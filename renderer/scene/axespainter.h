@@ -1,0 +1,58 @@
+#pragma once
+
+#include "graphics3d/foundation/color.h"
+#include "renderer/axes/axislayout.h"
+#include "renderer/scene/view.h"
+
+#include <vector>
+
+namespace vxrenderer {
+
+struct Frame;
+class FontSet;
+class LinePainter;
+class OverlayPainter;
+class TextMetrics;
+
+/// Fonts of a picture's axes.
+struct AxisFonts {
+    FontSet& titles;
+    FontSet& ticks;
+};
+
+/// The room that the axes of a view need beside the area of the scene. The grid box of a 3D view needs none: it stands
+/// within.
+AxisMargins axisMargins(const Frame& frame, int width, int height, const AxisFonts& fonts);
+
+/// The grid box of a 3D view or the axes of a 2D one, laid out for one frame and drawn in three steps.
+class AxesPainter {
+public:
+    /// @param view of the frame, whose camera has its area
+    /// @param width,height of the whole picture
+    AxesPainter(const Frame& frame, const View& view, int width, int height, const AxisFonts& fonts);
+
+    /// What lies behind the data. The viewport is the area of the scene.
+    void drawBehind(LinePainter& painter) const;
+    /// What lies around the data. The viewport is the whole picture.
+    void drawAround(LinePainter& painter) const;
+    void drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const;
+
+private:
+    void layOutGridBox(const Frame& frame, const View& view, const AxisFonts& fonts);
+    void layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts);
+
+    int m_width;
+    int m_height;
+    View m_view;
+    /// Widths of lines follow the scale of the picture.
+    float m_scale;
+    vxgraphics3d::Color m_gridColor;
+    vxgraphics3d::Color m_labelColor;
+    /// In world coordinates of a 3D view, in pixels of a 2D one.
+    std::vector<AxisLine> m_behind;
+    /// In pixels.
+    std::vector<AxisLine> m_around;
+    std::vector<AxisLabel> m_labels;
+};
+
+} // namespace vxrenderer
