@@ -23,6 +23,8 @@ namespace vxbase {
 struct PeerHandle {
     const std::type_info& family;
     boost::shared_ptr<void> object;
+    /// The class that the object was last found to be: the same question is answered by one comparison.
+    mutable const std::type_info* knownAs = &family;
 };
 
 namespace detail {
@@ -81,27 +83,39 @@ struct PeerRootOf<T> {
 VX_API void requirePeer(JNIEnv* env, jobject object);
 VX_API void attachHandle(JNIEnv* env, jobject self, std::unique_ptr<PeerHandle> handle);
 
+/// Finds out whether the object of a handle is one of class T, and notes it in the handle.
+/// @throws std::bad_cast if it is not
+template <class T>
+[[gnu::noinline]] void requireClass(const PeerHandle& handle)
+{
+    using Root = typename PeerRootOf<T>::Type;
+    if (handle.family != typeid(Root)) {
+        throw std::bad_cast();
+    }
+    if constexpr (!std::is_same_v<T, Root>) {
+        static_cast<void>(dynamic_cast<T&>(*static_cast<Root*>(handle.object.get())));
+    }
+    handle.knownAs = &typeid(T);
+}
+
 template <class T>
 const PeerHandle& handleOf(JNIEnv* env, jobject peer)
 {
+    using Root = typename PeerRootOf<T>::Type;
     const auto* handle = static_cast<const PeerHandle*>(getWsPtr(env, peer));
-    if (handle->family != typeid(typename PeerRootOf<T>::Type)) {
-        throw std::bad_cast();
+    // A class has one type_info in the process; one that had two would only take the slow way each time.
+    const std::type_info* known = std::is_same_v<T, Root> ? &handle->family : handle->knownAs;
+    if (known != &typeid(T)) [[unlikely]] {
+        requireClass<T>(*handle);
     }
     return *handle;
 }
 
+/// The object of a handle that handleOf<T>() gave.
 template <class T>
-T& downCast(const PeerHandle& handle)
+T& objectOf(const PeerHandle& handle)
 {
-    using Root = typename PeerRootOf<T>::Type;
-    auto* root = static_cast<Root*>(handle.object.get());
-    if constexpr (std::is_same_v<T, Root>) {
-        return *root;
-    } else {
-        // Most peers are asked as the class they are, for which the search of a dynamic cast is not needed.
-        return typeid(*root) == typeid(T) ? static_cast<T&>(*root) : dynamic_cast<T&>(*root);
-    }
+    return static_cast<T&>(*static_cast<typename PeerRootOf<T>::Type*>(handle.object.get()));
 }
 
 } // namespace detail
@@ -112,7 +126,7 @@ T& downCast(const PeerHandle& handle)
 template <class T>
 T& peer(JNIEnv* env, jobject object)
 {
-    return detail::downCast<T>(detail::handleOf<T>(env, object));
+    return detail::objectOf<T>(detail::handleOf<T>(env, object));
 }
 
 /// The native object of a peer, with a share in it.
@@ -120,7 +134,7 @@ template <class T>
 boost::shared_ptr<T> share(JNIEnv* env, jobject object)
 {
     const PeerHandle& handle = detail::handleOf<T>(env, object);
-    return boost::shared_ptr<T>(handle.object, &detail::downCast<T>(handle));
+    return boost::shared_ptr<T>(handle.object, &detail::objectOf<T>(handle));
 }
 
 /// The same as `peer` for an argument whose Java type says nothing: it may be any object.

@@ -47,6 +47,7 @@ private:
 } // namespace
 
 boost::shared_ptr<ErrorLog> ErrorLog::m_instance;
+ErrorLog::Level ErrorLog::m_heardLevel = Level::none;
 
 ErrorLog* ErrorLog::makeInstance()
 {
@@ -56,6 +57,7 @@ ErrorLog* ErrorLog::makeInstance()
 
 ErrorLog::~ErrorLog()
 {
+    m_heardLevel = Level::none;
     if (m_ownsTarget) {
         std::fclose(m_target);
     }
@@ -64,6 +66,13 @@ ErrorLog::~ErrorLog()
 void ErrorLog::setActive(bool on)
 {
     m_activeLevel = on && m_target != nullptr ? m_reportLevel : Level::none;
+    updateHeardLevel();
+}
+
+void ErrorLog::updateHeardLevel()
+{
+    const bool isReported = (m_moduleMask >> static_cast<int>(ModuleID::graphics) & 1u) != 0;
+    m_heardLevel = isReported ? m_activeLevel : Level::none;
 }
 
 void ErrorLog::setReportLevel(Level level)
@@ -76,6 +85,7 @@ void ErrorLog::activateModuleReporting(ModuleID module)
 {
     if (isModule(module)) {
         m_moduleMask |= 1u << static_cast<int>(module);
+        updateHeardLevel();
     }
 }
 
@@ -83,17 +93,20 @@ void ErrorLog::deactivateModuleReporting(ModuleID module)
 {
     if (isModule(module)) {
         m_moduleMask &= ~(1u << static_cast<int>(module));
+        updateHeardLevel();
     }
 }
 
 void ErrorLog::activateAllModuleReporting()
 {
     m_moduleMask = ~0u;
+    updateHeardLevel();
 }
 
 void ErrorLog::deactivateAllModuleReporting()
 {
     m_moduleMask = 0;
+    updateHeardLevel();
 }
 
 void ErrorLog::setTarget(std::FILE* target, bool owned)

@@ -63,6 +63,9 @@ public:
         return level <= m_activeLevel && (m_moduleMask >> static_cast<int>(module) & 1u) != 0;
     }
 
+    /// Whether the library's own messages of this level would be written: all that a silent message costs.
+    static bool isHeard(Level level) { return level <= m_heardLevel; }
+
     /// Writes one line if level and module pass. The format follows `printf`.
     void log(Level level, ModuleID module, int subId, const char* file, int line, const char* format, ...)
         __attribute__((format(printf, 7, 8)));
@@ -72,8 +75,10 @@ private:
 
     static ErrorLog* makeInstance();
     void setTarget(std::FILE* target, bool owned);
+    void updateHeardLevel();
 
     static boost::shared_ptr<ErrorLog> m_instance;
+    static Level m_heardLevel; ///< the level in force, or none while the library's module is held back
 
     Level m_reportLevel = Level::none;
     Level m_activeLevel = Level::none;
@@ -93,14 +98,13 @@ namespace detail {
 template <class... Args>
 void logLine(ErrorLog::Level level, int subId, const vxbase::LogText<Args...>& text, Args... args)
 {
-    ErrorLog* log = ErrorLog::getInstance();
-    if (log->passes(level, ErrorLog::ModuleID::graphics)) {
+    if (ErrorLog::isHeard(level)) [[unlikely]] {
 // The text was held against its arguments when it was compiled, which is more than this warning could do.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-security"
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
-        log->log(level, ErrorLog::ModuleID::graphics, subId, text.file, text.line, text.text,
-                 vxbase::printable(args)...);
+        ErrorLog::getInstance()->log(level, ErrorLog::ModuleID::graphics, subId, text.file, text.line, text.text,
+                                     vxbase::printable(args)...);
 #pragma GCC diagnostic pop
     }
 }

@@ -155,6 +155,23 @@ class SceneGraphTreeTest {
     }
 
     @Test
+    void aPeerIsAskedAsEachOfItsClassesInTurnAndNeverAsAnother() {
+        try (SceneGraphGroup group = new SceneGraphGroup(); SceneGraphPlotGroup plots = new SceneGraphPlotGroup()) {
+            group.addChild(plots);
+            for (int i = 0; i < 2; ++i) {
+                assertEquals(1, group.getNoOfChildren());
+                SceneGraphPlotGroup.connect(group, 1).close();
+                assertEquals(-1, group.getChildId());
+                // A plot group is a node, but no parent of nodes.
+                assertEquals("std::bad_cast", detailOf(assertThrows(NativeException.class,
+                        () -> Natives.call(SceneGraphPlotGroup.class, "connectNative", plots, plots, 1))));
+                plots.removeAllPlots();
+                assertEquals(1, plots.getChildId());
+            }
+        }
+    }
+
+    @Test
     void peersMayBeClosedInAnyOrder() {
         for (int seed = 0; seed < 20; ++seed) {
             Scene scene = new Scene();
