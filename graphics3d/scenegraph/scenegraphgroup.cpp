@@ -3,6 +3,7 @@
 #include "graphics3d/foundation/errorlog.h"
 #include "graphics3d/picking/selectionfrustrum.h"
 
+#include <algorithm>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -40,32 +41,24 @@ bool SceneGraphGroup::addChild(boost::shared_ptr<SceneGraphNode> node)
     const int id = ++m_lastChildId;
     logInfo("Adding child %d to group (node %d).", id, getNodeId());
     SceneGraphNode& child = *node;
-    m_inOrder.push_back(&child);
-    m_children.emplace_hint(m_children.end(), id, std::move(node));
+    m_children.emplace_back(id, std::move(node));
     takeIn(child, std::move(group), id);
     calculateBoundingBox();
     treeStructureChanged();
     return true;
 }
 
-SceneGraphGroup::ChildMap::iterator SceneGraphGroup::take(ChildMap::iterator place)
-{
-    // The child may die with its place in the table, but not while it is being detached.
-    const boost::shared_ptr<SceneGraphNode> child = place->second;
-    letGo(*child);
-    m_numMerged = 0;
-    m_inOrder.clear();
-    return m_children.erase(place);
-}
-
 void SceneGraphGroup::removeChild(int childId)
 {
-    const auto place = m_children.find(childId);
-    if (place == m_children.end()) {
+    const auto found = placeOf(childId);
+    if (found == m_children.end()) {
         return;
     }
     logInfo("Removing child %d from group (node %d).", childId, getNodeId());
-    take(place);
+    // The child may die with its place in the table, but not while it is being detached.
+    letGo(*found->second);
+    m_children.erase(found);
+    m_numMerged = 0;
     calculateBoundingBox();
     treeStructureChanged();
 }
@@ -76,46 +69,61 @@ void SceneGraphGroup::removeAllChildren()
     if (m_children.empty()) {
         return;
     }
-    for (auto place = m_children.begin(); place != m_children.end();) {
-        place = take(place);
+    for (const auto& [id, child] : m_children) {
+        letGo(*child);
     }
+    m_children.clear();
+    m_numMerged = 0;
     calculateBoundingBox();
     treeStructureChanged();
 }
 
+SceneGraphGroup::ChildTable::const_iterator SceneGraphGroup::placeOf(int childId) const
+{
+    const auto found = std::lower_bound(m_children.begin(), m_children.end(), childId,
+                                        [](const auto& entry, int id) { return entry.first < id; });
+    return found != m_children.end() && found->first == childId ? found : m_children.end();
+}
+
 const boost::shared_ptr<SceneGraphNode>& SceneGraphGroup::find(int childId) const
 {
-    const auto place = m_children.find(childId);
-    if (place == m_children.end()) {
+    const auto found = placeOf(childId);
+    if (found == m_children.end()) {
         throw std::out_of_range("The group (node " + std::to_string(getNodeId()) + ") has no child " +
                                 std::to_string(childId) + ".");
     }
-    return place->second;
+    return found->second;
 }
 
 // --- boxes, snap vertices and picks ---------------------------------------------------------------------------------
 
 /// While children only come at the end, merging the newest into the last result is what merging all of them in id order
 /// does, to the last bit. So filling a group takes a time linear in its children.
-const BoundingBox& SceneGraphGroup::mergeChildBoxes()
+inline BoundingBox SceneGraphGroup::mergedBox()
 {
     const int count = getNoOfChildren();
+    BoundingBox box;
     if (m_numMerged != 0 && m_numMerged + 1 == count) {
-        m_mergedBox.merge(m_children.rbegin()->second->getBoundingBox());
+        box = m_mergedBox;
+        box.merge(m_children.back().second->getBoundingBox());
     } else {
-        if (m_inOrder.size() != m_children.size()) {
-            m_inOrder.clear();
-            for (const auto& [id, child] : m_children) {
-                m_inOrder.push_back(child.get());
-            }
-        }
-        BoundingBox box;
-        for (const SceneGraphNode* child : m_inOrder) {
+        for (const auto& [id, child] : m_children) {
             box.merge(child->getBoundingBox());
         }
-        m_mergedBox = box;
     }
+    m_mergedBox = box;
     m_numMerged = hearsOf(count) ? count : 0;
+    return box;
+}
+
+void SceneGraphGroup::calculateBoundingBox()
+{
+    setBoundingBox(mergedBox());
+}
+
+const BoundingBox& SceneGraphGroup::mergeChildBoxes()
+{
+    mergedBox();
     return m_mergedBox;
 }
 

@@ -2,8 +2,8 @@
 
 #include "graphics3d/scenegraph/scenegraphparent.h"
 
-#include <map>
 #include <utility>
+#include <vector>
 
 namespace vxgraphics3d {
 
@@ -11,9 +11,10 @@ namespace vxgraphics3d {
 ///
 /// Ids count from 1 in the order of arrival and are never used again. When a group dies its children are released, not
 /// detached: their references to the parent simply expire.
-class VX_API SceneGraphGroup : public SceneGraphParent {
+class VX_API SceneGraphGroup final : public SceneGraphParent {
 public:
-    using ChildMap = std::map<int, boost::shared_ptr<SceneGraphNode>>;
+    /// Children with their ids, by rising id. A new child has the highest id, so it always comes at the end.
+    using ChildTable = std::vector<std::pair<int, boost::shared_ptr<SceneGraphNode>>>;
 
     static boost::shared_ptr<SceneGraphGroup> create();
     ~SceneGraphGroup() override;
@@ -26,9 +27,9 @@ public:
     /// Lets all children go, in id order. A group without children only writes its log line.
     void removeAllChildren();
 
-    /// Begin and end of the children, by rising id.
-    std::pair<ChildMap::iterator, ChildMap::iterator> children() { return {m_children.begin(), m_children.end()}; }
-    std::pair<ChildMap::const_iterator, ChildMap::const_iterator> getChildren() const
+    /// Begin and end of the children, by rising id. Good until a child comes or goes.
+    std::pair<ChildTable::iterator, ChildTable::iterator> children() { return {m_children.begin(), m_children.end()}; }
+    std::pair<ChildTable::const_iterator, ChildTable::const_iterator> getChildren() const
     {
         return {m_children.begin(), m_children.end()};
     }
@@ -37,9 +38,10 @@ public:
     void updateNodeSnapVertices() override;
     /// Withdraws the snap vertices of the direct children.
     void removeNodeSnapVertices() override;
+    void calculateBoundingBox() override;
 
     int getNoOfChildren() const override { return static_cast<int>(m_children.size()); }
-    bool doesChildExist(int childId) const override { return m_children.count(childId) != 0; }
+    bool doesChildExist(int childId) const override { return placeOf(childId) != m_children.end(); }
     const SceneGraphNode* getChild(int childId) const override { return find(childId).get(); }
     SceneGraphNode* child(int childId) override { return find(childId).get(); }
     boost::shared_ptr<SceneGraphNode> childPtr(int childId) override { return find(childId); }
@@ -55,15 +57,13 @@ protected:
 private:
     SceneGraphGroup();
 
+    /// Where the child stands, or the end of the table.
+    ChildTable::const_iterator placeOf(int childId) const;
     const boost::shared_ptr<SceneGraphNode>& find(int childId) const;
-    /// Detaches the child and takes it from the table.
-    /// @return the place behind it
-    ChildMap::iterator take(ChildMap::iterator place);
+    BoundingBox mergedBox();
 
     int m_lastChildId = 0;
-    ChildMap m_children;
-    /// The children of the table side by side, for the merging of their boxes. Built anew when it has another length.
-    std::vector<const SceneGraphNode*> m_inOrder;
+    ChildTable m_children;
     BoundingBox m_mergedBox; ///< over the first m_numMerged children
 };
 

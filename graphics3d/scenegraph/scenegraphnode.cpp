@@ -25,7 +25,7 @@ void SceneGraphNode::setParent(boost::weak_ptr<SceneGraphParent> parent, int chi
     answerTo(address, std::move(parent), childId);
 }
 
-void SceneGraphNode::answerTo(SceneGraphParent* parent, boost::weak_ptr<SceneGraphParent> weakParent, int childId)
+void SceneGraphNode::answerTo(SceneGraphParent* parent, boost::weak_ptr<SceneGraphParent>&& weakParent, int childId)
 {
     if (parent != nullptr) {
         logInfo("Connecting node as child %d to parent (node %d)", childId, parent->getNodeId());
@@ -76,14 +76,6 @@ void SceneGraphNode::setActive(bool active)
     }
 }
 
-void SceneGraphNode::setBoundingBox(const BoundingBox& box)
-{
-    if (!(box == m_boundingBox)) {
-        m_boundingBox = box;
-        updateBoxesAbove();
-    }
-}
-
 /// Each parent has its box calculated as if by calculateBoundingBox(). That this goes on in a loop and not from parent
 /// to parent lets a tree be deeper than the stack.
 void SceneGraphNode::updateBoxesAbove()
@@ -102,7 +94,9 @@ void SceneGraphNode::updateNodeSnapVertices()
 {
     if (SceneGraphParent* parent = parentOrNull()) {
         removeNodeSnapVertices();
-        parent->addSnapVertices(m_nodeId, m_snapVertices);
+        if (!m_snapVertices.empty()) {
+            parent->addSnapVertices(m_nodeId, m_snapVertices);
+        }
     }
 }
 

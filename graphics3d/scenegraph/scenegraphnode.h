@@ -77,7 +77,14 @@ public:
     const BoundingBox& getStoredBoundingBox() const { return m_boundingBox; }
     /// Stores the box and brings the boxes above up to date, as far up as they change. An equal box does nothing; an
     /// empty one always travels up, since empty boxes are never equal.
-    void setBoundingBox(const BoundingBox& box);
+    void setBoundingBox(const BoundingBox& box)
+    {
+        // Inline, so that a box which was just calculated is stored from registers.
+        if (!(box == m_boundingBox)) {
+            m_boundingBox = box;
+            updateBoxesAbove();
+        }
+    }
 
     // What the kinds of nodes do in their own ways
 
@@ -114,7 +121,7 @@ private:
     /// The parent without a share in it: for steps that no parent can die in.
     SceneGraphParent* parentOrNull() const { return m_parent.expired() ? nullptr : m_parentAddress; }
     /// setParent() for a caller that knows the parent; null for one that has died.
-    void answerTo(SceneGraphParent* parent, boost::weak_ptr<SceneGraphParent> weakParent, int childId);
+    void answerTo(SceneGraphParent* parent, boost::weak_ptr<SceneGraphParent>&& weakParent, int childId);
     void updateBoxesAbove();
 
     static const BoundingBox c_emptyBox;

@@ -1,30 +1,16 @@
 #include "graphics3d/scenegraph/scenegraphparent.h"
 
-#include "graphics3d/foundation/changecounter.h"
-
 #include <stdexcept>
+#include <string>
 #include <unordered_set>
 #include <utility>
 
 namespace vxgraphics3d {
 
-namespace {
-
 /// The node as a parent, or null for a leaf.
-const SceneGraphParent* asParent(const SceneGraphNode& node)
+const SceneGraphParent* SceneGraphParent::asParent(const SceneGraphNode& node)
 {
-    const bool isParent = node.getType() == SceneGraphNode::NodeRoot || node.getType() == SceneGraphNode::NodeGroup;
-    return isParent ? dynamic_cast<const SceneGraphParent*>(&node) : nullptr;
-}
-
-} // namespace
-
-void SceneGraphParent::markChildChanged()
-{
-    raiseChange(m_childrenChangeId);
-    for (SceneGraphParent* parent = parentOrNull(); parent != nullptr; parent = parent->parentOrNull()) {
-        raiseChange(parent->m_childrenChangeId);
-    }
+    return mayHold(node) ? dynamic_cast<const SceneGraphParent*>(&node) : nullptr;
 }
 
 // --- ways down ------------------------------------------------------------------------------------------------------
@@ -65,22 +51,6 @@ void SceneGraphParent::getMarkedBoundingBox(BoundingBox& box, int include, int e
 
 // --- ways up --------------------------------------------------------------------------------------------------------
 
-SceneGraphParent* SceneGraphParent::rootAbove() const
-{
-    SceneGraphParent* parent = parentOrNull();
-    while (parent != nullptr && parent->getType() != NodeRoot) {
-        parent = parent->parentOrNull();
-    }
-    return parent;
-}
-
-void SceneGraphParent::treeStructureChanged()
-{
-    if (SceneGraphParent* root = rootAbove()) {
-        root->treeStructureChanged();
-    }
-}
-
 void SceneGraphParent::calculateBoundingBox()
 {
     setBoundingBox(mergeChildBoxes());
@@ -112,15 +82,7 @@ void SceneGraphParent::removeSnapVertices(int nodeId)
 
 // --- children -------------------------------------------------------------------------------------------------------
 
-boost::weak_ptr<SceneGraphParent> SceneGraphParent::weakSelf()
-{
-    if (m_self.expired()) {
-        throw boost::bad_weak_ptr();
-    }
-    return {m_self, this};
-}
-
-void SceneGraphParent::requireNewChild(const boost::shared_ptr<SceneGraphNode>& node) const
+void SceneGraphParent::requireNewParent(const boost::shared_ptr<SceneGraphNode>& node) const
 {
     if (!node) {
         throw std::invalid_argument("The child is null.");
@@ -129,12 +91,6 @@ void SceneGraphParent::requireNewChild(const boost::shared_ptr<SceneGraphNode>& 
         throw std::invalid_argument("Node " + std::to_string(node->getNodeId()) + " cannot be a child of node " +
                                     std::to_string(getNodeId()) + ", which it is itself or which stands below it.");
     }
-}
-
-void SceneGraphParent::takeIn(SceneGraphNode& child, boost::weak_ptr<SceneGraphParent> weakThis, int childId)
-{
-    ++child.m_numHolders;
-    child.answerTo(this, std::move(weakThis), childId);
 }
 
 void SceneGraphParent::letGo(SceneGraphNode& child)

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "graphics3d/foundation/changecounter.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
+#include <utility>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -21,7 +23,12 @@ public:
     /// Whether the number differs from the one given.
     bool areChildrenChanged(int id) const { return id != m_childrenChangeId; }
     /// Counts a change below this node, here and on every node above.
-    void markChildChanged();
+    void markChildChanged()
+    {
+        for (SceneGraphParent* parent = this; parent != nullptr; parent = parent->parentOrNull()) {
+            raiseChange(parent->m_childrenChangeId);
+        }
+    }
 
     /// A group is passed by if it is empty or lies outside the frustum, and its subtree is not tested any more if it
     /// lies wholly inside; the children go in ascending order of their ids.
@@ -38,7 +45,12 @@ public:
     virtual void removeChild(int childId) = 0;
     virtual NodeType getChildType(int childId) const = 0;
     /// Tells the root that nodes have come or gone.
-    virtual void treeStructureChanged();
+    virtual void treeStructureChanged()
+    {
+        if (SceneGraphParent* root = rootAbove()) {
+            root->treeStructureChanged();
+        }
+    }
     /// Calculates the box from those of the children, and brings the boxes above up to date.
     virtual void calculateBoundingBox();
     /// Ends at the root, which does nothing.
@@ -61,13 +73,28 @@ protected:
 
     /// A weak reference on this node for its children.
     /// @throws boost::bad_weak_ptr if the node was not made by `create()`
-    boost::weak_ptr<SceneGraphParent> weakSelf();
+    boost::weak_ptr<SceneGraphParent> weakSelf()
+    {
+        if (m_self.expired()) {
+            throw boost::bad_weak_ptr();
+        }
+        return {m_self, this};
+    }
     /// Refuses what may not become a child: nothing at all, this node itself, or one that this node stands below. Takes
     /// a time that does not depend on the number of children, and for a leaf or an empty parent not on the depth.
     /// @throws std::invalid_argument
-    void requireNewChild(const boost::shared_ptr<SceneGraphNode>& node) const;
+    void requireNewChild(const boost::shared_ptr<SceneGraphNode>& node) const
+    {
+        if (!node || mayHold(*node)) {
+            requireNewParent(node);
+        }
+    }
     /// Makes a node that has entered the table of children answer to this one, with setParent().
-    void takeIn(SceneGraphNode& child, boost::weak_ptr<SceneGraphParent> weakThis, int childId);
+    void takeIn(SceneGraphNode& child, boost::weak_ptr<SceneGraphParent>&& weakThis, int childId)
+    {
+        ++child.m_numHolders;
+        child.answerTo(this, std::move(weakThis), childId);
+    }
     /// Makes a node that is to leave the table of children answer to nobody.
     static void letGo(SceneGraphNode& child);
     /// Gives a child up while this node dies, so that a deep tree is taken apart without deep recursion.
@@ -92,7 +119,23 @@ protected:
 private:
     friend class SceneGraphNode;
 
-    SceneGraphParent* rootAbove() const;
+    /// Whether the node can have nodes below it.
+    static bool mayHold(const SceneGraphNode& node)
+    {
+        return node.getType() == NodeRoot || node.getType() == NodeGroup;
+    }
+
+    SceneGraphParent* rootAbove() const
+    {
+        SceneGraphParent* parent = parentOrNull();
+        while (parent != nullptr && parent->getType() != NodeRoot) {
+            parent = parent->parentOrNull();
+        }
+        return parent;
+    }
+    /// requireNewChild() for what is no leaf.
+    void requireNewParent(const boost::shared_ptr<SceneGraphNode>& node) const;
+    static const SceneGraphParent* asParent(const SceneGraphNode& node);
     bool standsBelow(const SceneGraphNode& node) const;
     void loseChild();
     static bool contains(const SceneGraphParent& top, const SceneGraphNode& wanted);
