@@ -25,10 +25,17 @@ namespace {
 
 using namespace vxgraphics3d;
 
-/// Beyond the margin of the settings, room for the labels around the box of a scene, in units of their font size.
-constexpr float c_labelRoom = 4.0f;
-/// What the labels may take of the picture at most.
+/// Room for the labels around the box of a scene, in units of their font size.
+constexpr float c_labelRoom = 3.5f;
+/// What this room may take of a side of the picture at most.
 constexpr float c_largestLabelPart = 0.5f;
+
+/// How much larger a view has to be, so that a border around the picture becomes free.
+float scaleForBorder(const PixelArea& area, float border)
+{
+    const float part = 2.0f * border / static_cast<float>(std::min(area.width, area.height));
+    return 1.0f / (1.0f - std::min(part, c_largestLabelPart));
+}
 
 void requireNoFault()
 {
@@ -162,9 +169,12 @@ void OffscreenCanvas::zoomExtents()
     } else {
         Camera3d& camera = *m_settings->camera3d();
         camera.setRotationPoint(box.getCenter());
-        const float room = c_labelRoom * static_cast<float>(look.font(TextAxisTick).size);
-        const float part = 2.0f * room / static_cast<float>(std::min(area.width, area.height));
-        camera.moveToBoundingBox(box, box, look.showAxes ? std::min(part, c_largestLabelPart) : 0.0f);
+        camera.moveToBoundingBox(box, box, 0.0f);
+        if (look.showAxes) {
+            const float border = c_labelRoom * static_cast<float>(look.font(TextAxisTick).size);
+            camera.setAdditionalScale(0.5f, 0.5f, scaleForBorder(area, border));
+            camera.mergeAdditionalTransformation();
+        }
     }
 }
 

@@ -26,6 +26,8 @@ using namespace vxgraphics3d;
 constexpr float c_lineWidth = 1.0f;
 /// What is left of the opacity of lines between labelled values.
 constexpr int c_minorAlpha = 90;
+/// Opacity of the trace of a grid over the data.
+constexpr int c_traceAlpha = 130;
 
 void append(std::vector<AxisLine>& lines, const std::vector<AxisLine>& more)
 {
@@ -51,7 +53,7 @@ void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int wi
             }
         }
         Color faint = color;
-        faint.alpha = isMinor ? c_minorAlpha : color.alpha;
+        faint.alpha = isMinor ? color.alpha * c_minorAlpha / 255 : color.alpha;
         painter.draw(segments, toClip, width, height, lineWidth, faint);
     }
 }
@@ -69,7 +71,9 @@ AxesPainter::AxesPainter(const Frame& frame, const View& view, int width, int he
       m_view(view),
       m_scale(frame.appearance.scale),
       m_gridColor(frame.canvas.getGridBoxSettingsPtr()->getGridColor()),
-      m_labelColor(frame.canvas.getGridBoxSettingsPtr()->getLabelColor())
+      m_labelColor(frame.canvas.getGridBoxSettingsPtr()->getLabelColor()),
+      m_haloColor(frame.appearance.backdrop.top),
+      m_hasHalo(frame.isPolar())
 {
     if (view.isFlat) {
         layOutAxes2d(frame, view, fonts);
@@ -105,13 +109,28 @@ void AxesPainter::layOutAxes2d(const Frame& frame, const View& view, const AxisF
 
 void AxesPainter::drawBehind(LinePainter& painter) const
 {
-    // The lines of a flat view count their pixels from the corner of the picture, the viewport from that of the area.
+    drawInArea(painter, m_gridColor);
+}
+
+void AxesPainter::drawOver(LinePainter& painter) const
+{
+    if (m_view.isFlat) {
+        Color trace = m_gridColor;
+        trace.alpha = c_traceAlpha;
+        drawInArea(painter, trace);
+    }
+}
+
+void AxesPainter::drawInArea(LinePainter& painter, const Color& color) const
+{
     Matrixf toClip = m_view.projection * m_view.sceneToEye;
     if (m_view.isFlat) {
+        // The lines of a flat view count their pixels from the corner of the picture, the viewport from that of the
+        // area.
         toClip = pixelsToClip(m_view.area.width, m_view.area.height);
         toClip.translate(-static_cast<float>(m_view.area.x), -static_cast<float>(m_view.area.y), 0.0f);
     }
-    drawLines(m_behind, toClip, m_view.area.width, m_view.area.height, c_lineWidth * m_scale, m_gridColor, painter);
+    drawLines(m_behind, toClip, m_view.area.width, m_view.area.height, c_lineWidth * m_scale, color, painter);
 }
 
 void AxesPainter::drawAround(LinePainter& painter) const
@@ -130,11 +149,17 @@ void AxesPainter::drawLabels(OverlayPainter& painter, const AxisFonts& fonts) co
         const float height = label.isVertical ? text.width : text.height;
         const float left = label.x - label.alignX * width;
         const float top = label.y - label.alignY * height;
-        if (label.isVertical) {
-            painter.drawTextUpwards(text, font, left, top + height, m_labelColor);
-        } else {
-            painter.drawText(text, font, left, top, m_labelColor);
+        const auto draw = [&](float x, float y, const Color& color) {
+            if (label.isVertical) {
+                painter.drawTextUpwards(text, font, x, y + height, color);
+            } else {
+                painter.drawText(text, font, x, y, color);
+            }
+        };
+        for (int side = 0; m_hasHalo && side < 9; ++side) {
+            draw(left + static_cast<float>(side % 3 - 1), top + static_cast<float>(side / 3 - 1), m_haloColor);
         }
+        draw(left, top, m_labelColor);
     }
 }
 

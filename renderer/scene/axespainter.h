@@ -33,11 +33,15 @@ public:
 
     /// What lies behind the data. The viewport is the area of the scene.
     void drawBehind(LinePainter& painter) const;
+    /// A trace of the grid over the data of a flat view, which would hide it altogether. The viewport is the area of
+    /// the scene.
+    void drawOver(LinePainter& painter) const;
     /// What lies around the data. The viewport is the whole picture.
     void drawAround(LinePainter& painter) const;
     void drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const;
 
 private:
+    void drawInArea(LinePainter& painter, const vxgraphics3d::Color& color) const;
     void layOutGridBox(const Frame& frame, const View& view, const AxisFonts& fonts);
     void layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts);
 
@@ -48,6 +52,9 @@ private:
     float m_scale;
     vxgraphics3d::Color m_gridColor;
     vxgraphics3d::Color m_labelColor;
+    /// Stands around labels that may lie on the data.
+    vxgraphics3d::Color m_haloColor;
+    bool m_hasHalo;
     /// In world coordinates of a 3D view, in pixels of a 2D one.
     std::vector<AxisLine> m_behind;
     /// In pixels.

@@ -2,7 +2,6 @@
 
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
-#include "graphics3d/plots/graph/axissetup.h"
 #include "renderer/scene/appearance.h"
 
 namespace vxgraphics3d {
@@ -28,11 +27,7 @@ struct Frame {
     /// The camera of a 2D view.
     const vxgraphics3d::Camera2d& camera2d() const { return static_cast<const vxgraphics3d::Camera2d&>(camera); }
     /// Whether the view shows angles and radii.
-    bool isPolar() const
-    {
-        return isFlat() &&
-               (canvas.getAxisSetupPtr()->isPolar() || camera2d().getCameraMode() == vxgraphics3d::Camera2d::ModePolar);
-    }
+    bool isPolar() const { return isFlat() && camera2d().getCameraMode() == vxgraphics3d::Camera2d::ModePolar; }
 };
 
 } // namespace vxrenderer

@@ -213,8 +213,13 @@ void SceneRenderer::drawScene(const Frame& frame, std::vector<PlotItem>& plots, 
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
     }
-    glDisable(GL_SCISSOR_TEST);
     glDisable(GL_DEPTH_TEST);
+    if (axes != nullptr) {
+        setBlending(true);
+        axes->drawOver(m_lines);
+        setBlending(false);
+    }
+    glDisable(GL_SCISSOR_TEST);
 }
 
 void SceneRenderer::drawPlots(std::vector<PlotItem>& plots, const PaintContext& context)

@@ -2,4 +2,5 @@
 module com.vexane.gallery {
     requires com.vexane.producer;
     requires com.vexane.renderer;
+    requires java.desktop;
 }

@@ -2,6 +2,12 @@ package com.vexane.gallery;
 
 import com.vexane.gallery.pictures.BracketStress;
 import com.vexane.gallery.pictures.EarthRelief;
+import com.vexane.gallery.pictures.FourCameras;
+import com.vexane.gallery.pictures.Hardcopy;
+import com.vexane.gallery.pictures.LightsLockedAndFree;
+import com.vexane.gallery.pictures.LogarithmicAxes;
+import com.vexane.gallery.pictures.PolarView;
+import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
 import com.vexane.gallery.pictures.TerrainColors;
 import com.vexane.gallery.pictures.TerrainFine;
@@ -24,7 +30,13 @@ public final class Gallery {
             new TerrainColors(),
             new SeaTemperature(),
             new BracketStress(),
-            new EarthRelief());
+            new EarthRelief(),
+            new FourCameras(),
+            new ResizeBehaviours(),
+            new LightsLockedAndFree(),
+            new LogarithmicAxes(),
+            new PolarView(),
+            new Hardcopy());
 
     private static final int WIDTH = 1600;
     private static final int HEIGHT = 1000;

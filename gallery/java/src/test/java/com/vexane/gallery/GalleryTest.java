@@ -21,9 +21,7 @@ class GalleryTest {
 
     private static int[] pixels(Path file) throws IOException {
         BufferedImage image = ImageIO.read(file.toFile());
-        assertEquals(400, image.getWidth());
-        assertEquals(250, image.getHeight());
-        return image.getRGB(0, 0, 400, 250, null, 0, 400);
+        return image.getRGB(0, 0, image.getWidth(), image.getHeight(), null, 0, image.getWidth());
     }
 
     /** How many colours cover at least three pixels each. */
@@ -44,18 +42,50 @@ class GalleryTest {
         assertTrue(page.contains("Map&lt;DataRole, Integer&gt;"), "the code is not escaped");
     }
 
+    /** How many pixels differ in two pictures of equal size. */
+    private static int countChanges(Path one, Path other) throws IOException {
+        int[] before = pixels(one);
+        int[] after = pixels(other);
+        assertEquals(before.length, after.length);
+        int changed = 0;
+        for (int k = 0; k < before.length; ++k) {
+            changed += before[k] == after[k] ? 0 : 1;
+        }
+        return changed;
+    }
+
+    @Test
+    void everyCameraAndEveryLightShowsAnotherPicture() throws IOException {
+        for (String program : List.of("FourCameras", "LightsLockedAndFree")) {
+            List<Path> files = Gallery.draw(ROOT, folder, List.of(program), 400, 250);
+            assertEquals(4, files.size());
+            for (int i = 0; i < 4; ++i) {
+                for (int k = i + 1; k < 4; ++k) {
+                    int changed = countChanges(files.get(i), files.get(k));
+                    assertTrue(changed > 2000, files.get(k) + " differs in " + changed + " pixels only");
+                }
+            }
+        }
+    }
+
+    @Test
+    void aHardcopyHasItsOwnSize() throws IOException {
+        List<Path> files = Gallery.draw(ROOT, folder, List.of("Hardcopy"), 400, 250);
+        BufferedImage screen = ImageIO.read(files.get(0).toFile());
+        BufferedImage paper = ImageIO.read(files.get(1).toFile());
+        assertEquals(List.of(400, 250), List.of(screen.getWidth(), screen.getHeight()));
+        assertEquals(List.of(2126, 1417), List.of(paper.getWidth(), paper.getHeight()));
+        assertEquals(0xffffff, paper.getRGB(0, 0) & 0xffffff);
+        assertEquals(0x6f8fb5, screen.getRGB(0, 0) & 0xffffff);
+    }
+
     @Test
     void everyChangeOfColoursShows() throws IOException {
-        List<Path> files = Gallery.draw(ROOT, folder, List.of("TerrainColors"), 400, 250);
+        List<Path> files = Gallery.draw(ROOT, folder, List.of("TerrainColors"), 800, 500);
         assertEquals(5, files.size());
         for (int i = 1; i < files.size(); ++i) {
-            int[] before = pixels(files.get(i - 1));
-            int[] after = pixels(files.get(i));
-            int changed = 0;
-            for (int k = 0; k < before.length; ++k) {
-                changed += before[k] == after[k] ? 0 : 1;
-            }
-            assertTrue(changed > before.length / 20, files.get(i) + " differs in " + changed + " pixels only");
+            int changed = countChanges(files.get(i - 1), files.get(i));
+            assertTrue(changed > 20000, files.get(i) + " differs in " + changed + " pixels only");
         }
     }
 

@@ -1,0 +1,65 @@
+package com.vexane.gallery.pictures;
+
+import com.vexane.gallery.About;
+import com.vexane.gallery.Picture;
+import com.vexane.gallery.Studio;
+import com.vexane.graphics3d.Camera3d;
+import com.vexane.graphics3d.PostDataReader;
+import com.vexane.graphics3d.SceneGraphPlotSurface2d;
+import com.vexane.producer.DataRole;
+import com.vexane.producer.PlotKind;
+import com.vexane.producer.PostDataObject;
+import com.vexane.renderer.CameraInteraction;
+import java.io.IOException;
+import java.util.Map;
+
+@About(title = "One scene in four cameras",
+        text = "The mountains again: from close by in perspective, where parallel edges run together; in orthographic "
+                + "projection, where they stay parallel; with the axes stretched until all three look equally long; and "
+                + "zoomed by the mouse wheel about the corner of a peak.")
+public final class FourCameras implements Picture {
+    @Override
+    public void draw(Studio studio) throws IOException {
+        Map<DataRole, Integer> roles = Map.of(DataRole.COLOR, 1, DataRole.HEIGHT, 1);
+        try (SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
+                PostDataObject record = PostDataObject.forFile(PlotKind.SURFACE_2D, roles)) {
+            if (!PostDataReader.readPostData(record, studio.data("terrain_2d.txt"))) {
+                throw new IOException("The file cannot be read; the log says why.");
+            }
+            plot.setColorTable("viridis", studio.colors("viridis"), true);
+            plot.fillPlot(record);
+            plot.setHeightScale(0.2f);
+            studio.show(plot, "Elevation in m").view(-60, 35);
+
+            Camera3d camera = studio.camera3d();
+            float[] towards = {
+                camera.getLookAtDirectionX(), camera.getLookAtDirectionY(), camera.getLookAtDirectionZ()
+            };
+            float distance = 45;
+            camera.setPosition(
+                    camera.getRotationPointX() - distance * towards[0],
+                    camera.getRotationPointY() - distance * towards[1],
+                    camera.getRotationPointZ() - distance * towards[2],
+                    towards[0], towards[1], towards[2], 0, 0, 1);
+            camera.setRelativeViewOffset(0, 0.05f);
+            camera.setFieldOfView(27);
+            studio.save("Perspective from close by.");
+
+            camera.setProjectionType(Camera3d.ProjectionType.ORTHOGRAPHIC);
+            camera.setRelativeViewOffset(0, 0);
+            studio.view(-60, 35).save("Orthographic projection.");
+
+            camera.setAxisViewScalesAuto();
+            studio.view(-60, 35).save("Axes stretched to equal lengths.");
+
+            camera.resetAxisViewScales();
+            studio.view(-60, 35);
+            int width = studio.renderer().getWidth();
+            int height = studio.renderer().getHeight();
+            try (CameraInteraction mouse = CameraInteraction.connect(studio.renderer(), height)) {
+                mouse.wheel(-7, width * 3 / 10, height * 2 / 5);
+            }
+            studio.save("Zoomed about a peak: it stays where it was.");
+        }
+    }
+}

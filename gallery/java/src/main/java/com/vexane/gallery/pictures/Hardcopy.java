@@ -1,0 +1,64 @@
+package com.vexane.gallery.pictures;
+
+import com.vexane.gallery.About;
+import com.vexane.gallery.Picture;
+import com.vexane.gallery.PlotFile;
+import com.vexane.gallery.Studio;
+import com.vexane.graphics3d.Canvas3dSettings;
+import com.vexane.graphics3d.HardcopySettings;
+import com.vexane.graphics3d.SceneGraphPlotSurface3d;
+import com.vexane.graphics3d.TextItem;
+import com.vexane.producer.DataRole;
+import com.vexane.producer.PlotKind;
+import com.vexane.producer.PostDataBuilder;
+import com.vexane.producer.PostDataGroup;
+import com.vexane.producer.PostDataObject;
+import java.io.IOException;
+
+@About(title = "A hardcopy at 300 dpi beside the picture on the screen",
+        text = "The screen shows the part half transparent on a shaded background. The export is 18 by 12 "
+                + "centimetres on white, with letters of its own size; its file carries resolution, title and creator.")
+public final class Hardcopy implements Picture {
+    private static final int DPI = 300;
+
+    @Override
+    public void draw(Studio studio) throws IOException {
+        PlotFile file = PlotFile.read(studio.data("bracket_stress_3d.txt"));
+        float[][] normals = file.normals();
+        PostDataGroup surface = new PostDataGroup()
+                .coordinates(file.coordinates())
+                .normals(normals[0], normals[1], normals[2])
+                .elements(file.triangles())
+                .data(file.data());
+        try (SceneGraphPlotSurface3d plot = new SceneGraphPlotSurface3d(1);
+                PostDataObject record =
+                        new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0).addGroup(surface).build();
+                HardcopySettings hardcopy = new HardcopySettings()) {
+            plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
+            plot.fillPlot(record);
+            plot.setLegendLimits(0, file.percentile(0.995));
+            studio.canvas().setShadedBackground(Canvas3dSettings.RenderMode.VIEW_3D, 0x6f8fb5, 0xf4f6f8);
+            studio.canvas().setShowAxisOrientationIndicator(true);
+            studio.settings().setGlobalOpacity(0.6f);
+            studio.show(plot, "Stress \\sigma_{v} in MPa").view(-35, 25).save("The picture on the screen.");
+
+            hardcopy.setDpi(DPI);
+            hardcopy.setMultisampleSetting(4);
+            hardcopy.setTitleShown(true);
+            hardcopy.setLegendsShown(true);
+            hardcopy.setAxisShown(true);
+            hardcopy.setAxisOrientationShown(true);
+            hardcopy.setFontSize(TextItem.TITLE, 14);
+            hardcopy.setFontSize(TextItem.AXIS_TICK, 9);
+            hardcopy.setFontSize(TextItem.LEGEND_TICK, 9);
+            hardcopy.setFileTitle("Stress in a loaded bracket");
+            hardcopy.setFileCreator("Gallery");
+            studio.renderer().writeHardcopy(
+                    studio.file("The export."), hardcopy, pixels(18), pixels(12));
+        }
+    }
+
+    private static int pixels(double centimetres) {
+        return (int) Math.round(centimetres / 2.54 * DPI);
+    }
+}
