@@ -128,15 +128,9 @@ void addChildren_floor(benchmark::State& state)
     });
 }
 
-void addChildren_floor_limit(benchmark::State& state)
-{
-    addChildren_limit(state);
-}
-
 BENCHMARK(addChildren)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime();
 BENCHMARK(addChildren_limit)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime();
 BENCHMARK(addChildren_floor)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime();
-BENCHMARK(addChildren_floor_limit)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime();
 
 // --- the box of one leaf among 10 x 32 x 32: the merges of its siblings on each of three levels ----------------------
 
