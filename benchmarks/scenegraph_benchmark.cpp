@@ -105,7 +105,7 @@ void addChildren_limit(benchmark::State& state)
 
 void addChildren_floor(benchmark::State& state)
 {
-    struct Link {
+    struct alignas(64) Link { // each child is written in a line of its own
         boost::weak_ptr<SceneGraphNode> parent;
         int childId = -1;
         int changeId = 1;
