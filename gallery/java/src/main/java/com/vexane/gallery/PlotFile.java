@@ -1,5 +1,10 @@
 package com.vexane.gallery;
 
+import com.vexane.producer.DataRole;
+import com.vexane.producer.PlotKind;
+import com.vexane.producer.PostDataBuilder;
+import com.vexane.producer.PostDataGroup;
+import com.vexane.producer.PostDataObject;
 import java.io.BufferedReader;
 import java.io.IOException;
 import java.nio.file.Files;
@@ -125,6 +130,21 @@ public final class PlotFile {
             }
         }
         return normals;
+    }
+
+    /**
+     * The triangles as a record of a surface in space, with normals and coloured by the data.
+     *
+     * @return a record, which the caller closes
+     */
+    public PostDataObject surface3d() {
+        float[][] normals = normals();
+        PostDataGroup surface = new PostDataGroup()
+                .coordinates(coordinates)
+                .normals(normals[0], normals[1], normals[2])
+                .elements(triangles)
+                .data(data);
+        return new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0).addGroup(surface).build();
     }
 
     /**

@@ -6,6 +6,7 @@ import com.vexane.graphics3d.Camera3d;
 import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.DirectionLightSource;
 import com.vexane.graphics3d.GridBoxSettings;
+import com.vexane.graphics3d.PostDataReader;
 import com.vexane.graphics3d.Scene;
 import com.vexane.graphics3d.SceneGraphPlot;
 import com.vexane.graphics3d.SceneGraphPlotGroup;
@@ -13,6 +14,9 @@ import com.vexane.graphics3d.SceneGraphRoot;
 import com.vexane.graphics3d.SceneLight;
 import com.vexane.graphics3d.SceneSettings;
 import com.vexane.graphics3d.TextFormat;
+import com.vexane.producer.DataRole;
+import com.vexane.producer.PlotKind;
+import com.vexane.producer.PostDataObject;
 import com.vexane.renderer.OffscreenRenderer;
 import java.io.IOException;
 import java.nio.file.Files;
@@ -20,6 +24,7 @@ import java.nio.file.Path;
 import java.util.ArrayList;
 import java.util.List;
 import java.util.Locale;
+import java.util.Map;
 
 /**
  * Where a program of the gallery draws: a scene with one plot group and a light, a view of it with its settings, the
@@ -87,6 +92,24 @@ public final class Studio implements AutoCloseable {
      */
     public Path data(String file) {
         return root.resolve("data").resolve(file);
+    }
+
+    /**
+     * Reads a file of sample data by the library's reader.
+     *
+     * @param file its name
+     * @param kind the kind of plot that the data are for
+     * @param roles what each of its arrays is for
+     * @return a record, which the caller closes
+     * @throws IOException if the file cannot be read
+     */
+    public PostDataObject read(String file, PlotKind kind, Map<DataRole, Integer> roles) throws IOException {
+        PostDataObject record = PostDataObject.forFile(kind, roles);
+        if (!PostDataReader.readPostData(record, data(file))) {
+            record.close();
+            throw new IOException(file + " cannot be read; the log says why.");
+        }
+        return record;
     }
 
     /**

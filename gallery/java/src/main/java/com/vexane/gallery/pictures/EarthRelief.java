@@ -5,10 +5,6 @@ import com.vexane.gallery.Picture;
 import com.vexane.gallery.PlotFile;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.SceneGraphPlotSurface3d;
-import com.vexane.producer.DataRole;
-import com.vexane.producer.PlotKind;
-import com.vexane.producer.PostDataBuilder;
-import com.vexane.producer.PostDataGroup;
 import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
@@ -19,15 +15,8 @@ public final class EarthRelief implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
         PlotFile file = PlotFile.read(studio.data("earth_relief_3d.txt"));
-        float[][] normals = file.normals();
-        PostDataGroup globe = new PostDataGroup()
-                .coordinates(file.coordinates())
-                .normals(normals[0], normals[1], normals[2])
-                .elements(file.triangles())
-                .data(file.data());
         try (SceneGraphPlotSurface3d plot = new SceneGraphPlotSurface3d(1);
-                PostDataObject record =
-                        new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0).addGroup(globe).build()) {
+                PostDataObject record = file.surface3d()) {
             plot.setColorTable("relief", studio.colors("relief"), true);
             plot.setSymmetricColorTable(true);
             plot.fillPlot(record);

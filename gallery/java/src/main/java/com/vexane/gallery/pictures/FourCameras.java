@@ -4,7 +4,6 @@ import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.Camera3d;
-import com.vexane.graphics3d.PostDataReader;
 import com.vexane.graphics3d.SceneGraphPlotSurface2d;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.PlotKind;
@@ -15,17 +14,14 @@ import java.util.Map;
 
 @About(title = "One scene in four cameras",
         text = "The mountains again: from close by in perspective, where parallel edges run together; in orthographic "
-                + "projection, where they stay parallel; with the axes stretched until all three look equally long; and "
-                + "zoomed by the mouse wheel about the corner of a peak.")
+                + "projection, where they stay parallel; with the axes stretched until all three look equally long; "
+                + "and zoomed by the mouse wheel about a peak.")
 public final class FourCameras implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
         Map<DataRole, Integer> roles = Map.of(DataRole.COLOR, 1, DataRole.HEIGHT, 1);
         try (SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
-                PostDataObject record = PostDataObject.forFile(PlotKind.SURFACE_2D, roles)) {
-            if (!PostDataReader.readPostData(record, studio.data("terrain_2d.txt"))) {
-                throw new IOException("The file cannot be read; the log says why.");
-            }
+                PostDataObject record = studio.read("terrain_2d.txt", PlotKind.SURFACE_2D, roles)) {
             plot.setColorTable("viridis", studio.colors("viridis"), true);
             plot.fillPlot(record);
             plot.setHeightScale(0.2f);

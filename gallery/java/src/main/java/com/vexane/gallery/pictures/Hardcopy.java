@@ -8,10 +8,6 @@ import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.HardcopySettings;
 import com.vexane.graphics3d.SceneGraphPlotSurface3d;
 import com.vexane.graphics3d.TextItem;
-import com.vexane.producer.DataRole;
-import com.vexane.producer.PlotKind;
-import com.vexane.producer.PostDataBuilder;
-import com.vexane.producer.PostDataGroup;
 import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
@@ -24,15 +20,8 @@ public final class Hardcopy implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
         PlotFile file = PlotFile.read(studio.data("bracket_stress_3d.txt"));
-        float[][] normals = file.normals();
-        PostDataGroup surface = new PostDataGroup()
-                .coordinates(file.coordinates())
-                .normals(normals[0], normals[1], normals[2])
-                .elements(file.triangles())
-                .data(file.data());
         try (SceneGraphPlotSurface3d plot = new SceneGraphPlotSurface3d(1);
-                PostDataObject record =
-                        new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0).addGroup(surface).build();
+                PostDataObject record = file.surface3d();
                 HardcopySettings hardcopy = new HardcopySettings()) {
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(record);

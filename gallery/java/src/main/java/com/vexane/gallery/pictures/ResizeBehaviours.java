@@ -11,10 +11,6 @@ import com.vexane.graphics3d.ResizeBehaviour;
 import com.vexane.graphics3d.SceneGraphPlotSurface3d;
 import com.vexane.graphics3d.SceneSettings;
 import com.vexane.graphics3d.TextFormat;
-import com.vexane.producer.DataRole;
-import com.vexane.producer.PlotKind;
-import com.vexane.producer.PostDataBuilder;
-import com.vexane.producer.PostDataGroup;
 import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
@@ -30,15 +26,8 @@ public final class ResizeBehaviours implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
         PlotFile file = PlotFile.read(studio.data("bracket_stress_3d.txt"));
-        float[][] normals = file.normals();
-        PostDataGroup surface = new PostDataGroup()
-                .coordinates(file.coordinates())
-                .normals(normals[0], normals[1], normals[2])
-                .elements(file.triangles())
-                .data(file.data());
         try (SceneGraphPlotSurface3d plot = new SceneGraphPlotSurface3d(1);
-                PostDataObject record =
-                        new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0).addGroup(surface).build()) {
+                PostDataObject record = file.surface3d()) {
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(record);
             plot.setLegendLimits(0, file.percentile(0.995));

@@ -3,7 +3,6 @@ package com.vexane.gallery.pictures;
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
 import com.vexane.gallery.Studio;
-import com.vexane.graphics3d.PostDataReader;
 import com.vexane.graphics3d.SceneGraphPlotSurface2d;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.PlotKind;
@@ -19,10 +18,7 @@ public final class TerrainFlat implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
         try (SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
-                PostDataObject record = PostDataObject.forFile(PlotKind.SURFACE_2D, Map.of(DataRole.COLOR, 0))) {
-            if (!PostDataReader.readPostData(record, studio.data("terrain_2d.txt"))) {
-                throw new IOException("The file cannot be read; the log says why.");
-            }
+                PostDataObject record = studio.read("terrain_2d.txt", PlotKind.SURFACE_2D, Map.of(DataRole.COLOR, 0))) {
             plot.setColorTable("magma", studio.colors("magma"), true);
             plot.fillPlot(record);
             studio.show(plot, "Slope, 1 being the steepest").flat().save();

@@ -3,7 +3,6 @@ package com.vexane.gallery.pictures;
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
 import com.vexane.gallery.Studio;
-import com.vexane.graphics3d.PostDataReader;
 import com.vexane.graphics3d.SceneGraphPlotSurface2d;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.PlotKind;
@@ -21,10 +20,7 @@ public final class TerrainRaised implements Picture {
     public void draw(Studio studio) throws IOException {
         Map<DataRole, Integer> roles = Map.of(DataRole.COLOR, 1, DataRole.HEIGHT, 1);
         try (SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
-                PostDataObject record = PostDataObject.forFile(PlotKind.SURFACE_2D, roles)) {
-            if (!PostDataReader.readPostData(record, studio.data("terrain_2d.txt"))) {
-                throw new IOException("The file cannot be read; the log says why.");
-            }
+                PostDataObject record = studio.read("terrain_2d.txt", PlotKind.SURFACE_2D, roles)) {
             plot.setColorTable("viridis", studio.colors("viridis"), true);
             plot.fillPlot(record);
             plot.setHeightScale(0.2f);
