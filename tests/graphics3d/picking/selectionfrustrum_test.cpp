@@ -3,6 +3,7 @@
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/foundation/boundingbox.h"
+#include "tests/support/randomcameras.h"
 
 #include <gtest/gtest.h>
 
@@ -167,6 +168,32 @@ TEST(SelectionFrustrum, ofA2dCameraHoldsWhatTheRectangleShowsAtAnyDepth)
     ASSERT_TRUE(camera.setViewLimits(-2.0f, 2.5f, -1.0f, 1.5f, false));
     expectFrustrumsHoldWhatTheyShow(camera, {}, [](const Vector3f&) { return true; });
     EXPECT_FALSE(SelectionFrustrum(camera, 50, 100, 50, 60).isInside(camera.screenToWorld(50, 80, 0.0f))) << "no width";
+}
+
+TEST(SelectionFrustrum, ofAnyCameraHoldsWhatTheRectangleShows)
+{
+    int held = 0;
+    forRandomCameras([&](const Camera3d& camera, RandomCameras& random) {
+        const int left = camera.getRenderAreaLeft();
+        const int bottom = camera.getRenderAreaBottom();
+        const int x0 = random.integer(0, camera.getRenderAreaWidth() - 10);
+        const int y0 = random.integer(0, camera.getRenderAreaHeight() - 10);
+        const int x1 = random.integer(x0 + 10, camera.getRenderAreaWidth());
+        const int y1 = random.integer(y0 + 10, camera.getRenderAreaHeight());
+        const SelectionFrustrum frustrum(camera, left + x0, bottom + y1, left + x1, bottom + y0);
+        for (int i = 0; i < 50; ++i) {
+            // Between the clipping planes, so in front of the eye.
+            const Vector3f point = camera.getRotationPoint() + random.vector(4.0f);
+            const Vector3f pixel = camera.worldToScreenRH(point);
+            const float depth = std::min({pixel.x - static_cast<float>(x0), static_cast<float>(x1) - pixel.x,
+                                          pixel.y - static_cast<float>(y0), static_cast<float>(y1) - pixel.y});
+            if (std::fabs(depth) > 0.1f && std::fabs(pixel.z) < 1.0f) {
+                EXPECT_EQ(frustrum.isInside(point), depth > 0.0f) << point << " at " << pixel;
+                held += depth > 0.0f ? 1 : 0;
+            }
+        }
+    });
+    EXPECT_GT(held, 500);
 }
 
 /// Places of world points in a pixel, as fractions of its side from the lower left corner: well inside or well outside.
