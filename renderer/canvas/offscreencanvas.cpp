@@ -129,6 +129,9 @@ boost::shared_ptr<SceneSettings> OffscreenCanvas::getSceneSettings()
 void OffscreenCanvas::setScene(const boost::shared_ptr<Scene>& scene)
 {
     if (m_sceneView) {
+        if (m_sceneView->getScene() == scene) {
+            return;
+        }
         m_sceneView->disconnect();
     }
     m_sceneView = scene ? SceneView::connect(scene) : nullptr;
@@ -188,6 +191,7 @@ void OffscreenCanvas::draw()
     m_isDrawn = false;
     const Appearance look = appearance();
     m_renderer->draw(frameOf(m_settings->cameraTransforms(), look), *m_target);
+    m_view = m_renderer->getView();
     if (m_sceneView) {
         m_sceneView->getSettings().resetChangedFlags();
     }
@@ -248,11 +252,6 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
 const UploadCounts& OffscreenCanvas::getUploadCounts() const
 {
     return m_renderer->getUploadCounts();
-}
-
-const View& OffscreenCanvas::getView() const
-{
-    return m_renderer->getView();
 }
 
 std::string OffscreenCanvas::getDriver() const

@@ -4,6 +4,7 @@
 #include "renderer/canvas/sceneview.h"
 #include "renderer/gl/eglcontext.h"
 #include "renderer/scene/uploadcounts.h"
+#include "renderer/scene/view.h"
 
 #include <boost/shared_ptr.hpp>
 
@@ -23,7 +24,6 @@ namespace vxrenderer {
 
 struct Appearance;
 struct Frame;
-struct View;
 class SceneRenderer;
 class Target;
 
@@ -54,7 +54,8 @@ public:
     int getHeight() const;
     int getSamples() const;
 
-    /// Shows a scene, or nothing for null. The canvas drops its share when it finds the scene disposed.
+    /// Shows a scene, or nothing for null. The canvas drops its share when it finds the scene disposed. The scene that
+    /// it shows already keeps its settings.
     void setScene(const boost::shared_ptr<vxgraphics3d::Scene>& scene);
 
     /// Looks at the whole scene with the camera of the present mode: a 3D camera keeps its direction and turns about
@@ -74,15 +75,15 @@ public:
     /// @throws std::logic_error if nothing was drawn since the size was given
     std::vector<std::uint8_t> encodePng() const;
 
-    /// Draws the view at another size as its settings ask, and gives the bytes of an image file. The view itself stays
-    /// as it is.
+    /// Draws the view at another size as the settings of the export ask, and gives the bytes of an image file. The view
+    /// itself stays as it is.
     /// @throws std::invalid_argument for a size below 1 or beyond what the driver allows
     /// @throws std::runtime_error if the driver reports a fault
     std::vector<std::uint8_t> encodeHardcopy(const vxgraphics3d::HardcopySettings& settings, int width, int height);
 
     const UploadCounts& getUploadCounts() const;
     /// How the scene was seen in the picture drawn last.
-    const View& getView() const;
+    const View& getView() const { return m_view; }
     /// Which way to a drawing context worked, and who draws.
     std::string getDriver() const;
 
@@ -103,6 +104,7 @@ private:
     boost::shared_ptr<vxgraphics3d::CanvasPickSettings> m_pickSettings;
     boost::shared_ptr<vxgraphics3d::ContextData> m_contextData;
     boost::shared_ptr<SceneView> m_sceneView;
+    View m_view;
     bool m_isDrawn = false;
 };
 

@@ -3,6 +3,7 @@
 #include "graphics3d/canvas/canvasbackgroundimage.h"
 #include "graphics3d/foundation/image.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vxrenderer {
@@ -45,10 +46,19 @@ void main()
 }
 )";
 
-/// Copies all levels of an image to the texture that is bound.
+/// Copies the levels of an image that the driver takes to the texture that is bound.
 void load(const CanvasBackgroundImage& image)
 {
-    const int first = image.getMinLevel();
+    GLint largest = 0;
+    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
+    const auto sideOf = [&](int level) {
+        const Image& pixels = *image.getImage(level);
+        return std::max(pixels.getWidth(), pixels.getHeight());
+    };
+    int first = image.getMinLevel();
+    while (first < image.getMaxLevel() && sideOf(first) > largest) {
+        ++first;
+    }
     for (int level = first; level <= image.getMaxLevel(); ++level) {
         const Image& pixels = *image.getImage(level);
         glTexImage2D(GL_TEXTURE_2D, level - first, GL_RGBA8, pixels.getWidth(), pixels.getHeight(), 0, GL_RGBA,

@@ -85,10 +85,12 @@ vec3 lit(vec3 color)
     for (int i = 0; i < numLights; ++i) {
         vec4 place = lightPlaces[i];
         vec3 toLight = normalize(place.xyz - place.w * eyePosition);
-        if (dot(-toLight, lightCones[i].xyz) < lightCones[i].w) {
+        float falling = dot(n, toLight);
+        // No light falls from behind, from nowhere or out of a cone; the comparison also fails for what is no number.
+        if (!(falling > 0.0) || dot(-toLight, lightCones[i].xyz) < lightCones[i].w) {
             continue;
         }
-        received += lightDiffuse[i].rgb * max(dot(n, toLight), 0.0);
+        received += lightDiffuse[i].rgb * falling;
         float mirrored = max(dot(n, normalize(toLight + toEye)), 0.0);
         reflected += lightSpecular[i].rgb * pow(mirrored, shininess);
     }

@@ -1,11 +1,11 @@
 #include "renderer/scene/lighting.h"
 
-#include "graphics3d/cameras/icameratransforms.h"
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/pointlightsource.h"
 #include "graphics3d/lights/scenelight.h"
 #include "graphics3d/lights/scenesettingslight.h"
 #include "graphics3d/lights/spotlightsource.h"
+#include "renderer/scene/lightplaces.h"
 
 #include <cmath>
 
@@ -29,33 +29,10 @@ void add(Lighting::Vec4& sum, const Lighting::Vec4& other)
     }
 }
 
-/// Where lights stand for the eye of a camera.
-class EyeSpace {
-public:
-    explicit EyeSpace(const ICameraTransforms& camera) : m_camera(camera) {}
-
-    /// The unit vector of a direction.
-    Lighting::Vec4 direction(const LightSource& light, const Vector3f& direction) const
-    {
-        Vector3f turned = light.isLockedToCamera() ? direction : m_camera.getRotationTransform() * direction;
-        turned.normalize();
-        return {turned.x, turned.y, turned.z, 0.0f};
-    }
-    /// A place: that of a light locked to the camera counts from the point which the camera turns about.
-    Lighting::Vec4 place(const LightSource& light, const Vector3f& position) const
-    {
-        const Vector3f eye = light.isLockedToCamera() ? toEye(m_camera.getRotationPoint()) + position : toEye(position);
-        return {eye.x, eye.y, eye.z, 1.0f};
-    }
-
-private:
-    Vector3f toEye(const Vector3f& world) const
-    {
-        return m_camera.getViewTransform() * (m_camera.getAxisViewScaleTransform() * world);
-    }
-
-    const ICameraTransforms& m_camera;
-};
+Lighting::Vec4 vec4(const Vector3f& vector, float w)
+{
+    return {vector.x, vector.y, vector.z, w};
+}
 
 } // namespace
 
@@ -70,7 +47,7 @@ Lighting Lighting::of(const SceneLight& light, const SceneSettingsLight& switche
     if (switches.isGlobalAmbientLight()) {
         add(result.ambient, scaled(light.getGlobalAmbientColor(), ambientScale));
     }
-    const EyeSpace eye(camera);
+    const LightPlaces eye(camera);
     for (const auto& [id, source] : light.getLightSources()) {
         if (!source->isActive() || result.numLights == c_maxLights) {
             continue;
@@ -87,17 +64,16 @@ Lighting Lighting::of(const SceneLight& light, const SceneSettingsLight& switche
         result.cones[i] = {0.0f, 0.0f, -1.0f, -2.0f};
         switch (source->getType()) {
         case LightSource::LightDirection:
-            result.places[i] =
-                eye.direction(*source, static_cast<const DirectionLightSource&>(*source).getFromDirection());
+            result.places[i] = vec4(eye.direction(static_cast<const DirectionLightSource&>(*source)), 0.0f);
             break;
         case LightSource::LightPoint:
-            result.places[i] = eye.place(*source, static_cast<const PointLightSource&>(*source).getPosition());
+            result.places[i] =
+                vec4(eye.place(*source, static_cast<const PointLightSource&>(*source).getPosition()), 1.0f);
             break;
         case LightSource::LightSpot: {
             const auto& spot = static_cast<const SpotLightSource&>(*source);
-            result.places[i] = eye.place(spot, spot.getPosition());
-            result.cones[i] = eye.direction(spot, spot.getAtDirection());
-            result.cones[i][3] = std::cos(0.5f * spot.getSpreadAngle());
+            result.places[i] = vec4(eye.place(spot, spot.getPosition()), 1.0f);
+            result.cones[i] = vec4(eye.aim(spot), std::cos(0.5f * spot.getSpreadAngle()));
             break;
         }
         }

@@ -2,11 +2,11 @@
 
 #include "graphics3d/cameras/icameratransforms.h"
 #include "graphics3d/foundation/boundingbox.h"
-#include "graphics3d/foundation/matrixf.h"
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/pointlightsource.h"
 #include "graphics3d/lights/scenelight.h"
 #include "graphics3d/lights/spotlightsource.h"
+#include "renderer/scene/lightplaces.h"
 
 #include <cmath>
 #include <numbers>
@@ -31,25 +31,6 @@ struct Sides {
     Vector3f second;
 
     explicit Sides(const Vector3f& axis) : first(axis.orthogonal()), second(axis.cross(first)) {}
-};
-
-/// Where lights stand in the world, also those that are locked to the camera.
-class WorldSpace {
-public:
-    explicit WorldSpace(const ICameraTransforms& camera) : m_camera(camera) {}
-
-    Vector3f direction(const LightSource& light, const Vector3f& direction) const
-    {
-        return (light.isLockedToCamera() ? m_camera.getInvRotationTransform() * direction : direction).normalized();
-    }
-    Vector3f place(const LightSource& light, const Vector3f& position) const
-    {
-        return light.isLockedToCamera() ? m_camera.getRotationPoint() + m_camera.getInvRotationTransform() * position
-                                        : position;
-    }
-
-private:
-    const ICameraTransforms& m_camera;
 };
 
 void addStar(std::vector<LineSegment>& lines, const Vector3f& place, float size)
@@ -93,8 +74,8 @@ void addCone(std::vector<LineSegment>& lines, const Vector3f& tip, const Vector3
 
 std::vector<LightMarker> lightMarkers(const SceneLight& light, const BoundingBox& box, const ICameraTransforms& camera)
 {
-    const WorldSpace world(camera);
-    const float size = box.getHalfSize().length();
+    const LightPlaces eye(camera);
+    const float size = camera.getViewBoundingBox(box).getHalfSize().length();
     const float radius = size > 0.0f ? size : 1.0f;
     std::vector<LightMarker> markers;
     for (const auto& [id, source] : light.getLightSources()) {
@@ -107,19 +88,19 @@ std::vector<LightMarker> lightMarkers(const SceneLight& light, const BoundingBox
         switch (source->getType()) {
         case LightSource::LightDirection: {
             const auto& sun = static_cast<const DirectionLightSource&>(*source);
-            addArrow(marker.lines, box.getCenter(), world.direction(sun, sun.getFromDirection()), radius);
+            addArrow(marker.lines, eye.toEye(box.getCenter()), eye.direction(sun), radius);
             break;
         }
         case LightSource::LightPoint: {
             const auto& lamp = static_cast<const PointLightSource&>(*source);
-            addStar(marker.lines, world.place(lamp, lamp.getPosition()), c_starSize * radius);
+            addStar(marker.lines, eye.place(lamp, lamp.getPosition()), c_starSize * radius);
             break;
         }
         case LightSource::LightSpot: {
             const auto& spot = static_cast<const SpotLightSource&>(*source);
-            const Vector3f place = world.place(spot, spot.getPosition());
+            const Vector3f place = eye.place(spot, spot.getPosition());
             addStar(marker.lines, place, c_starSize * radius);
-            addCone(marker.lines, place, world.direction(spot, spot.getAtDirection()), spot.getSpreadAngle(), radius);
+            addCone(marker.lines, place, eye.aim(spot), spot.getSpreadAngle(), radius);
             break;
         }
         }

@@ -13,7 +13,7 @@ class SceneLight;
 
 namespace vxrenderer {
 
-/// The sign of a light source: lines in world coordinates.
+/// The sign of a light source: lines in coordinates of the eye, so that it keeps its shape where axes are stretched.
 struct LightMarker {
     std::vector<LineSegment> lines;
     vxgraphics3d::Color color;

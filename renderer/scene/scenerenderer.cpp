@@ -224,24 +224,21 @@ void SceneRenderer::drawScene(const Frame& frame, std::vector<PlotItem>& plots, 
 
 void SceneRenderer::drawPlots(std::vector<PlotItem>& plots, const PaintContext& context)
 {
-    const auto drawAll = [&] {
-        for (const PlotItem& item : plots) {
-            for (const auto& painter : m_plotPainters) {
-                if (painter->draws(item.plot->getType())) {
-                    painter->draw(item, context);
-                    break;
-                }
-            }
+    const auto drawPlot = [&](const PlotItem& item) {
+        const auto painter = std::ranges::find_if(
+            m_plotPainters, [&](const auto& candidate) { return candidate->draws(item.plot->getType()); });
+        if (painter != m_plotPainters.end()) {
+            (*painter)->draw(item, context);
         }
     };
     if (context.opacity >= 1.0f) {
-        drawAll();
+        std::ranges::for_each(plots, drawPlot);
         return;
     }
     if (context.opacity <= 0.0f) {
         return;
     }
-    // What lies farther off comes first: plots by their middles, and of each surface the side that faces away.
+    // What lies farther off comes first: plots by their middles, and of each plot what faces away.
     const auto depthOf = [&](const PlotItem& item) {
         return (context.view.sceneToEye * item.plot->getBoundingBox().getCenter()).z;
     };
@@ -250,9 +247,11 @@ void SceneRenderer::drawPlots(std::vector<PlotItem>& plots, const PaintContext& 
     setBlending(true);
     glDepthMask(GL_FALSE);
     glEnable(GL_CULL_FACE);
-    for (const GLenum culled : {GLenum{GL_FRONT}, GLenum{GL_BACK}}) {
-        glCullFace(culled);
-        drawAll();
+    for (const PlotItem& item : plots) {
+        for (const GLenum culled : {GLenum{GL_FRONT}, GLenum{GL_BACK}}) {
+            glCullFace(culled);
+            drawPlot(item);
+        }
     }
     glDisable(GL_CULL_FACE);
     glDepthMask(GL_TRUE);
@@ -261,12 +260,11 @@ void SceneRenderer::drawPlots(std::vector<PlotItem>& plots, const PaintContext& 
 
 void SceneRenderer::drawLightMarkers(const Frame& frame)
 {
-    const Matrixf toClip = m_view.projection * m_view.sceneToEye;
     const BoundingBox& box = frame.scene->getBoundingBox();
     for (const LightMarker& marker : lightMarkers(*frame.scene->getSceneLight(), box, frame.camera)) {
         const float width = marker.isSelected ? c_selectedMarkerWidth : c_markerWidth;
-        m_lines.draw(marker.lines, toClip, m_view.area.width, m_view.area.height, width * frame.appearance.scale,
-                     marker.color);
+        m_lines.draw(marker.lines, m_view.projection, m_view.area.width, m_view.area.height,
+                     width * frame.appearance.scale, marker.color);
     }
 }
 
@@ -351,6 +349,7 @@ void SceneRenderer::draw(const Frame& frame, const Target& target)
     m_background.draw(frame.appearance.backdrop, target.getWidth(), target.getHeight(), frame.appearance.scale);
     if (frame.scene == nullptr) {
         target.beginOverlay();
+        dropUnused();
         return;
     }
     updateTitle(*frame.scene);

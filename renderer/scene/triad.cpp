@@ -26,7 +26,8 @@ Triad Triad::of(const vxgraphics3d::ICameraTransforms& camera, float originX, fl
     std::array<std::size_t, 3> order = {0, 1, 2};
     std::transform(units.begin(), units.end(), turned.begin(),
                    [&](const Vector3f& unit) { return camera.getRotationTransform() * unit; });
-    std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) { return turned[a].z < turned[b].z; });
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return turned[a].z < turned[b].z; });
 
     Triad triad;
     for (std::size_t place = 0; place < order.size(); ++place) {

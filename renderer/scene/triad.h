@@ -6,7 +6,6 @@
 #include <vector>
 
 namespace vxgraphics3d {
-class AxisOrientationIndicator;
 class ICameraTransforms;
 } // namespace vxgraphics3d
 

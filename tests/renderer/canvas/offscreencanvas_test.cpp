@@ -42,8 +42,7 @@ protected:
     /// The colour where a point of the scene is drawn.
     Rgb colorAt(const Picture& picture, const Vector3f& point) const
     {
-        const auto [x, y] = pixelOf(m_canvas, point);
-        return picture.at(static_cast<int>(std::floor(x)), static_cast<int>(std::floor(y)));
+        return vxrenderer::colorAt(m_canvas, picture, point);
     }
     /// Colours in the middles of the four quarters of the unit square along x.
     std::vector<Rgb> quarters(const Picture& picture) const

@@ -124,6 +124,21 @@ std::array<double, 2> pixelOf(const OffscreenCanvas& canvas, const vxgraphics3d:
             view.area.y + 0.5 * (1.0 - static_cast<double>(place.y)) * view.area.height};
 }
 
+Rgb colorAt(const OffscreenCanvas& canvas, const Picture& picture, const vxgraphics3d::Vector3f& point)
+{
+    const auto [x, y] = pixelOf(canvas, point);
+    return picture.at(static_cast<int>(std::floor(x)), static_cast<int>(std::floor(y)));
+}
+
+boost::shared_ptr<vxgraphics3d::SceneGraphPlotSurface3d> TestScene::addSquare(int id, int color, double height)
+{
+    GridRecord record;
+    record.height = [height](double, double) { return height; };
+    const auto plot = add<vxgraphics3d::SceneGraphPlotSurface3d>(id, record, {color});
+    plot->setColor(vxgraphics3d::Color::fromRgb(color));
+    return plot;
+}
+
 void TestScene::addFilled(const boost::shared_ptr<vxgraphics3d::SceneGraphPlot>& plot, const GridRecord& record,
                           const std::vector<int>& colors)
 {
@@ -161,6 +176,14 @@ void lookFrom(OffscreenCanvas& canvas, double azimuth, double elevation)
     settings->setRenderMode(vxgraphics3d::Canvas3dSettings::RenderMode3d);
     settings->camera3d()->lookAt({}, vector(-std::cos(a) * std::cos(e), -std::sin(a) * std::cos(e), -std::sin(e)),
                                  vector(-std::cos(a) * std::sin(e), -std::sin(a) * std::sin(e), std::cos(e)));
+}
+
+void showFromAbove(OffscreenCanvas& canvas, const TestScene& scene)
+{
+    canvas.setScene(scene.scene);
+    showPlotsAlone(canvas);
+    canvas.getCanvas3dSettings()->camera3d()->setProjectionType(vxgraphics3d::Camera3d::ProjectionOrthographic);
+    lookFrom(canvas, -90.0, 90.0);
 }
 
 } // namespace vxrenderer

@@ -58,6 +58,9 @@ Picture drawnAsIs(OffscreenCanvas& canvas);
 /// Where a point of the scene stands in the picture drawn last, in pixels from the top left corner.
 std::array<double, 2> pixelOf(const OffscreenCanvas& canvas, const vxgraphics3d::Vector3f& point);
 
+/// The colour where a point of the scene stands in the picture drawn last.
+Rgb colorAt(const OffscreenCanvas& canvas, const Picture& picture, const vxgraphics3d::Vector3f& point);
+
 /// A scene with one group of plots.
 struct TestScene {
     boost::shared_ptr<vxgraphics3d::Scene> scene = boost::make_shared<vxgraphics3d::Scene>();
@@ -75,6 +78,9 @@ struct TestScene {
         return plot;
     }
 
+    /// Adds the unit square at a height, in one colour (0xRRGGBB) and with normals upwards.
+    boost::shared_ptr<vxgraphics3d::SceneGraphPlotSurface3d> addSquare(int id, int color, double height = 0.0);
+
 private:
     void addFilled(const boost::shared_ptr<vxgraphics3d::SceneGraphPlot>& plot, const GridRecord& record,
                    const std::vector<int>& colors);
@@ -86,5 +92,7 @@ void showPlotsAlone(OffscreenCanvas& canvas);
 void showFlat(OffscreenCanvas& canvas, const TestScene& scene);
 /// Turns a canvas to a 3D view from a direction, given by its azimuth and elevation in degrees.
 void lookFrom(OffscreenCanvas& canvas, double azimuth, double elevation);
+/// Lets a canvas show nothing but the plots of a scene, from above and without perspective: x to the right, y upwards.
+void showFromAbove(OffscreenCanvas& canvas, const TestScene& scene);
 
 } // namespace vxrenderer
