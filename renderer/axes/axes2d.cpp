@@ -23,7 +23,8 @@ using vxgraphics3d::Vector3f;
 constexpr float c_tickLength = 0.4f;
 constexpr float c_gap = 0.3f;
 constexpr float c_labelPadding = 0.6f;
-constexpr float c_tickDistance = 5.0f;
+constexpr float c_tickDistanceAlong = 5.0f;
+constexpr float c_tickDistanceAcross = 3.0f;
 constexpr float c_spokeDistance = 6.0f;
 
 constexpr const char* c_degree = "\xC2\xB0";
@@ -35,7 +36,7 @@ bool isPolar(const Axes2dInput& input)
 
 /// How far the parts of the axes reach out from the area, the same for margins and labels.
 struct Room {
-    /// Of the widest tick label of the left axis, and of half a label at the right end.
+    /// Of the widest tick label.
     float labelWidth = 0.0f;
     float labelHeight = 0.0f;
     float lineHeight = 0.0f;
@@ -52,11 +53,8 @@ struct Room {
         if (isPolar(input)) {
             labelWidth = sizeOfMarkup(std::string("330") + c_degree, metrics).width;
         } else {
-            // A sign, the point, and a digit more than asked for: the zero ahead of the point.
-            const int digits = std::clamp(input.digits, 1, c_allDigits) + 1;
-            labelWidth = std::max(
-                sizeOfMarkup(numberText(-0.5) + std::string(static_cast<std::size_t>(digits - 2), '0'), metrics).width,
-                sizeOfMarkup(powerText(-88), metrics).width);
+            labelWidth = std::max(sizeOfMarkup(widestLabel(input.digits), metrics).width,
+                                  sizeOfMarkup(powerText(-88), metrics).width);
         }
         const auto sizeOf = [&](const vxbase::UString& title, int room) {
             return title.empty() ? LabelSize() : sizeOfMarkup(title.toUtf8(), metrics, static_cast<float>(room));
@@ -66,10 +64,13 @@ struct Room {
         symmetryTitle = sizeOf(input.setup.getSymmetryAxisTitle(), input.pictureWidth);
     }
 
-    /// From the area to the far side of its tick labels.
+    /// From the area to its tick labels.
     float toLabels() const { return (c_tickLength + c_gap) * em; }
+    /// The same downwards: labels below must pass under a label at the lower end of the left axis.
+    float downToLabels() const { return std::max(toLabels(), 0.5f * labelHeight + 0.1f * em); }
+    /// From the area to what stands beyond its tick labels.
     float besideLabels() const { return toLabels() + labelWidth + c_gap * em; }
-    float belowLabels() const { return toLabels() + labelHeight + c_gap * em; }
+    float belowLabels() const { return downToLabels() + labelHeight + c_gap * em; }
 };
 
 class Layouter {
@@ -110,7 +111,8 @@ private:
         scale.spacing = m_setup.isAutoSpacing() ? 0.0 : spacing;
         scale.extra = extra;
         scale.digits = m_input.digits;
-        scale.tickDistance = static_cast<double>(c_tickDistance * m_room.em);
+        scale.tickDistance =
+            static_cast<double>((extent == &LabelSize::width ? c_tickDistanceAlong : c_tickDistanceAcross) * m_room.em);
         scale.labelLength = [this, extent](const std::string& markup) {
             return static_cast<double>(sizeOfMarkup(markup, m_metrics).*extent + c_labelPadding * m_room.em);
         };
@@ -172,7 +174,7 @@ private:
             m_layout.grid.push_back(line(x, m_bottom, x, m_top, tick.isMinor));
             if (!tick.label.empty()) {
                 m_layout.ticks.push_back(line(x, m_bottom, x, m_bottom + c_tickLength * m_room.em));
-                place({.markup = tick.label, .x = x, .y = m_bottom + m_room.toLabels(), .alignY = 0.0f});
+                place({.markup = tick.label, .x = x, .y = m_bottom + m_room.downToLabels(), .alignY = 0.0f});
             }
         }
     }
@@ -211,7 +213,8 @@ private:
                         .isVertical = true,
                         .room = static_cast<float>(m_input.pictureHeight)});
         } else if (yExponent != 0) {
-            placeTitle({.markup = powerOf(yExponent), .x = m_left, .y = above(), .alignX = 1.0f, .alignY = 1.0f});
+            placeTitle({.markup = powerOf(yExponent), .x = m_left, .y = above(), .alignX = 0.0f, .alignY = 1.0f});
+            m_powerEnd = m_left + sizeOfMarkup(powerOf(yExponent), m_metrics).width;
         }
     }
 
@@ -231,12 +234,12 @@ private:
         }
         const float at = m_left + fraction(x, 0.0) * (m_right - m_left);
         m_layout.frame.push_back(line(at, m_bottom, at, m_top));
-        // A power of ten may stand at the left end: the title then begins at the line.
-        const bool isAtEnd = at - 0.5f * m_room.symmetryTitle.width < m_left + m_room.em;
+        const float start = m_powerEnd + m_room.em;
+        const bool isBesidePower = at - 0.5f * m_room.symmetryTitle.width < start;
         placeTitle({.markup = m_setup.getSymmetryAxisTitle().toUtf8(),
-                    .x = isAtEnd ? std::max(at, m_left + 0.5f * m_room.em) : at,
+                    .x = isBesidePower ? start : at,
                     .y = above(),
-                    .alignX = isAtEnd ? 0.0f : 0.5f,
+                    .alignX = isBesidePower ? 0.0f : 0.5f,
                     .alignY = 1.0f,
                     .room = static_cast<float>(m_input.pictureWidth)});
     }
@@ -321,6 +324,8 @@ private:
     float m_top;
     float m_right;
     float m_bottom;
+    /// Of the power of ten above the left end of the frame.
+    float m_powerEnd = -HUGE_VALF;
     Axes2dLayout m_layout;
 };
 
@@ -342,6 +347,20 @@ AxisMargins axes2dMargins(const Axes2dInput& input, TextMetrics& metrics)
         margins.top = gap + std::max(room.symmetryTitle.height, room.labelHeight) + gap;
     }
     return margins;
+}
+
+PixelArea axes2dArea(const Axes2dInput& input, const PixelArea& room, TextMetrics& metrics)
+{
+    const AxisMargins margins = axes2dMargins(input, metrics);
+    const auto whole = [](float size) { return static_cast<int>(std::ceil(size)); };
+    PixelArea area = {room.x + whole(margins.left), room.y + whole(margins.top),
+                      room.width - whole(margins.left) - whole(margins.right),
+                      room.height - whole(margins.top) - whole(margins.bottom)};
+    if (isPolar(input)) {
+        const int side = std::min(area.width, area.height);
+        area = {area.x + (area.width - side) / 2, area.y + (area.height - side) / 2, side, side};
+    }
+    return area;
 }
 
 Axes2dLayout layoutAxes2d(const Axes2dInput& input, const PixelArea& area, TextMetrics& metrics)

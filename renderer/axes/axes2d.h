@@ -42,6 +42,10 @@ struct Axes2dInput {
 /// alone, not from the limits in sight: limits follow the shape of the area, and both would chase each other.
 AxisMargins axes2dMargins(const Axes2dInput& input, TextMetrics& metrics);
 
+/// The area that the axes leave to the camera in a part of the picture; in polar mode a square in the middle. It is
+/// empty if there is no room.
+PixelArea axes2dArea(const Axes2dInput& input, const PixelArea& room, TextMetrics& metrics);
+
 /// The axes around the area that the camera draws to. Labels that would leave the picture, and ticks of an axis without
 /// extent, are left out; an empty area has no axes.
 Axes2dLayout layoutAxes2d(const Axes2dInput& input, const PixelArea& area, TextMetrics& metrics);

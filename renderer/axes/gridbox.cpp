@@ -1,8 +1,8 @@
 #include "renderer/axes/gridbox.h"
 
-#include "graphics3d/cameras/icameratransforms.h"
 #include "graphics3d/foundation/boundingbox.h"
 #include "renderer/axes/labelplacer.h"
+#include "renderer/axes/projector.h"
 #include "renderer/picture/ticks.h"
 
 #include <algorithm>
@@ -13,121 +13,23 @@
 namespace vxrenderer {
 namespace {
 
-using vxgraphics3d::BoundingBox;
-using vxgraphics3d::ICameraTransforms;
-using vxgraphics3d::Matrixf;
 using vxgraphics3d::Vector3f;
-
-using Point = std::array<double, 3>;
 
 // In units of the font size.
 constexpr double c_tickLength = 0.4;
 constexpr double c_gap = 0.3;
 constexpr double c_titleGap = 0.5;
-constexpr double c_tickDistance = 3.5;
+constexpr double c_tickDistance = 2.2;
 /// Axes that look shorter are not labelled.
 constexpr double c_shortestAxis = 1.5;
 constexpr int c_mostTicks = 100;
-/// Farther away, a float cannot tell pixels apart.
-constexpr double c_farthestPixel = 1e7;
 /// Sine of the angle below which a face is seen edge-on.
 constexpr double c_edgeOn = 1e-4;
-
-struct Pixel {
-    double x;
-    double y;
-
-    Pixel operator+(const Pixel& other) const { return {x + other.x, y + other.y}; }
-    Pixel operator-(const Pixel& other) const { return {x - other.x, y - other.y}; }
-    Pixel operator*(double factor) const { return {x * factor, y * factor}; }
-    double dot(const Pixel& other) const { return x * other.x + y * other.y; }
-    double length() const { return std::hypot(x, y); }
-};
 
 Point toDouble(const Vector3f& v)
 {
     return {static_cast<double>(v.x), static_cast<double>(v.y), static_cast<double>(v.z)};
 }
-
-bool isFinite(const Point& p)
-{
-    return std::isfinite(p[0]) && std::isfinite(p[1]) && std::isfinite(p[2]);
-}
-
-/// From the world to the pixels of an area, in double precision.
-class Projector {
-public:
-    Projector(const ICameraTransforms& camera, const PixelArea& area) : m_area(area)
-    {
-        const Matrixf matrix =
-            camera.getProjectionTransformRH() * camera.getViewTransform() * camera.getAxisViewScaleTransform();
-        for (int row = 0; row < 4; ++row) {
-            for (int column = 0; column < 4; ++column) {
-                m_rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] =
-                    static_cast<double>(matrix.get(row + 1, column + 1));
-            }
-        }
-        // In parallel projection the eye is a direction: away from what it sees.
-        const Matrixf& view = camera.getInvViewTransform();
-        m_isPerspective = camera.getProjectionTransformRH().get(4, 3) != 0.0f;
-        const int column = m_isPerspective ? 4 : 3;
-        const Matrixf& scale = camera.getInvAxisViewScaleTransform();
-        m_eye = {static_cast<double>(view.get(1, column) * scale.get(1, 1)),
-                 static_cast<double>(view.get(2, column) * scale.get(2, 2)),
-                 static_cast<double>(view.get(3, column) * scale.get(3, 3))};
-        m_scale = {static_cast<double>(scale.get(1, 1)), static_cast<double>(scale.get(2, 2)),
-                   static_cast<double>(scale.get(3, 3))};
-    }
-
-    bool isFinite() const
-    {
-        return vxrenderer::isFinite(m_eye) && std::all_of(m_rows.begin(), m_rows.end(), [](const auto& row) {
-                   return std::all_of(row.begin(), row.end(), [](double value) { return std::isfinite(value); });
-               });
-    }
-
-    /// Where a point is seen; nothing for one that is not in front of the eye.
-    std::optional<Pixel> pixelOf(const Point& point) const
-    {
-        const double w = product(3, point);
-        const Pixel pixel = {m_area.x + (0.5 + 0.5 * product(0, point) / w) * m_area.width,
-                             m_area.y + (0.5 - 0.5 * product(1, point) / w) * m_area.height};
-        const bool isSeen = w > 0.0 && std::abs(pixel.x) < c_farthestPixel && std::abs(pixel.y) < c_farthestPixel;
-        return isSeen ? std::optional(pixel) : std::nullopt;
-    }
-
-    /// How far the eye is in front of a face, along the outward normal of the face, in parts of its distance.
-    double height(std::size_t axis, double side, double coordinate, const Point& center) const
-    {
-        // Lengths as the eye sees them, in axis-scaled space.
-        Point away = m_eye;
-        double ahead = m_eye[axis];
-        if (m_isPerspective) {
-            for (std::size_t i = 0; i < 3; ++i) {
-                away[i] -= center[i];
-            }
-            ahead -= coordinate;
-        }
-        double squares = 0.0;
-        for (std::size_t i = 0; i < 3; ++i) {
-            squares += away[i] / m_scale[i] * (away[i] / m_scale[i]);
-        }
-        return squares > 0.0 ? side * ahead / std::abs(m_scale[axis]) / std::sqrt(squares) : 0.0;
-    }
-
-private:
-    double product(std::size_t row, const Point& point) const
-    {
-        const auto& r = m_rows[row];
-        return r[0] * point[0] + r[1] * point[1] + r[2] * point[2] + r[3];
-    }
-
-    PixelArea m_area;
-    std::array<std::array<double, 4>, 4> m_rows;
-    bool m_isPerspective;
-    Point m_eye;
-    Point m_scale;
-};
 
 enum class Facing { behind, edgeOn, ahead };
 
@@ -231,11 +133,10 @@ private:
         }
         for (std::size_t axis = 0; axis < 3; ++axis) {
             for (const bool isHigh : {false, true}) {
-                const double height =
-                    m_projector.height(axis, isHigh ? 1.0 : -1.0, isHigh ? m_high[axis] : m_low[axis], center);
-                m_facing[axis][isHigh] = height > c_edgeOn    ? Facing::ahead
-                                         : height < -c_edgeOn ? Facing::behind
-                                                              : Facing::edgeOn;
+                const double sine = m_projector.sineOfView(axis, isHigh, isHigh ? m_high[axis] : m_low[axis], center);
+                m_facing[axis][isHigh] = sine > c_edgeOn    ? Facing::ahead
+                                         : sine < -c_edgeOn ? Facing::behind
+                                                            : Facing::edgeOn;
             }
         }
         return numSeen > 0;
@@ -495,6 +396,21 @@ private:
 };
 
 } // namespace
+
+AxisMargins gridBoxMargins(const GridBoxInput& input, TextMetrics& metrics)
+{
+    LabelSize name;
+    for (const std::string& markup : input.names) {
+        const LabelSize size = sizeOfMarkup(markup, metrics);
+        name = {std::max(name.width, size.width), std::max(name.height, size.height)};
+    }
+    const LabelSize label = sizeOfMarkup(widestLabel(input.digits), metrics);
+    const float gaps = static_cast<float>(c_tickLength + c_gap + c_titleGap) * metrics.fontSize();
+    const float beside = gaps + label.width + name.width;
+    // Along a slanted edge the width of a label moves the name down as well.
+    const float below = gaps + label.height + 0.5f * label.width + name.height;
+    return {beside, below, beside, below};
+}
 
 GridBoxLayout layoutGridBox(const GridBoxInput& input, const PixelArea& area, TextMetrics& metrics)
 {

@@ -38,6 +38,10 @@ struct GridBoxInput {
     int digits = 3;
 };
 
+/// The room that labels need around a box that fills its area. It follows from names, digits and font alone; a name
+/// with a power of ten may reach further.
+AxisMargins gridBoxMargins(const GridBoxInput& input, TextMetrics& metrics);
+
 /// Lays out the box as the camera sees it in an area of the picture.
 ///
 /// A face is behind the scene if its normal points away from the eye; faces seen edge-on have no grid. Each axis with

@@ -3,6 +3,8 @@
 #include "renderer/axes/axislayout.h"
 #include "renderer/text/textmetrics.h"
 
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace vxrenderer {

@@ -101,6 +101,12 @@ std::string powerText(std::int64_t exponent)
     return "10^{" + decimalText(exponent, 0) + "}";
 }
 
+std::string widestLabel(int digits)
+{
+    // A sign, the point, and the zero ahead of it.
+    return decimalText(-5, std::clamp(digits, 1, c_allDigits));
+}
+
 std::string numberText(double value, int digits)
 {
     std::array<char, 32> buffer;

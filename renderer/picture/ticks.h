@@ -37,6 +37,9 @@ Ticks makeTicks(double end, double otherEnd, int aboutCount, int digits = c_allD
 Ticks makeMultiples(double end, double otherEnd, double step, int digits = c_allDigits);
 inline constexpr int c_mostMultiples = 10000;
 
+/// A label as wide as those of `makeTicks` get as long as their digits suffice.
+std::string widestLabel(int digits);
+
 /// A number with so many significant digits at most, in title markup: `1.5`, `2.5\times10^{-7}`.
 std::string numberText(double value, int digits = 6);
 

@@ -3,6 +3,7 @@
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/plots/graph/axissetup.h"
 #include "renderer/axes/labelplacer.h"
+#include "renderer/text/fontset.h"
 #include "tests/renderer/support/squaremetrics.h"
 
 #include <gtest/gtest.h>
@@ -62,18 +63,18 @@ TEST_F(Axes2d, standLeftAndBelow)
 {
     show(0.0f, 10.0f, 0.0f, 1.0f);
     const Axes2dLayout layout = this->layout();
-    EXPECT_EQ(told(layout, false), "0 2 4 6 8 10 0.0 0.5 1.0");
+    EXPECT_EQ(told(layout, false), "0 2 4 6 8 10 0.0 0.2 0.4 0.6 0.8 1.0");
     EXPECT_EQ(told(layout, true), "");
     ASSERT_EQ(layout.frame.size(), 4u);
     expectLine(layout.frame[0], {120.0f, 50.0f, 0.0f}, {520.0f, 50.0f, 0.0f});
-    ASSERT_EQ(layout.grid.size(), 9u);
+    ASSERT_EQ(layout.grid.size(), 12u);
     expectLine(layout.grid[2], {280.0f, 250.0f, 0.0f}, {280.0f, 50.0f, 0.0f});
-    expectLine(layout.grid[7], {120.0f, 150.0f, 0.0f}, {520.0f, 150.0f, 0.0f});
-    ASSERT_EQ(layout.ticks.size(), 9u);
+    expectLine(layout.grid[7], {120.0f, 210.0f, 0.0f}, {520.0f, 210.0f, 0.0f});
+    ASSERT_EQ(layout.ticks.size(), 12u);
     expectLine(layout.ticks[2], {280.0f, 250.0f, 0.0f}, {280.0f, 254.0f, 0.0f});
-    expectLine(layout.ticks[7], {120.0f, 150.0f, 0.0f}, {116.0f, 150.0f, 0.0f});
+    expectLine(layout.ticks[7], {120.0f, 210.0f, 0.0f}, {116.0f, 210.0f, 0.0f});
     expectLabel(layout.labels[2], 280.0f, 257.0f, 0.5f, 0.0f);
-    expectLabel(layout.labels[7], 113.0f, 150.0f, 1.0f, 0.5f);
+    expectLabel(layout.labels[7], 113.0f, 210.0f, 1.0f, 0.5f);
 }
 
 TEST_F(Axes2d, titlesTakeThePowersOfTen)
@@ -83,7 +84,7 @@ TEST_F(Axes2d, titlesTakeThePowersOfTen)
     EXPECT_EQ(told(layout, true), "\\times10^{5} \\times10^{6}");
     // The script makes a line 11.8 high.
     expectLabel(layout.labels[0], 520.0f, 271.8f, 1.0f, 0.0f);
-    expectLabel(layout.labels[1], 120.0f, 47.0f, 1.0f, 1.0f);
+    expectLabel(layout.labels[1], 120.0f, 47.0f, 0.0f, 1.0f);
 
     setup.setXAxisTitle("t");
     setup.setYAxisTitle("U");
@@ -157,46 +158,50 @@ TEST_F(Axes2d, aPolarViewHasCirclesAndSpokes)
     EXPECT_EQ(radii.size(), 68u);
 }
 
-TEST_F(Axes2d, marginsHoldEveryLabel)
+TEST_F(Axes2d, marginsFollowTheTitles)
 {
-    AxisMargins margins = axes2dMargins(input(), metrics);
+    const AxisMargins margins = axes2dMargins(input(), metrics);
     EXPECT_NEAR(margins.left, 80.0, 1e-3);
     EXPECT_NEAR(margins.bottom, 36.6, 1e-3);
     EXPECT_NEAR(margins.right, 38.0, 1e-3);
     EXPECT_NEAR(margins.top, 17.8, 1e-3);
     setup.setYAxisTitle("U");
     EXPECT_NEAR(axes2dMargins(input(), metrics).left, 94.8, 1e-3);
+}
+
+TEST_F(Axes2d, everyLabelHasRoomInsideTheMargins)
+{
+    FontLibrary library;
+    FontSet fonts(library, "default", 14);
     setup.setXAxisTitle("two\nlines");
     setup.setSymmetryAxis("r");
-
     std::mt19937 random(3);
     std::uniform_real_distribution<float> unit(0.0f, 1.0f);
-    margins = axes2dMargins(input(), metrics);
-    for (int round = 0; round < 500; ++round) {
-        setup.setXAxisLog(round % 5 == 0);
+    for (int round = 0; round < 1000; ++round) {
+        TextMetrics& font = round % 2 == 0 ? static_cast<TextMetrics&>(metrics) : fonts;
+        setup.setXAxisLog(round % 4 < 2);
         setup.setYAxisLog(round % 3 == 0);
         setup.setExtraX({static_cast<double>(unit(random)), 1.0});
         camera.setCameraMode(round % 7 == 0 ? Camera2d::ModePolar : Camera2d::ModeOrdinary);
-        margins = axes2dMargins(input(), metrics);
-        area.x = static_cast<int>(std::ceil(margins.left));
-        area.y = static_cast<int>(std::ceil(margins.top));
-        area.width = static_cast<int>(600.0f - margins.right) - area.x;
-        area.height = static_cast<int>(300.0f - margins.bottom) - area.y;
+        area = axes2dArea(input(), {0, 0, 600, 300}, font);
         const auto limit = [&](bool isLog) {
-            return isLog ? 20.0f * unit(random) - 10.0f
+            return isLog ? std::floor(20.0f * unit(random) - 10.0f)
                          : (unit(random) - 0.5f) * std::pow(10.0f, 12.0f * unit(random) - 6.0f);
         };
         const float x = limit(setup.getXAxisLog());
         const float y = limit(setup.getYAxisLog());
-        show(x, x + std::abs(x) * (0.01f + unit(random)), y, y + std::abs(y) * (0.01f + unit(random)));
-        const AxisMargins later = axes2dMargins(input(), metrics);
-        ASSERT_EQ(later.left, margins.left) << "the limits must not move the area that they follow";
-        ASSERT_EQ(later.bottom, margins.bottom);
+        const auto range = [&](float low, bool isLog) {
+            return (isLog ? 10.0f : std::abs(low)) * (0.01f + unit(random));
+        };
+        show(x, x + range(x, setup.getXAxisLog()), y, y + range(y, setup.getYAxisLog()));
+        const PixelArea later = axes2dArea(input(), {0, 0, 600, 300}, font);
+        ASSERT_TRUE(later.x == area.x && later.width == area.width && later.height == area.height)
+            << "the limits must not move the area that they follow";
 
-        const Axes2dLayout layout = this->layout();
+        const Axes2dLayout layout = layoutAxes2d(input(), area, font);
         std::vector<LabelRect> rects;
         for (const AxisLabel& label : layout.labels) {
-            const LabelRect rect = rectOf(label, metrics);
+            const LabelRect rect = rectOf(label, font);
             ASSERT_TRUE(rect.left >= 0.0f && rect.top >= 0.0f && rect.right <= 600.0f && rect.bottom <= 300.0f);
             for (const LabelRect& other : rects) {
                 ASSERT_FALSE(rect.left < other.right && other.left < rect.right && rect.top < other.bottom &&
@@ -208,8 +213,8 @@ TEST_F(Axes2d, marginsHoldEveryLabel)
         const auto numTitles = static_cast<std::size_t>(
             std::count_if(layout.labels.begin(), layout.labels.end(), [](const AxisLabel& l) { return l.isTitle; }));
         if (camera.getCameraMode() == Camera2d::ModeOrdinary) {
-            ASSERT_EQ(layout.labels.size() - numTitles, layout.ticks.size()) << round << ": a label has no room";
-            ASSERT_GE(numTitles, 2u);
+            ASSERT_EQ(layout.labels.size() - numTitles, layout.ticks.size()) << round << " " << told(layout, false);
+            ASSERT_GE(numTitles, layout.frame.size() - 3u) << "the title of x, and of the symmetry axis";
         }
         for (const AxisLine& line : layout.grid) {
             ASSERT_TRUE(std::isfinite((line.to - line.from).length()));

@@ -115,6 +115,15 @@ TEST(GridBox, isLabelledAlongTheLowestAndTheLeftmostEdge)
     EXPECT_TRUE(startsAt({-1.0f, -1.0f, 0.0f})) << "z at the left";
 }
 
+TEST(GridBox, isJudgedAsItIsSeenStretched)
+{
+    Camera3d camera;
+    const BoundingBox box(0.0f, 20000.0f, 0.0f, 3000.0f, 0.0f, 0.0025f);
+    camera.setAxisViewScales(1e-4f, 1e-3f, 800.0f);
+    lookParallel(camera, {5.0f, -10.0f, 4.0f}, {0.0f, 0.0f, 1.0f});
+    EXPECT_EQ(layoutOf(box, camera).edges.size(), 9u);
+}
+
 TEST(GridBox, aPowerOfTenStandsAtTheName)
 {
     Camera3d camera;
@@ -270,10 +279,14 @@ TEST(GridBox, neverCoversTheSceneNorItsOwnLabels)
         for (int i = 0; i < 8; ++i) {
             corners[i] = pixelOf(view.camera, view.box.getVertex(i));
         }
+        const AxisMargins margins = gridBoxMargins({.box = view.box, .camera = view.camera}, metrics);
         std::vector<LabelRect> rects;
         for (const AxisLabel& label : layout.labels) {
             const LabelRect rect = rectOf(label, metrics);
-            ASSERT_TRUE(std::isfinite(rect.left + rect.top + rect.right + rect.bottom));
+            const auto x = static_cast<float>(c_area.x);
+            const auto y = static_cast<float>(c_area.y);
+            ASSERT_TRUE(rect.left >= x - margins.left && rect.right <= x + 800.0f + margins.right) << label.markup;
+            ASSERT_TRUE(rect.top >= y - margins.top && rect.bottom <= y + 600.0f + margins.bottom) << label.markup;
             for (const float u : {0.0f, 0.25f, 0.5f, 0.75f, 1.0f}) {
                 for (const float v : {0.0f, 0.5f, 1.0f}) {
                     const Vector3f point(rect.left + u * (rect.right - rect.left),
