@@ -145,6 +145,8 @@ class Canvas3dGlobalSettingsTest {
 
     @Test
     void antialiasingNeedsARendererThatOffersIt() {
+        // A renderer that was used before this test has announced itself.
+        TestRenderer.Info.withdraw();
         Canvas3dGlobalSettings.setAntiAliasing(true);
         assertFalse(Canvas3dGlobalSettings.isAntiAliasing());
         try (TestRenderer.Info info = new TestRenderer.Info()) {

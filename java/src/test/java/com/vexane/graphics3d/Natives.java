@@ -15,6 +15,7 @@ final class Natives {
      * @throws RuntimeException what the native throws
      */
     static Object call(Class<?> type, String name, Object... arguments) {
+        NativeLibrary.ensureLoaded();
         Method method = Arrays.stream(type.getDeclaredMethods())
                 .filter(m -> m.getName().equals(name) && Modifier.isNative(m.getModifiers())
                         && m.getParameterCount() == arguments.length)
