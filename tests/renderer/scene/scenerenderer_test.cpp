@@ -4,11 +4,17 @@
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/lights/scenesettingslight.h"
 #include "graphics3d/plots/colortable.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "renderer/scene/appearance.h"
 #include "renderer/scene/view.h"
 #include "tests/renderer/support/testscene.h"
 
 #include <gtest/gtest.h>
+
+#include <array>
+#include <utility>
 
 namespace vxrenderer {
 namespace {
@@ -196,6 +202,142 @@ TEST_F(SceneRendererTest, longTitlesAndSmallPicturesStayReadable)
         drawn(m_canvas);
         EXPECT_LE(m_canvas.getView().area.width, size);
     }
+}
+
+/// Numbers of the process, put back at the end.
+class Precisions {
+public:
+    Precisions(int tick, int minMax) { set(tick, minMax); }
+    ~Precisions() { set(m_tick, m_minMax); }
+    Precisions(const Precisions&) = delete;
+    Precisions& operator=(const Precisions&) = delete;
+
+private:
+    static void set(int tick, int minMax)
+    {
+        vxgraphics3d::Canvas3dGlobalSettings::getInstance()->setLegendTickPrecision(tick);
+        vxgraphics3d::Canvas3dGlobalSettings::getInstance()->setLegendMinMaxPrecision(minMax);
+    }
+    int m_tick = vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getLegendTickPrecision();
+    int m_minMax = vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getLegendMinMaxPrecision();
+};
+
+TEST_F(SceneRendererTest, marksOfTheExtremesStandAboveAndBelowTheBar)
+{
+    m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
+    // Colours of the column of the bar: nothing above its frame without marks.
+    const auto ends = [&] {
+        const Picture picture = drawn(m_canvas);
+        const int bar = rowsOf(picture, barColumn(), c_red).front();
+        const int foot = rowsOf(picture, barColumn(), c_blue).back();
+        const int left = barColumn() - 12;
+        return std::array{bar, picture.countDrawn(left, 0, left + 16, bar - 2), foot,
+                          picture.countDrawn(left, foot + 3, left + 16, 300)};
+    };
+    const auto without = ends();
+    m_canvas.getSceneSettings()->setShowMinMax(true);
+    const auto with = ends();
+    EXPECT_EQ(without[1], 0);
+    EXPECT_EQ(without[3], 0);
+    EXPECT_GT(with[1], 20);
+    EXPECT_GT(with[3], 20);
+    EXPECT_GT(with[0], without[0] + 5) << "the bar gives way";
+    EXPECT_LT(with[2], without[2] - 5);
+}
+
+TEST_F(SceneRendererTest, bothKindsOfNumbersHaveTheirDigits)
+{
+    GridRecord record;
+    record.value = [](double, double) { return 1.0 / 3.0; };
+    m_scene.add<SceneGraphPlotSurface2d>(1, record, c_twoColors);
+    // What legends take: 0.33 or 0.33333 beside the bar, and with a mark before it above and below.
+    const auto room = [&](int tick, int minMax) {
+        const Precisions precisions(tick, minMax);
+        drawn(m_canvas);
+        return 400 - m_canvas.getView().area.width;
+    };
+    EXPECT_GT(room(5, 2), room(2, 2) + 18) << "three digits of about eight pixels";
+    EXPECT_EQ(room(2, 5), room(2, 2)) << "not shown";
+    m_canvas.getSceneSettings()->setShowMinMax(true);
+    EXPECT_GT(room(2, 9), room(2, 2) + 20);
+}
+
+TEST_F(SceneRendererTest, aLegendHasATitleWhereThePictureDoesNotSayIt)
+{
+    m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors)->setTitle(TextFormat::plain, "HHHH");
+    const auto above = [&] {
+        const Picture picture = drawn(m_canvas);
+        const PixelArea& area = m_canvas.getView().area;
+        const auto red = rowsOf(picture, barColumn(), c_red);
+        return picture.countDrawn(area.x + area.width, area.y, 400, red.front() - 8);
+    };
+    EXPECT_EQ(above(), 0);
+    m_canvas.getSceneSettings()->setShowTitle(false);
+    EXPECT_GT(above(), 20);
+    m_canvas.getSceneSettings()->setShowTitle(true);
+    const auto second = m_scene.add<SceneGraphPlotSurface2d>(2, {}, c_twoColors);
+    EXPECT_GT(above(), 20);
+    second->setShowLegend(false);
+    EXPECT_EQ(above(), 0);
+}
+
+TEST(SceneOpacity, mixesPlotsFromFarToNear)
+{
+    OffscreenCanvas canvas(100, 100, 1);
+    TestScene scene;
+    // The near one comes first in the group and turns its back to the eye.
+    const auto near = scene.addSquare(1, 0x0000ff, 1.0);
+    GridRecord turned;
+    turned.height = [](double, double) { return 1.0; };
+    auto record = turned.make();
+    std::swap((*record.m_elements[0])[0], (*record.m_elements[0])[1]);
+    near->fillPlot(record);
+    const auto far = scene.addSquare(2, 0xff0000, 0.0);
+    showFromAbove(canvas, scene);
+    canvas.getSceneSettings()->getLight()->setUseLight(false);
+    const auto settings = canvas.getSceneSettings();
+    const auto middle = [&] { return colorAt(canvas, drawn(canvas), {0.4f, 0.5f, 0.0f}); };
+    EXPECT_EQ(middle(), (Rgb{0, 0, 255}));
+    settings->setGlobalOpacity(0.6f);
+    EXPECT_EQ(middle(), (Rgb{102, 41, 194}))
+        << "0.6 of blue over 0.6 of red, which left 102 of the white: 255, 102, 102";
+    lookFrom(canvas, -90.0, -90.0);
+    EXPECT_EQ(middle(), (Rgb{194, 41, 102})) << "the other one is nearer";
+    far->setActive(false);
+    EXPECT_EQ(middle(), (Rgb{102, 102, 255}));
+    settings->setGlobalOpacity(0.0f);
+    EXPECT_EQ(drawn(canvas).countDrawn(0, 0, 100, 100), 0);
+    settings->setGlobalOpacity(7.0f);
+    EXPECT_EQ(middle(), (Rgb{0, 0, 255}));
+}
+
+TEST(SceneOpacity, theGridIsSeenThroughPlots)
+{
+    OffscreenCanvas canvas(200, 200, 1);
+    TestScene scene;
+    scene.addSquare(1, 0xff0000);
+    showFromAbove(canvas, scene);
+    canvas.getCanvas3dSettings()->addRenderMask(RenderAxes);
+    const auto settings = canvas.getSceneSettings();
+    settings->getLight()->setUseLight(false);
+    // Pixels within the square that lines of the grid change.
+    const auto lines = [&](float opacity, const Rgb& plain) {
+        settings->setGlobalOpacity(opacity);
+        const Picture picture = drawn(canvas);
+        const auto [left, bottom] = pixelOf(canvas, {0.02f, 0.02f, 0.0f});
+        const auto [right, top] = pixelOf(canvas, {0.98f, 0.98f, 0.0f});
+        int changed = 0;
+        for (int y = static_cast<int>(top); y < static_cast<int>(bottom); ++y) {
+            for (int x = static_cast<int>(left); x < static_cast<int>(right); ++x) {
+                changed += picture.at(x, y) != plain ? 1 : 0;
+            }
+        }
+        return changed;
+    };
+    EXPECT_EQ(lines(1.0f, c_red), 0);
+    const int seenThrough = lines(0.6f, {255, 102, 102});
+    EXPECT_GT(seenThrough, 100);
+    EXPECT_EQ(lines(0.0f, c_white), seenThrough);
 }
 
 } // namespace

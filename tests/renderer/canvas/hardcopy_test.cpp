@@ -1,0 +1,140 @@
+#include "renderer/canvas/offscreencanvas.h"
+
+#include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/cameras/camera3d.h"
+#include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/hardcopysettings.h"
+#include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/foundation/matrixf.h"
+#include "renderer/scene/appearance.h"
+#include "tests/renderer/support/pngfile.h"
+#include "tests/renderer/support/testscene.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <stdexcept>
+#include <vector>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::Canvas3dSettings;
+using vxgraphics3d::HardcopySettings;
+using vxgraphics3d::Matrixf;
+using vxgraphics3d::SceneGraphPlotSurface2d;
+
+/// All that an export must leave alone.
+struct State {
+    std::vector<Matrixf> matrices;
+    std::vector<int> numbers;
+    PixelArea area;
+
+    explicit State(OffscreenCanvas& canvas) : area(canvas.getView().area)
+    {
+        Canvas3dSettings& settings = *canvas.getCanvas3dSettings();
+        const auto add = [&](const auto& camera) {
+            matrices.insert(matrices.end(), {camera.getViewTransform(), camera.getProjectionTransformRH()});
+            numbers.insert(numbers.end(), {camera.getRenderAreaWidth(), camera.getRenderAreaHeight(),
+                                           camera.getRenderAreaLeft(), camera.getRenderAreaBottom()});
+        };
+        add(*settings.getCamera2d());
+        add(*settings.getCamera3d());
+        const auto scene = canvas.getSceneSettings();
+        numbers.insert(numbers.end(), {settings.getChangeId(), settings.getCamera3d()->getChangeId(),
+                                       static_cast<int>(scene->getChangedFlags()), canvas.getWidth(),
+                                       canvas.getHeight(), canvas.getSamples()});
+    }
+
+    bool operator==(const State& other) const
+    {
+        return numbers == other.numbers && area.x == other.area.x && area.width == other.area.width &&
+               std::ranges::equal(matrices, other.matrices, [](const Matrixf& a, const Matrixf& b) {
+                   return std::equal(a.data(), a.data() + 16, b.data());
+               });
+    }
+};
+
+TEST(Hardcopy, leavesTheViewAsItIs)
+{
+    OffscreenCanvas canvas(160, 100, 4);
+    TestScene scene;
+    scene.add<SceneGraphPlotSurface2d>(1, {}, {0x0000ff, 0xff0000})->setTitle(TextFormat::plain, "Title");
+    HardcopySettings settings;
+    settings.setDpi(150);
+    settings.setTitleShown(true);
+    settings.setAxisShown(true);
+    for (const bool isFlat : {true, false}) {
+        if (isFlat) {
+            showFlat(canvas, scene);
+        } else {
+            lookFrom(canvas, 30.0, 40.0);
+        }
+        const Picture before = drawn(canvas);
+        canvas.getSceneSettings()->setShowLabels(!isFlat);
+        const State state(canvas);
+        canvas.encodeHardcopy(settings, 90, 140);
+        EXPECT_TRUE(State(canvas) == state) << isFlat;
+        std::vector<std::uint8_t> image(before.bytes.size());
+        canvas.readImage(image.data(), image.size());
+        EXPECT_EQ(image, before.bytes) << isFlat;
+        EXPECT_EQ(drawnAsIs(canvas).bytes, before.bytes) << isFlat;
+    }
+}
+
+TEST(Hardcopy, isWhatItsSettingsAskFor)
+{
+    OffscreenCanvas canvas(50, 50, 1);
+    TestScene scene;
+    scene.addSquare(1, 0x00ff00);
+    showFlat(canvas, scene);
+    showPlotsAlone(canvas);
+    canvas.zoomExtents();
+    HardcopySettings settings;
+    settings.setDpi(100);
+    settings.setFileTitle("Stress");
+    settings.setFileCreator("Someone");
+    settings.setBackground(0xff0000, 0x0000ff);
+    const PngFile file(canvas.encodeHardcopy(settings, 120, 80));
+    EXPECT_EQ(file.width, 120);
+    EXPECT_EQ(file.height, 80);
+    EXPECT_EQ(file.perMetre, 3937u) << "100 / 0.0254";
+    EXPECT_EQ(file.texts, (std::map<std::string, std::string>{{"Title", "Stress"}, {"Creator", "Someone"}}));
+    const auto at = [&](int x, int y) {
+        const std::uint8_t* pixel = file.pixels.data() + 3 * (y * 120 + x);
+        return Rgb{pixel[0], pixel[1], pixel[2]};
+    };
+    // The first of 80 rows is half a row from the top colour.
+    EXPECT_EQ(at(0, 0), (Rgb{253, 0, 2}));
+    EXPECT_EQ(at(119, 79), (Rgb{2, 0, 253}));
+    EXPECT_EQ(at(60, 40), (Rgb{0, 255, 0}));
+    EXPECT_THROW(canvas.encodeHardcopy(settings, 0, 80), std::invalid_argument);
+    EXPECT_THROW(canvas.encodeHardcopy(settings, 1 << 20, 80), std::invalid_argument);
+}
+
+TEST(Hardcopy, looksLikeThePictureAtTheSameSize)
+{
+    OffscreenCanvas canvas(150, 120, 4);
+    TestScene scene;
+    scene.addSquare(1, 0x00ff00);
+    canvas.setScene(scene.scene);
+    lookFrom(canvas, 30.0, 40.0);
+    canvas.getSceneSettings()->setShowTitle(false);
+    const Picture picture = drawn(canvas);
+    HardcopySettings settings;
+    settings.setLegendsShown(true);
+    settings.setAxisShown(true);
+    settings.setUseCurrentBackground(true);
+    settings.setMultisampleSetting(4);
+    const PngFile file(canvas.encodeHardcopy(settings, 150, 120));
+    std::vector<std::uint8_t> colors;
+    for (std::size_t i = 0; i < picture.bytes.size(); ++i) {
+        if (i % 4 != 3) {
+            colors.push_back(picture.bytes[i]);
+        }
+    }
+    EXPECT_EQ(file.pixels, colors);
+}
+
+} // namespace
+} // namespace vxrenderer
