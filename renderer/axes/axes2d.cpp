@@ -45,19 +45,19 @@ struct Room {
     LabelSize yTitle;
     LabelSize symmetryTitle;
 
-    Room(const Axes2dInput& input, TextMetrics& metrics) : em(metrics.fontSize())
+    Room(const Axes2dInput& input, const AxisMetrics& metrics) : em(metrics.ticks.fontSize())
     {
-        const auto heightOf = [&](const char* markup) { return sizeOfMarkup(markup, metrics).height; };
+        const auto heightOf = [&](const char* markup) { return sizeOfMarkup(markup, metrics.ticks).height; };
         lineHeight = heightOf("0");
         labelHeight = std::max(lineHeight, heightOf("10^{0}"));
         if (isPolar(input)) {
-            labelWidth = sizeOfMarkup(std::string("330") + c_degree, metrics).width;
+            labelWidth = sizeOfMarkup(std::string("330") + c_degree, metrics.ticks).width;
         } else {
-            labelWidth = std::max(sizeOfMarkup(widestLabel(input.digits), metrics).width,
-                                  sizeOfMarkup(powerText(-88), metrics).width);
+            labelWidth = std::max(sizeOfMarkup(widestLabel(input.digits), metrics.ticks).width,
+                                  sizeOfMarkup(powerText(-88), metrics.ticks).width);
         }
         const auto sizeOf = [&](const vxbase::UString& title, int room) {
-            return title.empty() ? LabelSize() : sizeOfMarkup(title.toUtf8(), metrics, static_cast<float>(room));
+            return title.empty() ? LabelSize() : sizeOfMarkup(title.toUtf8(), metrics.titles, static_cast<float>(room));
         };
         xTitle = sizeOf(input.setup.getXAxisTitle(), input.pictureWidth);
         yTitle = sizeOf(input.setup.getYAxisTitle(), input.pictureHeight);
@@ -75,7 +75,7 @@ struct Room {
 
 class Layouter {
 public:
-    Layouter(const Axes2dInput& input, const PixelArea& area, TextMetrics& metrics)
+    Layouter(const Axes2dInput& input, const PixelArea& area, const AxisMetrics& metrics)
         : m_input(input),
           m_setup(input.setup),
           m_metrics(metrics),
@@ -114,7 +114,7 @@ private:
         scale.tickDistance =
             static_cast<double>((extent == &LabelSize::width ? c_tickDistanceAlong : c_tickDistanceAcross) * m_room.em);
         scale.labelLength = [this, extent](const std::string& markup) {
-            return static_cast<double>(sizeOfMarkup(markup, m_metrics).*extent + c_labelPadding * m_room.em);
+            return static_cast<double>(sizeOfMarkup(markup, m_metrics.ticks).*extent + c_labelPadding * m_room.em);
         };
         return scale;
     }
@@ -214,7 +214,7 @@ private:
                         .room = static_cast<float>(m_input.pictureHeight)});
         } else if (yExponent != 0) {
             placeTitle({.markup = powerOf(yExponent), .x = m_left, .y = above(), .alignX = 0.0f, .alignY = 1.0f});
-            m_powerEnd = m_left + sizeOfMarkup(powerOf(yExponent), m_metrics).width;
+            m_powerEnd = m_left + sizeOfMarkup(powerOf(yExponent), m_metrics.titles).width;
         }
     }
 
@@ -317,7 +317,7 @@ private:
 
     const Axes2dInput& m_input;
     const AxisSetup& m_setup;
-    TextMetrics& m_metrics;
+    AxisMetrics m_metrics;
     Room m_room;
     LabelPlacer m_labels;
     float m_left;
@@ -331,7 +331,7 @@ private:
 
 } // namespace
 
-AxisMargins axes2dMargins(const Axes2dInput& input, TextMetrics& metrics)
+AxisMargins axes2dMargins(const Axes2dInput& input, const AxisMetrics& metrics)
 {
     const Room room(input, metrics);
     const float gap = c_gap * room.em;
@@ -349,21 +349,17 @@ AxisMargins axes2dMargins(const Axes2dInput& input, TextMetrics& metrics)
     return margins;
 }
 
-PixelArea axes2dArea(const Axes2dInput& input, const PixelArea& room, TextMetrics& metrics)
+PixelArea axes2dArea(const Axes2dInput& input, const PixelArea& room, const AxisMetrics& metrics)
 {
     const AxisMargins margins = axes2dMargins(input, metrics);
     const auto whole = [](float size) { return static_cast<int>(std::ceil(size)); };
-    PixelArea area = {room.x + whole(margins.left), room.y + whole(margins.top),
-                      room.width - whole(margins.left) - whole(margins.right),
-                      room.height - whole(margins.top) - whole(margins.bottom)};
-    if (isPolar(input)) {
-        const int side = std::min(area.width, area.height);
-        area = {area.x + (area.width - side) / 2, area.y + (area.height - side) / 2, side, side};
-    }
-    return area;
+    const PixelArea area = {room.x + whole(margins.left), room.y + whole(margins.top),
+                            room.width - whole(margins.left) - whole(margins.right),
+                            room.height - whole(margins.top) - whole(margins.bottom)};
+    return isPolar(input) ? centeredSquare(area) : area;
 }
 
-Axes2dLayout layoutAxes2d(const Axes2dInput& input, const PixelArea& area, TextMetrics& metrics)
+Axes2dLayout layoutAxes2d(const Axes2dInput& input, const PixelArea& area, const AxisMetrics& metrics)
 {
     return area.width < 1 || area.height < 1 ? Axes2dLayout() : Layouter(input, area, metrics).layout();
 }

@@ -2,7 +2,6 @@
 
 #include "renderer/axes/axislayout.h"
 #include "renderer/scene/view.h"
-#include "renderer/text/textmetrics.h"
 
 #include <vector>
 
@@ -40,14 +39,14 @@ struct Axes2dInput {
 
 /// The room that tick labels and titles need around the area. It follows from titles, kind of axes, digits and font
 /// alone, not from the limits in sight: limits follow the shape of the area, and both would chase each other.
-AxisMargins axes2dMargins(const Axes2dInput& input, TextMetrics& metrics);
+AxisMargins axes2dMargins(const Axes2dInput& input, const AxisMetrics& metrics);
 
 /// The area that the axes leave to the camera in a part of the picture; in polar mode a square in the middle. It is
 /// empty if there is no room.
-PixelArea axes2dArea(const Axes2dInput& input, const PixelArea& room, TextMetrics& metrics);
+PixelArea axes2dArea(const Axes2dInput& input, const PixelArea& room, const AxisMetrics& metrics);
 
 /// The axes around the area that the camera draws to. Labels that would leave the picture, and ticks of an axis without
 /// extent, are left out; an empty area has no axes.
-Axes2dLayout layoutAxes2d(const Axes2dInput& input, const PixelArea& area, TextMetrics& metrics);
+Axes2dLayout layoutAxes2d(const Axes2dInput& input, const PixelArea& area, const AxisMetrics& metrics);
 
 } // namespace vxrenderer

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics3d/foundation/vector3f.h"
+#include "renderer/text/textmetrics.h"
 
 #include <limits>
 #include <string>
@@ -36,6 +37,18 @@ struct AxisLabel {
     bool isVertical = false;
     /// Room for a line, along the text, before it is broken.
     float room = c_noLimit;
+};
+
+/// The fonts of axes, as far as their layout has to know them.
+struct AxisMetrics {
+    TextMetrics& ticks;
+    TextMetrics& titles;
+
+    /// One font for both. Implicit, for callers that know no other.
+    AxisMetrics(TextMetrics& both) : ticks(both), titles(both) {}
+    AxisMetrics(TextMetrics& ofTicks, TextMetrics& ofTitles) : ticks(ofTicks), titles(ofTitles) {}
+
+    TextMetrics& of(const AxisLabel& label) const { return label.isTitle ? titles : ticks; }
 };
 
 /// Room for labels around the area that a view is drawn in, in pixels.

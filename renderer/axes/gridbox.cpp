@@ -86,11 +86,11 @@ struct Axis {
 
 class Layouter {
 public:
-    Layouter(const GridBoxInput& input, const PixelArea& area, TextMetrics& metrics)
+    Layouter(const GridBoxInput& input, const PixelArea& area, const AxisMetrics& metrics)
         : m_input(input),
           m_area(area),
           m_metrics(metrics),
-          m_em(static_cast<double>(metrics.fontSize())),
+          m_em(static_cast<double>(metrics.ticks.fontSize())),
           m_projector(input.camera, area),
           m_low(toDouble(input.box.getMin())),
           m_high(toDouble(input.box.getMax())),
@@ -282,7 +282,7 @@ private:
     /// @return the extent of the label at right angles to the edge
     double moveOut(AxisLabel& label, const Pixel& from, const Pixel& outward, double distance) const
     {
-        const LabelSize size = sizeOfMarkup(label.markup, m_metrics);
+        const LabelSize size = sizeOfMarkup(label.markup, m_metrics.of(label));
         const double half = 0.5 * (std::abs(outward.x) * static_cast<double>(size.width) +
                                    std::abs(outward.y) * static_cast<double>(size.height));
         const Pixel center = from + outward * (distance + half);
@@ -382,7 +382,7 @@ private:
 
     const GridBoxInput& m_input;
     PixelArea m_area;
-    TextMetrics& m_metrics;
+    AxisMetrics m_metrics;
     double m_em;
     Projector m_projector;
     Point m_low;
@@ -397,22 +397,22 @@ private:
 
 } // namespace
 
-AxisMargins gridBoxMargins(const GridBoxInput& input, TextMetrics& metrics)
+AxisMargins gridBoxMargins(const GridBoxInput& input, const AxisMetrics& metrics)
 {
     LabelSize name;
     for (const std::string& markup : input.names) {
-        const LabelSize size = sizeOfMarkup(markup, metrics);
+        const LabelSize size = sizeOfMarkup(markup, metrics.titles);
         name = {std::max(name.width, size.width), std::max(name.height, size.height)};
     }
-    const LabelSize label = sizeOfMarkup(widestLabel(input.digits), metrics);
-    const float gaps = static_cast<float>(c_tickLength + c_gap + c_titleGap) * metrics.fontSize();
+    const LabelSize label = sizeOfMarkup(widestLabel(input.digits), metrics.ticks);
+    const float gaps = static_cast<float>(c_tickLength + c_gap + c_titleGap) * metrics.ticks.fontSize();
     const float beside = gaps + label.width + name.width;
     // Along a slanted edge the width of a label moves the name down as well.
     const float below = gaps + label.height + 0.5f * label.width + name.height;
     return {beside, below, beside, below};
 }
 
-GridBoxLayout layoutGridBox(const GridBoxInput& input, const PixelArea& area, TextMetrics& metrics)
+GridBoxLayout layoutGridBox(const GridBoxInput& input, const PixelArea& area, const AxisMetrics& metrics)
 {
     return Layouter(input, area, metrics).layout();
 }

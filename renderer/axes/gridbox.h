@@ -2,7 +2,6 @@
 
 #include "renderer/axes/axislayout.h"
 #include "renderer/scene/view.h"
-#include "renderer/text/textmetrics.h"
 
 #include <array>
 #include <string>
@@ -40,7 +39,7 @@ struct GridBoxInput {
 
 /// The room that labels need around a box that fills its area. It follows from names, digits and font alone; a name
 /// with a power of ten may reach further.
-AxisMargins gridBoxMargins(const GridBoxInput& input, TextMetrics& metrics);
+AxisMargins gridBoxMargins(const GridBoxInput& input, const AxisMetrics& metrics);
 
 /// Lays out the box as the camera sees it in an area of the picture.
 ///
@@ -48,6 +47,6 @@ AxisMargins gridBoxMargins(const GridBoxInput& input, TextMetrics& metrics);
 /// an extent on the screen is labelled along one edge on the outline of the box, the lowest or else the leftmost one,
 /// and only where that lies within the area. A box that reaches behind the eye keeps its grid but has no labels; an
 /// empty box, one behind the eye, or one that is not finite has nothing.
-GridBoxLayout layoutGridBox(const GridBoxInput& input, const PixelArea& area, TextMetrics& metrics);
+GridBoxLayout layoutGridBox(const GridBoxInput& input, const PixelArea& area, const AxisMetrics& metrics);
 
 } // namespace vxrenderer

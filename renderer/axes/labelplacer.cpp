@@ -21,9 +21,9 @@ LabelSize sizeOfMarkup(const std::string& markup, TextMetrics& metrics, float ro
     return {layout.width, layout.height};
 }
 
-LabelRect rectOf(const AxisLabel& label, TextMetrics& metrics)
+LabelRect rectOf(const AxisLabel& label, const AxisMetrics& metrics)
 {
-    LabelSize size = sizeOfMarkup(label.markup, metrics, label.room);
+    LabelSize size = sizeOfMarkup(label.markup, metrics.of(label), label.room);
     if (label.isVertical) {
         std::swap(size.width, size.height);
     }
@@ -38,7 +38,7 @@ bool LabelPlacer::place(const AxisLabel& label)
     if (label.markup.empty() || !std::isfinite(rect.left) || !std::isfinite(rect.top)) {
         return false;
     }
-    const float gap = c_labelGap * m_metrics.fontSize();
+    const float gap = c_labelGap * m_metrics.ticks.fontSize();
     const bool isFree = std::none_of(m_rects.begin(), m_rects.end(), [&](const LabelRect& other) {
         return rect.left < other.right + gap && other.left < rect.right + gap && rect.top < other.bottom &&
                other.top < rect.bottom;

@@ -27,12 +27,12 @@ struct LabelRect {
 LabelSize sizeOfMarkup(const std::string& markup, TextMetrics& metrics, float room = AxisLabel::c_noLimit);
 
 /// Where a label lies in the picture.
-LabelRect rectOf(const AxisLabel& label, TextMetrics& metrics);
+LabelRect rectOf(const AxisLabel& label, const AxisMetrics& metrics);
 
 /// Collects labels that leave room between each other: whoever comes first stays.
 class LabelPlacer {
 public:
-    explicit LabelPlacer(TextMetrics& metrics) : m_metrics(metrics) {}
+    explicit LabelPlacer(const AxisMetrics& metrics) : m_metrics(metrics) {}
 
     /// Takes a label, unless its text is empty, its place is not finite, or it would come too close to another one.
     bool place(const AxisLabel& label);
@@ -41,7 +41,7 @@ public:
     std::vector<AxisLabel> takeLabels() { return std::move(m_labels); }
 
 private:
-    TextMetrics& m_metrics;
+    AxisMetrics m_metrics;
     std::vector<AxisLabel> m_labels;
     std::vector<LabelRect> m_rects;
 };

@@ -25,16 +25,15 @@ namespace {
 
 using namespace vxgraphics3d;
 
-/// Room for the labels around the box of a scene, in units of their font size.
-constexpr float c_labelRoom = 3.5f;
-/// What this room may take of a side of the picture at most.
-constexpr float c_largestLabelPart = 0.5f;
+/// A box is not made smaller than this part of its area to make room for labels.
+constexpr float c_smallestPart = 0.5f;
 
-/// How much larger a view has to be, so that a border around the picture becomes free.
-float scaleForBorder(const PixelArea& area, float border)
+/// How much larger a view has to be, so that what fills the area fills its inner part.
+float scaleToInner(const SceneArea& area)
 {
-    const float part = 2.0f * border / static_cast<float>(std::min(area.width, area.height));
-    return 1.0f / (1.0f - std::min(part, c_largestLabelPart));
+    const auto part = [](int inner, int whole) { return static_cast<float>(inner) / static_cast<float>(whole); };
+    return 1.0f / std::max(c_smallestPart, std::min(part(area.inner.width, area.whole.width),
+                                                    part(area.inner.height, area.whole.height)));
 }
 
 void requireNoFault()
@@ -163,8 +162,8 @@ void OffscreenCanvas::zoomExtents()
     }
     const BoundingBox box = m_sceneView->getScene()->getBoundingBox();
     const Appearance look = appearance();
-    const PixelArea area = m_renderer->layOut(frameOf(m_settings->cameraTransforms(), look), getWidth(), getHeight());
-    if (area.isEmpty()) {
+    const SceneArea area = m_renderer->layOut(frameOf(m_settings->cameraTransforms(), look), getWidth(), getHeight());
+    if (area.whole.isEmpty()) {
         return;
     }
     if (m_settings->getRenderMode() == Canvas3dSettings::RenderMode2d) {
@@ -173,11 +172,8 @@ void OffscreenCanvas::zoomExtents()
         Camera3d& camera = *m_settings->camera3d();
         camera.setRotationPoint(box.getCenter());
         camera.moveToBoundingBox(box, box, 0.0f);
-        if (look.showAxes) {
-            const float border = c_labelRoom * static_cast<float>(look.font(TextAxisTick).size);
-            camera.setAdditionalScale(0.5f, 0.5f, scaleForBorder(area, border));
-            camera.mergeAdditionalTransformation();
-        }
+        camera.setAdditionalScale(0.5f, 0.5f, scaleToInner(area));
+        camera.mergeAdditionalTransformation();
     }
 }
 

@@ -40,6 +40,16 @@ Axes2dInput axes2dInput(const Frame& frame, int width, int height)
             Canvas3dGlobalSettings::getInstance()->getGridbox2dTickPrecision()};
 }
 
+GridBoxInput gridBoxInput(const Frame& frame)
+{
+    const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
+    return {frame.scene->getBoundingBox(),
+            frame.camera,
+            {indicator.getLabel(AxisOrientationIndicator::AxisX), indicator.getLabel(AxisOrientationIndicator::AxisY),
+             indicator.getLabel(AxisOrientationIndicator::AxisZ)},
+            Canvas3dGlobalSettings::getInstance()->getGridbox3dTickPrecision()};
+}
+
 /// Draws lines in one colour, first the faint ones.
 void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int width, int height, float lineWidth,
                const Color& color, LinePainter& painter)
@@ -60,9 +70,24 @@ void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int wi
 
 } // namespace
 
-AxisMargins axisMargins(const Frame& frame, int width, int height, const AxisFonts& fonts)
+SceneArea divideRoom(const Frame& frame, const PixelArea& room, int width, int height, const AxisFonts& fonts)
 {
-    return frame.isFlat() ? axes2dMargins(axes2dInput(frame, width, height), fonts.ticks) : AxisMargins();
+    SceneArea area = {room, room};
+    if (frame.isFlat()) {
+        if (frame.appearance.showAxes) {
+            area.whole = axes2dArea(axes2dInput(frame, width, height), room, fonts.metrics());
+        } else if (frame.isPolar()) {
+            area.whole = centeredSquare(room);
+        }
+        area.inner = area.whole;
+    } else if (frame.appearance.showAxes) {
+        const AxisMargins margins = gridBoxMargins(gridBoxInput(frame), fonts.metrics());
+        area.inner.x += static_cast<int>(margins.left);
+        area.inner.y += static_cast<int>(margins.top);
+        area.inner.width -= static_cast<int>(margins.left + margins.right);
+        area.inner.height -= static_cast<int>(margins.top + margins.bottom);
+    }
+    return area;
 }
 
 AxesPainter::AxesPainter(const Frame& frame, const View& view, int width, int height, const AxisFonts& fonts)
@@ -84,14 +109,7 @@ AxesPainter::AxesPainter(const Frame& frame, const View& view, int width, int he
 
 void AxesPainter::layOutGridBox(const Frame& frame, const View& view, const AxisFonts& fonts)
 {
-    const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
-    GridBoxLayout layout = layoutGridBox(
-        {frame.scene->getBoundingBox(),
-         frame.camera,
-         {indicator.getLabel(AxisOrientationIndicator::AxisX), indicator.getLabel(AxisOrientationIndicator::AxisY),
-          indicator.getLabel(AxisOrientationIndicator::AxisZ)},
-         Canvas3dGlobalSettings::getInstance()->getGridbox3dTickPrecision()},
-        view.area, fonts.ticks);
+    GridBoxLayout layout = layoutGridBox(gridBoxInput(frame), view.area, fonts.metrics());
     m_behind = std::move(layout.grid);
     append(m_behind, layout.edges);
     m_around = std::move(layout.ticks);
@@ -100,7 +118,7 @@ void AxesPainter::layOutGridBox(const Frame& frame, const View& view, const Axis
 
 void AxesPainter::layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts)
 {
-    Axes2dLayout layout = layoutAxes2d(axes2dInput(frame, m_width, m_height), view.area, fonts.ticks);
+    Axes2dLayout layout = layoutAxes2d(axes2dInput(frame, m_width, m_height), view.area, fonts.metrics());
     m_behind = std::move(layout.grid);
     m_around = std::move(layout.frame);
     append(m_around, layout.ticks);

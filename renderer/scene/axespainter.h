@@ -3,26 +3,35 @@
 #include "graphics3d/foundation/color.h"
 #include "renderer/axes/axislayout.h"
 #include "renderer/scene/view.h"
+#include "renderer/text/fontset.h"
 
 #include <vector>
 
 namespace vxrenderer {
 
 struct Frame;
-class FontSet;
 class LinePainter;
 class OverlayPainter;
-class TextMetrics;
 
 /// Fonts of a picture's axes.
 struct AxisFonts {
     FontSet& titles;
     FontSet& ticks;
+
+    AxisMetrics metrics() const { return {ticks, titles}; }
 };
 
-/// The room that the axes of a view need beside the area of the scene. The grid box of a 3D view needs none: it stands
-/// within.
-AxisMargins axisMargins(const Frame& frame, int width, int height, const AxisFonts& fonts);
+/// Where the scene of a view goes.
+struct SceneArea {
+    /// What the camera draws to.
+    PixelArea whole;
+    /// The part of it that a box may fill so that the labels around it find room. A 2D view has its labels outside.
+    PixelArea inner;
+};
+
+/// Divides the room that a picture leaves for a scene and its axes.
+/// @param width,height of the whole picture
+SceneArea divideRoom(const Frame& frame, const PixelArea& room, int width, int height, const AxisFonts& fonts);
 
 /// The grid box of a 3D view or the axes of a 2D one, laid out for one frame and drawn in three steps.
 class AxesPainter {

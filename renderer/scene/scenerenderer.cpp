@@ -145,28 +145,6 @@ SceneRenderer::Decoration SceneRenderer::decorate(const Frame& frame, const std:
     return decoration;
 }
 
-PixelArea SceneRenderer::sceneArea(const Frame& frame, const Decoration& decoration, int width, int height)
-{
-    PixelArea area = decoration.rest;
-    if (frame.appearance.showAxes) {
-        const AxisMargins margins = axisMargins(frame, width, height, axisFonts(frame));
-        const auto pixels = [](float length) { return static_cast<int>(std::ceil(length)); };
-        area.x += pixels(margins.left);
-        area.y += pixels(margins.top);
-        area.width -= pixels(margins.left) + pixels(margins.right);
-        area.height -= pixels(margins.top) + pixels(margins.bottom);
-    }
-    if (frame.isPolar()) {
-        // A round view has its centre in the middle of a square.
-        const int side = std::min(area.width, area.height);
-        area.x += (area.width - side) / 2;
-        area.y += (area.height - side) / 2;
-        area.width = side;
-        area.height = side;
-    }
-    return area;
-}
-
 void SceneRenderer::setUpCamera(const Frame& frame, const PixelArea& area, int width, int height) const
 {
     if (area.isEmpty()) {
@@ -176,15 +154,15 @@ void SceneRenderer::setUpCamera(const Frame& frame, const PixelArea& area, int w
     frame.camera.setBoundingBox(frame.scene->getBoundingBox());
 }
 
-PixelArea SceneRenderer::layOut(const Frame& frame, int width, int height)
+SceneArea SceneRenderer::layOut(const Frame& frame, int width, int height)
 {
     if (frame.scene == nullptr) {
         return {};
     }
     updateTitle(*frame.scene);
     const Decoration decoration = decorate(frame, collectPlots(*frame.scene->getRoot()), width, height);
-    const PixelArea area = sceneArea(frame, decoration, width, height);
-    setUpCamera(frame, area, width, height);
+    const SceneArea area = divideRoom(frame, decoration.rest, width, height, axisFonts(frame));
+    setUpCamera(frame, area.whole, width, height);
     return area;
 }
 
@@ -357,7 +335,7 @@ void SceneRenderer::draw(const Frame& frame, const Target& target)
     const int height = target.getHeight();
     std::vector<PlotItem> plots = collectPlots(*frame.scene->getRoot());
     const Decoration decoration = decorate(frame, plots, width, height);
-    const PixelArea area = sceneArea(frame, decoration, width, height);
+    const PixelArea area = divideRoom(frame, decoration.rest, width, height, axisFonts(frame)).whole;
     const bool showTriad = !area.isEmpty() && frame.appearance.showAxisOrientation && !frame.isFlat();
     std::optional<AxesPainter> axes;
     if (!area.isEmpty()) {

@@ -39,7 +39,7 @@ public:
 
     /// Finds out which part of a picture is left for the scene, and tells the camera of it and of the box of the scene.
     /// @return that part; empty without a scene
-    PixelArea layOut(const Frame& frame, int width, int height);
+    SceneArea layOut(const Frame& frame, int width, int height);
     /// Draws a frame. Without a scene only the background is drawn.
     void draw(const Frame& frame, const Target& target);
 
@@ -65,7 +65,6 @@ private:
     void updateTitle(const vxgraphics3d::Scene& scene);
     Decoration decorate(const Frame& frame, const std::vector<PlotItem>& plots, int width, int height);
     void setUpCamera(const Frame& frame, const PixelArea& area, int width, int height) const;
-    PixelArea sceneArea(const Frame& frame, const Decoration& decoration, int width, int height);
     void drawScene(const Frame& frame, std::vector<PlotItem>& plots, const AxesPainter* axes, const Target& target);
     void drawPlots(std::vector<PlotItem>& plots, const PaintContext& context);
     void drawLightMarkers(const Frame& frame);

@@ -19,6 +19,9 @@ struct PixelArea {
     bool isEmpty() const { return width < 1 || height < 1; }
 };
 
+/// The largest square in the middle of an area.
+PixelArea centeredSquare(const PixelArea& area);
+
 /// How a camera sees the scene in one frame, in the form that shaders take it.
 struct View {
     PixelArea area;
