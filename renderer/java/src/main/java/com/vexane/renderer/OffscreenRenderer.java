@@ -109,7 +109,8 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Shows a scene from the next picture on. A scene that is disposed is let go when the next picture is drawn.
+     * Shows a scene from the next picture on. A scene that is disposed is let go when the next picture is drawn. Another
+     * scene comes with new {@link com.vexane.graphics3d.SceneSettings}; the one that is shown already keeps its own.
      *
      * @param scene the scene, or null for an empty picture
      * @throws IllegalStateException if the scene is closed
