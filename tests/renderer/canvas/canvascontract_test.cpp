@@ -5,13 +5,12 @@
 #include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
-#include "graphics3d/plots/scalar/scenegraphplotdomain3d.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "tests/renderer/support/testscene.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <array>
 
 namespace vxrenderer {
 namespace {
@@ -150,14 +149,7 @@ TEST(CanvasContract, followsTheMultisampleSettingOfTheProcess)
 TEST(CanvasContract, zoomExtentsShowsTheWholeBox)
 {
     TestScene scene;
-    const auto plot =
-        scene.add<vxgraphics3d::SceneGraphPlotDomain3d>(1,
-                                                        [] {
-                                                            GridRecord record;
-                                                            record.height = [](double, double) { return 0.0; };
-                                                            return record;
-                                                        }(),
-                                                        {0xff0000});
+    const auto plot = scene.addSquare(1, 0xff0000);
     OffscreenCanvas canvas(100, 100, 1);
     const Camera3d& camera = *canvas.getCanvas3dSettings()->getCamera3d();
     canvas.zoomExtents();

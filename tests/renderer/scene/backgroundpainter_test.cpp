@@ -2,7 +2,10 @@
 
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/canvasbackgroundimage.h"
+#include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/foundation/image.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "tests/renderer/support/pngfile.h"
 #include "tests/renderer/support/testscene.h"
 
 #include <boost/make_shared.hpp>
@@ -151,6 +154,23 @@ TEST_F(BackgroundTest, aLargeImageShowsItsPart)
     // More than a texture holds: a coarser one does.
     setPixels(*m_image, 20000, 1, std::vector<std::uint32_t>(20000, 0xffff0000));
     EXPECT_EQ(drawnAsIs(m_canvas).at(5, 0), c_red);
+}
+
+TEST_F(BackgroundTest, anImageGrowsWithTheResolutionOfAnExport)
+{
+    setPixels(*m_image, 3, 1, {0xffff0000, 0xffff0000, 0xffff0000});
+    show(0, 0);
+    vxgraphics3d::HardcopySettings settings;
+    settings.setDpi(2 * vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getOnScreenResolution());
+    settings.setUseCurrentBackground(true);
+    const PngFile file(m_canvas.encodeHardcopy(settings, 8, 3));
+    // Twice three red pixels to the rim, into which nothing of the empty rest of the texture runs.
+    std::vector<std::uint8_t> rows;
+    for (int i = 0; i < 24; ++i) {
+        const bool isRed = i % 8 < 6 && i / 8 < 2;
+        rows.insert(rows.end(), {255, std::uint8_t(isRed ? 0 : 255), std::uint8_t(isRed ? 0 : 255)});
+    }
+    EXPECT_EQ(file.pixels, rows);
 }
 
 } // namespace
