@@ -47,9 +47,10 @@ Canvas3dSettings::Canvas3dSettings()
       m_camera2d(boost::make_shared<Camera2d>()),
       m_axisOrientationIndicator(boost::make_shared<AxisOrientationIndicator>()),
       m_gridBoxSettings(boost::make_shared<GridBoxSettings>()),
-      m_fonts{{processFont(vxgraphics3d::TextAxisTitle), processFont(vxgraphics3d::TextAxisTick),
-               processFont(vxgraphics3d::TextLegendTitle), processFont(vxgraphics3d::TextLegendTick),
-               processFont(vxgraphics3d::TextAxisOrientation)}},
+      m_fonts{{processFont(vxgraphics3d::TextItem::TextAxisTitle), processFont(vxgraphics3d::TextItem::TextAxisTick),
+               processFont(vxgraphics3d::TextItem::TextLegendTitle),
+               processFont(vxgraphics3d::TextItem::TextLegendTick),
+               processFont(vxgraphics3d::TextItem::TextAxisOrientation)}},
       m_axisSetup(boost::make_shared<AxisSetup>())
 {}
 

@@ -36,8 +36,8 @@ SceneSettings::SceneSettings(IRendererSetup& setup)
     : m_id(nextId(m_lastId)),
       m_setup(setup),
       m_light(boost::make_shared<SceneSettingsLight>()),
-      m_fonts{{Canvas3dGlobalSettings::getInstance()->getFont(vxgraphics3d::TextLabel),
-               Canvas3dGlobalSettings::getInstance()->getFont(vxgraphics3d::TextTitle)}}
+      m_fonts{{Canvas3dGlobalSettings::getInstance()->getFont(vxgraphics3d::TextItem::TextLabel),
+               Canvas3dGlobalSettings::getInstance()->getFont(vxgraphics3d::TextItem::TextTitle)}}
 {}
 
 SceneSettings::SceneSettings(IRendererSetup& setup, const SceneSettings& other)

@@ -7,10 +7,11 @@ namespace vxgraphics3d {
 
 std::size_t textItemIndex(TextItem item)
 {
-    if (item < 0 || item >= c_numTextItems) {
-        throw std::out_of_range("There is no text item " + std::to_string(static_cast<int>(item)) + '.');
+    const auto index = static_cast<int>(item);
+    if (index < 0 || index >= c_numTextItems) {
+        throw std::out_of_range("There is no text item " + std::to_string(index) + '.');
     }
-    return static_cast<std::size_t>(item);
+    return static_cast<std::size_t>(index);
 }
 
 } // namespace vxgraphics3d

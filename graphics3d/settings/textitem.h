@@ -5,7 +5,7 @@
 namespace vxgraphics3d {
 
 /// The kinds of text that a picture holds, each with a font of its own.
-enum TextItem : int {
+enum class TextItem : int {
     TextLabel = 0,           ///< labels of points and parts
     TextAxisTitle = 1,       ///< titles of axes
     TextAxisTick = 2,        ///< numbers along axes and grid boxes

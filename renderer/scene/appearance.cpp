@@ -27,24 +27,24 @@ int pixelsOf(int points, float pixelsPerInch)
 const FontSetting& fontSetting(TextItem item, const Canvas3dSettings& canvas, const SceneSettings* scene)
 {
     switch (item) {
-    case TextAxisTitle:
+    case TextItem::TextAxisTitle:
         return canvas.getFont(Canvas3dSettings::TextAxisTitle);
-    case TextAxisTick:
+    case TextItem::TextAxisTick:
         return canvas.getFont(Canvas3dSettings::TextAxisTick);
-    case TextLegendTitle:
+    case TextItem::TextLegendTitle:
         return canvas.getFont(Canvas3dSettings::TextLegendTitle);
-    case TextLegendTick:
+    case TextItem::TextLegendTick:
         return canvas.getFont(Canvas3dSettings::TextLegendTick);
-    case TextAxisOrientation:
+    case TextItem::TextAxisOrientation:
         return canvas.getFont(Canvas3dSettings::TextAxisOrientation);
-    case TextLabel:
-    case TextTitle:
+    case TextItem::TextLabel:
+    case TextItem::TextTitle:
         break;
     }
     if (scene == nullptr) {
         return Canvas3dGlobalSettings::getInstance()->getFont(item);
     }
-    return scene->getFont(item == TextTitle ? SceneSettings::TextTitle : SceneSettings::TextLabel);
+    return scene->getFont(item == TextItem::TextTitle ? SceneSettings::TextTitle : SceneSettings::TextLabel);
 }
 
 /// Whether a render mask lets a kind of item be drawn.

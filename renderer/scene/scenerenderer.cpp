@@ -63,14 +63,14 @@ FontSet& SceneRenderer::fonts(const Frame& frame, TextItem item)
 
 AxisFonts SceneRenderer::axisFonts(const Frame& frame)
 {
-    return {fonts(frame, TextAxisTitle), fonts(frame, TextAxisTick)};
+    return {fonts(frame, TextItem::TextAxisTitle), fonts(frame, TextItem::TextAxisTick)};
 }
 
 LegendStyle SceneRenderer::legendStyle(const Frame& frame)
 {
     const Canvas3dGlobalSettings& settings = *Canvas3dGlobalSettings::getInstance();
-    return {.titleFonts = fonts(frame, TextLegendTitle),
-            .tickFonts = fonts(frame, TextLegendTick),
+    return {.titleFonts = fonts(frame, TextItem::TextLegendTitle),
+            .tickFonts = fonts(frame, TextItem::TextLegendTick),
             .color = frame.appearance.textColor(),
             .showMinMax = frame.appearance.showMinMax,
             .tickDigits = settings.getLegendTickPrecision(),
@@ -106,7 +106,7 @@ SceneRenderer::Decoration SceneRenderer::decorate(const Frame& frame, const std:
 
     float top = margin;
     if (frame.appearance.showTitle && !m_title.empty()) {
-        decoration.title = layoutTitle(m_title, fonts(frame, TextTitle),
+        decoration.title = layoutTitle(m_title, fonts(frame, TextItem::TextTitle),
                                        {std::max(fullWidth - 2.0f * margin, 1.0f), c_titlePart * fullHeight});
         if (decoration.title.height <= c_titlePart * fullHeight) {
             top += std::ceil(decoration.title.height) + margin;
@@ -270,7 +270,7 @@ PlacedTriad placeTriad(const Frame& frame, const View& view, float letterSize)
 void SceneRenderer::drawAxisOrientation(const Frame& frame, const Target& target)
 {
     const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
-    const auto letterSize = static_cast<float>(frame.appearance.font(TextAxisOrientation).size);
+    const auto letterSize = static_cast<float>(frame.appearance.font(TextItem::TextAxisOrientation).size);
     const PlacedTriad placed = placeTriad(frame, m_view, letterSize);
     const Matrixf toClip = pixelsToClip(target.getWidth(), target.getHeight());
     for (const Triad::Axis& axis : placed.triad.axes) {
@@ -282,7 +282,7 @@ void SceneRenderer::drawAxisOrientation(const Frame& frame, const Target& target
 void SceneRenderer::drawAxisLetters(const Frame& frame)
 {
     const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
-    FontSet& letters = fonts(frame, TextAxisOrientation);
+    FontSet& letters = fonts(frame, TextItem::TextAxisOrientation);
     for (const Triad::Axis& axis : placeTriad(frame, m_view, letters.fontSize()).triad.axes) {
         const std::string& label = indicator.getLabel(static_cast<AxisOrientationIndicator::Axis>(axis.index));
         const TextLayout text = layoutTitle(parseTitle(vxbase::UString(label)), letters,
@@ -297,7 +297,7 @@ void SceneRenderer::drawDecoration(const Frame& frame, const Decoration& decorat
     m_overlay.begin(target.getWidth(), target.getHeight());
     const LegendStyle style = legendStyle(frame);
     const float titleLeft = 0.5f * (static_cast<float>(target.getWidth()) - decoration.title.width);
-    m_overlay.drawText(decoration.title, fonts(frame, TextTitle), titleLeft, decoration.margin, style.color);
+    m_overlay.drawText(decoration.title, fonts(frame, TextItem::TextTitle), titleLeft, decoration.margin, style.color);
 
     float headHeight = 0.0f;
     for (const Legend& legend : decoration.legends) {

@@ -103,12 +103,12 @@ TEST(HardcopySettings, setBackground_ignoresTheHighByte)
 TEST(HardcopySettings, aFontSizeCountsFromOneUp)
 {
     HardcopySettings settings;
-    settings.setFontSize(TextTitle, 1);
-    EXPECT_TRUE(settings.isFontSizeValid(TextTitle));
-    EXPECT_FALSE(settings.isFontSizeValid(TextLegendTick));
-    settings.setFontSize(TextTitle, 0);
-    EXPECT_EQ(settings.getFontSize(TextTitle), 0);
-    EXPECT_FALSE(settings.isFontSizeValid(TextTitle));
+    settings.setFontSize(TextItem::TextTitle, 1);
+    EXPECT_TRUE(settings.isFontSizeValid(TextItem::TextTitle));
+    EXPECT_FALSE(settings.isFontSizeValid(TextItem::TextLegendTick));
+    settings.setFontSize(TextItem::TextTitle, 0);
+    EXPECT_EQ(settings.getFontSize(TextItem::TextTitle), 0);
+    EXPECT_FALSE(settings.isFontSizeValid(TextItem::TextTitle));
     for (const int item : {-1, 7}) {
         EXPECT_THROW(settings.setFontSize(static_cast<TextItem>(item), 1), std::out_of_range);
         EXPECT_THROW(settings.getFontSize(static_cast<TextItem>(item)), std::out_of_range);

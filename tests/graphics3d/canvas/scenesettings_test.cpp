@@ -28,14 +28,14 @@ TEST(SceneSettings, startWithTheirDefaults)
 TEST(SceneSettings, takeTheFontsOfLabelsAndTitleFromTheProcess)
 {
     Canvas3dGlobalSettings& process = *Canvas3dGlobalSettings::getInstance();
-    const int labelBefore = process.font(TextLabel).getSize();
-    const int titleBefore = process.font(TextTitle).getSize();
-    process.font(TextLabel).setFont(process.getFont(TextLabel).getName(), 31);
-    process.font(TextTitle).setFont(process.getFont(TextTitle).getName(), 32);
+    const int labelBefore = process.font(TextItem::TextLabel).getSize();
+    const int titleBefore = process.font(TextItem::TextTitle).getSize();
+    process.font(TextItem::TextLabel).setFont(process.getFont(TextItem::TextLabel).getName(), 31);
+    process.font(TextItem::TextTitle).setFont(process.getFont(TextItem::TextTitle).getName(), 32);
     TestSetup setup;
     const SceneSettings settings(setup);
-    process.font(TextLabel).setFont(process.getFont(TextLabel).getName(), labelBefore);
-    process.font(TextTitle).setFont(process.getFont(TextTitle).getName(), titleBefore);
+    process.font(TextItem::TextLabel).setFont(process.getFont(TextItem::TextLabel).getName(), labelBefore);
+    process.font(TextItem::TextTitle).setFont(process.getFont(TextItem::TextTitle).getName(), titleBefore);
     EXPECT_EQ(settings.getFont(SceneSettings::TextLabel).getSize(), 31);
     EXPECT_EQ(settings.getFont(SceneSettings::TextTitle).getSize(), 32);
     EXPECT_THROW(settings.getFont(static_cast<SceneSettings::TextItem>(2)), std::out_of_range);

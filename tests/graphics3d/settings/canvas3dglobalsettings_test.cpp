@@ -89,7 +89,7 @@ TEST(Canvas3dGlobalSettings, onlyFourSettersCountAndTheyCountAlways)
     settings.setCameraMouseAction(1, 0, Settings::ActionZoom);
     settings.setOnScreenRenderQuality(QualityBest);
     settings.setOffScreenRenderQuality(QualityFast);
-    settings.font(TextTitle).setFont("Serif", 14);
+    settings.font(TextItem::TextTitle).setFont("Serif", 14);
     settings.setLegendTickPrecision(6);
     settings.setLegendMinMaxPrecision(7);
     settings.setGridbox2dTickPrecision(8);
@@ -106,7 +106,7 @@ TEST(Canvas3dGlobalSettings, onlyFourSettersCountAndTheyCountAlways)
     EXPECT_EQ(settings.getCameraMouseZoomSpeed(), 3.5f);
     EXPECT_EQ(settings.getOnScreenRenderQuality(), 2);
     EXPECT_EQ(settings.getOffScreenRenderQuality(), 0);
-    EXPECT_EQ(settings.getFont(TextTitle).getName(), "Serif");
+    EXPECT_EQ(settings.getFont(TextItem::TextTitle).getName(), "Serif");
     EXPECT_EQ(settings.getLegendTickPrecision(), 6);
     EXPECT_EQ(settings.getLegendMinMaxPrecision(), 7);
     EXPECT_EQ(settings.getGridbox2dTickPrecision(), 8);

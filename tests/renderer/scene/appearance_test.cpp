@@ -43,15 +43,16 @@ TEST_F(AppearanceTest, fontsArePointsOfTheResolution)
     for (const auto& c : cases) {
         process().setOnScreenResolution(c.resolution);
         const Appearance look = onScreen();
-        EXPECT_EQ(look.font(TextLabel).size, c.label) << c.resolution;
-        EXPECT_EQ(look.font(TextAxisTick).size, c.label) << c.resolution;
-        EXPECT_EQ(look.font(TextTitle).size, c.title) << c.resolution;
-        EXPECT_EQ(look.font(TextLegendTick).size, c.legendTick) << c.resolution;
-        EXPECT_EQ(look.font(TextLegendTick).name, "serif");
-        EXPECT_EQ(look.font(TextTitle).name, "mono");
+        EXPECT_EQ(look.font(TextItem::TextLabel).size, c.label) << c.resolution;
+        EXPECT_EQ(look.font(TextItem::TextAxisTick).size, c.label) << c.resolution;
+        EXPECT_EQ(look.font(TextItem::TextTitle).size, c.title) << c.resolution;
+        EXPECT_EQ(look.font(TextItem::TextLegendTick).size, c.legendTick) << c.resolution;
+        EXPECT_EQ(look.font(TextItem::TextLegendTick).name, "serif");
+        EXPECT_EQ(look.font(TextItem::TextTitle).name, "mono");
     }
     // Without a scene, its two fonts are those of the process.
-    EXPECT_EQ(Appearance::onScreen(m_canvas, nullptr).font(TextTitle).name, process().getFont(TextTitle).getName());
+    EXPECT_EQ(Appearance::onScreen(m_canvas, nullptr).font(TextItem::TextTitle).name,
+              process().getFont(TextItem::TextTitle).getName());
 }
 
 TEST_F(AppearanceTest, hardcopiesHaveFontsOfTheirOwn)
@@ -59,13 +60,13 @@ TEST_F(AppearanceTest, hardcopiesHaveFontsOfTheirOwn)
     process().setOnScreenResolution(96);
     m_canvas.font(Canvas3dSettings::TextLegendTick).setFont("serif", 9);
     m_hardcopy.setDpi(288);
-    m_hardcopy.setFontSize(TextTitle, 10);
-    m_hardcopy.setFontSize(TextAxisTitle, 0);
+    m_hardcopy.setFontSize(TextItem::TextTitle, 10);
+    m_hardcopy.setFontSize(TextItem::TextAxisTitle, 0);
     const Appearance look = ofHardcopy();
-    EXPECT_EQ(look.font(TextTitle).size, 40);
-    EXPECT_EQ(look.font(TextLegendTick).size, 36);
-    EXPECT_EQ(look.font(TextLegendTick).name, "serif");
-    EXPECT_EQ(look.font(TextAxisTitle).size, 48) << "not given";
+    EXPECT_EQ(look.font(TextItem::TextTitle).size, 40);
+    EXPECT_EQ(look.font(TextItem::TextLegendTick).size, 36);
+    EXPECT_EQ(look.font(TextItem::TextLegendTick).name, "serif");
+    EXPECT_EQ(look.font(TextItem::TextAxisTitle).size, 48) << "not given";
     EXPECT_FLOAT_EQ(look.scale, 3.0f);
     EXPECT_FLOAT_EQ(look.millimetres(25.4f), 288.0f);
 }
