@@ -1,7 +1,6 @@
 #include "renderer/scene/scenerenderer.h"
 
 #include "base/ustring.h"
-#include "graphics3d/cameras/axisorientationindicator.h"
 #include "graphics3d/cameras/icameratransforms.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
@@ -13,7 +12,7 @@
 #include "renderer/scene/lighting.h"
 #include "renderer/scene/lightmarkers.h"
 #include "renderer/scene/plotcollector.h"
-#include "renderer/scene/triad.h"
+#include "renderer/scene/triadpainter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -246,52 +245,6 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
     }
 }
 
-namespace {
-
-/// The triad of a frame in the lower left corner of the scene's area.
-struct PlacedTriad {
-    Triad triad;
-    float lineWidth;
-};
-
-PlacedTriad placeTriad(const Frame& frame, const View& view, float letterSize)
-{
-    const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
-    const float length = frame.appearance.millimetres(indicator.getAxisLength());
-    const float reach = length + 1.5f * letterSize;
-    const auto x = static_cast<float>(view.area.x) + reach;
-    const auto y = static_cast<float>(view.area.y + view.area.height) - reach;
-    return {Triad::of(frame.camera, x, y, length, 0.7f * letterSize),
-            std::max(1.0f, frame.appearance.millimetres(indicator.getLineWidth()))};
-}
-
-} // namespace
-
-void SceneRenderer::drawAxisOrientation(const Frame& frame, const Target& target)
-{
-    const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
-    const auto letterSize = static_cast<float>(frame.appearance.font(TextItem::TextAxisOrientation).size);
-    const PlacedTriad placed = placeTriad(frame, m_view, letterSize);
-    const Matrixf toClip = pixelsToClip(target.getWidth(), target.getHeight());
-    for (const Triad::Axis& axis : placed.triad.axes) {
-        m_lines.draw(axis.lines, toClip, target.getWidth(), target.getHeight(), placed.lineWidth,
-                     indicator.getColor(static_cast<AxisOrientationIndicator::Axis>(axis.index)));
-    }
-}
-
-void SceneRenderer::drawAxisLetters(const Frame& frame)
-{
-    const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
-    FontSet& letters = fonts(frame, TextItem::TextAxisOrientation);
-    for (const Triad::Axis& axis : placeTriad(frame, m_view, letters.fontSize()).triad.axes) {
-        const std::string& label = indicator.getLabel(static_cast<AxisOrientationIndicator::Axis>(axis.index));
-        const TextLayout text = layoutTitle(parseTitle(vxbase::UString(label)), letters,
-                                            {static_cast<float>(m_view.area.width), letters.fontSize() * 2.0f});
-        m_overlay.drawText(text, letters, axis.letterX - 0.5f * text.width, axis.letterY - 0.5f * text.height,
-                           frame.appearance.textColor());
-    }
-}
-
 void SceneRenderer::drawDecoration(const Frame& frame, const Decoration& decoration, const Target& target)
 {
     m_overlay.begin(target.getWidth(), target.getHeight());
@@ -336,13 +289,16 @@ void SceneRenderer::draw(const Frame& frame, const Target& target)
     std::vector<PlotItem> plots = collectPlots(*frame.scene->getRoot());
     const Decoration decoration = decorate(frame, plots, width, height);
     const PixelArea area = divideRoom(frame, decoration.rest, width, height, axisFonts(frame)).whole;
-    const bool showTriad = !area.isEmpty() && frame.appearance.showAxisOrientation && !frame.isFlat();
     std::optional<AxesPainter> axes;
+    std::optional<TriadPainter> triad;
     if (!area.isEmpty()) {
         setUpCamera(frame, area, width, height);
         m_view = View::of(frame.camera, area, frame.isFlat());
         if (frame.appearance.showAxes) {
             axes.emplace(frame, m_view, width, height, axisFonts(frame));
+        }
+        if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
+            triad.emplace(frame, m_view);
         }
         if ((frame.canvas.getRenderMask() & RenderPlots) == 0) {
             plots.clear();
@@ -354,8 +310,8 @@ void SceneRenderer::draw(const Frame& frame, const Target& target)
     if (axes) {
         axes->drawAround(m_lines);
     }
-    if (showTriad) {
-        drawAxisOrientation(frame, target);
+    if (triad) {
+        triad->drawAxes(m_lines, width, height);
     }
     setBlending(false);
     target.beginOverlay();
@@ -363,8 +319,8 @@ void SceneRenderer::draw(const Frame& frame, const Target& target)
     if (axes) {
         axes->drawLabels(m_overlay, axisFonts(frame));
     }
-    if (showTriad) {
-        drawAxisLetters(frame);
+    if (triad) {
+        triad->drawLetters(m_overlay, fonts(frame, TextItem::TextAxisOrientation));
     }
     dropUnused();
 }

@@ -68,9 +68,7 @@ private:
     void drawScene(const Frame& frame, std::vector<PlotItem>& plots, const AxesPainter* axes, const Target& target);
     void drawPlots(std::vector<PlotItem>& plots, const PaintContext& context);
     void drawLightMarkers(const Frame& frame);
-    void drawAxisOrientation(const Frame& frame, const Target& target);
     void drawDecoration(const Frame& frame, const Decoration& decoration, const Target& target);
-    void drawAxisLetters(const Frame& frame);
     void dropUnused();
 
     UploadCounts m_counts;
