@@ -3,7 +3,7 @@
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/foundation/boundingbox.h"
-#include "tests/support/randomcameras.h"
+#include "tests/support/testcameras.h"
 
 #include <gtest/gtest.h>
 

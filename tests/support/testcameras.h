@@ -4,10 +4,43 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace vxgraphics3d {
+
+/// Looks along negative z from (0, 0, 6), clipped at 4 and 8.
+inline Camera3d frontCamera()
+{
+    Camera3d camera;
+    camera.lookAt({0.0f, 0.0f, 6.0f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
+    const float half = 4.0f / 3.0f;
+    camera.setBoundingBox(BoundingBox(-half, half, 0.0f, 0.0f, 0.0f, 0.0f));
+    return camera;
+}
+
+/// Everything that a renderer takes of what a camera shows.
+inline std::vector<Matrixf> displayedMatrices(const Camera3d& camera)
+{
+    return {camera.getViewTransform(),           camera.getInvViewTransform(),      camera.getRotationTransform(),
+            camera.getInvRotationTransform(),    camera.getProjectionTransformRH(), camera.getProjectionTransformLH(),
+            camera.getInvProjectionTransformRH()};
+}
+
+/// The greatest difference of the elements of two matrices, against the greatest element.
+inline float relativeDifference(const Matrixf& a, const Matrixf& b)
+{
+    float difference = 0.0f;
+    float size = 0.0f;
+    for (int i = 0; i < 16; ++i) {
+        difference = std::max(difference, std::abs(a.data()[i] - b.data()[i]));
+        size = std::max(size, std::abs(a.data()[i]));
+    }
+    return difference / size;
+}
 
 /// Random cameras that look at a scene around a rotation point, in both projections and with all resize behaviours; the
 /// same ones in every run.
