@@ -1,7 +1,7 @@
 #pragma once
 
 #include "renderer/axes/axislayout.h"
-#include "renderer/scene/view.h"
+#include "renderer/picture/pixelarea.h"
 
 #include <vector>
 

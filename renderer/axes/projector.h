@@ -1,6 +1,6 @@
 #pragma once
 
-#include "renderer/scene/view.h"
+#include "renderer/picture/pixelarea.h"
 
 #include <array>
 #include <cmath>

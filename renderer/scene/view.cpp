@@ -2,15 +2,7 @@
 
 #include "graphics3d/cameras/icameratransforms.h"
 
-#include <algorithm>
-
 namespace vxrenderer {
-
-PixelArea centeredSquare(const PixelArea& area)
-{
-    const int side = std::min(area.width, area.height);
-    return {area.x + (area.width - side) / 2, area.y + (area.height - side) / 2, side, side};
-}
 
 View View::of(const vxgraphics3d::ICameraTransforms& camera, const PixelArea& area, bool isFlat)
 {

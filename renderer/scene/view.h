@@ -1,26 +1,13 @@
 #pragma once
 
 #include "graphics3d/foundation/matrixf.h"
+#include "renderer/picture/pixelarea.h"
 
 namespace vxgraphics3d {
 class ICameraTransforms;
 }
 
 namespace vxrenderer {
-
-/// A rectangle of pixels, with its corner at the top left of the picture.
-struct PixelArea {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-
-    /// Whether there is anything to see.
-    bool isEmpty() const { return width < 1 || height < 1; }
-};
-
-/// The largest square in the middle of an area.
-PixelArea centeredSquare(const PixelArea& area);
 
 /// How a camera sees the scene in one frame, in the form that shaders take it.
 struct View {
