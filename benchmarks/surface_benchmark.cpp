@@ -1,6 +1,7 @@
 // Fills of surface plots, each beside a bare loop that writes the same records and indices into new memory. The data
 // are a square grid of points with two triangles in each cell. What both wrote is compared once, byte for byte.
 
+#include "benchmarks/memory.h"
 #include "graphics3d/plots/scalar/scenegraphplotsurface2d.h"
 #include "graphics3d/plots/scalar/scenegraphplotsurface3d.h"
 #include "tests/support/postrecord.h"
@@ -10,12 +11,9 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include <malloc.h>
 
 namespace vxgraphics3d {
 namespace {
@@ -218,39 +216,22 @@ void bareFill(benchmark::State& state)
     state.SetItemsProcessed(state.iterations() * state.range(0) * state.range(0));
 }
 
-/// A figure of the process in bytes, such as "VmHWM:", its highest use of memory; 0 where the system does not tell.
-double processMemory(const std::string& figure)
-{
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);) {
-        if (line.rfind(figure, 0) == 0) {
-            return 1024.0 * std::stod(line.substr(figure.size()));
-        }
-    }
-    return 0.0;
-}
-
-/// The highest use of memory during a fill of ten million points, in bytes beyond what the record takes. `buffers` are
-/// the bytes of the buffers themselves, and `told` those of the buffers and the temporary arrays of heights and
-/// normals.
+/// The highest use of memory during a fill of ten million points beyond what the record takes: the buffers themselves,
+/// and for raised surfaces the temporary arrays of heights and normals.
 template <class Plot, Kind kind>
 void fillTenMillion(benchmark::State& state)
 {
     const PostRecord record = gridRecord(kind, 3163);
     for (auto _ : state) {
         state.PauseTiming();
-        malloc_trim(0);                              // what others have freed is no part of what was there before
-        std::ofstream("/proc/self/clear_refs") << 5; // the highest use starts from here
-        const double before = processMemory("VmRSS:");
+        const MemoryWatch watch;
         Plot plot(1);
         state.ResumeTiming();
         plot.fillPlot(record);
         state.PauseTiming();
         const double numPoints = plot.getVertices().getNumberOfVertices();
         const double buffers = 32.0 * numPoints + 4.0 * plot.getTriangles().getNumIndices();
-        state.counters["peak"] = processMemory("VmHWM:") - before;
-        state.counters["buffers"] = buffers;
-        state.counters["told"] = buffers + (kind == Kind::raised ? (8.0 + 12.0) * numPoints : 0.0);
+        watch.report(state, buffers, buffers + (kind == Kind::raised ? (8.0 + 12.0) * numPoints : 0.0));
         state.ResumeTiming();
     }
 }
