@@ -36,6 +36,33 @@ float scaleToInner(const SceneArea& area)
                                                     part(area.inner.height, area.whole.height)));
 }
 
+/// Whether a pixel of the camera's area has the same size in the world however large the area is.
+template <class Camera>
+bool keepsPixels(const Camera& camera)
+{
+    const auto behaviour = camera.isOverrideResizeBehaviour()
+                               ? camera.getOwnResizeBehaviour()
+                               : Canvas3dGlobalSettings::getInstance()->getResizeBehaviour();
+    return behaviour == Canvas3dGlobalSettings::ResizePixels;
+}
+
+/// Lets the copy of a camera show in its larger area what the camera shows, and not more of the scene.
+void showTheSame(Camera3d& copy, const Camera3d& camera)
+{
+    if (keepsPixels(camera)) {
+        copy.setViewingScale(camera.getViewingScale() * static_cast<float>(copy.getRenderAreaWidth()) /
+                             static_cast<float>(camera.getRenderAreaWidth()));
+    }
+}
+
+void showTheSame(Camera2d& copy, const Camera2d& camera)
+{
+    if (keepsPixels(camera) && camera.getCameraMode() != Camera2d::ModePolar) {
+        copy.setViewLimits(camera.getActualMinX(), camera.getActualMaxX(), camera.getActualMinY(),
+                           camera.getActualMaxY());
+    }
+}
+
 void requireNoFault()
 {
     const GLenum fault = glGetError();
@@ -229,12 +256,16 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     const Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
     // A camera that takes another size may not find back to its base, so a copy does.
+    const auto drawWithCopy = [&](const auto& camera) {
+        auto copy = camera;
+        m_renderer->layOut(frameOf(copy, look), width, height);
+        showTheSame(copy, camera);
+        m_renderer->draw(frameOf(copy, look), target);
+    };
     if (m_settings->getRenderMode() == Canvas3dSettings::RenderMode2d) {
-        Camera2d camera(*m_settings->getCamera2d());
-        m_renderer->draw(frameOf(camera, look), target);
+        drawWithCopy(*m_settings->getCamera2d());
     } else {
-        Camera3d camera(*m_settings->getCamera3d());
-        m_renderer->draw(frameOf(camera, look), target);
+        drawWithCopy(*m_settings->getCamera3d());
     }
     requireNoFault();
     std::vector<std::uint8_t> pixels(bytesOf(target));

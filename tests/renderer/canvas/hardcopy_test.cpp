@@ -136,5 +136,35 @@ TEST(Hardcopy, looksLikeThePictureAtTheSameSize)
     EXPECT_EQ(file.pixels, colors);
 }
 
+TEST(Hardcopy, showsNoMoreOfTheSceneWhereAPixelKeepsItsSize)
+{
+    OffscreenCanvas canvas(150, 120, 4);
+    TestScene scene;
+    scene.addSquare(1, 0x00ff00);
+    showFlat(canvas, scene);
+    showPlotsAlone(canvas);
+    const auto settings = canvas.getCanvas3dSettings();
+    settings->camera2d()->setOverrideResizeBehaviour(true, vxgraphics3d::Canvas3dGlobalSettings::ResizePixels);
+    settings->camera3d()->setOverrideResizeBehaviour(true, vxgraphics3d::Canvas3dGlobalSettings::ResizePixels);
+    settings->camera3d()->setProjectionType(vxgraphics3d::Camera3d::ProjectionOrthographic);
+    settings->camera3d()->setViewingScale(50.0f);
+    for (const bool isFlat : {true, false}) {
+        if (!isFlat) {
+            lookFrom(canvas, -90.0, 90.0);
+        }
+        canvas.zoomExtents();
+        const Picture picture = drawnAsIs(canvas);
+        const PngFile file(canvas.encodeHardcopy(HardcopySettings(), 600, 480));
+        int numDrawn = 0;
+        for (std::size_t i = 0; i < file.pixels.size(); i += 3) {
+            numDrawn += file.pixels[i] == 0 ? 1 : 0;
+        }
+        // Margins follow the fonts and not the size of the picture, so the square grows by a little more than four.
+        const double growth = static_cast<double>(numDrawn) / picture.countDrawn(0, 0, 150, 120);
+        EXPECT_GT(growth, 16.0) << isFlat;
+        EXPECT_LT(growth, 24.0) << isFlat;
+    }
+}
+
 } // namespace
 } // namespace vxrenderer
