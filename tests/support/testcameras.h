@@ -1,12 +1,12 @@
 #pragma once
 
 #include "graphics3d/cameras/camera3d.h"
+#include "tests/support/randomnumbers.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -44,18 +44,10 @@ inline float relativeDifference(const Matrixf& a, const Matrixf& b)
 
 /// Random cameras that look at a scene around a rotation point, in both projections and with all resize behaviours; the
 /// same ones in every run.
-class RandomCameras {
+class RandomCameras : public RandomNumbers {
 public:
-    float uniform(float low, float high)
-    {
-        const auto fraction = static_cast<float>(m_generator() >> 8) / 16777216.0f;
-        return low + (high - low) * fraction;
-    }
-    int integer(int low, int high)
-    {
-        return low + static_cast<int>(m_generator() % static_cast<unsigned>(high - low + 1));
-    }
-    Vector3f vector(float size) { return {uniform(-size, size), uniform(-size, size), uniform(-size, size)}; }
+    RandomCameras() : RandomNumbers(20260101) {}
+
     BoundingBox box(const Vector3f& centre, float size)
     {
         const Vector3f half(uniform(0.1f, size), uniform(0.1f, size), uniform(0.1f, size));
@@ -86,9 +78,6 @@ public:
         camera.setBoundingBox(box(point, 4.0f));
         return camera;
     }
-
-private:
-    std::mt19937 m_generator{20260101};
 };
 
 /// Checks 300 random cameras, up to the first that fails.

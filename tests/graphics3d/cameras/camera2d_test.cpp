@@ -2,13 +2,14 @@
 
 #include "graphics3d/cameras/camera3d.h"
 
+#include "tests/support/randomnumbers.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
 #include <cmath>
 #include <functional>
 #include <limits>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -51,16 +52,10 @@ Camera2d cameraOf(int width, int height, int behaviour)
     return camera;
 }
 
-class RandomViews {
+class RandomViews : public RandomNumbers {
 public:
-    float uniform(float low, float high)
-    {
-        return low + (high - low) * (static_cast<float>(m_generator() >> 8) / 16777216.0f);
-    }
-    int integer(int low, int high)
-    {
-        return low + static_cast<int>(m_generator() % static_cast<unsigned>(high - low + 1));
-    }
+    RandomViews() : RandomNumbers(20260102) {}
+
     /// A camera that shows a random rectangle in one of the behaviours 0 to 5.
     Camera2d camera(int behaviour)
     {
@@ -71,9 +66,6 @@ public:
         camera.setViewLimits(x, x + uniform(1.0f, 60.0f), y, y + uniform(1.0f, 60.0f));
         return camera;
     }
-
-private:
-    std::mt19937 m_generator{20260102};
 };
 
 template <class Check>

@@ -5,6 +5,7 @@
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
+#include "tests/support/randomnumbers.h"
 
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
@@ -12,7 +13,6 @@
 #include <cmath>
 #include <initializer_list>
 #include <numbers>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -53,27 +53,16 @@ private:
 };
 
 /// A view with its camera, of which the first button does one action without keys.
-struct TestView {
+struct TestView : vxgraphics3d::RandomNumbers {
     boost::shared_ptr<Canvas3dSettings> settings = boost::make_shared<Canvas3dSettings>();
     int canvasHeight = 100;
-    std::mt19937 generator;
 
-    explicit TestView(unsigned seed = 1) : generator(seed) {}
+    explicit TestView(unsigned seed = 1) : RandomNumbers(seed) {}
 
     Camera3d& camera3d() { return *settings->camera3d(); }
     Camera2d& camera2d() { return *settings->camera2d(); }
     ICameraTransforms& camera() { return settings->cameraTransforms(); }
     bool isPlanar() const { return settings->getRenderMode() == Canvas3dSettings::RenderMode2d; }
-
-    float uniform(float low, float high)
-    {
-        return low + (high - low) * static_cast<float>(generator() >> 8) / 16777216.0f;
-    }
-    int integer(int low, int high)
-    {
-        return low + static_cast<int>(generator() % static_cast<unsigned>(high - low + 1));
-    }
-    Vector3f vector(float size) { return {uniform(-size, size), uniform(-size, size), uniform(-size, size)}; }
 
     /// A place in the picture, in pixels from the lower left corner of the render area.
     AreaPoint project(const Vector3f& point)
