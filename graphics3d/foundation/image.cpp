@@ -28,7 +28,7 @@ std::uint32_t weightedMean(Words... words)
 Image::Image(int width, int height, Format format, float scale)
     : m_format(format), m_width(std::max(width, 1)), m_height(std::max(height, 1)), m_scale(scale)
 {
-    m_owned.reset(new std::uint32_t[numPixels()]());
+    m_owned = std::make_unique<std::uint32_t[]>(numPixels());
     m_data = m_owned.get();
 }
 
@@ -39,7 +39,7 @@ Image::Image(int width, int height, Format format, float scale, void* data)
 Image::Image(const Image& other)
     : m_format(other.m_format), m_width(other.m_width), m_height(other.m_height), m_scale(other.m_scale)
 {
-    m_owned.reset(new std::uint32_t[numPixels()]());
+    m_owned = std::make_unique<std::uint32_t[]>(numPixels());
     m_data = m_owned.get();
     fill(other);
 }
@@ -66,8 +66,7 @@ boost::shared_ptr<Image> Image::createDownsampled(const Image& src)
     const int h = std::max(src.m_height, 0);
     const int halfWidth = w / 2;
     const int halfHeight = h / 2;
-    const auto result =
-        boost::make_shared<Image>(halfWidth + w % 2, halfHeight + h % 2, src.m_format, src.m_scale / 2.0f);
+    auto result = boost::make_shared<Image>(halfWidth + w % 2, halfHeight + h % 2, src.m_format, src.m_scale / 2.0f);
     if (src.m_data == nullptr || w == 0 || h == 0) {
         return result;
     }

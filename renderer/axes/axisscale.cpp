@@ -221,7 +221,11 @@ private:
 
     void addMinorLines()
     {
-        for (double decade = std::floor(m_scale.low); decade <= m_scale.high; ++decade) {
+        // By number: far from zero, a double does not change when one is added.
+        const double first = std::floor(m_scale.low);
+        const auto numDecades = static_cast<int>(std::floor(m_scale.high) - first) + 1;
+        for (int i = 0; i < numDecades; ++i) {
+            const double decade = first + i;
             for (int mantissa = 2; mantissa < 10; ++mantissa) {
                 if (const double position = decade + std::log10(mantissa); isInside(position)) {
                     m_result.ticks.push_back({position, "", true});

@@ -121,7 +121,7 @@ boost::shared_ptr<RendererInfo> GlRendererInfo::ofProcess()
             announce(context.getPlatform());
         } catch (const std::exception& e) {
             // Asked again when it is wanted again: what was missing may have come meanwhile.
-            const boost::shared_ptr<RendererInfo> failure = ofFailure(e.what());
+            boost::shared_ptr<RendererInfo> failure = ofFailure(e.what());
             Canvas3dGlobalSettings::setRendererInfo(failure);
             return failure;
         }

@@ -174,8 +174,10 @@ void AxesPainter::drawLabels(OverlayPainter& painter, const AxisFonts& fonts) co
                 painter.drawText(text, font, x, y, color);
             }
         };
-        for (int side = 0; m_hasHalo && side < 9; ++side) {
-            draw(left + static_cast<float>(side % 3 - 1), top + static_cast<float>(side / 3 - 1), m_haloColor);
+        for (int aside = -1; m_hasHalo && aside <= 1; ++aside) {
+            for (int below = -1; below <= 1; ++below) {
+                draw(left + static_cast<float>(aside), top + static_cast<float>(below), m_haloColor);
+            }
         }
         draw(left, top, m_labelColor);
     }

@@ -9,7 +9,6 @@
 namespace vxrenderer {
 namespace {
 
-using vxgraphics3d::Canvas3dBackgroundSettings;
 using vxgraphics3d::CanvasBackgroundImage;
 using vxgraphics3d::Image;
 
