@@ -51,9 +51,9 @@ void check(benchmark::State& state, const BoundingBox& box, const BoundingBox& e
 // --- adding children to one group: a place in the table, the links between child and group, and one merge each -------
 //
 // The limit is the merging of the children's boxes alone. The floor is the main steps for each child as one bare
-// loop: a share in the child, copied from the caller's and appended to a growing table, a weak reference to the group, the counters of
-// both, and the merge. Leaves are new each time and made outside the measured time, which a clock of its own takes:
-// pausing costs more than many a thousand merges.
+// loop: a share in the child, copied from the caller's and appended to a growing table, a weak reference to the group,
+// the counters of both, and the merge. Leaves are new each time and made outside the measured time, which a clock of
+// its own takes: pausing costs more than many a thousand merges.
 
 /// Leaves memory with the allocator that has been written before: the first touch of a page costs more than the work on
 /// what lies in it, and it is the system's.
