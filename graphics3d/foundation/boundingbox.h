@@ -124,10 +124,16 @@ public:
 private:
     void cover(const Vector3f& low, const Vector3f& high)
     {
-        const Vector3f min = getMin();
-        const Vector3f max = getMax();
-        init(std::min(min.x, low.x), std::max(max.x, high.x), std::min(min.y, low.y), std::max(max.y, high.y),
-             std::min(min.z, low.z), std::max(max.z, high.z));
+        coverAxis(m_center.x, m_halfSizeX, low.x, high.x);
+        coverAxis(m_center.y, m_halfSizeY, low.y, high.y);
+        coverAxis(m_center.z, m_halfSizeZ, low.z, high.z);
+    }
+    static void coverAxis(float& center, float& halfSize, float low, float high)
+    {
+        const float min = std::min(center - halfSize, low);
+        const float max = std::max(center + halfSize, high);
+        center = (min + max) * 0.5f;
+        halfSize = (max - min) * 0.5f;
     }
 
     Vector3f m_center;

@@ -95,17 +95,24 @@ inline constexpr int c_nativeLogSubId = 8;
 
 namespace detail {
 
-template <class... Args>
-void logLine(ErrorLog::Level level, int subId, const vxbase::LogText<Args...>& text, Args... args)
+/// Out of line and with few arguments, so that a message that nobody hears costs the code around it one comparison.
+template <ErrorLog::Level level, int subId, class... Args>
+[[gnu::cold, gnu::noinline]] void writeLine(const char* file, int line, const char* format, Args... args)
 {
-    if (ErrorLog::isHeard(level)) [[unlikely]] {
 // The text was held against its arguments when it was compiled, which is more than this warning could do.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-security"
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
-        ErrorLog::getInstance()->log(level, ErrorLog::ModuleID::graphics, subId, text.file, text.line, text.text,
-                                     vxbase::printable(args)...);
+    ErrorLog::getInstance()->log(level, ErrorLog::ModuleID::graphics, subId, file, line, format,
+                                 vxbase::printable(args)...);
 #pragma GCC diagnostic pop
+}
+
+template <ErrorLog::Level level, int subId, class... Args>
+void logLine(const vxbase::LogText<Args...>& text, Args... args)
+{
+    if (ErrorLog::isHeard(level)) [[unlikely]] {
+        writeLine<level, subId>(text.file, text.line, text.text, args...);
     }
 }
 
@@ -115,21 +122,21 @@ void logLine(ErrorLog::Level level, int subId, const vxbase::LogText<Args...>& t
 template <class... Args>
 void logInfo(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
 {
-    detail::logLine<Args...>(ErrorLog::Level::info, c_coreLogSubId, text, args...);
+    detail::logLine<ErrorLog::Level::info, c_coreLogSubId, Args...>(text, args...);
 }
 
 /// Writes a message on a handled oddity.
 template <class... Args>
 void logWarning(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
 {
-    detail::logLine<Args...>(ErrorLog::Level::warning, c_coreLogSubId, text, args...);
+    detail::logLine<ErrorLog::Level::warning, c_coreLogSubId, Args...>(text, args...);
 }
 
 /// Writes a message on bad input that makes the library skip a step.
 template <class... Args>
 void logError(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
 {
-    detail::logLine<Args...>(ErrorLog::Level::error, c_coreLogSubId, text, args...);
+    detail::logLine<ErrorLog::Level::error, c_coreLogSubId, Args...>(text, args...);
 }
 
 } // namespace vxgraphics3d

@@ -19,6 +19,7 @@ SceneGraphGroup::SceneGraphGroup() : SceneGraphParent(NodeGroup)
 SceneGraphGroup::~SceneGraphGroup()
 {
     logInfo("Destroying SceneGraphGroup (node %d)", getNodeId());
+    orphanChildren();
     for (auto& [id, child] : m_children) {
         bury(child);
     }
@@ -31,21 +32,15 @@ boost::shared_ptr<SceneGraphGroup> SceneGraphGroup::create()
 
 // --- children -------------------------------------------------------------------------------------------------------
 
-bool SceneGraphGroup::addChild(boost::shared_ptr<SceneGraphNode> node)
+void SceneGraphGroup::refuseMoreChildren() const
 {
-    requireNewChild(node);
-    boost::weak_ptr<SceneGraphParent> group = weakSelf();
-    if (m_lastChildId == std::numeric_limits<int>::max()) {
-        throw std::length_error("The group (node " + std::to_string(getNodeId()) + ") has used up its child ids.");
-    }
-    const int id = ++m_lastChildId;
-    logInfo("Adding child %d to group (node %d).", id, getNodeId());
-    SceneGraphNode& child = *node;
-    m_children.emplace_back(id, std::move(node));
-    takeIn(child, std::move(group), id);
-    calculateBoundingBox();
-    treeStructureChanged();
-    return true;
+    throw std::length_error("The group (node " + std::to_string(getNodeId()) + ") has used up its child ids.");
+}
+
+/// Moving the children to larger tables is most of what a table costs, so it grows by large steps.
+void SceneGraphGroup::growTable()
+{
+    m_children.reserve(4 * m_children.size() + 8);
 }
 
 void SceneGraphGroup::removeChild(int childId)
@@ -58,7 +53,6 @@ void SceneGraphGroup::removeChild(int childId)
     // The child may die with its place in the table, but not while it is being detached.
     letGo(*found->second);
     m_children.erase(found);
-    m_numMerged = 0;
     calculateBoundingBox();
     treeStructureChanged();
 }
@@ -73,7 +67,6 @@ void SceneGraphGroup::removeAllChildren()
         letGo(*child);
     }
     m_children.clear();
-    m_numMerged = 0;
     calculateBoundingBox();
     treeStructureChanged();
 }
@@ -97,34 +90,13 @@ const boost::shared_ptr<SceneGraphNode>& SceneGraphGroup::find(int childId) cons
 
 // --- boxes, snap vertices and picks ---------------------------------------------------------------------------------
 
-/// While children only come at the end, merging the newest into the last result is what merging all of them in id order
-/// does, to the last bit. So filling a group takes a time linear in its children.
-inline BoundingBox SceneGraphGroup::mergedBox()
+BoundingBox SceneGraphGroup::mergeChildBoxes() const
 {
-    const int count = getNoOfChildren();
     BoundingBox box;
-    if (m_numMerged != 0 && m_numMerged + 1 == count) {
-        box = m_mergedBox;
-        box.merge(m_children.back().second->getBoundingBox());
-    } else {
-        for (const auto& [id, child] : m_children) {
-            box.merge(child->getBoundingBox());
-        }
+    for (const auto& [id, child] : m_children) {
+        box.merge(child->getBoundingBox());
     }
-    m_mergedBox = box;
-    m_numMerged = hearsOf(count) ? count : 0;
     return box;
-}
-
-void SceneGraphGroup::calculateBoundingBox()
-{
-    setBoundingBox(mergedBox());
-}
-
-const BoundingBox& SceneGraphGroup::mergeChildBoxes()
-{
-    mergedBox();
-    return m_mergedBox;
 }
 
 void SceneGraphGroup::updateNodeSnapVertices()

@@ -2,6 +2,7 @@
 
 #include "graphics3d/scenegraph/scenegraphparent.h"
 
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -38,7 +39,6 @@ public:
     void updateNodeSnapVertices() override;
     /// Withdraws the snap vertices of the direct children.
     void removeNodeSnapVertices() override;
-    void calculateBoundingBox() override;
 
     int getNoOfChildren() const override { return static_cast<int>(m_children.size()); }
     bool doesChildExist(int childId) const override { return placeOf(childId) != m_children.end(); }
@@ -50,7 +50,7 @@ public:
     NodeType getChildType(int childId) const override { return find(childId)->getType(); }
 
 protected:
-    const BoundingBox& mergeChildBoxes() override;
+    BoundingBox mergeChildBoxes() const override;
     bool admitsPick(const SelectionFrustrum& frustum, bool& inside) const override;
     void pushChildren(std::vector<OpenNode>& open, bool inside) const override;
 
@@ -60,11 +60,34 @@ private:
     /// Where the child stands, or the end of the table.
     ChildTable::const_iterator placeOf(int childId) const;
     const boost::shared_ptr<SceneGraphNode>& find(int childId) const;
-    BoundingBox mergedBox();
+
+    /// @throws std::length_error
+    [[noreturn]] void refuseMoreChildren() const;
+    void growTable();
 
     int m_lastChildId = 0;
     ChildTable m_children;
-    BoundingBox m_mergedBox; ///< over the first m_numMerged children
 };
+
+// Inline at every call, which compilers would not choose: the steps are so few that a call is a quarter of them.
+[[gnu::always_inline]] inline bool SceneGraphGroup::addChild(boost::shared_ptr<SceneGraphNode> node)
+{
+    requireNewChild(node.get());
+    if (m_lastChildId == std::numeric_limits<int>::max()) {
+        refuseMoreChildren();
+    }
+    const int id = ++m_lastChildId;
+    logInfo("Adding child %d to group (node %d).", id, getNodeId());
+    SceneGraphNode& child = *node;
+    if (m_children.size() == m_children.capacity()) {
+        growTable();
+    }
+    if (m_children.size() == m_children.capacity()) {
+        __builtin_unreachable(); // spares the code for growing here
+    }
+    m_children.emplace_back(id, std::move(node));
+    takeInLast(child, id);
+    return true;
+}
 
 } // namespace vxgraphics3d

@@ -19,37 +19,40 @@ SceneGraphNode::SceneGraphNode(NodeType type) : m_type(type)
 
 SceneGraphNode::~SceneGraphNode() = default;
 
-void SceneGraphNode::setParent(boost::weak_ptr<SceneGraphParent> parent, int childId)
+boost::shared_ptr<SceneGraphParent> SceneGraphNode::getParent() const
 {
-    SceneGraphParent* address = parent.lock().get();
-    answerTo(address, std::move(parent), childId);
+    SceneGraphParent* parent = parentOrNull();
+    return parent != nullptr ? boost::static_pointer_cast<SceneGraphParent>(parent->m_self.lock()) : nullptr;
 }
 
-void SceneGraphNode::answerTo(SceneGraphParent* parent, boost::weak_ptr<SceneGraphParent>&& weakParent, int childId)
+void SceneGraphNode::setParent(boost::weak_ptr<SceneGraphParent> parent, int childId)
 {
-    if (parent != nullptr) {
-        logInfo("Connecting node as child %d to parent (node %d)", childId, parent->getNodeId());
-        ++parent->m_numAnswering;
+    if (const auto livingParent = parent.lock()) {
+        livingParent->connect(*this, childId);
+        livingParent->announce(*this);
+    } else {
+        leave(m_parent.detach());
+        m_childId = childId;
+        markChanged();
     }
-    if (SceneGraphParent* oldParent = parentOrNull()) {
-        oldParent->loseChild();
-    }
-    m_parent = std::move(weakParent);
-    m_parentAddress = parent;
-    m_childId = childId;
-    updateNodeSnapVertices();
-    markChanged();
 }
 
 void SceneGraphNode::removeParent()
 {
-    if (SceneGraphParent* parent = parentOrNull()) {
+    if (parentOrNull() != nullptr) {
         removeNodeSnapVertices();
-        parent->loseChild();
     }
-    m_parent.reset();
+    leave(m_parent.detach());
     m_childId = 0;
     markChanged();
+}
+
+void SceneGraphNode::leave(ParentReference* reference)
+{
+    const boost::intrusive_ptr<ParentReference> givenUp(reference, false);
+    if (reference != nullptr && reference->parent != nullptr) {
+        reference->parent->loseChild();
+    }
 }
 
 void SceneGraphNode::disconnectFromParent()
@@ -81,8 +84,7 @@ void SceneGraphNode::setActive(bool active)
 void SceneGraphNode::updateBoxesAbove()
 {
     for (SceneGraphParent* parent = parentOrNull(); parent != nullptr; parent = parent->parentOrNull()) {
-        parent->m_numMerged = 0;
-        const BoundingBox& box = parent->mergeChildBoxes();
+        const BoundingBox box = parent->mergeChildBoxes();
         if (box == parent->m_boundingBox) {
             break;
         }

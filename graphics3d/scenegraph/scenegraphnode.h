@@ -5,6 +5,8 @@
 #include "graphics3d/scenegraph/snapvertex.h"
 
 #include <boost/shared_ptr.hpp>
+#include <boost/smart_ptr/intrusive_ptr.hpp>
+#include <boost/smart_ptr/intrusive_ref_counter.hpp>
 #include <boost/weak_ptr.hpp>
 
 #include <vector>
@@ -47,7 +49,7 @@ public:
     // Place in the tree
 
     /// The parent that the node answers to, or null.
-    boost::shared_ptr<SceneGraphParent> getParent() const { return m_parent.lock(); }
+    boost::shared_ptr<SceneGraphParent> getParent() const;
     /// The id under the parent: -1 before the first parent, 0 after the last one.
     int getChildId() const { return m_childId; }
     /// Makes the node answer to a parent, registers its snap vertices there and counts a change. Called by the parent
@@ -82,13 +84,15 @@ public:
         // Inline, so that a box which was just calculated is stored from registers.
         if (!(box == m_boundingBox)) {
             m_boundingBox = box;
+            m_boxIsMerged = false;
             updateBoxesAbove();
         }
     }
 
     // What the kinds of nodes do in their own ways
 
-    /// Registers the snap vertices anew under the parent.
+    /// Registers the snap vertices anew under the parent. A node that comes under a parent without a root is not
+    /// called: snap vertices are kept by the root.
     virtual void updateNodeSnapVertices();
     /// Withdraws the snap vertices from the parent.
     virtual void removeNodeSnapVertices();
@@ -118,10 +122,18 @@ protected:
 private:
     friend class SceneGraphParent;
 
+    /// The weak reference on a parent, one for all nodes that answer to it. A weak pointer in each of them would cost
+    /// an atomic operation per child; this one counts plainly, as a tree belongs to one thread at a time.
+    struct ParentReference : boost::intrusive_ref_counter<ParentReference, boost::thread_unsafe_counter> {
+        explicit ParentReference(SceneGraphParent* p) : parent(p) {}
+
+        SceneGraphParent* parent; ///< null after its death
+    };
+
     /// The parent without a share in it: for steps that no parent can die in.
-    SceneGraphParent* parentOrNull() const { return m_parent.expired() ? nullptr : m_parentAddress; }
-    /// setParent() for a caller that knows the parent; null for one that has died.
-    void answerTo(SceneGraphParent* parent, boost::weak_ptr<SceneGraphParent>&& weakParent, int childId);
+    SceneGraphParent* parentOrNull() const { return m_parent ? m_parent->parent : nullptr; }
+    /// Gives up a node's reference on a parent, or null: the node no longer answers to it.
+    static void leave(ParentReference* reference);
     void updateBoxesAbove();
 
     static const BoundingBox c_emptyBox;
@@ -130,10 +142,11 @@ private:
     boost::weak_ptr<SceneGraphNode> m_self;
     NodeType m_type;
     int m_nodeId;
-    boost::weak_ptr<SceneGraphParent> m_parent;
-    SceneGraphParent* m_parentAddress = nullptr; ///< of m_parent; good while that has not expired
+    boost::intrusive_ptr<ParentReference> m_parent;
     int m_childId = -1;
     bool m_active = true;
+    /// Of a parent: whether the box is the merge of all children, each of which tells this parent of its changes.
+    bool m_boxIsMerged = false;
     int m_changeId = 1;
     int m_numHolders = 0; ///< how often parents hold the node; the one that it answers to is among them
     std::vector<SnapVertex> m_snapVertices;

@@ -51,15 +51,32 @@ void SceneGraphParent::getMarkedBoundingBox(BoundingBox& box, int include, int e
 
 // --- ways up --------------------------------------------------------------------------------------------------------
 
+SceneGraphParent* SceneGraphParent::root()
+{
+    SceneGraphParent* parent = this;
+    while (parent != nullptr && parent->getType() != NodeRoot) {
+        parent = parent->parentOrNull();
+    }
+    return parent;
+}
+
+void SceneGraphParent::markChildChangedAbove()
+{
+    for (SceneGraphParent* parent = parentOrNull(); parent != nullptr; parent = parent->parentOrNull()) {
+        raiseChange(parent->m_childrenChangeId);
+    }
+}
+
 void SceneGraphParent::calculateBoundingBox()
 {
     setBoundingBox(mergeChildBoxes());
+    m_boxIsMerged = getNumAnswering() == getNoOfChildren();
 }
 
 void SceneGraphParent::changeVertexState(int nodeId, int index, int state)
 {
-    if (SceneGraphParent* root = rootAbove()) {
-        root->changeVertexState(nodeId, index, state);
+    if (SceneGraphParent* top = root()) {
+        top->changeVertexState(nodeId, index, state);
     }
 }
 
@@ -68,29 +85,54 @@ void SceneGraphParent::addSnapVertices(int nodeId, const std::vector<SnapVertex>
     if (vertices.empty()) {
         return;
     }
-    if (SceneGraphParent* root = rootAbove()) {
-        root->addSnapVertices(nodeId, vertices);
+    if (SceneGraphParent* top = root()) {
+        top->addSnapVertices(nodeId, vertices);
     }
 }
 
 void SceneGraphParent::removeSnapVertices(int nodeId)
 {
-    if (SceneGraphParent* root = rootAbove()) {
-        root->removeSnapVertices(nodeId);
+    if (SceneGraphParent* top = root()) {
+        top->removeSnapVertices(nodeId);
     }
 }
 
 // --- children -------------------------------------------------------------------------------------------------------
 
-void SceneGraphParent::requireNewParent(const boost::shared_ptr<SceneGraphNode>& node) const
+void SceneGraphParent::requireNewParent(const SceneGraphNode* node) const
 {
-    if (!node) {
+    if (node == nullptr) {
         throw std::invalid_argument("The child is null.");
     }
     if (standsBelow(*node)) {
         throw std::invalid_argument("Node " + std::to_string(node->getNodeId()) + " cannot be a child of node " +
                                     std::to_string(getNodeId()) + ", which it is itself or which stands below it.");
     }
+}
+
+void SceneGraphParent::announce(SceneGraphNode& node)
+{
+    if (root() != nullptr) {
+        node.updateNodeSnapVertices();
+    }
+    raiseChange(node.m_changeId);
+    markChildChanged();
+}
+
+void SceneGraphParent::announceLast(SceneGraphNode& child)
+{
+    announce(child);
+    mergeLast(child);
+    treeStructureChanged();
+}
+
+void SceneGraphParent::takeIn(SceneGraphNode& child, int childId)
+{
+    ++child.m_numHolders;
+    connect(child, childId);
+    announce(child);
+    calculateBoundingBox();
+    treeStructureChanged();
 }
 
 void SceneGraphParent::letGo(SceneGraphNode& child)
@@ -102,8 +144,7 @@ void SceneGraphParent::letGo(SceneGraphNode& child)
 /// Takes note that a node which answered to this one no longer does, though it may still stand in the table.
 void SceneGraphParent::loseChild()
 {
-    --m_numAnswering;
-    m_numMerged = 0;
+    m_boxIsMerged = false;
 }
 
 bool SceneGraphParent::standsBelow(const SceneGraphNode& node) const

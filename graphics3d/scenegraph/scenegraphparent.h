@@ -1,12 +1,11 @@
 #pragma once
 
 #include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/foundation/errorlog.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 
 #include <boost/shared_ptr.hpp>
-#include <boost/weak_ptr.hpp>
 
-#include <utility>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -18,6 +17,8 @@ namespace vxgraphics3d {
 /// stack.
 class VX_API SceneGraphParent : public SceneGraphNode {
 public:
+    ~SceneGraphParent() override { orphanChildren(); }
+
     /// The number of changes anywhere below this node, from 1.
     int getChildrenChangeId() const { return m_childrenChangeId; }
     /// Whether the number differs from the one given.
@@ -25,8 +26,9 @@ public:
     /// Counts a change below this node, here and on every node above.
     void markChildChanged()
     {
-        for (SceneGraphParent* parent = this; parent != nullptr; parent = parent->parentOrNull()) {
-            raiseChange(parent->m_childrenChangeId);
+        raiseChange(m_childrenChangeId);
+        if (m_parent) {
+            markChildChangedAbove();
         }
     }
 
@@ -47,8 +49,8 @@ public:
     /// Tells the root that nodes have come or gone.
     virtual void treeStructureChanged()
     {
-        if (SceneGraphParent* root = rootAbove()) {
-            root->treeStructureChanged();
+        if (SceneGraphParent* top = root()) {
+            top->treeStructureChanged();
         }
     }
     /// Calculates the box from those of the children, and brings the boxes above up to date.
@@ -69,52 +71,48 @@ protected:
         bool inside;
     };
 
-    explicit SceneGraphParent(NodeType type) : SceneGraphNode(type) {}
+    explicit SceneGraphParent(NodeType type) : SceneGraphNode(type), m_reference(new ParentReference(this)) {}
 
-    /// A weak reference on this node for its children.
-    /// @throws boost::bad_weak_ptr if the node was not made by `create()`
-    boost::weak_ptr<SceneGraphParent> weakSelf()
-    {
-        if (m_self.expired()) {
-            throw boost::bad_weak_ptr();
-        }
-        return {m_self, this};
-    }
     /// Refuses what may not become a child: nothing at all, this node itself, or one that this node stands below. Takes
     /// a time that does not depend on the number of children, and for a leaf or an empty parent not on the depth.
     /// @throws std::invalid_argument
-    void requireNewChild(const boost::shared_ptr<SceneGraphNode>& node) const
+    void requireNewChild(const SceneGraphNode* node) const
     {
-        if (!node || mayHold(*node)) {
+        if (node == nullptr || mayHold(*node)) {
             requireNewParent(node);
         }
     }
-    /// Makes a node that has entered the table of children answer to this one, with setParent().
-    void takeIn(SceneGraphNode& child, boost::weak_ptr<SceneGraphParent>&& weakThis, int childId)
+    /// Makes a node that has entered the table of children answer to this one, then brings box and structure up to
+    /// date.
+    void takeIn(SceneGraphNode& child, int childId);
+    /// takeIn() for a child that stands behind all others. Takes a time that does not depend on their number.
+    void takeInLast(SceneGraphNode& child, int childId)
     {
         ++child.m_numHolders;
-        child.answerTo(this, std::move(weakThis), childId);
+        connect(child, childId);
+        if (m_parent) {
+            announceLast(child);
+        } else {
+            raiseChange(child.m_changeId);
+            raiseChange(m_childrenChangeId);
+            mergeLast(child);
+        }
     }
+    /// Takes note that the nodes that answered to this one have no parent any more. A class that releases children in
+    /// its destructor calls this first, so that none of them turns to a parent that is half destroyed.
+    void orphanChildren() noexcept { m_reference->parent = nullptr; }
     /// Makes a node that is to leave the table of children answer to nobody.
     static void letGo(SceneGraphNode& child);
     /// Gives a child up while this node dies, so that a deep tree is taken apart without deep recursion.
     static void bury(boost::shared_ptr<SceneGraphNode>& child) noexcept;
 
-    /// Whether the boxes of all children of a table reach this node when they change: not so if one of them answers to
-    /// another parent.
-    bool hearsOf(int numChildren) const { return m_numAnswering == numChildren; }
-
     /// The box over all children, inactive ones left out, merged in id order.
-    virtual const BoundingBox& mergeChildBoxes() = 0;
+    virtual BoundingBox mergeChildBoxes() const = 0;
     /// Whether a pick goes on to the children.
     /// @param inside in: whether a group above lies wholly in the frustum; out: whether this node does
     virtual bool admitsPick(const SelectionFrustrum& frustum, bool& inside) const = 0;
     /// Puts the children on a stack, the first one on top.
     virtual void pushChildren(std::vector<OpenNode>& open, bool inside) const = 0;
-
-    /// For mergeChildBoxes(): how many of the first children its last result covers; 0 when the box of one of them may
-    /// have changed since.
-    int m_numMerged = 0;
 
 private:
     friend class SceneGraphNode;
@@ -125,16 +123,47 @@ private:
         return node.getType() == NodeRoot || node.getType() == NodeGroup;
     }
 
-    SceneGraphParent* rootAbove() const
+    /// The nearest root: this node or one above it; or null.
+    SceneGraphParent* root();
+    void markChildChangedAbove();
+    /// How many nodes answer to this one.
+    int getNumAnswering() const { return static_cast<int>(m_reference->use_count()) - 1; }
+    /// Makes a node answer to this one: the first half of setParent().
+    void connect(SceneGraphNode& node, int childId)
     {
-        SceneGraphParent* parent = parentOrNull();
-        while (parent != nullptr && parent->getType() != NodeRoot) {
-            parent = parent->parentOrNull();
+        logInfo("Connecting node as child %d to parent (node %d)", childId, getNodeId());
+        auto reference = m_reference;
+        reference.swap(node.m_parent);
+        if (reference) {
+            SceneGraphNode::leave(reference.detach());
         }
-        return parent;
+        node.m_childId = childId;
+    }
+    /// Registers the snap vertices of a node that answers to this one, and counts the change: the second half.
+    void announce(SceneGraphNode& node);
+    /// announce() for a child that stands behind all others, then box and structure.
+    void announceLast(SceneGraphNode& child);
+    /// What calculateBoundingBox() does after a child has come at the end. While children only come, merging the last
+    /// one into the box of the others is what merging all of them in id order does, to the last bit; that the box
+    /// before is kept if it is equal does not matter, as an equal box may differ in the signs of zeros alone, and no
+    /// merge keeps those.
+    void mergeLast(const SceneGraphNode& child)
+    {
+        if (!m_boxIsMerged) {
+            calculateBoundingBox();
+            return;
+        }
+        BoundingBox box = m_boundingBox;
+        box.merge(child.getBoundingBox());
+        if (!(box == m_boundingBox)) {
+            m_boundingBox = box;
+            if (m_parent) {
+                updateBoxesAbove();
+            }
+        }
     }
     /// requireNewChild() for what is no leaf.
-    void requireNewParent(const boost::shared_ptr<SceneGraphNode>& node) const;
+    void requireNewParent(const SceneGraphNode* node) const;
     static const SceneGraphParent* asParent(const SceneGraphNode& node);
     bool standsBelow(const SceneGraphNode& node) const;
     void loseChild();
@@ -143,7 +172,7 @@ private:
     void walk(bool inside, Enter enter, Leaf leaf) const;
 
     int m_childrenChangeId = 1;
-    int m_numAnswering = 0; ///< how many nodes answer to this one
+    boost::intrusive_ptr<ParentReference> m_reference; ///< on this node, for its children
 };
 
 } // namespace vxgraphics3d

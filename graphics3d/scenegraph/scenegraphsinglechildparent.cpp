@@ -8,6 +8,7 @@ namespace vxgraphics3d {
 
 SceneGraphSingleChildParent::~SceneGraphSingleChildParent()
 {
+    orphanChildren();
     if (m_child) {
         bury(m_child);
     }
@@ -15,13 +16,10 @@ SceneGraphSingleChildParent::~SceneGraphSingleChildParent()
 
 void SceneGraphSingleChildParent::setChild(boost::shared_ptr<SceneGraphNode> node)
 {
-    requireNewChild(node);
-    boost::weak_ptr<SceneGraphParent> parent = weakSelf();
+    requireNewChild(node.get());
     takeChild();
     m_child = std::move(node);
-    takeIn(*m_child, std::move(parent), 0);
-    calculateBoundingBox();
-    treeStructureChanged();
+    takeIn(*m_child, 0);
 }
 
 void SceneGraphSingleChildParent::removeChild(int)
@@ -53,7 +51,7 @@ const boost::shared_ptr<SceneGraphNode>& SceneGraphSingleChildParent::find() con
     return m_child;
 }
 
-const BoundingBox& SceneGraphSingleChildParent::mergeChildBoxes()
+BoundingBox SceneGraphSingleChildParent::mergeChildBoxes() const
 {
     return m_child ? m_child->getBoundingBox() : emptyBox();
 }

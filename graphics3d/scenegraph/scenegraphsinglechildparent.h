@@ -30,7 +30,7 @@ public:
 protected:
     explicit SceneGraphSingleChildParent(NodeType type) : SceneGraphParent(type) {}
 
-    const BoundingBox& mergeChildBoxes() override;
+    BoundingBox mergeChildBoxes() const override;
     bool admitsPick(const SelectionFrustrum&, bool&) const override { return true; }
     void pushChildren(std::vector<OpenNode>& open, bool inside) const override;
 

@@ -37,7 +37,7 @@ public:
     NativeEntry(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
         : m_file(text.file), m_line(text.line)
     {
-        detail::logLine<Args...>(ErrorLog::Level::jniInfo, c_nativeLogSubId, text, args...);
+        detail::logLine<ErrorLog::Level::jniInfo, c_nativeLogSubId, Args...>(text, args...);
     }
 
     const char* file() const { return m_file; }
@@ -51,13 +51,13 @@ private:
 /// A message on a number from Java that stands for nothing and is tolerated.
 inline void logNativeError(vxbase::LogText<> text)
 {
-    detail::logLine<>(ErrorLog::Level::error, c_nativeLogSubId, text);
+    detail::logLine<ErrorLog::Level::error, c_nativeLogSubId>(text);
 }
 
 /// A message on an oddity in a call from Java.
 inline void logNativeWarning(vxbase::LogText<> text)
 {
-    detail::logLine<>(ErrorLog::Level::warning, c_nativeLogSubId, text);
+    detail::logLine<ErrorLog::Level::warning, c_nativeLogSubId>(text);
 }
 
 /// The frame of every native: logs the entry, runs the body, and turns whatever it throws into a Java exception.

@@ -391,6 +391,36 @@ TEST(SceneGraphGroup, treesDeeperThanTheStackWorkAndDie)
     EXPECT_TRUE(last.expired());
 }
 
+/// A leaf that leaves its parent when it dies, as an object might that cleans up behind itself.
+class LeavingLeaf final : public SceneGraphObject {
+public:
+    static boost::shared_ptr<LeavingLeaf> create() { return own(new LeavingLeaf); }
+    ~LeavingLeaf() override
+    {
+        EXPECT_EQ(getParent(), nullptr);
+        disconnectFromParent();
+        markChanged();
+    }
+    void getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&, bool) const override
+    {}
+    void getMarkedBoundingBox(BoundingBox&, int, int) const override {}
+
+private:
+    LeavingLeaf() : SceneGraphObject(ObjectSolid) {}
+};
+
+TEST(SceneGraphGroup, aChildThatDiesWithItsGroupHasNoParentAnyMore)
+{
+    CapturedLog log(ErrorLog::Level::info);
+    auto group = SceneGraphGroup::create();
+    for (int i = 0; i < 3; ++i) {
+        group->addChild(LeavingLeaf::create());
+    }
+    const std::string id = idOf(*group);
+    group.reset();
+    EXPECT_EQ(log.messages().back(), "Destroying SceneGraphGroup (node " + id + ")");
+}
+
 TEST(SceneGraphGroup, childrenOutliveTheirGroupOnlyWithAnotherOwner)
 {
     auto group = SceneGraphGroup::create();
