@@ -70,9 +70,7 @@ const PostDataView::DoubleArrays& PostDataView::coordinates(int group, int minAx
 const PostDataView::FloatArrays& PostDataView::normals(int group) const
 {
     const FloatArrays& arrays = equalArrays(entry(m_record.m_normals, group, "normals"), group, 3, "normals");
-    if (arrays.front().size() < coordinates(group, 1).front().size()) {
-        fail("normals" + groupText(group) + " are fewer than the points");
-    }
+    requireAtEveryPoint(arrays.front().size(), group, "normals" + groupText(group) + " have");
     return arrays;
 }
 
@@ -101,10 +99,7 @@ const PostDataView::IntArrays& PostDataView::lineElements(int group) const
 const std::vector<double>& PostDataView::data(int group, int role) const
 {
     const std::vector<double>& values = levelData(group, role);
-    if (values.size() < coordinates(group, 1).front().size()) {
-        fail(roleText(role) + groupText(group) + " has " + std::to_string(values.size()) + " values for " +
-             std::to_string(numPoints(group)) + " points");
-    }
+    requireAtEveryPoint(values.size(), group, roleText(role) + groupText(group) + " has");
     return values;
 }
 
@@ -211,6 +206,14 @@ double PostDataView::limit(const std::vector<boost::shared_ptr<std::vector<doubl
              std::to_string(values.size()) + " " + field);
     }
     return values[index];
+}
+
+void PostDataView::requireAtEveryPoint(std::size_t count, int group, const std::string& field) const
+{
+    const std::size_t numPoints = coordinates(group, 1).front().size();
+    if (count != numPoints) {
+        fail(field + " " + std::to_string(count) + " values for " + std::to_string(numPoints) + " points");
+    }
 }
 
 int PostDataView::countOf(std::size_t size, int group, const char* field) const

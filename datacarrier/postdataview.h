@@ -70,6 +70,8 @@ private:
     const Arrays& equalArrays(const Arrays& arrays, int group, int minCount, const char* field) const;
     double limit(const std::vector<boost::shared_ptr<std::vector<double>>>& limits, int group, int role,
                  const char* field) const;
+    /// @param field what has so many values, and its verb, for the message
+    void requireAtEveryPoint(std::size_t count, int group, const std::string& field) const;
     int countOf(std::size_t size, int group, const char* field) const;
     [[noreturn]] void fail(const std::string& text) const;
 

@@ -20,14 +20,14 @@ public final class PostDataReader {
      * two dimensions has the third coordinate as height in array 1 as well. An iso surface has a group for each run of
      * equal data, the value of the group in array 0 and a value for each point in array 1.
      *
-     * <p>The file is read as a stream; memory is needed for the record and a third as much besides. A million triangles
+     * <p>The file is read as a stream; memory is needed for the record and half as much besides. A million triangles
      * take some tenths of a second.
      *
      * @param record the peer of a record
      * @param file the file
-     * @return true if the file was read. False if the file is wrong or cannot be opened, which the log and standard
-     *     error say, or if the record's kind is none of those named. The record is unchanged then, but for the groups
-     *     of an iso surface that stand before a wrong row
+     * @return true if the file was read. False if the file is wrong or cannot be opened, which the log says and, but
+     *     for numbers that are missing in a row, standard error, or if the record's kind is none of those named. The
+     *     record is unchanged then, but for the groups of an iso surface that stand before a wrong row
      * @throws NullPointerException if an argument is null
      * @throws IllegalStateException if the record is closed
      * @throws NativeException if the peer is not that of a record, or memory runs out

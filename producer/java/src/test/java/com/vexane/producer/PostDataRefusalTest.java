@@ -161,6 +161,8 @@ class PostDataRefusalTest {
                 () -> builder.bounds(new double[] {0}));
         assertRefused(IllegalArgumentException.class, "bounds[0] is no range: [0.0, Infinity]",
                 () -> builder.bounds(new double[] {0, Double.POSITIVE_INFINITY}));
+        assertRefused(IllegalArgumentException.class, "bounds[0] is no range: [Infinity, Infinity]",
+                () -> builder.bounds(new double[] {Double.POSITIVE_INFINITY, Double.POSITIVE_INFINITY}));
     }
 
     @Test
