@@ -70,7 +70,9 @@ const PostDataView::DoubleArrays& PostDataView::coordinates(int group, int minAx
 const PostDataView::FloatArrays& PostDataView::normals(int group) const
 {
     const FloatArrays& arrays = equalArrays(entry(m_record.m_normals, group, "normals"), group, 3, "normals");
-    requireAtEveryPoint(arrays.front().size(), group, "normals" + groupText(group) + " have");
+    if (arrays.front().size() != coordinates(group, 1).front().size()) {
+        fail("normals" + groupText(group) + " have " + countText(arrays.front().size(), group));
+    }
     return arrays;
 }
 
@@ -99,7 +101,9 @@ const PostDataView::IntArrays& PostDataView::lineElements(int group) const
 const std::vector<double>& PostDataView::data(int group, int role) const
 {
     const std::vector<double>& values = levelData(group, role);
-    requireAtEveryPoint(values.size(), group, roleText(role) + groupText(group) + " has");
+    if (values.size() != coordinates(group, 1).front().size()) {
+        fail(roleText(role) + groupText(group) + " has " + countText(values.size(), group));
+    }
     return values;
 }
 
@@ -208,12 +212,9 @@ double PostDataView::limit(const std::vector<boost::shared_ptr<std::vector<doubl
     return values[index];
 }
 
-void PostDataView::requireAtEveryPoint(std::size_t count, int group, const std::string& field) const
+std::string PostDataView::countText(std::size_t numValues, int group) const
 {
-    const std::size_t numPoints = coordinates(group, 1).front().size();
-    if (count != numPoints) {
-        fail(field + " " + std::to_string(count) + " values for " + std::to_string(numPoints) + " points");
-    }
+    return std::to_string(numValues) + " values for " + std::to_string(numPoints(group)) + " points";
 }
 
 int PostDataView::countOf(std::size_t size, int group, const char* field) const

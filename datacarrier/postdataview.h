@@ -70,8 +70,7 @@ private:
     const Arrays& equalArrays(const Arrays& arrays, int group, int minCount, const char* field) const;
     double limit(const std::vector<boost::shared_ptr<std::vector<double>>>& limits, int group, int role,
                  const char* field) const;
-    /// @param field what has so many values, and its verb, for the message
-    void requireAtEveryPoint(std::size_t count, int group, const std::string& field) const;
+    std::string countText(std::size_t numValues, int group) const;
     int countOf(std::size_t size, int group, const char* field) const;
     [[noreturn]] void fail(const std::string& text) const;
 
