@@ -121,7 +121,13 @@ void SceneGraphParent::announce(SceneGraphNode& node)
 
 void SceneGraphParent::announceLast(SceneGraphNode& child)
 {
-    announce(child);
+    try {
+        announce(child);
+    } catch (...) {
+        // The child stands in the table, but the box is without it.
+        m_boxIsMerged = false;
+        throw;
+    }
     mergeLast(child);
     treeStructureChanged();
 }

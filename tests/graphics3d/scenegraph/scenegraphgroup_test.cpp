@@ -11,6 +11,7 @@
 
 #include <cstring>
 #include <functional>
+#include <new>
 #include <random>
 #include <stdexcept>
 
@@ -272,6 +273,33 @@ TEST(SceneGraphGroup, itsBoxIsAlwaysTheMergeOfAllChildrenToTheLastBit)
             ASSERT_TRUE(sameBits(group->getBoundingBox(), mergedOneByOne(*group))) << "round " << round;
         }
     }
+}
+
+/// A leaf for whose snap vertices there is no memory.
+class LeafWithoutMemory final : public SceneGraphObject {
+public:
+    static boost::shared_ptr<LeafWithoutMemory> create() { return own(new LeafWithoutMemory); }
+    void updateNodeSnapVertices() override { throw std::bad_alloc(); }
+    void getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&, bool) const override
+    {}
+    void getMarkedBoundingBox(BoundingBox&, int, int) const override {}
+
+private:
+    LeafWithoutMemory() : SceneGraphObject(ObjectSolid) {}
+};
+
+TEST(SceneGraphGroup, aChildThatCameHalfwayCountsWithTheNextOne)
+{
+    const auto root = SceneGraphRoot::create();
+    const auto group = SceneGraphGroup::create();
+    root->setChild(group);
+    group->addChild(TestLeaf::create(boxAt(0.0f)));
+    const auto leaf = LeafWithoutMemory::create();
+    leaf->setBoundingBox(boxAt(4.0f));
+    EXPECT_THROW(group->addChild(leaf), std::bad_alloc);
+    EXPECT_EQ(group->getBoundingBox(), boxAt(0.0f));
+    group->addChild(TestLeaf::create(boxAt(0.0f)));
+    EXPECT_EQ(root->getBoundingBox(), BoundingBox(0.0f, 5.0f, 0.0f, 1.0f, 0.0f, 1.0f));
 }
 
 TEST(SceneGraphGroup, markedBoxesComeFromAllLeavesActiveOrNot)
