@@ -55,7 +55,6 @@ public:
 private:
     void skipComments();
     const unsigned char* take(const char* tags, std::size_t size, const char* wanted);
-    std::uint32_t takeWord(const char* tags, const char* wanted);
 
     const unsigned char* m_bytes;
     std::size_t m_size;

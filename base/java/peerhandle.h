@@ -79,7 +79,8 @@ struct PeerRootOf<T> {
     using Type = typename T::PeerRoot;
 };
 
-/// @throws std::invalid_argument if the object is null or not a peer at all
+/// @throws Exception if the object is null
+/// @throws std::invalid_argument if it is not a peer at all
 VX_API void requirePeer(JNIEnv* env, jobject object);
 VX_API void attachHandle(JNIEnv* env, jobject self, std::unique_ptr<PeerHandle> handle);
 
