@@ -12,7 +12,9 @@
 
 #include <boost/make_shared.hpp>
 
+#include <new>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -94,6 +96,21 @@ private:
     MonitorInfo m_unowned;
 };
 
+/// Throws one of the four kinds of failure that a native tells apart.
+[[noreturn]] void throwKind(int kind)
+{
+    switch (kind) {
+    case 0:
+        throw vxbase::Exception("place.cpp", 17, "Some_key", "why");
+    case 1:
+        throw std::bad_alloc();
+    case 2:
+        throw std::runtime_error("in words \xC3\xA4");
+    default:
+        throw kind;
+    }
+}
+
 } // namespace
 
 VX_NATIVE(void, TestRenderer, createNative)(JNIEnv* env, jclass, jobject self)
@@ -160,4 +177,19 @@ VX_NATIVE(void, TestRenderer, announce)(JNIEnv* env, jclass, jobject infoOrNull)
     native(env, "announce", [&] {
         Canvas3dGlobalSettings::setRendererInfo(infoOrNull != nullptr ? share<RendererInfo>(env, infoOrNull) : nullptr);
     });
+}
+
+VX_NATIVE(void, TestRenderer, fail)(JNIEnv* env, jclass, jint kind)
+{
+    native(env, "fail", [&] { throwKind(kind); });
+}
+
+VX_NATIVE(jboolean, TestRenderer, isZeroAfterFailure)(JNIEnv* env, jclass, jint kind)
+{
+    const jboolean truth = native(env, "boolean", [&]() -> jboolean { throwKind(kind); });
+    const jfloat real = native(env, "float", [&]() -> jfloat { throwKind(kind); });
+    const jobject object = native(env, "object", [&]() -> jobject { throwKind(kind); });
+    const bool isPending = env->ExceptionCheck() != JNI_FALSE;
+    env->ExceptionClear();
+    return toJava(isPending && truth == JNI_FALSE && real == 0.0f && object == nullptr);
 }

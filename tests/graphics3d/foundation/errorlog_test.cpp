@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <cstdio>
 
 namespace vxgraphics3d {
 namespace {
@@ -23,6 +24,19 @@ TEST(ErrorLog, writesLevelModuleTextAndPlaceWithTabs)
     CapturedLog log(Level::info);
     ErrorLog::getInstance()->log(Level::info, ErrorLog::ModuleID::graphics, 8, "camera.cpp", 12, "zoom(%f)", 0.5);
     EXPECT_EQ(log.text(), "info\tgraphics:8\tzoom(0.500000)\tcamera.cpp;12\n");
+}
+
+TEST(ErrorLog, namesOtherModulesByTheirNumber)
+{
+    CapturedLog captured(Level::info);
+    ErrorLog* log = ErrorLog::getInstance();
+    const auto other = static_cast<ErrorLog::ModuleID>(3);
+    log->deactivateAllModuleReporting();
+    log->activateModuleReporting(ErrorLog::ModuleID::graphics);
+    log->log(Level::info, other, 8, "f.cpp", 1, "held back");
+    log->activateAllModuleReporting();
+    log->log(Level::warning, other, 8, "f.cpp", 1, "seen");
+    EXPECT_EQ(captured.text(), "warning\tmodule(3):8\tseen\tf.cpp;1\n");
 }
 
 TEST(ErrorLog, namesTheCallersFileAndLine)
@@ -96,6 +110,21 @@ TEST(ErrorLog, aSecondFileClosesTheFirst)
         EXPECT_EQ(second.messages(), std::vector<std::string>{"two"});
     }
     EXPECT_EQ(first.messages(), std::vector<std::string>{"one"});
+}
+
+TEST(ErrorLog, standardStreamsAreNotClosedByTheNextTarget)
+{
+    CapturedLog captured(Level::info);
+    ErrorLog* log = ErrorLog::getInstance();
+    testing::internal::CaptureStdout();
+    EXPECT_TRUE(log->setTargetToStdOut());
+    logInfo("one");
+    EXPECT_TRUE(log->setTargetToStdErr());
+    EXPECT_GE(std::puts("still open"), 0);
+    const std::string out = testing::internal::GetCapturedStdout();
+    EXPECT_NE(out.find("\tone\t"), std::string::npos);
+    EXPECT_NE(out.find("still open"), std::string::npos);
+    EXPECT_EQ(captured.text(), "");
 }
 
 TEST(ErrorLog, writesADecimalPointUnderACommaLocale)

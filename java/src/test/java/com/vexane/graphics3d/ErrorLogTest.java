@@ -62,6 +62,17 @@ class ErrorLogTest {
     }
 
     @Test
+    void everyNumberThatIsNoLevelSilencesTheLog() throws IOException {
+        for (int number : new int[] {0, 6, -1, Integer.MIN_VALUE, Integer.MAX_VALUE}) {
+            ErrorLog.setReportLevel(ErrorLog.Level.DEBUG);
+            Natives.call(ErrorLog.class, "nSetReportLevel", number);
+            ErrorLog.setActive(true);
+        }
+        assertEquals(List.of("nSetReportLevel"),
+                lines().stream().map(line -> line.split("\t")[2]).distinct().toList());
+    }
+
+    @Test
     void aNullFileIsRefusedAndTheLogGoesOn() throws IOException {
         ErrorLog.setReportLevel(ErrorLog.Level.CALLS);
         assertThrows(NullPointerException.class, () -> ErrorLog.setOutputFile(null));

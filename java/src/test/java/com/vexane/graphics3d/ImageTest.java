@@ -16,7 +16,10 @@ class ImageTest {
         first.close();
         assertTrue(first.isClosed());
         assertEquals(1, NativePeer.countOpen().get("Image"));
-        second.close();
+        Natives.call(Image.class, "cleanupNative", second);
+        Natives.call(Image.class, "cleanupNative", second);
         assertTrue(second.isClosed());
+        second.close();
+        Natives.call(Image.class, "cleanupNative", (Object) null);
     }
 }

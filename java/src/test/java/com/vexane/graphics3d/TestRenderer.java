@@ -68,4 +68,10 @@ public final class TestRenderer extends NativePeer {
     private static native void connectInfo(RendererInfo info);
 
     private static native void announce(RendererInfo infoOrNull);
+
+    /** Fails natively: 0 by an exception with a key, 1 for want of memory, 2 by another exception, 3 by a number. */
+    static native void fail(int kind);
+
+    /** Whether natives of all types give zero and leave a Java exception behind when they fail. */
+    static native boolean isZeroAfterFailure(int kind);
 }
