@@ -191,8 +191,8 @@ void SceneGraphPlot::setAutoLegendLimits()
 
 void SceneGraphPlot::setValueRestrictions(double min, double max)
 {
-    m_valueRestrictionMin = clampToRange(min, m_valueMin, m_valueMax);
-    m_valueRestrictionMax = clampToRange(max, m_valueMin, m_valueMax);
+    m_valueRestrictionMin = std::isnan(min) ? m_valueMin : clampToRange(min, m_valueMin, m_valueMax);
+    m_valueRestrictionMax = std::isnan(max) ? m_valueMax : clampToRange(max, m_valueMin, m_valueMax);
     if (!m_hasValueRestrictions) {
         markGeometryChanged();
     }

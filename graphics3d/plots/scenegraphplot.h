@@ -92,6 +92,8 @@ public:
     void setBoundingBox(const vxdatacarrier::PostDataObject& data);
     /// The box while the plot is active, otherwise an empty one.
     const BoundingBox& getBoundingBox() const;
+    /// The box that the plot keeps, active or not.
+    const BoundingBox& getStoredBoundingBox() const { return m_boundingBox; }
 
     // Legend and value restriction
 
@@ -103,8 +105,8 @@ public:
     void setAutoLegendLimits();
     void setLegendLimitsInternal(double min, double max);
 
-    /// Hides what lies outside the limits, which are clamped to the value range. Constant data are hidden as a whole if
-    /// their value lies outside.
+    /// Hides what lies outside the limits, which are clamped to the value range; one that is not a number hides
+    /// nothing. Constant data are hidden as a whole if their value lies outside.
     void setValueRestrictions(double min, double max);
     void resetValueRestrictions();
 

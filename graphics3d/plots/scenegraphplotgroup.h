@@ -85,9 +85,8 @@ public:
     void getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
                       PickedObjectCollection& result, bool inside) const override;
     /// Merges the boxes of the plots into `box`.
-    /// @param logAxes 0 for all plots; otherwise only the graphs count, with their boxes for logarithmic axes (bit 0:
-    /// x,
-    ///                bit 1: y)
+    /// @param logAxes 0 for all plots; otherwise only the graphs count, with their boxes for logarithmic axes (bit 0
+    ///                for x, bit 1 for y)
     void getMarkedBoundingBox(BoundingBox& box, int logAxes, int exclude) const override;
 
     // Read access

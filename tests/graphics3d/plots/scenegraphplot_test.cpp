@@ -25,6 +25,7 @@ using Record = vxdatacarrier::PostDataObject;
 using Source = SceneGraphPlot::ValueSource;
 
 constexpr double c_infinity = std::numeric_limits<double>::infinity();
+constexpr double c_nan = std::numeric_limits<double>::quiet_NaN();
 
 /// How far the three change numbers of a plot have moved since this was made.
 class Moved {
@@ -309,6 +310,9 @@ TEST(SceneGraphPlot, setValueRestrictions_storesClampedLimits)
     for (const Case& c :
          {Case{8.0, 2.0, 6.0, {2.0, 6.0}, {0.25f, 0.75f}}, Case{8.0, -100.0, 100.0, {0.0, 8.0}, {0.0f, 1.0f}},
           Case{8.0, -3.0, -2.0, {0.0, 0.0}, {0.0f, 0.0f}}, Case{8.0, 9.0, 10.0, {8.0, 8.0}, {1.0f, 1.0f}},
+          Case{8.0, -c_infinity, 2.0, {0.0, 2.0}, {0.0f, 0.25f}}, Case{8.0, 4.0, c_infinity, {4.0, 8.0}, {0.5f, 1.0f}},
+          Case{8.0, c_nan, 2.0, {0.0, 2.0}, {0.0f, 0.25f}}, Case{8.0, 4.0, c_nan, {4.0, 8.0}, {0.5f, 1.0f}},
+          Case{0.0, c_nan, c_nan, {0.0, 0.0}, {0.0f, 1.0f}}, Case{0.0, c_nan, -1.0, {0.0, 0.0}, {0.0f, 0.0f}},
           Case{0.0, -1.0, 1.0, {0.0, 0.0}, {0.0f, 1.0f}}, Case{0.0, 0.0, 0.0, {0.0, 0.0}, {0.0f, 1.0f}},
           Case{0.0, 1.0, 3.0, {0.0, 0.0}, {0.0f, 0.0f}}, Case{0.0, -3.0, -1.0, {0.0, 0.0}, {0.0f, 0.0f}}}) {
         FakePlot plot(1);
@@ -472,6 +476,7 @@ TEST(SceneGraphPlot, anInactivePlotKeepsAndMovesItsOwnBox)
     }());
     plot.setPlotPlaneOffset(1.0f);
     plot.setHeightScale(3.0f);
+    EXPECT_EQ(limitsOf(plot.getStoredBoundingBox()), (Floats{0, 1, 0, 1, 1, 7}));
     plot.setActive(true);
     EXPECT_EQ(limitsOf(plot.getBoundingBox()), (Floats{0, 1, 0, 1, 1, 7}));
 }

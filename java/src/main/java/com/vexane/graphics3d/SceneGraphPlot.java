@@ -202,7 +202,8 @@ public abstract class SceneGraphPlot extends NativePeer {
     }
 
     /**
-     * Hides what lies outside a range of values. The range is clamped to the values of the fill.
+     * Hides what lies outside a range of values. The range is clamped to the values of the fill; a limit that is not a
+     * number hides nothing.
      *
      * @param min the smallest value shown
      * @param max the largest value shown

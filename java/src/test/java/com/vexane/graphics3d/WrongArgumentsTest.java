@@ -23,8 +23,9 @@ import org.junit.jupiter.api.Test;
 import org.junit.jupiter.api.io.TempDir;
 
 /**
- * Calls every native of the peers of views, lights and picks with numbers, texts, arrays and peers that make no sense.
- * What may come of it is a result or an exception of the library; the virtual machine lives and the peers stay usable.
+ * Calls every native of the peers of views, lights, picks and plots with numbers, texts, arrays and peers that make no
+ * sense. What may come of it is a result or an exception of the library; the virtual machine lives and the peers stay
+ * usable.
  * The settings of the process are left out: what they take holds for every other test.
  */
 class WrongArgumentsTest {
@@ -40,6 +41,10 @@ class WrongArgumentsTest {
     private static final Object[] INT_ARRAYS = {null, new int[0], new int[1], new int[] {-1, 0x7fffffff, 3, 4, 5, 6}};
     private static final Object[] FLOAT_ARRAYS = {null, new float[0], new float[2], new float[3], new float[4]};
     private static final Object[] DOUBLE_ARRAYS = {null, new double[0], new double[] {Double.NaN, 1.0, -1e300}};
+    private static final double[][][] ROWS = {
+        null, {}, {{1, 1}}, {null}, {{Double.NaN, 1e300, -1}}, {{0, 0, 0, Double.NaN}}, {{0, 0, 0, -1}},
+        {{0, 0, 0, 1e-300}, {1, 1, 1, 1e300}}
+    };
 
     private final List<NativePeer> peers = new ArrayList<>();
     private final Random random = new Random(17);
@@ -66,6 +71,10 @@ class WrongArgumentsTest {
         keep(new HardcopySettings());
         keep(new CanvasBackgroundImage());
         keep(ContextData.connect(view));
+        keep(new SceneGraphPlotGroup());
+        keep(new SceneGraphPlotSurface2d(1));
+        keep(new SceneGraphPlotSurface3d(2));
+        keep(new SceneGraphPlotDomain3d(2));
         TestRenderer.Info info = keep(new TestRenderer.Info());
         keep(RendererInfo.MonitorInfo.connect(info, 0));
     }
@@ -114,6 +123,8 @@ class WrongArgumentsTest {
             return oneOf(FLOAT_ARRAYS);
         } else if (type == double[].class) {
             return oneOf(DOUBLE_ARRAYS);
+        } else if (type == double[][].class) {
+            return oneOf(ROWS);
         } else if (type == Object.class) {
             return random.nextInt(8) == 0 ? "no peer" : oneOf(peers.toArray());
         }
