@@ -15,7 +15,11 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <cstdlib>
+#include <filesystem>
 #include <string>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -169,6 +173,28 @@ TEST(ScenePlotFileReader, endsAMessageOnAMissingFileWithALineEnd)
     EXPECT_FALSE(reader.readCoordinates());
     EXPECT_FALSE(reader.readAndAppendTriangleElements(corners, 0));
     EXPECT_EQ(error.take(), "");
+}
+
+TEST(ScenePlotFileReader, cannotOpenAFileWithoutReadPermission)
+{
+    constexpr uid_t nobody = 65534;
+    const bool isSuperuser = geteuid() == 0; // who may read everything
+    std::string path = std::filesystem::temp_directory_path() / "plotXXXXXX";
+    const int file = mkstemp(path.data());
+    ASSERT_NE(file, -1);
+    const bool isClosedToAll = fchmod(file, 0) == 0 && (!isSuperuser || seteuid(nobody) == 0);
+    CapturedError error;
+    Record record;
+    const bool isRead = ScenePlotFileReader::readSurfacePlot3d(record, path);
+    const bool isRestored = !isSuperuser || seteuid(0) == 0;
+    close(file);
+    std::filesystem::remove(path);
+    ASSERT_TRUE(isRestored);
+    if (!isClosedToAll) {
+        GTEST_SKIP() << "the superuser cannot give up his rights here";
+    }
+    EXPECT_FALSE(isRead);
+    EXPECT_EQ(error.take(), "Could not open file " + path + "\n");
 }
 
 TEST(ScenePlotFileReader, takesADirectoryForAFileWithoutCoordinates)
