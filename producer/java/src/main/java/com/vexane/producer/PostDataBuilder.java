@@ -81,8 +81,7 @@ public final class PostDataBuilder {
         double[][] copy = new double[axes.length][];
         for (int i = 0; i < axes.length; ++i) {
             double[] range = Objects.requireNonNull(axes[i], "bounds[" + i + "]").clone();
-            if (range.length != 2 || !(range[0] <= range[1]) || Double.isInfinite(range[0])
-                    || Double.isInfinite(range[1])) {
+            if (range.length != 2 || !(range[0] <= range[1]) || !Double.isFinite(range[1] - range[0])) {
                 throw new IllegalArgumentException("bounds[" + i + "] is no range: " + Arrays.toString(range));
             }
             copy[i] = range;

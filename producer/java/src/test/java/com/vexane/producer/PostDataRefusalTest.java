@@ -163,6 +163,8 @@ class PostDataRefusalTest {
                 () -> builder.bounds(new double[] {0, Double.POSITIVE_INFINITY}));
         assertRefused(IllegalArgumentException.class, "bounds[0] is no range: [Infinity, Infinity]",
                 () -> builder.bounds(new double[] {Double.POSITIVE_INFINITY, Double.POSITIVE_INFINITY}));
+        assertRefused(IllegalArgumentException.class, "bounds[0] is no range: [-1.0E308, 1.0E308]",
+                () -> builder.bounds(new double[] {-1.0e308, 1.0e308}));
     }
 
     @Test
