@@ -1,5 +1,6 @@
 #include "graphics3d/foundation/boundingbox.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vxgraphics3d {
@@ -47,12 +48,12 @@ Vector3f BoundingBox::getVertex(int i) const
         return {};
     }
     const float* sign = c_cornerSigns[i];
-    return m_center + getHalfSize().scaled(sign[0], sign[1], sign[2]);
+    return getCenter() + getHalfSize().scaled(sign[0], sign[1], sign[2]);
 }
 
 float BoundingBox::getBoundingRadius() const
 {
-    return static_cast<float>(std::sqrt(square(m_halfSizeX) + square(m_halfSizeY) + square(m_halfSizeZ)));
+    return static_cast<float>(std::sqrt(square(getHalfSizeX()) + square(getHalfSizeY()) + square(getHalfSizeZ())));
 }
 
 bool BoundingBox::doesLineIntersect(const Vector3f& a, const Vector3f& b) const
@@ -65,7 +66,7 @@ bool BoundingBox::doesLineIntersect(const Vector3f& a, const Vector3f& b) const
         return clipToSlab(static_cast<double>(from), static_cast<double>(to), static_cast<double>(low),
                           static_cast<double>(high), begin, end);
     };
-    return m_valid && clip(a.x, b.x, min.x, max.x) && clip(a.y, b.y, min.y, max.y) && clip(a.z, b.z, min.z, max.z);
+    return isValid() && clip(a.x, b.x, min.x, max.x) && clip(a.y, b.y, min.y, max.y) && clip(a.z, b.z, min.z, max.z);
 }
 
 } // namespace vxgraphics3d

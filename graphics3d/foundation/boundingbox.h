@@ -3,7 +3,8 @@
 #include "base/export.h"
 #include "graphics3d/foundation/vector3f.h"
 
-#include <algorithm>
+#include <bit>
+#include <cstdint>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -28,77 +29,64 @@ public:
 
     void init(float xmin, float xmax, float ymin, float ymax, float zmin, float zmax)
     {
-        m_center.init((xmin + xmax) * 0.5f, (ymin + ymax) * 0.5f, (zmin + zmax) * 0.5f);
-        m_halfSizeX = (xmax - xmin) * 0.5f;
-        m_halfSizeY = (ymax - ymin) * 0.5f;
-        m_halfSizeZ = (zmax - zmin) * 0.5f;
-        m_valid = true;
+        setLimits(Lanes{xmin, ymin, zmin, -1.0f}, Lanes{xmax, ymax, zmax, 1.0f});
     }
     /// Copies a valid box; an empty one leaves this box untouched. To copy in every case, assign.
     void init(const BoundingBox& box)
     {
-        // Member by member: compilers then keep a box that is merged in a loop in registers.
-        if (box.m_valid) {
-            m_center.init(box.m_center.x, box.m_center.y, box.m_center.z);
-            m_halfSizeX = box.m_halfSizeX;
-            m_halfSizeY = box.m_halfSizeY;
-            m_halfSizeZ = box.m_halfSizeZ;
-            m_valid = true;
+        if (box.isValid()) {
+            *this = box;
         }
     }
     /// Makes the box empty.
     void reset() { *this = BoundingBox(); }
 
-    bool isValid() const { return m_valid; }
-    const Vector3f& getCenter() const { return m_center; }
-    float getHalfSizeX() const { return m_halfSizeX; }
-    float getHalfSizeY() const { return m_halfSizeY; }
-    float getHalfSizeZ() const { return m_halfSizeZ; }
-    Vector3f getHalfSize() const { return {m_halfSizeX, m_halfSizeY, m_halfSizeZ}; }
+    bool isValid() const { return std::bit_cast<Truth>(m_halfSize)[3] != 0; }
+    Vector3f getCenter() const { return toVector(m_center); }
+    float getHalfSizeX() const { return m_halfSize[0]; }
+    float getHalfSizeY() const { return m_halfSize[1]; }
+    float getHalfSizeZ() const { return m_halfSize[2]; }
+    Vector3f getHalfSize() const { return toVector(m_halfSize); }
     /// The corner of the lowest coordinates, also of an empty box, where it is the origin.
-    Vector3f getMin() const { return m_center - getHalfSize(); }
+    Vector3f getMin() const { return toVector(m_center - m_halfSize); }
     /// The corner of the highest coordinates.
-    Vector3f getMax() const { return m_center + getHalfSize(); }
+    Vector3f getMax() const { return toVector(m_center + m_halfSize); }
 
     /// Widens the box over another one. An empty box takes the other over as it is; an empty other changes nothing.
     void merge(const BoundingBox& box)
     {
-        if (!m_valid) {
+        if (!isValid()) [[unlikely]] {
             init(box);
-        } else if (box.m_valid) {
-            cover(box.getMin(), box.getMax());
+        } else if (box.isValid()) [[likely]] {
+            cover(box.m_center - box.m_halfSize, box.m_center + box.m_halfSize);
         }
     }
     /// Widens a valid box over a point; an empty box stays empty.
     void expandWithPoint(const Vector3f& point)
     {
-        if (m_valid) {
-            cover(point, point);
+        if (isValid()) {
+            cover(toLanes(point), toLanes(point));
         }
     }
     /// Adds to the half sizes of a valid box.
     void expand(float dx, float dy, float dz)
     {
-        if (m_valid) {
-            m_halfSizeX += dx;
-            m_halfSizeY += dy;
-            m_halfSizeZ += dz;
+        if (isValid()) {
+            m_halfSize += Lanes{dx, dy, dz, 0.0f};
         }
     }
     /// Multiplies the half sizes of a valid box; its centre stays.
     void scale(float sx, float sy, float sz)
     {
-        if (m_valid) {
-            m_halfSizeX *= sx;
-            m_halfSizeY *= sy;
-            m_halfSizeZ *= sz;
+        if (isValid()) {
+            m_halfSize *= Lanes{sx, sy, sz, 1.0f};
         }
     }
     /// Moves a valid box.
     void translate(float dx, float dy, float dz)
     {
-        if (m_valid) {
-            m_center.translate(dx, dy, dz);
+        if (isValid()) {
+            m_center += Lanes{dx, dy, dz, 0.0f};
         }
     }
 
@@ -106,41 +94,58 @@ public:
     /// maximum corner is 6. Any other i gives (0, 0, 0).
     Vector3f getVertex(int i) const;
     /// The sum of the three edge lengths.
-    float getL1Norm() const { return 2.0f * (m_halfSizeX + m_halfSizeY + m_halfSizeZ); }
+    float getL1Norm() const { return 2.0f * (m_halfSize[0] + m_halfSize[1] + m_halfSize[2]); }
     /// The distance from the centre to a corner.
     float getBoundingRadius() const;
     /// Whether all three half sizes are 0, as they are in an empty box.
-    bool isZeroSize() const { return m_halfSizeX == 0.0f && m_halfSizeY == 0.0f && m_halfSizeZ == 0.0f; }
+    bool isZeroSize() const { return getHalfSize() == Vector3f(); }
     /// Whether the segment from a to b meets the box, border included. An empty box meets nothing.
     bool doesLineIntersect(const Vector3f& a, const Vector3f& b) const;
 
     /// Whether both boxes are valid and equal. An empty box equals nothing, not even another empty one.
     friend bool operator==(const BoundingBox& a, const BoundingBox& b)
     {
-        return a.m_valid && b.m_valid && a.m_center == b.m_center && a.m_halfSizeX == b.m_halfSizeX &&
-               a.m_halfSizeY == b.m_halfSizeY && a.m_halfSizeZ == b.m_halfSizeZ;
+        return b.isValid() && allTrue((a.m_center == b.m_center) & (a.m_halfSize == b.m_halfSize));
     }
 
 private:
-    void cover(const Vector3f& low, const Vector3f& high)
+    /// Four floats that are worked on at once: x, y, z, and a fourth axis on which an empty box has nothing and every
+    /// other one the limits -1 and 1. So the fourth half size says whether the box is valid, and merging keeps it.
+    using Lanes = float __attribute__((vector_size(16)));
+    /// What comparing lanes gives: 0 or -1 for each.
+    using Truth = std::int32_t __attribute__((vector_size(16)));
+
+    static bool allTrue(Truth truth)
     {
-        coverAxis(m_center.x, m_halfSizeX, low.x, high.x);
-        coverAxis(m_center.y, m_halfSizeY, low.y, high.y);
-        coverAxis(m_center.z, m_halfSizeZ, low.z, high.z);
+#ifdef __SSE__
+        return __builtin_ia32_movmskps(std::bit_cast<Lanes>(truth)) == 0xf;
+#else
+        return (truth[0] & truth[1] & truth[2] & truth[3]) != 0;
+#endif
     }
-    static void coverAxis(float& center, float& halfSize, float low, float high)
+    static Lanes toLanes(const Vector3f& v)
     {
-        const float min = std::min(center - halfSize, low);
-        const float max = std::max(center + halfSize, high);
-        center = (min + max) * 0.5f;
-        halfSize = (max - min) * 0.5f;
+        return Lanes{v.x, v.y, v.z, 0.0f};
+    }
+    static Vector3f toVector(Lanes lanes)
+    {
+        return {lanes[0], lanes[1], lanes[2]};
     }
 
-    Vector3f m_center;
-    float m_halfSizeX = 0.0f;
-    float m_halfSizeY = 0.0f;
-    float m_halfSizeZ = 0.0f;
-    bool m_valid = false;
+    void setLimits(Lanes low, Lanes high)
+    {
+        m_center = (low + high) * 0.5f;
+        m_halfSize = (high - low) * 0.5f;
+    }
+    void cover(Lanes low, Lanes high)
+    {
+        const Lanes ownLow = m_center - m_halfSize;
+        const Lanes ownHigh = m_center + m_halfSize;
+        setLimits(low < ownLow ? low : ownLow, ownHigh < high ? high : ownHigh);
+    }
+
+    Lanes m_center{};
+    Lanes m_halfSize{};
 };
 
 } // namespace vxgraphics3d

@@ -128,7 +128,11 @@ void SceneGraphParent::announceLast(SceneGraphNode& child)
         m_boxIsMerged = false;
         throw;
     }
-    mergeLast(child);
+    if (!m_boxIsMerged) {
+        calculateBoundingBox();
+    } else if (mergeBox(child)) {
+        updateBoxesAbove();
+    }
     treeStructureChanged();
 }
 

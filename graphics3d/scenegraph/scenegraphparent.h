@@ -95,7 +95,11 @@ protected:
         } else {
             raiseChange(child.m_changeId);
             raiseChange(m_childrenChangeId);
-            mergeLast(child);
+            if (m_boxIsMerged) {
+                mergeBox(child);
+            } else {
+                calculateBoundingBox();
+            }
         }
     }
     /// Takes note that the nodes that answered to this one have no parent any more. A class that releases children in
@@ -132,10 +136,11 @@ private:
     void connect(SceneGraphNode& node, int childId)
     {
         logInfo("Connecting node as child %d to parent (node %d)", childId, getNodeId());
-        auto reference = m_reference;
-        reference.swap(node.m_parent);
-        if (reference) {
-            SceneGraphNode::leave(reference.detach());
+        intrusive_ptr_add_ref(m_reference.get()); // unlike a copy, without asking whether it is null
+        ParentReference* const left = node.m_parent.detach();
+        node.m_parent.reset(m_reference.get(), false);
+        if (left != nullptr) {
+            SceneGraphNode::leave(left);
         }
         node.m_childId = childId;
     }
@@ -143,24 +148,21 @@ private:
     void announce(SceneGraphNode& node);
     /// announce() for a child that stands behind all others, then box and structure.
     void announceLast(SceneGraphNode& child);
-    /// What calculateBoundingBox() does after a child has come at the end. While children only come, merging the last
-    /// one into the box of the others is what merging all of them in id order does, to the last bit; that the box
-    /// before is kept if it is equal does not matter, as an equal box may differ in the signs of zeros alone, and no
-    /// merge keeps those.
-    void mergeLast(const SceneGraphNode& child)
+    /// Brings the box up to date after a child has come at the end, if it was the merge of the others. Merging the last
+    /// one into it is what merging all of them in id order does, to the last bit; that the box before is kept if it is
+    /// equal does not matter, as an equal box may differ in the signs of zeros alone, and no merge keeps those.
+    /// @return whether the boxes above have to follow
+    bool mergeBox(const SceneGraphNode& child)
     {
-        if (!m_boxIsMerged) {
-            calculateBoundingBox();
-            return;
-        }
         BoundingBox box = m_boundingBox;
-        box.merge(child.getBoundingBox());
-        if (!(box == m_boundingBox)) {
-            m_boundingBox = box;
-            if (m_parent) {
-                updateBoxesAbove();
-            }
+        if (child.isActive()) [[likely]] {
+            box.merge(child.m_boundingBox);
         }
+        if (box == m_boundingBox) {
+            return false;
+        }
+        m_boundingBox = box;
+        return true;
     }
     /// requireNewChild() for what is no leaf.
     void requireNewParent(const SceneGraphNode* node) const;

@@ -90,6 +90,8 @@ TEST(BoundingBox, changesOfSizeAndPlaceLeaveAnEmptyBoxAlone)
     box = c_box;
     box.translate(1.0f, -2.0f, 3.0f);
     EXPECT_EQ(box, BoundingBox(0.0f, 4.0f, 0.0f, 2.0f, 3.0f, 11.0f));
+    box.scale(0.0f, 0.0f, 0.0f);
+    EXPECT_EQ(box, BoundingBox(2.0f, 2.0f, 1.0f, 1.0f, 7.0f, 7.0f));
     BoundingBox empty;
     empty.expand(1.0f, 1.0f, 1.0f);
     empty.scale(2.0f, 2.0f, 2.0f);
