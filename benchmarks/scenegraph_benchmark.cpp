@@ -50,9 +50,9 @@ void check(benchmark::State& state, const BoundingBox& box, const BoundingBox& e
 
 // --- adding children to one group: a place in the table, the links between child and group, and one merge each -------
 //
-// The limit is the merging of the children's boxes alone. Leaves are new each time and made outside the measured time,
-// which a clock of its own takes: pausing costs more than many a thousand merges. The caller keeps its
-// shares and hands copies over, or gives them away.
+// The limit is the merging of the children's boxes alone, into a box in memory, as that of a group is. Leaves are new
+// each time and made outside the measured time, which a clock of its own takes: pausing costs more than many a thousand
+// merges. The caller keeps its shares and hands copies over, or gives them away.
 
 /// Leaves memory with the allocator that has been written before: the first touch of a page costs more than the work on
 /// what lies in it, and it is the system's.

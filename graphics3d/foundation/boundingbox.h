@@ -34,8 +34,10 @@ public:
     /// Copies a valid box; an empty one leaves this box untouched. To copy in every case, assign.
     void init(const BoundingBox& box)
     {
+        // Member by member: compilers then keep a box that is merged in a loop in registers.
         if (box.isValid()) {
-            *this = box;
+            m_center = box.m_center;
+            m_halfSize = box.m_halfSize;
         }
     }
     /// Makes the box empty.
