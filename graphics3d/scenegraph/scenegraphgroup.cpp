@@ -43,6 +43,12 @@ void SceneGraphGroup::growTable()
     m_children.reserve(4 * m_children.size() + 8);
 }
 
+void SceneGraphGroup::logAddition(int childId) const
+{
+    logInfo("Adding child %d to group (node %d).", childId, getNodeId());
+    logConnection(childId);
+}
+
 void SceneGraphGroup::removeChild(int childId)
 {
     const auto found = placeOf(childId);

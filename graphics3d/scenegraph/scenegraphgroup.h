@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics3d/foundation/errorlog.h"
 #include "graphics3d/scenegraph/scenegraphparent.h"
 
 #include <limits>
@@ -64,6 +65,8 @@ private:
     /// @throws std::length_error
     [[noreturn]] void refuseMoreChildren() const;
     void growTable();
+    /// Writes that a child comes and that it will answer to this group: nothing lies between that could be seen.
+    void logAddition(int childId) const;
 
     int m_lastChildId = 0;
     ChildTable m_children;
@@ -76,15 +79,17 @@ private:
     if (m_lastChildId == std::numeric_limits<int>::max()) {
         refuseMoreChildren();
     }
-    const int id = ++m_lastChildId;
-    logInfo("Adding child %d to group (node %d).", id, getNodeId());
-    SceneGraphNode& child = *node;
     if (m_children.size() == m_children.capacity()) {
         growTable();
     }
     if (m_children.size() == m_children.capacity()) {
         __builtin_unreachable(); // spares the code for growing here
     }
+    const int id = ++m_lastChildId;
+    if (ErrorLog::isHeard(ErrorLog::Level::info)) [[unlikely]] {
+        logAddition(id);
+    }
+    SceneGraphNode& child = *node;
     m_children.emplace_back(id, std::move(node));
     takeInLast(child, id);
     return true;

@@ -28,6 +28,7 @@ boost::shared_ptr<SceneGraphParent> SceneGraphNode::getParent() const
 void SceneGraphNode::setParent(boost::weak_ptr<SceneGraphParent> parent, int childId)
 {
     if (const auto livingParent = parent.lock()) {
+        livingParent->logConnection(childId);
         livingParent->connect(*this, childId);
         livingParent->announce(*this);
     } else {

@@ -1,5 +1,7 @@
 #include "graphics3d/scenegraph/scenegraphparent.h"
 
+#include "graphics3d/foundation/errorlog.h"
+
 #include <stdexcept>
 #include <string>
 #include <unordered_set>
@@ -110,6 +112,11 @@ void SceneGraphParent::requireNewParent(const SceneGraphNode* node) const
     }
 }
 
+void SceneGraphParent::logConnection(int childId) const
+{
+    logInfo("Connecting node as child %d to parent (node %d)", childId, getNodeId());
+}
+
 void SceneGraphParent::announce(SceneGraphNode& node)
 {
     if (root() != nullptr) {
@@ -139,6 +146,7 @@ void SceneGraphParent::announceLast(SceneGraphNode& child)
 void SceneGraphParent::takeIn(SceneGraphNode& child, int childId)
 {
     ++child.m_numHolders;
+    logConnection(childId);
     connect(child, childId);
     announce(child);
     calculateBoundingBox();

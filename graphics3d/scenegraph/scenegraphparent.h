@@ -1,7 +1,6 @@
 #pragma once
 
 #include "graphics3d/foundation/changecounter.h"
-#include "graphics3d/foundation/errorlog.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 
 #include <boost/shared_ptr.hpp>
@@ -85,7 +84,8 @@ protected:
     /// Makes a node that has entered the table of children answer to this one, then brings box and structure up to
     /// date.
     void takeIn(SceneGraphNode& child, int childId);
-    /// takeIn() for a child that stands behind all others. Takes a time that does not depend on their number.
+    /// takeIn() for a child that stands behind all others, after the log line. Takes a time that does not depend on
+    /// their number.
     void takeInLast(SceneGraphNode& child, int childId)
     {
         ++child.m_numHolders;
@@ -102,6 +102,8 @@ protected:
             }
         }
     }
+    /// Writes that a node is about to answer to this one.
+    void logConnection(int childId) const;
     /// Takes note that the nodes that answered to this one have no parent any more. A class that releases children in
     /// its destructor calls this first, so that none of them turns to a parent that is half destroyed.
     void orphanChildren() noexcept { m_reference->parent = nullptr; }
@@ -132,15 +134,16 @@ private:
     void markChildChangedAbove();
     /// How many nodes answer to this one.
     int getNumAnswering() const { return static_cast<int>(m_reference->use_count()) - 1; }
-    /// Makes a node answer to this one: the first half of setParent().
+    /// Makes a node answer to this one: the first half of setParent(), after its log line.
     void connect(SceneGraphNode& node, int childId)
     {
-        logInfo("Connecting node as child %d to parent (node %d)", childId, getNodeId());
-        intrusive_ptr_add_ref(m_reference.get()); // unlike a copy, without asking whether it is null
-        ParentReference* const left = node.m_parent.detach();
-        node.m_parent.reset(m_reference.get(), false);
-        if (left != nullptr) {
-            SceneGraphNode::leave(left);
+        // In steps that need not ask whether the reference is null, as copying it would.
+        ParentReference* const reference = m_reference.get();
+        intrusive_ptr_add_ref(reference);
+        boost::intrusive_ptr<ParentReference> other(reference, false);
+        other.swap(node.m_parent);
+        if (other) [[unlikely]] {
+            SceneGraphNode::leave(other.detach());
         }
         node.m_childId = childId;
     }
