@@ -3,43 +3,13 @@ package com.vexane.graphics3d;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 
 import java.io.IOException;
-import java.nio.file.Files;
-import java.nio.file.Path;
 import java.util.List;
-import java.util.stream.Stream;
-import org.junit.jupiter.api.AfterEach;
-import org.junit.jupiter.api.BeforeEach;
 import org.junit.jupiter.api.Test;
-import org.junit.jupiter.api.io.TempDir;
 
 /** What calls write into the log when they come in: their name, and for some what they were called with. */
 class CallEntriesTest {
-    @TempDir Path folder;
-    private Path file;
-
-    @BeforeEach
-    void openLog() {
-        file = folder.resolve("log.txt");
-        ErrorLog.setFlushAfterEachMessage(true);
-        ErrorLog.setOutputFile(file);
-    }
-
-    @AfterEach
-    void silence() {
-        ErrorLog.setReportLevel(ErrorLog.Level.NONE);
-        ErrorLog.setFlushAfterEachMessage(false);
-    }
-
-    /** The texts of the lines that some calls write at the level of calls. */
-    private List<String> entriesOf(Runnable calls) throws IOException {
-        ErrorLog.setOutputFile(file);
-        ErrorLog.setReportLevel(ErrorLog.Level.CALLS);
-        calls.run();
-        ErrorLog.setReportLevel(ErrorLog.Level.NONE);
-        try (Stream<String> lines = Files.lines(file)) {
-            return lines.filter(line -> line.startsWith("jni_info\tgraphics:8\t"))
-                    .map(line -> line.split("\t")[2]).filter(text -> !text.equals("nSetReportLevel")).toList();
-        }
+    private static List<String> entriesOf(Runnable calls) throws IOException {
+        return CapturedLog.messagesOf(ErrorLog.Level.CALLS, calls);
     }
 
     @Test
@@ -105,16 +75,16 @@ class CallEntriesTest {
     void illegalPickTargetsAreReportedAndLeaveTheTarget() throws IOException {
         try (CanvasPickSettings picks = new CanvasPickSettings()) {
             Natives.call(CanvasPickSettings.class, "setPickTarget", picks, 6);
-            ErrorLog.setReportLevel(ErrorLog.Level.WARNING);
-            for (int target : new int[] {7, -1, Integer.MIN_VALUE}) {
-                Natives.call(CanvasPickSettings.class, "setPickTarget", picks, target);
-                assertEquals(6, Natives.call(CanvasPickSettings.class, "getPickTarget", picks));
+            List<String> lines = CapturedLog.linesOf(ErrorLog.Level.WARNING, () -> {
+                for (int target : new int[] {7, -1, Integer.MIN_VALUE}) {
+                    Natives.call(CanvasPickSettings.class, "setPickTarget", picks, target);
+                    assertEquals(6, Natives.call(CanvasPickSettings.class, "getPickTarget", picks));
+                }
+            });
+            assertEquals(3, lines.size());
+            for (String line : lines) {
+                assertEquals("warning\tgraphics:8\tIllegal pick target.", line.substring(0, line.lastIndexOf('\t')));
             }
-        }
-        List<String> lines = Files.readAllLines(file);
-        assertEquals(3, lines.size());
-        for (String line : lines) {
-            assertEquals("warning\tgraphics:8\tIllegal pick target.", line.substring(0, line.lastIndexOf('\t')));
         }
     }
 }

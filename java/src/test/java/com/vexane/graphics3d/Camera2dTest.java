@@ -7,12 +7,8 @@ import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.vexane.graphics3d.Camera2d.UseMode;
-import java.io.IOException;
-import java.nio.file.Files;
-import java.nio.file.Path;
 import java.util.List;
 import org.junit.jupiter.api.Test;
-import org.junit.jupiter.api.io.TempDir;
 
 /** The canvas of a camera of its own is square, 100 by 100 pixels. */
 class Camera2dTest {
@@ -107,38 +103,6 @@ class Camera2dTest {
             camera.setAxisViewScalesAuto();
             assertTrue(camera.getAxisViewScalesAuto());
         }
-    }
-
-    @Test
-    void callsAreLoggedWithTheirNumbers(@TempDir Path folder) throws IOException {
-        Path file = folder.resolve("log.txt");
-        try (Camera2d camera = new Camera2d()) {
-            ErrorLog.setFlushAfterEachMessage(true);
-            ErrorLog.setOutputFile(file);
-            ErrorLog.setReportLevel(ErrorLog.Level.CALLS);
-            camera.setPolarLimits(2, 1);
-            camera.setAxisViewScales(1, 2);
-            camera.getViewLimits();
-            camera.setViewLimitsX(0, 1);
-            camera.setViewLimitsY(0, 1);
-            camera.setViewLimits(0, 1, 2, 3);
-            camera.setViewLimitsWithPreserve(0, 1, 2, 3, false);
-            camera.isPreserveAspectRatio();
-            camera.setPreserveAspectRatio(true);
-            camera.zoomCenter(0.5f);
-            camera.setOverrideResizeBehaviour(false, ResizeBehaviour.FIT);
-            camera.setUseMode(UseMode.POLAR);
-        } finally {
-            ErrorLog.setReportLevel(ErrorLog.Level.NONE);
-            ErrorLog.setFlushAfterEachMessage(false);
-        }
-        assertEquals(List.of("setPolarLimits(2.000000, 1.000000)", "setAxisViewScales(1.000000, 2.000000)",
-                        "getViewLimits()", "setViewLimitsX(0.000000, 1.000000)", "setViewLimitsY(0.000000, 1.000000)",
-                        "setViewLimits(0.000000, 1.000000, 2.000000, 3.000000)",
-                        "setViewLimitsWithPreserve(0.000000, 1.000000, 2.000000, 3.000000, false)",
-                        "isPreserveAspectRatio()", "setPreserveAspectRatio(true)", "zoomCenter(0.500000)",
-                        "setOverrideResizeBehaviour()", "setUseMode"),
-                Files.readAllLines(file).stream().map(line -> line.split("\t")[2]).limit(12).toList());
     }
 
     @Test

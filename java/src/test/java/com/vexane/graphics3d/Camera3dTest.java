@@ -5,13 +5,9 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 
 import com.vexane.graphics3d.Camera3d.ProjectionType;
-import java.io.IOException;
-import java.nio.file.Files;
-import java.nio.file.Path;
 import java.util.List;
 import java.util.function.Consumer;
 import org.junit.jupiter.api.Test;
-import org.junit.jupiter.api.io.TempDir;
 
 class Camera3dTest {
     private static float[] direction(Camera3d camera) {
@@ -97,27 +93,6 @@ class Camera3dTest {
             camera.setOverrideResizeBehaviour(false, ResizeBehaviour.KEEP);
             assertEquals(20, camera.getFieldOfView(), 1e-5);
         }
-    }
-
-    @Test
-    void callsAreLoggedWithTheirNumbers(@TempDir Path folder) throws IOException {
-        Path file = folder.resolve("log.txt");
-        try (Camera3d camera = new Camera3d()) {
-            ErrorLog.setFlushAfterEachMessage(true);
-            ErrorLog.setOutputFile(file);
-            ErrorLog.setReportLevel(ErrorLog.Level.CALLS);
-            camera.zoomCenter(2);
-            camera.setAxisViewScales(1, 2, 0.5f);
-            camera.setOverrideResizeBehaviour(true, ResizeBehaviour.FIT);
-            camera.setFieldOfView(30);
-            ErrorLog.setReportLevel(ErrorLog.Level.NONE);
-        } finally {
-            ErrorLog.setReportLevel(ErrorLog.Level.NONE);
-            ErrorLog.setFlushAfterEachMessage(false);
-        }
-        assertEquals(List.of("zoomCenter(2.000000)", "setAxisViewScales(1.000000, 2.000000, 0.500000)",
-                        "setOverrideResizeBehaviour()", "setFieldOfView"),
-                Files.readAllLines(file).stream().map(line -> line.split("\t")[2]).limit(4).toList());
     }
 
     @Test

@@ -12,11 +12,8 @@ import com.vexane.graphics3d.Canvas3dSettings.RenderMode;
 import com.vexane.graphics3d.Canvas3dSettings.Text;
 import com.vexane.graphics3d.Canvas3dSettings.VerticalPosition;
 import java.io.IOException;
-import java.nio.file.Files;
-import java.nio.file.Path;
 import java.util.List;
 import org.junit.jupiter.api.Test;
-import org.junit.jupiter.api.io.TempDir;
 
 class CanvasSettingsTest {
     @Test
@@ -123,31 +120,25 @@ class CanvasSettingsTest {
     }
 
     @Test
-    void numbersOutOfRangeAreReportedAndCountAsZero(@TempDir Path folder) throws IOException {
-        Path file = folder.resolve("log");
+    void numbersOutOfRangeAreReportedAndCountAsZero() throws IOException {
         try (Canvas3dSettings settings = new Canvas3dSettings();
                 AxisSetup axes = AxisSetup.connect(settings)) {
-            ErrorLog.setReportLevel(ErrorLog.Level.ERROR);
-            ErrorLog.setOutputFile(file);
-            ErrorLog.setFlushAfterEachMessage(true);
-            for (int mode : new int[] {-1, 7, Integer.MIN_VALUE}) {
-                settings.setMouseMode(3);
-                settings.setMouseMode(mode);
-                assertEquals(0, settings.getMouseMode());
-            }
-            Natives.call(Canvas3dSettings.class, "setBackgroundImage", settings, 0, null, 3, 2);
-            Natives.call(Canvas3dSettings.class, "setBackgroundImage", settings, 0, null, 0, -1);
-            axes.setLegendLayoutStrategy(6);
-            assertEquals(0, axes.getLegendLayoutStrategy());
-        } finally {
-            ErrorLog.setReportLevel(ErrorLog.Level.NONE);
-            ErrorLog.setFlushAfterEachMessage(false);
+            assertEquals(
+                    List.of("Unknown mousemode.", "Unknown mousemode.", "Unknown mousemode.",
+                            "Unknown horizontal position.", "Unknown vertical position.",
+                            "Unknown legend layout strategy."),
+                    CapturedLog.messagesOf(ErrorLog.Level.ERROR, () -> {
+                        for (int mode : new int[] {-1, 7, Integer.MIN_VALUE}) {
+                            settings.setMouseMode(3);
+                            settings.setMouseMode(mode);
+                            assertEquals(0, settings.getMouseMode());
+                        }
+                        Natives.call(Canvas3dSettings.class, "setBackgroundImage", settings, 0, null, 3, 2);
+                        Natives.call(Canvas3dSettings.class, "setBackgroundImage", settings, 0, null, 0, -1);
+                        axes.setLegendLayoutStrategy(6);
+                        assertEquals(0, axes.getLegendLayoutStrategy());
+                    }));
         }
-        assertEquals(
-                List.of("Unknown mousemode.", "Unknown mousemode.", "Unknown mousemode.",
-                        "Unknown horizontal position.", "Unknown vertical position.",
-                        "Unknown legend layout strategy."),
-                Files.readAllLines(file).stream().map(line -> line.split("\t")[2]).toList());
     }
 
     @Test

@@ -5,11 +5,8 @@ import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.vexane.graphics3d.RendererInfo.MonitorInfo;
-import java.nio.file.Files;
-import java.nio.file.Path;
 import java.util.List;
 import org.junit.jupiter.api.Test;
-import org.junit.jupiter.api.io.TempDir;
 
 class RendererInfoTest {
     @Test
@@ -90,20 +87,5 @@ class RendererInfoTest {
         assertThrows(IllegalStateException.class, () -> MonitorInfo.connect(closed, 0));
         assertThrows(NullPointerException.class, () -> MonitorInfo.connect(null, 0));
         assertThrows(NativeException.class, closed::getRendererType);
-    }
-
-    @Test
-    void entriesOfTheInnerClassCarryItsName(@TempDir Path folder) throws Exception {
-        Path log = folder.resolve("log.txt");
-        try (RendererInfo info = new TestRenderer.Info();
-                MonitorInfo monitor = MonitorInfo.connect(info, 0)) {
-            ErrorLog.setOutputFile(log);
-            ErrorLog.setFlushAfterEachMessage(true);
-            ErrorLog.setReportLevel(ErrorLog.Level.CALLS);
-            monitor.getDeviceID();
-            ErrorLog.setReportLevel(ErrorLog.Level.NONE);
-            ErrorLog.setFlushAfterEachMessage(false);
-        }
-        assertEquals("00024MonitorInfo_getDeviceID", Files.readAllLines(log).get(0).split("\t")[2]);
     }
 }
