@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <stdexcept>
 
 namespace vxgraphics3d {
@@ -59,6 +60,16 @@ TEST(BoundingBox, mergeCoversBothAndIgnoresEmptyBoxes)
     empty.reset();
     empty.merge(BoundingBox());
     EXPECT_FALSE(empty.isValid());
+}
+
+TEST(BoundingBox, limitsThatAreNoNumbersWidenNothing)
+{
+    const float none = std::numeric_limits<float>::quiet_NaN();
+    BoundingBox box = c_box;
+    box.merge(BoundingBox(none, none, 0.0f, 5.0f, none, 9.0f));
+    EXPECT_EQ(box, BoundingBox(-1.0f, 3.0f, 0.0f, 5.0f, 0.0f, 8.0f));
+    box.expandWithPoint({none, 6.0f, none});
+    EXPECT_EQ(box, BoundingBox(-1.0f, 3.0f, 0.0f, 6.0f, 0.0f, 8.0f));
 }
 
 TEST(BoundingBox, mergeRoundsOnItsWayThroughTheLimits)
