@@ -11,8 +11,8 @@ namespace vxgraphics3d {
 
 /// A box along the axes, kept as centre and half sizes, or an empty box.
 ///
-/// Every operation on limits takes them as centre plus and minus half size and goes back through `init`, so each step
-/// rounds, and a merged box is not a bit-exact union. An empty (invalid) box absorbs nothing but a merge.
+/// Every operation on limits takes them as centre plus and minus half size and makes these anew, so each step rounds,
+/// and a merged box is not a bit-exact union. An empty (invalid) box absorbs nothing but a merge.
 class VX_API BoundingBox {
 public:
     /// An empty box, all zeros.

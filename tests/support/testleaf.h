@@ -47,9 +47,10 @@ public:
         }
     }
 
-private:
-    explicit TestLeaf(ObjectType type) : SceneGraphObject(type) {}
+protected:
+    explicit TestLeaf(ObjectType type = ObjectSolid) : SceneGraphObject(type) {}
 
+private:
     std::vector<std::pair<int, bool>>* m_picks = nullptr;
 };
 

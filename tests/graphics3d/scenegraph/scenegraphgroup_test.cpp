@@ -276,16 +276,10 @@ TEST(SceneGraphGroup, itsBoxIsAlwaysTheMergeOfAllChildrenToTheLastBit)
 }
 
 /// A leaf for whose snap vertices there is no memory.
-class LeafWithoutMemory final : public SceneGraphObject {
+class LeafWithoutMemory final : public TestLeaf {
 public:
     static boost::shared_ptr<LeafWithoutMemory> create() { return own(new LeafWithoutMemory); }
     void updateNodeSnapVertices() override { throw std::bad_alloc(); }
-    void getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&, bool) const override
-    {}
-    void getMarkedBoundingBox(BoundingBox&, int, int) const override {}
-
-private:
-    LeafWithoutMemory() : SceneGraphObject(ObjectSolid) {}
 };
 
 TEST(SceneGraphGroup, aChildThatCameHalfwayCountsWithTheNextOne)
@@ -420,7 +414,7 @@ TEST(SceneGraphGroup, treesDeeperThanTheStackWorkAndDie)
 }
 
 /// A leaf that leaves its parent when it dies, as an object might that cleans up behind itself.
-class LeavingLeaf final : public SceneGraphObject {
+class LeavingLeaf final : public TestLeaf {
 public:
     static boost::shared_ptr<LeavingLeaf> create() { return own(new LeavingLeaf); }
     ~LeavingLeaf() override
@@ -429,12 +423,6 @@ public:
         disconnectFromParent();
         markChanged();
     }
-    void getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&, bool) const override
-    {}
-    void getMarkedBoundingBox(BoundingBox&, int, int) const override {}
-
-private:
-    LeavingLeaf() : SceneGraphObject(ObjectSolid) {}
 };
 
 TEST(SceneGraphGroup, aChildThatDiesWithItsGroupHasNoParentAnyMore)
