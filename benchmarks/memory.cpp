@@ -1,9 +1,8 @@
 #include "benchmarks/memory.h"
 
 #include <fstream>
-#include <string>
-
 #include <malloc.h>
+#include <string>
 
 namespace vxgraphics3d {
 namespace {

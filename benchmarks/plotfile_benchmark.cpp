@@ -1,6 +1,5 @@
-#include "graphics3d/readers/sceneplotfilereader.h"
-
 #include "datacarrier/postdataobject.h"
+#include "graphics3d/readers/sceneplotfilereader.h"
 #include "tests/support/plotcomparison.h"
 #include "tests/support/plotfiles.h"
 #include "tests/support/referenceplotreader.h"

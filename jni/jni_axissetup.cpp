@@ -1,7 +1,6 @@
-#include "jni/support/native.h"
-
+#include "graphics3d/canvas/axissetup.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
-#include "graphics3d/plots/graph/axissetup.h"
+#include "jni/support/native.h"
 
 #include <vector>
 

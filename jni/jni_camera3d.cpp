@@ -1,10 +1,9 @@
+#include "graphics3d/cameras/camera3d.h"
+#include "graphics3d/canvas/canvas3dsettings.h"
 #include "jni/support/conversiontable.h"
 #include "jni/support/enumconversions.h"
 #include "jni/support/native.h"
 #include "jni/support/zoomcenter.h"
-
-#include "graphics3d/cameras/camera3d.h"
-#include "graphics3d/canvas/canvas3dsettings.h"
 
 #include <boost/make_shared.hpp>
 

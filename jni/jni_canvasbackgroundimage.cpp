@@ -1,6 +1,5 @@
-#include "jni/support/native.h"
-
 #include "graphics3d/canvas/canvasbackgroundimage.h"
+#include "jni/support/native.h"
 
 #include <boost/make_shared.hpp>
 

@@ -1,11 +1,10 @@
-#include "jni/support/native.h"
-
 #include "graphics3d/canvas/irenderercanvas.h"
 #include "graphics3d/picking/canvaspicksettings.h"
-
-#include "com_vexane_graphics3d_CanvasPickSettings.h"
+#include "jni/support/native.h"
 
 #include <boost/make_shared.hpp>
+
+#include "com_vexane_graphics3d_CanvasPickSettings.h"
 
 using namespace vxgraphics3d;
 

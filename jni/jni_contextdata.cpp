@@ -1,8 +1,7 @@
-#include "jni/support/enumconversions.h"
-#include "jni/support/native.h"
-
 #include "graphics3d/canvas/irenderercanvas.h"
 #include "graphics3d/settings/contextdata.h"
+#include "jni/support/enumconversions.h"
+#include "jni/support/native.h"
 
 #include "com_vexane_graphics3d_ContextData.h"
 

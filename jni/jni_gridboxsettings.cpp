@@ -1,7 +1,6 @@
-#include "jni/support/native.h"
-
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/gridboxsettings.h"
+#include "jni/support/native.h"
 
 #include "com_vexane_graphics3d_GridBoxSettings.h"
 

@@ -1,8 +1,7 @@
-#include "jni/support/enumconversions.h"
-#include "jni/support/native.h"
-
 #include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/lights/lightsource.h"
+#include "jni/support/enumconversions.h"
+#include "jni/support/native.h"
 
 #include <string>
 

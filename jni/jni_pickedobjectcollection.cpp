@@ -1,11 +1,10 @@
+#include "graphics3d/picking/pickedobjectcollection.h"
 #include "jni/support/enumconversions.h"
 #include "jni/support/native.h"
 
-#include "graphics3d/picking/pickedobjectcollection.h"
+#include <boost/make_shared.hpp>
 
 #include "com_vexane_graphics3d_PickedObjectCollection.h"
-
-#include <boost/make_shared.hpp>
 
 using namespace vxgraphics3d;
 

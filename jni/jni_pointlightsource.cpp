@@ -1,8 +1,7 @@
+#include "graphics3d/lights/pointlightsource.h"
 #include "jni/support/lightof.h"
 #include "jni/support/native.h"
 #include "jni/support/vectors.h"
-
-#include "graphics3d/lights/pointlightsource.h"
 
 #include "com_vexane_graphics3d_PointLightSource.h"
 

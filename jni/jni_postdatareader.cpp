@@ -1,8 +1,6 @@
-#include "jni/support/native.h"
-
-#include "graphics3d/readers/postdatareader.h"
-
 #include "datacarrier/postdataobject.h"
+#include "graphics3d/readers/postdatareader.h"
+#include "jni/support/native.h"
 
 #include "com_vexane_graphics3d_PostDataReader.h"
 

@@ -1,6 +1,5 @@
-#include "jni/support/native.h"
-
 #include "graphics3d/settings/rendererinfo.h"
+#include "jni/support/native.h"
 
 #include <iterator>
 #include <set>

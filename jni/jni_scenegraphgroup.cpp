@@ -1,9 +1,8 @@
+#include "graphics3d/scenegraph/scenegraphgroup.h"
+#include "graphics3d/scenegraph/scenegraphobject.h"
 #include "jni/support/childof.h"
 #include "jni/support/enumconversions.h"
 #include "jni/support/native.h"
-
-#include "graphics3d/scenegraph/scenegraphgroup.h"
-#include "graphics3d/scenegraph/scenegraphobject.h"
 
 #include "com_vexane_graphics3d_SceneGraphGroup.h"
 

@@ -1,7 +1,6 @@
+#include "graphics3d/scenegraph/scenegraphnode.h"
 #include "jni/support/enumconversions.h"
 #include "jni/support/native.h"
-
-#include "graphics3d/scenegraph/scenegraphnode.h"
 
 #include "com_vexane_graphics3d_SceneGraphNode.h"
 

@@ -1,6 +1,5 @@
-#include "jni/support/native.h"
-
 #include "graphics3d/scenegraph/scenegraphobject.h"
+#include "jni/support/native.h"
 
 #include "com_vexane_graphics3d_SceneGraphObject.h"
 

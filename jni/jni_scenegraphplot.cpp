@@ -1,10 +1,9 @@
 // The natives of all plots: setters and getters of what every plot has, the fill, and the release of any plot's peer.
 
-#include "jni/support/enumconversions.h"
-#include "jni/support/native.h"
-
 #include "datacarrier/postdataobject.h"
 #include "graphics3d/plots/scenegraphplot.h"
+#include "jni/support/enumconversions.h"
+#include "jni/support/native.h"
 
 #include "com_vexane_graphics3d_SceneGraphPlot.h"
 

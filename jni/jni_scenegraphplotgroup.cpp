@@ -1,9 +1,8 @@
+#include "graphics3d/plots/scenegraphplot.h"
+#include "graphics3d/plots/scenegraphplotgroup.h"
 #include "jni/support/childof.h"
 #include "jni/support/enumconversions.h"
 #include "jni/support/native.h"
-
-#include "graphics3d/plots/scenegraphplot.h"
-#include "graphics3d/plots/scenegraphplotgroup.h"
 
 #include "com_vexane_graphics3d_SceneGraphPlotGroup.h"
 

@@ -1,7 +1,6 @@
+#include "graphics3d/plots/scalar/scenegraphplotsurface3d.h"
 #include "jni/support/native.h"
 #include "jni/support/plotof.h"
-
-#include "graphics3d/plots/scalar/scenegraphplotsurface3d.h"
 
 #include <boost/make_shared.hpp>
 

@@ -1,7 +1,6 @@
-#include "jni/support/native.h"
-
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
+#include "jni/support/native.h"
 
 #include "com_vexane_graphics3d_SceneGraphRoot.h"
 

@@ -1,7 +1,6 @@
+#include "graphics3d/scenegraph/scenegraphsinglechildparent.h"
 #include "jni/support/enumconversions.h"
 #include "jni/support/native.h"
-
-#include "graphics3d/scenegraph/scenegraphsinglechildparent.h"
 
 #include "com_vexane_graphics3d_SceneGraphSingleChildParent.h"
 

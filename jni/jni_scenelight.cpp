@@ -1,8 +1,7 @@
-#include "jni/support/enumconversions.h"
-#include "jni/support/native.h"
-
 #include "graphics3d/lights/scenelight.h"
 #include "graphics3d/scene/scene.h"
+#include "jni/support/enumconversions.h"
+#include "jni/support/native.h"
 
 #include "com_vexane_graphics3d_SceneLight.h"
 

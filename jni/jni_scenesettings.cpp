@@ -1,7 +1,6 @@
-#include "jni/support/native.h"
-
 #include "graphics3d/canvas/irenderercanvas.h"
 #include "graphics3d/canvas/scenesettings.h"
+#include "jni/support/native.h"
 
 #include <string>
 

@@ -1,7 +1,6 @@
-#include "jni/support/native.h"
-
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/lights/scenesettingslight.h"
+#include "jni/support/native.h"
 
 #include "com_vexane_graphics3d_SceneSettingsLight.h"
 

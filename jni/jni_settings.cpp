@@ -1,10 +1,9 @@
-#include "jni/support/enumconversions.h"
-#include "jni/support/native.h"
-
 #include "graphics3d/cameras/axisorientationindicator.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/canvasbackgroundimage.h"
 #include "graphics3d/canvas/irenderercanvas.h"
+#include "jni/support/enumconversions.h"
+#include "jni/support/native.h"
 
 #include <boost/make_shared.hpp>
 

@@ -1,10 +1,9 @@
-#include "datacarrier/postdataobject.h"
-#include "producer/javavalues.h"
-#include "producer/recordlimits.h"
-
 #include "base/java/conversions.h"
 #include "base/java/nativeframe.h"
 #include "base/java/peerhandle.h"
+#include "datacarrier/postdataobject.h"
+#include "producer/javavalues.h"
+#include "producer/recordlimits.h"
 
 #include <boost/make_shared.hpp>
 
@@ -18,8 +17,6 @@
 using namespace vxbase;
 using vxdatacarrier::PostDataObject;
 using namespace vxproducer;
-
-#define VX_NATIVE(result, method) extern "C" JNIEXPORT result JNICALL Java_com_vexane_producer_PostDataObject_##method
 
 namespace {
 
@@ -70,7 +67,7 @@ void addGroup(JNIEnv* env, PostDataObject& record, jobjectArray coordinates, job
 
 } // namespace
 
-VX_NATIVE(void, createNative)(JNIEnv* env, jclass, jobject self, jint plotKind, jintArray dataIndex)
+VX_NATIVE(void, PostDataObject, createNative)(JNIEnv* env, jclass, jobject self, jint plotKind, jintArray dataIndex)
 {
     guarded(env, [&] {
         const auto record = boost::make_shared<PostDataObject>();
@@ -81,12 +78,12 @@ VX_NATIVE(void, createNative)(JNIEnv* env, jclass, jobject self, jint plotKind, 
     });
 }
 
-VX_NATIVE(void, cleanupNative)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(void, PostDataObject, cleanupNative)(JNIEnv* env, jclass, jobject self)
 {
     guarded(env, [&] { release(env, self); });
 }
 
-VX_NATIVE(void, addGroup)
+VX_NATIVE(void, PostDataObject, addGroup)
 (JNIEnv* env, jclass, jobject self, jobjectArray coordinates, jobjectArray elements, jobjectArray data,
  jdoubleArray limits, jobjectArray normals, jobjectArray lineElements)
 {
@@ -96,14 +93,14 @@ VX_NATIVE(void, addGroup)
     });
 }
 
-VX_NATIVE(void, setBounds)(JNIEnv* env, jclass, jobject self, jobjectArray bounds)
+VX_NATIVE(void, PostDataObject, setBounds)(JNIEnv* env, jclass, jobject self, jobjectArray bounds)
 {
     guarded(env, [&] {
         peer<PostDataObject>(env, self).m_bounds = shared(fromJava<PostDataObject::DoubleArrays>(env, bounds));
     });
 }
 
-VX_NATIVE(void, computeBounds)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(void, PostDataObject, computeBounds)(JNIEnv* env, jclass, jobject self)
 {
     guarded(env, [&] {
         auto& record = peer<PostDataObject>(env, self);
@@ -111,58 +108,58 @@ VX_NATIVE(void, computeBounds)(JNIEnv* env, jclass, jobject self)
     });
 }
 
-VX_NATIVE(jint, getPlotKind)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(jint, PostDataObject, getPlotKind)(JNIEnv* env, jclass, jobject self)
 {
     return guarded(env, [&]() -> jint { return peer<PostDataObject>(env, self).m_plotKind; });
 }
 
-VX_NATIVE(jint, getDataIndex)(JNIEnv* env, jclass, jobject self, jint role)
+VX_NATIVE(jint, PostDataObject, getDataIndex)(JNIEnv* env, jclass, jobject self, jint role)
 {
     return guarded(
         env, [&]() -> jint { return peer<PostDataObject>(env, self).m_dataIndex.at(static_cast<std::size_t>(role)); });
 }
 
-VX_NATIVE(jint, getNumGroups)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(jint, PostDataObject, getNumGroups)(JNIEnv* env, jclass, jobject self)
 {
     return guarded(env, [&] { return static_cast<jint>(peer<PostDataObject>(env, self).m_coordinates.size()); });
 }
 
-VX_NATIVE(jobjectArray, getCoordinates)(JNIEnv* env, jclass, jobject self, jint group)
+VX_NATIVE(jobjectArray, PostDataObject, getCoordinates)(JNIEnv* env, jclass, jobject self, jint group)
 {
     return guarded(env, [&] { return toJavaRows(env, entry(peer<PostDataObject>(env, self).m_coordinates, group)); });
 }
 
-VX_NATIVE(jobjectArray, getElements)(JNIEnv* env, jclass, jobject self, jint group)
+VX_NATIVE(jobjectArray, PostDataObject, getElements)(JNIEnv* env, jclass, jobject self, jint group)
 {
     return guarded(env, [&] { return toJavaRows(env, entry(peer<PostDataObject>(env, self).m_elements, group)); });
 }
 
-VX_NATIVE(jobjectArray, getData)(JNIEnv* env, jclass, jobject self, jint group)
+VX_NATIVE(jobjectArray, PostDataObject, getData)(JNIEnv* env, jclass, jobject self, jint group)
 {
     return guarded(env, [&] { return toJavaRows(env, entry(peer<PostDataObject>(env, self).m_data, group)); });
 }
 
-VX_NATIVE(jdoubleArray, getDataMin)(JNIEnv* env, jclass, jobject self, jint group)
+VX_NATIVE(jdoubleArray, PostDataObject, getDataMin)(JNIEnv* env, jclass, jobject self, jint group)
 {
     return guarded(env, [&] { return toJavaNew(env, entry(peer<PostDataObject>(env, self).m_dataMin, group)); });
 }
 
-VX_NATIVE(jdoubleArray, getDataMax)(JNIEnv* env, jclass, jobject self, jint group)
+VX_NATIVE(jdoubleArray, PostDataObject, getDataMax)(JNIEnv* env, jclass, jobject self, jint group)
 {
     return guarded(env, [&] { return toJavaNew(env, entry(peer<PostDataObject>(env, self).m_dataMax, group)); });
 }
 
-VX_NATIVE(jobjectArray, getNormals)(JNIEnv* env, jclass, jobject self, jint group)
+VX_NATIVE(jobjectArray, PostDataObject, getNormals)(JNIEnv* env, jclass, jobject self, jint group)
 {
     return guarded(env, [&] { return toJavaRows(env, entry(peer<PostDataObject>(env, self).m_normals, group)); });
 }
 
-VX_NATIVE(jobjectArray, getLineElements)(JNIEnv* env, jclass, jobject self, jint group)
+VX_NATIVE(jobjectArray, PostDataObject, getLineElements)(JNIEnv* env, jclass, jobject self, jint group)
 {
     return guarded(env, [&] { return toJavaRows(env, entry(peer<PostDataObject>(env, self).m_lineElements, group)); });
 }
 
-VX_NATIVE(jobjectArray, getBounds)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(jobjectArray, PostDataObject, getBounds)(JNIEnv* env, jclass, jobject self)
 {
     return guarded(env, [&] {
         const auto& bounds = peer<PostDataObject>(env, self).m_bounds;

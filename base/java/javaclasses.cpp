@@ -24,7 +24,7 @@ jclass findClass(JNIEnv* env, const char* name)
 /// Whether all that peers need was found. The exception class may be missing: a standard one stands in for it.
 bool load(JNIEnv* env, JavaClasses& java)
 {
-    java.exception = findClass(env, "com/vexane/graphics3d/NativeException");
+    java.exception = findClass(env, "com/vexane/base/NativeException");
     if (java.exception != nullptr) {
         java.exceptionInit =
             env->GetMethodID(java.exception, "<init>", "(Ljava/lang/String;Ljava/lang/String;Ljava/lang/String;I)V");
@@ -32,7 +32,7 @@ bool load(JNIEnv* env, JavaClasses& java)
             return false;
         }
     }
-    java.peer = findClass(env, "com/vexane/graphics3d/NativePeer");
+    java.peer = findClass(env, "com/vexane/base/NativePeer");
     java.doubleArray = findClass(env, "[D");
     if (java.peer == nullptr || java.doubleArray == nullptr) {
         return false;

@@ -6,9 +6,9 @@ namespace vxbase {
 
 /// The Java classes and members that native code reaches, looked up once when the virtual machine loads the library.
 struct JavaClasses {
-    jclass peer = nullptr;             ///< com.vexane.graphics3d.NativePeer
+    jclass peer = nullptr;             ///< com.vexane.base.NativePeer
     jmethodID peerSetHandle = nullptr; ///< its method `void setHandle(long)`
-    jclass exception = nullptr;        ///< com.vexane.graphics3d.NativeException
+    jclass exception = nullptr;        ///< com.vexane.base.NativeException
     jmethodID exceptionInit = nullptr; ///< its constructor (key, detail, file, line)
     jclass doubleArray = nullptr;      ///< double[]
 };

@@ -8,6 +8,14 @@
 #include <type_traits>
 #include <utility>
 
+/// Spells the exported name of a native of a peer class: `VX_NATIVE(jint, SceneGraphNode, getType)(JNIEnv*, ...)`.
+/// The Java package below `com.vexane` is what the build defines `VX_JAVA_PACKAGE` to be. The header that javac makes
+/// declares the same name, so a signature that differs from the Java method's does not compile.
+#define VX_NATIVE(result, Class, method)                                                                               \
+    extern "C" JNIEXPORT result JNICALL VX_NATIVE_NAME(VX_JAVA_PACKAGE, Class, method)
+#define VX_NATIVE_NAME(package, Class, method) VX_NATIVE_NAME_OF(package, Class, method)
+#define VX_NATIVE_NAME_OF(package, Class, method) Java_com_vexane_##package##_##Class##_##method
+
 namespace vxbase {
 
 /// Runs the body of a native. No C++ exception leaves it: each becomes a Java exception, and the native then returns

@@ -91,7 +91,7 @@ void release(JNIEnv* env, jobject self)
 
 /// Drops the share of a peer that Java forgot to close. Java calls it with the number that the lost peer held, on the
 /// thread that makes the next peer, because destructors of native objects take no lock.
-extern "C" JNIEXPORT void JNICALL Java_com_vexane_graphics3d_NativePeer_releaseLost(JNIEnv* env, jclass, jlong handle)
+extern "C" JNIEXPORT void JNICALL Java_com_vexane_base_NativePeer_releaseLost(JNIEnv* env, jclass, jlong handle)
 {
     try {
         delete static_cast<vxbase::PeerHandle*>(vxbase::toPointer(handle));

@@ -2,10 +2,9 @@
 // box, in 1600 by 1000 pixels.
 
 #include "benchmarks/memory.h"
-#include "tests/renderer/support/testscene.h"
-
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/scenelight.h"
+#include "tests/renderer/support/testscene.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "graphics3d/cameras/icameraactions.h"
-#include "graphics3d/cameras/icameratransforms.h"
-
 #include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "graphics3d/viewing/icameraactions.h"
+#include "graphics3d/viewing/icameratransforms.h"
 
 namespace vxgraphics3d {
 

@@ -1,6 +1,5 @@
 // How the 2D camera makes its matrices, and what it reads from them. Its limits and driving it stand in camera2d.cpp.
 #include "graphics3d/cameras/camera2d.h"
-
 #include "graphics3d/cameras/viewarithmetic.h"
 
 #include <algorithm>

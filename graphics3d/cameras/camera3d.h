@@ -1,11 +1,10 @@
 #pragma once
 
 #include "graphics3d/cameras/halfangle.h"
-#include "graphics3d/cameras/icameraactions.h"
-#include "graphics3d/cameras/icameratransforms.h"
-
 #include "graphics3d/foundation/changeablesetting.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "graphics3d/viewing/icameraactions.h"
+#include "graphics3d/viewing/icameratransforms.h"
 
 #include <array>
 

@@ -1,8 +1,6 @@
 // How the 3D camera makes its matrices, and what it reads from them. Placing and driving it stand in camera3d.cpp.
 #include "graphics3d/cameras/camera3d.h"
-
 #include "graphics3d/cameras/viewarithmetic.h"
-
 #include "graphics3d/foundation/errorlog.h"
 
 #include <algorithm>

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "graphics3d/canvas/canvas3dbackgroundsettings.h"
-
 #include "base/export.h"
+#include "graphics3d/canvas/canvas3dbackgroundsettings.h"
 #include "graphics3d/foundation/changeablesetting.h"
 #include "graphics3d/settings/fontsetting.h"
 

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdarg>
-
 #include <locale.h>
 
 namespace vxgraphics3d {

@@ -1,7 +1,7 @@
 #include "graphics3d/lights/lightsource.h"
 
-#include "graphics3d/cameras/icameratransforms.h"
 #include "graphics3d/foundation/matrixf.h"
+#include "graphics3d/viewing/icameratransforms.h"
 
 #include <cmath>
 #include <utility>

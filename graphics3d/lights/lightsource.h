@@ -1,10 +1,9 @@
 #pragma once
 
+#include "base/export.h"
 #include "graphics3d/foundation/color.h"
 #include "graphics3d/foundation/vector3f.h"
 #include "graphics3d/lights/ilightsourceparent.h"
-
-#include "base/export.h"
 
 #include <boost/shared_ptr.hpp>
 

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "base/export.h"
 #include "graphics3d/foundation/color.h"
 #include "graphics3d/foundation/lastchangeid.h"
 #include "graphics3d/lights/ilightsourceparent.h"
 #include "graphics3d/lights/lightsource.h"
-
-#include "base/export.h"
 
 #include <boost/shared_ptr.hpp>
 

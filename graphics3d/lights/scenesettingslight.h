@@ -1,8 +1,7 @@
 #pragma once
 
-#include "graphics3d/foundation/changeablesetting.h"
-
 #include "base/export.h"
+#include "graphics3d/foundation/changeablesetting.h"
 
 namespace vxgraphics3d {
 

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "graphics3d/picking/pickedobject.h"
-
 #include "base/export.h"
+#include "graphics3d/picking/pickedobject.h"
 
 #include <vector>
 

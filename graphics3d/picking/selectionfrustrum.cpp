@@ -1,6 +1,6 @@
 #include "graphics3d/picking/selectionfrustrum.h"
 
-#include "graphics3d/cameras/icameratransforms.h"
+#include "graphics3d/viewing/icameratransforms.h"
 
 namespace vxgraphics3d {
 

@@ -5,8 +5,8 @@
 #include "graphics3d/buffers/vertexbuffertex.h"
 #include "graphics3d/foundation/errorlog.h"
 #include "graphics3d/foundation/textutil.h"
-#include "graphics3d/plots/colortable.h"
-#include "graphics3d/plots/colortablehandler.h"
+#include "graphics3d/plots/colour/colortable.h"
+#include "graphics3d/plots/colour/colortablehandler.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
 #include "graphics3d/plots/valuescale.h"
 

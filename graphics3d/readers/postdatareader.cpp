@@ -1,8 +1,7 @@
 #include "graphics3d/readers/postdatareader.h"
 
-#include "graphics3d/readers/sceneplotfilereader.h"
-
 #include "datacarrier/postdataobject.h"
+#include "graphics3d/readers/sceneplotfilereader.h"
 
 namespace vxgraphics3d {
 

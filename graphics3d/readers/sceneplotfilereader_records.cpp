@@ -1,9 +1,8 @@
 // The entry points that fill a record.
 
-#include "graphics3d/readers/sceneplotfilereader.h"
-
 #include "base/numeric.h"
 #include "datacarrier/postdataobject.h"
+#include "graphics3d/readers/sceneplotfilereader.h"
 
 #include <boost/make_shared.hpp>
 

@@ -3,10 +3,9 @@
 #include "graphics3d/readers/decimal.h"
 
 #include <charconv>
-#include <system_error>
-
 #include <locale.h>
 #include <stdlib.h>
+#include <system_error>
 
 namespace vxgraphics3d {
 

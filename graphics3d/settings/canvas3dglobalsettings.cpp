@@ -1,6 +1,6 @@
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 
-#include "graphics3d/geometry/markingsetups.h"
+#include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/settings/rendererinfo.h"
 
 #include <algorithm>

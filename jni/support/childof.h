@@ -1,8 +1,7 @@
 #pragma once
 
-#include "graphics3d/scenegraph/scenegraphparent.h"
-
 #include "base/java/peerhandle.h"
+#include "graphics3d/scenegraph/scenegraphparent.h"
 
 #include <boost/shared_ptr.hpp>
 

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "graphics3d/lights/scenelight.h"
-
 #include "base/java/peerhandle.h"
+#include "graphics3d/lights/scenelight.h"
 
 #include <boost/shared_ptr.hpp>
 

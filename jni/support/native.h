@@ -1,21 +1,14 @@
 #pragma once
 
-#include "graphics3d/foundation/errorlog.h"
-
 #include "base/java/conversions.h"
 #include "base/java/nativeframe.h"
 #include "base/java/peerhandle.h"
+#include "graphics3d/foundation/errorlog.h"
 
 #include <jni.h>
 
 #include <type_traits>
 #include <utility>
-
-/// Spells the exported name of a native of a peer class: `VX_NATIVE(jint, SceneGraphNode, getType)(JNIEnv*, ...)`.
-/// The header that javac makes declares the same name, so a signature that differs from the Java method's does not
-/// compile.
-#define VX_NATIVE(result, Class, method)                                                                               \
-    extern "C" JNIEXPORT result JNICALL Java_com_vexane_graphics3d_##Class##_##method
 
 namespace vxgraphics3d {
 

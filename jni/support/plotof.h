@@ -1,9 +1,8 @@
 #pragma once
 
+#include "base/java/peerhandle.h"
 #include "graphics3d/plots/scenegraphplot.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
-
-#include "base/java/peerhandle.h"
 
 #include <boost/pointer_cast.hpp>
 #include <boost/shared_ptr.hpp>

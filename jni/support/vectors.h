@@ -1,8 +1,7 @@
 #pragma once
 
-#include "graphics3d/foundation/vector3f.h"
-
 #include "base/java/jniarray.h"
+#include "graphics3d/foundation/vector3f.h"
 
 #include <jni.h>
 

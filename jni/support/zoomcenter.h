@@ -1,6 +1,6 @@
 #pragma once
 
-#include "graphics3d/cameras/icameraactions.h"
+#include "graphics3d/viewing/icameraactions.h"
 
 namespace vxgraphics3d {
 

@@ -1,10 +1,10 @@
 #include "renderer/axes/axes2d.h"
 
 #include "graphics3d/cameras/camera2d.h"
-#include "graphics3d/plots/graph/axissetup.h"
+#include "graphics3d/canvas/axissetup.h"
 #include "renderer/axes/axisscale.h"
 #include "renderer/axes/labelplacer.h"
-#include "renderer/picture/ticks.h"
+#include "renderer/axes/ticks.h"
 
 #include <algorithm>
 #include <cmath>

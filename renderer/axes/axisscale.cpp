@@ -1,6 +1,6 @@
 #include "renderer/axes/axisscale.h"
 
-#include "renderer/picture/ticks.h"
+#include "renderer/axes/ticks.h"
 
 #include <algorithm>
 #include <cmath>

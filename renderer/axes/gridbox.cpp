@@ -3,7 +3,7 @@
 #include "graphics3d/foundation/boundingbox.h"
 #include "renderer/axes/labelplacer.h"
 #include "renderer/axes/projector.h"
-#include "renderer/picture/ticks.h"
+#include "renderer/axes/ticks.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "renderer/axes/axislayout.h"
-#include "renderer/picture/pixelarea.h"
+#include "renderer/frame/pixelarea.h"
 
 #include <array>
 #include <string>

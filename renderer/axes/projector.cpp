@@ -1,6 +1,6 @@
 #include "renderer/axes/projector.h"
 
-#include "graphics3d/cameras/icameratransforms.h"
+#include "graphics3d/viewing/icameratransforms.h"
 
 #include <algorithm>
 

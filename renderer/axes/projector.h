@@ -1,6 +1,6 @@
 #pragma once
 
-#include "renderer/picture/pixelarea.h"
+#include "renderer/frame/pixelarea.h"
 
 #include <array>
 #include <cmath>

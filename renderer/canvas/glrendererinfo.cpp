@@ -1,9 +1,9 @@
 #include "renderer/canvas/glrendererinfo.h"
 
 #include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "renderer/frame/lighting.h"
 #include "renderer/gl/eglcontext.h"
 #include "renderer/gl/target.h"
-#include "renderer/scene/lighting.h"
 
 #include <epoxy/gl.h>
 

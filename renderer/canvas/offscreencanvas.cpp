@@ -10,8 +10,8 @@
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/settings/contextdata.h"
 #include "renderer/canvas/glrendererinfo.h"
+#include "renderer/canvas/pngencoder.h"
 #include "renderer/gl/target.h"
-#include "renderer/picture/pngencoder.h"
 #include "renderer/scene/scenerenderer.h"
 
 #include <boost/make_shared.hpp>

@@ -2,9 +2,9 @@
 
 #include "graphics3d/canvas/irenderercanvas.h"
 #include "renderer/canvas/sceneview.h"
+#include "renderer/frame/view.h"
 #include "renderer/gl/eglcontext.h"
-#include "renderer/scene/uploadcounts.h"
-#include "renderer/scene/view.h"
+#include "renderer/upload/uploadcounts.h"
 
 #include <boost/shared_ptr.hpp>
 

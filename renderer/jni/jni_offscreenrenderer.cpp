@@ -1,13 +1,11 @@
-#include "renderer/canvas/glrendererinfo.h"
-#include "renderer/canvas/offscreencanvas.h"
-#include "renderer/jni/javabytes.h"
-
-#include "graphics3d/canvas/hardcopysettings.h"
-#include "graphics3d/scene/scene.h"
-
 #include "base/java/conversions.h"
 #include "base/java/nativeframe.h"
 #include "base/java/peerhandle.h"
+#include "graphics3d/canvas/hardcopysettings.h"
+#include "graphics3d/scene/scene.h"
+#include "renderer/canvas/glrendererinfo.h"
+#include "renderer/canvas/offscreencanvas.h"
+#include "renderer/jni/javabytes.h"
 
 #include <boost/make_shared.hpp>
 
@@ -19,9 +17,6 @@ using vxgraphics3d::HardcopySettings;
 using vxgraphics3d::IRendererCanvas;
 using vxgraphics3d::Scene;
 
-#define VX_NATIVE(result, method)                                                                                      \
-    extern "C" JNIEXPORT result JNICALL Java_com_vexane_renderer_OffscreenRenderer_##method
-
 namespace {
 
 OffscreenCanvas& canvas(JNIEnv* env, jobject self)
@@ -31,7 +26,8 @@ OffscreenCanvas& canvas(JNIEnv* env, jobject self)
 
 } // namespace
 
-VX_NATIVE(void, createNative)(JNIEnv* env, jclass, jobject self, jint width, jint height, jint samples)
+VX_NATIVE(void, OffscreenRenderer, createNative)
+(JNIEnv* env, jclass, jobject self, jint width, jint height, jint samples)
 {
     guarded(env, [&] {
         const boost::shared_ptr<IRendererCanvas> canvas = boost::make_shared<OffscreenCanvas>(width, height, samples);
@@ -39,47 +35,47 @@ VX_NATIVE(void, createNative)(JNIEnv* env, jclass, jobject self, jint width, jin
     });
 }
 
-VX_NATIVE(void, cleanupNative)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(void, OffscreenRenderer, cleanupNative)(JNIEnv* env, jclass, jobject self)
 {
     guarded(env, [&] { release(env, self); });
 }
 
-VX_NATIVE(void, setScene)(JNIEnv* env, jclass, jobject self, jobject scene)
+VX_NATIVE(void, OffscreenRenderer, setScene)(JNIEnv* env, jclass, jobject self, jobject scene)
 {
     guarded(env, [&] { canvas(env, self).setScene(scene == nullptr ? nullptr : share<Scene>(env, scene)); });
 }
 
-VX_NATIVE(void, zoomExtents)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(void, OffscreenRenderer, zoomExtents)(JNIEnv* env, jclass, jobject self)
 {
     guarded(env, [&] { canvas(env, self).zoomExtents(); });
 }
 
-VX_NATIVE(void, resize)(JNIEnv* env, jclass, jobject self, jint width, jint height)
+VX_NATIVE(void, OffscreenRenderer, resize)(JNIEnv* env, jclass, jobject self, jint width, jint height)
 {
     guarded(env, [&] { canvas(env, self).resize(width, height); });
 }
 
-VX_NATIVE(jint, getWidth)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(jint, OffscreenRenderer, getWidth)(JNIEnv* env, jclass, jobject self)
 {
     return guarded(env, [&] { return canvas(env, self).getWidth(); });
 }
 
-VX_NATIVE(jint, getHeight)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(jint, OffscreenRenderer, getHeight)(JNIEnv* env, jclass, jobject self)
 {
     return guarded(env, [&] { return canvas(env, self).getHeight(); });
 }
 
-VX_NATIVE(jint, getSamples)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(jint, OffscreenRenderer, getSamples)(JNIEnv* env, jclass, jobject self)
 {
     return guarded(env, [&] { return canvas(env, self).getSamples(); });
 }
 
-VX_NATIVE(void, draw)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(void, OffscreenRenderer, draw)(JNIEnv* env, jclass, jobject self)
 {
     guarded(env, [&] { canvas(env, self).draw(); });
 }
 
-VX_NATIVE(void, readImage)(JNIEnv* env, jclass, jobject self, jobject out)
+VX_NATIVE(void, OffscreenRenderer, readImage)(JNIEnv* env, jclass, jobject self, jobject out)
 {
     guarded(env, [&] {
         const JavaBytes bytes = directBytes(env, out);
@@ -87,29 +83,30 @@ VX_NATIVE(void, readImage)(JNIEnv* env, jclass, jobject self, jobject out)
     });
 }
 
-VX_NATIVE(jbyteArray, encodePng)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(jbyteArray, OffscreenRenderer, encodePng)(JNIEnv* env, jclass, jobject self)
 {
     return guarded(env, [&] { return toJavaNew(env, canvas(env, self).encodePng()); });
 }
 
-VX_NATIVE(jbyteArray, encodeHardcopy)(JNIEnv* env, jclass, jobject self, jobject settings, jint width, jint height)
+VX_NATIVE(jbyteArray, OffscreenRenderer, encodeHardcopy)
+(JNIEnv* env, jclass, jobject self, jobject settings, jint width, jint height)
 {
     return guarded(env, [&] {
         return toJavaNew(env, canvas(env, self).encodeHardcopy(peer<HardcopySettings>(env, settings), width, height));
     });
 }
 
-VX_NATIVE(void, connectInfo)(JNIEnv* env, jclass, jobject info)
+VX_NATIVE(void, OffscreenRenderer, connectInfo)(JNIEnv* env, jclass, jobject info)
 {
     guarded(env, [&] { attach(env, info, GlRendererInfo::ofProcess()); });
 }
 
-VX_NATIVE(jstring, describeDriver)(JNIEnv* env, jclass, jobject self)
+VX_NATIVE(jstring, OffscreenRenderer, describeDriver)(JNIEnv* env, jclass, jobject self)
 {
     return guarded(env, [&] { return vxbase::toJavaNew(env, canvas(env, self).getDriver()); });
 }
 
-VX_NATIVE(void, getUploadCounts)(JNIEnv* env, jclass, jobject self, jintArray out)
+VX_NATIVE(void, OffscreenRenderer, getUploadCounts)(JNIEnv* env, jclass, jobject self, jintArray out)
 {
     guarded(env, [&] {
         jintArrayRH::atLeast(env, out, 3);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "renderer/scene/plotpainter.h"
+#include "renderer/plots/plotpainter.h"
 
 #include <vector>
 

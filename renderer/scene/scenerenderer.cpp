@@ -1,18 +1,18 @@
 #include "renderer/scene/scenerenderer.h"
 
 #include "base/ustring.h"
-#include "graphics3d/cameras/icameratransforms.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/boundingbox.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "graphics3d/viewing/icameratransforms.h"
+#include "renderer/decoration/lightmarkers.h"
+#include "renderer/decoration/triadpainter.h"
+#include "renderer/frame/lighting.h"
 #include "renderer/gl/target.h"
-#include "renderer/scene/lighting.h"
-#include "renderer/scene/lightmarkers.h"
 #include "renderer/scene/plotcollector.h"
-#include "renderer/scene/triadpainter.h"
 
 #include <algorithm>
 #include <cmath>

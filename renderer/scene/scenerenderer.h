@@ -1,18 +1,18 @@
 #pragma once
 
 #include "graphics3d/foundation/lastchangeid.h"
-#include "renderer/scene/axespainter.h"
-#include "renderer/scene/backgroundpainter.h"
-#include "renderer/scene/colortextures.h"
-#include "renderer/scene/frame.h"
-#include "renderer/scene/legend.h"
-#include "renderer/scene/linepainter.h"
-#include "renderer/scene/meshcache.h"
-#include "renderer/scene/overlaypainter.h"
-#include "renderer/scene/plotpainter.h"
-#include "renderer/scene/uploadcounts.h"
-#include "renderer/scene/view.h"
+#include "renderer/decoration/axespainter.h"
+#include "renderer/decoration/legend.h"
+#include "renderer/frame/frame.h"
+#include "renderer/frame/view.h"
+#include "renderer/paint/backgroundpainter.h"
+#include "renderer/paint/linepainter.h"
+#include "renderer/paint/overlaypainter.h"
+#include "renderer/plots/plotpainter.h"
 #include "renderer/text/fontsets.h"
+#include "renderer/upload/colortextures.h"
+#include "renderer/upload/meshcache.h"
+#include "renderer/upload/uploadcounts.h"
 
 #include <boost/weak_ptr.hpp>
 

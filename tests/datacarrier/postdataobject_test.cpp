@@ -1,7 +1,8 @@
 #include "datacarrier/postdataview.h"
 
-#include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
+
+#include <boost/make_shared.hpp>
 
 #include <functional>
 #include <limits>

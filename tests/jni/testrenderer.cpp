@@ -1,5 +1,3 @@
-#include "jni/support/native.h"
-
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/irenderercanvas.h"
 #include "graphics3d/canvas/irenderersetup.h"
@@ -9,6 +7,7 @@
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/settings/contextdata.h"
 #include "graphics3d/settings/rendererinfo.h"
+#include "jni/support/native.h"
 
 #include <boost/make_shared.hpp>
 

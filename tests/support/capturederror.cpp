@@ -1,7 +1,6 @@
 #include "tests/support/capturederror.h"
 
 #include <cstdio>
-
 #include <fcntl.h>
 #include <unistd.h>
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "graphics3d/foundation/errorlog.h"
-
 #include "tests/support/temporaryfile.h"
 
 #include <string>

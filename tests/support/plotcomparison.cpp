@@ -1,8 +1,7 @@
 #include "tests/support/plotcomparison.h"
 
-#include "graphics3d/readers/sceneplotfilereader.h"
-
 #include "datacarrier/postdataobject.h"
+#include "graphics3d/readers/sceneplotfilereader.h"
 #include "tests/support/capturedlog.h"
 #include "tests/support/referenceplotreader.h"
 

@@ -9,7 +9,6 @@
 #include <cmath>
 #include <cstdarg>
 #include <cstring>
-
 #include <locale.h>
 #include <stdlib.h>
 

@@ -1,10 +1,9 @@
 #include "tests/support/temporaryfile.h"
 
 #include <cerrno>
-#include <system_error>
-
 #include <sys/mman.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace vxgraphics3d {

@@ -1,7 +1,6 @@
 #include "graphics3d/cameras/camera2d.h"
 
 #include "graphics3d/cameras/camera3d.h"
-
 #include "tests/support/randomnumbers.h"
 
 #include <gtest/gtest.h>

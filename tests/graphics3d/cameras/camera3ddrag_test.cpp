@@ -1,5 +1,4 @@
 #include "graphics3d/cameras/camera3d.h"
-
 #include "tests/support/testcameras.h"
 
 #include <gtest/gtest.h>

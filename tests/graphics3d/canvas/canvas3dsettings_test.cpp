@@ -3,15 +3,15 @@
 #include "graphics3d/cameras/axisorientationindicator.h"
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/camera3d.h"
+#include "graphics3d/canvas/axissetup.h"
 #include "graphics3d/canvas/canvasbackgroundimage.h"
 #include "graphics3d/canvas/gridboxsettings.h"
-#include "graphics3d/plots/graph/axissetup.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "tests/support/capturedlog.h"
 
-#include <boost/make_shared.hpp>
-
 #include <gtest/gtest.h>
+
+#include <boost/make_shared.hpp>
 
 #include <array>
 #include <cstddef>

@@ -1,8 +1,8 @@
 #include "graphics3d/plots/scenegraphplot.h"
 
 #include "graphics3d/buffers/vertexbuffertex.h"
-#include "graphics3d/plots/colortable.h"
-#include "graphics3d/plots/colortablehandler.h"
+#include "graphics3d/plots/colour/colortable.h"
+#include "graphics3d/plots/colour/colortablehandler.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
 #include "tests/support/capturedlog.h"
 #include "tests/support/fakeplot.h"

@@ -1,8 +1,7 @@
 // The plot files that come with the project: the sample data, and the samples in the documentation.
 
-#include "graphics3d/readers/postdatareader.h"
-
 #include "datacarrier/postdataobject.h"
+#include "graphics3d/readers/postdatareader.h"
 #include "tests/support/capturederror.h"
 #include "tests/support/capturedlog.h"
 

@@ -1,8 +1,7 @@
 // The reader against its plain counterpart, on inputs that no one wrote by hand.
 
-#include "graphics3d/readers/sceneplotfilereader.h"
-
 #include "datacarrier/postdataobject.h"
+#include "graphics3d/readers/sceneplotfilereader.h"
 #include "tests/support/capturederror.h"
 #include "tests/support/plotcomparison.h"
 #include "tests/support/plotfiles.h"

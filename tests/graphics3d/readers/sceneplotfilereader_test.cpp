@@ -1,13 +1,12 @@
 #include "graphics3d/readers/sceneplotfilereader.h"
 
+#include "datacarrier/postdataobject.h"
 #include "graphics3d/buffers/indexbufferlines.h"
 #include "graphics3d/buffers/indexbufferquads.h"
 #include "graphics3d/buffers/indexbuffertriangles.h"
 #include "graphics3d/buffers/vertexbuffercoords.h"
 #include "graphics3d/buffers/vertexbuffernormaltex.h"
 #include "graphics3d/buffers/vertexbuffertex.h"
-
-#include "datacarrier/postdataobject.h"
 #include "tests/support/capturederror.h"
 #include "tests/support/capturedlog.h"
 #include "tests/support/temporaryfile.h"

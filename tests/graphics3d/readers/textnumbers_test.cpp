@@ -7,12 +7,11 @@
 #include <clocale>
 #include <cstdint>
 #include <cstdio>
+#include <locale.h>
 #include <random>
 #include <sstream>
-#include <string>
-
-#include <locale.h>
 #include <stdlib.h>
+#include <string>
 
 namespace vxgraphics3d {
 namespace {

@@ -1,11 +1,11 @@
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 
-#include "graphics3d/geometry/markingsetups.h"
+#include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/settings/rendererinfo.h"
 
-#include <boost/make_shared.hpp>
-
 #include <gtest/gtest.h>
+
+#include <boost/make_shared.hpp>
 
 #include <stdexcept>
 

@@ -1,8 +1,8 @@
 #include "graphics3d/settings/rendererinfo.h"
 
-#include <boost/make_shared.hpp>
-
 #include <gtest/gtest.h>
+
+#include <boost/make_shared.hpp>
 
 #include <stdexcept>
 

@@ -1,7 +1,7 @@
 #include "renderer/axes/axes2d.h"
 
 #include "graphics3d/cameras/camera2d.h"
-#include "graphics3d/plots/graph/axissetup.h"
+#include "graphics3d/canvas/axissetup.h"
 #include "renderer/axes/labelplacer.h"
 #include "renderer/text/fontset.h"
 #include "tests/renderer/support/squaremetrics.h"

@@ -1,11 +1,10 @@
-#include "renderer/canvas/glrendererinfo.h"
-#include "renderer/canvas/offscreencanvas.h"
-
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "renderer/canvas/glrendererinfo.h"
+#include "renderer/canvas/offscreencanvas.h"
 #include "tests/renderer/support/testscene.h"
 
 #include <gtest/gtest.h>

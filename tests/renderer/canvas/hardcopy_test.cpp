@@ -1,12 +1,11 @@
-#include "renderer/canvas/offscreencanvas.h"
-
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/matrixf.h"
-#include "renderer/scene/appearance.h"
+#include "renderer/canvas/offscreencanvas.h"
+#include "renderer/frame/appearance.h"
 #include "tests/renderer/support/pngfile.h"
 #include "tests/renderer/support/testscene.h"
 

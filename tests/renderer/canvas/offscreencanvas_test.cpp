@@ -2,16 +2,17 @@
 
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/scenelight.h"
-#include "graphics3d/plots/colortable.h"
+#include "graphics3d/plots/colour/colortable.h"
 #include "graphics3d/plots/scalar/scenegraphplotdomain3d.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphgroup.h"
-#include "renderer/scene/view.h"
+#include "renderer/frame/view.h"
 #include "tests/renderer/support/testscene.h"
 #include "tests/support/capturedlog.h"
 
-#include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
+
+#include <boost/make_shared.hpp>
 
 #include <cmath>
 #include <stdexcept>

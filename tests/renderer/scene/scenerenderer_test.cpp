@@ -5,10 +5,10 @@
 #include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/lights/scenesettingslight.h"
-#include "graphics3d/plots/colortable.h"
+#include "graphics3d/plots/colour/colortable.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
-#include "renderer/scene/appearance.h"
-#include "renderer/scene/view.h"
+#include "renderer/frame/appearance.h"
+#include "renderer/frame/view.h"
 #include "tests/renderer/support/testscene.h"
 
 #include <gtest/gtest.h>

@@ -2,9 +2,9 @@
 
 #include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
-#include "graphics3d/plots/colortablehandler.h"
-#include "renderer/scene/appearance.h"
-#include "renderer/scene/view.h"
+#include "graphics3d/plots/colour/colortablehandler.h"
+#include "renderer/frame/appearance.h"
+#include "renderer/frame/view.h"
 
 #include <boost/make_shared.hpp>
 

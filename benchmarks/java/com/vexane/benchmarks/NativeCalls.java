@@ -1,7 +1,7 @@
 package com.vexane.benchmarks;
 
-import com.vexane.graphics3d.NativeLibrary;
-import com.vexane.graphics3d.NativePeer;
+import com.vexane.base.NativeLibrary;
+import com.vexane.base.NativePeer;
 import com.vexane.graphics3d.SceneGraphGroup;
 import java.util.Arrays;
 import java.util.Locale;

@@ -1,5 +1,8 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeException;
+import com.vexane.base.NativePeer;
+
 /**
  * What a drawing context of the renderer turned out to be: sizes of its buffers, and how it smooths edges. The numbers
  * are those of the moment of each call.

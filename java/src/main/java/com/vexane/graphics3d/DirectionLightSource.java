@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeException;
+
 /** Light that comes from one direction everywhere, as from the sun. */
 public final class DirectionLightSource extends LightSource {
     private DirectionLightSource() {}

@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativePeer;
+
 /** How the grid box around the scene looks in a view. */
 public final class GridBoxSettings extends NativePeer {
     private GridBoxSettings() {}

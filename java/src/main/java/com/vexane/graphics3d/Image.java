@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativePeer;
+
 /**
  * A raster image that native code fills: a renderer takes the peer and gives it size and pixels. The pixels do not
  * come to Java through this class.

@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeException;
+
 /** Light that goes out from one point to all sides, as from a lamp. */
 public final class PointLightSource extends LightSource {
     private PointLightSource() {}

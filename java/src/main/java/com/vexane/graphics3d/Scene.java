@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativePeer;
+
 /**
  * What one or several views show: a tree of nodes, below {@link SceneGraphRoot#connect its root}, and
  * {@linkplain SceneLight#connect light}. How a view shows it is set in the {@link SceneSettings} of that view.

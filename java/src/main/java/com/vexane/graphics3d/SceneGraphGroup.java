@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeException;
+
 /**
  * A node with any number of children, which are ordered by their ids.
  *

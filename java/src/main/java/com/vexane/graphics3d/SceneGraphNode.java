@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativePeer;
+
 /**
  * A node of the scene tree: a parent of other nodes, an object to show, or a group of plots.
  *

@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeException;
+
 /**
  * A plot of a field on the surfaces of a domain in space, with the normals of the record.
  *

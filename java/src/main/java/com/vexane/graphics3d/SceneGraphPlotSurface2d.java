@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeException;
+
 /**
  * A plot of a field on a flat domain: flat in the plane, or raised by a second array of the record into a height map.
  *

@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeException;
+
 /** A node with at most one child, whose id is 0. */
 public abstract class SceneGraphSingleChildParent extends SceneGraphParent {
     SceneGraphSingleChildParent() {}

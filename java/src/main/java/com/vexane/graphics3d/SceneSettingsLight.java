@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativePeer;
+
 /**
  * Which of the light of a scene one view uses. All of it is on at the start; markers of lights are not drawn.
  */

@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeException;
+
 /** Light that goes out from one point within a cone, as from a spotlight. */
 public final class SpotLightSource extends LightSource {
     private SpotLightSource() {}

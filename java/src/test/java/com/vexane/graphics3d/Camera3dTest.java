@@ -4,6 +4,7 @@ import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 
+import com.vexane.base.NativeException;
 import com.vexane.graphics3d.Camera3d.ProjectionType;
 import java.util.List;
 import java.util.function.Consumer;

@@ -5,6 +5,7 @@ import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.vexane.base.NativeException;
 import com.vexane.graphics3d.Canvas3dGlobalSettings.CameraMouseAction;
 import com.vexane.graphics3d.Canvas3dGlobalSettings.RenderQuality;
 import com.vexane.graphics3d.Canvas3dGlobalSettings.ZoomToExtentBehaviour;

@@ -7,6 +7,7 @@ import static org.junit.jupiter.api.Assertions.assertNotEquals;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.vexane.base.NativeException;
 import com.vexane.graphics3d.Canvas3dSettings.HorizontalPosition;
 import com.vexane.graphics3d.Canvas3dSettings.RenderMode;
 import com.vexane.graphics3d.Canvas3dSettings.Text;

@@ -5,6 +5,7 @@ import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.vexane.base.NativeException;
 import com.vexane.graphics3d.ContextData.AntialiasingType;
 import org.junit.jupiter.api.Test;
 

@@ -2,6 +2,7 @@ package com.vexane.graphics3d;
 
 import static org.junit.jupiter.api.Assertions.assertEquals;
 
+import com.vexane.base.NativePeer;
 import java.util.Map;
 import org.junit.jupiter.api.extension.AfterEachCallback;
 import org.junit.jupiter.api.extension.BeforeEachCallback;

@@ -3,6 +3,7 @@ package com.vexane.graphics3d;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 
+import com.vexane.base.NativeException;
 import com.vexane.graphics3d.MarkingSetups.Marking;
 import com.vexane.graphics3d.MarkingSetups.Mode;
 import com.vexane.graphics3d.MarkingSetups.Row;

@@ -4,6 +4,7 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.vexane.base.NativeException;
 import com.vexane.graphics3d.CanvasPickSettings.Mask;
 import com.vexane.graphics3d.CanvasPickSettings.Target;
 import java.util.EnumSet;

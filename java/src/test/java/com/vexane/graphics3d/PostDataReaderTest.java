@@ -7,6 +7,7 @@ import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 import static org.junit.jupiter.api.Assumptions.assumeTrue;
 
+import com.vexane.base.NativeException;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.PlotKind;
 import com.vexane.producer.PostDataBuilder;

@@ -4,6 +4,7 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.vexane.base.NativeException;
 import com.vexane.graphics3d.RendererInfo.MonitorInfo;
 import java.util.List;
 import org.junit.jupiter.api.Test;

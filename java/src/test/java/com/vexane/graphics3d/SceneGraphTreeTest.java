@@ -5,6 +5,8 @@ import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.vexane.base.NativeException;
+import com.vexane.base.NativePeer;
 import com.vexane.graphics3d.SceneGraphNode.NodeType;
 import java.util.ArrayList;
 import java.util.Collections;

@@ -1,5 +1,8 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeLibrary;
+import com.vexane.base.NativePeer;
+
 /** One view of a renderer that draws nothing, for what peers get from a renderer. */
 public final class TestRenderer extends NativePeer {
     static {

@@ -99,7 +99,7 @@ public final class PostDataBuilder {
      *         first group, or not one value or normal for each point; a single value for the whole group is taken where
      *         {@link DataRole#ISO_LEVEL} alone names the array
      * @throws IndexOutOfBoundsException if a role names an array that the groups do not have
-     * @throws com.vexane.graphics3d.NativeException if an element names a point that its group does not have
+     * @throws com.vexane.base.NativeException if an element names a point that its group does not have
      */
     public PostDataObject build() {
         if (groups.isEmpty()) {

@@ -1,7 +1,7 @@
 package com.vexane.producer;
 
-import com.vexane.graphics3d.NativeLibrary;
-import com.vexane.graphics3d.NativePeer;
+import com.vexane.base.NativeLibrary;
+import com.vexane.base.NativePeer;
 import java.util.Arrays;
 import java.util.Map;
 import java.util.Objects;

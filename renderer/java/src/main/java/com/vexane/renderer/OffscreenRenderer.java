@@ -1,10 +1,10 @@
 package com.vexane.renderer;
 
+import com.vexane.base.NativeLibrary;
+import com.vexane.base.NativePeer;
 import com.vexane.graphics3d.Camera3d;
 import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.HardcopySettings;
-import com.vexane.graphics3d.NativeLibrary;
-import com.vexane.graphics3d.NativePeer;
 import com.vexane.graphics3d.RendererInfo;
 import com.vexane.graphics3d.Scene;
 import java.io.IOException;
@@ -75,7 +75,7 @@ public final class OffscreenRenderer extends NativePeer {
      * @param height rows, at least 1
      * @return the renderer
      * @throws IllegalArgumentException if a number is below 1
-     * @throws com.vexane.graphics3d.NativeException as with a number of samples
+     * @throws com.vexane.base.NativeException as with a number of samples
      * @throws UnsatisfiedLinkError if the native library or one that it needs cannot be loaded
      */
     public static OffscreenRenderer create(int width, int height) {
@@ -90,7 +90,7 @@ public final class OffscreenRenderer extends NativePeer {
      * @param samples samples a pixel against jagged edges, 1 for none; reduced to what the driver has, often 4 or 8
      * @return the renderer
      * @throws IllegalArgumentException if a number is below 1
-     * @throws com.vexane.graphics3d.NativeException if the picture is larger than the driver allows, or if there is no
+     * @throws com.vexane.base.NativeException if the picture is larger than the driver allows, or if there is no
      *     driver or font; the message says what is missing
      * @throws UnsatisfiedLinkError if the native library or one that it needs cannot be loaded
      */
@@ -125,7 +125,7 @@ public final class OffscreenRenderer extends NativePeer {
      * @param width pixels in a row, at least 1
      * @param height rows, at least 1
      * @throws IllegalArgumentException if a number is below 1
-     * @throws com.vexane.graphics3d.NativeException if the driver does not allow the size; the present one then stays
+     * @throws com.vexane.base.NativeException if the driver does not allow the size; the present one then stays
      */
     public void resize(int width, int height) {
         requirePositive(width, "width");
@@ -196,7 +196,7 @@ public final class OffscreenRenderer extends NativePeer {
     /**
      * Draws the scene as it is now.
      *
-     * @throws com.vexane.graphics3d.NativeException if the driver reports a fault
+     * @throws com.vexane.base.NativeException if the driver reports a fault
      */
     public void draw() {
         draw(this);
@@ -210,7 +210,7 @@ public final class OffscreenRenderer extends NativePeer {
      * this call until the next one, which writes into the same memory unless the size has changed.
      *
      * @return the image, with position 0 and the limit at its end
-     * @throws com.vexane.graphics3d.NativeException if nothing was drawn since the size was given
+     * @throws com.vexane.base.NativeException if nothing was drawn since the size was given
      */
     public ByteBuffer image() {
         int size = Math.multiplyExact(Math.multiplyExact(getWidth(), getHeight()), BYTES_PER_PIXEL);
@@ -227,7 +227,7 @@ public final class OffscreenRenderer extends NativePeer {
      * @param file the file, which is replaced
      * @throws NullPointerException if the file is null
      * @throws IOException if the file cannot be written
-     * @throws com.vexane.graphics3d.NativeException if nothing was drawn since the size was given
+     * @throws com.vexane.base.NativeException if nothing was drawn since the size was given
      */
     public void writePng(Path file) throws IOException {
         Objects.requireNonNull(file, "file");
@@ -246,7 +246,7 @@ public final class OffscreenRenderer extends NativePeer {
      * @throws IllegalStateException if the settings are closed
      * @throws IllegalArgumentException if a number is below 1
      * @throws IOException if the file cannot be written
-     * @throws com.vexane.graphics3d.NativeException if the driver does not allow the size or reports a fault
+     * @throws com.vexane.base.NativeException if the driver does not allow the size or reports a fault
      */
     public void writeHardcopy(Path file, HardcopySettings settings, int width, int height) throws IOException {
         Objects.requireNonNull(file, "file");

@@ -5,14 +5,14 @@ import static org.junit.jupiter.api.Assertions.assertNotSame;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.vexane.base.NativeException;
+import com.vexane.base.NativePeer;
 import com.vexane.graphics3d.Camera3d;
 import com.vexane.graphics3d.Canvas3dGlobalSettings;
-import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.Canvas3dSettings.RenderMode;
+import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.ContextData;
 import com.vexane.graphics3d.HardcopySettings;
-import com.vexane.graphics3d.NativeException;
-import com.vexane.graphics3d.NativePeer;
 import com.vexane.graphics3d.RendererInfo;
 import com.vexane.graphics3d.Scene;
 import com.vexane.graphics3d.SceneSettings;

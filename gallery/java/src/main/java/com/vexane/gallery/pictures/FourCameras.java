@@ -5,10 +5,10 @@ import com.vexane.gallery.Picture;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.Camera3d;
 import com.vexane.graphics3d.SceneGraphPlotSurface2d;
+import com.vexane.interaction.CameraInteraction;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.PlotKind;
 import com.vexane.producer.PostDataObject;
-import com.vexane.renderer.CameraInteraction;
 import java.io.IOException;
 import java.util.Map;
 

@@ -1,0 +1,6 @@
+/** Turns mouse events into the movement of cameras, for views of any renderer. */
+module com.vexane.interaction {
+    requires transitive com.vexane.graphics3d;
+
+    exports com.vexane.interaction;
+}

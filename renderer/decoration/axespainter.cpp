@@ -1,0 +1,186 @@
+#include "renderer/decoration/axespainter.h"
+
+#include "base/ustring.h"
+#include "graphics3d/cameras/axisorientationindicator.h"
+#include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/gridboxsettings.h"
+#include "graphics3d/foundation/boundingbox.h"
+#include "graphics3d/scene/scene.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "renderer/axes/axes2d.h"
+#include "renderer/axes/gridbox.h"
+#include "renderer/axes/labelplacer.h"
+#include "renderer/frame/frame.h"
+#include "renderer/paint/linepainter.h"
+#include "renderer/paint/overlaypainter.h"
+
+#include <cmath>
+
+namespace vxrenderer {
+namespace {
+
+using namespace vxgraphics3d;
+
+/// Width of lines in pixels of the screen.
+constexpr float c_lineWidth = 1.0f;
+/// What is left of the opacity of lines between labelled values.
+constexpr int c_minorAlpha = 90;
+/// Opacity of the trace of a grid over the data.
+constexpr int c_traceAlpha = 130;
+
+void append(std::vector<AxisLine>& lines, const std::vector<AxisLine>& more)
+{
+    lines.insert(lines.end(), more.begin(), more.end());
+}
+
+Axes2dInput axes2dInput(const Frame& frame, int width, int height)
+{
+    return {frame.camera2d(), *frame.canvas.getAxisSetupPtr(), width, height,
+            Canvas3dGlobalSettings::getInstance()->getGridbox2dTickPrecision()};
+}
+
+GridBoxInput gridBoxInput(const Frame& frame)
+{
+    const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
+    return {frame.scene->getBoundingBox(),
+            frame.camera,
+            {indicator.getLabel(AxisOrientationIndicator::AxisX), indicator.getLabel(AxisOrientationIndicator::AxisY),
+             indicator.getLabel(AxisOrientationIndicator::AxisZ)},
+            Canvas3dGlobalSettings::getInstance()->getGridbox3dTickPrecision()};
+}
+
+/// Draws lines in one colour, first the faint ones.
+void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int width, int height, float lineWidth,
+               const Color& color, LinePainter& painter)
+{
+    for (const bool isMinor : {true, false}) {
+        std::vector<LineSegment> segments;
+        segments.reserve(lines.size());
+        for (const AxisLine& line : lines) {
+            if (line.isMinor == isMinor) {
+                segments.push_back({line.from, line.to});
+            }
+        }
+        Color faint = color;
+        faint.alpha = isMinor ? color.alpha * c_minorAlpha / 255 : color.alpha;
+        painter.draw(segments, toClip, width, height, lineWidth, faint);
+    }
+}
+
+} // namespace
+
+SceneArea divideRoom(const Frame& frame, const PixelArea& room, int width, int height, const AxisFonts& fonts)
+{
+    SceneArea area = {room, room};
+    if (frame.isFlat()) {
+        if (frame.appearance.showAxes) {
+            area.whole = axes2dArea(axes2dInput(frame, width, height), room, fonts.metrics());
+        } else if (frame.isPolar()) {
+            area.whole = centeredSquare(room);
+        }
+        area.inner = area.whole;
+    } else if (frame.appearance.showAxes) {
+        const AxisMargins margins = gridBoxMargins(gridBoxInput(frame), fonts.metrics());
+        area.inner.x += static_cast<int>(margins.left);
+        area.inner.y += static_cast<int>(margins.top);
+        area.inner.width -= static_cast<int>(margins.left + margins.right);
+        area.inner.height -= static_cast<int>(margins.top + margins.bottom);
+    }
+    return area;
+}
+
+AxesPainter::AxesPainter(const Frame& frame, const View& view, int width, int height, const AxisFonts& fonts)
+    : m_width(width),
+      m_height(height),
+      m_view(view),
+      m_scale(frame.appearance.scale),
+      m_gridColor(frame.canvas.getGridBoxSettingsPtr()->getGridColor()),
+      m_labelColor(frame.canvas.getGridBoxSettingsPtr()->getLabelColor()),
+      m_haloColor(frame.appearance.backdrop.top),
+      m_hasHalo(frame.isPolar())
+{
+    if (view.isFlat) {
+        layOutAxes2d(frame, view, fonts);
+    } else {
+        layOutGridBox(frame, view, fonts);
+    }
+}
+
+void AxesPainter::layOutGridBox(const Frame& frame, const View& view, const AxisFonts& fonts)
+{
+    GridBoxLayout layout = layoutGridBox(gridBoxInput(frame), view.area, fonts.metrics());
+    m_behind = std::move(layout.grid);
+    append(m_behind, layout.edges);
+    m_around = std::move(layout.ticks);
+    m_labels = std::move(layout.labels);
+}
+
+void AxesPainter::layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts)
+{
+    Axes2dLayout layout = layoutAxes2d(axes2dInput(frame, m_width, m_height), view.area, fonts.metrics());
+    m_behind = std::move(layout.grid);
+    m_around = std::move(layout.frame);
+    append(m_around, layout.ticks);
+    m_labels = std::move(layout.labels);
+}
+
+void AxesPainter::drawBehind(LinePainter& painter) const
+{
+    drawInArea(painter, m_gridColor);
+}
+
+void AxesPainter::drawOver(LinePainter& painter) const
+{
+    if (m_view.isFlat) {
+        Color trace = m_gridColor;
+        trace.alpha = c_traceAlpha;
+        drawInArea(painter, trace);
+    }
+}
+
+void AxesPainter::drawInArea(LinePainter& painter, const Color& color) const
+{
+    Matrixf toClip = m_view.projection * m_view.sceneToEye;
+    if (m_view.isFlat) {
+        // The lines of a flat view count their pixels from the corner of the picture, the viewport from that of the
+        // area.
+        toClip = pixelsToClip(m_view.area.width, m_view.area.height);
+        toClip.translate(-static_cast<float>(m_view.area.x), -static_cast<float>(m_view.area.y), 0.0f);
+    }
+    drawLines(m_behind, toClip, m_view.area.width, m_view.area.height, c_lineWidth * m_scale, color, painter);
+}
+
+void AxesPainter::drawAround(LinePainter& painter) const
+{
+    drawLines(m_around, pixelsToClip(m_width, m_height), m_width, m_height, c_lineWidth * m_scale,
+              m_view.isFlat ? m_labelColor : m_gridColor, painter);
+}
+
+void AxesPainter::drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const
+{
+    for (const AxisLabel& label : m_labels) {
+        FontSet& font = label.isTitle ? fonts.titles : fonts.ticks;
+        const TextLayout text =
+            layoutTitle(parseTitle(vxbase::UString(label.markup)), font, {label.room, static_cast<float>(m_height)});
+        const float width = label.isVertical ? text.height : text.width;
+        const float height = label.isVertical ? text.width : text.height;
+        const float left = label.x - label.alignX * width;
+        const float top = label.y - label.alignY * height;
+        const auto draw = [&](float x, float y, const Color& color) {
+            if (label.isVertical) {
+                painter.drawTextUpwards(text, font, x, y + height, color);
+            } else {
+                painter.drawText(text, font, x, y, color);
+            }
+        };
+        for (int aside = -1; m_hasHalo && aside <= 1; ++aside) {
+            for (int below = -1; below <= 1; ++below) {
+                draw(left + static_cast<float>(aside), top + static_cast<float>(below), m_haloColor);
+            }
+        }
+        draw(left, top, m_labelColor);
+    }
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "graphics3d/foundation/color.h"
+#include "renderer/axes/axislayout.h"
+#include "renderer/frame/view.h"
+#include "renderer/text/fontset.h"
+
+#include <vector>
+
+namespace vxrenderer {
+
+struct Frame;
+class LinePainter;
+class OverlayPainter;
+
+/// Fonts of a picture's axes.
+struct AxisFonts {
+    FontSet& titles;
+    FontSet& ticks;
+
+    AxisMetrics metrics() const { return {ticks, titles}; }
+};
+
+/// Where the scene of a view goes.
+struct SceneArea {
+    /// What the camera draws to.
+    PixelArea whole;
+    /// The part of it that a box may fill so that the labels around it find room. A 2D view has its labels outside.
+    PixelArea inner;
+};
+
+/// Divides the room that a picture leaves for a scene and its axes.
+/// @param width,height of the whole picture
+SceneArea divideRoom(const Frame& frame, const PixelArea& room, int width, int height, const AxisFonts& fonts);
+
+/// The grid box of a 3D view or the axes of a 2D one, laid out for one frame and drawn in three steps.
+class AxesPainter {
+public:
+    /// @param view of the frame, whose camera has its area
+    /// @param width,height of the whole picture
+    AxesPainter(const Frame& frame, const View& view, int width, int height, const AxisFonts& fonts);
+
+    /// What lies behind the data. The viewport is the area of the scene.
+    void drawBehind(LinePainter& painter) const;
+    /// A trace of the grid over the data of a flat view, which would hide it altogether. The viewport is the area of
+    /// the scene.
+    void drawOver(LinePainter& painter) const;
+    /// What lies around the data. The viewport is the whole picture.
+    void drawAround(LinePainter& painter) const;
+    void drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const;
+
+private:
+    void drawInArea(LinePainter& painter, const vxgraphics3d::Color& color) const;
+    void layOutGridBox(const Frame& frame, const View& view, const AxisFonts& fonts);
+    void layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts);
+
+    int m_width;
+    int m_height;
+    View m_view;
+    /// Widths of lines follow the scale of the picture.
+    float m_scale;
+    vxgraphics3d::Color m_gridColor;
+    vxgraphics3d::Color m_labelColor;
+    /// Stands around labels that may lie on the data.
+    vxgraphics3d::Color m_haloColor;
+    bool m_hasHalo;
+    /// In world coordinates of a 3D view, in pixels of a 2D one.
+    std::vector<AxisLine> m_behind;
+    /// In pixels.
+    std::vector<AxisLine> m_around;
+    std::vector<AxisLabel> m_labels;
+};
+
+} // namespace vxrenderer

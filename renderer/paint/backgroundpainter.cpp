@@ -1,0 +1,130 @@
+#include "renderer/paint/backgroundpainter.h"
+
+#include "graphics3d/canvas/canvasbackgroundimage.h"
+#include "graphics3d/foundation/image.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::CanvasBackgroundImage;
+using vxgraphics3d::Image;
+
+// A rectangle of clip coordinates; the place within it runs from 0 at the top left to 1 at the bottom right.
+constexpr const char* c_vertexSource = R"(
+uniform vec4 corners;
+out vec2 place;
+
+void main()
+{
+    place = vec2(gl_VertexID & 1, gl_VertexID >> 1);
+    gl_Position = vec4(mix(corners.xy, corners.zw, place), 0.0, 1.0);
+}
+)";
+
+// Colours between two texels at the rim of the image must not take in the empty part of the texture beyond it.
+constexpr const char* c_fragmentSource = R"(
+uniform vec4 topColor;
+uniform vec4 bottomColor;
+uniform bool hasImage;
+uniform vec2 imagePart;
+uniform sampler2D image;
+in vec2 place;
+out vec4 result;
+
+void main()
+{
+    if (hasImage) {
+        vec2 texel = 1.0 / vec2(textureSize(image, 0));
+        result = texture(image, clamp(place * imagePart, 0.5 * texel, imagePart - 0.5 * texel));
+    } else {
+        result = mix(topColor, bottomColor, place.y);
+    }
+}
+)";
+
+/// Copies the levels of an image that the driver takes to the texture that is bound.
+void load(const CanvasBackgroundImage& image)
+{
+    GLint largest = 0;
+    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
+    const auto sideOf = [&](int level) {
+        const Image& pixels = *image.getImage(level);
+        return std::max(pixels.getWidth(), pixels.getHeight());
+    };
+    int first = image.getMinLevel();
+    while (first < image.getMaxLevel() && sideOf(first) > largest) {
+        ++first;
+    }
+    for (int level = first; level <= image.getMaxLevel(); ++level) {
+        const Image& pixels = *image.getImage(level);
+        glTexImage2D(GL_TEXTURE_2D, level - first, GL_RGBA8, pixels.getWidth(), pixels.getHeight(), 0, GL_RGBA,
+                     GL_UNSIGNED_INT_8_8_8_8, pixels.getData());
+    }
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAX_LEVEL, image.getMaxLevel() - first);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_NEAREST);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+}
+
+} // namespace
+
+BackgroundPainter::BackgroundPainter()
+    : m_program("the background", c_vertexSource, c_fragmentSource),
+      m_corners(m_program.place("corners")),
+      m_topColor(m_program.place("topColor")),
+      m_bottomColor(m_program.place("bottomColor")),
+      m_hasImage(m_program.place("hasImage")),
+      m_imagePart(m_program.place("imagePart"))
+{}
+
+void BackgroundPainter::draw(const Appearance::Backdrop& backdrop, int width, int height, float scale) const
+{
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_BLEND);
+    m_program.use();
+    glBindVertexArray(m_array.name());
+    GlProgram::set(m_corners, -1.0f, 1.0f, 1.0f, -1.0f);
+    GlProgram::set(m_topColor, backdrop.top);
+    GlProgram::set(m_bottomColor, backdrop.bottom);
+    GlProgram::set(m_hasImage, 0);
+    glDrawArrays(GL_TRIANGLE_STRIP, 0, 4);
+    const CanvasBackgroundImage* image = backdrop.image.get();
+    if (image != nullptr && image->wasImageSet() && image->getImage(image->getMinLevel()) != nullptr) {
+        drawImage(backdrop, width, height, scale);
+    }
+}
+
+void BackgroundPainter::drawImage(const Appearance::Backdrop& backdrop, int width, int height, float scale) const
+{
+    const CanvasBackgroundImage& image = *backdrop.image;
+    const Image& pixels = *image.getImage(image.getMinLevel());
+    glActiveTexture(GL_TEXTURE0);
+    glBindTexture(GL_TEXTURE_2D, m_texture.name());
+    // An image counts no changes, so the one that was loaded for the last frame may be another one.
+    load(image);
+
+    const auto sideOf = [&](int size, float part) { return std::round(static_cast<float>(size) * part) * scale; };
+    const float imageWidth = sideOf(pixels.getWidth(), image.getWidthFraction());
+    const float imageHeight = sideOf(pixels.getHeight(), image.getHeightFraction());
+    const auto startOf = [](float room, float size, int position) {
+        return std::round(0.5f * static_cast<float>(position) * (room - size));
+    };
+    const float left = startOf(static_cast<float>(width), imageWidth, backdrop.horizontal);
+    const float top = startOf(static_cast<float>(height), imageHeight, backdrop.vertical);
+    const auto clipX = [&](float x) { return 2.0f * x / static_cast<float>(width) - 1.0f; };
+    const auto clipY = [&](float y) { return 1.0f - 2.0f * y / static_cast<float>(height); };
+
+    glEnable(GL_BLEND);
+    glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    GlProgram::set(m_corners, clipX(left), clipY(top), clipX(left + imageWidth), clipY(top + imageHeight));
+    GlProgram::set(m_hasImage, 1);
+    GlProgram::set(m_imagePart, image.getWidthFraction(), image.getHeightFraction());
+    glDrawArrays(GL_TRIANGLE_STRIP, 0, 4);
+    glDisable(GL_BLEND);
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "renderer/frame/appearance.h"
+#include "renderer/gl/globject.h"
+#include "renderer/gl/glprogram.h"
+
+namespace vxrenderer {
+
+/// Draws what lies behind the scene: a colour, or two that run into each other from top to bottom, and an image over
+/// them.
+class BackgroundPainter {
+public:
+    BackgroundPainter();
+
+    /// Fills the present viewport, which is a whole picture.
+    /// @param scale pixels of the picture that a pixel of the image takes in each direction
+    void draw(const Appearance::Backdrop& backdrop, int width, int height, float scale) const;
+
+private:
+    void drawImage(const Appearance::Backdrop& backdrop, int width, int height, float scale) const;
+
+    GlProgram m_program;
+    GLint m_corners;
+    GLint m_topColor;
+    GLint m_bottomColor;
+    GLint m_hasImage;
+    GLint m_imagePart;
+    GlVertexArray m_array;
+    GlTexture m_texture;
+};
+
+} // namespace vxrenderer

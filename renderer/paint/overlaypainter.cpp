@@ -1,0 +1,199 @@
+#include "renderer/paint/overlaypainter.h"
+
+#include <cmath>
+#include <cstddef>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::Color;
+
+constexpr const char* c_vertexSource = R"(
+uniform vec2 pictureSize;
+layout(location = 0) in vec2 position;
+layout(location = 1) in vec2 texturePlace;
+out vec2 place;
+
+void main()
+{
+    place = texturePlace;
+    gl_Position = vec4(position.x / pictureSize.x * 2.0 - 1.0, 1.0 - position.y / pictureSize.y * 2.0, 0.0, 1.0);
+}
+)";
+
+constexpr const char* c_fragmentSource = R"(
+const int c_tableSize = 1024;
+
+uniform int mode;
+uniform vec4 color;
+uniform sampler1D colorTable;
+uniform sampler2D glyphs;
+in vec2 place;
+out vec4 result;
+
+void main()
+{
+    if (mode == 0) {
+        result = color;
+    } else if (mode == 1) {
+        int texel = clamp(int(place.y * float(c_tableSize)), 0, c_tableSize - 1);
+        result = vec4(texelFetch(colorTable, texel, 0).rgb, 1.0);
+    } else {
+        result = vec4(color.rgb, color.a * texelFetch(glyphs, ivec2(place), 0).r);
+    }
+}
+)";
+
+constexpr int c_plainMode = 0;
+constexpr int c_colorTableMode = 1;
+constexpr int c_glyphMode = 2;
+
+} // namespace
+
+OverlayPainter::OverlayPainter(UploadCounts& counts)
+    : m_counts(counts),
+      m_program("the overlay", c_vertexSource, c_fragmentSource),
+      m_pictureSize(m_program.place("pictureSize")),
+      m_mode(m_program.place("mode")),
+      m_color(m_program.place("color"))
+{
+    m_program.use();
+    GlProgram::set(m_program.place("colorTable"), 0);
+    GlProgram::set(m_program.place("glyphs"), 1);
+    glBindVertexArray(m_array.name());
+    glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
+    glEnableVertexAttribArray(0);
+    glVertexAttribPointer(0, 2, GL_FLOAT, GL_FALSE, sizeof(Vertex), nullptr);
+    glEnableVertexAttribArray(1);
+    glVertexAttribPointer(1, 2, GL_FLOAT, GL_FALSE, sizeof(Vertex), offsetPointer(offsetof(Vertex, s)));
+    glBindVertexArray(0);
+}
+
+void OverlayPainter::begin(int width, int height)
+{
+    glDisable(GL_DEPTH_TEST);
+    glEnable(GL_BLEND);
+    glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    m_program.use();
+    GlProgram::set(m_pictureSize, static_cast<float>(width), static_cast<float>(height));
+}
+
+void OverlayPainter::addQuad(const PixelRect& rect, const PixelRect& texture)
+{
+    addQuad({{{rect.left, rect.top, texture.left, texture.top},
+              {rect.right, rect.top, texture.right, texture.top},
+              {rect.right, rect.bottom, texture.right, texture.bottom},
+              {rect.left, rect.bottom, texture.left, texture.bottom}}});
+}
+
+void OverlayPainter::addQuad(const std::array<Vertex, 4>& corners)
+{
+    for (const std::size_t corner : {0u, 1u, 2u, 0u, 2u, 3u}) {
+        m_quads.push_back(corners[corner]);
+    }
+}
+
+void OverlayPainter::drawQuads(int mode, const Color& color)
+{
+    m_program.use();
+    GlProgram::set(m_mode, mode);
+    GlProgram::set(m_color, color);
+    glBindVertexArray(m_array.name());
+    glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
+    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(m_quads.size() * sizeof(Vertex)), m_quads.data(),
+                 GL_STREAM_DRAW);
+    glDrawArrays(GL_TRIANGLES, 0, static_cast<GLsizei>(m_quads.size()));
+    m_quads.clear();
+}
+
+void OverlayPainter::fillRect(const PixelRect& rect, const Color& color)
+{
+    addQuad(rect, {});
+    drawQuads(c_plainMode, color);
+}
+
+void OverlayPainter::strokeRect(const PixelRect& rect, const Color& color)
+{
+    addQuad({rect.left, rect.top, rect.right, rect.top + 1.0f}, {});
+    addQuad({rect.left, rect.bottom - 1.0f, rect.right, rect.bottom}, {});
+    addQuad({rect.left, rect.top, rect.left + 1.0f, rect.bottom}, {});
+    addQuad({rect.right - 1.0f, rect.top, rect.right, rect.bottom}, {});
+    drawQuads(c_plainMode, color);
+}
+
+void OverlayPainter::fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor)
+{
+    addQuad(rect, {0.0f, topColor, 0.0f, bottomColor});
+    drawQuads(c_colorTableMode, {});
+}
+
+void OverlayPainter::bindAtlas(const GlyphAtlas& atlas)
+{
+    Atlas& copy = m_atlases[&atlas];
+    glActiveTexture(GL_TEXTURE1);
+    glBindTexture(GL_TEXTURE_2D, copy.texture.name());
+    if (copy.changeId == atlas.getChangeId()) {
+        return;
+    }
+    copy.changeId = atlas.getChangeId();
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_R8, atlas.getWidth(), atlas.getHeight(), 0, GL_RED, GL_UNSIGNED_BYTE,
+                 atlas.getPixels().data());
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    ++m_counts.glyphPictures;
+}
+
+void OverlayPainter::drawText(const TextLayout& text, FontSet& fonts, float left, float top, const Color& color)
+{
+    drawGlyphs(text, fonts, color, [&](const PixelRect& rect, const PixelRect& texture) {
+        const float x = std::round(left + rect.left);
+        const float y = std::round(top + rect.top);
+        addQuad({x, y, x + rect.right - rect.left, y + rect.bottom - rect.top}, texture);
+    });
+}
+
+void OverlayPainter::drawTextUpwards(const TextLayout& text, FontSet& fonts, float left, float bottom,
+                                     const Color& color)
+{
+    drawGlyphs(text, fonts, color, [&](const PixelRect& rect, const PixelRect& texture) {
+        const float x = std::round(left + rect.top);
+        const float y = std::round(bottom - rect.left);
+        const float right = x + rect.bottom - rect.top;
+        const float upper = y - (rect.right - rect.left);
+        addQuad({{{x, y, texture.left, texture.top},
+                  {x, upper, texture.right, texture.top},
+                  {right, upper, texture.right, texture.bottom},
+                  {right, y, texture.left, texture.bottom}}});
+    });
+}
+
+template <class AddGlyph>
+void OverlayPainter::drawGlyphs(const TextLayout& text, FontSet& fonts, const Color& color, AddGlyph&& addGlyph)
+{
+    std::map<const GlyphAtlas*, std::vector<Vertex>> byAtlas;
+    for (const PlacedCharacter& placed : text.characters) {
+        const FontSet::Found found = fonts.find(placed.character, placed.style);
+        const Font::Glyph& glyph = *found.glyph;
+        if (glyph.width == 0) {
+            continue;
+        }
+        const float x = std::round(placed.x) + static_cast<float>(glyph.left);
+        const float y = std::round(placed.y) - static_cast<float>(glyph.top);
+        const auto s = static_cast<float>(glyph.atlasX);
+        const auto t = static_cast<float>(glyph.atlasY);
+        const auto width = static_cast<float>(glyph.width);
+        const auto height = static_cast<float>(glyph.height);
+        std::vector<Vertex>& quads = byAtlas[&found.font->getAtlas()];
+        m_quads.swap(quads);
+        addGlyph(PixelRect{x, y, x + width, y + height}, PixelRect{s, t, s + width, t + height});
+        m_quads.swap(quads);
+    }
+    for (auto& [atlas, quads] : byAtlas) {
+        bindAtlas(*atlas);
+        m_quads.swap(quads);
+        drawQuads(c_glyphMode, color);
+    }
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "graphics3d/foundation/color.h"
+#include "renderer/gl/globject.h"
+#include "renderer/gl/glprogram.h"
+#include "renderer/text/fontset.h"
+#include "renderer/text/textlayout.h"
+#include "renderer/upload/uploadcounts.h"
+
+#include <array>
+#include <map>
+#include <vector>
+
+namespace vxrenderer {
+
+/// A rectangle of the picture in pixels, counted from its top left corner.
+struct PixelRect {
+    float left;
+    float top;
+    float right;
+    float bottom;
+};
+
+/// Draws rectangles, colour bars and text over the picture. Whole coordinates are borders of pixels.
+class OverlayPainter {
+public:
+    explicit OverlayPainter(UploadCounts& counts);
+
+    /// Prepares for drawing into a picture of this size.
+    void begin(int width, int height);
+
+    void fillRect(const PixelRect& rect, const vxgraphics3d::Color& color);
+    /// A border of one pixel along the inner side of a rectangle.
+    void strokeRect(const PixelRect& rect, const vxgraphics3d::Color& color);
+    /// The colours of the one-dimensional texture bound to unit 0, from the bottom of the rectangle to its top.
+    void fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor);
+    /// A text with its top left corner at a place; characters stand on whole pixels.
+    void drawText(const TextLayout& text, FontSet& fonts, float left, float top, const vxgraphics3d::Color& color);
+    /// A text that runs from bottom to top; the corner is where its first line begins.
+    void drawTextUpwards(const TextLayout& text, FontSet& fonts, float left, float bottom,
+                         const vxgraphics3d::Color& color);
+
+    /// Frees the pictures of all glyphs: the fonts they belong to are gone.
+    void forgetFonts() { m_atlases.clear(); }
+
+private:
+    struct Vertex {
+        float x;
+        float y;
+        float s;
+        float t;
+    };
+
+    struct Atlas {
+        GlTexture texture;
+        int changeId = 0;
+    };
+
+    void addQuad(const PixelRect& rect, const PixelRect& texture);
+    /// Corners in a circle, the first one at the top left of its texture.
+    void addQuad(const std::array<Vertex, 4>& corners);
+    template <class AddGlyph>
+    void drawGlyphs(const TextLayout& text, FontSet& fonts, const vxgraphics3d::Color& color, AddGlyph&& addGlyph);
+    void drawQuads(int mode, const vxgraphics3d::Color& color);
+    void bindAtlas(const GlyphAtlas& atlas);
+
+    UploadCounts& m_counts;
+    GlProgram m_program;
+    GLint m_pictureSize;
+    GLint m_mode;
+    GLint m_color;
+    GlVertexArray m_array;
+    GlBuffer m_buffer;
+    std::vector<Vertex> m_quads;
+    std::map<const GlyphAtlas*, Atlas> m_atlases;
+};
+
+} // namespace vxrenderer

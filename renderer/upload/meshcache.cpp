@@ -1,0 +1,32 @@
+#include "renderer/upload/meshcache.h"
+
+#include "graphics3d/foundation/errorlog.h"
+
+#include <stdexcept>
+
+namespace vxrenderer {
+
+const Mesh* MeshCache::mesh(const boost::shared_ptr<const void>& owner, int number, const Source& source)
+{
+    Entry& entry = m_entries[{owner.get(), number}];
+    if (entry.owner.expired() || entry.changeId != source.changeId) {
+        entry.owner = owner;
+        entry.changeId = source.changeId;
+        entry.isDrawable = false;
+        try {
+            entry.mesh.load(source.vertices, source.indices);
+            entry.isDrawable = true;
+            ++m_counts.meshes;
+        } catch (const std::logic_error& fault) {
+            vxgraphics3d::logError("A mesh is not drawn: %s", fault.what());
+        }
+    }
+    return entry.isDrawable ? &entry.mesh : nullptr;
+}
+
+void MeshCache::dropLost()
+{
+    std::erase_if(m_entries, [](const auto& entry) { return entry.second.owner.expired(); });
+}
+
+} // namespace vxrenderer

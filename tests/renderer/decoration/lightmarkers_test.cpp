@@ -1,0 +1,121 @@
+#include "renderer/decoration/lightmarkers.h"
+
+#include "graphics3d/cameras/camera3d.h"
+#include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/foundation/boundingbox.h"
+#include "graphics3d/lights/directionlightsource.h"
+#include "graphics3d/lights/pointlightsource.h"
+#include "graphics3d/lights/scenelight.h"
+#include "graphics3d/lights/scenesettingslight.h"
+#include "graphics3d/lights/spotlightsource.h"
+#include "renderer/frame/appearance.h"
+#include "tests/renderer/support/testscene.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::BoundingBox;
+using vxgraphics3d::Camera3d;
+using vxgraphics3d::Color;
+using vxgraphics3d::SceneLight;
+using vxgraphics3d::Vector3f;
+
+template <class Light>
+Light& add(SceneLight& scene, int (SceneLight::*create)())
+{
+    vxgraphics3d::LightSource* light = scene.lightSource((scene.*create)());
+    light->setMarkerVisibility(true);
+    return static_cast<Light&>(*light);
+}
+
+TEST(LightMarkers, standWhereTheirLightsShineFrom)
+{
+    // (x, y, z) is at (y, z, x - 10) for the eye. Stretched, the box is a cube of 2 by 2 by 2: its radius is root 3.
+    Camera3d camera;
+    camera.lookAt({10.0f, 0.0f, 0.0f}, {-1.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 1.0f});
+    camera.setAxisViewScales(1.0f, 1.0f, 4.0f);
+    const BoundingBox box(-1.0f, 1.0f, -1.0f, 1.0f, 0.0f, 0.5f);
+    const float radius = std::sqrt(3.0f);
+    SceneLight light;
+    add<vxgraphics3d::DirectionLightSource>(light, &SceneLight::createDirectionLight)
+        .setFromDirection(true, Vector3f(0.0f, 3.0f, 4.0f));
+    add<vxgraphics3d::PointLightSource>(light, &SceneLight::createPointLight)
+        .setPosition(true, Vector3f(1.0f, 2.0f, 3.0f));
+    auto& spot = add<vxgraphics3d::SpotLightSource>(light, &SceneLight::createSpotLight);
+    spot.setPosition(false, Vector3f(1.0f, 2.0f, 3.0f));
+    spot.setAtDirection(Vector3f(0.0f, 0.0f, -1.0f));
+    spot.setSpreadAngle(2.0f * std::atan(0.75f));
+    spot.setColor(Color::fromRgb(0x123456));
+    spot.setActive(true);
+    spot.setSelected(true);
+    const auto markers = lightMarkers(light, box, camera);
+    ASSERT_EQ(markers.size(), 3u);
+    const auto expectPoint = [](const Vector3f& point, const Vector3f& expected) {
+        EXPECT_LT((point - expected).length(), 1e-4f) << point.x << ' ' << point.y << ' ' << point.z;
+    };
+    // An arrow that ends before the scene, whose middle is at (0, 1, -10).
+    const Vector3f middle(0.0f, 1.0f, -10.0f);
+    const Vector3f from(0.6f, 0.8f, 0.0f);
+    expectPoint(markers[0].lines[0].from, middle + from * (1.5f * radius));
+    expectPoint(markers[0].lines[0].to, middle + from * (1.1f * radius));
+    for (const LineSegment& arm : markers[1].lines) {
+        expectPoint((arm.from + arm.to) * 0.5f, {2.0f, 12.0f, -9.0f});
+    }
+    // The rim of the cone lies 0.4 radii off, at the angle of the light.
+    const Vector3f tip(1.0f, 2.0f, -7.0f);
+    int rims = 0;
+    for (const LineSegment& line : markers[2].lines) {
+        const Vector3f out = line.to - tip;
+        if (std::abs(out.z + 0.8f * 0.4f * radius) < 1e-4f) {
+            EXPECT_NEAR(std::hypot(out.x, out.y), 0.6f * 0.4f * radius, 1e-4f);
+            ++rims;
+        }
+    }
+    EXPECT_GE(rims, 24);
+    EXPECT_EQ(markers[0].color, Color::fromRgb(0x808080)) << "does not shine";
+    EXPECT_EQ(markers[2].color, Color::fromRgb(0x123456));
+    EXPECT_TRUE(markers[2].isSelected);
+    EXPECT_FALSE(markers[1].isSelected);
+    // A scene of one point still has signs of some size.
+    EXPECT_GT((lightMarkers(light, {0.0f, 0.0f, 0.0f, 0.0f, 0.0f, 0.0f}, camera)[0].lines[0].from -
+               Vector3f(0.0f, 0.0f, -10.0f))
+                  .length(),
+              1.0f);
+}
+
+TEST(LightMarkers, showIfTheViewAndTheLightWantIt)
+{
+    OffscreenCanvas canvas(200, 200, 1);
+    TestScene scene;
+    scene.addSquare(1, 0xffffff);
+    showFromAbove(canvas, scene);
+    canvas.getCanvas3dSettings()->addRenderMask(RenderLightMarkers);
+    auto& lamp = add<vxgraphics3d::PointLightSource>(*scene.scene->getSceneLight(), &SceneLight::createPointLight);
+    lamp.setPosition(true, Vector3f(0.5f, 0.5f, 0.2f));
+    lamp.setColor(Color::fromRgb(0xff00ff));
+    lamp.setIntensity(1.0f);
+    lamp.setActive(true);
+    scene.scene->getSceneLight()->setAmbientIntensity(1.0f);
+    auto& switches = *canvas.getSceneSettings()->getLight();
+    const auto count = [&] { return drawn(canvas).countDrawn(0, 0, 200, 200); };
+    EXPECT_EQ(count(), 0);
+    switches.setRenderLightMarkers(true);
+    const int thin = count();
+    EXPECT_GT(thin, 20);
+    EXPECT_EQ(colorAt(canvas, drawn(canvas), {0.5f, 0.5f, 0.2f}), (Rgb{255, 0, 255}));
+    lamp.setSelected(true);
+    EXPECT_GT(2 * count(), 3 * thin);
+    lamp.setMarkerVisibility(false);
+    EXPECT_EQ(count(), 0);
+    lamp.setMarkerVisibility(true);
+    canvas.getCanvas3dSettings()->removeRenderMask(RenderLightMarkers);
+    EXPECT_EQ(count(), 0);
+}
+
+} // namespace
+} // namespace vxrenderer
