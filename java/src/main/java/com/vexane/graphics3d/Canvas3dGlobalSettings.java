@@ -87,6 +87,7 @@ public final class Canvas3dGlobalSettings {
             this.settable = settable;
         }
 
+        /** {@return the number that native code stores and returns; the native that sets an action takes another} */
         @Override
         public int number() {
             return number;

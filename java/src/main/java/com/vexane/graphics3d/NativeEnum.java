@@ -3,9 +3,8 @@ package com.vexane.graphics3d;
 /**
  * An enumeration whose constants native code knows by number.
  *
- * <p>The numbers are part of the native interface. They differ within one enumeration, may have gaps, and are not the
- * numbers of the C++ enumeration, which the natives translate. Natives take and return the number, all other methods
- * the constant.
+ * <p>The numbers are part of the native interface. They are unique in their enumeration, may have gaps, and are not
+ * always those of the C++ enumeration: natives translate. Natives take and return numbers, all other methods constants.
  */
 public interface NativeEnum {
     /** {@return the number by which native code knows this constant} */
