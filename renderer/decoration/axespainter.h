@@ -41,16 +41,16 @@ public:
     AxesPainter(const Frame& frame, const View& view, int width, int height, const AxisFonts& fonts);
 
     /// What lies behind the data. The viewport is the area of the scene.
-    void drawBehind(LinePainter& painter) const;
+    void drawBehind(const LinePainter& painter) const;
     /// A trace of the grid over the data of a flat view, which would hide it altogether. The viewport is the area of
     /// the scene.
-    void drawOver(LinePainter& painter) const;
+    void drawOver(const LinePainter& painter) const;
     /// What lies around the data. The viewport is the whole picture.
-    void drawAround(LinePainter& painter) const;
+    void drawAround(const LinePainter& painter) const;
     void drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const;
 
 private:
-    void drawInArea(LinePainter& painter, const vxgraphics3d::Color& color) const;
+    void drawInArea(const LinePainter& painter, const vxgraphics3d::Color& color) const;
     void layOutGridBox(const Frame& frame, const View& view, const AxisFonts& fonts);
     void layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts);
 

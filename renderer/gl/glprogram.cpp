@@ -68,6 +68,21 @@ GlProgram::~GlProgram()
     glDeleteProgram(m_program);
 }
 
+void GlProgram::bindBlock(const char* block, GLuint binding, std::size_t size) const
+{
+    const GLuint index = glGetUniformBlockIndex(m_program, block);
+    GLint present = -1;
+    if (index != GL_INVALID_INDEX) {
+        glGetActiveUniformBlockiv(m_program, index, GL_UNIFORM_BLOCK_DATA_SIZE, &present);
+    }
+    // Drivers may leave out what the last value does not fill.
+    if (present < 0 || (static_cast<std::size_t>(present) + 15) / 16 * 16 != size) {
+        throw std::logic_error("The block " + std::string(block) + " takes " + std::to_string(present) +
+                               " bytes in the shader and " + std::to_string(size) + " in its record.");
+    }
+    glUniformBlockBinding(m_program, index, binding);
+}
+
 void GlProgram::set(GLint place, const vxgraphics3d::Matrixf& matrix)
 {
     glUniformMatrix4fv(place, 1, GL_FALSE, matrix.data());

@@ -5,6 +5,7 @@
 #include <epoxy/gl.h>
 
 #include <array>
+#include <cstddef>
 #include <span>
 
 namespace vxgraphics3d {
@@ -25,6 +26,11 @@ public:
     GlProgram& operator=(const GlProgram&) = delete;
 
     void use() const { glUseProgram(m_program); }
+
+    /// Lets the program read a uniform block from a binding point.
+    /// @param size bytes of the record that is written there
+    /// @throws std::logic_error if the program has no such block, or one of another size
+    void bindBlock(const char* block, GLuint binding, std::size_t size) const;
 
     /// Values of uniforms, by their place; -1, the place of one that the compiler has dropped, does nothing.
     GLint place(const char* uniform) const { return glGetUniformLocation(m_program, uniform); }
