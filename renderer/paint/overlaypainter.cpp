@@ -76,9 +76,7 @@ OverlayPainter::OverlayPainter(UploadCounts& counts)
                 (std::string(c_block) + c_fragmentMain).c_str())
 {
     m_block.attach(m_program);
-    m_program.use();
-    GlProgram::set(m_program.place("colorTable"), 0);
-    GlProgram::set(m_program.place("glyphs"), 1);
+    m_program.setSampler("glyphs", 1);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glEnableVertexAttribArray(0);

@@ -54,8 +54,8 @@ private:
     using Entries = std::map<std::pair<const void*, int>, Entry<Upload>>;
 
     template <class Upload, class Load>
-    static const Upload* get(Entries<Upload>& entries, const boost::shared_ptr<const void>& owner, int number,
-                             int changeId, int& count, Load&& load);
+    const Upload* get(Entries<Upload>& entries, const boost::shared_ptr<const void>& owner, int number,
+                             int changeId, Load&& load);
 
     UploadCounts& m_counts;
     Entries<Mesh> m_meshes;
