@@ -14,9 +14,9 @@ const Upload* UploadCache::get(Entries<Upload>& entries, const boost::shared_ptr
                                int changeId, Load&& load)
 {
     Entry<Upload>& entry = entries[{owner.get(), number}];
-    if (entry.owner.expired() || entry.changeId != changeId) {
+    const bool isChanged = entry.lastChangeId.take(changeId);
+    if (entry.owner.expired() || isChanged) {
         entry.owner = owner;
-        entry.changeId = changeId;
         entry.isDrawable = false;
         try {
             load(entry.upload);
@@ -38,15 +38,13 @@ const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int nu
 const LineMesh* UploadCache::lines(const boost::shared_ptr<const void>& owner, int number, int changeId,
                                    const VertexBuffer& vertices, const IndexBuffer& indices)
 {
-    return get(m_lines, owner, number, changeId,
-               [&](LineMesh& lines) { lines.load(vertices, indices); });
+    return get(m_lines, owner, number, changeId, [&](LineMesh& lines) { lines.load(vertices, indices); });
 }
 
 const InstanceBuffer* UploadCache::instances(const boost::shared_ptr<const void>& owner, int number, int changeId,
                                              const std::function<std::vector<Instance>()>& make)
 {
-    return get(m_instances, owner, number, changeId,
-               [&](InstanceBuffer& instances) { instances.load(make()); });
+    return get(m_instances, owner, number, changeId, [&](InstanceBuffer& instances) { instances.load(make()); });
 }
 
 void UploadCache::dropLost()
