@@ -179,8 +179,7 @@ protected:
     TestScene m_scene;
     boost::shared_ptr<FakePlot> m_plot =
         boost::make_shared<FakePlot>(1, vxgraphics3d::SceneGraphPlot::PlotType::mesh3d);
-    boost::shared_ptr<vxgraphics3d::Canvas3dSettings> m_settings =
-        boost::make_shared<vxgraphics3d::Canvas3dSettings>();
+    boost::shared_ptr<vxgraphics3d::Canvas3dSettings> m_settings = boost::make_shared<vxgraphics3d::Canvas3dSettings>();
     boost::shared_ptr<SceneView> m_view = SceneView::connect(m_scene.scene);
     TestPlotPainter::Draw m_drawPlot = [](const auto&, const auto&) {};
     TestObjectPainter::Draw m_drawObject = [](const auto&, const auto&) {};
@@ -420,9 +419,9 @@ TEST_F(PaintersTest, unknownPrimitivesAreReportedOnceAndNotDrawn)
     const vxgraphics3d::CapturedLog log(vxgraphics3d::ErrorLog::Level::error);
     picture();
     EXPECT_EQ(colorsOf(picture()), std::set<Rgb>{c_white});
-    EXPECT_EQ(log.messages(), (std::vector<std::string>{
-                                  "A mesh is not drawn: Elements of type 0 cannot be drawn as triangles.",
-                                  "A mesh is not drawn: Elements of type 2 cannot be drawn as lines."}));
+    EXPECT_EQ(log.messages(),
+              (std::vector<std::string>{"A mesh is not drawn: Elements of type 0 cannot be drawn as triangles.",
+                                        "A mesh is not drawn: Elements of type 2 cannot be drawn as lines."}));
     EXPECT_EQ(m_renderer.getUploadCounts().meshes, 0);
 }
 
