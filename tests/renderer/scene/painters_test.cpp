@@ -378,7 +378,6 @@ TEST_F(PaintersTest, objectsAreDrawnBesidePlotsUnderActiveNodesAndByTheirMask)
     const auto drawSquare = [&](const auto& owner, const PaintContext& context, float height, const Color& color) {
         Look look = {context.view.sceneToEye, Material::of(color)};
         look.toEye.translate(0.0f, 0.0f, height);
-        look.material.color[3] = context.opacity;
         context.drawMesh(context.uploads.mesh(owner, 0, 1, square.vertices, square.triangles), look);
     };
     float objectHeight = 0.5f;
