@@ -189,7 +189,8 @@ void OffscreenCanvas::zoomExtents()
     }
     const BoundingBox box = m_sceneView->getScene()->getBoundingBox();
     const Appearance look = appearance();
-    const SceneArea area = m_renderer->layOut(frameOf(m_settings->cameraTransforms(), look), getWidth(), getHeight());
+    const SceneArea area =
+        m_renderer->layOut(frameOf(m_settings->cameraTransforms(), look), getWidth(), getHeight()).area;
     if (area.whole.isEmpty()) {
         return;
     }
@@ -213,7 +214,8 @@ void OffscreenCanvas::draw()
     }
     m_isDrawn = false;
     const Appearance look = appearance();
-    m_renderer->draw(frameOf(m_settings->cameraTransforms(), look), *m_target);
+    const Frame frame = frameOf(m_settings->cameraTransforms(), look);
+    m_renderer->draw(frame, m_renderer->layOut(frame, getWidth(), getHeight()), *m_target);
     m_view = m_renderer->getView();
     if (m_sceneView) {
         m_sceneView->getSettings().resetChangedFlags();
@@ -258,9 +260,11 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     // A camera that takes another size may not find back to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;
-        m_renderer->layOut(frameOf(copy, look), width, height);
+        const Frame frame = frameOf(copy, look);
+        FrameLayout layout = m_renderer->layOut(frame, width, height);
         showTheSame(copy, camera);
-        m_renderer->draw(frameOf(copy, look), target);
+        SceneRenderer::placeScene(frame, layout);
+        m_renderer->draw(frame, layout, target);
     };
     if (m_settings->getRenderMode() == Canvas3dSettings::RenderMode2d) {
         drawWithCopy(*m_settings->getCamera2d());

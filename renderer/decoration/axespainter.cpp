@@ -52,7 +52,7 @@ GridBoxInput gridBoxInput(const Frame& frame)
 
 /// Draws lines in one colour, first the faint ones.
 void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int width, int height, float lineWidth,
-               const Color& color, LinePainter& painter)
+               const Color& color, const LinePainter& painter)
 {
     for (const bool isMinor : {true, false}) {
         std::vector<LineSegment> segments;
@@ -64,20 +64,20 @@ void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int wi
         }
         Color faint = color;
         faint.alpha = isMinor ? color.alpha * c_minorAlpha / 255 : color.alpha;
-        painter.draw(segments, toClip, width, height, lineWidth, faint);
+        painter.draw(segments, {toClip, width, height, lineWidth}, faint);
     }
 }
 
 } // namespace
 
-SceneArea divideRoom(const Frame& frame, const PixelArea& room, int width, int height, const AxisFonts& fonts)
+SceneArea divideSpace(const Frame& frame, const PixelArea& space, int width, int height, const AxisFonts& fonts)
 {
-    SceneArea area = {room, room};
+    SceneArea area = {space, space};
     if (frame.isFlat()) {
         if (frame.appearance.showAxes) {
-            area.whole = axes2dArea(axes2dInput(frame, width, height), room, fonts.metrics());
+            area.whole = axes2dArea(axes2dInput(frame, width, height), space, fonts.metrics());
         } else if (frame.isPolar()) {
-            area.whole = centeredSquare(room);
+            area.whole = centeredSquare(space);
         }
         area.inner = area.whole;
     } else if (frame.appearance.showAxes) {
@@ -125,12 +125,12 @@ void AxesPainter::layOutAxes2d(const Frame& frame, const View& view, const AxisF
     m_labels = std::move(layout.labels);
 }
 
-void AxesPainter::drawBehind(LinePainter& painter) const
+void AxesPainter::drawBehind(const LinePainter& painter) const
 {
     drawInArea(painter, m_gridColor);
 }
 
-void AxesPainter::drawOver(LinePainter& painter) const
+void AxesPainter::drawOver(const LinePainter& painter) const
 {
     if (m_view.isFlat) {
         Color trace = m_gridColor;
@@ -139,7 +139,7 @@ void AxesPainter::drawOver(LinePainter& painter) const
     }
 }
 
-void AxesPainter::drawInArea(LinePainter& painter, const Color& color) const
+void AxesPainter::drawInArea(const LinePainter& painter, const Color& color) const
 {
     Matrixf toClip = m_view.projection * m_view.sceneToEye;
     if (m_view.isFlat) {
@@ -151,7 +151,7 @@ void AxesPainter::drawInArea(LinePainter& painter, const Color& color) const
     drawLines(m_behind, toClip, m_view.area.width, m_view.area.height, c_lineWidth * m_scale, color, painter);
 }
 
-void AxesPainter::drawAround(LinePainter& painter) const
+void AxesPainter::drawAround(const LinePainter& painter) const
 {
     drawLines(m_around, pixelsToClip(m_width, m_height), m_width, m_height, c_lineWidth * m_scale,
               m_view.isFlat ? m_labelColor : m_gridColor, painter);

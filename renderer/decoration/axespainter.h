@@ -25,13 +25,14 @@ struct AxisFonts {
 struct SceneArea {
     /// What the camera draws to.
     PixelArea whole;
-    /// The part of it that a box may fill so that the labels around it find room. A 2D view has its labels outside.
+    /// The part of it that a box may fill so that there is space for the labels around it. A 2D view has its labels
+    /// outside.
     PixelArea inner;
 };
 
-/// Divides the room that a picture leaves for a scene and its axes.
+/// Divides the space that a picture leaves for a scene and its axes.
 /// @param width,height of the whole picture
-SceneArea divideRoom(const Frame& frame, const PixelArea& room, int width, int height, const AxisFonts& fonts);
+SceneArea divideSpace(const Frame& frame, const PixelArea& space, int width, int height, const AxisFonts& fonts);
 
 /// The grid box of a 3D view or the axes of a 2D one, laid out for one frame and drawn in three steps.
 class AxesPainter {
@@ -41,16 +42,16 @@ public:
     AxesPainter(const Frame& frame, const View& view, int width, int height, const AxisFonts& fonts);
 
     /// What lies behind the data. The viewport is the area of the scene.
-    void drawBehind(LinePainter& painter) const;
+    void drawBehind(const LinePainter& painter) const;
     /// A trace of the grid over the data of a flat view, which would hide it altogether. The viewport is the area of
     /// the scene.
-    void drawOver(LinePainter& painter) const;
+    void drawOver(const LinePainter& painter) const;
     /// What lies around the data. The viewport is the whole picture.
-    void drawAround(LinePainter& painter) const;
+    void drawAround(const LinePainter& painter) const;
     void drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const;
 
 private:
-    void drawInArea(LinePainter& painter, const vxgraphics3d::Color& color) const;
+    void drawInArea(const LinePainter& painter, const vxgraphics3d::Color& color) const;
     void layOutGridBox(const Frame& frame, const View& view, const AxisFonts& fonts);
     void layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts);
 

@@ -1,21 +1,22 @@
 #pragma once
 
-#include "renderer/decoration/legendscale.h"
-#include "renderer/paint/overlaypainter.h"
+#include "graphics3d/foundation/color.h"
 #include "renderer/plots/plotpainter.h"
-#include "renderer/text/fontset.h"
-#include "renderer/text/textlayout.h"
 
-#include <vector>
+#include <memory>
 
 namespace vxrenderer {
 
-/// Fonts, colour and details that all legends of a picture share.
+class ColorTextures;
+class FontSet;
+class OverlayPainter;
+
+/// Fonts, colour and details of all legends of a picture.
 struct LegendStyle {
     FontSet& titleFonts;
     FontSet& tickFonts;
     vxgraphics3d::Color color;
-    /// Whether the smallest and the largest value of the data stand below and above the bar.
+    /// Whether the smallest and the largest value of the data appear below and above the bar.
     bool showMinMax = false;
     bool showTitle = true;
     /// Significant digits of numbers beside the bar, and of the smallest and the largest value.
@@ -23,41 +24,27 @@ struct LegendStyle {
     int minMaxDigits = 5;
 };
 
-/// The colour legend of one plot: a bar with the part of the colour table that is in use, round values beside it, and
-/// above it the title of the plot and the power of ten that the values have to be multiplied by.
+/// The legend of one plot, beside the scene.
 ///
-/// It is laid out first, which tells how much room it takes, and drawn afterwards.
+/// It is laid out first, which gives the space that it takes, and drawn afterwards.
 class Legend {
 public:
-    /// @param maxWidth what title lines may take before they are broken
-    /// @param height room from the top of the title to the bottom of the bar
-    Legend(const PlotItem& item, const LegendStyle& style, float maxWidth, float height);
+    virtual ~Legend() = default;
 
-    float getWidth() const { return m_width; }
-    /// Room for the lines above the bar. Legends that stand side by side take the largest of them, so that their bars
+    virtual float getWidth() const = 0;
+    /// Space for the lines above the colours. Legends side by side take the largest of them, so that their colours
     /// begin at one height.
-    float getHeadHeight() const { return m_headHeight; }
+    virtual float getHeadHeight() const = 0;
 
-    void draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left, float top,
-              float headHeight) const;
-
-private:
-    struct Label {
-        TextLayout text;
-        /// 0 at the lower end of the bar, 1 at its upper end.
-        double height;
-    };
-
-    PlotItem m_item;
-    LegendScale m_scale;
-    float m_height;
-    float m_width = 0.0f;
-    float m_headHeight = 0.0f;
-    TextLayout m_title;
-    TextLayout m_power;
-    TextLayout m_largest;
-    TextLayout m_smallest;
-    std::vector<Label> m_labels;
+    /// @param style the one that it was laid out with
+    virtual void draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left, float top,
+                      float headHeight) const = 0;
 };
+
+/// Lays out the legend of a plot that shows its colours, see `hasColorLegend`. A new kind of legend is a class and a
+/// line here.
+/// @param maxWidth what title lines may take before they are broken
+/// @param height from the top of the title to the bottom of the colours
+std::unique_ptr<Legend> makeLegend(const PlotItem& item, const LegendStyle& style, float maxWidth, float height);
 
 } // namespace vxrenderer

@@ -39,10 +39,10 @@ TriadPainter::TriadPainter(const Frame& frame, const View& view) : m_letterColor
                         static_cast<float>(view.area.y + view.area.height) - reach, length, c_letterGap * letterSize);
 }
 
-void TriadPainter::drawAxes(LinePainter& painter, int width, int height) const
+void TriadPainter::drawAxes(const LinePainter& painter, int width, int height) const
 {
     for (const Triad::Axis& axis : m_triad.axes) {
-        painter.draw(axis.lines, pixelsToClip(width, height), width, height, m_lineWidth, m_colors[axis.index]);
+        painter.draw(axis.lines, {pixelsToClip(width, height), width, height, m_lineWidth}, m_colors[axis.index]);
     }
 }
 

@@ -20,7 +20,7 @@ public:
     TriadPainter(const Frame& frame, const View& view);
 
     /// The viewport is the whole picture.
-    void drawAxes(LinePainter& painter, int width, int height) const;
+    void drawAxes(const LinePainter& painter, int width, int height) const;
     void drawLetters(OverlayPainter& painter, FontSet& letters) const;
 
 private:

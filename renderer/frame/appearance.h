@@ -27,6 +27,7 @@ enum RenderMask : unsigned {
     RenderTitle = 0x10,
     RenderLightMarkers = 0x20,
     RenderBackground = 0x40,
+    RenderObjects = 0x80,
 };
 
 /// What a picture shows besides the plots, and in which fonts and colours.

@@ -1,7 +1,5 @@
 #include "renderer/gl/glprogram.h"
 
-#include "graphics3d/foundation/matrixf.h"
-
 #include <stdexcept>
 #include <string>
 
@@ -68,22 +66,25 @@ GlProgram::~GlProgram()
     glDeleteProgram(m_program);
 }
 
-void GlProgram::set(GLint place, const vxgraphics3d::Matrixf& matrix)
+void GlProgram::bindBlock(const char* block, GLuint binding, std::size_t size) const
 {
-    glUniformMatrix4fv(place, 1, GL_FALSE, matrix.data());
-}
-
-void GlProgram::set(GLint place, const vxgraphics3d::Color& color)
-{
-    const auto channel = [](int value) { return static_cast<float>(value) / 255.0f; };
-    set(place, channel(color.red), channel(color.green), channel(color.blue), channel(color.alpha));
-}
-
-void GlProgram::set(GLint place, std::span<const std::array<float, 4>> values)
-{
-    if (!values.empty()) {
-        glUniform4fv(place, static_cast<GLsizei>(values.size()), values.front().data());
+    const GLuint index = glGetUniformBlockIndex(m_program, block);
+    GLint present = -1;
+    if (index != GL_INVALID_INDEX) {
+        glGetActiveUniformBlockiv(m_program, index, GL_UNIFORM_BLOCK_DATA_SIZE, &present);
     }
+    // Drivers may leave out what the last value does not fill.
+    if (present < 0 || (static_cast<std::size_t>(present) + 15) / 16 * 16 != size) {
+        throw std::logic_error("The block " + std::string(block) + " takes " + std::to_string(present) +
+                               " bytes in the shader and " + std::to_string(size) + " in its record.");
+    }
+    glUniformBlockBinding(m_program, index, binding);
+}
+
+void GlProgram::setSampler(const char* sampler, GLint unit) const
+{
+    use();
+    glUniform1i(glGetUniformLocation(m_program, sampler), unit);
 }
 
 } // namespace vxrenderer

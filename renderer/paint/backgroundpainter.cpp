@@ -2,9 +2,13 @@
 
 #include "graphics3d/canvas/canvasbackgroundimage.h"
 #include "graphics3d/foundation/image.h"
+#include "renderer/paint/material.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
+#include <string>
 
 namespace vxrenderer {
 namespace {
@@ -12,9 +16,18 @@ namespace {
 using vxgraphics3d::CanvasBackgroundImage;
 using vxgraphics3d::Image;
 
-// A rectangle of clip coordinates; the place within it runs from 0 at the top left to 1 at the bottom right.
-constexpr const char* c_vertexSource = R"(
-uniform vec4 corners;
+// Corners are clip coordinates; the place between them runs from 0 at the top left to 1 at the bottom right.
+constexpr const char* c_block = R"(
+layout(std140) uniform Background {
+    vec4 corners;
+    vec4 topColor;
+    vec4 bottomColor;
+    vec2 imagePart;
+    bool hasImage;
+};
+)";
+
+constexpr const char* c_vertexMain = R"(
 out vec2 place;
 
 void main()
@@ -25,11 +38,7 @@ void main()
 )";
 
 // Colours between two texels at the rim of the image must not take in the empty part of the texture beyond it.
-constexpr const char* c_fragmentSource = R"(
-uniform vec4 topColor;
-uniform vec4 bottomColor;
-uniform bool hasImage;
-uniform vec2 imagePart;
+constexpr const char* c_fragmentMain = R"(
 uniform sampler2D image;
 in vec2 place;
 out vec4 result;
@@ -72,14 +81,24 @@ void load(const CanvasBackgroundImage& image)
 
 } // namespace
 
+struct BackgroundPainter::BackgroundBlock {
+    static constexpr const char* c_block = "Background";
+    static constexpr GLuint c_binding = 5;
+
+    std::array<float, 4> corners{-1.0f, 1.0f, 1.0f, -1.0f};
+    std::array<float, 4> topColor{};
+    std::array<float, 4> bottomColor{};
+    std::array<float, 2> imagePart{};
+    std::int32_t hasImage = 0;
+    std::int32_t unused = 0;
+};
+
 BackgroundPainter::BackgroundPainter()
-    : m_program("the background", c_vertexSource, c_fragmentSource),
-      m_corners(m_program.place("corners")),
-      m_topColor(m_program.place("topColor")),
-      m_bottomColor(m_program.place("bottomColor")),
-      m_hasImage(m_program.place("hasImage")),
-      m_imagePart(m_program.place("imagePart"))
-{}
+    : m_program("the background", (std::string(c_block) + c_vertexMain).c_str(),
+                (std::string(c_block) + c_fragmentMain).c_str())
+{
+    m_block.attach(m_program);
+}
 
 void BackgroundPainter::draw(const Appearance::Backdrop& backdrop, int width, int height, float scale) const
 {
@@ -87,10 +106,7 @@ void BackgroundPainter::draw(const Appearance::Backdrop& backdrop, int width, in
     glDisable(GL_BLEND);
     m_program.use();
     glBindVertexArray(m_array.name());
-    GlProgram::set(m_corners, -1.0f, 1.0f, 1.0f, -1.0f);
-    GlProgram::set(m_topColor, backdrop.top);
-    GlProgram::set(m_bottomColor, backdrop.bottom);
-    GlProgram::set(m_hasImage, 0);
+    m_block.set({.topColor = channelsOf(backdrop.top), .bottomColor = channelsOf(backdrop.bottom)});
     glDrawArrays(GL_TRIANGLE_STRIP, 0, 4);
     const CanvasBackgroundImage* image = backdrop.image.get();
     if (image != nullptr && image->wasImageSet() && image->getImage(image->getMinLevel()) != nullptr) {
@@ -120,9 +136,9 @@ void BackgroundPainter::drawImage(const Appearance::Backdrop& backdrop, int widt
 
     glEnable(GL_BLEND);
     glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
-    GlProgram::set(m_corners, clipX(left), clipY(top), clipX(left + imageWidth), clipY(top + imageHeight));
-    GlProgram::set(m_hasImage, 1);
-    GlProgram::set(m_imagePart, image.getWidthFraction(), image.getHeightFraction());
+    m_block.set({.corners = {clipX(left), clipY(top), clipX(left + imageWidth), clipY(top + imageHeight)},
+                 .imagePart = {image.getWidthFraction(), image.getHeightFraction()},
+                 .hasImage = 1});
     glDrawArrays(GL_TRIANGLE_STRIP, 0, 4);
     glDisable(GL_BLEND);
 }

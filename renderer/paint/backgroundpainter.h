@@ -3,6 +3,7 @@
 #include "renderer/frame/appearance.h"
 #include "renderer/gl/globject.h"
 #include "renderer/gl/glprogram.h"
+#include "renderer/upload/uniformblock.h"
 
 namespace vxrenderer {
 
@@ -17,14 +18,12 @@ public:
     void draw(const Appearance::Backdrop& backdrop, int width, int height, float scale) const;
 
 private:
+    struct BackgroundBlock;
+
     void drawImage(const Appearance::Backdrop& backdrop, int width, int height, float scale) const;
 
     GlProgram m_program;
-    GLint m_corners;
-    GLint m_topColor;
-    GLint m_bottomColor;
-    GLint m_hasImage;
-    GLint m_imagePart;
+    UniformBlock<BackgroundBlock> m_block;
     GlVertexArray m_array;
     GlTexture m_texture;
 };

@@ -1,8 +1,10 @@
 #include "renderer/paint/linepainter.h"
 
-#include "graphics3d/foundation/matrixf.h"
+#include "renderer/upload/linemesh.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <string>
 
 namespace vxrenderer {
 namespace {
@@ -10,11 +12,17 @@ namespace {
 // The part of a line before the near plane is cut off here: its ends are moved aside by pixels, and what lies behind
 // the eye has no place on the screen.
 constexpr const char* c_vertexSource = R"(
-uniform mat4 toClip;
-uniform vec2 viewport;
-uniform float lineWidth;
+layout(std140) uniform Line {
+    mat4 toClip;
+    vec2 viewport;
+    float lineWidth;
+    // How far the ends reach beyond the points, in units of half the width.
+    float reach;
+};
 layout(location = 0) in vec3 from;
 layout(location = 1) in vec3 to;
+layout(location = 2) in vec2 texturePlaces;
+centroid out float u;
 
 void main()
 {
@@ -22,73 +30,106 @@ void main()
     vec4 b = toClip * vec4(to, 1.0);
     float depthA = a.z + a.w;
     float depthB = b.z + b.w;
+    vec2 places = texturePlaces;
     if (depthA < 0.0 && depthB < 0.0) {
+        u = 0.0;
         gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
         return;
     }
     if (depthA < 0.0) {
-        a = mix(a, b, depthA / (depthA - depthB));
+        float part = depthA / (depthA - depthB);
+        a = mix(a, b, part);
+        places.x = mix(places.x, places.y, part);
     } else if (depthB < 0.0) {
-        b = mix(b, a, depthB / (depthB - depthA));
+        float part = depthB / (depthB - depthA);
+        b = mix(b, a, part);
+        places.y = mix(places.y, places.x, part);
     }
     vec2 along = (b.xy / b.w - a.xy / a.w) * viewport;
-    float reach = length(along);
-    along = reach > 0.0 ? along / reach : vec2(1.0, 0.0);
+    float size = length(along);
+    along = size > 0.0 ? along / size : vec2(1.0, 0.0);
     vec2 side = vec2(-along.y, along.x);
     bool isEnd = gl_VertexID > 1;
     vec4 place = isEnd ? b : a;
     vec2 offset = (gl_VertexID & 1) == 0 ? side : -side;
-    offset += isEnd ? along : -along;
+    offset += reach * (isEnd ? along : -along);
+    u = isEnd ? places.y : places.x;
     place.xy += lineWidth * offset / viewport * place.w;
     gl_Position = place;
 }
 )";
 
-constexpr const char* c_fragmentSource = R"(
-uniform vec4 color;
+constexpr const char* c_fragmentMain = R"(
+centroid in float u;
 out vec4 result;
 
 void main()
 {
-    result = color;
+    if (isHidden(u)) {
+        discard;
+    }
+    result = vec4(materialColor(u), uniformColor.a);
 }
 )";
 
 } // namespace
 
+struct LinePainter::LineBlock {
+    static constexpr const char* c_block = "Line";
+    static constexpr GLuint c_binding = 4;
+
+    std::array<float, 16> toClip;
+    std::array<float, 2> viewport;
+    float lineWidth;
+    float reach;
+};
+
 LinePainter::LinePainter()
-    : m_program("lines", c_vertexSource, c_fragmentSource),
-      m_toClip(m_program.place("toClip")),
-      m_viewport(m_program.place("viewport")),
-      m_lineWidth(m_program.place("lineWidth")),
-      m_color(m_program.place("color"))
+    : m_program("lines", c_vertexSource, (std::string(Material::c_source) + c_fragmentMain).c_str())
 {
+    m_line.attach(m_program);
+    m_material.attach(m_program);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
-    constexpr std::ptrdiff_t offsets[] = {offsetof(LineSegment, from), offsetof(LineSegment, to)};
-    for (GLuint place = 0; place < 2; ++place) {
-        glEnableVertexAttribArray(place);
-        glVertexAttribPointer(place, 3, GL_FLOAT, GL_FALSE, sizeof(LineSegment), offsetPointer(offsets[place]));
-        glVertexAttribDivisor(place, 1);
-    }
+    const auto describe = [](LineMesh::Attribute attribute, std::ptrdiff_t offset) {
+        const auto location = static_cast<GLuint>(attribute);
+        glEnableVertexAttribArray(location);
+        glVertexAttribPointer(location, 3, GL_FLOAT, GL_FALSE, sizeof(LineSegment), offsetPointer(offset));
+        glVertexAttribDivisor(location, 1);
+    };
+    describe(LineMesh::Attribute::from, offsetof(LineSegment, from));
+    describe(LineMesh::Attribute::to, offsetof(LineSegment, to));
     glBindVertexArray(0);
 }
 
-void LinePainter::draw(std::span<const LineSegment> lines, const vxgraphics3d::Matrixf& toClip, int width, int height,
-                       float lineWidth, const vxgraphics3d::Color& color)
+void LinePainter::setUp(const Frame& frame, const Material& material, bool isClosed) const
+{
+    LineBlock block{};
+    std::copy_n(frame.toClip.data(), block.toClip.size(), block.toClip.begin());
+    block.viewport = {static_cast<float>(frame.width), static_cast<float>(frame.height)};
+    block.lineWidth = frame.lineWidth;
+    block.reach = isClosed ? 1.0f : 0.0f;
+    m_program.use();
+    m_line.set(block);
+    m_material.set(material);
+}
+
+void LinePainter::draw(std::span<const LineSegment> lines, const Frame& frame, const vxgraphics3d::Color& color) const
 {
     if (lines.empty()) {
         return;
     }
-    m_program.use();
-    GlProgram::set(m_toClip, toClip);
-    GlProgram::set(m_viewport, static_cast<float>(width), static_cast<float>(height));
-    GlProgram::set(m_lineWidth, lineWidth);
-    GlProgram::set(m_color, color);
+    setUp(frame, Material::of(color), true);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(lines.size_bytes()), lines.data(), GL_STREAM_DRAW);
     glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, static_cast<GLsizei>(lines.size()));
+}
+
+void LinePainter::draw(const LineMesh& lines, const Frame& frame, const Material& material) const
+{
+    setUp(frame, material, !material.isTranslucent());
+    lines.draw();
 }
 
 vxgraphics3d::Matrixf pixelsToClip(int width, int height)

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "graphics3d/foundation/color.h"
+#include "graphics3d/foundation/matrixf.h"
 #include "graphics3d/foundation/vector3f.h"
 #include "renderer/gl/globject.h"
 #include "renderer/gl/glprogram.h"
+#include "renderer/paint/material.h"
+#include "renderer/upload/uniformblock.h"
 
 #include <span>
 
-namespace vxgraphics3d {
-class Matrixf;
-}
-
 namespace vxrenderer {
+
+class LineMesh;
 
 /// A straight line between two points.
 struct LineSegment {
@@ -23,20 +23,33 @@ struct LineSegment {
 /// eye.
 class LinePainter {
 public:
+    /// Where lines go, and how wide they are.
+    struct Frame {
+        /// From the points to the present viewport.
+        vxgraphics3d::Matrixf toClip;
+        /// Size of the viewport in pixels.
+        int width;
+        int height;
+        /// In pixels. The ends of opaque lines reach half of it beyond the points, so that joints are closed; those of
+        /// translucent lines do not, so that joints are not blended twice.
+        float lineWidth;
+    };
+
     LinePainter();
 
-    /// @param toClip from the points to the present viewport
-    /// @param width,height of the viewport in pixels
-    /// @param lineWidth in pixels; the ends reach half of it beyond the points
-    void draw(std::span<const LineSegment> lines, const vxgraphics3d::Matrixf& toClip, int width, int height,
-              float lineWidth, const vxgraphics3d::Color& color);
+    /// Draws lines that are copied for this call.
+    void draw(std::span<const LineSegment> lines, const Frame& frame, const vxgraphics3d::Color& color) const;
+    /// Draws lines that stay on the graphics hardware.
+    void draw(const LineMesh& lines, const Frame& frame, const Material& material) const;
 
 private:
+    struct LineBlock;
+
+    void setUp(const Frame& frame, const Material& material, bool isClosed) const;
+
     GlProgram m_program;
-    GLint m_toClip;
-    GLint m_viewport;
-    GLint m_lineWidth;
-    GLint m_color;
+    UniformBlock<LineBlock> m_line;
+    UniformBlock<Material> m_material;
     GlVertexArray m_array;
     GlBuffer m_buffer;
 };

@@ -1,15 +1,27 @@
 #include "renderer/paint/overlaypainter.h"
 
+#include "renderer/paint/material.h"
+
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
+#include <string>
 
 namespace vxrenderer {
 namespace {
 
 using vxgraphics3d::Color;
 
-constexpr const char* c_vertexSource = R"(
-uniform vec2 pictureSize;
+constexpr const char* c_block = R"(
+layout(std140) uniform Overlay {
+    vec4 color;
+    vec2 pictureSize;
+    int mode;
+    float depth;
+};
+)";
+
+constexpr const char* c_vertexMain = R"(
 layout(location = 0) in vec2 position;
 layout(location = 1) in vec2 texturePlace;
 out vec2 place;
@@ -17,15 +29,13 @@ out vec2 place;
 void main()
 {
     place = texturePlace;
-    gl_Position = vec4(position.x / pictureSize.x * 2.0 - 1.0, 1.0 - position.y / pictureSize.y * 2.0, 0.0, 1.0);
+    gl_Position = vec4(position.x / pictureSize.x * 2.0 - 1.0, 1.0 - position.y / pictureSize.y * 2.0, depth, 1.0);
 }
 )";
 
-constexpr const char* c_fragmentSource = R"(
+constexpr const char* c_fragmentMain = R"(
 const int c_tableSize = 1024;
 
-uniform int mode;
-uniform vec4 color;
 uniform sampler1D colorTable;
 uniform sampler2D glyphs;
 in vec2 place;
@@ -50,16 +60,23 @@ constexpr int c_glyphMode = 2;
 
 } // namespace
 
+struct OverlayPainter::OverlayBlock {
+    static constexpr const char* c_block = "Overlay";
+    static constexpr GLuint c_binding = 5;
+
+    std::array<float, 4> color;
+    std::array<float, 2> pictureSize;
+    std::int32_t mode;
+    float depth;
+};
+
 OverlayPainter::OverlayPainter(UploadCounts& counts)
     : m_counts(counts),
-      m_program("the overlay", c_vertexSource, c_fragmentSource),
-      m_pictureSize(m_program.place("pictureSize")),
-      m_mode(m_program.place("mode")),
-      m_color(m_program.place("color"))
+      m_program("the overlay", (std::string(c_block) + c_vertexMain).c_str(),
+                (std::string(c_block) + c_fragmentMain).c_str())
 {
-    m_program.use();
-    GlProgram::set(m_program.place("colorTable"), 0);
-    GlProgram::set(m_program.place("glyphs"), 1);
+    m_block.attach(m_program);
+    m_program.setSampler("glyphs", 1);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glEnableVertexAttribArray(0);
@@ -74,8 +91,8 @@ void OverlayPainter::begin(int width, int height)
     glDisable(GL_DEPTH_TEST);
     glEnable(GL_BLEND);
     glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
-    m_program.use();
-    GlProgram::set(m_pictureSize, static_cast<float>(width), static_cast<float>(height));
+    m_width = static_cast<float>(width);
+    m_height = static_cast<float>(height);
 }
 
 void OverlayPainter::addQuad(const PixelRect& rect, const PixelRect& texture)
@@ -93,11 +110,10 @@ void OverlayPainter::addQuad(const std::array<Vertex, 4>& corners)
     }
 }
 
-void OverlayPainter::drawQuads(int mode, const Color& color)
+void OverlayPainter::drawQuads(int mode, const Color& color, float depth)
 {
     m_program.use();
-    GlProgram::set(m_mode, mode);
-    GlProgram::set(m_color, color);
+    m_block.set({channelsOf(color), {m_width, m_height}, mode, depth});
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(m_quads.size() * sizeof(Vertex)), m_quads.data(),
@@ -143,9 +159,10 @@ void OverlayPainter::bindAtlas(const GlyphAtlas& atlas)
     ++m_counts.glyphPictures;
 }
 
-void OverlayPainter::drawText(const TextLayout& text, FontSet& fonts, float left, float top, const Color& color)
+void OverlayPainter::drawText(const TextLayout& text, FontSet& fonts, float left, float top, const Color& color,
+                              float depth)
 {
-    drawGlyphs(text, fonts, color, [&](const PixelRect& rect, const PixelRect& texture) {
+    drawGlyphs(text, fonts, color, depth, [&](const PixelRect& rect, const PixelRect& texture) {
         const float x = std::round(left + rect.left);
         const float y = std::round(top + rect.top);
         addQuad({x, y, x + rect.right - rect.left, y + rect.bottom - rect.top}, texture);
@@ -155,7 +172,7 @@ void OverlayPainter::drawText(const TextLayout& text, FontSet& fonts, float left
 void OverlayPainter::drawTextUpwards(const TextLayout& text, FontSet& fonts, float left, float bottom,
                                      const Color& color)
 {
-    drawGlyphs(text, fonts, color, [&](const PixelRect& rect, const PixelRect& texture) {
+    drawGlyphs(text, fonts, color, 0.0f, [&](const PixelRect& rect, const PixelRect& texture) {
         const float x = std::round(left + rect.top);
         const float y = std::round(bottom - rect.left);
         const float right = x + rect.bottom - rect.top;
@@ -168,7 +185,8 @@ void OverlayPainter::drawTextUpwards(const TextLayout& text, FontSet& fonts, flo
 }
 
 template <class AddGlyph>
-void OverlayPainter::drawGlyphs(const TextLayout& text, FontSet& fonts, const Color& color, AddGlyph&& addGlyph)
+void OverlayPainter::drawGlyphs(const TextLayout& text, FontSet& fonts, const Color& color, float depth,
+                                AddGlyph&& addGlyph)
 {
     std::map<const GlyphAtlas*, std::vector<Vertex>> byAtlas;
     for (const PlacedCharacter& placed : text.characters) {
@@ -191,7 +209,7 @@ void OverlayPainter::drawGlyphs(const TextLayout& text, FontSet& fonts, const Co
     for (auto& [atlas, quads] : byAtlas) {
         bindAtlas(*atlas);
         m_quads.swap(quads);
-        drawQuads(c_glyphMode, color);
+        drawQuads(c_glyphMode, color, depth);
     }
 }
 

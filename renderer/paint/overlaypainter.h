@@ -6,6 +6,7 @@
 #include "renderer/gl/glprogram.h"
 #include "renderer/text/fontset.h"
 #include "renderer/text/textlayout.h"
+#include "renderer/upload/uniformblock.h"
 #include "renderer/upload/uploadcounts.h"
 
 #include <array>
@@ -36,7 +37,9 @@ public:
     /// The colours of the one-dimensional texture bound to unit 0, from the bottom of the rectangle to its top.
     void fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor);
     /// A text with its top left corner at a place; characters stand on whole pixels.
-    void drawText(const TextLayout& text, FontSet& fonts, float left, float top, const vxgraphics3d::Color& color);
+    /// @param depth from -1, at the eye, to 1: what it is compared with where a depth test is on
+    void drawText(const TextLayout& text, FontSet& fonts, float left, float top, const vxgraphics3d::Color& color,
+                  float depth = 0.0f);
     /// A text that runs from bottom to top; the corner is where its first line begins.
     void drawTextUpwards(const TextLayout& text, FontSet& fonts, float left, float bottom,
                          const vxgraphics3d::Color& color);
@@ -45,6 +48,8 @@ public:
     void forgetFonts() { m_atlases.clear(); }
 
 private:
+    struct OverlayBlock;
+
     struct Vertex {
         float x;
         float y;
@@ -61,15 +66,16 @@ private:
     /// Corners in a circle, the first one at the top left of its texture.
     void addQuad(const std::array<Vertex, 4>& corners);
     template <class AddGlyph>
-    void drawGlyphs(const TextLayout& text, FontSet& fonts, const vxgraphics3d::Color& color, AddGlyph&& addGlyph);
-    void drawQuads(int mode, const vxgraphics3d::Color& color);
+    void drawGlyphs(const TextLayout& text, FontSet& fonts, const vxgraphics3d::Color& color, float depth,
+                    AddGlyph&& addGlyph);
+    void drawQuads(int mode, const vxgraphics3d::Color& color, float depth = 0.0f);
     void bindAtlas(const GlyphAtlas& atlas);
 
     UploadCounts& m_counts;
     GlProgram m_program;
-    GLint m_pictureSize;
-    GLint m_mode;
-    GLint m_color;
+    UniformBlock<OverlayBlock> m_block;
+    float m_width = 1.0f;
+    float m_height = 1.0f;
     GlVertexArray m_array;
     GlBuffer m_buffer;
     std::vector<Vertex> m_quads;

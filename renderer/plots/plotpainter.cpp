@@ -4,9 +4,9 @@
 
 namespace vxrenderer {
 
-std::vector<std::unique_ptr<PlotPainter>> makePlotPainters()
+PlotPainters makePlotPainters()
 {
-    std::vector<std::unique_ptr<PlotPainter>> painters;
+    PlotPainters painters;
     painters.push_back(std::make_unique<SurfacePainter>());
     return painters;
 }

@@ -13,25 +13,12 @@ class SceneGraphPlotGroup;
 
 namespace vxrenderer {
 
-class ColorTextures;
-class MeshCache;
-struct Lighting;
-struct View;
+struct PaintContext;
 
-/// A plot as it stands in the scene.
+/// A plot as it appears in the scene.
 struct PlotItem {
     boost::shared_ptr<const vxgraphics3d::SceneGraphPlotGroup> group;
     boost::shared_ptr<const vxgraphics3d::SceneGraphPlot> plot;
-};
-
-/// What all painters of a frame share.
-struct PaintContext {
-    const View& view;
-    const Lighting& lighting;
-    /// From 0 to 1; below 1, what lies behind shines through.
-    float opacity;
-    MeshCache& meshes;
-    ColorTextures& colorTextures;
 };
 
 /// Draws one family of plots. A new family is a class of its own and a line in `makePlotPainters`.
@@ -41,10 +28,12 @@ public:
 
     virtual bool draws(vxgraphics3d::SceneGraphPlot::PlotType type) const = 0;
     /// Draws a plot of such a type, which is active and valid.
-    virtual void draw(const PlotItem& item, const PaintContext& context) = 0;
+    virtual void draw(const PlotItem& item, const PaintContext& context) const = 0;
 };
 
+using PlotPainters = std::vector<std::unique_ptr<PlotPainter>>;
+
 /// The painters of all families that are drawn; plots of other types are left out.
-std::vector<std::unique_ptr<PlotPainter>> makePlotPainters();
+PlotPainters makePlotPainters();
 
 } // namespace vxrenderer

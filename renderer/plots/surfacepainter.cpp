@@ -2,7 +2,8 @@
 
 #include "graphics3d/plots/scalar/scenegraphplotdomain3d.h"
 #include "graphics3d/plots/scalar/scenegraphplotsurface.h"
-#include "renderer/upload/meshcache.h"
+#include "renderer/plots/plotlook.h"
+#include "renderer/upload/uploadcache.h"
 
 namespace vxrenderer {
 
@@ -16,19 +17,21 @@ bool SurfacePainter::draws(PlotType type) const
     return type == PlotType::surface2d || type == PlotType::surface3d || type == PlotType::domain3d;
 }
 
-void SurfacePainter::draw(const PlotItem& item, const PaintContext& context)
+void SurfacePainter::draw(const PlotItem& item, const PaintContext& context) const
 {
-    const auto draw = [&](const auto& plot) {
-        const Mesh* mesh =
-            context.meshes.mesh(item.plot, 0, {plot.getVertices(), plot.getTriangles(), plot.getGeometryChangeId()});
-        if (mesh != nullptr && m_program.use(item, context)) {
-            mesh->draw();
-        }
+    const std::optional<Look> look = lookOf(item, context);
+    if (!look) {
+        return;
+    }
+    const auto drawMesh = [&](const auto& plot) {
+        context.drawMesh(
+            context.uploads.mesh(item.plot, 0, plot.getGeometryChangeId(), plot.getVertices(), plot.getTriangles()),
+            *look);
     };
     if (item.plot->getType() == PlotType::domain3d) {
-        draw(static_cast<const SceneGraphPlotDomain3d&>(*item.plot));
+        drawMesh(static_cast<const SceneGraphPlotDomain3d&>(*item.plot));
     } else {
-        draw(static_cast<const SceneGraphPlotSurface&>(*item.plot));
+        drawMesh(static_cast<const SceneGraphPlotSurface&>(*item.plot));
     }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "renderer/plots/fieldprogram.h"
 #include "renderer/plots/plotpainter.h"
 
 namespace vxrenderer {
@@ -9,10 +8,7 @@ namespace vxrenderer {
 class SurfacePainter : public PlotPainter {
 public:
     bool draws(vxgraphics3d::SceneGraphPlot::PlotType type) const override;
-    void draw(const PlotItem& item, const PaintContext& context) override;
-
-private:
-    FieldProgram m_program;
+    void draw(const PlotItem& item, const PaintContext& context) const override;
 };
 
 } // namespace vxrenderer

@@ -1,22 +1,22 @@
 #pragma once
 
 #include "graphics3d/foundation/lastchangeid.h"
-#include "renderer/decoration/axespainter.h"
-#include "renderer/decoration/legend.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/view.h"
+#include "renderer/objects/objectpainter.h"
 #include "renderer/paint/backgroundpainter.h"
 #include "renderer/paint/linepainter.h"
+#include "renderer/paint/meshpainter.h"
 #include "renderer/paint/overlaypainter.h"
 #include "renderer/plots/plotpainter.h"
+#include "renderer/scene/framelayout.h"
 #include "renderer/text/fontsets.h"
 #include "renderer/upload/colortextures.h"
-#include "renderer/upload/meshcache.h"
+#include "renderer/upload/uploadcache.h"
 #include "renderer/upload/uploadcounts.h"
 
 #include <boost/weak_ptr.hpp>
 
-#include <memory>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -25,58 +25,50 @@ class SceneGraphNode;
 
 namespace vxrenderer {
 
-struct Lighting;
+struct PaintContext;
+struct SceneLabel;
 class Target;
 
 /// Draws a scene, with its title, legends and axes, into a target.
 ///
-/// It reads the scene anew in every frame, but copies to the graphics hardware only what the change numbers say has
-/// changed. Title and legends get their room first, and the camera what is left, so that nothing lies over the plots.
-/// Everything but `layOut` happens while the context is current.
+/// It reads the scene again in every frame, but copies to the graphics hardware only what the change numbers say has
+/// changed. Everything but the layout happens while the context is current.
 class SceneRenderer {
 public:
-    SceneRenderer();
+    explicit SceneRenderer(PlotPainters plotPainters = makePlotPainters(),
+                           ObjectPainters objectPainters = makeObjectPainters());
 
-    /// Finds out which part of a picture is left for the scene, and tells the camera of it and of the box of the scene.
-    /// @return that part; empty without a scene
-    SceneArea layOut(const Frame& frame, int width, int height);
+    /// Lays out a picture, and gives the camera the area that is left for the scene and the box of the scene.
+    FrameLayout layOut(const Frame& frame, int width, int height);
+    /// Finds the area of the scene again, for a camera that has been changed after the layout.
+    static void placeScene(const Frame& frame, FrameLayout& layout);
     /// Draws a frame. Without a scene only the background is drawn.
-    void draw(const Frame& frame, const Target& target);
+    /// @param layout of this frame, for the size of the target
+    void draw(const Frame& frame, const FrameLayout& layout, const Target& target);
 
     const UploadCounts& getUploadCounts() const { return m_counts; }
     /// The view of the frame drawn last.
     const View& getView() const { return m_view; }
 
 private:
-    /// Title and legends at their places.
-    struct Decoration {
-        TextLayout title;
-        std::vector<Legend> legends;
-        float margin = 0.0f;
-        float legendTop = 0.0f;
-        float legendLeft = 0.0f;
-        /// What is left for the scene and its axes.
-        PixelArea rest;
-    };
-
-    FontSet& fonts(const Frame& frame, vxgraphics3d::TextItem item);
-    AxisFonts axisFonts(const Frame& frame);
-    LegendStyle legendStyle(const Frame& frame);
     void updateTitle(const vxgraphics3d::Scene& scene);
-    Decoration decorate(const Frame& frame, const std::vector<PlotItem>& plots, int width, int height);
-    void setUpCamera(const Frame& frame, const PixelArea& area, int width, int height) const;
-    void drawScene(const Frame& frame, std::vector<PlotItem>& plots, const AxesPainter* axes, const Target& target);
-    void drawPlots(std::vector<PlotItem>& plots, const PaintContext& context);
+    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes);
+    /// @return the labels that are to be drawn over the scene
+    std::vector<SceneLabel> drawData(const Frame& frame, const FrameLayout& layout);
+    void drawItem(const SceneItem& item, const PaintContext& context) const;
+    void drawItems(const std::vector<SceneItem>& items, unsigned renderMask, const PaintContext& context) const;
     void drawLightMarkers(const Frame& frame);
-    void drawDecoration(const Frame& frame, const Decoration& decoration, const Target& target);
+    void drawDecoration(const FrameLayout& layout);
     void dropUnused();
 
     UploadCounts m_counts;
     View m_view;
-    MeshCache m_meshes{m_counts};
+    UploadCache m_uploads{m_counts};
     ColorTextures m_colorTextures{m_counts};
-    std::vector<std::unique_ptr<PlotPainter>> m_plotPainters;
+    PlotPainters m_plotPainters;
+    ObjectPainters m_objectPainters;
     BackgroundPainter m_background;
+    MeshPainter m_meshes;
     LinePainter m_lines;
     OverlayPainter m_overlay{m_counts};
     FontSets m_fontSets;

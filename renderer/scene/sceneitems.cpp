@@ -1,4 +1,4 @@
-#include "renderer/scene/plotcollector.h"
+#include "renderer/scene/sceneitems.h"
 
 #include "graphics3d/plots/scenegraphplotgroup.h"
 #include "graphics3d/scenegraph/scenegraphgroup.h"
@@ -11,10 +11,11 @@ namespace {
 
 using vxgraphics3d::SceneGraphGroup;
 using vxgraphics3d::SceneGraphNode;
+using vxgraphics3d::SceneGraphObject;
 using vxgraphics3d::SceneGraphPlotGroup;
 using vxgraphics3d::SceneGraphRoot;
 
-void addPlots(const SceneGraphNode& node, std::vector<PlotItem>& plots)
+void addPlots(const SceneGraphNode& node, std::vector<SceneItem>& items)
 {
     const auto group = boost::dynamic_pointer_cast<const SceneGraphPlotGroup>(node.self());
     if (!group) {
@@ -22,16 +23,16 @@ void addPlots(const SceneGraphNode& node, std::vector<PlotItem>& plots)
     }
     for (auto [plot, end] = group->getPlots(); plot != end; ++plot) {
         if (plot->second->isActive() && plot->second->isValid()) {
-            plots.push_back({group, plot->second});
+            items.push_back(PlotItem{group, plot->second});
         }
     }
 }
 
 } // namespace
 
-std::vector<PlotItem> collectPlots(const SceneGraphRoot& root)
+std::vector<SceneItem> collectItems(const SceneGraphRoot& root)
 {
-    std::vector<PlotItem> plots;
+    std::vector<SceneItem> items;
     // A list of open nodes instead of calls: groups may be nested deeper than any stack.
     std::vector<const SceneGraphNode*> open;
     if (root.isActive() && root.doesChildExist(0)) {
@@ -44,7 +45,9 @@ std::vector<PlotItem> collectPlots(const SceneGraphRoot& root)
             continue;
         }
         if (node->getType() == SceneGraphNode::NodePlotGroup) {
-            addPlots(*node, plots);
+            addPlots(*node, items);
+        } else if (node->getType() == SceneGraphNode::NodeObject) {
+            items.push_back(boost::static_pointer_cast<const SceneGraphObject>(node->self()));
         } else if (node->getType() == SceneGraphNode::NodeGroup) {
             // The last child first, so that the first one is taken up next.
             auto [first, child] = static_cast<const SceneGraphGroup*>(node)->getChildren();
@@ -54,7 +57,15 @@ std::vector<PlotItem> collectPlots(const SceneGraphRoot& root)
             }
         }
     }
-    return plots;
+    return items;
+}
+
+vxgraphics3d::Vector3f centerOf(const SceneItem& item)
+{
+    if (const auto* plot = std::get_if<PlotItem>(&item)) {
+        return plot->plot->getBoundingBox().getCenter();
+    }
+    return std::get<ObjectItem>(item)->getBoundingBox().getCenter();
 }
 
 } // namespace vxrenderer

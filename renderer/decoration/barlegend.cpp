@@ -1,0 +1,116 @@
+#include "renderer/decoration/barlegend.h"
+
+#include "base/ustring.h"
+#include "graphics3d/foundation/textutil.h"
+#include "graphics3d/plots/colour/colortable.h"
+#include "graphics3d/plots/scenegraphplot.h"
+#include "renderer/axes/ticks.h"
+#include "renderer/paint/overlaypainter.h"
+#include "renderer/upload/colortextures.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vxrenderer {
+namespace {
+
+using vxbase::UString;
+using vxgraphics3d::Color;
+using vxgraphics3d::SceneGraphPlot;
+
+constexpr Color c_frame = {70, 70, 70, 255};
+
+// All in units of the font size.
+constexpr float c_barWidth = 1.3f;
+constexpr float c_tickLength = 0.3f;
+constexpr float c_labelGap = 0.3f;
+/// Below the title, which stands clear of a label at the top of the bar.
+constexpr float c_headGap = 0.9f;
+/// Height of the bar for each tick.
+constexpr float c_tickDistance = 2.6f;
+constexpr int c_mostTicks = 12;
+/// Part of the height that the title may take.
+constexpr float c_titlePart = 0.25f;
+
+/// Marks of the largest and of the smallest value.
+constexpr const char* c_upwards = "\xE2\x96\xB2 ";
+constexpr const char* c_downwards = "\xE2\x96\xBC ";
+
+TextLayout layoutOf(const UString& markup, FontSet& fonts, TextRoom room)
+{
+    return layoutTitle(parseTitle(markup), fonts, room);
+}
+
+} // namespace
+
+BarLegend::BarLegend(const PlotItem& item, const LegendStyle& style, float maxWidth, float height)
+    : m_item(item), m_scale(legendScaleOf(*item.plot)), m_height(height)
+{
+    const SceneGraphPlot& plot = *item.plot;
+    const float em = style.tickFonts.fontSize();
+    const TextRoom line = {maxWidth, height};
+    if (style.showTitle && !plot.getTitle().empty()) {
+        UString title;
+        vxgraphics3d::TextUtil::prepareTitle(plot.getTitle(), title, plot.getTitleFormat());
+        m_title = layoutOf(title, style.titleFonts, {maxWidth, c_titlePart * height});
+    }
+    if (style.showMinMax) {
+        m_largest =
+            layoutOf(UString(c_upwards + numberText(plot.getValueMax(), style.minMaxDigits)), style.tickFonts, line);
+        m_smallest =
+            layoutOf(UString(c_downwards + numberText(plot.getValueMin(), style.minMaxDigits)), style.tickFonts, line);
+    }
+    const float barRoom = height - m_title.height - m_largest.height - m_smallest.height - (c_headGap + 1.5f) * em;
+    const int count = std::clamp(static_cast<int>(barRoom / (c_tickDistance * em)), 1, c_mostTicks);
+    const Ticks ticks = makeTicks(m_scale.lowerValue, m_scale.upperValue, count, style.tickDigits);
+    if (ticks.exponent != 0) {
+        m_power = layoutOf(UString("\\times" + powerText(ticks.exponent)), style.tickFonts, line);
+    }
+    float labelWidth = 0.0f;
+    for (const Ticks::Tick& tick : ticks.ticks) {
+        m_labels.push_back({layoutOf(UString(tick.label), style.tickFonts, line), m_scale.heightOf(tick.value)});
+        labelWidth = std::max(labelWidth, m_labels.back().text.width);
+    }
+    m_width = std::max({(c_barWidth + c_tickLength + c_labelGap) * em + labelWidth, m_title.width, m_power.width,
+                        m_largest.width, m_smallest.width});
+    m_headHeight = m_title.height + m_power.height + m_largest.height + c_headGap * em;
+}
+
+void BarLegend::draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left, float top,
+                     float headHeight) const
+{
+    const float em = style.tickFonts.fontSize();
+    const float foot = m_smallest.height > 0.0f ? m_smallest.height + c_headGap * em : 0.5f * em;
+    const float right = std::round(left + c_barWidth * em);
+    const float barTop = std::round(top + headHeight);
+    const float barBottom = std::round(top + m_height - foot);
+    left = std::round(left);
+    float headTop = barTop - m_headHeight;
+    painter.drawText(m_title, style.titleFonts, left, headTop, style.color);
+    headTop += m_title.height;
+    painter.drawText(m_power, style.tickFonts, left, headTop, style.color);
+    headTop += m_power.height;
+    painter.drawText(m_largest, style.tickFonts, left, headTop, style.color);
+    painter.drawText(m_smallest, style.tickFonts, left, top + m_height - m_smallest.height, style.color);
+    if (barBottom - barTop < 3.0f) {
+        return;
+    }
+    const boost::shared_ptr<vxgraphics3d::ColorTable> table = m_item.plot->getColorTable();
+    if (table) {
+        textures.bind(m_item.group, m_item.plot->getColorTableTextureHandle(0), *table);
+        painter.fillWithColorTable({left, barTop, right, barBottom}, m_scale.lowerColor, m_scale.upperColor);
+    }
+    painter.strokeRect({left, barTop, right, barBottom}, c_frame);
+
+    for (const Label& label : m_labels) {
+        // The ends of the bar are the middles of the lines of its frame.
+        const double lowest = static_cast<double>(barBottom) - 1.0;
+        const double highest = static_cast<double>(barTop);
+        const auto y = static_cast<float>(std::round(lowest + label.height * (highest - lowest)));
+        painter.fillRect({right, y, right + std::round(c_tickLength * em), y + 1.0f}, c_frame);
+        painter.drawText(label.text, style.tickFonts, right + (c_tickLength + c_labelGap) * em,
+                         y + 0.5f - 0.5f * label.text.height, style.color);
+    }
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,10 @@
+#include "renderer/objects/objectpainter.h"
+
+namespace vxrenderer {
+
+ObjectPainters makeObjectPainters()
+{
+    return {};
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "graphics3d/scenegraph/scenegraphobject.h"
+
+#include <boost/shared_ptr.hpp>
+
+#include <memory>
+#include <vector>
+
+namespace vxrenderer {
+
+struct PaintContext;
+
+/// An object beside plots, as it appears in the scene.
+using ObjectItem = boost::shared_ptr<const vxgraphics3d::SceneGraphObject>;
+
+/// Draws one family of the objects beside plots. A new family is a class of its own and a line in `makeObjectPainters`.
+class ObjectPainter {
+public:
+    virtual ~ObjectPainter() = default;
+
+    virtual bool draws(vxgraphics3d::SceneGraphObject::ObjectType type) const = 0;
+    /// Draws an object of such a type, which is active. It may be empty.
+    virtual void draw(const ObjectItem& object, const PaintContext& context) const = 0;
+};
+
+using ObjectPainters = std::vector<std::unique_ptr<ObjectPainter>>;
+
+/// The painters of all families that are drawn; objects of other types are left out.
+ObjectPainters makeObjectPainters();
+
+} // namespace vxrenderer

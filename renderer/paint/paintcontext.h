@@ -1,0 +1,53 @@
+#pragma once
+
+#include "graphics3d/foundation/matrixf.h"
+#include "renderer/paint/material.h"
+#include "renderer/paint/scenelabel.h"
+
+#include <utility>
+#include <vector>
+
+namespace vxrenderer {
+
+class ColorTextures;
+class InstanceBuffer;
+class LineMesh;
+class LinePainter;
+class Mesh;
+class MeshPainter;
+class UploadCache;
+struct View;
+
+/// Where something is drawn, and how it looks.
+struct Look {
+    /// From its vertices to the eye.
+    vxgraphics3d::Matrixf toEye;
+    Material material;
+};
+
+/// What the painters of plots and objects draw with in one frame: they take from `uploads` what they consist of and
+/// draw it, in any order. Uploads that are null, because they cannot be drawn, are left out.
+///
+/// A painter need not know whether the scene is translucent: materials lose some of their opacity here, and faces are
+/// blended in two steps, those that face away first, lines in one.
+struct PaintContext {
+    const View& view;
+    /// Of the scene, from 0 to 1; below 1, what lies behind shines through.
+    float opacity;
+    /// Pixels of the picture for a pixel of the screen, by which widths of lines are multiplied.
+    float scale;
+    UploadCache& uploads;
+    ColorTextures& colorTextures;
+    const MeshPainter& meshes;
+    const LinePainter& lines;
+    std::vector<SceneLabel>& labels;
+
+    void drawMesh(const Mesh* mesh, const Look& look) const;
+    void drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const;
+    /// @param width in pixels of the screen
+    void drawLines(const LineMesh* mesh, const Look& look, float width) const;
+    /// The label is drawn over everything that it is not hidden by.
+    void drawLabel(SceneLabel label) const { labels.push_back(std::move(label)); }
+};
+
+} // namespace vxrenderer

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "base/ustring.h"
+#include "graphics3d/foundation/color.h"
+#include "graphics3d/foundation/vector3f.h"
+
+#include <span>
+
+namespace vxrenderer {
+
+class FontSet;
+class OverlayPainter;
+struct View;
+
+/// A text at a point of the scene, which keeps its size and faces the eye.
+struct SceneLabel {
+    /// In world coordinates. The middle of the text lies there.
+    vxgraphics3d::Vector3f point;
+    /// Without markup.
+    vxbase::UString text;
+    vxgraphics3d::Color color;
+    /// Whether what lies before the point hides the text; otherwise it is seen through everything.
+    bool isHideable = true;
+};
+
+/// Draws labels into the scene buffer, whose depths they are compared with, each as a whole: what a text lies on does
+/// not cut into it. Labels whose point is not in view are left out. The viewport is the whole picture.
+/// @param width,height of the picture
+void drawLabels(std::span<const SceneLabel> labels, const View& view, int width, int height, FontSet& fonts,
+                OverlayPainter& painter);
+
+} // namespace vxrenderer

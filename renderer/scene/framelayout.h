@@ -1,0 +1,49 @@
+#pragma once
+
+#include "renderer/decoration/axespainter.h"
+#include "renderer/decoration/legend.h"
+#include "renderer/scene/sceneitems.h"
+#include "renderer/text/textlayout.h"
+#include "renderer/text/titlemarkup.h"
+
+#include <memory>
+#include <vector>
+
+namespace vxrenderer {
+
+class FontSets;
+struct Frame;
+
+/// What one picture shows and where: laid out once, and then drawn.
+///
+/// Title and legends get their space first, and the scene what is left, so that nothing lies over the plots. It refers
+/// to fonts of the renderer, which live at least until the next picture is drawn.
+struct FrameLayout {
+    /// Of the whole picture, in pixels.
+    int width;
+    int height;
+    std::vector<SceneItem> items;
+
+    FontSet& titleFonts;
+    FontSet& labelFonts;
+    FontSet& orientationFonts;
+    AxisFonts axisFonts;
+    LegendStyle legendStyle;
+
+    TextLayout title{};
+    float titleTop = 0.0f;
+    std::vector<std::unique_ptr<Legend>> legends{};
+    float legendTop = 0.0f;
+    float legendLeft = 0.0f;
+    float legendGap = 0.0f;
+    /// What is left for the scene with its axes.
+    PixelArea space{};
+    /// Where the scene goes; empty if there is none.
+    SceneArea area{};
+};
+
+/// Lays out everything but the area of the scene, which follows from the remaining space and the camera.
+FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, const std::vector<TitleItem>& title,
+                             FontSets& fonts, int width, int height);
+
+} // namespace vxrenderer

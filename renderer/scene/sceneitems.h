@@ -1,0 +1,26 @@
+#pragma once
+
+#include "graphics3d/foundation/vector3f.h"
+#include "renderer/objects/objectpainter.h"
+#include "renderer/plots/plotpainter.h"
+
+#include <variant>
+#include <vector>
+
+namespace vxgraphics3d {
+class SceneGraphRoot;
+}
+
+namespace vxrenderer {
+
+/// What is drawn by itself.
+using SceneItem = std::variant<PlotItem, ObjectItem>;
+
+/// What is to be drawn of a scene, in the order of the tree: plots that are active and have something to show, and
+/// objects that are active, under nodes that are all active.
+std::vector<SceneItem> collectItems(const vxgraphics3d::SceneGraphRoot& root);
+
+/// The middle of the box of an item.
+vxgraphics3d::Vector3f centerOf(const SceneItem& item);
+
+} // namespace vxrenderer

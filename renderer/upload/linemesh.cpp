@@ -1,0 +1,89 @@
+#include "renderer/upload/linemesh.h"
+
+#include "graphics3d/buffers/indexbuffer.h"
+#include "graphics3d/buffers/vertexbuffer.h"
+#include "graphics3d/buffers/vertexlayout.h"
+#include "renderer/upload/checkedindices.h"
+
+#include <cstring>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::IndexBuffer;
+using vxgraphics3d::VertexBuffer;
+
+/// Calls `add` with the two index positions of each piece.
+template <class Add>
+void forEachPiece(const IndexBuffer& indices, Add&& add)
+{
+    const std::vector<int>& starts = indices.getSegmentStarts();
+    const int step = indices.getType() == IndexBuffer::Lines ? 2 : 1;
+    for (std::size_t s = 0; s + 1 < starts.size(); ++s) {
+        for (int i = starts[s]; i + 1 < starts[s + 1]; i += step) {
+            add(i, i + 1);
+        }
+    }
+}
+
+} // namespace
+
+LineMesh::LineMesh()
+{
+    glBindVertexArray(m_array.name());
+    glBindBuffer(GL_ARRAY_BUFFER, m_pieces.name());
+    const auto describe = [](Attribute attribute, GLint size, std::ptrdiff_t offset) {
+        const auto location = static_cast<GLuint>(attribute);
+        glEnableVertexAttribArray(location);
+        glVertexAttribPointer(location, size, GL_FLOAT, GL_FALSE, sizeof(Piece), offsetPointer(offset));
+        glVertexAttribDivisor(location, 1);
+    };
+    describe(Attribute::from, 3, offsetof(Piece, from));
+    describe(Attribute::to, 3, offsetof(Piece, to));
+    describe(Attribute::texture, 2, offsetof(Piece, uFrom));
+    glBindVertexArray(0);
+}
+
+void LineMesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
+{
+    m_numPieces = 0;
+    if (indices.getType() != IndexBuffer::Lines && indices.getType() != IndexBuffer::LineStrips) {
+        throw std::invalid_argument("Elements of type " + std::to_string(indices.getType()) +
+                                    " cannot be drawn as lines.");
+    }
+    const vxgraphics3d::VertexLayout& layout = requireLayout(vertices);
+    const CheckedIndices checked(indices, vertices);
+    const auto* records = static_cast<const std::byte*>(vertices.vertexPointer());
+    const auto read = [&](int position, vxgraphics3d::Vector3f& point, float& u) {
+        const std::byte* record = records + checked[position] * layout.size;
+        std::memcpy(&point, record, sizeof point);
+        if (layout.texture >= 0) {
+            std::memcpy(&u, record + layout.texture, sizeof u);
+        }
+    };
+    std::vector<Piece> pieces;
+    pieces.reserve(static_cast<std::size_t>(checked.size()));
+    forEachPiece(indices, [&](int from, int to) {
+        Piece& piece = pieces.emplace_back();
+        read(from, piece.from, piece.uFrom);
+        read(to, piece.to, piece.uTo);
+    });
+    glBindBuffer(GL_ARRAY_BUFFER, m_pieces.name());
+    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(pieces.size() * sizeof(Piece)), pieces.data(),
+                 GL_STATIC_DRAW);
+    if (glGetError() == GL_OUT_OF_MEMORY) {
+        throw std::runtime_error("The driver has no memory for lines.");
+    }
+    m_numPieces = static_cast<GLsizei>(pieces.size());
+}
+
+void LineMesh::draw() const
+{
+    glBindVertexArray(m_array.name());
+    glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, m_numPieces);
+}
+
+} // namespace vxrenderer

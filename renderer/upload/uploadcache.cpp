@@ -1,0 +1,60 @@
+#include "renderer/upload/uploadcache.h"
+
+#include "graphics3d/foundation/errorlog.h"
+
+#include <stdexcept>
+
+namespace vxrenderer {
+
+using vxgraphics3d::IndexBuffer;
+using vxgraphics3d::VertexBuffer;
+
+template <class Upload, class Load>
+const Upload* UploadCache::get(Entries<Upload>& entries, const boost::shared_ptr<const void>& owner, int number,
+                               int changeId, Load&& load)
+{
+    Entry<Upload>& entry = entries[{owner.get(), number}];
+    const bool isChanged = entry.lastChangeId.take(changeId);
+    if (entry.owner.expired() || isChanged) {
+        entry.owner = owner;
+        entry.isDrawable = false;
+        try {
+            load(entry.upload);
+            entry.isDrawable = true;
+            ++m_counts.meshes;
+        } catch (const std::logic_error& fault) {
+            vxgraphics3d::logError("A mesh is not drawn: %s", fault.what());
+        }
+    }
+    return entry.isDrawable ? &entry.upload : nullptr;
+}
+
+const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                              const VertexBuffer& vertices, const IndexBuffer& indices)
+{
+    return get(m_meshes, owner, number, changeId, [&](Mesh& mesh) { mesh.load(vertices, indices); });
+}
+
+const LineMesh* UploadCache::lines(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                                   const VertexBuffer& vertices, const IndexBuffer& indices)
+{
+    return get(m_lines, owner, number, changeId, [&](LineMesh& lines) { lines.load(vertices, indices); });
+}
+
+const InstanceBuffer* UploadCache::instances(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                                             const std::function<std::vector<Instance>()>& make)
+{
+    return get(m_instances, owner, number, changeId, [&](InstanceBuffer& instances) { instances.load(make()); });
+}
+
+void UploadCache::dropLost()
+{
+    const auto dropFrom = [](auto& entries) {
+        std::erase_if(entries, [](const auto& entry) { return entry.second.owner.expired(); });
+    };
+    dropFrom(m_meshes);
+    dropFrom(m_lines);
+    dropFrom(m_instances);
+}
+
+} // namespace vxrenderer

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "graphics3d/foundation/lastchangeid.h"
+#include "renderer/upload/instancebuffer.h"
+#include "renderer/upload/linemesh.h"
+#include "renderer/upload/mesh.h"
+#include "renderer/upload/uploadcounts.h"
+
+#include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
+
+#include <functional>
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace vxrenderer {
+
+/// Keeps what plots and objects consist of on the graphics hardware and copies it again only when its owner says that
+/// it has changed.
+///
+/// An upload is known by the object that owns the data and a number, for owners of several of one kind. Owners are held
+/// weakly: the cache keeps no plot alive, and does not take a new object at an old address for the old one. What is
+/// given out lives until `dropLost`.
+///
+/// Each upload is repeated when `changeId`, the change number that counts the changes of its data, differs from the one
+/// seen last. Data that cannot be drawn are reported once for each change and give null.
+class UploadCache {
+public:
+    explicit UploadCache(UploadCounts& counts) : m_counts(counts) {}
+
+    /// Triangles.
+    const Mesh* mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                     const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
+    /// Single lines or line strips.
+    const LineMesh* lines(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                          const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
+    /// Copies of a mesh.
+    /// @param make called when they have changed
+    const InstanceBuffer* instances(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                                    const std::function<std::vector<Instance>()>& make);
+
+    /// Frees the uploads whose owners are gone.
+    void dropLost();
+
+private:
+    template <class Upload>
+    struct Entry {
+        boost::weak_ptr<const void> owner;
+        vxgraphics3d::LastChangeId lastChangeId;
+        bool isDrawable = false;
+        Upload upload;
+    };
+    template <class Upload>
+    using Entries = std::map<std::pair<const void*, int>, Entry<Upload>>;
+
+    template <class Upload, class Load>
+    const Upload* get(Entries<Upload>& entries, const boost::shared_ptr<const void>& owner, int number, int changeId,
+                      Load&& load);
+
+    UploadCounts& m_counts;
+    Entries<Mesh> m_meshes;
+    Entries<LineMesh> m_lines;
+    Entries<InstanceBuffer> m_instances;
+};
+
+} // namespace vxrenderer
