@@ -27,12 +27,13 @@ public final class PostDataReader {
      *
      * @param record the peer of a record
      * @param file the file
-     * @return true if the file was read. False if the file is wrong or cannot be opened, which the log says and, but
-     *     for numbers that are missing in a row, standard error, or if the record's kind is none of those named. The
-     *     record is unchanged then, but for the groups of an iso surface that stand before a wrong row
+     * @return true if the file was read. False if the file is wrong, cannot be opened or is no regular file, which is
+     *     reported in the log and, except for numbers that are missing in a row, on standard error, or if the record's
+     *     kind is none of those named. The record is unchanged then, except for the groups of an iso surface before a
+     *     wrong row
      * @throws NullPointerException if an argument is null
      * @throws IllegalStateException if the record is closed
-     * @throws NativeException if the peer is not that of a record, or memory runs out
+     * @throws NativeException if the peer is not that of a record, or memory runs out; the record is unchanged
      */
     public static boolean readPostData(NativePeer record, Path file) {
         Objects.requireNonNull(file, "file");
