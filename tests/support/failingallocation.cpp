@@ -33,6 +33,8 @@ vxgraphics3d::FailingAllocation::~FailingAllocation()
     allocationsBeforeFailure = -1;
 }
 
+// Releasing memory needs no replacement.
+// NOLINTBEGIN(misc-new-delete-overloads)
 void* operator new(std::size_t size)
 {
     return allocate<c_new>(size);
@@ -42,3 +44,4 @@ void* operator new[](std::size_t size)
 {
     return allocate<c_newArray>(size);
 }
+// NOLINTEND(misc-new-delete-overloads)
