@@ -11,7 +11,7 @@ inline bool isDigit(char c)
     return static_cast<unsigned char>(c - '0') < 10;
 }
 
-/// Adds the digits at the start of a text to a number, which may wrap around, and returns what stands behind them.
+/// Adds the digits at the start of a text to a number, which may wrap around, and returns what follows them.
 inline const char* readDigits(const char* text, std::uint64_t& number)
 {
     for (; isDigit(*text); ++text) {
@@ -20,10 +20,10 @@ inline const char* readDigits(const char* text, std::uint64_t& number)
     return text;
 }
 
-/// A decimal number as it stands in a text: sign, digits with or without a point, exponent.
+/// A decimal number as a text spells it: sign, digits with or without a point, exponent.
 struct Decimal {
-    const char* begin; ///< behind the sign
-    const char* end;   ///< behind the number; null if the text is not a decimal number, or one with a huge exponent
+    const char* begin; ///< after the sign
+    const char* end;   ///< after the number; null if the text is not a decimal number, or one with a huge exponent
     bool negative;
     std::uint64_t digits;     ///< all digits as one integer, right if there are not more than 19
     std::ptrdiff_t numDigits; ///< zeros at the front included
@@ -32,7 +32,7 @@ struct Decimal {
     /// Looks at the start of a text, which holds no white space there.
     static Decimal at(const char* text);
 
-    /// The number, if it takes but one operation on exact operands, which rounds as the true value would be rounded.
+    /// The number, if it takes only one operation on exact operands, which rounds as the true value would be rounded.
     bool toExact(double& value) const;
 };
 

@@ -16,7 +16,7 @@ template <class... Args>
 void reportWithEnding(const char* ending, const vxbase::LogText<Args...>& text, Args... args)
 {
     logError<Args...>(text, args...);
-// The text was held against its arguments when it was compiled.
+// The text was checked against its arguments when it was compiled.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-security"
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
@@ -26,7 +26,7 @@ void reportWithEnding(const char* ending, const vxbase::LogText<Args...>& text, 
 
 } // namespace detail
 
-/// Tells a user about a file that cannot be read: an error in the log, and the same text, without line end, on standard
+/// Reports a file that cannot be read: an error in the log, and the same text, without line end, on standard
 /// error. File and line in the log are the caller's.
 template <class... Args>
 void reportError(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)

@@ -1,6 +1,7 @@
 #include "graphics3d/readers/rowvalues.h"
 
 #include "graphics3d/foundation/errorlog.h"
+#include "graphics3d/readers/readererror.h"
 #include "graphics3d/readers/textnumbers.h"
 
 #include <algorithm>
@@ -9,7 +10,7 @@
 
 namespace vxgraphics3d {
 
-bool isBlankRow(const char* row)
+bool isEmptyRow(const char* row)
 {
     // Bytes above 127 are characters of some text, whatever sign a char has here.
     while (*row != '\0' && static_cast<unsigned char>(*row) <= ' ') {
@@ -34,7 +35,29 @@ std::string textOf(const char* row)
     return std::string(text);
 }
 
-bool readVector(Vector3f& vector, const char* row, int rowNumber)
+bool findTag(std::span<const std::string_view> tags, std::size_t& section, const char* row, const std::string& fileName)
+{
+    for (std::size_t candidate = section; candidate < tags.size(); ++candidate) {
+        if (isTagRow(row, tags[candidate])) {
+            section = candidate;
+            return true;
+        }
+    }
+    reportError("Unknown tag in %s: %s", fileName.c_str(), textOf(row).c_str());
+    return false;
+}
+
+bool getReal(double& value, const char* row)
+{
+    const char* at = row;
+    if (!readReal(at, value)) {
+        logError("Illegal data: \"%s\"", textOf(row).c_str());
+        return false;
+    }
+    return true;
+}
+
+bool getVector3f(Vector3f& vector, const char* row, int rowNumber)
 {
     const char* at = row;
     double values[3];
@@ -48,7 +71,7 @@ bool readVector(Vector3f& vector, const char* row, int rowNumber)
     return true;
 }
 
-bool readIndices(int* indices, int count, const char* row, int rowNumber)
+bool getIndices(int* indices, int count, const char* row, int rowNumber)
 {
     const char* at = row;
     for (int i = 0; i < count; ++i) {

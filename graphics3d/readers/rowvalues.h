@@ -2,27 +2,38 @@
 
 #include "graphics3d/foundation/vector3f.h"
 
+#include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace vxgraphics3d {
 
-// What the rows of the text formats hold, as the readers of these formats take it.
+// What one row of a text format holds.
 
 /// Whether a row holds no character above the blank.
-bool isBlankRow(const char* row);
+bool isEmptyRow(const char* row);
 
-/// Whether a row begins a section: "%", then any one character, then the tag. What stands behind is not looked at.
+/// Whether a row begins a section: "%", then any one character, then the tag. What follows the tag does not matter.
 bool isTagRow(const char* row, std::string_view tag);
 
-/// A row without its line end, as it stands in messages.
+/// A row without its line end, as messages show it.
 std::string textOf(const char* row);
 
-/// Reads three reals. A missing one is logged with the row's number.
-bool readVector(Vector3f& vector, const char* row, int rowNumber);
+/// Finds the section that a tag row begins. Sections keep their order, so the search goes forward from the present one,
+/// which is searched first. A row without such a tag is reported.
+/// @param section the present section; becomes the one found
+bool findTag(std::span<const std::string_view> tags, std::size_t& section, const char* row,
+             const std::string& fileName);
 
-/// Reads so many integers and subtracts 1 from each, as files count from 1 and memory from 0. A missing one is logged
+/// Reads a real. A missing one is logged.
+bool getReal(double& value, const char* row);
+
+/// Reads three reals. A missing one is logged with the row's number.
+bool getVector3f(Vector3f& vector, const char* row, int rowNumber);
+
+/// Reads `count` integers and subtracts 1 from each, as files count from 1 and memory from 0. A missing one is logged
 /// with the row's number. One that no int holds becomes the nearest limit of int, which is no point's index.
-bool readIndices(int* indices, int count, const char* row, int rowNumber);
+bool getIndices(int* indices, int count, const char* row, int rowNumber);
 
 } // namespace vxgraphics3d

@@ -1,11 +1,15 @@
-// The steps that all plots share: opening, rows, and the comparison of the counts. The scan and the last reading have
-// files of their own.
-
 #include "graphics3d/readers/sceneplotfilereader.h"
 
-#include "graphics3d/readers/readererror.h"
-#include "graphics3d/readers/rowvalues.h"
-#include "graphics3d/readers/textnumbers.h"
+#include "datacarrier/postdataobject.h"
+#include "graphics3d/buffers/indexbufferlines.h"
+#include "graphics3d/buffers/indexbuffertriangles.h"
+#include "graphics3d/foundation/errorlog.h"
+#include "graphics3d/readers/plotfilechecks.h"
+#include "graphics3d/readers/plotfilereading.h"
+#include "graphics3d/readers/recordgroups.h"
+#include "graphics3d/readers/triangleoutline.h"
+
+#include <boost/make_shared.hpp>
 
 #include <algorithm>
 #include <utility>
@@ -14,187 +18,223 @@ namespace vxgraphics3d {
 
 namespace {
 
-std::FILE* openFile(const std::string& fileName)
+TextFile openFile(std::string fileName)
 {
     logInfo("Opening file %s", fileName.c_str());
-    std::FILE* file = std::fopen(fileName.c_str(), "r");
-    if (file == nullptr) {
-        reportErrorLine("Could not open file %s", fileName.c_str());
-    }
-    return file;
+    return TextFile(std::move(fileName));
 }
 
 } // namespace
 
-ScenePlotFileReader::ScenePlotFileReader(std::string fileName)
-    : m_fileName(std::move(fileName)), m_file(openFile(m_fileName)), m_rows(m_file.get())
+ScenePlotFileReader::ScenePlotFileReader(std::string fileName) : m_file(openFile(std::move(fileName))) {}
+
+bool ScenePlotFileReader::readSizesAndData(GroupCriteria criteria)
 {
-    m_coordinateMax.fill(std::numeric_limits<float>::lowest());
-    m_coordinateMin.fill(std::numeric_limits<float>::max());
+    return m_file.isOpen() && scanPlotFile(m_file, criteria, m_contents);
 }
 
 bool ScenePlotFileReader::verifySurfacePlot3dSizes() const
 {
-    return verifySurfaceSizes();
+    return m_file.isOpen() && hasSurface(m_contents);
 }
 
 bool ScenePlotFileReader::verifyIsoSurfacePlot3dSizes() const
 {
-    return verifySurfaceSizes();
+    return m_file.isOpen() && hasSurface(m_contents);
 }
 
 bool ScenePlotFileReader::verifySlicePlot3dSizes() const
 {
-    return verifySurfaceSizes();
-}
-
-bool ScenePlotFileReader::verifySurfaceSizes() const
-{
-    if (!hasPoints()) {
-        return false;
-    }
-    if (m_rowCounts[coordinateSection] != m_rowCounts[dataSection]) {
-        reportError("Coordinates do not match Data.");
-        return false;
-    }
-    if (m_rowCounts[triangleSection] == 0 && m_rowCounts[quadSection] == 0) {
-        reportError("No triangles or quads in file.");
-        return false;
-    }
-    logInfo("File contains %d coordinates with data, %d triangles and %d quads [%f, %f]",
-            m_rowCounts[coordinateSection], m_rowCounts[triangleSection], m_rowCounts[quadSection], m_dataMin,
-            m_dataMax);
-    return true;
+    return m_file.isOpen() && hasSurface(m_contents);
 }
 
 bool ScenePlotFileReader::verifyArrowPlot3dSizes() const
 {
-    if (!hasPoints()) {
-        return false;
-    }
-    if (m_rowCounts[coordinateSection] != m_rowCounts[vectorSection]) {
-        reportError("Coordinates do not match Vector Data.");
-        return false;
-    }
-    if (m_rowCounts[dataSection] != 0 && m_rowCounts[coordinateSection] != m_rowCounts[dataSection]) {
-        reportError("Coordinates do not match Data.");
-        return false;
-    }
-    logInfo("File contains %d coordinates with vectordata. [%f, %f]", m_rowCounts[coordinateSection], m_vectorMin,
-            m_vectorMax);
-    return true;
+    return m_file.isOpen() && hasArrows(m_contents);
 }
 
 bool ScenePlotFileReader::verifyEdgePlot3dSizes() const
 {
-    if (!hasPoints()) {
-        return false;
-    }
-    if (m_rowCounts[coordinateSection] != m_rowCounts[dataSection]) {
-        reportError("Coordinates do not match Data.");
-        return false;
-    }
-    if (m_rowCounts[lineSection] == 0) {
-        reportError("No lines in file.");
-        return false;
-    }
-    logInfo("File contains %d coordinates with data, %d lines [%f, %f]", m_rowCounts[coordinateSection],
-            m_rowCounts[lineSection], m_dataMin, m_dataMax);
-    return true;
+    return m_file.isOpen() && hasEdges(m_contents);
 }
 
 bool ScenePlotFileReader::verifyDomainMeshPlot3dSizes() const
 {
-    if (!hasPoints()) {
+    return m_file.isOpen() && hasDomainMesh(m_contents);
+}
+
+bool ScenePlotFileReader::readCoordinates()
+{
+    return m_file.isOpen() && readPoints(m_file, m_contents.numPoints(), m_points);
+}
+
+bool ScenePlotFileReader::readAndAppendTriangleElements(Arrays<int>& corners, int group)
+{
+    const auto numTriangles = m_file.isOpen() ? static_cast<std::size_t>(groupAt(group).numTriangles) : 0;
+    for (std::vector<int>& corner : corners) {
+        corner.reserve(corner.size() + numTriangles);
+    }
+    return readTriangles(group, [&corners](int a, int b, int c) {
+        corners[0].push_back(a);
+        corners[1].push_back(b);
+        corners[2].push_back(c);
+    });
+}
+
+bool ScenePlotFileReader::readAndAppendTriangleElements(IndexBufferTriangles& triangles, int group)
+{
+    return readTriangles(group, [&triangles](int a, int b, int c) { triangles.appendTriangle(a, b, c); });
+}
+
+/// Reads the triangles of a group, turns the normals of their points, and passes them on relative to the first point.
+template <class Append>
+bool ScenePlotFileReader::readTriangles(int groupId, Append append)
+{
+    if (!m_file.isOpen()) {
         return false;
     }
-    if (m_rowCounts[tetrahedronSection] == 0) {
-        reportError("No tetrahedral in file.");
+    const PointGroup& group = groupAt(groupId);
+    return readElements<3>(m_file, PlotSection::triangles, group.numTriangles, group, groupId, "triangle",
+                           [&](const int* corners) {
+                               m_points.addNormal(corners);
+                               append(corners[0] - group.first, corners[1] - group.first, corners[2] - group.first);
+                           });
+}
+
+bool ScenePlotFileReader::readAndAppendLineElements(IndexBufferLines& lines, int groupId)
+{
+    if (!m_file.isOpen()) {
         return false;
     }
-    if (m_rowCounts[tetrahedronSection] != m_rowCounts[tetrahedralDataSection]) {
-        reportError("Tetrahedrals do not match tetrahedral Data.");
+    const PointGroup& group = groupAt(groupId);
+    return readElements<2>(m_file, PlotSection::lines, group.numLines, group, groupId, "line",
+                           [&](const int* ends) { lines.appendLine(ends[0] - group.first, ends[1] - group.first); });
+}
+
+bool ScenePlotFileReader::readAndAppendQuadElements(IndexBufferQuads&, int group)
+{
+    return m_file.isOpen() && enterElements(m_file, PlotSection::quads, groupAt(group).numQuads, group);
+}
+
+void ScenePlotFileReader::appendCoordinates(Arrays<double>& coordinates, Arrays<float>& normals,
+                                            std::vector<double>& data, int group)
+{
+    m_points.appendTo(coordinates, normals, groupAt(group));
+    appendValues(data, m_contents.data.values, groupAt(group));
+}
+
+void ScenePlotFileReader::appendCoordinates(Arrays<double>& coordinates, Arrays<float>& normals, double& value,
+                                            int group)
+{
+    m_points.appendTo(coordinates, normals, groupAt(group));
+    value = static_cast<double>(m_contents.data.values[static_cast<std::size_t>(groupAt(group).first)]);
+}
+
+void ScenePlotFileReader::appendCoordinates(VertexBufferNormalTex& vertices, int group)
+{
+    m_points.appendTo(vertices, m_contents.data.values, groupAt(group));
+}
+
+void ScenePlotFileReader::appendCoordinates(VertexBufferTex& vertices, int group) const
+{
+    m_points.appendTo(vertices, m_contents.data.values, groupAt(group));
+}
+
+void ScenePlotFileReader::appendCoordinatesHeight(Arrays<double>& coordinates, Arrays<double>& data, int group) const
+{
+    m_points.appendPlaneTo(coordinates, data[1], groupAt(group));
+    appendValues(data[0], m_contents.data.values, groupAt(group));
+}
+
+void ScenePlotFileReader::calculateBoundaries2d(const IndexBufferTriangles& triangles, int group,
+                                                IndexBufferLines& lines) const
+{
+    TriangleOutline outline(groupAt(group).numPoints());
+    const int numTriangles = triangles.getNumElements(0);
+    for (int i = 0; i < numTriangles; ++i) {
+        int a = 0;
+        int b = 0;
+        int c = 0;
+        triangles.getTriangle(i, a, b, c);
+        outline.addTriangle(a, b, c);
+    }
+    outline.writeTo(lines);
+}
+
+bool ScenePlotFileReader::readSurfacePlot2d(vxdatacarrier::PostDataObject& record, std::string fileName)
+{
+    ScenePlotFileReader reader(std::move(fileName));
+    if (!reader.readSizesAndData(GroupCriteria::none) || !reader.verifySurfacePlot3dSizes() ||
+        !reader.readCoordinates()) {
         return false;
     }
-    logInfo("File contains %d coordinates and %d tetrahedral [%f, %f]", m_rowCounts[coordinateSection],
-            m_rowCounts[tetrahedronSection], m_tetrahedralDataMin, m_tetrahedralDataMax);
+    RecordGroups::Group arrays(2, 2);
+    if (!reader.readAndAppendTriangleElements(*arrays.elements, 0)) {
+        return false;
+    }
+    reader.appendCoordinatesHeight(*arrays.coordinates, *arrays.data, 0);
+    arrays.computeLimits();
+    RecordGroups groups;
+    groups.add(std::move(arrays));
+    reader.finish(record, groups, 2);
     return true;
 }
 
-bool ScenePlotFileReader::hasPoints() const
+bool ScenePlotFileReader::readSurfacePlot3d(vxdatacarrier::PostDataObject& record, std::string fileName)
 {
-    // Without a file all counts are 0, but the failure was told already.
-    if (m_file && m_rowCounts[coordinateSection] == 0) {
-        reportError("No coordinates in file.");
-    }
-    return m_rowCounts[coordinateSection] != 0;
-}
-
-/// The next row, counted, or null at the end of the file. Rows beyond what an int counts are refused.
-const char* ScenePlotFileReader::nextRow()
-{
-    const char* row = m_rows.next();
-    if (row == nullptr) {
-        return nullptr;
-    }
-    if (m_row == std::numeric_limits<int>::max()) {
-        reportError("Too many rows in file %s", m_fileName.c_str());
-        return nullptr;
-    }
-    ++m_row;
-    return row;
-}
-
-/// Takes rows of indices, counted, while they are plain; the indices come as `getIndices` gives them.
-int ScenePlotFileReader::nextPlainIndices(int* indices, int count, int maxRows)
-{
-    const int numRows =
-        m_rows.nextPlainIntegers(indices, count, std::min(maxRows, std::numeric_limits<int>::max() - m_row));
-    m_row += numRows;
-    for (int i = 0; i < numRows * count; ++i) {
-        --indices[i];
-    }
-    return numRows;
-}
-
-/// Takes rows of reals, counted, while they are plain.
-int ScenePlotFileReader::nextPlainReals(double* values, int count, int maxRows)
-{
-    const int numRows =
-        m_rows.nextPlainReals(values, count, std::min(maxRows, std::numeric_limits<int>::max() - m_row));
-    m_row += numRows;
-    return numRows;
-}
-
-void ScenePlotFileReader::rewind()
-{
-    m_rows.rewind();
-    m_row = 0;
-}
-
-bool ScenePlotFileReader::isEmptyRow(const char* row) const
-{
-    return isBlankRow(row);
-}
-
-bool ScenePlotFileReader::getVector3f(Vector3f& vector, const char* row) const
-{
-    return readVector(vector, row, m_row);
-}
-
-bool ScenePlotFileReader::getReal(double& value, const char* row) const
-{
-    const char* at = row;
-    if (!readReal(at, value)) {
-        logError("Illegal data: \"%s\"", textOf(row).c_str());
+    ScenePlotFileReader reader(std::move(fileName));
+    if (!reader.readSizesAndData(GroupCriteria::none) || !reader.verifySurfacePlot3dSizes() ||
+        !reader.readCoordinates()) {
         return false;
     }
+    RecordGroups::Group arrays(3, 1);
+    arrays.makeNormals();
+    if (!reader.readAndAppendTriangleElements(*arrays.elements, 0)) {
+        return false;
+    }
+    reader.appendCoordinates(*arrays.coordinates, *arrays.normals, arrays.data->front(), 0);
+    arrays.computeLimits();
+    RecordGroups groups;
+    groups.add(std::move(arrays));
+    reader.finish(record, groups, 3);
     return true;
 }
 
-bool ScenePlotFileReader::getIndices(int* indices, int count, const char* row) const
+bool ScenePlotFileReader::readIsoSurfacePlot3dData(vxdatacarrier::PostDataObject& record, std::string fileName)
 {
-    return readIndices(indices, count, row, m_row);
+    ScenePlotFileReader reader(std::move(fileName));
+    if (!reader.readSizesAndData(GroupCriteria::data) || !reader.verifyIsoSurfacePlot3dSizes() ||
+        !reader.readCoordinates()) {
+        return false;
+    }
+    RecordGroups groups;
+    const int numGroups = static_cast<int>(reader.m_contents.groups.size());
+    for (int group = 0; group < numGroups; ++group) {
+        RecordGroups::Group arrays(3, 2);
+        arrays.makeNormals();
+        if (!reader.readAndAppendTriangleElements(*arrays.elements, group)) {
+            groups.appendTo(record);
+            return false;
+        }
+        std::vector<double>& values = (*arrays.data)[1];
+        reader.appendCoordinates(*arrays.coordinates, *arrays.normals, values, group);
+        const double level = values.front();
+        (*arrays.data)[0].push_back(level);
+        std::fill(arrays.max->begin(), arrays.max->end(), level);
+        std::fill(arrays.min->begin(), arrays.min->end(), level);
+        groups.add(std::move(arrays));
+    }
+    reader.finish(record, groups, 3);
+    return true;
+}
+
+/// Appends groups to a record and sets its bounds.
+void ScenePlotFileReader::finish(vxdatacarrier::PostDataObject& record, const RecordGroups& groups,
+                                 std::size_t numAxes) const
+{
+    auto bounds = boost::make_shared<Arrays<double>>(m_points.bounds(numAxes));
+    groups.appendTo(record);
+    record.m_bounds = std::move(bounds);
 }
 
 } // namespace vxgraphics3d

@@ -58,8 +58,8 @@ const char* TextRows::next()
     return row != m_next ? row : nullptr;
 }
 
-/// Reads rows of numbers until one is not plain. No number leads past the block, because a zero byte stands behind it.
-/// @param readNumber reads one number and gives what stands behind it, or null if it is not plain
+/// Reads rows of numbers until one is not plain. No number leads past the block, because a zero byte follows it.
+/// @param readNumber reads one number and gives what follows it, or null if it is not plain
 template <class Number, class ReadNumber>
 int TextRows::nextPlainRows(Number* values, int numbersPerRow, int maxRows, ReadNumber readNumber)
 {

@@ -8,27 +8,27 @@ namespace vxgraphics3d {
 
 /// The rows of a text stream, one after another, exactly as `fgets` with a buffer of 256 bytes gives them.
 ///
-/// A row is a C string that ends behind its line end. A line of more than 255 characters comes as several rows, the
+/// A row is a C string that ends after its line end. A line of more than 255 characters comes as several rows, the
 /// last line needs no line end, and a row that holds a zero byte seems to end there. The rows lie in the block that was
 /// read from the stream, so none is copied; memory does not grow with the file, however long it is.
 ///
-/// The stream is not owned and must outlive this object; nobody else may read from it.
+/// The stream is not owned and must outlive this object, which alone may read from it.
 class TextRows {
 public:
     /// Longest row, line end included.
     static constexpr std::size_t c_maxLength = 255;
 
-    /// @param file an open stream at the place of the first row, or null, which has no rows
+    /// @param file an open stream at the position of the first row, or null, which has no rows
     explicit TextRows(std::FILE* file);
 
     /// The next row, or null at the end of the stream. It stays valid until the next call.
     const char* next();
 
-    /// Takes up to so many of the next rows while they are plain: just so many integers each, of at most nine digits
-    /// and without signs, blanks between and around them, and a line end. This is the short way through rows for which
-    /// `next` and the C library's functions would give the same numbers.
+    /// Takes up to `maxRows` of the next rows while they are plain: exactly `numbersPerRow` integers each, of at most
+    /// nine digits and without signs, blanks between and around them, and a line end. This is the short way through
+    /// rows for which `next` and the C library's functions would give the same numbers.
     /// @param values takes the numbers of all rows one after another
-    /// @return how many rows were taken; the one behind them is still to come
+    /// @return the number of rows taken; the one after them is still to come
     int nextPlainIntegers(int* values, int numbersPerRow, int maxRows);
     /// The same for reals: decimal numbers of few enough digits.
     int nextPlainReals(double* values, int numbersPerRow, int maxRows);
@@ -43,8 +43,8 @@ private:
 
     std::FILE* m_file;
     std::unique_ptr<char[]> m_block;
-    char* m_next;         // first byte behind the present row
-    char* m_end;          // behind the last byte read
+    char* m_next;         // first byte after the present row
+    char* m_end;          // after the last byte read
     char m_hidden = '\0'; // what stood at m_next before the present row got its terminating zero there
     bool m_exhausted;     // the stream has no more bytes for the block
 };

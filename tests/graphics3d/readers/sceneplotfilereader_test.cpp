@@ -9,13 +9,18 @@
 #include "graphics3d/buffers/vertexbuffertex.h"
 #include "tests/support/capturederror.h"
 #include "tests/support/capturedlog.h"
+#include "tests/support/linesof.h"
 #include "tests/support/temporaryfile.h"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <clocale>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
+#include <functional>
+#include <future>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -196,12 +201,25 @@ TEST(ScenePlotFileReader, cannotOpenAFileWithoutReadPermission)
     EXPECT_EQ(error.take(), "Could not open file " + path + "\n");
 }
 
-TEST(ScenePlotFileReader, takesADirectoryForAFileWithoutCoordinates)
+TEST(ScenePlotFileReader, refusesWhatIsNoRegularFileWithoutWaitingForIt)
 {
-    CapturedError error;
-    Record record;
-    EXPECT_FALSE(ScenePlotFileReader::readSurfacePlot3d(record, "/"));
-    EXPECT_EQ(error.take(), "No coordinates in file.");
+    const std::string silentPipe = std::filesystem::temp_directory_path() / ("pipe" + std::to_string(getpid()));
+    ASSERT_EQ(mkfifo(silentPipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    for (const std::string& path : {silentPipe, std::string("/"), std::string("/dev/zero")}) {
+        const CapturedLog log(Level::error);
+        CapturedError error;
+        Record record;
+        auto read = std::async(std::launch::async, ScenePlotFileReader::readSurfacePlot3d, std::ref(record), path);
+        if (read.wait_for(std::chrono::seconds(10)) != std::future_status::ready) {
+            ADD_FAILURE() << "waits for " << path;
+            // A writer that comes and goes wakes the reader of a pipe.
+            close(open(silentPipe.c_str(), O_WRONLY | O_NONBLOCK));
+        }
+        EXPECT_FALSE(read.get());
+        EXPECT_EQ(log.messages(), Strings{"Could not open file " + path});
+        EXPECT_EQ(error.take(), "Could not open file " + path + "\n");
+    }
+    std::filesystem::remove(silentPipe);
 }
 
 TEST(ScenePlotFileReader, fillsOneGroupOfASurface3d)
@@ -464,12 +482,15 @@ TEST(ScenePlotFileReader, readsGroupsIntoBuffersRelativeToTheirFirstPoint)
     VertexBufferTex plainVertices;
     IndexBufferTriangles triangles[2] = {IndexBufferTriangles(vertices[0]), IndexBufferTriangles(vertices[1])};
     IndexBufferLines lines[2] = {IndexBufferLines(vertices[0]), IndexBufferLines(vertices[1])};
+    IndexBufferLines outline(vertices[1]);
     for (int group : {0, 1}) {
         vertices[group].allocate(3);
         triangles[group].internalAllocate(1, 1);
         triangles[group].newSegment();
         ASSERT_TRUE(reader.readAndAppendTriangleElements(triangles[group], group));
     }
+    reader.calculateBoundaries2d(triangles[1], 1, outline);
+    EXPECT_EQ(linesOf(outline), (Lines{{0, 2}, {0, 1}, {1, 2}}));
     for (int group : {0, 1}) {
         const int numLines = reader.getGroups()[static_cast<std::size_t>(group)].numLines;
         lines[group].internalAllocate(numLines, 1);
@@ -548,70 +569,6 @@ TEST(ScenePlotFileReader, tellsThatAFileShrankWhileItWasRead)
                      reader.readAndAppendLineElements(lines, 0));
         EXPECT_EQ(named(error.take(), file.path()), message);
     }
-}
-
-/// The outline of one group of triangles, as pairs of points.
-std::vector<std::pair<int, int>> outlineOf(int numPoints, const std::vector<std::vector<int>>& triangleCorners)
-{
-    std::string text = "% Coordinates\n";
-    for (int i = 0; i < numPoints; ++i) {
-        text += "0 0 0\n";
-    }
-    const TemporaryFile file(text + "% Data\n");
-    ScenePlotFileReader reader(file.path());
-    EXPECT_TRUE(reader.readSizesAndData(Criteria::none));
-    VertexBufferCoords vertices;
-    vertices.allocate(numPoints);
-    IndexBufferTriangles triangles(vertices);
-    triangles.internalAllocate(static_cast<int>(triangleCorners.size()), 1);
-    triangles.newSegment();
-    for (const std::vector<int>& corners : triangleCorners) {
-        triangles.appendTriangle(corners[0], corners[1], corners[2]);
-    }
-    IndexBufferLines lines(vertices);
-    reader.calculateBoundaries2d(triangles, 0, lines);
-    std::vector<std::pair<int, int>> result;
-    for (int i = 0; i < lines.getNumElements(0); ++i) {
-        int from = 0;
-        int to = 0;
-        lines.getLine(i, from, to);
-        result.emplace_back(from, to);
-    }
-    EXPECT_EQ(lines.getNumElements(), lines.getNumElements(0));
-    return result;
-}
-
-TEST(ScenePlotFileReader, findsTheEdgesThatOneTriangleUses)
-{
-    using Edges = std::vector<std::pair<int, int>>;
-    CapturedError error;
-    EXPECT_EQ(outlineOf(3, {}), Edges());
-    EXPECT_EQ(outlineOf(4, {{0, 1, 2}, {0, 2, 3}}), (Edges{{0, 1}, {0, 3}, {1, 2}, {2, 3}}));
-    // The corners of a tetrahedron have no outline; an edge of three triangles has.
-    EXPECT_EQ(outlineOf(4, {{0, 1, 2}, {0, 1, 3}, {0, 2, 3}, {1, 2, 3}}), Edges());
-    EXPECT_EQ(outlineOf(5, {{0, 1, 2}, {1, 0, 3}, {0, 1, 4}}),
-              (Edges{{0, 2}, {0, 3}, {0, 1}, {0, 4}, {1, 2}, {1, 3}, {1, 4}}));
-    // A flat triangle's edge from a point to itself goes as any other.
-    EXPECT_EQ(outlineOf(2, {{1, 0, 0}}), (Edges{{0, 0}}));
-    EXPECT_EQ(error.take(), "");
-}
-
-TEST(ScenePlotFileReader, dropsEdgesBeyondTenNeighboursOfOnePoint)
-{
-    // Six triangles that meet in point 0 alone give it twelve neighbours.
-    std::vector<std::vector<int>> corners;
-    for (int i = 1; i < 13; i += 2) {
-        corners.push_back({0, i, i + 1});
-    }
-    const CapturedLog log(Level::error);
-    CapturedError error;
-    const auto edges = outlineOf(13, corners);
-    const std::string message = "To many lines connected to one vertex.";
-    EXPECT_EQ(log.messages(), (Strings{message, message}));
-    EXPECT_EQ(error.take(), message + message);
-    EXPECT_EQ(edges.size(), 10u + 6u);
-    EXPECT_EQ(edges[9], std::make_pair(0, 10));
-    EXPECT_EQ(edges[15], std::make_pair(11, 12));
 }
 
 } // namespace

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "graphics3d/foundation/boundingbox.h"
+#include "graphics3d/foundation/vector3f.h"
+#include "graphics3d/readers/plotfilecontents.h"
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+namespace vxgraphics3d {
+
+class VertexBufferNormalTex;
+class VertexBufferTex;
+
+/// The points of a plot file with the normals of the triangles at them, and their limits. Fills arrays and vertex
+/// buffers with the points of a group.
+class PlotPoints {
+public:
+    /// One array per axis, corner or quantity.
+    template <class T>
+    using Arrays = std::vector<std::vector<T>>;
+
+    /// Makes space for the points, and a zero normal for each.
+    void reserve(int numPoints);
+    /// Adds a point; there must be space.
+    void add(const Vector3f& point)
+    {
+        m_coordinates.push_back(point);
+        m_limits[0].widen(point.x);
+        m_limits[1].widen(point.y);
+        m_limits[2].widen(point.z);
+    }
+    /// Adds the unit normal of a triangle to those of its three corners.
+    void addNormal(const int* corners);
+
+    /// Appends x, y and z of a group's points to three arrays, and their normals, brought to unit length, to three
+    /// more.
+    void appendTo(Arrays<double>& coordinates, Arrays<float>& normals, const PointGroup& group);
+    /// Appends a group's points with their normals, brought to unit length, to a buffer with space for them.
+    /// @param values by point of the file, the texture coordinate
+    void appendTo(VertexBufferNormalTex& vertices, const std::vector<float>& values, const PointGroup& group);
+    /// Appends a group's points to a buffer with space for them.
+    /// @param values by point of the file, the texture coordinate
+    void appendTo(VertexBufferTex& vertices, const std::vector<float>& values, const PointGroup& group) const;
+    /// Appends x and y of a group's points to two arrays, and z to a third.
+    void appendPlaneTo(Arrays<double>& coordinates, std::vector<double>& heights, const PointGroup& group) const;
+
+    /// The limits on the first axes, as a record holds them.
+    Arrays<double> bounds(std::size_t numAxes) const;
+    /// The box of all points.
+    BoundingBox box() const;
+
+private:
+    std::vector<Vector3f> m_coordinates;
+    std::vector<Vector3f> m_normals;
+    std::array<FloatLimits, 3> m_limits;
+};
+
+/// Appends the values of a group's points to an array.
+/// @param values by point of the file
+void appendValues(std::vector<double>& target, const std::vector<float>& values, const PointGroup& group);
+
+} // namespace vxgraphics3d

@@ -1,0 +1,86 @@
+#include "graphics3d/readers/textfile.h"
+
+#include "graphics3d/readers/readererror.h"
+
+#include <algorithm>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace vxgraphics3d {
+
+namespace {
+
+/// Opens first and then looks at what was opened, so that no other file can take the name in between.
+std::FILE* openRegularFile(const std::string& name)
+{
+    // Without O_NONBLOCK, a pipe would wait here for its writer.
+    const int descriptor = ::open(name.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (descriptor == -1) {
+        return nullptr;
+    }
+    struct stat status = {};
+    std::FILE* file = nullptr;
+    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && ::fcntl(descriptor, F_SETFL, 0) == 0) {
+        file = ::fdopen(descriptor, "r");
+    }
+    if (file == nullptr) {
+        ::close(descriptor);
+    }
+    return file;
+}
+
+} // namespace
+
+TextFile::TextFile(std::string name) : m_name(std::move(name)), m_file(openRegularFile(m_name)), m_rows(m_file.get())
+{
+    if (!m_file) {
+        reportErrorLine("Could not open file %s", m_name.c_str());
+    }
+}
+
+const char* TextFile::nextRow()
+{
+    const char* row = m_rows.next();
+    if (row == nullptr || hasTooManyRows()) {
+        return nullptr;
+    }
+    ++m_rowNumber;
+    if (hasTooManyRows()) {
+        reportError("Too many rows in file %s", m_name.c_str());
+        return nullptr;
+    }
+    return row;
+}
+
+int TextFile::nextPlainIndices(int* indices, int count, int maxRows)
+{
+    const int numRows = m_rows.nextPlainIntegers(indices, count, limited(maxRows));
+    m_rowNumber += numRows;
+    for (int i = 0; i < numRows * count; ++i) {
+        --indices[i];
+    }
+    return numRows;
+}
+
+int TextFile::nextPlainReals(double* values, int count, int maxRows)
+{
+    const int numRows = m_rows.nextPlainReals(values, count, limited(maxRows));
+    m_rowNumber += numRows;
+    return numRows;
+}
+
+/// As many rows as can still be counted.
+int TextFile::limited(int maxRows) const
+{
+    return std::min(maxRows, std::numeric_limits<int>::max() - 1 - m_rowNumber);
+}
+
+void TextFile::rewind()
+{
+    m_rows.rewind();
+    m_rowNumber = 0;
+}
+
+} // namespace vxgraphics3d

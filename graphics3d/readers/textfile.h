@@ -1,0 +1,54 @@
+#pragma once
+
+#include "graphics3d/readers/textrows.h"
+
+#include <cstdio>
+#include <limits>
+#include <memory>
+#include <string>
+
+namespace vxgraphics3d {
+
+/// A text file that is read row by row, in one pass or several, with the row numbers that messages name.
+///
+/// Only regular files are opened: a pipe could block for ever, a device could have no end. Opening never waits.
+class TextFile {
+public:
+    /// Opens the file. One that cannot be opened, or is no regular file, is reported, and has no rows.
+    explicit TextFile(std::string name);
+
+    bool isOpen() const { return m_file != nullptr; }
+    const std::string& name() const { return m_name; }
+    /// The number of the present row, from 1 in each pass.
+    int rowNumber() const { return m_rowNumber; }
+
+    /// The next row, or null at the end of the file. It stays valid until the next call. Rows beyond what an int counts
+    /// are refused: the first of them is reported and read as the end of the file.
+    const char* nextRow();
+    /// Whether the last row was refused because there were too many.
+    bool hasTooManyRows() const { return m_rowNumber == std::numeric_limits<int>::max(); }
+
+    /// Takes rows of indices while they are plain, see `TextRows`; the indices are as `getIndices` gives them.
+    /// @return the number of rows taken
+    int nextPlainIndices(int* indices, int count, int maxRows);
+    /// Takes rows of reals while they are plain.
+    /// @return the number of rows taken
+    int nextPlainReals(double* values, int count, int maxRows);
+
+    /// Begins the next pass.
+    void rewind();
+
+private:
+    struct Closer {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+
+    int limited(int maxRows) const;
+
+    std::string m_name;
+    std::unique_ptr<std::FILE, Closer> m_file;
+    TextRows m_rows; // over m_file
+    int m_rowNumber = 0;
+};
+
+} // namespace vxgraphics3d

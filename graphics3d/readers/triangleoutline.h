@@ -1,0 +1,36 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+namespace vxgraphics3d {
+
+class IndexBufferLines;
+
+/// Finds the outline of a triangulated surface: the edges that exactly one triangle uses.
+///
+/// A point takes edges to at most ten points of higher index at a time; further ones are reported and dropped.
+class TriangleOutline {
+public:
+    /// @param numPoints the points to which the triangles refer
+    explicit TriangleOutline(int numPoints);
+
+    /// Notes the edges of a triangle.
+    void addTriangle(int a, int b, int c);
+
+    /// Replaces the lines of a buffer by the edges of the outline, each from its lower to its higher index, in the
+    /// order of the lower ones.
+    void writeTo(IndexBufferLines& lines) const;
+
+private:
+    static constexpr std::size_t c_maxNeighbours = 10;
+    using Neighbours = std::array<int, c_maxNeighbours>;
+
+    void toggleEdge(int low, int high);
+
+    std::vector<Neighbours> m_neighbours; // by point: the far ends of its edges
+    int m_numEdges = 0;
+};
+
+} // namespace vxgraphics3d
