@@ -30,7 +30,8 @@ template <class Write>
 void withPositions(const PointPositions& positions, Write write)
 {
     if (positions.z != nullptr) {
-        write([x = positions.x, y = positions.y, z = positions.z](std::size_t i) { return Vector3f(x[i], y[i], z[i]); });
+        write(
+            [x = positions.x, y = positions.y, z = positions.z](std::size_t i) { return Vector3f(x[i], y[i], z[i]); });
     } else {
         write([x = positions.x, y = positions.y](std::size_t i) {
             return Vector3f(x[i], y != nullptr ? y[i] : 0.0, 0.0);

@@ -67,10 +67,9 @@ TEST(PlotFill, appendPoints_combinesPositionsNormalsAndColoursOfOneGroup)
 
 TEST(PlotFill, appendPoints_takesMissingAxesAsZero)
 {
-    for (const auto& [coordinates, position] :
-         {std::pair{Record::DoubleArrays{{1.0}}, Vector3f(1.0f, 0.0f, 0.0f)},
-          {{{1.0}, {2.0}}, Vector3f(1.0f, 2.0f, 0.0f)},
-          {{{1.0}, {2.0}, {3.0}}, Vector3f(1.0f, 2.0f, 3.0f)}}) {
+    for (const auto& [coordinates, position] : {std::pair{Record::DoubleArrays{{1.0}}, Vector3f(1.0f, 0.0f, 0.0f)},
+                                                {{{1.0}, {2.0}}, Vector3f(1.0f, 2.0f, 0.0f)},
+                                                {{{1.0}, {2.0}, {3.0}}, Vector3f(1.0f, 2.0f, 3.0f)}}) {
         const PostRecord record = PostRecord().role(Record::ColorData, 0).group(coordinates, {}, {{7.0}});
         const PostDataView view(record, "Plot");
         VertexBufferTex vertices;
@@ -111,13 +110,15 @@ TEST(HeightMap, givesHeightsTheMeanWidthOfThePlot)
         double scale;
         Floats box;
     };
-    for (const Case& c :
-         {Case{2.0, 4.0, {{0.0, 8.0}}, 2.0, {0, 8, 0, 0, 4, 8}},                // 8 over 0 to 4
-          Case{-4.0, -2.0, {{0.0, 8.0}, {0.0, 4.0}}, 1.5, {0, 8, 0, 4, -6, -3}}, // 6 over -4 to 0
-          Case{-1.0, 1.0, {{0.0, 8.0}, {0.0, 4.0}, {0.0, 99.0}}, 3.0, {0, 8, 0, 4, -3, 3}},
-          Case{0.0, 0.0, {{0.0, 8.0}}, 1.0, {0, 8, 0, 0, 0, 0}}}) {
-        const PostRecord record =
-            PostRecord().role(Record::HeightData, 0).bounds(c.bounds).group({{0.0}}, {}, {{5.0}}).limits(0, 0, c.min, c.max);
+    for (const Case& c : {Case{2.0, 4.0, {{0.0, 8.0}}, 2.0, {0, 8, 0, 0, 4, 8}},                 // 8 over 0 to 4
+                          Case{-4.0, -2.0, {{0.0, 8.0}, {0.0, 4.0}}, 1.5, {0, 8, 0, 4, -6, -3}}, // 6 over -4 to 0
+                          Case{-1.0, 1.0, {{0.0, 8.0}, {0.0, 4.0}, {0.0, 99.0}}, 3.0, {0, 8, 0, 4, -3, 3}},
+                          Case{0.0, 0.0, {{0.0, 8.0}}, 1.0, {0, 8, 0, 0, 0, 0}}}) {
+        const PostRecord record = PostRecord()
+                                      .role(Record::HeightData, 0)
+                                      .bounds(c.bounds)
+                                      .group({{0.0}}, {}, {{5.0}})
+                                      .limits(0, 0, c.min, c.max);
         const HeightMap heights(PostDataView(record, "Plot"));
         EXPECT_EQ(heights.scale, c.scale);
         EXPECT_EQ(heights(0), 5.0 * c.scale);

@@ -68,9 +68,12 @@ public abstract class SceneGraphPlot extends NativePeer {
      * Fills the plot from a record. Legend limits follow the values of the record from now on and a value restriction
      * falls away; colours, symmetry, height scale, offset and title stay. The record is not kept and may be closed.
      *
+     * <p>If native memory runs out during the fill, either nothing has changed, or the plot has lost its buffers, draws
+     * nothing and already shows the value range and legend limits of the new record. It can be filled again.
+     *
      * @param record the peer of a record of post-processing results
      * @throws NativeException if the peer is no record, or if the record lacks something that this plot draws; the
-     *     message names it, and the plot is as it was
+     *     message names it, and the plot is as it was; or if memory runs out
      * @throws NullPointerException if the record is null
      * @throws IllegalStateException if the record's peer is closed
      */
