@@ -10,9 +10,6 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// How many triangles are worked on at once: few enough for their corners to stay in the first cache.
-constexpr int c_trianglesPerBlock = 512;
-
 /// Hands `write` a function from the index of a point to its texture coordinate: one for data, another for a constant,
 /// so that a loop over points tests nothing.
 template <class Write>
@@ -46,26 +43,6 @@ void withNormals(const PointNormals& normals, Write write)
         write([x = normals.x, y = normals.y, z = normals.z](std::size_t i) { return Vector3f(x[i], y[i], z[i]); });
     } else {
         write([normal = normals.constant](std::size_t) { return normal; });
-    }
-}
-
-/// Adds the normals of some triangles to those of their corners.
-void addNormals(VertexNormalTex* vertices, const double* x, const double* y, const HeightMap& heights, const int* a,
-                const int* b, const int* c, int count)
-{
-    const HeightMap z = heights;
-    for (int i = 0; i < count; ++i) {
-        const auto ia = static_cast<std::size_t>(a[i]);
-        const auto ib = static_cast<std::size_t>(b[i]);
-        const auto ic = static_cast<std::size_t>(c[i]);
-        const Vector3f toA(x[ia] - x[ib], y[ia] - y[ib], z(ia) - z(ib));
-        const Vector3f toC(x[ic] - x[ib], y[ic] - y[ib], z(ic) - z(ib));
-        const Vector3f normal = toC.cross(toA);
-        for (const std::size_t corner : {ia, ib, ic}) {
-            vertices[corner].nx += normal.x;
-            vertices[corner].ny += normal.y;
-            vertices[corner].nz += normal.z;
-        }
     }
 }
 
@@ -122,14 +99,20 @@ void fillRaisedSurface(SurfaceMesh& mesh, const PointPositions& positions, const
 
     // The sums of normals grow in the vertices themselves, which are written as a whole only afterwards.
     std::fill_n(out, count, VertexNormalTex{});
-    for (int first = 0; first < triangles.count; first += c_trianglesPerBlock) {
-        const int inBlock = std::min(c_trianglesPerBlock, triangles.count - first);
-        const int* a = triangles.a + first;
-        const int* b = triangles.b + first;
-        const int* c = triangles.c + first;
-        mesh.indices.appendTriangles(a, b, c, inBlock);
-        addNormals(out, x, y, heights, a, b, c, inBlock);
-    }
+    const auto addNormal = [=, z = heights](int first, int second, int third) {
+        const auto a = static_cast<std::size_t>(first);
+        const auto b = static_cast<std::size_t>(second);
+        const auto c = static_cast<std::size_t>(third);
+        const Vector3f toA(x[a] - x[b], y[a] - y[b], z(a) - z(b));
+        const Vector3f toC(x[c] - x[b], y[c] - y[b], z(c) - z(b));
+        const Vector3f normal = toC.cross(toA);
+        for (const std::size_t corner : {a, b, c}) {
+            out[corner].nx += normal.x;
+            out[corner].ny += normal.y;
+            out[corner].nz += normal.z;
+        }
+    };
+    mesh.indices.appendTriangles(triangles.a, triangles.b, triangles.c, triangles.count, addNormal);
     withColors(colors, [=, z = heights](auto u) {
         for (std::size_t i = 0; i < count; ++i) {
             const Vector3f normal = Vector3f(out[i].nx, out[i].ny, out[i].nz).normalized();
