@@ -1,5 +1,6 @@
 #include "graphics3d/plots/scalar/scenegraphplotdomain3d.h"
 
+#include "datacarrier/postdataview.h"
 #include "graphics3d/plots/plotfill.h"
 
 using vxdatacarrier::c_colorData;
