@@ -33,7 +33,13 @@ VX_NATIVE(void, CameraInteraction, connectNative)
 
 VX_NATIVE(void, CameraInteraction, cleanupNative)(JNIEnv* env, jclass, jobject self)
 {
-    guarded(env, [&] { release(env, self); });
+    guarded(env, [&] {
+        // Only here is the caller known to work on the view: a lost peer is released on any thread.
+        if (getWsPtrOrNull(env, self) != nullptr) {
+            interaction(env, self).cancel();
+        }
+        vxbase::release(env, self);
+    });
 }
 
 VX_NATIVE(void, CameraInteraction, setCanvasHeight)(JNIEnv* env, jclass, jobject self, jint canvasHeight)
