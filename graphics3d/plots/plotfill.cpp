@@ -22,17 +22,17 @@ void withColors(const PointColors& colors, Write write)
     }
 }
 
-/// The same for positions in space and in the plane; one axis alone is rare and needs no loop of its own.
+/// The same for positions in space, in the plane and on the x axis.
 template <class Write>
 void withPositions(const PointPositions& positions, Write write)
 {
     if (positions.z != nullptr) {
         write(
             [x = positions.x, y = positions.y, z = positions.z](std::size_t i) { return Vector3f(x[i], y[i], z[i]); });
+    } else if (positions.y != nullptr) {
+        write([x = positions.x, y = positions.y](std::size_t i) { return Vector3f(x[i], y[i], 0.0); });
     } else {
-        write([x = positions.x, y = positions.y](std::size_t i) {
-            return Vector3f(x[i], y != nullptr ? y[i] : 0.0, 0.0);
-        });
+        write([x = positions.x](std::size_t i) { return Vector3f(x[i], 0.0, 0.0); });
     }
 }
 

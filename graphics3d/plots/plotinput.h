@@ -14,7 +14,7 @@ namespace vxgraphics3d {
 
 /// Where points lie.
 struct PointPositions {
-    /// Fetches positions in the plane (2 axes, z is 0 whatever the record holds) or in space (3 axes).
+    /// Fetches positions in the plane (2 axes, z is 0 even if the record has a third) or in space (3 axes).
     PointPositions(const vxdatacarrier::PostDataView& record, int group, int numAxes);
     /// Fetches as many axes as the record has; missing ones are 0.
     static PointPositions ofAnyAxes(const vxdatacarrier::PostDataView& record, int group);
