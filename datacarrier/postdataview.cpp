@@ -9,38 +9,9 @@ namespace vxdatacarrier {
 
 namespace {
 
-const char* roleName(int role)
+std::string roleText(const PostDataRole& role)
 {
-    constexpr const char* names[] = {"colour",
-                                     "",
-                                     "",
-                                     "",
-                                     "height",
-                                     "radius or width",
-                                     "",
-                                     "vector x",
-                                     "vector y",
-                                     "vector z",
-                                     "first direction x",
-                                     "first direction y",
-                                     "first direction z",
-                                     "second direction x",
-                                     "second direction y",
-                                     "second direction z",
-                                     "third direction x",
-                                     "third direction y",
-                                     "third direction z",
-                                     "iso level",
-                                     "",
-                                     ""};
-    static_assert(std::size(names) == PostDataObject::c_numRoles);
-    return names[role];
-}
-
-std::string roleText(int role)
-{
-    const std::string name = roleName(role);
-    return "role " + std::to_string(role) + (name.empty() ? "" : " (" + name + " data)");
+    return "role " + std::to_string(role.number) + " (" + role.name + ")";
 }
 
 std::string groupText(int group)
@@ -59,7 +30,7 @@ PostDataView::PostDataView(const PostDataObject& record, const char* plot) : m_r
 
 int PostDataView::numPoints(int group) const
 {
-    return countOf(coordinates(group, 1).front().size(), group, "coordinates");
+    return static_cast<int>(coordinates(group, 1).front().size());
 }
 
 const PostDataView::DoubleArrays& PostDataView::coordinates(int group, int minAxes) const
@@ -76,18 +47,6 @@ const PostDataView::FloatArrays& PostDataView::normals(int group) const
     return arrays;
 }
 
-bool PostDataView::hasElements(int group) const
-{
-    return group >= 0 && static_cast<std::size_t>(group) < m_record.m_elements.size() &&
-           m_record.m_elements[static_cast<std::size_t>(group)];
-}
-
-int PostDataView::numElements(int group) const
-{
-    const IntArrays& corners = elements(group, 0);
-    return corners.empty() ? 0 : countOf(corners.front().size(), group, "elements");
-}
-
 const PostDataView::IntArrays& PostDataView::elements(int group, int minCorners) const
 {
     return equalArrays(entry(m_record.m_elements, group, "elements"), group, minCorners, "elements");
@@ -98,7 +57,7 @@ const PostDataView::IntArrays& PostDataView::lineElements(int group) const
     return equalArrays(entry(m_record.m_lineElements, group, "line elements"), group, 2, "line elements");
 }
 
-const std::vector<double>& PostDataView::data(int group, int role) const
+const std::vector<double>& PostDataView::data(int group, const PostDataRole& role) const
 {
     const std::vector<double>& values = levelData(group, role);
     if (values.size() != coordinates(group, 1).front().size()) {
@@ -107,7 +66,7 @@ const std::vector<double>& PostDataView::data(int group, int role) const
     return values;
 }
 
-const std::vector<double>& PostDataView::levelData(int group, int role) const
+const std::vector<double>& PostDataView::levelData(int group, const PostDataRole& role) const
 {
     const std::size_t index = filledIndex(role);
     const DoubleArrays& arrays = entry(m_record.m_data, group, "data");
@@ -118,30 +77,30 @@ const std::vector<double>& PostDataView::levelData(int group, int role) const
     return arrays[index];
 }
 
-double PostDataView::dataMin(int group, int role) const
+double PostDataView::dataMin(int group, const PostDataRole& role) const
 {
     return limit(m_record.m_dataMin, group, role, "data minima");
 }
 
-double PostDataView::dataMax(int group, int role) const
+double PostDataView::dataMax(int group, const PostDataRole& role) const
 {
     return limit(m_record.m_dataMax, group, role, "data maxima");
 }
 
-double PostDataView::dataMin(int role) const
+double PostDataView::dataMin(const PostDataRole& role) const
 {
     for (int group = 0; group < std::max(numGroups(), static_cast<int>(m_record.m_dataMin.size())); ++group) {
         dataMin(group, role);
     }
-    return m_record.getDataMin(role);
+    return m_record.getDataMin(role.number);
 }
 
-double PostDataView::dataMax(int role) const
+double PostDataView::dataMax(const PostDataRole& role) const
 {
     for (int group = 0; group < std::max(numGroups(), static_cast<int>(m_record.m_dataMax.size())); ++group) {
         dataMax(group, role);
     }
-    return m_record.getDataMax(role);
+    return m_record.getDataMax(role.number);
 }
 
 const PostDataView::DoubleArrays& PostDataView::bounds(int minAxes) const
@@ -157,15 +116,12 @@ const PostDataView::DoubleArrays& PostDataView::bounds(int minAxes) const
     return *m_record.m_bounds;
 }
 
-int PostDataView::dataIndex(int role) const
+int PostDataView::dataIndex(const PostDataRole& role) const
 {
-    if (role < 0 || role >= PostDataObject::c_numRoles) {
-        fail("there is no role " + std::to_string(role));
-    }
-    return m_record.m_dataIndex[static_cast<std::size_t>(role)];
+    return m_record.m_dataIndex.at(static_cast<std::size_t>(role.number));
 }
 
-std::size_t PostDataView::filledIndex(int role) const
+std::size_t PostDataView::filledIndex(const PostDataRole& role) const
 {
     const int index = dataIndex(role);
     if (index < 0) {
@@ -197,11 +153,14 @@ const Arrays& PostDataView::equalArrays(const Arrays& arrays, int group, int min
             fail(std::string(field) + groupText(group) + " have arrays of different length");
         }
     }
+    if (!arrays.empty() && arrays.front().size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+        fail(std::string(field) + groupText(group) + " are more than a buffer can count");
+    }
     return arrays;
 }
 
-double PostDataView::limit(const std::vector<boost::shared_ptr<std::vector<double>>>& limits, int group, int role,
-                           const char* field) const
+double PostDataView::limit(const std::vector<boost::shared_ptr<std::vector<double>>>& limits, int group,
+                           const PostDataRole& role, const char* field) const
 {
     const std::size_t index = filledIndex(role);
     const std::vector<double>& values = entry(limits, group, field);
@@ -215,14 +174,6 @@ double PostDataView::limit(const std::vector<boost::shared_ptr<std::vector<doubl
 std::string PostDataView::countText(std::size_t numValues, int group) const
 {
     return std::to_string(numValues) + " values for " + std::to_string(numPoints(group)) + " points";
-}
-
-int PostDataView::countOf(std::size_t size, int group, const char* field) const
-{
-    if (size > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
-        fail(std::string(field) + groupText(group) + " are more than a buffer can count");
-    }
-    return static_cast<int>(size);
 }
 
 void PostDataView::fail(const std::string& text) const

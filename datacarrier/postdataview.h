@@ -8,12 +8,24 @@
 
 namespace vxdatacarrier {
 
+/// A role of data as one plot uses it. The same role may mean different things to different plots, so each says how its
+/// messages call it.
+struct PostDataRole {
+    int number;       ///< position in `PostDataObject::m_dataIndex`
+    const char* name; ///< a noun phrase such as "length of axis 1"
+};
+
+/// The roles that mean the same to every plot.
+inline constexpr PostDataRole c_colorData{PostDataObject::ColorData, "colour data"};
+inline constexpr PostDataRole c_heightData{PostDataObject::HeightData, "height data"};
+inline constexpr PostDataRole c_isoLevelData{PostDataObject::IsoLevelData, "iso level data"};
+
 /// How a plot reads a record: each access first tests that what it hands out is there and has the right shape, and
-/// throws std::invalid_argument with a text that names the plot and the role or field. A plot that fetches all its
-/// arrays before it allocates buffers fails before anything has changed.
+/// throws std::invalid_argument with a text that names the plot and the role or field. A view is made once for each
+/// fill; the plot's input fetches everything through it, so that a poor record is refused before anything has changed.
 ///
-/// Only counts are tested, at a cost that does not depend on the number of points. Values are the producer's duty:
-/// indices of elements in particular are not looked at. The view must not outlive the record.
+/// Only counts are tested, at a cost that does not depend on the number of points; all of them fit into an int. Values
+/// are the producer's duty: indices of elements in particular are not tested. The view must not outlive the record.
 class PostDataView {
 public:
     using DoubleArrays = PostDataObject::DoubleArrays;
@@ -24,54 +36,48 @@ public:
     /// Throws if the record has no group.
     PostDataView(const PostDataObject& record, const char* plot);
 
-    const PostDataObject& record() const { return m_record; }
     int plotKind() const { return m_record.m_plotKind; }
     int numGroups() const { return static_cast<int>(m_record.m_coordinates.size()); }
 
     /// The group's points.
     int numPoints(int group) const;
-    /// At least so many axes, all of the same length.
+    /// At least `minAxes` axes, all of the same length.
     const DoubleArrays& coordinates(int group, int minAxes) const;
     /// At least three arrays with an entry for each point.
     const FloatArrays& normals(int group) const;
 
-    /// Whether a group has element arrays at all.
-    bool hasElements(int group) const;
-    /// The group's elements, by the length of its corner arrays; 0 if it has no corner array.
-    int numElements(int group) const;
-    /// At least so many corner arrays, all of the same length.
+    /// At least `minCorners` corner arrays, all of the same length.
     const IntArrays& elements(int group, int minCorners) const;
     /// At least two arrays, all of the same length.
     const IntArrays& lineElements(int group) const;
 
     /// Whether a role is filled.
-    bool hasRole(int role) const { return dataIndex(role) >= 0; }
+    bool hasRole(const PostDataRole& role) const { return dataIndex(role) >= 0; }
     /// The data array of a filled role, with an entry for each point.
-    const std::vector<double>& data(int group, int role) const;
-    /// The data array of a filled role, of whatever length: a level may be told once for the whole group.
-    const std::vector<double>& levelData(int group, int role) const;
+    const std::vector<double>& data(int group, const PostDataRole& role) const;
+    /// The data array of a filled role, of any length: a level may be given once for the whole group.
+    const std::vector<double>& levelData(int group, const PostDataRole& role) const;
     /// Limits of a filled role in one group.
-    double dataMin(int group, int role) const;
-    double dataMax(int group, int role) const;
+    double dataMin(int group, const PostDataRole& role) const;
+    double dataMax(int group, const PostDataRole& role) const;
     /// Limits of a filled role over all groups.
-    double dataMin(int role) const;
-    double dataMax(int role) const;
+    double dataMin(const PostDataRole& role) const;
+    double dataMax(const PostDataRole& role) const;
 
-    /// Minimum and maximum of at least so many axes.
+    /// Minimum and maximum of at least `minAxes` axes.
     const DoubleArrays& bounds(int minAxes) const;
 
 private:
-    int dataIndex(int role) const;
+    int dataIndex(const PostDataRole& role) const;
     /// The array index of a role that must be filled.
-    std::size_t filledIndex(int role) const;
+    std::size_t filledIndex(const PostDataRole& role) const;
     template <class Entry>
     const Entry& entry(const std::vector<boost::shared_ptr<Entry>>& groups, int group, const char* field) const;
     template <class Arrays>
     const Arrays& equalArrays(const Arrays& arrays, int group, int minCount, const char* field) const;
-    double limit(const std::vector<boost::shared_ptr<std::vector<double>>>& limits, int group, int role,
+    double limit(const std::vector<boost::shared_ptr<std::vector<double>>>& limits, int group, const PostDataRole& role,
                  const char* field) const;
     std::string countText(std::size_t numValues, int group) const;
-    int countOf(std::size_t size, int group, const char* field) const;
     [[noreturn]] void fail(const std::string& text) const;
 
     const PostDataObject& m_record;

@@ -64,6 +64,8 @@ void IndexBuffer::internalAllocate(int numElements, int numSegments)
     if (m_numElements > 0) {
         deallocate();
     }
+    // One entry more than there are segments. Reserved first, so that a failure leaves no indices.
+    m_segmentStarts.reserve(hasIndices ? static_cast<std::size_t>(numSegments) + 1 : 1);
     if (hasIndices) {
         m_use32BitIndices = needs32Bit(m_vertexBuffer);
         const auto size = static_cast<std::size_t>(total);
@@ -72,8 +74,6 @@ void IndexBuffer::internalAllocate(int numElements, int numSegments)
         } else {
             m_indices16.reset(new unsigned short[size]);
         }
-        // One entry more than there are segments.
-        m_segmentStarts.reserve(static_cast<std::size_t>(numSegments) + 1);
         m_numIndices = static_cast<int>(total);
         m_numElements = numElements;
         m_numSegments = numSegments;

@@ -22,6 +22,21 @@ public:
     /// Appends triangles whose corners stand in three arrays, adding an offset to each index. Throws std::out_of_range,
     /// and appends none, if there is no room.
     void appendTriangles(const int* a, const int* b, const int* c, int count, int offset = 0);
+    /// The same without an offset, calling `each(a, b, c)` for every triangle on the way: one pass over the corners for
+    /// a fill that also computes with them.
+    template <class Each>
+    void appendTriangles(const int* a, const int* b, const int* c, int count, Each each)
+    {
+        requireRoom(count, 3);
+        append(3 * count, [=](auto* out) {
+            for (int i = 0; i < count; ++i, out += 3) {
+                put(out[0], a[i]);
+                put(out[1], b[i]);
+                put(out[2], c[i]);
+                each(a[i], b[i], c[i]);
+            }
+        });
+    }
 
     /// The corners of a triangle counted from the start of the array, across segments; the number is not tested.
     void getTriangle(int triangle, int& a, int& b, int& c) const;

@@ -6,11 +6,14 @@
 #include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/foundation/color.h"
 #include "graphics3d/foundation/textformat.h"
+#include "graphics3d/plots/colorscale.h"
+#include "graphics3d/plots/plottype.h"
 
 #include <boost/enable_shared_from_this.hpp>
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,7 +27,6 @@ namespace vxgraphics3d {
 class ColorTable;
 class SceneGraphPlotGroup;
 class TextureHandleStack;
-class VertexBufferTex;
 
 /// A plot: one record of post-processing results, turned into vertex and index buffers with a colour scale and a
 /// legend.
@@ -40,34 +42,7 @@ class VertexBufferTex;
 /// equality alone.
 class VX_API SceneGraphPlot : public boost::enable_shared_from_this<SceneGraphPlot> {
 public:
-    /// The kinds of plots. The numbers are fixed.
-    enum class PlotType : int {
-        arrow2d = 0,
-        arrow3d = 1,
-        contour = 2,
-        coordSys2d = 3,
-        coordSys3d = 4,
-        edge2d = 6,
-        edge3d = 7,
-        graph = 8,
-        interactive = 9,
-        isoSurface3d = 10,
-        mesh2d = 11,
-        mesh3d = 12,
-        pointLabel2d = 13,
-        pointLabel3d = 14,
-        principal2d = 15,
-        principal3d = 16,
-        ribbon3d = 17,
-        slice3d = 18,
-        sphere2d = 19,
-        sphere3d = 20,
-        surface2d = 21,
-        surface3d = 22,
-        tube2d = 23,
-        tube3d = 24,
-        domain3d = 25
-    };
+    using PlotType = vxgraphics3d::PlotType;
 
     /// What the value range of a fill came from.
     enum class ValueSource : int { none = 0, colorData = 1, isoData = 2 };
@@ -80,16 +55,16 @@ public:
     // Content
 
     /// Builds the buffers from a record, of which nothing is kept. The value range becomes that of the colour data, or
-    /// else of the iso level data, or else 0 to 1; legend limits follow it and a restriction falls away, while colours,
+    /// else of the iso level data, or else 0 to 1; legend limits follow it and a restriction is removed, while colours,
     /// symmetry, height scale and plane offset stay.
-    /// @throws std::invalid_argument if the record lacks what the plot reads; then nothing has changed. After any other
-    ///         failure the buffers may be empty, which counts as a change of geometry.
+    /// @throws std::invalid_argument if the record lacks what the plot reads; then nothing has changed
+    /// @throws std::bad_alloc if memory runs out; then either nothing has changed, or the plot has lost its buffers,
+    ///         which counts as a change of geometry, and keeps the value range, legend limits and colours of the new
+    ///         record without restriction. Either way it can be used and filled again.
     void fillPlot(const vxdatacarrier::PostDataObject& data);
 
     /// Stores the box, in scene units, and lets the plot group renew its own; an equal box changes nothing.
     void setBoundingBox(const BoundingBox& box);
-    /// Stores the box of a record's bounds; an axis that the bounds lack ranges from 0 to 0.
-    void setBoundingBox(const vxdatacarrier::PostDataObject& data);
     /// The box while the plot is active, otherwise an empty one.
     const BoundingBox& getBoundingBox() const;
     /// The box that the plot keeps, active or not.
@@ -97,16 +72,9 @@ public:
 
     // Legend and value restriction
 
-    /// Sets the data values at the ends of the legend, and ends automatic limits. With a symmetric colour table the
-    /// limits in force are plus and minus the larger magnitude of the two.
-    void setLegendLimits(double min, double max) { setLegendLimitsInternal(min, max); }
-    /// Lets the legend show the whole value range. The limits that getLegendMin() and getLegendMax() report stay as
-    /// they are until the next fill or resetValueRestrictions().
+    // The rules of these are those of ColorScale.
+    void setLegendLimits(double min, double max);
     void setAutoLegendLimits();
-    void setLegendLimitsInternal(double min, double max);
-
-    /// Hides what lies outside the limits, which are clamped to the value range; one that is not a number hides
-    /// nothing. Constant data are hidden as a whole if their value lies outside.
     void setValueRestrictions(double min, double max);
     void resetValueRestrictions();
 
@@ -169,26 +137,23 @@ public:
     PlotType getType() const { return m_type; }
     /// The number given by the creator, under which the plot stands in its group.
     int getId() const { return m_id; }
-    double getValueMin() const { return m_valueMin; }
-    double getValueMax() const { return m_valueMax; }
-    /// Where the minimum of the values lies on the legend: 0 at its minimum, 1 at its maximum.
-    float getDataTexMin() const { return m_dataTexMin; }
-    float getDataTexMax() const { return m_dataTexMax; }
-    bool isConstantData() const { return m_constantData; }
-    double getRequestedLegendMin() const { return m_requestedLegendMin; }
-    double getRequestedLegendMax() const { return m_requestedLegendMax; }
-    double getLegendMin() const { return m_legendMin; }
-    double getLegendMax() const { return m_legendMax; }
-    bool isAutoLegendLimits() const { return m_autoLegendLimits; }
-    /// Where the legend begins in the colour table, from 0 to 1.
-    float getLegendTexMin() const { return m_legendTexMin; }
-    float getLegendTexMax() const { return m_legendTexMax; }
-    bool hasValueRestrictions() const { return m_hasValueRestrictions; }
-    double getValueRestrictionMin() const { return m_valueRestrictionMin; }
-    double getValueRestrictionMax() const { return m_valueRestrictionMax; }
-    /// The restricted range as texture coordinates of the vertices; equal ones (0 and 0) hide everything.
-    float getRestrictionTexMin() const { return m_restrictionTexMin; }
-    float getRestrictionTexMax() const { return m_restrictionTexMax; }
+    double getValueMin() const { return m_colorScale.getValueMin(); }
+    double getValueMax() const { return m_colorScale.getValueMax(); }
+    float getDataTexMin() const { return m_colorScale.getDataTexMin(); }
+    float getDataTexMax() const { return m_colorScale.getDataTexMax(); }
+    bool isConstantData() const { return m_colorScale.isConstant(); }
+    double getRequestedLegendMin() const { return m_colorScale.getRequestedLegendMin(); }
+    double getRequestedLegendMax() const { return m_colorScale.getRequestedLegendMax(); }
+    double getLegendMin() const { return m_colorScale.getLegendMin(); }
+    double getLegendMax() const { return m_colorScale.getLegendMax(); }
+    bool isAutoLegendLimits() const { return m_colorScale.hasAutoLegendLimits(); }
+    float getLegendTexMin() const { return m_colorScale.getLegendTexMin(); }
+    float getLegendTexMax() const { return m_colorScale.getLegendTexMax(); }
+    bool hasValueRestrictions() const { return m_colorScale.hasRestriction(); }
+    double getValueRestrictionMin() const { return m_colorScale.getRestrictionMin(); }
+    double getValueRestrictionMax() const { return m_colorScale.getRestrictionMax(); }
+    float getRestrictionTexMin() const { return m_colorScale.getRestrictionTexMin(); }
+    float getRestrictionTexMax() const { return m_colorScale.getRestrictionTexMax(); }
     /// Whether a fill raised a two-dimensional plot by height data.
     bool hasHeightData() const { return m_hasHeightData; }
     float getHeightScale() const { return m_heightScale; }
@@ -201,7 +166,7 @@ public:
     const Color& getColor() const { return m_color; }
     bool isShowLegend() const { return m_showLegend; }
     bool isReverseColorTable() const { return m_reverseColorTable; }
-    bool isSymmetricColorTable() const { return m_symmetricColorTable; }
+    bool isSymmetricColorTable() const { return m_colorScale.isSymmetric(); }
     ValueSource getValueSource() const { return m_valueSource; }
     float getShininess() const { return m_shininess; }
 
@@ -218,25 +183,20 @@ public:
 protected:
     SceneGraphPlot(PlotType type, int id);
 
-    /// Builds the buffers of a record that passed checkData().
-    virtual void fillPlotImpl(const vxdatacarrier::PostDataObject& data) = 0;
+    /// Builds the buffers from what was fetched before.
+    using Fill = std::function<void()>;
+
+    /// Fetches everything that a fill reads, as one struct whose constructor takes the view, so that a record which
+    /// lacks some of it is refused with std::invalid_argument before anything has changed. The fill it returns holds
+    /// that struct and looks at the record no more; it runs once, while the record lives. It allocates all buffers
+    /// first, so that a failure leaves none of them half filled.
+    virtual Fill prepareFill(const vxdatacarrier::PostDataView& record) = 0;
     /// Takes the handles that the plot needs; false if the stack runs dry.
     virtual bool setTextureHandles(TextureHandleStack& stack) = 0;
     virtual void removeTextureHandles(TextureHandleStack& stack) = 0;
-    /// Fetches everything that the fill reads, so that a record which lacks some of it is refused with
-    /// std::invalid_argument before anything has changed. Costs nothing per point.
-    virtual void checkData(const vxdatacarrier::PostDataView& data) const;
 
-    /// The name of the plot's class, for messages.
-    const char* getTypeName() const;
+    // Services for fills
 
-    // Services for fillPlotImpl()
-
-    /// The factor that gives heights of group 0, with 0 included, a range as large as the plot is wide on average.
-    /// @param min, max receive the limits of the height data, unscaled
-    void computeHeightScale(const vxdatacarrier::PostDataObject& data, double& min, double& max, double& scale) const;
-    /// Fills `vertices` with the points of one group and the texture coordinates of their colour data, 0 without any.
-    void allocateVertices(const vxdatacarrier::PostDataObject& data, VertexBufferTex& vertices, int group) const;
     void markGeometryChanged() { m_geometryChangeId.raise(); }
     void setHasHeightData(bool hasHeightData) { m_hasHeightData = hasHeightData; }
 
@@ -246,23 +206,7 @@ private:
     ChangeNumber m_textureChangeId;
     PlotType m_type;
     int m_id;
-    double m_valueMin = 0.0;
-    double m_valueMax = 1.0;
-    float m_dataTexMin = 0.0f;
-    float m_dataTexMax = 1.0f;
-    bool m_constantData = false;
-    double m_requestedLegendMin = 0.0;
-    double m_requestedLegendMax = 1.0;
-    double m_legendMin = 0.0;
-    double m_legendMax = 1.0;
-    bool m_autoLegendLimits = false;
-    float m_legendTexMin = 0.0f;
-    float m_legendTexMax = 1.0f;
-    bool m_hasValueRestrictions = false;
-    double m_valueRestrictionMin = 0.0;
-    double m_valueRestrictionMax = 1.0;
-    float m_restrictionTexMin = 0.0f;
-    float m_restrictionTexMax = 1.0f;
+    ColorScale m_colorScale;
     bool m_hasHeightData = false;
     float m_heightScale = 1.0f;
     float m_plotPlaneOffset = 0.0f;
@@ -274,7 +218,6 @@ private:
     Color m_color{255, 255, 255, 255};
     bool m_showLegend = true;
     bool m_reverseColorTable = false;
-    bool m_symmetricColorTable = false;
     ValueSource m_valueSource = ValueSource::none;
     float m_shininess = 64.0f;
     BoundingBox m_boundingBox;

@@ -11,9 +11,15 @@ public:
     ValueScale(double min, double max) : m_min(min), m_factor(max - min > 0.0 ? 1.0 / (max - min) : 0.0) {}
 
     /// By the limits of a filled role in one group.
-    static ValueScale ofGroup(const vxdatacarrier::PostDataView& data, int group, int role)
+    static ValueScale ofGroup(const vxdatacarrier::PostDataView& record, int group,
+                              const vxdatacarrier::PostDataRole& role)
     {
-        return {data.dataMin(group, role), data.dataMax(group, role)};
+        return {record.dataMin(group, role), record.dataMax(group, role)};
+    }
+    /// By the limits of a filled role over all groups.
+    static ValueScale ofRecord(const vxdatacarrier::PostDataView& record, const vxdatacarrier::PostDataRole& role)
+    {
+        return {record.dataMin(role), record.dataMax(role)};
     }
 
     float operator()(double value) const { return static_cast<float>((value - m_min) * m_factor); }

@@ -63,18 +63,15 @@ TEST(PostDataView, handsOutWhatARecordHolds)
     EXPECT_EQ(view.numPoints(1), 2);
     EXPECT_EQ(&view.coordinates(1, 2), record.m_coordinates[1].get());
     EXPECT_EQ(&view.normals(0), record.m_normals[0].get());
-    EXPECT_EQ(view.numElements(0), 1);
-    EXPECT_EQ(view.numElements(1), 0);
-    EXPECT_EQ(view.elements(0, 3).size(), 3u);
-    EXPECT_FALSE(view.hasElements(2));
-    EXPECT_TRUE(view.hasRole(PostDataObject::ColorData));
-    EXPECT_FALSE(view.hasRole(PostDataObject::HeightData));
-    EXPECT_EQ(view.data(1, PostDataObject::ColorData), (std::vector<double>{-3, 3}));
-    EXPECT_EQ(view.levelData(1, PostDataObject::IsoLevelData), std::vector<double>{6});
-    EXPECT_EQ(view.dataMin(0, PostDataObject::ColorData), 1);
-    EXPECT_EQ(view.dataMax(1, PostDataObject::ColorData), 3);
-    EXPECT_EQ(view.dataMin(PostDataObject::ColorData), -3);
-    EXPECT_EQ(view.dataMax(PostDataObject::ColorData), 4);
+    EXPECT_EQ(&view.elements(0, 3), record.m_elements[0].get());
+    EXPECT_TRUE(view.hasRole(c_colorData));
+    EXPECT_FALSE(view.hasRole(c_heightData));
+    EXPECT_EQ(view.data(1, c_colorData), (std::vector<double>{-3, 3}));
+    EXPECT_EQ(view.levelData(1, c_isoLevelData), std::vector<double>{6});
+    EXPECT_EQ(view.dataMin(0, c_colorData), 1);
+    EXPECT_EQ(view.dataMax(1, c_colorData), 3);
+    EXPECT_EQ(view.dataMin(c_colorData), -3);
+    EXPECT_EQ(view.dataMax(c_colorData), 4);
     EXPECT_EQ(view.bounds(2)[1][1], 2);
 }
 
@@ -86,8 +83,7 @@ TEST(PostDataView, namesThePlotAndWhatIsWrong)
         std::string text;
     };
     constexpr int color = PostDataObject::ColorData;
-    constexpr int height = PostDataObject::HeightData;
-    const auto readColor = [](const PostDataView& view) { view.data(1, color); };
+    const auto readColor = [](const PostDataView& view) { view.data(1, c_colorData); };
     const auto unspoilt = [](PostDataObject&) {};
     const Case cases[] = {
         {[](PostDataObject& r) { r.m_coordinates.clear(); }, readColor, "the record has no group"},
@@ -98,9 +94,12 @@ TEST(PostDataView, namesThePlotAndWhatIsWrong)
          "coordinates of group 1 have arrays of different length"},
         {unspoilt, [](const PostDataView& v) { v.coordinates(0, 3); }, "coordinates of group 0 have 2 arrays, not 3"},
         {unspoilt, [](const PostDataView& v) { v.coordinates(-1, 1); }, "coordinates of group -1 are missing"},
-        {unspoilt, [](const PostDataView& v) { v.data(0, height); }, "role 4 (height data) is not filled"},
-        {unspoilt, [](const PostDataView& v) { v.data(0, 22); }, "there is no role 22"},
-        {unspoilt, [](const PostDataView& v) { v.hasRole(-1); }, "there is no role -1"},
+        {unspoilt, [](const PostDataView& v) { v.data(0, c_heightData); }, "role 4 (height data) is not filled"},
+        {unspoilt,
+         [](const PostDataView& v) {
+             v.data(0, {7, "length of axis 0"});
+         },
+         "role 7 (length of axis 0) is not filled"},
         {[](PostDataObject& r) { r.m_dataIndex[color] = 2; }, readColor,
          "role 0 (colour data) of group 1 names data array 2 of 2"},
         {[](PostDataObject& r) { r.m_data.pop_back(); }, readColor, "data of group 1 are missing"},
@@ -108,15 +107,15 @@ TEST(PostDataView, namesThePlotAndWhatIsWrong)
          "role 0 (colour data) of group 1 has 1 values for 2 points"},
         {[](PostDataObject& r) { (*r.m_data[1])[1].push_back(0); }, readColor,
          "role 0 (colour data) of group 1 has 3 values for 2 points"},
-        {[](PostDataObject& r) { r.m_dataMin[0]->pop_back(); }, [](const PostDataView& v) { v.dataMin(color); },
+        {[](PostDataObject& r) { r.m_dataMin[0]->pop_back(); }, [](const PostDataView& v) { v.dataMin(c_colorData); },
          "role 0 (colour data) of group 0 names entry 1 of 1 data minima"},
-        {[](PostDataObject& r) { r.m_dataMax.pop_back(); }, [](const PostDataView& v) { v.dataMax(color); },
+        {[](PostDataObject& r) { r.m_dataMax.pop_back(); }, [](const PostDataView& v) { v.dataMax(c_colorData); },
          "data maxima of group 1 are missing"},
         {[](PostDataObject& r) { r.m_normals[0]->pop_back(); }, [](const PostDataView& v) { v.normals(0); },
          "normals of group 0 have 2 arrays, not 3"},
         {unspoilt, [](const PostDataView& v) { v.normals(1); }, "normals of group 1 have 1 values for 2 points"},
         {unspoilt, [](const PostDataView& v) { v.elements(0, 4); }, "elements of group 0 have 3 arrays, not 4"},
-        {[](PostDataObject& r) { (*r.m_elements[0])[2].push_back(0); }, [](const PostDataView& v) { v.numElements(0); },
+        {[](PostDataObject& r) { (*r.m_elements[0])[2].push_back(0); }, [](const PostDataView& v) { v.elements(0, 3); },
          "elements of group 0 have arrays of different length"},
         {unspoilt, [](const PostDataView& v) { v.lineElements(0); }, "line elements of group 0 are missing"},
         {unspoilt, [](const PostDataView& v) { v.bounds(3); }, "the record has no bounds of 3 axes"},

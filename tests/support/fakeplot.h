@@ -14,19 +14,19 @@ public:
     void resetPlotData() override {}
     bool isValid() const override { return m_valid; }
 
-    using SceneGraphPlot::allocateVertices;
-    using SceneGraphPlot::computeHeightScale;
     using SceneGraphSingleTexturePlot::setTextureHandles;
 
     std::function<void()> m_onFill;
     bool m_valid = true;
 
 protected:
-    void fillPlotImpl(const vxdatacarrier::PostDataObject&) override
+    Fill prepareFill(const vxdatacarrier::PostDataView&) override
     {
-        if (m_onFill) {
-            m_onFill();
-        }
+        return [this] {
+            if (m_onFill) {
+                m_onFill();
+            }
+        };
     }
 };
 

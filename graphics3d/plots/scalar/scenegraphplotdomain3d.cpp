@@ -1,50 +1,52 @@
 #include "graphics3d/plots/scalar/scenegraphplotdomain3d.h"
 
 #include "datacarrier/postdataview.h"
-#include "graphics3d/plots/scalar/surfacefill.h"
-#include "graphics3d/plots/valuescale.h"
+#include "graphics3d/plots/plotfill.h"
 
-using vxdatacarrier::PostDataObject;
+using vxdatacarrier::c_colorData;
 using vxdatacarrier::PostDataView;
 
 namespace vxgraphics3d {
 
-SceneGraphPlotDomain3d::SceneGraphPlotDomain3d(int id)
-    : SceneGraphSingleTexturePlot(PlotType::domain3d, id), m_triangles(m_vertices)
-{}
+struct SceneGraphPlotDomain3d::Input {
+    explicit Input(const PostDataView& record)
+        : box(boxOf(record.bounds(3), 3)),
+          positions(record, 0, 3),
+          normals(record, 0),
+          colors(record, 0, c_colorData, ValueScale::ofGroup(record, 0, c_colorData)),
+          triangles(record, 0)
+    {}
+
+    BoundingBox box;
+    PointPositions positions;
+    PointNormals normals;
+    PointColors colors;
+    TriangleCorners triangles;
+};
+
+SceneGraphPlotDomain3d::SceneGraphPlotDomain3d(int id) : SceneGraphSingleTexturePlot(PlotType::domain3d, id) {}
 
 SceneGraphPlotDomain3d::~SceneGraphPlotDomain3d() = default;
 
 void SceneGraphPlotDomain3d::resetPlotData()
 {
-    m_vertices.deallocate();
-    m_triangles.deallocate();
+    m_mesh.deallocate();
 }
 
 bool SceneGraphPlotDomain3d::isValid() const
 {
-    return m_vertices.getNumberOfVertices() > 0 && m_triangles.getNumElements(0) > 0;
+    return m_mesh.isValid();
 }
 
-void SceneGraphPlotDomain3d::checkData(const PostDataView& data) const
+SceneGraphPlot::Fill SceneGraphPlotDomain3d::prepareFill(const PostDataView& record)
 {
-    data.bounds(3);
-    data.numPoints(0);
-    data.coordinates(0, 3);
-    data.normals(0);
-    data.data(0, PostDataObject::ColorData);
-    data.elements(0, 3);
-    data.numElements(0);
+    return [this, input = Input(record)] { fillPlotImpl(input); };
 }
 
-void SceneGraphPlotDomain3d::fillPlotImpl(const PostDataObject& record)
+void SceneGraphPlotDomain3d::fillPlotImpl(const Input& input)
 {
-    const PostDataView data(record, getTypeName());
-    setBoundingBox(BoundingBox(data.bounds(3)));
-    m_vertices.allocate(data.numPoints(0));
-    appendPoints(m_vertices, data.coordinates(0, 3), data.normals(0), &data.data(0, PostDataObject::ColorData),
-                 ValueScale::ofGroup(data, 0, PostDataObject::ColorData));
-    fillTriangles(m_triangles, data.elements(0, 3));
+    fillSurface(m_mesh, input.positions, input.normals, input.colors, input.triangles);
+    setBoundingBox(input.box);
 }
 
 } // namespace vxgraphics3d

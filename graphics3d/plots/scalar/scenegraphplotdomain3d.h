@@ -1,8 +1,7 @@
 #pragma once
 
-#include "graphics3d/buffers/indexbuffertriangles.h"
-#include "graphics3d/buffers/vertexbuffernormaltex.h"
 #include "graphics3d/plots/scenegraphsingletextureplot.h"
+#include "graphics3d/plots/surfacemesh.h"
 
 namespace vxgraphics3d {
 
@@ -16,16 +15,17 @@ public:
     /// Whether there are vertices and triangles.
     bool isValid() const override;
 
-    const VertexBufferNormalTex& getVertices() const { return m_vertices; }
-    const IndexBufferTriangles& getTriangles() const { return m_triangles; }
+    const VertexBufferNormalTex& getVertices() const { return m_mesh.vertices; }
+    const IndexBufferTriangles& getTriangles() const { return m_mesh.indices; }
 
 protected:
-    void fillPlotImpl(const vxdatacarrier::PostDataObject& record) override;
-    void checkData(const vxdatacarrier::PostDataView& data) const override;
+    Fill prepareFill(const vxdatacarrier::PostDataView& record) override;
 
 private:
-    VertexBufferNormalTex m_vertices;
-    IndexBufferTriangles m_triangles;
+    struct Input;
+    void fillPlotImpl(const Input& input);
+
+    SurfaceMesh m_mesh;
 };
 
 } // namespace vxgraphics3d

@@ -2,22 +2,19 @@
 
 namespace vxgraphics3d {
 
-SceneGraphPlotSurface::SceneGraphPlotSurface(PlotType type, int id)
-    : SceneGraphSingleTexturePlot(type, id), m_triangles(m_vertices)
-{}
+SceneGraphPlotSurface::SceneGraphPlotSurface(PlotType type, int id) : SceneGraphSingleTexturePlot(type, id) {}
 
 SceneGraphPlotSurface::~SceneGraphPlotSurface() = default;
 
 void SceneGraphPlotSurface::resetPlotData()
 {
-    m_vertices.deallocate();
-    m_triangles.deallocate();
+    m_mesh.deallocate();
     markGeometryChanged();
 }
 
 bool SceneGraphPlotSurface::isValid() const
 {
-    return m_vertices.getNumberOfVertices() > 0 && m_triangles.getNumElements(0) > 0;
+    return m_mesh.isValid();
 }
 
 } // namespace vxgraphics3d

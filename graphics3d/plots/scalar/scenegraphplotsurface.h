@@ -1,8 +1,7 @@
 #pragma once
 
-#include "graphics3d/buffers/indexbuffertriangles.h"
-#include "graphics3d/buffers/vertexbuffernormaltex.h"
 #include "graphics3d/plots/scenegraphsingletextureplot.h"
+#include "graphics3d/plots/surfacemesh.h"
 
 namespace vxgraphics3d {
 
@@ -16,18 +15,16 @@ public:
     /// Whether there are vertices and triangles.
     bool isValid() const override;
 
-    const VertexBufferNormalTex& getVertices() const { return m_vertices; }
-    const IndexBufferTriangles& getTriangles() const { return m_triangles; }
+    const VertexBufferNormalTex& getVertices() const { return m_mesh.vertices; }
+    const IndexBufferTriangles& getTriangles() const { return m_mesh.indices; }
 
 protected:
     SceneGraphPlotSurface(PlotType type, int id);
 
-    VertexBufferNormalTex& vertices() { return m_vertices; }
-    IndexBufferTriangles& triangles() { return m_triangles; }
+    SurfaceMesh& mesh() { return m_mesh; }
 
 private:
-    VertexBufferNormalTex m_vertices;
-    IndexBufferTriangles m_triangles;
+    SurfaceMesh m_mesh;
 };
 
 } // namespace vxgraphics3d

@@ -16,12 +16,11 @@ public:
     ~SceneGraphPlotSurface2d() override;
 
 protected:
-    void fillPlotImpl(const vxdatacarrier::PostDataObject& record) override;
-    void checkData(const vxdatacarrier::PostDataView& data) const override;
+    Fill prepareFill(const vxdatacarrier::PostDataView& record) override;
 
 private:
-    void fillFlat(const vxdatacarrier::PostDataView& data);
-    void fillRaised(const vxdatacarrier::PostDataView& data);
+    struct Input;
+    void fillPlotImpl(const Input& input);
 };
 
 } // namespace vxgraphics3d

@@ -1,53 +1,46 @@
 #include "graphics3d/plots/scalar/scenegraphplotsurface3d.h"
 
 #include "datacarrier/postdataview.h"
-#include "graphics3d/plots/scalar/surfacefill.h"
-#include "graphics3d/plots/valuescale.h"
+#include "graphics3d/plots/plotfill.h"
 
+using vxdatacarrier::c_colorData;
 using vxdatacarrier::PostDataObject;
 using vxdatacarrier::PostDataView;
 
 namespace vxgraphics3d {
 
-namespace {
+struct SceneGraphPlotSurface3d::Input {
+    explicit Input(const PostDataView& record) : Input(record, record.plotKind() == PostDataObject::Surface2d) {}
 
-bool isFlat(const PostDataView& data)
-{
-    return data.plotKind() == PostDataObject::Surface2d;
-}
+    BoundingBox box;
+    PointPositions positions;
+    PointNormals normals;
+    PointColors colors;
+    TriangleCorners triangles;
 
-} // namespace
+private:
+    Input(const PostDataView& record, bool flat)
+        : box(boxOf(record.bounds(1), 3)),
+          positions(record, 0, flat ? 2 : 3),
+          normals(flat ? PointNormals(Vector3f(0.0f, 0.0f, 1.0f)) : PointNormals(record, 0)),
+          colors(record, 0, c_colorData, ValueScale::ofGroup(record, 0, c_colorData)),
+          triangles(record, 0)
+    {}
+};
 
 SceneGraphPlotSurface3d::SceneGraphPlotSurface3d(int id) : SceneGraphPlotSurface(PlotType::surface3d, id) {}
 
 SceneGraphPlotSurface3d::~SceneGraphPlotSurface3d() = default;
 
-void SceneGraphPlotSurface3d::checkData(const PostDataView& data) const
+SceneGraphPlot::Fill SceneGraphPlotSurface3d::prepareFill(const PostDataView& record)
 {
-    data.bounds(1);
-    data.numPoints(0);
-    data.coordinates(0, isFlat(data) ? 2 : 3);
-    if (!isFlat(data)) {
-        data.normals(0);
-    }
-    data.data(0, PostDataObject::ColorData);
-    data.elements(0, 3);
-    data.numElements(0);
+    return [this, input = Input(record)] { fillPlotImpl(input); };
 }
 
-void SceneGraphPlotSurface3d::fillPlotImpl(const PostDataObject& record)
+void SceneGraphPlotSurface3d::fillPlotImpl(const Input& input)
 {
-    const PostDataView data(record, getTypeName());
-    const ValueScale scale = ValueScale::ofGroup(data, 0, PostDataObject::ColorData);
-    const std::vector<double>& values = data.data(0, PostDataObject::ColorData);
-    setBoundingBox(record);
-    vertices().allocate(data.numPoints(0));
-    if (isFlat(data)) {
-        appendFlatPoints(vertices(), data.coordinates(0, 2), &values, scale);
-    } else {
-        appendPoints(vertices(), data.coordinates(0, 3), data.normals(0), &values, scale);
-    }
-    fillTriangles(triangles(), data.elements(0, 3));
+    fillSurface(mesh(), input.positions, input.normals, input.colors, input.triangles);
+    setBoundingBox(input.box);
 }
 
 } // namespace vxgraphics3d

@@ -12,8 +12,11 @@ public:
     ~SceneGraphPlotSurface3d() override;
 
 protected:
-    void fillPlotImpl(const vxdatacarrier::PostDataObject& record) override;
-    void checkData(const vxdatacarrier::PostDataView& data) const override;
+    Fill prepareFill(const vxdatacarrier::PostDataView& record) override;
+
+private:
+    struct Input;
+    void fillPlotImpl(const Input& input);
 };
 
 } // namespace vxgraphics3d

@@ -1,6 +1,5 @@
 #include "graphics3d/plots/scenegraphplot.h"
 
-#include "graphics3d/buffers/vertexbuffertex.h"
 #include "graphics3d/plots/colour/colortable.h"
 #include "graphics3d/plots/colour/colortablehandler.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
@@ -25,7 +24,6 @@ using Record = vxdatacarrier::PostDataObject;
 using Source = SceneGraphPlot::ValueSource;
 
 constexpr double c_infinity = std::numeric_limits<double>::infinity();
-constexpr double c_nan = std::numeric_limits<double>::quiet_NaN();
 
 /// How far the three change numbers of a plot have moved since this was made.
 class Moved {
@@ -220,140 +218,30 @@ TEST(SceneGraphPlot, fillPlot_countsGeometryWhenTheBuffersFail)
     EXPECT_EQ(moved.now(), (Numbers{1, 1, 2}));
 }
 
-TEST(SceneGraphPlot, setLegendLimits_placesTheDataOnTheLegend)
-{
-    struct Case {
-        double dataMin, dataMax, legendMin, legendMax;
-        Floats expected;
-    };
-    for (const Case& c :
-         {Case{0.0, 10.0, -10.0, 30.0, {0.25f, 0.5f, 0.0f, 1.0f}}, Case{0.0, 10.0, 4.0, 5.0, {-4.0f, 6.0f, 0.0f, 1.0f}},
-          Case{0.0, 10.0, 10.0, 0.0, {1.0f, 0.0f, 0.0f, 1.0f}}, Case{0.0, 10.0, 3.0, 3.0, {0.5f, 0.5f, 0.5f, 0.5f}},
-          Case{5.0, 5.0, 0.0, 10.0, {0.5f, 0.5f, 0.0f, 1.0f}}, Case{5.0, 5.0, 5.0, 5.0, {0.5f, 0.5f, 0.5f, 0.5f}}}) {
-        FakePlot plot(1);
-        plot.fillPlot(rangeRecord(c.dataMin, c.dataMax));
-        const Moved moved(plot);
-        plot.setLegendLimits(c.legendMin, c.legendMax);
-        EXPECT_EQ(legendFloats(plot), c.expected) << c.legendMin << " to " << c.legendMax;
-        EXPECT_EQ(legend(plot), (Doubles{c.legendMin, c.legendMax}));
-        EXPECT_FALSE(plot.isAutoLegendLimits());
-        EXPECT_EQ(moved.now(), (Numbers{0, 0, 1}));
-    }
-}
-
-TEST(SceneGraphPlot, setLegendLimits_computesInDoubleBeforeItNarrows)
-{
-    FakePlot plot(1);
-    plot.fillPlot(rangeRecord(1.0e9, 1.0e9 + 3.0)); // floats cannot tell these two apart
-    plot.setLegendLimits(1.0e9 - 1.0, 1.0e9 + 7.0);
-    EXPECT_EQ(legendFloats(plot), (Floats{0.125f, 0.5f, 0.0f, 1.0f}));
-}
-
-TEST(SceneGraphPlot, constantDataFillTheLegendWithTheirOneValue)
-{
-    FakePlot plot(1);
-    plot.fillPlot(rangeRecord(5.0, 5.0));
-    EXPECT_TRUE(plot.isConstantData());
-    EXPECT_EQ(legendFloats(plot), (Floats{0.5f, 0.5f, 0.5f, 0.5f}));
-    EXPECT_EQ(legend(plot), (Doubles{5.0, 5.0}));
-}
-
-TEST(SceneGraphPlot, setAutoLegendLimits_resetsTheFloatsAndLeavesTheLimitsInForce)
-{
-    for (const bool constant : {false, true}) {
-        FakePlot plot(1);
-        plot.fillPlot(rangeRecord(2.0, constant ? 2.0 : 4.0));
-        plot.setLegendLimits(-1.0, 9.0);
-        const Moved moved(plot);
-        plot.setAutoLegendLimits();
-        EXPECT_EQ(legendFloats(plot), constant ? (Floats{0.5f, 0.5f, 0.5f, 0.5f}) : (Floats{0.0f, 1.0f, 0.0f, 1.0f}));
-        EXPECT_EQ(legend(plot), (Doubles{-1.0, 9.0}));
-        EXPECT_TRUE(plot.isAutoLegendLimits());
-        EXPECT_EQ(moved.now(), (Numbers{0, 0, 1}));
-    }
-}
-
-TEST(SceneGraphPlot, setSymmetricColorTable_appliesTheRequestedLimitsEitherWay)
+TEST(SceneGraphPlot, legendAndRestrictionCountWhatARendererMustReadAgain)
 {
     FakePlot plot(1);
     plot.fillPlot(rangeRecord(0.0, 1.0));
+    const Moved moved(plot);
     plot.setLegendLimits(-2.0, 1.0);
+    EXPECT_EQ(moved.now(), (Numbers{0, 0, 1}));
     plot.setAutoLegendLimits();
-    const Moved moved(plot);
+    EXPECT_EQ(moved.now(), (Numbers{0, 0, 2}));
     plot.setSymmetricColorTable(true);
+    plot.setSymmetricColorTable(true);
+    EXPECT_EQ(moved.now(), (Numbers{0, 1, 3}));
     EXPECT_EQ(legend(plot), (Doubles{-2.0, 2.0}));
-    EXPECT_FALSE(plot.isAutoLegendLimits());
-    EXPECT_EQ(moved.now(), (Numbers{0, 1, 1}));
-    plot.setSymmetricColorTable(true);
-    EXPECT_EQ(moved.now(), (Numbers{0, 1, 1}));
-    plot.setSymmetricColorTable(false);
-    EXPECT_EQ(legend(plot), (Doubles{-2.0, 1.0}));
-    EXPECT_EQ(moved.now(), (Numbers{0, 2, 2}));
-}
-
-TEST(SceneGraphPlot, setReverseColorTable_countsAChangeOfColourOnly)
-{
-    FakePlot plot(1);
-    const Moved moved(plot);
     plot.setReverseColorTable(true);
     plot.setReverseColorTable(true);
-    EXPECT_EQ(moved.now(), (Numbers{0, 1, 0}));
-}
-
-TEST(SceneGraphPlot, setValueRestrictions_storesClampedLimits)
-{
-    struct Case {
-        double dataMax, min, max;
-        Doubles stored;
-        Floats floats;
-    };
-    for (const Case& c :
-         {Case{8.0, 2.0, 6.0, {2.0, 6.0}, {0.25f, 0.75f}}, Case{8.0, -100.0, 100.0, {0.0, 8.0}, {0.0f, 1.0f}},
-          Case{8.0, -3.0, -2.0, {0.0, 0.0}, {0.0f, 0.0f}}, Case{8.0, 9.0, 10.0, {8.0, 8.0}, {1.0f, 1.0f}},
-          Case{8.0, -c_infinity, 2.0, {0.0, 2.0}, {0.0f, 0.25f}}, Case{8.0, 4.0, c_infinity, {4.0, 8.0}, {0.5f, 1.0f}},
-          Case{8.0, c_nan, 2.0, {0.0, 2.0}, {0.0f, 0.25f}}, Case{8.0, 4.0, c_nan, {4.0, 8.0}, {0.5f, 1.0f}},
-          Case{0.0, c_nan, c_nan, {0.0, 0.0}, {0.0f, 1.0f}}, Case{0.0, c_nan, -1.0, {0.0, 0.0}, {0.0f, 0.0f}},
-          Case{0.0, -1.0, 1.0, {0.0, 0.0}, {0.0f, 1.0f}}, Case{0.0, 0.0, 0.0, {0.0, 0.0}, {0.0f, 1.0f}},
-          Case{0.0, 1.0, 3.0, {0.0, 0.0}, {0.0f, 0.0f}}, Case{0.0, -3.0, -1.0, {0.0, 0.0}, {0.0f, 0.0f}}}) {
-        FakePlot plot(1);
-        plot.fillPlot(rangeRecord(0.0, c.dataMax));
-        plot.setValueRestrictions(c.min, c.max);
-        EXPECT_TRUE(plot.hasValueRestrictions());
-        EXPECT_EQ(restriction(plot), c.stored) << c.min << " to " << c.max;
-        EXPECT_EQ(restrictionFloats(plot), c.floats) << c.min << " to " << c.max;
-    }
-}
-
-TEST(SceneGraphPlot, valueRestrictions_countGeometryWhenTheyComeAndGo)
-{
-    FakePlot plot(1);
-    plot.fillPlot(rangeRecord(0.0, 1.0));
-    const Moved moved(plot);
+    EXPECT_EQ(moved.now(), (Numbers{0, 2, 3}));
     plot.setValueRestrictions(-100.0, 100.0);
-    EXPECT_EQ(moved.now(), (Numbers{1, 0, 1}));
+    EXPECT_EQ(moved.now(), (Numbers{1, 2, 4}));
     plot.setValueRestrictions(0.1, 0.2);
-    EXPECT_EQ(moved.now(), (Numbers{1, 0, 2}));
+    EXPECT_EQ(moved.now(), (Numbers{1, 2, 5}));
     plot.resetValueRestrictions();
-    EXPECT_EQ(moved.now(), (Numbers{2, 0, 3}));
+    EXPECT_EQ(moved.now(), (Numbers{2, 2, 6}));
     plot.resetValueRestrictions();
-    EXPECT_EQ(moved.now(), (Numbers{2, 0, 4}));
-}
-
-TEST(SceneGraphPlot, resetValueRestrictions_writesThePlainRangeUnderAutomaticLimits)
-{
-    FakePlot plot(1);
-    plot.setSymmetricColorTable(true);
-    plot.fillPlot(rangeRecord(-1.0, 3.0));
-    plot.setValueRestrictions(0.0, 1.0);
-    plot.resetValueRestrictions();
-    EXPECT_FALSE(plot.hasValueRestrictions());
-    EXPECT_EQ(restriction(plot), (Doubles{-1.0, 3.0}));
-    EXPECT_EQ(restrictionFloats(plot), (Floats{0.0f, 1.0f}));
-    EXPECT_EQ(legend(plot), (Doubles{-1.0, 3.0}));
-
-    plot.setLegendLimits(-7.0, 5.0);
-    plot.resetValueRestrictions();
-    EXPECT_EQ(legend(plot), (Doubles{-7.0, 7.0}));
+    EXPECT_EQ(moved.now(), (Numbers{2, 2, 7}));
 }
 
 TEST(SceneGraphPlot, setColorTable_makesATableOnceForAName)
@@ -420,18 +308,6 @@ TEST(SceneGraphPlot, setShininess_clampsToTheSpecularRange)
         EXPECT_EQ(plot.getShininess(), stored);
     }
     EXPECT_EQ(moved.now(), (Numbers{0, 0, 0}));
-}
-
-TEST(SceneGraphPlot, setBoundingBox_fillsMissingAxesOfTheBoundsWithZero)
-{
-    FakePlot plot(1);
-    PostRecord record = rangeRecord(0.0, 1.0);
-    plot.setBoundingBox(record.bounds({{1.0, 2.0}}));
-    EXPECT_EQ(limitsOf(plot.getBoundingBox()), (Floats{1, 2, 0, 0, 0, 0}));
-    plot.setBoundingBox(record.bounds({{1.0, 2.0}, {3.0, 5.0}}));
-    EXPECT_EQ(limitsOf(plot.getBoundingBox()), (Floats{1, 2, 3, 5, 0, 0}));
-    plot.setBoundingBox(record.bounds({{1.0, 2.0}, {3.0, 5.0}, {-4.0, 8.0}}));
-    EXPECT_EQ(limitsOf(plot.getBoundingBox()), (Floats{1, 2, 3, 5, -4, 8}));
 }
 
 TEST(SceneGraphPlot, setHeightScale_growsTheBoxAboutThePlotPlane)
@@ -527,57 +403,6 @@ TEST(SceneGraphPlot, aGroupThatHasDiedCountsAsNone)
     plot->setBoundingBox(BoundingBox(0.0f, 1.0f, 0.0f, 1.0f, 0.0f, 1.0f));
     plot->setActive(false);
     EXPECT_FALSE(plot->isActive());
-}
-
-TEST(SceneGraphPlot, computeHeightScale_givesHeightsTheMeanWidthOfThePlot)
-{
-    struct Case {
-        double min, max;
-        Record::DoubleArrays bounds;
-        double scale;
-    };
-    for (const Case& c : {Case{2.0, 4.0, {{0.0, 8.0}}, 2.0},                           // 8 over 0 to 4
-                          Case{-4.0, -2.0, {{0.0, 8.0}, {0.0, 4.0}}, 1.5},             // 6 over -4 to 0
-                          Case{-1.0, 1.0, {{0.0, 8.0}, {0.0, 4.0}, {0.0, 99.0}}, 3.0}, // the third axis does not count
-                          Case{0.0, 0.0, {{0.0, 8.0}}, 1.0}}) {
-        const PostRecord record = rangeRecord(c.min, c.max).role(0, -1).role(4, 0).bounds(c.bounds);
-        double min = 0.0;
-        double max = 0.0;
-        double scale = 0.0;
-        FakePlot(1).computeHeightScale(record, min, max, scale);
-        EXPECT_EQ((Doubles{min, max, scale}), (Doubles{c.min, c.max, c.scale}));
-    }
-}
-
-TEST(SceneGraphPlot, allocateVertices_placesTheColourDataOfOneGroup)
-{
-    PostRecord record = PostRecord().role(0, 1);
-    record.group({{9.0}}, {}, {{0.0}, {0.0}});
-    record.group({{1.0, 2.0}, {3.0, 4.0}, {5.0, 6.0}}, {}, {{0.0, 0.0}, {10.0, 30.0}}).limits(1, 1, 10.0, 90.0);
-    VertexBufferTex vertices;
-    FakePlot(1).allocateVertices(record, vertices, 1);
-    ASSERT_EQ(vertices.getNumberOfVertices(), 2);
-    EXPECT_EQ(vertices.getCapacity(), 2);
-    EXPECT_EQ(vertices.getCoord(1), Vector3f(2.0f, 4.0f, 6.0f));
-    EXPECT_EQ(vertices.vertices()[0].u, 0.0f);
-    EXPECT_EQ(vertices.vertices()[1].u, 0.25f);
-    EXPECT_EQ(vertices.vertices()[1].v, 0.0f);
-}
-
-TEST(SceneGraphPlot, allocateVertices_takesMissingAxesAndColoursAsZero)
-{
-    struct Case {
-        Record::DoubleArrays coordinates;
-        int role;
-        Vector3f position;
-    };
-    for (const Case& c : {Case{{{1.0}}, -1, {1.0f, 0.0f, 0.0f}}, Case{{{1.0}, {2.0}}, 0, {1.0f, 2.0f, 0.0f}}}) {
-        const PostRecord record = PostRecord().role(0, c.role).group(c.coordinates, {}, {{7.0}});
-        VertexBufferTex vertices;
-        FakePlot(1).allocateVertices(record, vertices, 0);
-        EXPECT_EQ(vertices.getCoord(0), c.position);
-        EXPECT_EQ(vertices.vertices()[0].u, 0.0f); // the one value is constant data
-    }
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "graphics3d/plots/scalar/scenegraphplotdomain3d.h"
 #include "graphics3d/plots/scalar/scenegraphplotsurface2d.h"
 #include "graphics3d/plots/scalar/scenegraphplotsurface3d.h"
+#include "tests/support/failingallocation.h"
 #include "tests/support/postrecord.h"
 
 #include <gtest/gtest.h>
@@ -281,6 +282,42 @@ TEST(SurfacePlots, withoutTrianglesOrPointsTheyAreNotValid)
         EXPECT_EQ(plot.getVertices().getCapacity(), 0);
         EXPECT_FALSE(plot.isValid());
     }
+}
+
+template <class Plot>
+void expectToSurviveFailures(const PostRecord& first, const PostRecord& second)
+{
+    Plot plot(1);
+    plot.fillPlot(first);
+    const std::vector<Vertex> expected = verticesOf(plot);
+    int geometry = plot.getGeometryChangeId();
+    const auto fill = [&] { plot.fillPlot(second); };
+    const long failures = failEachAllocation(fill, [&] {
+        if (plot.getGeometryChangeId() == geometry) {
+            EXPECT_EQ(verticesOf(plot), expected); // refused before anything changed
+        } else {
+            EXPECT_FALSE(plot.isValid());
+            EXPECT_EQ(plot.getVertices().getCapacity(), -1);
+            EXPECT_EQ(plot.getTriangles().getNumIndices(), 0);
+            EXPECT_FALSE(plot.hasValueRestrictions());
+        }
+        plot.resetPlotData();
+        plot.fillPlot(first);
+        EXPECT_EQ(verticesOf(plot), expected);
+        EXPECT_EQ(trianglesOf(plot).size(), 1u);
+        geometry = plot.getGeometryChangeId();
+    });
+    EXPECT_GE(failures, 3); // vertices, indices, segments
+}
+
+TEST(SurfacePlots, fill_thatRunsOutOfMemoryLeavesNoBuffersAndAPlotThatFillsAgain)
+{
+    PostRecord triangleInSpace = spatialSquare();
+    triangleInSpace.record().m_elements[0] = boost::make_shared<Record::IntArrays>(Record::IntArrays{{0}, {1}, {2}});
+    expectToSurviveFailures<SceneGraphPlotSurface2d>(flatTriangle(), raisedTriangle({1.0, 2.0, 3.0}));
+    expectToSurviveFailures<SceneGraphPlotSurface2d>(raisedTriangle({1.0, 2.0, 3.0}), flatTriangle());
+    expectToSurviveFailures<SceneGraphPlotSurface3d>(triangleInSpace, spatialSquare());
+    expectToSurviveFailures<SceneGraphPlotDomain3d>(triangleInSpace, spatialSquare());
 }
 
 /// What a record lacks, and a part of the message that says so.

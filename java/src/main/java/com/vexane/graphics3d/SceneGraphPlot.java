@@ -55,9 +55,12 @@ public abstract class SceneGraphPlot extends NativePeer {
      * Fills the plot from a record. The legend limits follow the values of the record again and a value restriction is
      * removed; colours, symmetry, height scale, offset and title stay. The plot keeps no reference to the record.
      *
+     * <p>If native memory runs out during the fill, either nothing has changed, or the plot has lost its buffers, draws
+     * nothing and already shows the value range and legend limits of the new record. It can be filled again.
+     *
      * @param record the peer of a record of post-processing results
      * @throws NativeException if the peer is not a record, or if the record lacks something that this plot draws; the
-     *     message names it, and the plot is unchanged
+     *     message names it, and the plot is unchanged; or if memory runs out
      * @throws NullPointerException if the record is null
      * @throws IllegalStateException if the record's peer is closed
      */

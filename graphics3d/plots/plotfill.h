@@ -1,0 +1,29 @@
+#pragma once
+
+#include "graphics3d/plots/plotinput.h"
+#include "graphics3d/plots/surfacemesh.h"
+
+namespace vxgraphics3d {
+
+class IndexBufferLines;
+class VertexBufferTex;
+
+// From the inputs of a plot straight into its buffers.
+
+/// Appends every point to a buffer that has space for them.
+void appendPoints(VertexBufferNormalTex& vertices, const PointPositions& positions, const PointNormals& normals,
+                  const PointColors& colors);
+/// Appends every point to a buffer that has space for them.
+void appendPoints(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors);
+
+/// Allocates the mesh, then fills it with all points and triangles in their order.
+void fillSurface(SurfaceMesh& mesh, const PointPositions& positions, const PointNormals& normals,
+                 const PointColors& colors, const TriangleCorners& triangles);
+/// Does the same for points that heights raise. The normal of a point is the sum of the normals of its triangles, each
+/// as long as twice the triangle's area, at length 1; (0, 0, 0) for a point without triangles.
+void fillRaisedSurface(SurfaceMesh& mesh, const PointPositions& positions, const HeightMap& heights,
+                       const PointColors& colors, const TriangleCorners& triangles);
+/// Allocates one segment for all lines and appends them in their order. The vertex buffer must have been allocated.
+void fillLines(IndexBufferLines& lines, const LineEnds& ends);
+
+} // namespace vxgraphics3d

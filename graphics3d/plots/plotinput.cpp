@@ -1,0 +1,98 @@
+#include "graphics3d/plots/plotinput.h"
+
+#include <algorithm>
+
+using vxdatacarrier::c_heightData;
+using vxdatacarrier::PostDataObject;
+using vxdatacarrier::PostDataRole;
+using vxdatacarrier::PostDataView;
+
+namespace vxgraphics3d {
+
+namespace {
+
+/// The factor that gives heights, with 0 included, a range equal to the mean extent of the bounds in x and y.
+double heightScale(double min, double max, const PostDataObject::DoubleArrays& bounds)
+{
+    const double range = std::max(max, 0.0) - std::min(min, 0.0);
+    double span = bounds[0][1] - bounds[0][0];
+    if (bounds.size() > 1) {
+        span = (span + (bounds[1][1] - bounds[1][0])) / 2.0;
+    }
+    return range > 0.0 ? span / range : 1.0;
+}
+
+} // namespace
+
+PointPositions::PointPositions(const PostDataView& record, int group, int numAxes)
+    : PointPositions(record.coordinates(group, numAxes), numAxes)
+{}
+
+PointPositions PointPositions::ofAnyAxes(const PostDataView& record, int group)
+{
+    const PostDataObject::DoubleArrays& coordinates = record.coordinates(group, 1);
+    return {coordinates, static_cast<int>(coordinates.size())};
+}
+
+PointPositions::PointPositions(const PostDataObject::DoubleArrays& coordinates, int numAxes)
+    : count(static_cast<int>(coordinates[0].size())),
+      x(coordinates[0].data()),
+      y(numAxes > 1 ? coordinates[1].data() : nullptr),
+      z(numAxes == 3 ? coordinates[2].data() : nullptr)
+{}
+
+PointNormals::PointNormals(const PostDataView& record, int group)
+{
+    const PostDataObject::FloatArrays& normals = record.normals(group);
+    x = normals[0].data();
+    y = normals[1].data();
+    z = normals[2].data();
+}
+
+PointColors::PointColors(const PostDataView& record, int group, const PostDataRole& role, const ValueScale& valueScale)
+    : values(record.data(group, role).data()), scale(valueScale)
+{}
+
+TriangleCorners::TriangleCorners(const PostDataView& record, int group)
+{
+    const PostDataObject::IntArrays& corners = record.elements(group, 3);
+    count = static_cast<int>(corners[0].size());
+    a = corners[0].data();
+    b = corners[1].data();
+    c = corners[2].data();
+}
+
+LineEnds LineEnds::ofElements(const PostDataView& record, int group)
+{
+    const PostDataObject::IntArrays& ends = record.elements(group, 2);
+    return {static_cast<int>(ends[0].size()), ends[0].data(), ends[1].data()};
+}
+
+LineEnds LineEnds::ofBoundary(const PostDataView& record, int group)
+{
+    const PostDataObject::IntArrays& ends = record.lineElements(group);
+    return {static_cast<int>(ends[0].size()), ends[0].data(), ends[1].data()};
+}
+
+HeightMap::HeightMap(const PostDataView& record) : heights(record.data(0, c_heightData).data())
+{
+    const double min = record.dataMin(0, c_heightData);
+    const double max = record.dataMax(0, c_heightData);
+    const PostDataObject::DoubleArrays& bounds = record.bounds(1);
+    scale = heightScale(min, max, bounds);
+    const bool hasY = bounds.size() > 1;
+    box = BoundingBox(bounds[0][0], bounds[0][1], hasY ? bounds[1][0] : 0.0, hasY ? bounds[1][1] : 0.0, min * scale,
+                      max * scale);
+}
+
+BoundingBox boxOf(const PostDataObject::DoubleArrays& bounds, std::size_t numAxes)
+{
+    double limits[3][2] = {};
+    for (std::size_t axis = 0; axis < std::min(bounds.size(), numAxes); ++axis) {
+        limits[axis][0] = bounds[axis][0];
+        limits[axis][1] = bounds[axis][1];
+    }
+    return {limits[0][0], limits[0][1], limits[1][0], limits[1][1], limits[2][0], limits[2][1]};
+}
+
+} // namespace vxgraphics3d
