@@ -33,13 +33,15 @@ bool load(JNIEnv* env, JavaClasses& java)
         }
     }
     java.peer = findClass(env, "com/vexane/base/NativePeer");
+    const jclass share = findClass(env, "com/vexane/base/NativePeer$Share");
     java.doubleArray = findClass(env, "[D");
-    if (java.peer == nullptr || java.doubleArray == nullptr) {
+    if (java.peer == nullptr || share == nullptr || java.doubleArray == nullptr) {
         return false;
     }
     detail::g_peerHandleField = env->GetFieldID(java.peer, "handle", "J");
-    java.peerSetHandle = env->GetMethodID(java.peer, "setHandle", "(J)V");
-    return detail::g_peerHandleField != nullptr && java.peerSetHandle != nullptr;
+    java.peerShare = env->GetFieldID(java.peer, "share", "Lcom/vexane/base/NativePeer$Share;");
+    java.shareHandle = env->GetFieldID(share, "handle", "J");
+    return detail::g_peerHandleField != nullptr && java.peerShare != nullptr && java.shareHandle != nullptr;
 }
 
 } // namespace

@@ -7,7 +7,8 @@ namespace vxbase {
 /// The Java classes and members that native code reaches, looked up once when the virtual machine loads the library.
 struct JavaClasses {
     jclass peer = nullptr;             ///< com.vexane.base.NativePeer
-    jmethodID peerSetHandle = nullptr; ///< its method `void setHandle(long)`
+    jfieldID peerShare = nullptr;      ///< its field `Share share`
+    jfieldID shareHandle = nullptr;    ///< the field `long handle` of that
     jclass exception = nullptr;        ///< com.vexane.base.NativeException
     jmethodID exceptionInit = nullptr; ///< its constructor (key, detail, file, line)
     jclass doubleArray = nullptr;      ///< double[]

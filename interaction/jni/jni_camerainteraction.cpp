@@ -26,14 +26,18 @@ VX_NATIVE(void, CameraInteraction, connectNative)
 {
     guarded(env, [&] {
         attach(env, self,
-               boost::make_shared<CameraInteraction>(peer<IRendererCanvas>(env, renderer).getCanvas3dSettings(),
-                                                     canvasHeight));
+               boost::make_shared<CameraInteraction>(
+                   peer<IRendererCanvas>(env, renderer, "renderer").getCanvas3dSettings(), canvasHeight));
     });
 }
 
 VX_NATIVE(void, CameraInteraction, cleanupNative)(JNIEnv* env, jclass, jobject self)
 {
-    guarded(env, [&] { release(env, self); });
+    guarded(env, [&] {
+        if (const auto open = detach<CameraInteraction>(env, self)) {
+            open->cancel();
+        }
+    });
 }
 
 VX_NATIVE(void, CameraInteraction, setCanvasHeight)(JNIEnv* env, jclass, jobject self, jint canvasHeight)

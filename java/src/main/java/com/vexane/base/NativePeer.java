@@ -4,42 +4,42 @@ import java.lang.ref.PhantomReference;
 import java.lang.ref.ReferenceQueue;
 import java.util.Map;
 import java.util.Objects;
-import java.util.Set;
 import java.util.TreeMap;
-import java.util.concurrent.ConcurrentHashMap;
 
 /**
  * A Java object that stands for a native one.
  *
  * <p>A peer holds a share in its native object until it is closed. Several peers may stand for one object, which lives
  * while any peer or any native owner holds it, so peers can be closed in any order. A closed peer throws a
- * {@link NativeException} from every method but {@link #close()} and {@link #isClosed()}.
+ * {@link NativeException} from every method except {@link #close()} and {@link #isClosed()}.
  *
- * <p>A peer that is dropped without being closed gives its share back when the garbage collector has found it and the
- * next peer is made: native destructors take no lock, so they run on the thread that makes peers, never on a thread of
- * the collector. Close peers all the same; how long the collector takes is not known.
+ * <p>A lost peer, dropped without being closed, gives its share back when the garbage collector has found it and the
+ * next peer is made, on the thread that makes it. This disturbs no other thread: what goes with the share is owned by
+ * nothing else. Close peers all the same; how long the collector takes is not known.
  *
- * <p>Peers are not synchronised: calls on one scene must come from one thread at a time.
+ * <p>Peers are not synchronised: calls on one scene, with all that belongs to it, must come from one thread at a time.
+ * The page on threads says what that covers.
  */
 public abstract class NativePeer implements AutoCloseable {
+    /** Where the collector puts the shares of lost peers. */
     private static final ReferenceQueue<NativePeer> LOST = new ReferenceQueue<>();
 
-    /** The shares of all open peers; also what keeps the references themselves alive. */
-    private static final Set<Share> SHARES = ConcurrentHashMap.newKeySet();
+    /** Lost shares whose release ended before it began, at the end of the stack; chained, guarded by the ring's lock. */
+    private static volatile Share postponed;
 
-    /** Address of the native handle, 0 while there is none. Native code reads it directly. */
+    /** Address of the native handle, 0 while there is none. Native code alone reads and writes it. */
     private long handle;
 
+    /** What remains of this peer when it is lost; null once the peer has been closed. Native code reads it. */
     private Share share;
 
     /** Loads the library at the first use, and gives back the shares of lost peers. */
     protected NativePeer() {
         NativeLibrary.ensureLoaded();
-        for (Share lost = (Share) LOST.poll(); lost != null; lost = (Share) LOST.poll()) {
-            if (SHARES.remove(lost)) {
-                releaseLost(lost.handle);
-            }
-        }
+        releaseAllLost();
+        // Registered before it has a handle: native code then only stores numbers, which cannot fail half-way.
+        share = new Share(this);
+        share.register();
     }
 
     /**
@@ -51,11 +51,19 @@ public abstract class NativePeer implements AutoCloseable {
         return handle == 0;
     }
 
-    /** Gives the share in the native object back. Closing a closed peer does nothing. */
+    /**
+     * Gives the share in the native object back. Closing a closed peer does nothing. A call that ends with a
+     * {@link StackOverflowError} has either closed the peer or left it open; it may be repeated.
+     */
     @Override
     public final void close() {
-        if (handle != 0) {
+        if (share != null) {
             cleanup();
+            if (handle == 0) {
+                Share own = share;
+                share = null;
+                own.withdraw();
+            }
         }
     }
 
@@ -87,37 +95,85 @@ public abstract class NativePeer implements AutoCloseable {
      */
     public static Map<String, Integer> countOpen() {
         Map<String, Integer> counts = new TreeMap<>();
-        for (Share share : SHARES) {
-            counts.merge(share.type.getSimpleName(), 1, Integer::sum);
+        synchronized (Share.RING) {
+            for (Share share = Share.RING.next; share != Share.RING; share = share.next) {
+                if (share.handle != 0) {
+                    counts.merge(share.type.getSimpleName(), 1, Integer::sum);
+                }
+            }
         }
         return counts;
     }
 
-    /** Called by native code when it stores or clears the handle. */
-    private void setHandle(long newHandle) {
-        if (share != null) {
-            SHARES.remove(share);
-            share.clear();
-            share = null;
-        }
-        handle = newHandle;
-        if (newHandle != 0) {
-            share = new Share(this, newHandle);
-            SHARES.add(share);
+    private static void releaseAllLost() {
+        for (Share lost = nextLost(); lost != null; lost = nextLost()) {
+            try {
+                releaseLost(lost);
+                lost.withdraw();
+            } finally {
+                if (lost.handle != 0) {
+                    synchronized (Share.RING) {
+                        lost.nextPostponed = postponed;
+                        postponed = lost;
+                    }
+                }
+            }
         }
     }
 
-    /** What is known of a peer after it has been lost. */
+    private static Share nextLost() {
+        if (postponed != null) {
+            synchronized (Share.RING) {
+                Share first = postponed;
+                if (first != null) {
+                    postponed = first.nextPostponed;
+                    return first;
+                }
+            }
+        }
+        return (Share) LOST.poll();
+    }
+
+    /**
+     * What is known of a peer after it has been lost. The ring of all shares keeps them alive; it is closed by field
+     * stores alone, since a call inside could fail at the end of the stack and leave the ring torn.
+     */
     private static final class Share extends PhantomReference<NativePeer> {
-        private final Class<?> type;
-        private final long handle;
+        /** Beginning and end of the ring, and its lock. */
+        private static final Share RING = new Share(null);
 
-        Share(NativePeer peer, long handle) {
+        private final Class<?> type;
+
+        /** The number of the peer's handle, 0 while it has none. Native code writes it. */
+        private long handle;
+
+        private Share previous = this;
+        private Share next = this;
+        private Share nextPostponed;
+
+        Share(NativePeer peer) {
             super(peer, LOST);
-            this.type = peer.getClass();
-            this.handle = handle;
+            this.type = peer == null ? null : peer.getClass();
+        }
+
+        void register() {
+            synchronized (RING) {
+                next = RING.next;
+                previous = RING;
+                next.previous = this;
+                RING.next = this;
+            }
+        }
+
+        void withdraw() {
+            synchronized (RING) {
+                previous.next = next;
+                next.previous = previous;
+                previous = this;
+                next = this;
+            }
         }
     }
 
-    private static native void releaseLost(long handle);
+    private static native void releaseLost(Share lost);
 }

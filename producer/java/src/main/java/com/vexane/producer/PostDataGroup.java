@@ -12,7 +12,9 @@ import java.util.List;
  *
  * <p>All values are arrays by axis, corner or quantity, never one object a point. Each can be a Java array or a direct
  * buffer in native byte order, of which the values from its position to its limit count. A group only keeps
- * references: the values are read when {@link PostDataBuilder#build} copies them, once.
+ * references: the values are read when {@link PostDataBuilder#build} copies them, once. A buffer on a mapped file must
+ * keep its file at full length until then: where a file has been cut shorter, reading its memory ends the process, and
+ * no check of the buffer can see it.
  *
  * <p>Every method returns the group itself, and refuses what cannot be right by itself with a message that names the
  * array: {@link NullPointerException} for a missing array, {@link IllegalArgumentException} for a wrong number of
