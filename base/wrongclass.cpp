@@ -1,8 +1,7 @@
 #include "base/wrongclass.h"
 
-#include <cxxabi.h>
-
 #include <cstdlib>
+#include <cxxabi.h>
 #include <memory>
 
 namespace vxbase {
@@ -25,8 +24,7 @@ std::string nameOf(const std::type_info& type)
 WrongClass::WrongClass(const char* argument, const std::type_info& expected, const std::type_info& found)
     : m_text(std::string("Argument \"") + argument + "\": expected class " + nameOf(expected) + ", found class " +
              nameOf(found) + ".")
-{
-}
+{}
 
 WrongClass::~WrongClass() = default;
 

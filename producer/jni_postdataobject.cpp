@@ -108,15 +108,17 @@ VX_NATIVE(void, PostDataObject, addGroup)
  jdoubleArray limits, jobjectArray normals, jobjectArray lineElements)
 {
     guarded(env, [&] {
-        addGroup(env, peer<PostDataObject>(env, self), coordinates, elements, data,
-                 fromJava<std::vector<double>>(env, limits), normals, lineElements);
+        auto& record = peer<PostDataObject>(env, self);
+        addGroup(env, record, coordinates, elements, data, fromJava<std::vector<double>>(env, limits), normals,
+                 lineElements);
     });
 }
 
 VX_NATIVE(void, PostDataObject, setBounds)(JNIEnv* env, jclass, jobject self, jobjectArray bounds)
 {
     guarded(env, [&] {
-        peer<PostDataObject>(env, self).m_bounds = shared(fromJava<PostDataObject::DoubleArrays>(env, bounds));
+        auto& record = peer<PostDataObject>(env, self);
+        record.m_bounds = shared(fromJava<PostDataObject::DoubleArrays>(env, bounds));
     });
 }
 

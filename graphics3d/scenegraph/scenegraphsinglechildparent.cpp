@@ -1,5 +1,7 @@
 #include "graphics3d/scenegraph/scenegraphsinglechildparent.h"
 
+#include "base/wrongclass.h"
+
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -40,7 +42,7 @@ void SceneGraphSingleChildParent::takeChild()
 
 SceneGraphObject::ObjectType SceneGraphSingleChildParent::getChildObjectType(int) const
 {
-    return dynamic_cast<const SceneGraphObject&>(*find()).getObjectType();
+    return vxbase::castTo<const SceneGraphObject>(*find(), "child").getObjectType();
 }
 
 const boost::shared_ptr<SceneGraphNode>& SceneGraphSingleChildParent::find() const

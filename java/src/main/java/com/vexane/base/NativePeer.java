@@ -18,7 +18,7 @@ import java.util.TreeMap;
  * nothing else. Close peers all the same; how long the collector takes is not known.
  *
  * <p>Peers are not synchronised: calls on one scene, with all that belongs to it, must come from one thread at a time.
- * The page on threads says what that covers.
+ * The page docs/threads.md says what that covers.
  */
 public abstract class NativePeer implements AutoCloseable {
     /** Where the collector puts the shares of lost peers. */
