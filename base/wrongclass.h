@@ -9,10 +9,10 @@
 
 namespace vxbase {
 
-/// Says that an argument stands for an object of another class than its use needs:
+/// An argument refers to an object of the wrong class:
 /// `Argument "child": expected class SceneGraphNode, found class Scene.`
 ///
-/// Classes are called by their C++ names without namespaces, which are those of the Java peers where there is one.
+/// Classes have their C++ names without namespaces, which are those of the Java peers where there is one.
 class VX_API WrongClass : public std::bad_cast {
 public:
     WrongClass(const char* argument, const std::type_info& expected, const std::type_info& found);
@@ -24,7 +24,7 @@ private:
 };
 
 /// The object as one of a derived class.
-/// @param argument the name of the argument that stands for the object, for the message
+/// @param argument the name of the argument that refers to the object, for the message
 /// @throws WrongClass if it is of another class
 template <class T, class Base>
 T& castTo(Base& object, const char* argument)
@@ -35,7 +35,7 @@ T& castTo(Base& object, const char* argument)
     throw WrongClass(argument, typeid(T), typeid(object));
 }
 
-/// The same for a share of an object; a null pointer stays one.
+/// The same for a shared pointer; a null pointer stays one.
 template <class T, class Base>
 boost::shared_ptr<T> castTo(const boost::shared_ptr<Base>& object, const char* argument)
 {

@@ -44,11 +44,11 @@ void throwNoHandle(bool isNull, const char* argument)
 
 namespace {
 
-/// Writes the number of a handle into a peer and into what remains of the peer when Java loses it.
-void storeHandle(JNIEnv* env, jobject peer, jobject share, jlong number)
+/// Writes the number of a handle into a peer and into its registration, which remains when Java loses the peer.
+void storeHandle(JNIEnv* env, jobject peer, jobject registration, jlong number)
 {
     const JavaClasses& java = javaClasses();
-    env->SetLongField(share, java.shareHandle, number);
+    env->SetLongField(registration, java.registrationHandle, number);
     env->SetLongField(peer, detail::g_peerHandleField, number);
 }
 
@@ -59,10 +59,10 @@ void setWsPtr(JNIEnv* env, jobject peer, void* handle)
     if (peer == nullptr) {
         detail::throwNoHandle(true);
     }
-    const jobject share = env->GetObjectField(peer, javaClasses().peerShare);
-    if (share != nullptr) {
-        storeHandle(env, peer, share, toNumber(handle));
-        env->DeleteLocalRef(share);
+    const jobject registration = env->GetObjectField(peer, javaClasses().peerRegistration);
+    if (registration != nullptr) {
+        storeHandle(env, peer, registration, toNumber(handle));
+        env->DeleteLocalRef(registration);
     } else if (handle != nullptr) {
         detail::throwNoHandle(false);
     }
@@ -115,17 +115,17 @@ void release(JNIEnv* env, jobject self)
 
 } // namespace vxbase
 
-/// Drops the share of a peer that Java forgot to close. Java calls it with what remains of the peer, on the thread that
-/// makes the next peer: destructors of native objects touch only what they alone own, so any thread will do.
-extern "C" JNIEXPORT void JNICALL Java_com_vexane_base_NativePeer_releaseLost(JNIEnv* env, jclass, jobject share)
+/// Releases a peer that Java lost. Java calls it with the peer's registration, on the thread that makes the next peer:
+/// destructors of native objects access only what nothing else owns, so any thread will do.
+extern "C" JNIEXPORT void JNICALL Java_com_vexane_base_NativePeer_releaseLost(JNIEnv* env, jclass, jobject registration)
 {
     vxbase::guarded(env, [&] {
-        if (share == nullptr) {
-            throw std::invalid_argument("There is no share to release.");
+        if (registration == nullptr) {
+            throw std::invalid_argument("The registration is null.");
         }
-        const jfieldID field = vxbase::javaClasses().shareHandle;
+        const jfieldID field = vxbase::javaClasses().registrationHandle;
         const std::unique_ptr<vxbase::PeerHandle> handle(
-            static_cast<vxbase::PeerHandle*>(vxbase::toPointer(env->GetLongField(share, field))));
-        env->SetLongField(share, field, 0);
+            static_cast<vxbase::PeerHandle*>(vxbase::toPointer(env->GetLongField(registration, field))));
+        env->SetLongField(registration, field, 0);
     });
 }

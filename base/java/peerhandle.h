@@ -16,7 +16,7 @@
 
 namespace vxbase {
 
-/// What the number in a Java peer points to: a share in one native object, kept as the root class of its family.
+/// What the number in a Java peer points to: a reference to one native object, kept as the root class of its family.
 ///
 /// A native of a base peer class works on every derived peer because the pointer is cast back to the root only and
 /// from there down by the language's own casts; a peer of another family is recognised by `family` and refused. One
@@ -30,7 +30,7 @@ struct PeerHandle {
     mutable const std::type_info* knownAs = &family;
 };
 
-/// How messages call the peer on which a native works; its other arguments have the names of the Java parameters.
+/// The name in messages of the peer on which a native works; other arguments have the names of the Java parameters.
 inline constexpr const char* c_selfArgument = "peer";
 
 namespace detail {
@@ -64,8 +64,8 @@ inline void* getWsPtr(JNIEnv* env, jobject peer, const char* argument = c_selfAr
     return handle;
 }
 
-/// Stores a handle in a peer, for which it will be released if Java loses the peer. Calls no Java code, so it cannot
-/// fail half-way, not even at the end of the Java stack.
+/// Stores a handle in a peer; it is released if Java loses the peer. Calls no Java code, so it cannot fail half-way,
+/// not even at the end of the Java stack.
 /// @throws Exception if the peer is null or was closed
 VX_API void setWsPtr(JNIEnv* env, jobject peer, void* handle);
 VX_API void setNullWsPtr(JNIEnv* env, jobject peer);
@@ -142,14 +142,14 @@ boost::shared_ptr<T> shareOf(const PeerHandle& handle)
 /// The native object of a peer.
 /// @param argument the name of the argument, for the message
 /// @throws Exception if the peer is null or closed
-/// @throws WrongClass if the peer stands for an object of another class
+/// @throws WrongClass if the peer refers to an object of another class
 template <class T>
 T& peer(JNIEnv* env, jobject object, const char* argument = c_selfArgument)
 {
     return detail::objectOf<T>(detail::handleOf<T>(env, object, argument));
 }
 
-/// The native object of a peer, with a share in it.
+/// The native object of a peer, with a reference to it.
 template <class T>
 boost::shared_ptr<T> share(JNIEnv* env, jobject object, const char* argument = c_selfArgument)
 {
@@ -177,13 +177,13 @@ void attach(JNIEnv* env, jobject self, boost::shared_ptr<T> object)
     detail::attachHandle(env, self, std::unique_ptr<PeerHandle>(new PeerHandle{typeid(Root), type, std::move(root)}));
 }
 
-/// Takes the handle from a peer and drops its share in the object. A peer without handle stays as it is, so this may
-/// be called twice.
+/// Takes the handle from a peer and releases its reference to the object. A peer without handle stays as it is, so this
+/// may be called twice.
 VX_API void release(JNIEnv* env, jobject self);
 
-/// The same for an object that has something left to do when it is closed and not when it is lost: hands the share
-/// out instead of dropping it, or null for a peer without handle.
-/// @throws WrongClass if the peer stood for an object of another class; it is released all the same
+/// The same for an object that has work left when its peer is closed, but not when the peer is lost: returns the
+/// reference instead of releasing it, or null for a peer without handle.
+/// @throws WrongClass if the peer refers to an object of another class; it is released all the same
 template <class T>
 boost::shared_ptr<T> detach(JNIEnv* env, jobject self)
 {

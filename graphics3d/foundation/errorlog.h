@@ -18,10 +18,10 @@ namespace vxgraphics3d {
 /// fields: `info <tab> graphics:0 <tab> Creating ... <tab> scenegraphgroup.cpp;12`. Reals are written with a decimal
 /// point whatever locale the process has set.
 ///
-/// Any thread may log, also while another thread changes the target or the level: a line is written whole, to one of
-/// the targets. The streams that it is written to last as long as the process; what changes with the file is the
-/// descriptor beneath. Two threads must not change the target at the same time. The log is never destroyed, so threads
-/// that go on while the process ends may still log.
+/// Any thread may log, also while another thread changes the target or the level: a line is written whole, to one
+/// target. The streams exist as long as the process; another file only replaces the descriptor of its stream. Two
+/// threads must not change the target at the same time. The log is never destroyed, so threads that still run while the
+/// process ends may log.
 class VX_API ErrorLog {
 public:
     /// Severity of a message; a message passes if its level is not above the level in force.

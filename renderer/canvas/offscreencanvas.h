@@ -39,9 +39,8 @@ public:
     /// @throws std::invalid_argument for a size below 1 or beyond what the driver allows
     /// @throws std::runtime_error if there is no drawing context, saying what is missing, or no font
     OffscreenCanvas(int width, int height, int samples);
-    /// Frees what the canvas alone owns, on any thread. The settings of its view stay with the scene that it shows,
-    /// which may be in use on another thread: call `setScene` with null before, on the thread that works with the
-    /// scene.
+    /// Releases what the canvas alone owns; may run on any thread. The settings of its view stay with the scene that it
+    /// shows, which another thread may be using: call `setScene` with null before, on the thread that uses the scene.
     ~OffscreenCanvas() override;
     OffscreenCanvas(const OffscreenCanvas&) = delete;
     OffscreenCanvas& operator=(const OffscreenCanvas&) = delete;

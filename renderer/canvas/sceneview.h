@@ -11,8 +11,8 @@ namespace vxrenderer {
 
 /// What a canvas keeps for the scene that it shows: a share of it, and the settings that the scene made for this view.
 ///
-/// Its destructor leaves the scene alone, since a lost canvas may go on any thread: the settings then stay with the
-/// scene. Call `disconnect` to take them out of it.
+/// Its destructor does not change the scene, since a lost canvas may be destroyed on any thread: the settings then stay
+/// with the scene. Call `disconnect` to remove them.
 class SceneView {
 public:
     /// Connects to a scene.

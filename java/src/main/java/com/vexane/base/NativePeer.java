@@ -7,39 +7,39 @@ import java.util.Objects;
 import java.util.TreeMap;
 
 /**
- * A Java object that stands for a native one.
+ * A Java object that refers to a native one.
  *
- * <p>A peer holds a share in its native object until it is closed. Several peers may stand for one object, which lives
- * while any peer or any native owner holds it, so peers can be closed in any order. A closed peer throws a
- * {@link NativeException} from every method except {@link #close()} and {@link #isClosed()}.
+ * <p>A peer holds one reference to its native object until it is closed. Several peers may refer to one object, which
+ * lives while a peer or a native owner refers to it, so peers can be closed in any order. Every method of a closed peer
+ * throws a {@link NativeException}, except {@link #close()} and {@link #isClosed()}.
  *
- * <p>A lost peer, dropped without being closed, gives its share back when the garbage collector has found it and the
- * next peer is made, on the thread that makes it. This disturbs no other thread: what goes with the share is owned by
- * nothing else. Close peers all the same; how long the collector takes is not known.
+ * <p>A peer that is garbage collected without being closed is lost. Its reference is released when the next peer is
+ * made, on the thread that makes it. This affects no other thread, because only what has no other owner is destroyed.
+ * Close peers all the same: it is not known when the collector runs.
  *
- * <p>Peers are not synchronised: calls on one scene, with all that belongs to it, must come from one thread at a time.
- * The page docs/threads.md says what that covers.
+ * <p>Peers are not synchronised: calls on one scene, with everything that belongs to it, must come from one thread at a
+ * time. The page {@code docs/threads.md} describes what that covers.
  */
 public abstract class NativePeer implements AutoCloseable {
-    /** Where the collector puts the shares of lost peers. */
+    /** The collector adds the registrations of lost peers here. */
     private static final ReferenceQueue<NativePeer> LOST = new ReferenceQueue<>();
 
-    /** Lost shares whose release ended before it began, at the end of the stack; chained, guarded by the ring's lock. */
-    private static volatile Share postponed;
+    /** Lost peers whose release failed before it began, at the end of the stack; a list, guarded by the ring's lock. */
+    private static volatile Registration postponed;
 
     /** Address of the native handle, 0 while there is none. Native code alone reads and writes it. */
     private long handle;
 
-    /** What remains of this peer when it is lost; null once the peer has been closed. Native code reads it. */
-    private Share share;
+    /** What remains of this peer when it is lost; null once it has been closed. Native code reads it. */
+    private Registration registration;
 
-    /** Loads the library at the first use, and gives back the shares of lost peers. */
+    /** Loads the library at the first use, and releases lost peers. */
     protected NativePeer() {
         NativeLibrary.ensureLoaded();
         releaseAllLost();
-        // Registered before it has a handle: native code then only stores numbers, which cannot fail half-way.
-        share = new Share(this);
-        share.register();
+        // Registered before it has a handle, so that native code only stores numbers, which cannot fail half-way.
+        registration = new Registration(this);
+        registration.enter();
     }
 
     /**
@@ -52,16 +52,16 @@ public abstract class NativePeer implements AutoCloseable {
     }
 
     /**
-     * Gives the share in the native object back. Closing a closed peer does nothing. A call that ends with a
+     * Releases the reference to the native object. Closing a closed peer does nothing. A call that ends with a
      * {@link StackOverflowError} has either closed the peer or left it open; it may be repeated.
      */
     @Override
     public final void close() {
-        if (share != null) {
+        if (registration != null) {
             cleanup();
             if (handle == 0) {
-                Share own = share;
-                share = null;
+                Registration own = registration;
+                registration = null;
                 own.withdraw();
             }
         }
@@ -89,16 +89,16 @@ public abstract class NativePeer implements AutoCloseable {
     }
 
     /**
-     * How many peers are open, for tests that look for leaks. Lost peers count until their share has been given back.
+     * How many peers are open, for tests that look for leaks. Lost peers count until they are released.
      *
      * @return the number of open peers by the simple name of their class; classes without open peers are missing
      */
     public static Map<String, Integer> countOpen() {
         Map<String, Integer> counts = new TreeMap<>();
-        synchronized (Share.RING) {
-            for (Share share = Share.RING.next; share != Share.RING; share = share.next) {
-                if (share.handle != 0) {
-                    counts.merge(share.type.getSimpleName(), 1, Integer::sum);
+        synchronized (Registration.RING) {
+            for (Registration at = Registration.RING.next; at != Registration.RING; at = at.next) {
+                if (at.handle != 0) {
+                    counts.merge(at.type.getSimpleName(), 1, Integer::sum);
                 }
             }
         }
@@ -106,13 +106,13 @@ public abstract class NativePeer implements AutoCloseable {
     }
 
     private static void releaseAllLost() {
-        for (Share lost = nextLost(); lost != null; lost = nextLost()) {
+        for (Registration lost = nextLost(); lost != null; lost = nextLost()) {
             try {
                 releaseLost(lost);
                 lost.withdraw();
             } finally {
                 if (lost.handle != 0) {
-                    synchronized (Share.RING) {
+                    synchronized (Registration.RING) {
                         lost.nextPostponed = postponed;
                         postponed = lost;
                     }
@@ -121,42 +121,42 @@ public abstract class NativePeer implements AutoCloseable {
         }
     }
 
-    private static Share nextLost() {
+    private static Registration nextLost() {
         if (postponed != null) {
-            synchronized (Share.RING) {
-                Share first = postponed;
+            synchronized (Registration.RING) {
+                Registration first = postponed;
                 if (first != null) {
                     postponed = first.nextPostponed;
                     return first;
                 }
             }
         }
-        return (Share) LOST.poll();
+        return (Registration) LOST.poll();
     }
 
     /**
-     * What is known of a peer after it has been lost. The ring of all shares keeps them alive; it is closed by field
-     * stores alone, since a call inside could fail at the end of the stack and leave the ring torn.
+     * What is known of a peer after it has been lost. A ring of all registrations keeps them alive. It is changed by
+     * field assignments only: a call in between could fail at the end of the stack and leave the ring broken.
      */
-    private static final class Share extends PhantomReference<NativePeer> {
-        /** Beginning and end of the ring, and its lock. */
-        private static final Share RING = new Share(null);
+    private static final class Registration extends PhantomReference<NativePeer> {
+        /** Start and end of the ring, and its lock. */
+        private static final Registration RING = new Registration(null);
 
         private final Class<?> type;
 
         /** The number of the peer's handle, 0 while it has none. Native code writes it. */
         private long handle;
 
-        private Share previous = this;
-        private Share next = this;
-        private Share nextPostponed;
+        private Registration previous = this;
+        private Registration next = this;
+        private Registration nextPostponed;
 
-        Share(NativePeer peer) {
+        Registration(NativePeer peer) {
             super(peer, LOST);
             this.type = peer == null ? null : peer.getClass();
         }
 
-        void register() {
+        void enter() {
             synchronized (RING) {
                 next = RING.next;
                 previous = RING;
@@ -175,5 +175,5 @@ public abstract class NativePeer implements AutoCloseable {
         }
     }
 
-    private static native void releaseLost(Share lost);
+    private static native void releaseLost(Registration lost);
 }
