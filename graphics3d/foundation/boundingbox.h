@@ -3,8 +3,7 @@
 #include "base/export.h"
 #include "graphics3d/foundation/vector3f.h"
 
-#include <bit>
-#include <cstdint>
+#include <algorithm>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -29,66 +28,64 @@ public:
 
     void init(float xmin, float xmax, float ymin, float ymax, float zmin, float zmax)
     {
-        setLimits(Lanes{xmin, ymin, zmin, -1.0f}, Lanes{xmax, ymax, zmax, 1.0f});
+        setLimits({xmin, ymin, zmin}, {xmax, ymax, zmax});
     }
     /// Copies a valid box; an empty one leaves this box untouched. To copy in every case, assign.
     void init(const BoundingBox& box)
     {
-        // Member by member: compilers then keep a box that is merged in a loop in registers.
-        if (box.isValid()) {
-            m_center = box.m_center;
-            m_halfSize = box.m_halfSize;
+        if (box.m_isValid) {
+            *this = box;
         }
     }
     /// Makes the box empty.
     void reset() { *this = BoundingBox(); }
 
-    bool isValid() const { return std::bit_cast<Truth>(m_halfSize)[3] != 0; }
-    Vector3f getCenter() const { return toVector(m_center); }
-    float getHalfSizeX() const { return m_halfSize[0]; }
-    float getHalfSizeY() const { return m_halfSize[1]; }
-    float getHalfSizeZ() const { return m_halfSize[2]; }
-    Vector3f getHalfSize() const { return toVector(m_halfSize); }
+    bool isValid() const { return m_isValid; }
+    Vector3f getCenter() const { return m_center; }
+    float getHalfSizeX() const { return m_halfSize.x; }
+    float getHalfSizeY() const { return m_halfSize.y; }
+    float getHalfSizeZ() const { return m_halfSize.z; }
+    Vector3f getHalfSize() const { return m_halfSize; }
     /// The corner of the lowest coordinates, also of an empty box, where it is the origin.
-    Vector3f getMin() const { return toVector(m_center - m_halfSize); }
+    Vector3f getMin() const { return m_center - m_halfSize; }
     /// The corner of the highest coordinates.
-    Vector3f getMax() const { return toVector(m_center + m_halfSize); }
+    Vector3f getMax() const { return m_center + m_halfSize; }
 
     /// Widens the box over another one. An empty box takes the other over as it is; an empty other changes nothing.
     void merge(const BoundingBox& box)
     {
-        if (!isValid()) [[unlikely]] {
+        if (!m_isValid) {
             init(box);
-        } else if (box.isValid()) [[likely]] {
-            cover(box.m_center - box.m_halfSize, box.m_center + box.m_halfSize);
+        } else if (box.m_isValid) {
+            cover(box.getMin(), box.getMax());
         }
     }
     /// Widens a valid box over a point; an empty box stays empty.
     void expandWithPoint(const Vector3f& point)
     {
-        if (isValid()) {
-            cover(toLanes(point), toLanes(point));
+        if (m_isValid) {
+            cover(point, point);
         }
     }
     /// Adds to the half sizes of a valid box.
     void expand(float dx, float dy, float dz)
     {
-        if (isValid()) {
-            m_halfSize += Lanes{dx, dy, dz, 0.0f};
+        if (m_isValid) {
+            m_halfSize.translate(dx, dy, dz);
         }
     }
     /// Multiplies the half sizes of a valid box; its centre stays.
     void scale(float sx, float sy, float sz)
     {
-        if (isValid()) {
-            m_halfSize *= Lanes{sx, sy, sz, 1.0f};
+        if (m_isValid) {
+            m_halfSize.scale(sx, sy, sz);
         }
     }
     /// Moves a valid box.
     void translate(float dx, float dy, float dz)
     {
-        if (isValid()) {
-            m_center += Lanes{dx, dy, dz, 0.0f};
+        if (m_isValid) {
+            m_center.translate(dx, dy, dz);
         }
     }
 
@@ -96,58 +93,39 @@ public:
     /// maximum corner is 6. Any other i gives (0, 0, 0).
     Vector3f getVertex(int i) const;
     /// The sum of the three edge lengths.
-    float getL1Norm() const { return 2.0f * (m_halfSize[0] + m_halfSize[1] + m_halfSize[2]); }
+    float getL1Norm() const { return 2.0f * (m_halfSize.x + m_halfSize.y + m_halfSize.z); }
     /// The distance from the centre to a corner.
     float getBoundingRadius() const;
     /// Whether all three half sizes are 0, as they are in an empty box.
-    bool isZeroSize() const { return getHalfSize() == Vector3f(); }
+    bool isZeroSize() const { return m_halfSize == Vector3f(); }
     /// Whether the segment from a to b meets the box, border included. An empty box meets nothing.
     bool doesLineIntersect(const Vector3f& a, const Vector3f& b) const;
 
     /// Whether both boxes are valid and equal. An empty box equals nothing, not even another empty one.
     friend bool operator==(const BoundingBox& a, const BoundingBox& b)
     {
-        return b.isValid() && allTrue((a.m_center == b.m_center) & (a.m_halfSize == b.m_halfSize));
+        return a.m_isValid && b.m_isValid && a.m_center == b.m_center && a.m_halfSize == b.m_halfSize;
     }
 
 private:
-    /// Four floats that are worked on at once: x, y, z, and a fourth axis on which an empty box has nothing and every
-    /// other one the limits -1 and 1. So the fourth half size says whether the box is valid, and merging keeps it.
-    using Lanes = float __attribute__((vector_size(16)));
-    /// What comparing lanes gives: 0 or -1 for each.
-    using Truth = std::int32_t __attribute__((vector_size(16)));
-
-    static bool allTrue(Truth truth)
-    {
-#ifdef __SSE__
-        return __builtin_ia32_movmskps(std::bit_cast<Lanes>(truth)) == 0xf;
-#else
-        return (truth[0] & truth[1] & truth[2] & truth[3]) != 0;
-#endif
-    }
-    static Lanes toLanes(const Vector3f& v)
-    {
-        return Lanes{v.x, v.y, v.z, 0.0f};
-    }
-    static Vector3f toVector(Lanes lanes)
-    {
-        return {lanes[0], lanes[1], lanes[2]};
-    }
-
-    void setLimits(Lanes low, Lanes high)
+    void setLimits(const Vector3f& low, const Vector3f& high)
     {
         m_center = (low + high) * 0.5f;
         m_halfSize = (high - low) * 0.5f;
+        m_isValid = true;
     }
-    void cover(Lanes low, Lanes high)
+    /// Widens a valid box over the space between two corners. A limit that is no number widens nothing.
+    void cover(const Vector3f& low, const Vector3f& high)
     {
-        const Lanes ownLow = m_center - m_halfSize;
-        const Lanes ownHigh = m_center + m_halfSize;
-        setLimits(low < ownLow ? low : ownLow, ownHigh < high ? high : ownHigh);
+        const Vector3f ownLow = getMin();
+        const Vector3f ownHigh = getMax();
+        setLimits({std::min(ownLow.x, low.x), std::min(ownLow.y, low.y), std::min(ownLow.z, low.z)},
+                  {std::max(ownHigh.x, high.x), std::max(ownHigh.y, high.y), std::max(ownHigh.z, high.z)});
     }
 
-    Lanes m_center{};
-    Lanes m_halfSize{};
+    Vector3f m_center;
+    Vector3f m_halfSize;
+    bool m_isValid = false;
 };
 
 } // namespace vxgraphics3d

@@ -19,9 +19,8 @@ SceneGraphGroup::SceneGraphGroup() : SceneGraphParent(NodeGroup)
 SceneGraphGroup::~SceneGraphGroup()
 {
     logInfo("Destroying SceneGraphGroup (node %d)", getNodeId());
-    orphanChildren();
     for (auto& [id, child] : m_children) {
-        bury(child);
+        release(std::move(child));
     }
 }
 
@@ -32,32 +31,41 @@ boost::shared_ptr<SceneGraphGroup> SceneGraphGroup::create()
 
 // --- children -------------------------------------------------------------------------------------------------------
 
-void SceneGraphGroup::refuseMoreChildren() const
+bool SceneGraphGroup::addChild(boost::shared_ptr<SceneGraphNode> node)
 {
-    throw std::length_error("The group (node " + std::to_string(getNodeId()) + ") has used up its child ids.");
-}
-
-/// Moving the children to larger tables is most of what a table costs, so it grows by large steps.
-void SceneGraphGroup::growTable()
-{
-    m_children.reserve(4 * m_children.size() + 8);
-}
-
-void SceneGraphGroup::logAddition(int childId) const
-{
-    logInfo("Adding child %d to group (node %d).", childId, getNodeId());
-    logConnection(childId);
+    requireNewChild(node.get());
+    if (m_lastChildId == std::numeric_limits<int>::max()) {
+        throw std::length_error("The group (node " + std::to_string(getNodeId()) + ") has used up its child ids.");
+    }
+    m_children.emplace_back(m_lastChildId + 1, std::move(node));
+    const int id = ++m_lastChildId;
+    SceneGraphNode& child = *m_children.back().second;
+    logInfo("Adding child %d to group (node %d).", id, getNodeId());
+    // The box is without the child until attaching it, which may throw, is done.
+    const bool isBoxCurrent = std::exchange(m_hearsAllChildren, false);
+    attach(child, id);
+    if (isBoxCurrent) {
+        // Merging the last child into the box gives the same bits as merging all children in id order.
+        m_childBox.merge(child.getBoundingBox());
+        setBoundingBox(m_childBox);
+        m_hearsAllChildren = true;
+    } else {
+        calculateBoundingBox();
+        m_hearsAllChildren = doAllChildrenAnswer();
+    }
+    treeStructureChanged();
+    return true;
 }
 
 void SceneGraphGroup::removeChild(int childId)
 {
-    const auto found = placeOf(childId);
+    const auto found = findEntry(childId);
     if (found == m_children.end()) {
         return;
     }
     logInfo("Removing child %d from group (node %d).", childId, getNodeId());
-    // The child may die with its place in the table, but not while it is being detached.
-    letGo(*found->second);
+    // The child may die with its entry in the table, but not while it is being detached.
+    found->second->removeParent();
     m_children.erase(found);
     calculateBoundingBox();
     treeStructureChanged();
@@ -70,14 +78,14 @@ void SceneGraphGroup::removeAllChildren()
         return;
     }
     for (const auto& [id, child] : m_children) {
-        letGo(*child);
+        child->removeParent();
     }
     m_children.clear();
     calculateBoundingBox();
     treeStructureChanged();
 }
 
-SceneGraphGroup::ChildTable::const_iterator SceneGraphGroup::placeOf(int childId) const
+SceneGraphGroup::ChildTable::const_iterator SceneGraphGroup::findEntry(int childId) const
 {
     const auto found = std::lower_bound(m_children.begin(), m_children.end(), childId,
                                         [](const auto& entry, int id) { return entry.first < id; });
@@ -86,7 +94,7 @@ SceneGraphGroup::ChildTable::const_iterator SceneGraphGroup::placeOf(int childId
 
 const boost::shared_ptr<SceneGraphNode>& SceneGraphGroup::find(int childId) const
 {
-    const auto found = placeOf(childId);
+    const auto found = findEntry(childId);
     if (found == m_children.end()) {
         throw std::out_of_range("The group (node " + std::to_string(getNodeId()) + ") has no child " +
                                 std::to_string(childId) + ".");
@@ -94,15 +102,22 @@ const boost::shared_ptr<SceneGraphNode>& SceneGraphGroup::find(int childId) cons
     return found->second;
 }
 
+bool SceneGraphGroup::doAllChildrenAnswer() const
+{
+    return std::all_of(m_children.begin(), m_children.end(),
+                       [this](const auto& entry) { return entry.second->getParent().get() == this; });
+}
+
 // --- boxes, snap vertices and picks ---------------------------------------------------------------------------------
 
-BoundingBox SceneGraphGroup::mergeChildBoxes() const
+const BoundingBox& SceneGraphGroup::mergeChildBoxes()
 {
     BoundingBox box;
     for (const auto& [id, child] : m_children) {
         box.merge(child->getBoundingBox());
     }
-    return box;
+    m_childBox = box;
+    return m_childBox;
 }
 
 void SceneGraphGroup::updateNodeSnapVertices()

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "graphics3d/foundation/errorlog.h"
 #include "graphics3d/scenegraph/scenegraphparent.h"
 
-#include <limits>
 #include <utility>
 #include <vector>
 
@@ -13,6 +11,10 @@ namespace vxgraphics3d {
 ///
 /// Ids count from 1 in the order of arrival and are never used again. When a group dies its children are released, not
 /// detached: their references to the parent simply expire.
+///
+///     const auto group = SceneGraphGroup::create();
+///     group->addChild(child);                       // under id 1; the box of the group now covers the child
+///     group->removeChild(child->getChildId());
 class VX_API SceneGraphGroup final : public SceneGraphParent {
 public:
     /// Children with their ids, by rising id. A new child has the highest id, so it always comes at the end.
@@ -21,8 +23,8 @@ public:
     static boost::shared_ptr<SceneGraphGroup> create();
     ~SceneGraphGroup() override;
 
-    /// Takes a node in under the next id. A node that stands under another parent stays there as well, but answers to
-    /// this group from now on.
+    /// Takes a node in under the next id, at a cost that does not depend on the number of children. A node that another
+    /// parent holds stays there as well, but answers to this group from now on.
     /// @return true
     /// @throws std::invalid_argument for no node, this group itself or one that this group stands below
     bool addChild(boost::shared_ptr<SceneGraphNode> node);
@@ -42,7 +44,7 @@ public:
     void removeNodeSnapVertices() override;
 
     int getNoOfChildren() const override { return static_cast<int>(m_children.size()); }
-    bool doesChildExist(int childId) const override { return placeOf(childId) != m_children.end(); }
+    bool doesChildExist(int childId) const override { return findEntry(childId) != m_children.end(); }
     const SceneGraphNode* getChild(int childId) const override { return find(childId).get(); }
     SceneGraphNode* child(int childId) override { return find(childId).get(); }
     boost::shared_ptr<SceneGraphNode> childPtr(int childId) override { return find(childId); }
@@ -51,48 +53,25 @@ public:
     NodeType getChildType(int childId) const override { return find(childId)->getType(); }
 
 protected:
-    BoundingBox mergeChildBoxes() const override;
+    const BoundingBox& mergeChildBoxes() override;
+    void loseChild() override { m_hearsAllChildren = false; }
     bool admitsPick(const SelectionFrustrum& frustum, bool& inside) const override;
     void pushChildren(std::vector<OpenNode>& open, bool inside) const override;
 
 private:
     SceneGraphGroup();
 
-    /// Where the child stands, or the end of the table.
-    ChildTable::const_iterator placeOf(int childId) const;
+    /// The position of the child, or the end of the table.
+    ChildTable::const_iterator findEntry(int childId) const;
     const boost::shared_ptr<SceneGraphNode>& find(int childId) const;
-
-    /// @throws std::length_error
-    [[noreturn]] void refuseMoreChildren() const;
-    void growTable();
-    /// Writes that a child comes and that it will answer to this group: nothing lies between that could be seen.
-    void logAddition(int childId) const;
+    bool doAllChildrenAnswer() const;
 
     int m_lastChildId = 0;
     ChildTable m_children;
+    /// The boxes of all children, merged in id order when one of them changed last.
+    BoundingBox m_childBox;
+    /// Whether every child answers to this group, so that no change of a child's box has escaped `m_childBox`.
+    bool m_hearsAllChildren = true;
 };
-
-// Inline at every call, which compilers would not choose: the steps are so few that a call is a quarter of them.
-[[gnu::always_inline]] inline bool SceneGraphGroup::addChild(boost::shared_ptr<SceneGraphNode> node)
-{
-    requireNewChild(node.get());
-    if (m_lastChildId == std::numeric_limits<int>::max()) {
-        refuseMoreChildren();
-    }
-    if (m_children.size() == m_children.capacity()) {
-        growTable();
-    }
-    if (m_children.size() == m_children.capacity()) {
-        __builtin_unreachable(); // spares the code for growing here
-    }
-    const int id = ++m_lastChildId;
-    if (ErrorLog::isHeard(ErrorLog::Level::info)) [[unlikely]] {
-        logAddition(id);
-    }
-    SceneGraphNode& child = *node;
-    m_children.emplace_back(id, std::move(node));
-    takeInLast(child, id);
-    return true;
-}
 
 } // namespace vxgraphics3d

@@ -14,20 +14,12 @@ SceneGraphNode::SceneGraphNode(NodeType type) : m_type(type), m_nodeId(++m_lastU
 
 SceneGraphNode::~SceneGraphNode() = default;
 
-boost::shared_ptr<SceneGraphParent> SceneGraphNode::getParent() const
-{
-    SceneGraphParent* parent = parentOrNull();
-    return parent != nullptr ? boost::static_pointer_cast<SceneGraphParent>(parent->m_self.lock()) : nullptr;
-}
-
 void SceneGraphNode::setParent(boost::weak_ptr<SceneGraphParent> parent, int childId)
 {
-    if (const auto livingParent = parent.lock()) {
-        livingParent->logConnection(childId);
-        livingParent->connect(*this, childId);
-        livingParent->announce(*this);
+    if (const auto living = parent.lock()) {
+        living->attach(*this, childId);
     } else {
-        leave(m_parent.detach());
+        leaveParent();
         m_childId = childId;
         markChanged();
     }
@@ -35,25 +27,25 @@ void SceneGraphNode::setParent(boost::weak_ptr<SceneGraphParent> parent, int chi
 
 void SceneGraphNode::removeParent()
 {
-    if (parentOrNull() != nullptr) {
+    if (!m_parent.expired()) {
         removeNodeSnapVertices();
     }
-    leave(m_parent.detach());
+    leaveParent();
     m_childId = 0;
     markChanged();
 }
 
-void SceneGraphNode::leave(ParentReference* reference)
+void SceneGraphNode::leaveParent()
 {
-    const boost::intrusive_ptr<ParentReference> givenUp(reference, false);
-    if (reference != nullptr && reference->parent != nullptr) {
-        reference->parent->loseChild();
+    if (const auto parent = getParent()) {
+        parent->loseChild();
     }
+    m_parent.reset();
 }
 
 void SceneGraphNode::disconnectFromParent()
 {
-    if (SceneGraphParent* parent = parentOrNull()) {
+    if (const auto parent = getParent()) {
         logInfo("Disconnecting child node %d from parent (node %d)", m_childId, parent->getNodeId());
         parent->removeChild(m_childId);
     }
@@ -62,7 +54,7 @@ void SceneGraphNode::disconnectFromParent()
 void SceneGraphNode::markChanged()
 {
     m_changeId.raise();
-    if (SceneGraphParent* parent = parentOrNull()) {
+    if (const auto parent = getParent()) {
         parent->markChildChanged();
     }
 }
@@ -75,32 +67,41 @@ void SceneGraphNode::setActive(bool active)
     }
 }
 
-/// Each parent has its box calculated as if by calculateBoundingBox(). That this goes on in a loop and not from parent
-/// to parent lets a tree be deeper than the stack.
+void SceneGraphNode::setBoundingBox(const BoundingBox& box)
+{
+    if (storeBoundingBox(box)) {
+        updateBoxesAbove();
+    }
+}
+
+bool SceneGraphNode::storeBoundingBox(const BoundingBox& box)
+{
+    const bool isNew = !(box == m_boundingBox);
+    if (isNew) {
+        m_boundingBox = box;
+    }
+    return isNew;
+}
+
+/// Each parent has its box calculated as by calculateBoundingBox(), but in a loop: a tree may be deeper than the stack.
 void SceneGraphNode::updateBoxesAbove()
 {
-    for (SceneGraphParent* parent = parentOrNull(); parent != nullptr; parent = parent->parentOrNull()) {
-        const BoundingBox box = parent->mergeChildBoxes();
-        if (box == parent->m_boundingBox) {
-            break;
-        }
-        parent->m_boundingBox = box;
+    for (auto parent = getParent(); parent && parent->storeBoundingBox(parent->mergeChildBoxes());
+         parent = parent->getParent()) {
     }
 }
 
 void SceneGraphNode::updateNodeSnapVertices()
 {
-    if (SceneGraphParent* parent = parentOrNull()) {
+    if (const auto parent = getParent()) {
         removeNodeSnapVertices();
-        if (!m_snapVertices.empty()) {
-            parent->addSnapVertices(m_nodeId, m_snapVertices);
-        }
+        parent->addSnapVertices(m_nodeId, m_snapVertices);
     }
 }
 
 void SceneGraphNode::removeNodeSnapVertices()
 {
-    if (SceneGraphParent* parent = parentOrNull()) {
+    if (const auto parent = getParent()) {
         parent->removeSnapVertices(m_nodeId);
     }
 }

@@ -6,8 +6,6 @@
 #include "graphics3d/scenegraph/snapvertex.h"
 
 #include <boost/shared_ptr.hpp>
-#include <boost/smart_ptr/intrusive_ptr.hpp>
-#include <boost/smart_ptr/intrusive_ref_counter.hpp>
 #include <boost/weak_ptr.hpp>
 
 #include <atomic>
@@ -23,8 +21,11 @@ struct CanvasPickSettings;
 /// A node of the scene tree: a parent, an object to show, or a group of plots.
 ///
 /// Nodes are made by the static `create()` of their class and owned by the parents that hold them and by their Java
-/// peers; the reference to the parent is weak. A node may stand under several parents, and answers to the one that took
-/// it last: changes and boxes travel up from there. A parent that has died counts as none.
+/// peers; the reference to the parent is weak. Several parents may hold a node. It answers to the one that took it
+/// last: changes and boxes travel up from there. A parent that has died counts as none.
+///
+/// The destructor of a node touches nothing but what the node alone owns. So the last owner of a dropped subtree may
+/// let go on any thread, also while another thread works on a scene that shares nodes with it.
 ///
 /// Two things travel up at once: the bounding box, which is kept in every node, and the snap vertices, which the root
 /// collects. For everything else a change raises a number, with which a reader compares the number it saw last; only
@@ -48,10 +49,10 @@ public:
     /// @throws boost::bad_weak_ptr if the node was not made by `create()`
     boost::shared_ptr<SceneGraphNode> self() const { return boost::shared_ptr<SceneGraphNode>(m_self); }
 
-    // Place in the tree
+    // Position in the tree
 
-    /// The parent that the node answers to, or null.
-    boost::shared_ptr<SceneGraphParent> getParent() const;
+    /// The parent that the node answers to, or null. The reference keeps it alive, whoever else lets it go meanwhile.
+    boost::shared_ptr<SceneGraphParent> getParent() const { return m_parent.lock(); }
     /// The id under the parent: -1 before the first parent, 0 after the last one.
     int getChildId() const { return m_childId; }
     /// Makes the node answer to a parent, registers its snap vertices there and counts a change. Called by the parent
@@ -81,20 +82,12 @@ public:
     const BoundingBox& getStoredBoundingBox() const { return m_boundingBox; }
     /// Stores the box and brings the boxes above up to date, as far up as they change. An equal box does nothing; an
     /// empty one always travels up, since empty boxes are never equal.
-    void setBoundingBox(const BoundingBox& box)
-    {
-        // Inline, so that a box which was just calculated is stored from registers.
-        if (!(box == m_boundingBox)) {
-            m_boundingBox = box;
-            m_boxIsMerged = false;
-            updateBoxesAbove();
-        }
-    }
+    void setBoundingBox(const BoundingBox& box);
 
     // What the kinds of nodes do in their own ways
 
-    /// Registers the snap vertices anew under the parent. A node that comes under a parent without a root is not
-    /// called: snap vertices are kept by the root.
+    /// Registers the snap vertices again under the parent. Not called for a node that comes under a parent at the top of
+    /// its tree, unless that is a root: roots keep the snap vertices.
     virtual void updateNodeSnapVertices();
     /// Withdraws the snap vertices from the parent.
     virtual void removeNodeSnapVertices();
@@ -124,33 +117,24 @@ protected:
 private:
     friend class SceneGraphParent;
 
-    /// The weak reference on a parent, one for all nodes that answer to it. A weak pointer in each of them would cost
-    /// an atomic operation per child; this one counts plainly, as a tree belongs to one thread at a time.
-    struct ParentReference : boost::intrusive_ref_counter<ParentReference, boost::thread_unsafe_counter> {
-        explicit ParentReference(SceneGraphParent* p) : parent(p) {}
-
-        SceneGraphParent* parent; ///< null after its death
-    };
-
-    /// The parent without a share in it: for steps that no parent can die in.
-    SceneGraphParent* parentOrNull() const { return m_parent ? m_parent->parent : nullptr; }
-    /// Gives up a node's reference on a parent, or null: the node no longer answers to it.
-    static void leave(ParentReference* reference);
+    /// Stops answering to the parent, which may go on holding the node.
+    void leaveParent();
+    /// @return whether the box differs from the one before
+    bool storeBoundingBox(const BoundingBox& box);
+    /// Has the parents above merge the boxes of their children again, as far up as that changes a box.
     void updateBoxesAbove();
 
+    static constexpr int c_neverAttached = -1;
     static const BoundingBox c_emptyBox;
     static std::atomic<int> m_lastUniqueNodeId; // nodes may be made on any thread
 
     boost::weak_ptr<SceneGraphNode> m_self;
     NodeType m_type;
     int m_nodeId;
-    boost::intrusive_ptr<ParentReference> m_parent;
-    int m_childId = -1;
+    boost::weak_ptr<SceneGraphParent> m_parent;
+    int m_childId = c_neverAttached;
     bool m_active = true;
-    /// Of a parent: whether the box is the merge of all children, each of which tells this parent of its changes.
-    bool m_boxIsMerged = false;
     ChangeNumber m_changeId;
-    int m_numHolders = 0; ///< how often parents hold the node; the one that it answers to is among them
     std::vector<SnapVertex> m_snapVertices;
     BoundingBox m_boundingBox;
 };

@@ -2,6 +2,7 @@
 
 #include "graphics3d/foundation/errorlog.h"
 
+#include <new>
 #include <stdexcept>
 #include <string>
 #include <unordered_set>
@@ -9,10 +10,15 @@
 
 namespace vxgraphics3d {
 
-/// The node as a parent, or null for a leaf.
+SceneGraphParent::SceneGraphParent(NodeType type) : SceneGraphNode(type) {}
+
+SceneGraphParent::~SceneGraphParent() = default;
+
+/// The node as a parent, or null for a leaf. The type is tested first because a cast across the class tree is slow.
 const SceneGraphParent* SceneGraphParent::asParent(const SceneGraphNode& node)
 {
-    return mayHold(node) ? dynamic_cast<const SceneGraphParent*>(&node) : nullptr;
+    const bool mayHold = node.getType() == NodeRoot || node.getType() == NodeGroup;
+    return mayHold ? dynamic_cast<const SceneGraphParent*>(&node) : nullptr;
 }
 
 // --- ways down ------------------------------------------------------------------------------------------------------
@@ -53,32 +59,39 @@ void SceneGraphParent::getMarkedBoundingBox(BoundingBox& box, int include, int e
 
 // --- ways up --------------------------------------------------------------------------------------------------------
 
-SceneGraphParent* SceneGraphParent::root()
+boost::shared_ptr<SceneGraphParent> SceneGraphParent::rootAbove() const
 {
-    SceneGraphParent* parent = this;
-    while (parent != nullptr && parent->getType() != NodeRoot) {
-        parent = parent->parentOrNull();
+    auto parent = getParent();
+    while (parent && parent->getType() != NodeRoot) {
+        parent = parent->getParent();
     }
     return parent;
 }
 
-void SceneGraphParent::markChildChangedAbove()
+void SceneGraphParent::markChildChanged()
 {
-    for (SceneGraphParent* parent = parentOrNull(); parent != nullptr; parent = parent->parentOrNull()) {
+    m_childrenChangeId.raise();
+    for (auto parent = getParent(); parent; parent = parent->getParent()) {
         parent->m_childrenChangeId.raise();
+    }
+}
+
+void SceneGraphParent::treeStructureChanged()
+{
+    if (const auto root = rootAbove()) {
+        root->treeStructureChanged();
     }
 }
 
 void SceneGraphParent::calculateBoundingBox()
 {
     setBoundingBox(mergeChildBoxes());
-    m_boxIsMerged = getNumAnswering() == getNoOfChildren();
 }
 
 void SceneGraphParent::changeVertexState(int nodeId, int index, int state)
 {
-    if (SceneGraphParent* top = root()) {
-        top->changeVertexState(nodeId, index, state);
+    if (const auto root = rootAbove()) {
+        root->changeVertexState(nodeId, index, state);
     }
 }
 
@@ -87,112 +100,43 @@ void SceneGraphParent::addSnapVertices(int nodeId, const std::vector<SnapVertex>
     if (vertices.empty()) {
         return;
     }
-    if (SceneGraphParent* top = root()) {
-        top->addSnapVertices(nodeId, vertices);
+    if (const auto root = rootAbove()) {
+        root->addSnapVertices(nodeId, vertices);
     }
 }
 
 void SceneGraphParent::removeSnapVertices(int nodeId)
 {
-    if (SceneGraphParent* top = root()) {
-        top->removeSnapVertices(nodeId);
+    if (const auto root = rootAbove()) {
+        root->removeSnapVertices(nodeId);
     }
 }
 
 // --- children -------------------------------------------------------------------------------------------------------
 
-void SceneGraphParent::requireNewParent(const SceneGraphNode* node) const
+void SceneGraphParent::requireNewChild(const SceneGraphNode* node) const
 {
     if (node == nullptr) {
         throw std::invalid_argument("The child is null.");
     }
-    if (standsBelow(*node)) {
+    const SceneGraphParent* parent = asParent(*node);
+    if (parent == nullptr) {
+        return;
+    }
+    // A parent that no other has ever taken in is below none of them.
+    const bool isBelowOthers = getChildId() != c_neverAttached;
+    if (parent == this || (isBelowOthers && parent->contains(*this))) {
         throw std::invalid_argument("Node " + std::to_string(node->getNodeId()) + " cannot be a child of node " +
-                                    std::to_string(getNodeId()) + ", which it is itself or which stands below it.");
+                                    std::to_string(getNodeId()) + ", which is that node or below it.");
     }
 }
 
-void SceneGraphParent::logConnection(int childId) const
-{
-    logInfo("Connecting node as child %d to parent (node %d)", childId, getNodeId());
-}
-
-void SceneGraphParent::announce(SceneGraphNode& node)
-{
-    if (root() != nullptr) {
-        node.updateNodeSnapVertices();
-    }
-    node.m_changeId.raise();
-    markChildChanged();
-}
-
-void SceneGraphParent::announceLast(SceneGraphNode& child)
-{
-    try {
-        announce(child);
-    } catch (...) {
-        // The child stands in the table, but the box is without it.
-        m_boxIsMerged = false;
-        throw;
-    }
-    if (!m_boxIsMerged) {
-        calculateBoundingBox();
-    } else if (mergeBox(child)) {
-        updateBoxesAbove();
-    }
-    treeStructureChanged();
-}
-
-void SceneGraphParent::takeIn(SceneGraphNode& child, int childId)
-{
-    ++child.m_numHolders;
-    logConnection(childId);
-    connect(child, childId);
-    announce(child);
-    calculateBoundingBox();
-    treeStructureChanged();
-}
-
-void SceneGraphParent::letGo(SceneGraphNode& child)
-{
-    child.removeParent();
-    --child.m_numHolders;
-}
-
-/// Takes note that a node which answered to this one no longer does, though it may still stand in the table.
-void SceneGraphParent::loseChild()
-{
-    m_boxIsMerged = false;
-}
-
-bool SceneGraphParent::standsBelow(const SceneGraphNode& node) const
-{
-    if (&node == this) {
-        return true;
-    }
-    const SceneGraphParent* top = asParent(node);
-    if (top == nullptr || top->getNoOfChildren() == 0) {
-        return false;
-    }
-    const SceneGraphParent* parent = nullptr;
-    for (const SceneGraphNode* below = this; below->m_numHolders != 0; below = parent) {
-        parent = below->parentOrNull();
-        if (below->m_numHolders != 1 || parent == nullptr) {
-            // Other parents hold this node too, and the way up does not show them: look from above.
-            return contains(*top, *this);
-        }
-        if (parent == &node) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool SceneGraphParent::contains(const SceneGraphParent& top, const SceneGraphNode& wanted)
+/// Looks from above, because a node that several parents hold knows only one of them.
+bool SceneGraphParent::contains(const SceneGraphParent& wanted) const
 {
     std::unordered_set<const SceneGraphNode*> seen;
     bool found = false;
-    top.walk(
+    walk(
         false,
         [&](const SceneGraphParent& parent, bool) {
             found = found || &parent == &wanted;
@@ -202,11 +146,22 @@ bool SceneGraphParent::contains(const SceneGraphParent& top, const SceneGraphNod
     return found;
 }
 
-void SceneGraphParent::bury(boost::shared_ptr<SceneGraphNode>& child) noexcept
+void SceneGraphParent::attach(SceneGraphNode& node, int childId)
 {
-    --child->m_numHolders;
+    logInfo("Connecting node as child %d to parent (node %d)", childId, getNodeId());
+    node.leaveParent();
+    node.m_parent = boost::weak_ptr<SceneGraphParent>(m_self, this);
+    node.m_childId = childId;
+    if (getType() == NodeRoot || !m_parent.expired()) {
+        node.updateNodeSnapVertices();
+    }
+    node.m_changeId.raise();
+    markChildChanged();
+}
+
+void SceneGraphParent::release(boost::shared_ptr<SceneGraphNode> child) noexcept
+{
     if (asParent(*child) == nullptr) {
-        child.reset();
         return;
     }
     // The first parent to die opens the list, and empties it; those that die meanwhile only add to it.

@@ -10,32 +10,33 @@ namespace vxgraphics3d {
 
 SceneGraphSingleChildParent::~SceneGraphSingleChildParent()
 {
-    orphanChildren();
     if (m_child) {
-        bury(m_child);
+        release(std::move(m_child));
     }
 }
 
 void SceneGraphSingleChildParent::setChild(boost::shared_ptr<SceneGraphNode> node)
 {
     requireNewChild(node.get());
-    takeChild();
+    detachChild();
     m_child = std::move(node);
-    takeIn(*m_child, 0);
+    attach(*m_child, 0);
+    calculateBoundingBox();
+    treeStructureChanged();
 }
 
 void SceneGraphSingleChildParent::removeChild(int)
 {
-    takeChild();
+    detachChild();
     calculateBoundingBox();
     treeStructureChanged();
 }
 
 /// Detaches a present child and releases it.
-void SceneGraphSingleChildParent::takeChild()
+void SceneGraphSingleChildParent::detachChild()
 {
     if (m_child) {
-        letGo(*m_child);
+        m_child->removeParent();
         m_child.reset();
     }
 }
@@ -53,7 +54,7 @@ const boost::shared_ptr<SceneGraphNode>& SceneGraphSingleChildParent::find() con
     return m_child;
 }
 
-BoundingBox SceneGraphSingleChildParent::mergeChildBoxes() const
+const BoundingBox& SceneGraphSingleChildParent::mergeChildBoxes()
 {
     return m_child ? m_child->getBoundingBox() : emptyBox();
 }

@@ -30,13 +30,13 @@ public:
 protected:
     explicit SceneGraphSingleChildParent(NodeType type) : SceneGraphParent(type) {}
 
-    BoundingBox mergeChildBoxes() const override;
+    const BoundingBox& mergeChildBoxes() override;
     bool admitsPick(const SelectionFrustrum&, bool&) const override { return true; }
     void pushChildren(std::vector<OpenNode>& open, bool inside) const override;
 
 private:
     const boost::shared_ptr<SceneGraphNode>& find() const;
-    void takeChild();
+    void detachChild();
 
     boost::shared_ptr<SceneGraphNode> m_child;
 };
