@@ -39,7 +39,8 @@ final class HostileValues {
                 {BYTES.asDoubleBuffer(), BYTES.asDoubleBuffer()}, {BYTES.asIntBuffer()}, {BYTES.asFloatBuffer()},
                 {new Object[1]}}),
             Map.entry(ByteBuffer.class, new Object[] {
-                null, BYTES, ByteBuffer.allocate(64), ByteBuffer.allocateDirect(0), ByteBuffer.allocateDirect(1 << 16)}));
+                null, BYTES, ByteBuffer.allocate(64), ByteBuffer.allocateDirect(0),
+                ByteBuffer.allocateDirect(1 << 16)}));
 
     private final Random random = new Random(17);
 

@@ -72,7 +72,7 @@ final class PeerRecipes implements AutoCloseable {
             Class<?> type = Class.forName("com.vexane.renderer.OffscreenRenderer");
             RECIPES.put(type, made -> {
                 try {
-                    return (NativePeer) type.getMethod("create", int.class, int.class, int.class).invoke(null, 64, 48, 1);
+                    return (NativePeer) type.getMethod("create", int.class, int.class).invoke(null, 64, 48);
                 } catch (ReflectiveOperationException e) {
                     throw new AssertionError(e);
                 }

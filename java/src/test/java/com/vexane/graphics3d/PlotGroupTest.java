@@ -159,7 +159,8 @@ class PlotGroupTest {
             parent.addChild(child);
             group.addPlot(plot);
             assertRefused("The plot group has no plot 6.", () -> SceneGraphPlotSurface2d.connect(group, 6));
-            assertRefused("Argument \"plotId\": expected class SceneGraphPlotSurface3d, found class SceneGraphPlotSurface2d.",
+            assertRefused(
+                    "Argument \"plotId\": expected class SceneGraphPlotSurface3d, found class SceneGraphPlotSurface2d.",
                     () -> SceneGraphPlotSurface3d.connect(group, 5));
             assertRefused("Argument \"childId\": expected class SceneGraphPlotGroup, found class SceneGraphGroup.",
                     () -> SceneGraphPlotGroup.connect(parent, child.getChildId()));
@@ -172,7 +173,8 @@ class PlotGroupTest {
     @Test
     void onlyARecordFillsAPlot() {
         try (SceneGraphPlotGroup group = new SceneGraphPlotGroup(); SceneGraphPlot plot = new SceneGraphPlotSurface2d(5)) {
-            assertRefused("Argument \"record\": expected class PostDataObject, found class SceneGraphPlotGroup.",
+            assertRefused(
+                    "Argument \"record\": expected class PostDataObject, found class SceneGraphPlotGroup.",
                     () -> plot.fillPlot(group));
             assertThrows(NullPointerException.class, () -> plot.fillPlot(null));
         }
