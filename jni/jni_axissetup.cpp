@@ -23,7 +23,8 @@ int knownStrategy(int strategy)
 
 VX_NATIVE(void, AxisSetup, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner)
 {
-    native(env, "connectNative", [&] { attach(env, self, peer<Canvas3dSettings>(env, owner).getAxisSetupPtr()); });
+    native(env, "connectNative",
+           [&] { attach(env, self, peer<Canvas3dSettings>(env, owner, "owner").getAxisSetupPtr()); });
 }
 
 VX_NATIVE(void, AxisSetup, cleanupNative)(JNIEnv* env, jclass, jobject self)

@@ -28,7 +28,8 @@ VX_NATIVE(void, Camera2d, createNative)(JNIEnv* env, jclass, jobject self)
 
 VX_NATIVE(void, Camera2d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner)
 {
-    native(env, "connectNative", [&] { attach(env, self, peer<Canvas3dSettings>(env, owner).getCamera2dPtr()); });
+    native(env, "connectNative",
+           [&] { attach(env, self, peer<Canvas3dSettings>(env, owner, "owner").getCamera2dPtr()); });
 }
 
 VX_NATIVE(void, Camera2d, cleanupNative)(JNIEnv* env, jclass, jobject self)

@@ -32,7 +32,8 @@ VX_NATIVE(void, Camera3d, createNative)(JNIEnv* env, jclass, jobject self)
 
 VX_NATIVE(void, Camera3d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner)
 {
-    native(env, "connectNative", [&] { attach(env, self, peer<Canvas3dSettings>(env, owner).getCamera3dPtr()); });
+    native(env, "connectNative",
+           [&] { attach(env, self, peer<Canvas3dSettings>(env, owner, "owner").getCamera3dPtr()); });
 }
 
 VX_NATIVE(void, Camera3d, cleanupNative)(JNIEnv* env, jclass, jobject self)

@@ -59,7 +59,7 @@ VX_NATIVE(void, CanvasPickSettings, createNative)(JNIEnv* env, jclass, jobject s
 VX_NATIVE(void, CanvasPickSettings, connectNative)(JNIEnv* env, jclass, jobject self, jobject renderer)
 {
     native(env, "connectNative",
-           [&] { attach(env, self, anyPeer<IRendererCanvas>(env, renderer).getCanvasPickSettings()); });
+           [&] { attach(env, self, anyPeer<IRendererCanvas>(env, renderer, "renderer").getCanvasPickSettings()); });
 }
 
 VX_NATIVE(void, CanvasPickSettings, cleanupNative)(JNIEnv* env, jclass, jobject self)

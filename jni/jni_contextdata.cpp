@@ -9,7 +9,8 @@ using namespace vxgraphics3d;
 
 VX_NATIVE(void, ContextData, connectNative)(JNIEnv* env, jclass, jobject self, jobject renderer)
 {
-    native(env, "connectNative", [&] { attach(env, self, anyPeer<IRendererCanvas>(env, renderer).getContextData()); });
+    native(env, "connectNative",
+           [&] { attach(env, self, anyPeer<IRendererCanvas>(env, renderer, "renderer").getContextData()); });
 }
 
 VX_NATIVE(void, ContextData, cleanupNative)(JNIEnv* env, jclass, jobject self)

@@ -1,5 +1,5 @@
 #include "graphics3d/lights/directionlightsource.h"
-#include "jni/support/lightof.h"
+#include "graphics3d/lights/scenelight.h"
 #include "jni/support/native.h"
 #include "jni/support/vectors.h"
 
@@ -9,7 +9,11 @@ using namespace vxgraphics3d;
 
 VX_NATIVE(void, DirectionLightSource, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint lightId)
 {
-    native(env, "connectNative", [&] { attach(env, self, lightOf<DirectionLightSource>(env, owner, lightId)); });
+    native(env, "connectNative", [&] {
+        attach(
+            env, self,
+            castTo<DirectionLightSource>(peer<SceneLight>(env, owner, "owner").getLightSourcePtr(lightId), "lightId"));
+    });
 }
 
 VX_NATIVE(jint, DirectionLightSource, getFromDirection)(JNIEnv* env, jclass, jobject self, jfloatArray out)

@@ -9,7 +9,7 @@ using namespace vxgraphics3d;
 VX_NATIVE(void, GridBoxSettings, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner)
 {
     native(env, "connectNative",
-           [&] { attach(env, self, peer<Canvas3dSettings>(env, owner).getGridBoxSettingsPtr()); });
+           [&] { attach(env, self, peer<Canvas3dSettings>(env, owner, "owner").getGridBoxSettingsPtr()); });
 }
 
 VX_NATIVE(void, GridBoxSettings, cleanupNative)(JNIEnv* env, jclass, jobject self)

@@ -91,13 +91,14 @@ VX_NATIVE(jboolean, LightSource, isLockedToCamera)(JNIEnv* env, jclass, jobject 
 
 VX_NATIVE(void, LightSource, lockToCamera)(JNIEnv* env, jclass, jobject self, jobject camera)
 {
-    native(env, "lockToCamera", [&] { peer<LightSource>(env, self).lockToCamera(peer<Camera3d>(env, camera)); });
+    native(env, "lockToCamera",
+           [&] { peer<LightSource>(env, self).lockToCamera(peer<Camera3d>(env, camera, "camera")); });
 }
 
 VX_NATIVE(void, LightSource, releaseFromCamera)(JNIEnv* env, jclass, jobject self, jobject camera)
 {
     native(env, "releaseFromCamera",
-           [&] { peer<LightSource>(env, self).releaseFromCamera(peer<Camera3d>(env, camera)); });
+           [&] { peer<LightSource>(env, self).releaseFromCamera(peer<Camera3d>(env, camera, "camera")); });
 }
 
 VX_NATIVE(void, LightSource, setSelected)(JNIEnv* env, jclass, jobject self, jboolean selected)

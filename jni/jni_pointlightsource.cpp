@@ -1,5 +1,5 @@
 #include "graphics3d/lights/pointlightsource.h"
-#include "jni/support/lightof.h"
+#include "graphics3d/lights/scenelight.h"
 #include "jni/support/native.h"
 #include "jni/support/vectors.h"
 
@@ -9,7 +9,10 @@ using namespace vxgraphics3d;
 
 VX_NATIVE(void, PointLightSource, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint lightId)
 {
-    native(env, "connectNative", [&] { attach(env, self, lightOf<PointLightSource>(env, owner, lightId)); });
+    native(env, "connectNative", [&] {
+        attach(env, self,
+               castTo<PointLightSource>(peer<SceneLight>(env, owner, "owner").getLightSourcePtr(lightId), "lightId"));
+    });
 }
 
 VX_NATIVE(jint, PointLightSource, getPosition)(JNIEnv* env, jclass, jobject self, jfloatArray out)

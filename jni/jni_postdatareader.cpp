@@ -10,6 +10,6 @@ using vxdatacarrier::PostDataObject;
 VX_NATIVE(jboolean, PostDataReader, readPostData)(JNIEnv* env, jclass, jobject record, jstring file)
 {
     return native(env, "readPostData", [&] {
-        return toJava(readPostData(peer<PostDataObject>(env, record), fromJava<std::string>(env, file)));
+        return toJava(readPostData(anyPeer<PostDataObject>(env, record, "record"), fromJava<std::string>(env, file)));
     });
 }

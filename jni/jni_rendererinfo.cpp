@@ -100,7 +100,7 @@ VX_NATIVE(void, RendererInfo_00024MonitorInfo, connectNative)
 (JNIEnv* env, jclass, jobject self, jobject owner, jint monitor)
 {
     native(env, "00024MonitorInfo_connectNative",
-           [&] { attach(env, self, peer<RendererInfo>(env, owner).getMonitorInfoPtr(monitor)); });
+           [&] { attach(env, self, peer<RendererInfo>(env, owner, "owner").getMonitorInfoPtr(monitor)); });
 }
 
 VX_NATIVE(void, RendererInfo_00024MonitorInfo, cleanupNative)(JNIEnv* env, jclass, jobject self)

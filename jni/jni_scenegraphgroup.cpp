@@ -1,6 +1,6 @@
 #include "graphics3d/scenegraph/scenegraphgroup.h"
 #include "graphics3d/scenegraph/scenegraphobject.h"
-#include "jni/support/childof.h"
+#include "graphics3d/scenegraph/scenegraphparent.h"
 #include "jni/support/enumconversions.h"
 #include "jni/support/native.h"
 
@@ -15,12 +15,16 @@ VX_NATIVE(void, SceneGraphGroup, createNative)(JNIEnv* env, jclass, jobject self
 
 VX_NATIVE(void, SceneGraphGroup, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint childId)
 {
-    native(env, "connectNative", [&] { attach(env, self, childOf<SceneGraphGroup>(env, owner, childId)); });
+    native(env, "connectNative", [&] {
+        attach(env, self,
+               castTo<SceneGraphGroup>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId), "childId"));
+    });
 }
 
 VX_NATIVE(void, SceneGraphGroup, addChild)(JNIEnv* env, jclass, jobject self, jobject child)
 {
-    native(env, "addChild", [&] { peer<SceneGraphGroup>(env, self).addChild(share<SceneGraphNode>(env, child)); });
+    native(env, "addChild",
+           [&] { peer<SceneGraphGroup>(env, self).addChild(share<SceneGraphNode>(env, child, "child")); });
 }
 
 VX_NATIVE(void, SceneGraphGroup, removeChild)(JNIEnv* env, jclass, jobject self, jint childId)
@@ -53,7 +57,7 @@ VX_NATIVE(jint, SceneGraphGroup, getChildType)(JNIEnv* env, jclass, jobject self
 VX_NATIVE(jint, SceneGraphGroup, getChildObjectType)(JNIEnv* env, jclass, jobject self, jint childId)
 {
     return native(env, "getChildObjectType", [&] {
-        const SceneGraphNode* child = peer<SceneGraphGroup>(env, self).getChild(childId);
-        return cppSceneGraphObjectTypeToJava(dynamic_cast<const SceneGraphObject&>(*child).getObjectType());
+        const SceneGraphNode& child = *peer<SceneGraphGroup>(env, self).getChild(childId);
+        return cppSceneGraphObjectTypeToJava(castTo<const SceneGraphObject>(child, "childId").getObjectType());
     });
 }

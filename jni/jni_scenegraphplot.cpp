@@ -142,8 +142,9 @@ VX_NATIVE(void, SceneGraphPlot, resetPlotData)(JNIEnv* env, jclass, jobject self
 
 VX_NATIVE(void, SceneGraphPlot, fillPlot)(JNIEnv* env, jclass, jobject self, jobject record)
 {
-    native(env, "fillPlot",
-           [&] { peer<SceneGraphPlot>(env, self).fillPlot(anyPeer<vxdatacarrier::PostDataObject>(env, record)); });
+    native(env, "fillPlot", [&] {
+        peer<SceneGraphPlot>(env, self).fillPlot(anyPeer<vxdatacarrier::PostDataObject>(env, record, "record"));
+    });
 }
 
 VX_NATIVE(jboolean, SceneGraphPlot, isActive)(JNIEnv* env, jclass, jobject self)

@@ -1,6 +1,6 @@
 #include "graphics3d/plots/scalar/scenegraphplotdomain3d.h"
+#include "graphics3d/plots/scenegraphplotgroup.h"
 #include "jni/support/native.h"
-#include "jni/support/plotof.h"
 
 #include <boost/make_shared.hpp>
 
@@ -15,5 +15,9 @@ VX_NATIVE(void, SceneGraphPlotDomain3d, createNative)(JNIEnv* env, jclass, jobje
 
 VX_NATIVE(void, SceneGraphPlotDomain3d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint plotId)
 {
-    native(env, "connectNative", [&] { attach(env, self, plotOf<SceneGraphPlotDomain3d>(env, owner, plotId)); });
+    native(env, "connectNative", [&] {
+        attach(
+            env, self,
+            castTo<SceneGraphPlotDomain3d>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId), "plotId"));
+    });
 }

@@ -1,6 +1,6 @@
 #include "graphics3d/plots/scenegraphplot.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
-#include "jni/support/childof.h"
+#include "graphics3d/scenegraph/scenegraphparent.h"
 #include "jni/support/enumconversions.h"
 #include "jni/support/native.h"
 
@@ -15,12 +15,16 @@ VX_NATIVE(void, SceneGraphPlotGroup, createNative)(JNIEnv* env, jclass, jobject 
 
 VX_NATIVE(void, SceneGraphPlotGroup, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint childId)
 {
-    native(env, "connectNative", [&] { attach(env, self, childOf<SceneGraphPlotGroup>(env, owner, childId)); });
+    native(env, "connectNative", [&] {
+        attach(env, self,
+               castTo<SceneGraphPlotGroup>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId), "childId"));
+    });
 }
 
 VX_NATIVE(void, SceneGraphPlotGroup, addPlot)(JNIEnv* env, jclass, jobject self, jobject plot)
 {
-    native(env, "addPlot", [&] { peer<SceneGraphPlotGroup>(env, self).addPlot(share<SceneGraphPlot>(env, plot)); });
+    native(env, "addPlot",
+           [&] { peer<SceneGraphPlotGroup>(env, self).addPlot(share<SceneGraphPlot>(env, plot, "plot")); });
 }
 
 VX_NATIVE(void, SceneGraphPlotGroup, removePlot)(JNIEnv* env, jclass, jobject self, jint plotId)

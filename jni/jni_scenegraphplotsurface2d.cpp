@@ -1,6 +1,6 @@
 #include "graphics3d/plots/scalar/scenegraphplotsurface2d.h"
+#include "graphics3d/plots/scenegraphplotgroup.h"
 #include "jni/support/native.h"
-#include "jni/support/plotof.h"
 
 #include <boost/make_shared.hpp>
 
@@ -15,5 +15,9 @@ VX_NATIVE(void, SceneGraphPlotSurface2d, createNative)(JNIEnv* env, jclass, jobj
 
 VX_NATIVE(void, SceneGraphPlotSurface2d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint plotId)
 {
-    native(env, "connectNative", [&] { attach(env, self, plotOf<SceneGraphPlotSurface2d>(env, owner, plotId)); });
+    native(env, "connectNative", [&] {
+        attach(
+            env, self,
+            castTo<SceneGraphPlotSurface2d>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId), "plotId"));
+    });
 }

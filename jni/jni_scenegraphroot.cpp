@@ -8,5 +8,5 @@ using namespace vxgraphics3d;
 
 VX_NATIVE(void, SceneGraphRoot, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner)
 {
-    native(env, "connectNative", [&] { attach(env, self, peer<Scene>(env, owner).getRoot()); });
+    native(env, "connectNative", [&] { attach(env, self, peer<Scene>(env, owner, "owner").getRoot()); });
 }

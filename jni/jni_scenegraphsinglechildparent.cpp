@@ -9,7 +9,7 @@ using namespace vxgraphics3d;
 VX_NATIVE(void, SceneGraphSingleChildParent, setChild)(JNIEnv* env, jclass, jobject self, jobject child)
 {
     native(env, "setChild",
-           [&] { peer<SceneGraphSingleChildParent>(env, self).setChild(share<SceneGraphNode>(env, child)); });
+           [&] { peer<SceneGraphSingleChildParent>(env, self).setChild(share<SceneGraphNode>(env, child, "child")); });
 }
 
 VX_NATIVE(jboolean, SceneGraphSingleChildParent, hasChild)(JNIEnv* env, jclass, jobject self)

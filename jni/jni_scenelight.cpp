@@ -9,7 +9,7 @@ using namespace vxgraphics3d;
 
 VX_NATIVE(void, SceneLight, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner)
 {
-    native(env, "connectNative", [&] { attach(env, self, peer<Scene>(env, owner).getSceneLight()); });
+    native(env, "connectNative", [&] { attach(env, self, peer<Scene>(env, owner, "owner").getSceneLight()); });
 }
 
 VX_NATIVE(void, SceneLight, cleanupNative)(JNIEnv* env, jclass, jobject self)

@@ -20,7 +20,7 @@ FontSetting& fontOf(JNIEnv* env, jobject self, jint item)
 VX_NATIVE(void, SceneSettings, connectNative)(JNIEnv* env, jclass, jobject self, jobject renderer)
 {
     native(env, "connectNative",
-           [&] { attach(env, self, anyPeer<IRendererCanvas>(env, renderer).getSceneSettings()); });
+           [&] { attach(env, self, anyPeer<IRendererCanvas>(env, renderer, "renderer").getSceneSettings()); });
 }
 
 VX_NATIVE(void, SceneSettings, cleanupNative)(JNIEnv* env, jclass, jobject self)

@@ -8,7 +8,7 @@ using namespace vxgraphics3d;
 
 VX_NATIVE(void, SceneSettingsLight, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner)
 {
-    native(env, "connectNative", [&] { attach(env, self, peer<SceneSettings>(env, owner).getLight()); });
+    native(env, "connectNative", [&] { attach(env, self, peer<SceneSettings>(env, owner, "owner").getLight()); });
 }
 
 VX_NATIVE(void, SceneSettingsLight, cleanupNative)(JNIEnv* env, jclass, jobject self)

@@ -64,13 +64,14 @@ VX_NATIVE(void, Canvas3dSettings, cleanupNative)(JNIEnv* env, jclass, jobject se
 VX_NATIVE(void, Canvas3dSettings, connectNative)(JNIEnv* env, jclass, jobject self, jobject renderer)
 {
     native(env, "connectNative",
-           [&] { attach(env, self, anyPeer<IRendererCanvas>(env, renderer).getCanvas3dSettings()); });
+           [&] { attach(env, self, anyPeer<IRendererCanvas>(env, renderer, "renderer").getCanvas3dSettings()); });
 }
 
 VX_NATIVE(void, Canvas3dSettings, cloneNative)(JNIEnv* env, jclass, jobject self, jobject source)
 {
-    native(env, "cloneNative",
-           [&] { attach(env, self, boost::make_shared<Canvas3dSettings>(peer<Canvas3dSettings>(env, source))); });
+    native(env, "cloneNative", [&] {
+        attach(env, self, boost::make_shared<Canvas3dSettings>(peer<Canvas3dSettings>(env, source, "source")));
+    });
 }
 
 VX_NATIVE(jint, Canvas3dSettings, getRenderMode)(JNIEnv* env, jclass, jobject self)
@@ -181,7 +182,7 @@ VX_NATIVE(void, Canvas3dSettings, setBackgroundImage)
     native(env, "setBackgroundImage", [&] {
         using Background = Canvas3dBackgroundSettings;
         auto& background = backgroundOf(env, self, mode);
-        auto shared = image != nullptr ? share<CanvasBackgroundImage>(env, image) : nullptr;
+        auto shared = image != nullptr ? share<CanvasBackgroundImage>(env, image, "image") : nullptr;
         const int h = knownOrZero(horizontal, Background::HorizontalRight, "Unknown horizontal position.");
         const int v = knownOrZero(vertical, Background::VerticalBottom, "Unknown vertical position.");
         background.setBackgroungImage(std::move(shared), static_cast<Background::HorizontalPosition>(h),

@@ -1,5 +1,5 @@
+#include "graphics3d/lights/scenelight.h"
 #include "graphics3d/lights/spotlightsource.h"
-#include "jni/support/lightof.h"
 #include "jni/support/native.h"
 #include "jni/support/vectors.h"
 
@@ -9,7 +9,10 @@ using namespace vxgraphics3d;
 
 VX_NATIVE(void, SpotLightSource, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint lightId)
 {
-    native(env, "connectNative", [&] { attach(env, self, lightOf<SpotLightSource>(env, owner, lightId)); });
+    native(env, "connectNative", [&] {
+        attach(env, self,
+               castTo<SpotLightSource>(peer<SceneLight>(env, owner, "owner").getLightSourcePtr(lightId), "lightId"));
+    });
 }
 
 VX_NATIVE(jint, SpotLightSource, getPosition)(JNIEnv* env, jclass, jobject self, jfloatArray out)

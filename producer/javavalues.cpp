@@ -37,6 +37,18 @@ jobjectArray toJavaRows(JNIEnv* env, const std::vector<std::vector<Value>>& rows
 
 } // namespace
 
+bool isA(JNIEnv* env, jobject object, const char* className)
+{
+    if (object == nullptr) {
+        return false;
+    }
+    const jclass type = env->FindClass(className);
+    vxbase::throwIfPending(env);
+    const bool is = env->IsInstanceOf(object, type) != JNI_FALSE;
+    env->DeleteLocalRef(type);
+    return is;
+}
+
 jobjectArray toJavaRows(JNIEnv* env, const std::vector<std::vector<double>>& rows)
 {
     return toJavaRows(env, rows, "[D");

@@ -8,31 +8,45 @@
 #include <cstdint>
 #include <cstring>
 #include <new>
+#include <stdexcept>
+#include <string>
 #include <vector>
 
 namespace vxproducer {
 
-// Values that Java gives as arrays or direct buffers, copied once into vectors of the same element, and back.
+// Values that Java gives as arrays or direct buffers, copied once into vectors of the same element, and back. Anything
+// else in their place is refused with std::invalid_argument.
 
-/// The values of a Java array or of a direct buffer of the same element in native byte order.
+/// The Java classes that hold values of a kind.
 template <class Value>
-std::vector<Value> copyValues(JNIEnv* env, jobject source)
+struct JavaHolders;
+
+template <>
+struct JavaHolders<double> {
+    static constexpr const char* array = "[D";
+    static constexpr const char* buffer = "java/nio/DoubleBuffer";
+};
+
+template <>
+struct JavaHolders<float> {
+    static constexpr const char* array = "[F";
+    static constexpr const char* buffer = "java/nio/FloatBuffer";
+};
+
+template <>
+struct JavaHolders<int> {
+    static constexpr const char* array = "[I";
+    static constexpr const char* buffer = "java/nio/IntBuffer";
+};
+
+/// Whether an object is of a class; null is of none.
+bool isA(JNIEnv* env, jobject object, const char* className);
+
+/// The values of a Java array.
+template <class Value>
+std::vector<Value> copyArray(JNIEnv* env, jarray array)
 {
     std::vector<Value> result;
-    const jlong capacity = env->GetDirectBufferCapacity(source);
-    if (capacity >= 0) {
-        const void* values = env->GetDirectBufferAddress(source);
-        if (reinterpret_cast<std::uintptr_t>(values) % alignof(Value) == 0) {
-            const auto* first = static_cast<const Value*>(values);
-            result.assign(first, first + capacity);
-        } else {
-            // A view of a byte buffer may start anywhere.
-            result.resize(static_cast<std::size_t>(capacity));
-            std::memcpy(result.data(), values, result.size() * sizeof(Value));
-        }
-        return result;
-    }
-    auto* array = static_cast<jarray>(source);
     const jsize length = env->GetArrayLength(array);
     // Nothing is allocated while the array is held.
     result.reserve(static_cast<std::size_t>(length));
@@ -46,15 +60,51 @@ std::vector<Value> copyValues(JNIEnv* env, jobject source)
     return result;
 }
 
-/// The rows of a Java array of arrays or direct buffers.
+/// The values of a direct buffer in native byte order.
 template <class Value>
-std::vector<std::vector<Value>> copyRows(JNIEnv* env, jobjectArray sources)
+std::vector<Value> copyBuffer(const void* values, std::size_t count)
 {
+    if (reinterpret_cast<std::uintptr_t>(values) % alignof(Value) == 0) {
+        const auto* first = static_cast<const Value*>(values);
+        return {first, first + count};
+    }
+    // A view of a byte buffer may start anywhere.
+    std::vector<Value> result(count);
+    std::memcpy(result.data(), values, count * sizeof(Value));
+    return result;
+}
+
+/// The values of a row: a Java array or a direct buffer.
+/// @param name what the row is called in messages
+template <class Value>
+std::vector<Value> copyRow(JNIEnv* env, jobject row, const std::string& name)
+{
+    if (isA(env, row, JavaHolders<Value>::array)) {
+        return copyArray<Value>(env, static_cast<jarray>(row));
+    }
+    const bool isBuffer = isA(env, row, JavaHolders<Value>::buffer);
+    const jlong capacity = isBuffer ? env->GetDirectBufferCapacity(row) : -1;
+    const void* values = isBuffer ? env->GetDirectBufferAddress(row) : nullptr;
+    if (capacity < 0 || values == nullptr) {
+        throw std::invalid_argument(name +
+                                    (row == nullptr ? " is null." : " is no array or direct buffer of its type."));
+    }
+    return copyBuffer<Value>(values, static_cast<std::size_t>(capacity));
+}
+
+/// The rows of a Java array of arrays or direct buffers.
+/// @param field what the array is called in messages
+template <class Value>
+std::vector<std::vector<Value>> copyRows(JNIEnv* env, jobjectArray sources, const char* field)
+{
+    if (sources == nullptr) {
+        throw std::invalid_argument(std::string(field) + " is null.");
+    }
     std::vector<std::vector<Value>> rows(static_cast<std::size_t>(env->GetArrayLength(sources)));
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const jobject source = env->GetObjectArrayElement(sources, static_cast<jsize>(i));
         vxbase::throwIfPending(env);
-        rows[i] = copyValues<Value>(env, source);
+        rows[i] = copyRow<Value>(env, source, field + ('[' + std::to_string(i)) + ']');
         env->DeleteLocalRef(source);
     }
     return rows;

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <stdexcept>
+#include <string>
 #include <utility>
 
 #include "com_vexane_producer_PostDataObject.h"
@@ -35,27 +37,45 @@ const Arrays& entry(const std::vector<boost::shared_ptr<Arrays>>& groups, jint g
     return at < groups.size() && groups[at] ? *groups[at] : none;
 }
 
+/// Lets each vector take one more entry.
+template <class... Vectors>
+void makeSpace(Vectors&... vectors)
+{
+    (vectors.reserve(std::max(vectors.capacity(), vectors.size() == vectors.capacity() ? 2 * vectors.size() + 1 : 0)),
+     ...);
+}
+
 /// Copies a group and tests its indices before the record is touched.
 void addGroup(JNIEnv* env, PostDataObject& record, jobjectArray coordinates, jobjectArray elements, jobjectArray data,
               const std::vector<double>& limits, jobjectArray normals, jobjectArray lineElements)
 {
     const std::size_t group = record.m_coordinates.size();
-    const auto points = shared(copyRows<double>(env, coordinates));
-    const auto corners = shared(copyRows<int>(env, elements));
-    const auto ends = shared(copyRows<int>(env, lineElements));
+    const auto points = shared(copyRows<double>(env, coordinates, "coordinates"));
+    if (points->empty()) {
+        throw std::invalid_argument("coordinates has no rows.");
+    }
+    const auto corners = shared(copyRows<int>(env, elements, "elements"));
+    const auto ends = shared(copyRows<int>(env, lineElements, "lineElements"));
     const std::size_t numPoints = points->front().size();
     requireInside(*corners, numPoints, "elements", group);
     requireInside(*ends, numPoints, "lineElements", group);
-    const auto values = shared(copyRows<double>(env, data));
+    const auto values = shared(copyRows<double>(env, data, "data"));
+    if (limits.size() != 2 * values->size()) {
+        throw std::invalid_argument("limits has " + std::to_string(limits.size()) + " entries for " +
+                                    std::to_string(values->size()) + " data arrays.");
+    }
     const auto minima = shared(std::vector<double>(values->size()));
     const auto maxima = shared(std::vector<double>(values->size()));
     for (std::size_t i = 0; i < values->size(); ++i) {
-        const ValueRange given = {limits.at(2 * i), limits.at(2 * i + 1)};
+        const ValueRange given = {limits[2 * i], limits[2 * i + 1]};
         const ValueRange range = std::isnan(given.min) ? finiteRange((*values)[i]) : given;
         (*minima)[i] = range.min;
         (*maxima)[i] = range.max;
     }
-    const auto directions = shared(copyRows<float>(env, normals));
+    const auto directions = shared(copyRows<float>(env, normals, "normals"));
+    // From here on nothing can fail, so the record gets all of the group or nothing.
+    makeSpace(record.m_coordinates, record.m_elements, record.m_data, record.m_dataMax, record.m_dataMin,
+              record.m_normals, record.m_lineElements);
     record.m_coordinates.push_back(points);
     record.m_elements.push_back(corners);
     record.m_data.push_back(values);
@@ -88,15 +108,17 @@ VX_NATIVE(void, PostDataObject, addGroup)
  jdoubleArray limits, jobjectArray normals, jobjectArray lineElements)
 {
     guarded(env, [&] {
-        addGroup(env, peer<PostDataObject>(env, self), coordinates, elements, data,
-                 fromJava<std::vector<double>>(env, limits), normals, lineElements);
+        auto& record = peer<PostDataObject>(env, self);
+        addGroup(env, record, coordinates, elements, data, fromJava<std::vector<double>>(env, limits), normals,
+                 lineElements);
     });
 }
 
 VX_NATIVE(void, PostDataObject, setBounds)(JNIEnv* env, jclass, jobject self, jobjectArray bounds)
 {
     guarded(env, [&] {
-        peer<PostDataObject>(env, self).m_bounds = shared(fromJava<PostDataObject::DoubleArrays>(env, bounds));
+        auto& record = peer<PostDataObject>(env, self);
+        record.m_bounds = shared(fromJava<PostDataObject::DoubleArrays>(env, bounds));
     });
 }
 

@@ -33,13 +33,16 @@ bool load(JNIEnv* env, JavaClasses& java)
         }
     }
     java.peer = findClass(env, "com/vexane/base/NativePeer");
+    const jclass registration = findClass(env, "com/vexane/base/NativePeer$Registration");
     java.doubleArray = findClass(env, "[D");
-    if (java.peer == nullptr || java.doubleArray == nullptr) {
+    if (java.peer == nullptr || registration == nullptr || java.doubleArray == nullptr) {
         return false;
     }
     detail::g_peerHandleField = env->GetFieldID(java.peer, "handle", "J");
-    java.peerSetHandle = env->GetMethodID(java.peer, "setHandle", "(J)V");
-    return detail::g_peerHandleField != nullptr && java.peerSetHandle != nullptr;
+    java.peerRegistration = env->GetFieldID(java.peer, "registration", "Lcom/vexane/base/NativePeer$Registration;");
+    java.registrationHandle = env->GetFieldID(registration, "handle", "J");
+    return detail::g_peerHandleField != nullptr && java.peerRegistration != nullptr &&
+           java.registrationHandle != nullptr;
 }
 
 } // namespace

@@ -6,11 +6,12 @@ namespace vxbase {
 
 /// The Java classes and members that native code reaches, looked up once when the virtual machine loads the library.
 struct JavaClasses {
-    jclass peer = nullptr;             ///< com.vexane.base.NativePeer
-    jmethodID peerSetHandle = nullptr; ///< its method `void setHandle(long)`
-    jclass exception = nullptr;        ///< com.vexane.base.NativeException
-    jmethodID exceptionInit = nullptr; ///< its constructor (key, detail, file, line)
-    jclass doubleArray = nullptr;      ///< double[]
+    jclass peer = nullptr;                 ///< com.vexane.base.NativePeer
+    jfieldID peerRegistration = nullptr;   ///< its field `Registration registration`
+    jfieldID registrationHandle = nullptr; ///< the field `long handle` of that class
+    jclass exception = nullptr;            ///< com.vexane.base.NativeException
+    jmethodID exceptionInit = nullptr;     ///< its constructor (key, detail, file, line)
+    jclass doubleArray = nullptr;          ///< double[]
 };
 
 const JavaClasses& javaClasses();

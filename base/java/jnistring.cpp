@@ -36,6 +36,7 @@ void jVStr2CppVStr(JNIEnv* env, jobjectArray texts, std::vector<std::string>& re
     std::vector<std::string> converted(static_cast<std::size_t>(length));
     for (jsize i = 0; i < length; ++i) {
         const auto text = static_cast<jstring>(env->GetObjectArrayElement(texts, i));
+        throwIfPending(env);
         jStr2CppStr(env, text, converted[static_cast<std::size_t>(i)]);
         env->DeleteLocalRef(text);
     }
@@ -50,6 +51,11 @@ void toCpp(JNIEnv* env, const jstring& text, std::string& result)
 void toCpp(JNIEnv* env, const jstring& text, UString& result)
 {
     jStr2CppUStr(env, text, result);
+}
+
+void toCpp(JNIEnv* env, const jobjectArray& texts, std::vector<std::string>& result)
+{
+    jVStr2CppVStr(env, texts, result);
 }
 
 jstring toJavaNew(JNIEnv* env, const std::string& text)

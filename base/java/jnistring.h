@@ -19,6 +19,7 @@ VX_API void jStr2CppUStr(JNIEnv* env, jstring text, UString& result);
 VX_API void jVStr2CppVStr(JNIEnv* env, jobjectArray texts, std::vector<std::string>& result);
 VX_API void toCpp(JNIEnv* env, const jstring& text, std::string& result);
 VX_API void toCpp(JNIEnv* env, const jstring& text, UString& result);
+VX_API void toCpp(JNIEnv* env, const jobjectArray& texts, std::vector<std::string>& result);
 
 VX_API jstring toJavaNew(JNIEnv* env, const std::string& text);
 VX_API jstring toJavaNew(JNIEnv* env, const UString& text);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/export.h"
+#include "base/wrongclass.h"
 
 #include <jni.h>
 
@@ -15,17 +16,22 @@
 
 namespace vxbase {
 
-/// What the number in a Java peer points to: a share in one native object, kept as the root class of its family.
+/// What the number in a Java peer points to: a reference to one native object, kept as the root class of its family.
 ///
 /// A native of a base peer class works on every derived peer because the pointer is cast back to the root only and
-/// from there down by the language's own casts; a peer of another family is told by `family` and refused. One handle
-/// belongs to one peer: `attach` makes it, `release` destroys it.
+/// from there down by the language's own casts; a peer of another family is recognised by `family` and refused. One
+/// handle belongs to one peer: `attach` makes it, `release` destroys it.
 struct PeerHandle {
     const std::type_info& family;
+    /// The class of the object itself.
+    const std::type_info& type;
     boost::shared_ptr<void> object;
     /// The class that the object was last found to be: the same question is answered by one comparison.
     mutable const std::type_info* knownAs = &family;
 };
+
+/// The name in messages of the peer on which a native works; other arguments have the names of the Java parameters.
+inline constexpr const char* c_selfArgument = "peer";
 
 namespace detail {
 
@@ -33,7 +39,7 @@ namespace detail {
 /// library.
 extern VX_API jfieldID g_peerHandleField;
 
-[[noreturn]] VX_API void throwNoHandle(bool isNull);
+[[noreturn]] VX_API void throwNoHandle(bool isNull, const char* argument = c_selfArgument);
 
 } // namespace detail
 
@@ -47,16 +53,20 @@ inline void* getWsPtrOrNull(JNIEnv* env, jobject peer)
 }
 
 /// The handle in a peer.
+/// @param argument the name of the argument, for the message
 /// @throws Exception if the peer is null or closed
-inline void* getWsPtr(JNIEnv* env, jobject peer)
+inline void* getWsPtr(JNIEnv* env, jobject peer, const char* argument = c_selfArgument)
 {
     void* handle = getWsPtrOrNull(env, peer);
-    if (handle == nullptr) {
-        detail::throwNoHandle(peer == nullptr);
+    if (handle == nullptr) [[unlikely]] {
+        detail::throwNoHandle(peer == nullptr, argument);
     }
     return handle;
 }
 
+/// Stores a handle in a peer; it is released if Java loses the peer. Calls no Java code, so it cannot fail half-way,
+/// not even at the end of the Java stack.
+/// @throws Exception if the peer is null or was closed
 VX_API void setWsPtr(JNIEnv* env, jobject peer, void* handle);
 VX_API void setNullWsPtr(JNIEnv* env, jobject peer);
 
@@ -81,84 +91,108 @@ struct PeerRootOf<T> {
 
 /// @throws Exception if the object is null
 /// @throws std::invalid_argument if it is not a peer at all
-VX_API void requirePeer(JNIEnv* env, jobject object);
+VX_API void requirePeer(JNIEnv* env, jobject object, const char* argument);
 VX_API void attachHandle(JNIEnv* env, jobject self, std::unique_ptr<PeerHandle> handle);
+/// Takes the handle from a peer, which is closed from then on; null if it has none.
+VX_API std::unique_ptr<PeerHandle> takeHandle(JNIEnv* env, jobject self);
 
 /// Finds out whether the object of a handle is one of class T, and notes it in the handle.
-/// @throws std::bad_cast if it is not
+/// @throws WrongClass if it is not
 template <class T>
-[[gnu::noinline]] void requireClass(const PeerHandle& handle)
+[[gnu::noinline]] void requireClass(const PeerHandle& handle, const char* argument)
 {
     using Root = typename PeerRootOf<T>::Type;
     if (handle.family != typeid(Root)) {
-        throw std::bad_cast();
+        throw WrongClass(argument, typeid(T), handle.type);
     }
     if constexpr (!std::is_same_v<T, Root>) {
-        static_cast<void>(dynamic_cast<T&>(*static_cast<Root*>(handle.object.get())));
+        static_cast<void>(castTo<T>(*static_cast<Root*>(handle.object.get()), argument));
     }
     handle.knownAs = &typeid(T);
 }
 
 template <class T>
-const PeerHandle& handleOf(JNIEnv* env, jobject peer)
+const PeerHandle& handleOf(JNIEnv* env, jobject peer, const char* argument)
 {
     using Root = typename PeerRootOf<T>::Type;
-    const auto* handle = static_cast<const PeerHandle*>(getWsPtr(env, peer));
+    const auto* handle = static_cast<const PeerHandle*>(getWsPtr(env, peer, argument));
     // A class has one type_info in the process; one that had two would only take the slow way each time.
     const std::type_info* known = std::is_same_v<T, Root> ? &handle->family : handle->knownAs;
     if (known != &typeid(T)) [[unlikely]] {
-        requireClass<T>(*handle);
+        requireClass<T>(*handle, argument);
     }
     return *handle;
 }
 
-/// The object of a handle that handleOf<T>() gave.
+/// The object of a handle that was found to hold one of class T.
 template <class T>
 T& objectOf(const PeerHandle& handle)
 {
     return static_cast<T&>(*static_cast<typename PeerRootOf<T>::Type*>(handle.object.get()));
 }
 
+template <class T>
+boost::shared_ptr<T> shareOf(const PeerHandle& handle)
+{
+    return boost::shared_ptr<T>(handle.object, &objectOf<T>(handle));
+}
+
 } // namespace detail
 
 /// The native object of a peer.
+/// @param argument the name of the argument, for the message
 /// @throws Exception if the peer is null or closed
-/// @throws std::bad_cast if the peer stands for an object of another class
+/// @throws WrongClass if the peer refers to an object of another class
 template <class T>
-T& peer(JNIEnv* env, jobject object)
+T& peer(JNIEnv* env, jobject object, const char* argument = c_selfArgument)
 {
-    return detail::objectOf<T>(detail::handleOf<T>(env, object));
+    return detail::objectOf<T>(detail::handleOf<T>(env, object, argument));
 }
 
-/// The native object of a peer, with a share in it.
+/// The native object of a peer, with a reference to it.
 template <class T>
-boost::shared_ptr<T> share(JNIEnv* env, jobject object)
+boost::shared_ptr<T> share(JNIEnv* env, jobject object, const char* argument = c_selfArgument)
 {
-    const PeerHandle& handle = detail::handleOf<T>(env, object);
-    return boost::shared_ptr<T>(handle.object, &detail::objectOf<T>(handle));
+    return detail::shareOf<T>(detail::handleOf<T>(env, object, argument));
 }
 
 /// The same as `peer` for an argument whose Java type says nothing: it may be any object.
 template <class T>
-T& anyPeer(JNIEnv* env, jobject object)
+T& anyPeer(JNIEnv* env, jobject object, const char* argument)
 {
-    detail::requirePeer(env, object);
-    return peer<T>(env, object);
+    detail::requirePeer(env, object, argument);
+    return peer<T>(env, object, argument);
 }
 
 /// Gives a new peer its handle.
 /// @throws std::invalid_argument if there is no object
 /// @throws std::logic_error if the peer holds a handle already
+/// @throws Exception if the peer is null or was closed
 template <class T>
 void attach(JNIEnv* env, jobject self, boost::shared_ptr<T> object)
 {
     using Root = typename detail::PeerRootOf<T>::Type;
     boost::shared_ptr<Root> root = std::move(object);
-    detail::attachHandle(env, self, std::unique_ptr<PeerHandle>(new PeerHandle{typeid(Root), std::move(root)}));
+    const std::type_info& type = root ? typeid(*root) : typeid(T);
+    detail::attachHandle(env, self, std::unique_ptr<PeerHandle>(new PeerHandle{typeid(Root), type, std::move(root)}));
 }
 
-/// Takes the handle from a peer and drops its share in the object. A peer without handle stays as it is, so this may
-/// be called twice.
+/// Takes the handle from a peer and releases its reference to the object. A peer without handle stays as it is, so this
+/// may be called twice.
 VX_API void release(JNIEnv* env, jobject self);
+
+/// The same for an object that has work left when its peer is closed, but not when the peer is lost: returns the
+/// reference instead of releasing it, or null for a peer without handle.
+/// @throws WrongClass if the peer refers to an object of another class; it is released all the same
+template <class T>
+boost::shared_ptr<T> detach(JNIEnv* env, jobject self)
+{
+    const std::unique_ptr<PeerHandle> handle = detail::takeHandle(env, self);
+    if (handle == nullptr) {
+        return nullptr;
+    }
+    detail::requireClass<T>(*handle, c_selfArgument);
+    return detail::shareOf<T>(*handle);
+}
 
 } // namespace vxbase

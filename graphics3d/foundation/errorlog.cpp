@@ -1,8 +1,13 @@
 #include "graphics3d/foundation/errorlog.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdarg>
+#include <fcntl.h>
 #include <locale.h>
+#include <new>
+#include <stdio_ext.h>
+#include <unistd.h>
 
 namespace vxgraphics3d {
 
@@ -43,35 +48,81 @@ private:
     locale_t m_previous;
 };
 
+constexpr const char* c_nowhere = "/dev/null";
+constexpr int c_forWriting = O_WRONLY | O_CLOEXEC;
+
+/// The one stream for all files that the log ever writes, made for the first of them. It is never closed, so a thread
+/// that logs while another changes the file always has a stream. Null if it could not be made.
+std::FILE* fileStream()
+{
+    static std::FILE* const stream = std::fopen(c_nowhere, "we");
+    return stream;
+}
+
+/// Lets a stream write to another file. What the stream still holds goes to the file before, or is lost if that cannot
+/// be written. The stream's own lock keeps the lines of other threads whole.
+/// @return whether the file was opened; if not, the stream writes nowhere
+bool redirect(std::FILE* stream, const char* path, int flags)
+{
+    flockfile(stream);
+    fflush_unlocked(stream);
+    __fpurge(stream);
+    clearerr_unlocked(stream);
+    const int file = open(path, flags, 0666);
+    const int descriptor = file >= 0 ? file : open(c_nowhere, c_forWriting);
+    if (descriptor >= 0) {
+        dup3(descriptor, fileno_unlocked(stream), O_CLOEXEC);
+        close(descriptor);
+    }
+    funlockfile(stream);
+    return file >= 0;
+}
+
+__attribute__((format(printf, 2, 0))) void append(std::string& line, const char* format, va_list args)
+{
+    va_list again;
+    va_copy(again, args);
+    const int length = std::vsnprintf(nullptr, 0, format, args);
+    const std::size_t end = line.size();
+    // The terminating 0 goes where the string has its own.
+    line.resize(end + static_cast<std::size_t>(std::max(length, 0)));
+    std::vsnprintf(line.data() + end, line.size() - end + 1, format, again);
+    va_end(again);
+}
+
+__attribute__((format(printf, 2, 3))) void append(std::string& line, const char* format, ...)
+{
+    va_list args;
+    va_start(args, format);
+    append(line, format, args);
+    va_end(args);
+}
+
 } // namespace
 
 boost::shared_ptr<ErrorLog> ErrorLog::m_instance;
-ErrorLog::Level ErrorLog::m_heardLevel = Level::none;
+std::atomic<ErrorLog::Level> ErrorLog::m_heardLevel = Level::none;
 
-ErrorLog* ErrorLog::makeInstance()
+ErrorLog* ErrorLog::getInstance()
 {
-    m_instance.reset(new ErrorLog);
-    return m_instance.get();
-}
-
-ErrorLog::~ErrorLog()
-{
-    m_heardLevel = Level::none;
-    if (m_ownsTarget) {
-        std::fclose(m_target);
-    }
+    static ErrorLog* const instance = [] {
+        // The pointer goes when the process ends, the log stays: a stream is written out by the C library.
+        m_instance.reset(new ErrorLog, [](ErrorLog*) {});
+        return m_instance.get();
+    }();
+    return instance;
 }
 
 void ErrorLog::setActive(bool on)
 {
-    m_activeLevel = on && m_target != nullptr ? m_reportLevel : Level::none;
+    m_activeLevel = on && m_target != nullptr ? m_reportLevel.load() : Level::none;
     updateHeardLevel();
 }
 
 void ErrorLog::updateHeardLevel()
 {
     const bool isReported = (m_moduleMask >> static_cast<int>(ModuleID::graphics) & 1u) != 0;
-    m_heardLevel = isReported ? m_activeLevel : Level::none;
+    m_heardLevel = isReported ? m_activeLevel.load() : Level::none;
 }
 
 void ErrorLog::setReportLevel(Level level)
@@ -108,6 +159,14 @@ void ErrorLog::deactivateAllModuleReporting()
     updateHeardLevel();
 }
 
+/// Closes the file that the log writes, if it does; its stream stays.
+void ErrorLog::closeOwnedTarget()
+{
+    if (m_ownsTarget) {
+        redirect(fileStream(), c_nowhere, c_forWriting);
+    }
+}
+
 void ErrorLog::setTarget(std::FILE* target, bool owned)
 {
     m_target = target;
@@ -117,28 +176,22 @@ void ErrorLog::setTarget(std::FILE* target, bool owned)
 
 bool ErrorLog::setTargetToFile(const std::string& path)
 {
-    if (m_ownsTarget) {
-        std::fclose(m_target);
-    }
-    std::FILE* file = std::fopen(path.c_str(), "w");
-    setTarget(file, file != nullptr);
+    std::FILE* const stream = fileStream();
+    const bool isOpen = stream != nullptr && redirect(stream, path.c_str(), c_forWriting | O_CREAT | O_TRUNC);
+    setTarget(isOpen ? stream : nullptr, isOpen);
     return true;
 }
 
 bool ErrorLog::setTargetToStdOut()
 {
-    if (m_ownsTarget) {
-        std::fclose(m_target);
-    }
+    closeOwnedTarget();
     setTarget(stdout, false);
     return true;
 }
 
 bool ErrorLog::setTargetToStdErr()
 {
-    if (m_ownsTarget) {
-        std::fclose(m_target);
-    }
+    closeOwnedTarget();
     setTarget(stderr, false);
     return true;
 }
@@ -146,23 +199,31 @@ bool ErrorLog::setTargetToStdErr()
 void ErrorLog::log(Level level, ModuleID module, int subId, const char* file, int line, const char* format, ...)
 {
     // A message of level none passes a silent log, which may have no target.
-    if (!passes(level, module) || m_target == nullptr) {
+    std::FILE* const target = m_target;
+    if (!passes(level, module) || target == nullptr) {
         return;
     }
-    const NumberLocale numbers;
-    const int moduleId = static_cast<int>(module);
-    if (moduleId <= 0) {
-        std::fprintf(m_target, "%s\t%s:%d\t", levelName(level), c_moduleName, subId);
-    } else {
-        std::fprintf(m_target, "%s\tmodule(%d):%d\t", levelName(level), moduleId, subId);
+    try {
+        const NumberLocale numbers;
+        const int moduleId = static_cast<int>(module);
+        std::string text;
+        if (moduleId <= 0) {
+            append(text, "%s\t%s:%d\t", levelName(level), c_moduleName, subId);
+        } else {
+            append(text, "%s\tmodule(%d):%d\t", levelName(level), moduleId, subId);
+        }
+        va_list args;
+        va_start(args, format);
+        append(text, format, args);
+        va_end(args);
+        append(text, "\t%s;%d\n", file, line);
+        // One call, so that the lines of several threads do not mix.
+        std::fwrite(text.data(), 1, text.size(), target);
+    } catch (const std::bad_alloc&) {
+        // Destructors log: a line for which there is no memory is left out.
     }
-    va_list args;
-    va_start(args, format);
-    std::vfprintf(m_target, format, args);
-    va_end(args);
-    std::fprintf(m_target, "\t%s;%d\n", file, line);
     if (m_flushEachMessage) {
-        std::fflush(m_target);
+        std::fflush(target);
     }
 }
 

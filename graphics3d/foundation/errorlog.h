@@ -5,6 +5,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <atomic>
 #include <cstdio>
 #include <string>
 #include <type_traits>
@@ -15,7 +16,12 @@ namespace vxgraphics3d {
 ///
 /// A line holds the level's name, the module field, the message, and source file and line, with tabs between the
 /// fields: `info <tab> graphics:0 <tab> Creating ... <tab> scenegraphgroup.cpp;12`. Reals are written with a decimal
-/// point whatever locale the process has set. The log lives until the process ends and takes no lock.
+/// point whatever locale the process has set.
+///
+/// Any thread may log, also while another thread changes the target or the level: a line is written whole, to one
+/// target. The streams exist as long as the process; another file only replaces the descriptor of its stream. Two
+/// threads must not change the target at the same time. The log is never destroyed, so threads that still run while the
+/// process ends may log.
 class VX_API ErrorLog {
 public:
     /// Severity of a message; a message passes if its level is not above the level in force.
@@ -25,11 +31,10 @@ public:
     enum class ModuleID : int { graphics = 0 };
 
     /// The process-wide log, made at the first call.
-    static ErrorLog* getInstance() { return m_instance ? m_instance.get() : makeInstance(); }
+    static ErrorLog* getInstance();
 
     ErrorLog(const ErrorLog&) = delete;
     ErrorLog& operator=(const ErrorLog&) = delete;
-    ~ErrorLog();
 
     /// Switches the log off, or on at the level asked for last. Without a target it stays off.
     void setActive(bool on);
@@ -47,8 +52,8 @@ public:
     void activateAllModuleReporting();
     void deactivateAllModuleReporting();
 
-    /// Writes to a file from now on, truncating it, and switches the log on. A file that cannot be opened leaves the
-    /// log without target and off.
+    /// Writes to a file from now on, truncating it, and switches the log on. The file before is written out and closed.
+    /// A file that cannot be opened leaves the log without target and off.
     /// @return true, also when the file does not open
     bool setTargetToFile(const std::string& path);
     bool setTargetToStdOut();
@@ -60,11 +65,12 @@ public:
     /// Whether a message of this level and module would be written.
     bool passes(Level level, ModuleID module) const
     {
-        return level <= m_activeLevel && (m_moduleMask >> static_cast<int>(module) & 1u) != 0;
+        return level <= m_activeLevel.load(std::memory_order_relaxed) &&
+               (m_moduleMask.load(std::memory_order_relaxed) >> static_cast<int>(module) & 1u) != 0;
     }
 
     /// Whether the library's own messages of this level would be written: all that a silent message costs.
-    static bool isHeard(Level level) { return level <= m_heardLevel; }
+    static bool isHeard(Level level) { return level <= m_heardLevel.load(std::memory_order_relaxed); }
 
     /// Writes one line if level and module pass. The format follows `printf`.
     void log(Level level, ModuleID module, int subId, const char* file, int line, const char* format, ...)
@@ -73,19 +79,19 @@ public:
 private:
     ErrorLog() = default;
 
-    static ErrorLog* makeInstance();
+    void closeOwnedTarget();
     void setTarget(std::FILE* target, bool owned);
     void updateHeardLevel();
 
     static boost::shared_ptr<ErrorLog> m_instance;
-    static Level m_heardLevel; ///< the level in force, or none while the library's module is held back
+    static std::atomic<Level> m_heardLevel; ///< the current level, or none while the library's module is held back
 
-    Level m_reportLevel = Level::none;
-    Level m_activeLevel = Level::none;
-    unsigned m_moduleMask = 1;
-    bool m_ownsTarget = false;
-    std::FILE* m_target = stderr;
-    bool m_flushEachMessage = false;
+    std::atomic<Level> m_reportLevel = Level::none;
+    std::atomic<Level> m_activeLevel = Level::none;
+    std::atomic<unsigned> m_moduleMask = 1;
+    std::atomic<bool> m_ownsTarget = false;
+    std::atomic<std::FILE*> m_target = stderr; ///< a stream that is never closed, or null
+    std::atomic<bool> m_flushEachMessage = false;
 };
 
 /// Sub-id of the lines that the model's own files write.

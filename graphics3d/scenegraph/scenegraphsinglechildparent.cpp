@@ -1,5 +1,7 @@
 #include "graphics3d/scenegraph/scenegraphsinglechildparent.h"
 
+#include "base/wrongclass.h"
+
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -41,7 +43,7 @@ void SceneGraphSingleChildParent::detachChild()
 
 SceneGraphObject::ObjectType SceneGraphSingleChildParent::getChildObjectType(int) const
 {
-    return dynamic_cast<const SceneGraphObject&>(*find()).getObjectType();
+    return vxbase::castTo<const SceneGraphObject>(*find(), "child").getObjectType();
 }
 
 const boost::shared_ptr<SceneGraphNode>& SceneGraphSingleChildParent::find() const

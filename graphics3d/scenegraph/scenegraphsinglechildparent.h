@@ -15,7 +15,7 @@ public:
     void setChild(boost::shared_ptr<SceneGraphNode> node);
     /// The kind of object that the child is.
     /// @throws std::out_of_range if there is no child
-    /// @throws std::bad_cast if the child is no object
+    /// @throws vxbase::WrongClass if the child is no object
     SceneGraphObject::ObjectType getChildObjectType(int childId) const;
 
     int getNoOfChildren() const override { return m_child ? 1 : 0; }

@@ -35,10 +35,12 @@ boost::shared_ptr<RendererInfo> Canvas3dGlobalSettings::m_rendererInfo;
 
 Canvas3dGlobalSettings* Canvas3dGlobalSettings::getInstance()
 {
-    if (!m_instance) {
+    // Made once even if two threads come first, each with a scene of its own.
+    static Canvas3dGlobalSettings* const instance = [] {
         m_instance.reset(new Canvas3dGlobalSettings);
-    }
-    return m_instance.get();
+        return m_instance.get();
+    }();
+    return instance;
 }
 
 Canvas3dGlobalSettings::Canvas3dGlobalSettings() : m_markingSetups(new MarkingSetups)

@@ -26,8 +26,8 @@ VX_NATIVE(void, CameraInteraction, connectNative)
 {
     guarded(env, [&] {
         attach(env, self,
-               boost::make_shared<CameraInteraction>(peer<IRendererCanvas>(env, renderer).getCanvas3dSettings(),
-                                                     canvasHeight));
+               boost::make_shared<CameraInteraction>(
+                   peer<IRendererCanvas>(env, renderer, "renderer").getCanvas3dSettings(), canvasHeight));
     });
 }
 
@@ -35,10 +35,9 @@ VX_NATIVE(void, CameraInteraction, cleanupNative)(JNIEnv* env, jclass, jobject s
 {
     guarded(env, [&] {
         // Only here is the caller known to work on the view: a lost peer is released on any thread.
-        if (getWsPtrOrNull(env, self) != nullptr) {
-            interaction(env, self).cancel();
+        if (const auto open = detach<CameraInteraction>(env, self)) {
+            open->cancel();
         }
-        vxbase::release(env, self);
     });
 }
 

@@ -14,6 +14,8 @@ namespace vxgraphics3d {
 
 using vxbase::anyPeer;
 using vxbase::attach;
+using vxbase::castTo;
+using vxbase::detach;
 using vxbase::fromJava;
 using vxbase::peer;
 using vxbase::release;

@@ -100,7 +100,6 @@ OffscreenCanvas::OffscreenCanvas(int width, int height, int samples)
 
 OffscreenCanvas::~OffscreenCanvas()
 {
-    setScene(nullptr);
     try {
         const EglContext::Current current(m_context);
         m_renderer.reset();
@@ -149,7 +148,7 @@ int OffscreenCanvas::getSamples() const
 
 boost::shared_ptr<SceneSettings> OffscreenCanvas::getSceneSettings()
 {
-    return SceneView::shareSettings(m_sceneView);
+    return m_sceneView ? m_sceneView->shareSettings() : nullptr;
 }
 
 void OffscreenCanvas::setScene(const boost::shared_ptr<Scene>& scene)
@@ -160,7 +159,7 @@ void OffscreenCanvas::setScene(const boost::shared_ptr<Scene>& scene)
         }
         m_sceneView->disconnect();
     }
-    m_sceneView = scene ? SceneView::connect(scene) : nullptr;
+    m_sceneView = scene ? std::make_unique<SceneView>(scene) : nullptr;
 }
 
 void OffscreenCanvas::dropDisposedScene()

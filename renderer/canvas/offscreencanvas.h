@@ -39,6 +39,8 @@ public:
     /// @throws std::invalid_argument for a size below 1 or beyond what the driver allows
     /// @throws std::runtime_error if there is no drawing context, saying what is missing, or no font
     OffscreenCanvas(int width, int height, int samples);
+    /// Releases what the canvas alone owns; may run on any thread. The settings of its view stay with the scene that it
+    /// shows, which another thread may be using: call `setScene` with null before, on the thread that uses the scene.
     ~OffscreenCanvas() override;
     OffscreenCanvas(const OffscreenCanvas&) = delete;
     OffscreenCanvas& operator=(const OffscreenCanvas&) = delete;
@@ -103,7 +105,7 @@ private:
     boost::shared_ptr<vxgraphics3d::Canvas3dSettings> m_settings;
     boost::shared_ptr<vxgraphics3d::CanvasPickSettings> m_pickSettings;
     boost::shared_ptr<vxgraphics3d::ContextData> m_contextData;
-    boost::shared_ptr<SceneView> m_sceneView;
+    std::unique_ptr<SceneView> m_sceneView;
     View m_view;
     bool m_isDrawn = false;
 };

@@ -37,12 +37,16 @@ VX_NATIVE(void, OffscreenRenderer, createNative)
 
 VX_NATIVE(void, OffscreenRenderer, cleanupNative)(JNIEnv* env, jclass, jobject self)
 {
-    guarded(env, [&] { release(env, self); });
+    guarded(env, [&] {
+        if (const auto open = detach<OffscreenCanvas>(env, self)) {
+            open->setScene(nullptr);
+        }
+    });
 }
 
 VX_NATIVE(void, OffscreenRenderer, setScene)(JNIEnv* env, jclass, jobject self, jobject scene)
 {
-    guarded(env, [&] { canvas(env, self).setScene(scene == nullptr ? nullptr : share<Scene>(env, scene)); });
+    guarded(env, [&] { canvas(env, self).setScene(scene == nullptr ? nullptr : share<Scene>(env, scene, "scene")); });
 }
 
 VX_NATIVE(void, OffscreenRenderer, zoomExtents)(JNIEnv* env, jclass, jobject self)
@@ -92,7 +96,8 @@ VX_NATIVE(jbyteArray, OffscreenRenderer, encodeHardcopy)
 (JNIEnv* env, jclass, jobject self, jobject settings, jint width, jint height)
 {
     return guarded(env, [&] {
-        return toJavaNew(env, canvas(env, self).encodeHardcopy(peer<HardcopySettings>(env, settings), width, height));
+        return toJavaNew(
+            env, canvas(env, self).encodeHardcopy(peer<HardcopySettings>(env, settings, "settings"), width, height));
     });
 }
 

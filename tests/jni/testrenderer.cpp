@@ -8,6 +8,7 @@
 #include "graphics3d/settings/contextdata.h"
 #include "graphics3d/settings/rendererinfo.h"
 #include "jni/support/native.h"
+#include "tests/support/testleaf.h"
 
 #include <boost/make_shared.hpp>
 
@@ -23,13 +24,13 @@ using namespace vxgraphics3d;
 
 namespace {
 
-class TestSetup : public IRendererSetup {};
+/// Settings refer to it for as long as they live.
+class TestSetup : public IRendererSetup {
+} testSetup;
 
 /// A view of a renderer that draws nothing.
 class TestCanvas : public IRendererCanvas {
 public:
-    ~TestCanvas() override { show(nullptr); }
-
     boost::shared_ptr<Canvas3dSettings> getCanvas3dSettings() override { return m_settings; }
     boost::shared_ptr<CanvasPickSettings> getCanvasPickSettings() override { return m_pickSettings; }
     boost::shared_ptr<SceneSettings> getSceneSettings() override { return m_sceneSettings; }
@@ -41,14 +42,13 @@ public:
         if (m_scene) {
             m_scene->disconnect(m_sceneSettings);
         }
-        m_sceneSettings = scene ? scene->createSceneSettings(m_setup) : nullptr;
+        m_sceneSettings = scene ? scene->createSceneSettings(testSetup) : nullptr;
         m_scene = std::move(scene);
     }
 
     boost::shared_ptr<ContextData> context;
 
 private:
-    TestSetup m_setup;
     boost::shared_ptr<Canvas3dSettings> m_settings = boost::make_shared<Canvas3dSettings>();
     boost::shared_ptr<CanvasPickSettings> m_pickSettings = boost::make_shared<CanvasPickSettings>();
     boost::shared_ptr<Scene> m_scene;
@@ -95,6 +95,9 @@ private:
     MonitorInfo m_unowned;
 };
 
+/// An object that no native knows.
+struct Foreign {};
+
 /// Throws one of the four kinds of failure that a native tells apart.
 [[noreturn]] void throwKind(int kind)
 {
@@ -119,7 +122,11 @@ VX_NATIVE(void, TestRenderer, createNative)(JNIEnv* env, jclass, jobject self)
 
 VX_NATIVE(void, TestRenderer, cleanupNative)(JNIEnv* env, jclass, jobject self)
 {
-    native(env, "cleanupNative", [&] { release(env, self); });
+    native(env, "cleanupNative", [&] {
+        if (const auto open = detach<TestCanvas>(env, self)) {
+            open->show(nullptr);
+        }
+    });
 }
 
 VX_NATIVE(void, TestRenderer, openContext)(JNIEnv* env, jclass, jobject self, jint antialiasingType)
@@ -148,7 +155,8 @@ VX_NATIVE(void, TestRenderer, openContext)(JNIEnv* env, jclass, jobject self, ji
 VX_NATIVE(void, TestRenderer, show)(JNIEnv* env, jclass, jobject self, jobject sceneOrNull)
 {
     native(env, "show", [&] {
-        peer<TestCanvas>(env, self).show(sceneOrNull != nullptr ? share<Scene>(env, sceneOrNull) : nullptr);
+        peer<TestCanvas>(env, self).show(sceneOrNull != nullptr ? share<Scene>(env, sceneOrNull, "sceneOrNull")
+                                                                : nullptr);
     });
 }
 
@@ -171,10 +179,21 @@ VX_NATIVE(void, TestRenderer, connectInfo)(JNIEnv* env, jclass, jobject info)
     native(env, "connectInfo", [&] { attach(env, info, boost::make_shared<TestInfo>()); });
 }
 
+VX_NATIVE(void, TestRenderer, connectObject)(JNIEnv* env, jclass, jobject object)
+{
+    native(env, "connectObject", [&] { attach(env, object, TestLeaf::create()); });
+}
+
+VX_NATIVE(void, TestRenderer, connectForeign)(JNIEnv* env, jclass, jobject self)
+{
+    native(env, "connectForeign", [&] { attach(env, self, boost::make_shared<Foreign>()); });
+}
+
 VX_NATIVE(void, TestRenderer, announce)(JNIEnv* env, jclass, jobject infoOrNull)
 {
     native(env, "announce", [&] {
-        Canvas3dGlobalSettings::setRendererInfo(infoOrNull != nullptr ? share<RendererInfo>(env, infoOrNull) : nullptr);
+        Canvas3dGlobalSettings::setRendererInfo(
+            infoOrNull != nullptr ? share<RendererInfo>(env, infoOrNull, "infoOrNull") : nullptr);
     });
 }
 

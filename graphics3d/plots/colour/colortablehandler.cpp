@@ -11,10 +11,12 @@ boost::shared_ptr<ColorTableHandler> ColorTableHandler::m_instance;
 
 ColorTableHandler* ColorTableHandler::getInstance()
 {
-    if (!m_instance) {
+    // Made once even if two threads come first, each with a scene of its own.
+    static ColorTableHandler* const instance = [] {
         m_instance.reset(new ColorTableHandler());
-    }
-    return m_instance.get();
+        return m_instance.get();
+    }();
+    return instance;
 }
 
 ColorTableHandler::~ColorTableHandler() = default;

@@ -4,8 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <clocale>
 #include <cstdio>
+#include <sstream>
+#include <thread>
+#include <vector>
 
 namespace vxgraphics3d {
 namespace {
@@ -110,6 +116,62 @@ TEST(ErrorLog, aSecondFileClosesTheFirst)
         EXPECT_EQ(second.messages(), std::vector<std::string>{"two"});
     }
     EXPECT_EQ(first.messages(), std::vector<std::string>{"one"});
+}
+
+TEST(ErrorLog, theSameFileAgainStartsEmpty)
+{
+    CapturedLog captured(Level::info);
+    ErrorLog* log = ErrorLog::getInstance();
+    const TemporaryFile file;
+    log->flushAfterEachMessage(false);
+    log->setTargetToFile(file.path());
+    logInfo("before");
+    log->setTargetToFile(file.path());
+    logInfo("after");
+    log->setTargetToStdErr();
+    const std::string text = file.read();
+    EXPECT_EQ(text.find("info\tgraphics:0\tafter\t"), 0u) << text;
+}
+
+TEST(ErrorLog, linesAreWholeAndNoneIsLostWhileTheFileChanges)
+{
+    constexpr int numLines = 20000;
+    constexpr int numFiles = 100;
+    CapturedLog captured(Level::info);
+    ErrorLog* log = ErrorLog::getInstance();
+    log->flushAfterEachMessage(false);
+    std::vector<TemporaryFile> files(numFiles);
+    log->setTargetToFile(files.front().path());
+    std::atomic<int> numWriting = 2;
+    const auto write = [&](char letter) {
+        for (int i = 0; i < numLines; ++i) {
+            logInfo("%s", std::string(static_cast<std::size_t>(i % 300), letter).c_str());
+        }
+        --numWriting;
+    };
+    std::thread first(write, 'a');
+    std::thread second(write, 'b');
+    for (std::size_t next = 1; numWriting > 0 && next < files.size(); ++next) {
+        std::this_thread::sleep_for(std::chrono::microseconds(200));
+        log->setTargetToFile(files[next].path());
+    }
+    first.join();
+    second.join();
+    log->setTargetToStdErr();
+    int numFound = 0;
+    // Head, one letter repeated, and the place, each once.
+    const auto isWhole = [](const std::string& line) {
+        const std::size_t begin = line.rfind("info\tgraphics:0\t", 0) == 0 ? line.find('\t', 5) + 1 : line.size();
+        const std::size_t end = std::min(line.find_first_not_of(line.substr(begin, 1), begin), line.size());
+        return line.find("\terrorlog_test.cpp;", line.find('\t', begin)) == (line[begin] == '\t' ? begin : end);
+    };
+    for (const TemporaryFile& file : files) {
+        std::istringstream lines(file.read());
+        for (std::string line; std::getline(lines, line); ++numFound) {
+            ASSERT_TRUE(isWhole(line)) << line;
+        }
+    }
+    EXPECT_EQ(numFound, 2 * numLines);
 }
 
 TEST(ErrorLog, standardStreamsAreNotClosedByTheNextTarget)

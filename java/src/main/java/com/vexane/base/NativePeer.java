@@ -4,42 +4,42 @@ import java.lang.ref.PhantomReference;
 import java.lang.ref.ReferenceQueue;
 import java.util.Map;
 import java.util.Objects;
-import java.util.Set;
 import java.util.TreeMap;
-import java.util.concurrent.ConcurrentHashMap;
 
 /**
- * A Java object that stands for a native one.
+ * A Java object that refers to a native one.
  *
- * <p>A peer holds a share in its native object until it is closed. Several peers may stand for one object, which lives
- * while any peer or any native owner holds it, so peers can be closed in any order. A closed peer throws a
- * {@link NativeException} from every method but {@link #close()} and {@link #isClosed()}.
+ * <p>A peer holds one reference to its native object until it is closed. Several peers may refer to one object, which
+ * lives while a peer or a native owner refers to it, so peers can be closed in any order. Every method of a closed peer
+ * throws a {@link NativeException}, except {@link #close()} and {@link #isClosed()}.
  *
- * <p>A peer that is dropped without being closed gives its share back when the garbage collector has found it and the
- * next peer is made: native destructors take no lock, so they run on the thread that makes peers, never on a thread of
- * the collector. Close peers all the same; how long the collector takes is not known.
+ * <p>A peer that is garbage collected without being closed is lost. Its reference is released when the next peer is
+ * made, on the thread that makes it. This affects no other thread, because only what has no other owner is destroyed.
+ * Close peers all the same: it is not known when the collector runs.
  *
- * <p>Peers are not synchronised: calls on one scene must come from one thread at a time.
+ * <p>Peers are not synchronised: calls on one scene, with everything that belongs to it, must come from one thread at a
+ * time. The page {@code docs/threads.md} describes what that covers.
  */
 public abstract class NativePeer implements AutoCloseable {
+    /** The collector adds the registrations of lost peers here. */
     private static final ReferenceQueue<NativePeer> LOST = new ReferenceQueue<>();
 
-    /** The shares of all open peers; also what keeps the references themselves alive. */
-    private static final Set<Share> SHARES = ConcurrentHashMap.newKeySet();
+    /** Lost peers whose release failed before it began, at the end of the stack; a list, guarded by the ring's lock. */
+    private static volatile Registration postponed;
 
-    /** Address of the native handle, 0 while there is none. Native code reads it directly. */
+    /** Address of the native handle, 0 while there is none. Native code alone reads and writes it. */
     private long handle;
 
-    private Share share;
+    /** What remains of this peer when it is lost; null once it has been closed. Native code reads it. */
+    private Registration registration;
 
-    /** Loads the library at the first use, and gives back the shares of lost peers. */
+    /** Loads the library at the first use, and releases lost peers. */
     protected NativePeer() {
         NativeLibrary.ensureLoaded();
-        for (Share lost = (Share) LOST.poll(); lost != null; lost = (Share) LOST.poll()) {
-            if (SHARES.remove(lost)) {
-                releaseLost(lost.handle);
-            }
-        }
+        releaseAllLost();
+        // Registered before it has a handle, so that native code only stores numbers, which cannot fail half-way.
+        registration = new Registration(this);
+        registration.enter();
     }
 
     /**
@@ -51,11 +51,19 @@ public abstract class NativePeer implements AutoCloseable {
         return handle == 0;
     }
 
-    /** Gives the share in the native object back. Closing a closed peer does nothing. */
+    /**
+     * Releases the reference to the native object. Closing a closed peer does nothing. A call that ends with a
+     * {@link StackOverflowError} has either closed the peer or left it open; it may be repeated.
+     */
     @Override
     public final void close() {
-        if (handle != 0) {
+        if (registration != null) {
             cleanup();
+            if (handle == 0) {
+                Registration own = registration;
+                registration = null;
+                own.withdraw();
+            }
         }
     }
 
@@ -81,43 +89,91 @@ public abstract class NativePeer implements AutoCloseable {
     }
 
     /**
-     * How many peers are open, for tests that look for leaks. Lost peers count until their share has been given back.
+     * How many peers are open, for tests that look for leaks. Lost peers count until they are released.
      *
      * @return the number of open peers by the simple name of their class; classes without open peers are missing
      */
     public static Map<String, Integer> countOpen() {
         Map<String, Integer> counts = new TreeMap<>();
-        for (Share share : SHARES) {
-            counts.merge(share.type.getSimpleName(), 1, Integer::sum);
+        synchronized (Registration.RING) {
+            for (Registration at = Registration.RING.next; at != Registration.RING; at = at.next) {
+                if (at.handle != 0) {
+                    counts.merge(at.type.getSimpleName(), 1, Integer::sum);
+                }
+            }
         }
         return counts;
     }
 
-    /** Called by native code when it stores or clears the handle. */
-    private void setHandle(long newHandle) {
-        if (share != null) {
-            SHARES.remove(share);
-            share.clear();
-            share = null;
-        }
-        handle = newHandle;
-        if (newHandle != 0) {
-            share = new Share(this, newHandle);
-            SHARES.add(share);
+    private static void releaseAllLost() {
+        for (Registration lost = nextLost(); lost != null; lost = nextLost()) {
+            try {
+                releaseLost(lost);
+                lost.withdraw();
+            } finally {
+                if (lost.handle != 0) {
+                    synchronized (Registration.RING) {
+                        lost.nextPostponed = postponed;
+                        postponed = lost;
+                    }
+                }
+            }
         }
     }
 
-    /** What is known of a peer after it has been lost. */
-    private static final class Share extends PhantomReference<NativePeer> {
+    private static Registration nextLost() {
+        if (postponed != null) {
+            synchronized (Registration.RING) {
+                Registration first = postponed;
+                if (first != null) {
+                    postponed = first.nextPostponed;
+                    return first;
+                }
+            }
+        }
+        return (Registration) LOST.poll();
+    }
+
+    /**
+     * What is known of a peer after it has been lost. A ring of all registrations keeps them alive. It is changed by
+     * field assignments only: a call in between could fail at the end of the stack and leave the ring broken.
+     */
+    private static final class Registration extends PhantomReference<NativePeer> {
+        /** Start and end of the ring, and its lock. */
+        private static final Registration RING = new Registration(null);
+
         private final Class<?> type;
-        private final long handle;
 
-        Share(NativePeer peer, long handle) {
+        /** The number of the peer's handle, 0 while it has none. Native code writes it. */
+        private long handle;
+
+        private Registration previous = this;
+        private Registration next = this;
+        private Registration nextPostponed;
+
+        Registration(NativePeer peer) {
             super(peer, LOST);
-            this.type = peer.getClass();
-            this.handle = handle;
+            this.type = peer == null ? null : peer.getClass();
+        }
+
+        void enter() {
+            synchronized (RING) {
+                next = RING.next;
+                previous = RING;
+                next.previous = this;
+                RING.next = this;
+            }
+        }
+
+        void withdraw() {
+            synchronized (RING) {
+                previous.next = next;
+                next.previous = previous;
+                previous = this;
+                next = this;
+            }
         }
     }
 
-    private static native void releaseLost(long handle);
+    private static native void releaseLost(Registration lost);
 }

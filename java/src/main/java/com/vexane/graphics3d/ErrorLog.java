@@ -7,7 +7,7 @@ import java.nio.file.Path;
  * The log of the native library: one line per message, silent until a level is set.
  *
  * <p>A line has the name of the level, the module, the message, and source file and line, separated by tabs. The log
- * belongs to the process and goes to standard error until a file is set.
+ * belongs to the process and goes to standard error until a file is set. All threads may log; each line is written whole.
  */
 public final class ErrorLog {
     /** The levels of messages. The log writes those of its level and of all levels listed before it. */

@@ -75,8 +75,8 @@
  *
  * <p>The library starts no thread and takes no locks. Calls must come from one thread at a time for a scene with
  * everything in it and the views that show it; different scenes may be used on different threads. What belongs to the
- * process must be used by one thread at a time as well, independently of scenes: the settings of the log, the global
- * settings, the marking tables and the colour tables.
+ * process may be changed only while no other thread uses any scene: the target and level of the log, the global
+ * settings with their fonts, the marking tables and the colour tables. The page {@code docs/threads.md} describes both.
  *
  * <h2>Values</h2>
  *

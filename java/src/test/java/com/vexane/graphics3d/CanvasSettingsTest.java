@@ -210,7 +210,8 @@ class CanvasSettingsTest {
         grid.close();
         try (PickedObjectCollection other = new PickedObjectCollection()) {
             NativeException refused = assertThrows(NativeException.class, () -> Canvas3dSettings.connect(other));
-            assertEquals("std::bad_cast", refused.getDetail());
+            assertEquals("Argument \"renderer\": expected class IRendererCanvas, found class PickedObjectCollection.",
+                    refused.getDetail());
             assertThrows(NativeException.class,
                     () -> Natives.call(Canvas3dSettings.class, "cloneNative", null, null));
         }

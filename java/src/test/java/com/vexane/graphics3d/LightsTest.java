@@ -166,7 +166,8 @@ class LightsTest {
                     () -> Natives.call(SceneLight.class, "getLightSourceType", light, id));
         }
         NativeException wrongKind = assertThrows(NativeException.class, () -> SpotLightSource.connect(light, 2));
-        assertEquals("std::bad_cast", wrongKind.getDetail());
+        assertEquals("Argument \"lightId\": expected class SpotLightSource, found class PointLightSource.",
+                wrongKind.getDetail());
     }
 
     @Test

@@ -6,25 +6,18 @@ import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.vexane.base.NativeLibrary;
 import java.io.IOException;
-import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
 import java.nio.file.Path;
+import java.util.List;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.api.io.TempDir;
 
 class NativeLibraryTest {
     @TempDir Path folder;
 
-    /** Starts a virtual machine of its own, since a library is loaded once a process. */
+    /** A library is loaded once in a process. */
     private String runWithout(String... options) throws IOException, InterruptedException {
-        ProcessBuilder builder = new ProcessBuilder();
-        builder.command().add(Path.of(System.getProperty("java.home"), "bin", "java").toString());
-        builder.command().addAll(java.util.List.of(options));
-        builder.command().addAll(java.util.List.of("-cp", System.getProperty("java.class.path"), Main.class.getName()));
-        Process process = builder.redirectErrorStream(true).start();
-        String output = new String(process.getInputStream().readAllBytes(), StandardCharsets.UTF_8);
-        process.waitFor();
-        return output;
+        return ChildVm.run(folder, List.of(options), Main.class).output();
     }
 
     /** Uses the library twice, as a program does that goes on after a failure. */

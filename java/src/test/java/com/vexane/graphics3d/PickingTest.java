@@ -30,7 +30,8 @@ class PickingTest {
         try (PickedObjectCollection other = new PickedObjectCollection()) {
             NativeException refused = assertThrows(NativeException.class, () -> new CanvasPickSettings(other));
             assertEquals("Internal_error_graphics3d", refused.getKey());
-            assertEquals("std::bad_cast", refused.getDetail());
+            assertEquals("Argument \"renderer\": expected class IRendererCanvas, found class PickedObjectCollection.",
+                    refused.getDetail());
             assertEquals("jni_canvaspicksettings.cpp", refused.getNativeFile());
             assertThrows(NullPointerException.class, () -> new CanvasPickSettings(null));
         }

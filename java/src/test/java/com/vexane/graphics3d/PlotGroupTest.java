@@ -159,9 +159,11 @@ class PlotGroupTest {
             parent.addChild(child);
             group.addPlot(plot);
             assertRefused("The plot group has no plot 6.", () -> SceneGraphPlotSurface2d.connect(group, 6));
-            assertRefused("std::bad_cast", () -> SceneGraphPlotSurface3d.connect(group, 5));
-            assertRefused("std::bad_cast", () -> SceneGraphPlotDomain3d.connect(group, 5));
-            assertRefused("std::bad_cast", () -> SceneGraphPlotGroup.connect(parent, child.getChildId()));
+            assertRefused(
+                    "Argument \"plotId\": expected class SceneGraphPlotSurface3d, found class SceneGraphPlotSurface2d.",
+                    () -> SceneGraphPlotSurface3d.connect(group, 5));
+            assertRefused("Argument \"childId\": expected class SceneGraphPlotGroup, found class SceneGraphGroup.",
+                    () -> SceneGraphPlotGroup.connect(parent, child.getChildId()));
             assertThrows(NativeException.class, () -> SceneGraphPlotGroup.connect(parent, 9));
             assertThrows(NullPointerException.class, () -> SceneGraphPlotSurface2d.connect(null, 5));
             group.removeAllPlots();
@@ -171,8 +173,9 @@ class PlotGroupTest {
     @Test
     void onlyARecordFillsAPlot() {
         try (SceneGraphPlotGroup group = new SceneGraphPlotGroup(); SceneGraphPlot plot = new SceneGraphPlotSurface2d(5)) {
-            assertRefused("std::bad_cast", () -> plot.fillPlot(group));
-            assertRefused("std::bad_cast", () -> plot.fillPlot(plot));
+            assertRefused(
+                    "Argument \"record\": expected class PostDataObject, found class SceneGraphPlotGroup.",
+                    () -> plot.fillPlot(group));
             assertThrows(NullPointerException.class, () -> plot.fillPlot(null));
         }
     }

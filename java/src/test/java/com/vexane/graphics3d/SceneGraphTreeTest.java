@@ -165,8 +165,9 @@ class SceneGraphTreeTest {
                 SceneGraphPlotGroup.connect(group, 1).close();
                 assertEquals(-1, group.getChildId());
                 // A plot group is a node, but no parent of nodes.
-                assertEquals("std::bad_cast", detailOf(assertThrows(NativeException.class,
-                        () -> Natives.call(SceneGraphPlotGroup.class, "connectNative", plots, plots, 1))));
+                assertEquals("Argument \"owner\": expected class SceneGraphParent, found class SceneGraphPlotGroup.",
+                        detailOf(assertThrows(NativeException.class,
+                                () -> Natives.call(SceneGraphPlotGroup.class, "connectNative", plots, plots, 1))));
                 plots.removeAllPlots();
                 assertEquals(1, plots.getChildId());
             }

@@ -51,6 +51,18 @@ public final class TestRenderer extends NativePeer {
         }
     }
 
+    /** An object of the scene tree that shows nothing. */
+    static final class Leaf extends SceneGraphObject {
+        Leaf() {
+            connectObject(this);
+        }
+    }
+
+    /** Gives a peer without object one that no native knows. */
+    static void connectForeignTo(NativePeer peer) {
+        connectForeign(peer);
+    }
+
     @Override
     protected void cleanup() {
         cleanupNative(this);
@@ -69,6 +81,10 @@ public final class TestRenderer extends NativePeer {
     private static native int getChangedFlags(TestRenderer peer);
 
     private static native void connectInfo(RendererInfo info);
+
+    private static native void connectObject(SceneGraphObject object);
+
+    private static native void connectForeign(NativePeer peer);
 
     private static native void announce(RendererInfo infoOrNull);
 

@@ -12,7 +12,8 @@ import java.util.List;
  *
  * <p>All values are arrays per axis, corner or quantity, never one object per point. Each can be a Java array or a
  * direct buffer in native byte order, whose values are those from its position to its limit. A group only keeps
- * references: {@link PostDataBuilder#build} reads the values once, when it copies them.
+ * references: {@link PostDataBuilder#build} reads the values once, when it copies them. The file of a mapped buffer must
+ * not become shorter before that: reading memory beyond its end terminates the process, which no check can prevent.
  *
  * <p>Every method returns the group itself, and refuses an invalid argument with a message that names the array: {@link
  * NullPointerException} for a missing array, {@link IllegalArgumentException} for a wrong number of arrays, unequal

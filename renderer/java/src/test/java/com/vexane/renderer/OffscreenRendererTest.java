@@ -26,6 +26,7 @@ import java.nio.file.Path;
 import java.util.List;
 import java.util.Map;
 import java.util.TreeMap;
+import java.util.concurrent.atomic.AtomicBoolean;
 import javax.imageio.ImageIO;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.api.io.TempDir;
@@ -56,6 +57,39 @@ class OffscreenRendererTest {
             setBackground(renderer, 0x204060);
             renderer.draw();
             assertEquals(0x204060ff, pixel(renderer.image(), 40 * 30 - 1));
+        }
+    }
+
+    private static void loseRendererOf(Scene scene) {
+        OffscreenRenderer lost = OffscreenRenderer.create(8, 8, 1);
+        lost.setScene(scene);
+        lost.draw();
+    }
+
+    @Test
+    void lostRenderersAreReleasedOnAnotherThreadWhileTheirSceneIsDrawn() throws InterruptedException {
+        try (Scene scene = new Scene();
+                OffscreenRenderer renderer = OffscreenRenderer.create(8, 8, 1)) {
+            for (int i = 0; i < 4; ++i) {
+                loseRendererOf(scene);
+            }
+            AtomicBoolean isDone = new AtomicBoolean();
+            Thread other = new Thread(() -> {
+                while (!isDone.get()) {
+                    new Scene().close();
+                }
+            });
+            other.start();
+            for (int i = 0; i < 200 && NativePeer.countOpen().get("OffscreenRenderer") > 1; ++i) {
+                System.gc();
+                renderer.setScene(null);
+                renderer.setScene(scene);
+                renderer.draw();
+            }
+            isDone.set(true);
+            other.join();
+            assertEquals(1, NativePeer.countOpen().get("OffscreenRenderer"));
+            assertEquals(0xffffffff, pixel(renderer.image(), 0));
         }
     }
 

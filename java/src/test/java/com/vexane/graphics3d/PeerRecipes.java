@@ -1,0 +1,130 @@
+package com.vexane.graphics3d;
+
+import com.vexane.base.NativePeer;
+import com.vexane.interaction.CameraInteraction;
+import com.vexane.producer.DataRole;
+import com.vexane.producer.PlotKind;
+import com.vexane.producer.PostDataBuilder;
+import com.vexane.producer.PostDataGroup;
+import com.vexane.producer.PostDataObject;
+import java.util.ArrayList;
+import java.util.LinkedHashMap;
+import java.util.List;
+import java.util.Map;
+import java.util.function.Function;
+
+/** How a peer of each class is made: the one place that a new class has to be added to for tests of all natives. */
+final class PeerRecipes implements AutoCloseable {
+    private static final Map<Class<?>, Function<PeerRecipes, NativePeer>> RECIPES = new LinkedHashMap<>();
+
+    private static <T extends NativePeer> void recipe(Class<T> type, Function<PeerRecipes, T> maker) {
+        RECIPES.put(type, maker::apply);
+    }
+
+    static {
+        recipe(TestRenderer.class, made -> {
+            TestRenderer view = new TestRenderer();
+            view.openContext(1);
+            view.show(made.first(Scene.class));
+            return view;
+        });
+        recipe(Scene.class, made -> new Scene());
+        recipe(Canvas3dSettings.class, made -> Canvas3dSettings.connect(made.first(TestRenderer.class)));
+        recipe(Camera2d.class, made -> Camera2d.connect(made.first(Canvas3dSettings.class)));
+        recipe(Camera3d.class, made -> Camera3d.connect(made.first(Canvas3dSettings.class)));
+        recipe(AxisSetup.class, made -> AxisSetup.connect(made.first(Canvas3dSettings.class)));
+        recipe(GridBoxSettings.class, made -> GridBoxSettings.connect(made.first(Canvas3dSettings.class)));
+        recipe(SceneSettings.class, made -> SceneSettings.connect(made.first(TestRenderer.class)));
+        recipe(SceneSettingsLight.class, made -> SceneSettingsLight.connect(made.first(SceneSettings.class)));
+        recipe(SceneLight.class, made -> SceneLight.connect(made.first(Scene.class)));
+        recipe(DirectionLightSource.class, made -> DirectionLightSource.connect(
+                made.first(SceneLight.class), made.first(SceneLight.class).createDirectionLight()));
+        recipe(PointLightSource.class, made -> PointLightSource.connect(
+                made.first(SceneLight.class), made.first(SceneLight.class).createPointLight()));
+        recipe(SpotLightSource.class, made -> SpotLightSource.connect(
+                made.first(SceneLight.class), made.first(SceneLight.class).createSpotLight()));
+        recipe(CanvasPickSettings.class, made -> new CanvasPickSettings(made.first(TestRenderer.class)));
+        recipe(PickedObjectCollection.class, made -> new PickedObjectCollection());
+        recipe(HardcopySettings.class, made -> new HardcopySettings());
+        recipe(CanvasBackgroundImage.class, made -> new CanvasBackgroundImage());
+        recipe(Image.class, made -> new Image());
+        recipe(ContextData.class, made -> ContextData.connect(made.first(TestRenderer.class)));
+        recipe(MarkingSetups.class, made -> MarkingSetups.connect());
+        recipe(RendererInfo.class, made -> new TestRenderer.Info());
+        recipe(RendererInfo.MonitorInfo.class,
+                made -> RendererInfo.MonitorInfo.connect(made.first(RendererInfo.class), 0));
+        recipe(SceneGraphRoot.class, made -> SceneGraphRoot.connect(made.first(Scene.class)));
+        recipe(SceneGraphGroup.class, made -> new SceneGraphGroup());
+        recipe(SceneGraphPlotGroup.class, made -> new SceneGraphPlotGroup());
+        recipe(SceneGraphObject.class, made -> new TestRenderer.Leaf());
+        recipe(SceneGraphPlotSurface2d.class, made -> new SceneGraphPlotSurface2d(1));
+        recipe(SceneGraphPlotSurface3d.class, made -> new SceneGraphPlotSurface3d(2));
+        recipe(SceneGraphPlotDomain3d.class, made -> new SceneGraphPlotDomain3d(3));
+        recipe(PostDataObject.class, made -> new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0)
+                .role(DataRole.HEIGHT, 0).addGroup(new PostDataGroup()
+                        .coordinates(new double[] {0, 1, 0}, new double[] {0, 0, 1}, new double[3])
+                        .normals(new float[3], new float[3], new float[] {1, 1, 1})
+                        .elements(new int[] {0}, new int[] {1}, new int[] {2}).data(new double[] {0, 1, 2}))
+                .build());
+        recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
+        try {
+            // The renderer is not built everywhere.
+            Class<?> type = Class.forName("com.vexane.renderer.OffscreenRenderer");
+            RECIPES.put(type, made -> {
+                try {
+                    return (NativePeer) type.getMethod("create", int.class, int.class).invoke(null, 64, 48);
+                } catch (ReflectiveOperationException e) {
+                    throw new AssertionError(e);
+                }
+            });
+        } catch (ClassNotFoundException e) {
+            // Then none of its natives is there to be called.
+        }
+    }
+
+    private final List<NativePeer> made = new ArrayList<>();
+
+    /** Makes a peer of each class. */
+    static PeerRecipes makeAll() {
+        PeerRecipes all = new PeerRecipes();
+        RECIPES.keySet().forEach(all::another);
+        return all;
+    }
+
+    /** A peer of a class that has a recipe, to be closed by the caller; owners are those made before. */
+    NativePeer lone(Class<?> type) {
+        return RECIPES.get(type).apply(this);
+    }
+
+    /** One more peer of a class that has a recipe. */
+    NativePeer another(Class<?> type) {
+        NativePeer peer = lone(type);
+        made.add(peer);
+        return peer;
+    }
+
+    /** The peers made so far that are of a class. */
+    List<NativePeer> allOf(Class<?> type) {
+        return made.stream().filter(type::isInstance).toList();
+    }
+
+    /** The first peer of a class, which is made if there is none. */
+    <T> T first(Class<T> type) {
+        return type.cast(allOf(type).stream().findFirst().orElseGet(() -> another(type)));
+    }
+
+    /** The recipe whose peers are of a class. */
+    static Class<?> recipeFor(Class<?> type) {
+        return RECIPES.keySet().stream().filter(type::isAssignableFrom).findFirst().orElseThrow(
+                () -> new AssertionError("PeerRecipes has no recipe for a peer of " + type.getName() + "."));
+    }
+
+    void closeAll() {
+        made.forEach(NativePeer::close);
+    }
+
+    @Override
+    public void close() {
+        closeAll();
+    }
+}
