@@ -1,7 +1,5 @@
 #include "renderer/gl/glprogram.h"
 
-#include "graphics3d/foundation/matrixf.h"
-
 #include <stdexcept>
 #include <string>
 
@@ -83,22 +81,10 @@ void GlProgram::bindBlock(const char* block, GLuint binding, std::size_t size) c
     glUniformBlockBinding(m_program, index, binding);
 }
 
-void GlProgram::set(GLint place, const vxgraphics3d::Matrixf& matrix)
+void GlProgram::setSampler(const char* sampler, GLint unit) const
 {
-    glUniformMatrix4fv(place, 1, GL_FALSE, matrix.data());
-}
-
-void GlProgram::set(GLint place, const vxgraphics3d::Color& color)
-{
-    const auto channel = [](int value) { return static_cast<float>(value) / 255.0f; };
-    set(place, channel(color.red), channel(color.green), channel(color.blue), channel(color.alpha));
-}
-
-void GlProgram::set(GLint place, std::span<const std::array<float, 4>> values)
-{
-    if (!values.empty()) {
-        glUniform4fv(place, static_cast<GLsizei>(values.size()), values.front().data());
-    }
+    use();
+    glUniform1i(glGetUniformLocation(m_program, sampler), unit);
 }
 
 } // namespace vxrenderer

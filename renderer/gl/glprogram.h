@@ -1,16 +1,8 @@
 #pragma once
 
-#include "graphics3d/foundation/color.h"
-
 #include <epoxy/gl.h>
 
-#include <array>
 #include <cstddef>
-#include <span>
-
-namespace vxgraphics3d {
-class Matrixf;
-}
 
 namespace vxrenderer {
 
@@ -32,18 +24,8 @@ public:
     /// @throws std::logic_error if the program has no such block, or one of another size
     void bindBlock(const char* block, GLuint binding, std::size_t size) const;
 
-    /// Values of uniforms, by their place; -1, the place of one that the compiler has dropped, does nothing.
-    GLint place(const char* uniform) const { return glGetUniformLocation(m_program, uniform); }
-    static void set(GLint place, int value) { glUniform1i(place, value); }
-    static void set(GLint place, float value) { glUniform1f(place, value); }
-    static void set(GLint place, float x, float y) { glUniform2f(place, x, y); }
-    static void set(GLint place, float x, float y, float z) { glUniform3f(place, x, y, z); }
-    static void set(GLint place, float x, float y, float z, float w) { glUniform4f(place, x, y, z, w); }
-    static void set(GLint place, const vxgraphics3d::Matrixf& matrix);
-    /// Channels from 0 to 1.
-    static void set(GLint place, const vxgraphics3d::Color& color);
-    /// The elements of an array, from its first one on.
-    static void set(GLint place, std::span<const std::array<float, 4>> values);
+    /// Lets a sampler read from a texture unit; units are 0 where nothing else is set. Changes the program in use.
+    void setSampler(const char* sampler, GLint unit) const;
 
 private:
     GLuint m_program;

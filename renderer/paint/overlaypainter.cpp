@@ -76,9 +76,7 @@ OverlayPainter::OverlayPainter(UploadCounts& counts)
                 (std::string(c_block) + c_fragmentMain).c_str())
 {
     m_block.attach(m_program);
-    m_program.use();
-    GlProgram::set(m_program.place("colorTable"), 0);
-    GlProgram::set(m_program.place("glyphs"), 1);
+    m_program.setSampler("glyphs", 1);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glEnableVertexAttribArray(0);
@@ -150,10 +148,9 @@ void OverlayPainter::bindAtlas(const GlyphAtlas& atlas)
     Atlas& copy = m_atlases[&atlas];
     glActiveTexture(GL_TEXTURE1);
     glBindTexture(GL_TEXTURE_2D, copy.texture.name());
-    if (copy.changeId == atlas.getChangeId()) {
+    if (!copy.lastChangeId.take(atlas.getChangeId())) {
         return;
     }
-    copy.changeId = atlas.getChangeId();
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     glTexImage2D(GL_TEXTURE_2D, 0, GL_R8, atlas.getWidth(), atlas.getHeight(), 0, GL_RED, GL_UNSIGNED_BYTE,
                  atlas.getPixels().data());

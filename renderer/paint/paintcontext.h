@@ -25,8 +25,8 @@ struct Look {
     Material material;
 };
 
-/// What the painters of plots and objects draw with in one frame: they take from `uploads` what they consist of and draw
-/// it, in any order. Uploads that are null, because they cannot be drawn, are left out.
+/// What the painters of plots and objects draw with in one frame: they take from `uploads` what they consist of and
+/// draw it, in any order. Uploads that are null, because they cannot be drawn, are left out.
 ///
 /// In a translucent scene faces are blended in two steps, those that face away first, and lines once; a painter need
 /// not know of it.

@@ -16,8 +16,8 @@ struct Frame;
 
 /// What one picture shows and where: laid out once, and then drawn.
 ///
-/// Title and legends get their room first, and the scene what is left, so that nothing lies over the plots. It refers to
-/// fonts of the renderer, which live at least until the next picture is drawn.
+/// Title and legends get their room first, and the scene what is left, so that nothing lies over the plots. It refers
+/// to fonts of the renderer, which live at least until the next picture is drawn.
 struct FrameLayout {
     /// Of the whole picture, in pixels.
     int width;

@@ -11,17 +11,17 @@ using vxgraphics3d::VertexBuffer;
 
 template <class Upload, class Load>
 const Upload* UploadCache::get(Entries<Upload>& entries, const boost::shared_ptr<const void>& owner, int number,
-                               int changeId, int& count, Load&& load)
+                               int changeId, Load&& load)
 {
     Entry<Upload>& entry = entries[{owner.get(), number}];
-    if (entry.owner.expired() || entry.changeId != changeId) {
+    const bool isChanged = entry.lastChangeId.take(changeId);
+    if (entry.owner.expired() || isChanged) {
         entry.owner = owner;
-        entry.changeId = changeId;
         entry.isDrawable = false;
         try {
             load(entry.upload);
             entry.isDrawable = true;
-            ++count;
+            ++m_counts.meshes;
         } catch (const std::logic_error& fault) {
             vxgraphics3d::logError("A mesh is not drawn: %s", fault.what());
         }
@@ -32,21 +32,19 @@ const Upload* UploadCache::get(Entries<Upload>& entries, const boost::shared_ptr
 const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
                               const VertexBuffer& vertices, const IndexBuffer& indices)
 {
-    return get(m_meshes, owner, number, changeId, m_counts.meshes, [&](Mesh& mesh) { mesh.load(vertices, indices); });
+    return get(m_meshes, owner, number, changeId, [&](Mesh& mesh) { mesh.load(vertices, indices); });
 }
 
 const LineMesh* UploadCache::lines(const boost::shared_ptr<const void>& owner, int number, int changeId,
                                    const VertexBuffer& vertices, const IndexBuffer& indices)
 {
-    return get(m_lines, owner, number, changeId, m_counts.lines,
-               [&](LineMesh& lines) { lines.load(vertices, indices); });
+    return get(m_lines, owner, number, changeId, [&](LineMesh& lines) { lines.load(vertices, indices); });
 }
 
 const InstanceBuffer* UploadCache::instances(const boost::shared_ptr<const void>& owner, int number, int changeId,
                                              const std::function<std::vector<Instance>()>& make)
 {
-    return get(m_instances, owner, number, changeId, m_counts.instances,
-               [&](InstanceBuffer& instances) { instances.load(make()); });
+    return get(m_instances, owner, number, changeId, [&](InstanceBuffer& instances) { instances.load(make()); });
 }
 
 void UploadCache::dropLost()

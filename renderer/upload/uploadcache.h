@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics3d/foundation/lastchangeid.h"
 #include "renderer/upload/instancebuffer.h"
 #include "renderer/upload/linemesh.h"
 #include "renderer/upload/mesh.h"
@@ -46,7 +47,7 @@ private:
     template <class Upload>
     struct Entry {
         boost::weak_ptr<const void> owner;
-        int changeId = 0;
+        vxgraphics3d::LastChangeId lastChangeId;
         bool isDrawable = false;
         Upload upload;
     };
@@ -54,8 +55,8 @@ private:
     using Entries = std::map<std::pair<const void*, int>, Entry<Upload>>;
 
     template <class Upload, class Load>
-    static const Upload* get(Entries<Upload>& entries, const boost::shared_ptr<const void>& owner, int number,
-                             int changeId, int& count, Load&& load);
+    const Upload* get(Entries<Upload>& entries, const boost::shared_ptr<const void>& owner, int number, int changeId,
+                      Load&& load);
 
     UploadCounts& m_counts;
     Entries<Mesh> m_meshes;

@@ -4,9 +4,8 @@ namespace vxrenderer {
 
 /// How often data were handed to the graphics hardware since the renderer was made: what a change has cost.
 struct UploadCounts {
+    /// Meshes, lines and instances.
     int meshes = 0;
-    int lines = 0;
-    int instances = 0;
     int colorTables = 0;
     int glyphPictures = 0;
 
