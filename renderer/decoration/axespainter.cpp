@@ -70,14 +70,14 @@ void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int wi
 
 } // namespace
 
-SceneArea divideRoom(const Frame& frame, const PixelArea& room, int width, int height, const AxisFonts& fonts)
+SceneArea divideSpace(const Frame& frame, const PixelArea& space, int width, int height, const AxisFonts& fonts)
 {
-    SceneArea area = {room, room};
+    SceneArea area = {space, space};
     if (frame.isFlat()) {
         if (frame.appearance.showAxes) {
-            area.whole = axes2dArea(axes2dInput(frame, width, height), room, fonts.metrics());
+            area.whole = axes2dArea(axes2dInput(frame, width, height), space, fonts.metrics());
         } else if (frame.isPolar()) {
-            area.whole = centeredSquare(room);
+            area.whole = centeredSquare(space);
         }
         area.inner = area.whole;
     } else if (frame.appearance.showAxes) {

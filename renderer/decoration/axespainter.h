@@ -25,13 +25,14 @@ struct AxisFonts {
 struct SceneArea {
     /// What the camera draws to.
     PixelArea whole;
-    /// The part of it that a box may fill so that the labels around it find room. A 2D view has its labels outside.
+    /// The part of it that a box may fill so that there is space for the labels around it. A 2D view has its labels
+    /// outside.
     PixelArea inner;
 };
 
-/// Divides the room that a picture leaves for a scene and its axes.
+/// Divides the space that a picture leaves for a scene and its axes.
 /// @param width,height of the whole picture
-SceneArea divideRoom(const Frame& frame, const PixelArea& room, int width, int height, const AxisFonts& fonts);
+SceneArea divideSpace(const Frame& frame, const PixelArea& space, int width, int height, const AxisFonts& fonts);
 
 /// The grid box of a 3D view or the axes of a 2D one, laid out for one frame and drawn in three steps.
 class AxesPainter {

@@ -11,12 +11,12 @@ class ColorTextures;
 class FontSet;
 class OverlayPainter;
 
-/// Fonts, colour and details that all legends of a picture share.
+/// Fonts, colour and details of all legends of a picture.
 struct LegendStyle {
     FontSet& titleFonts;
     FontSet& tickFonts;
     vxgraphics3d::Color color;
-    /// Whether the smallest and the largest value of the data stand below and above the bar.
+    /// Whether the smallest and the largest value of the data appear below and above the bar.
     bool showMinMax = false;
     bool showTitle = true;
     /// Significant digits of numbers beside the bar, and of the smallest and the largest value.
@@ -26,14 +26,14 @@ struct LegendStyle {
 
 /// The legend of one plot, beside the scene.
 ///
-/// It is laid out first, which tells how much room it takes, and drawn afterwards.
+/// It is laid out first, which gives the space that it takes, and drawn afterwards.
 class Legend {
 public:
     virtual ~Legend() = default;
 
     virtual float getWidth() const = 0;
-    /// Room for the lines above the colours. Legends side by side take the largest of them, so that their colours begin
-    /// at one height.
+    /// Space for the lines above the colours. Legends side by side take the largest of them, so that their colours
+    /// begin at one height.
     virtual float getHeadHeight() const = 0;
 
     /// @param style the one that it was laid out with
@@ -44,7 +44,7 @@ public:
 /// Lays out the legend of a plot that shows its colours, see `hasColorLegend`. A new kind of legend is a class and a
 /// line here.
 /// @param maxWidth what title lines may take before they are broken
-/// @param height room from the top of the title to the bottom of the colours
+/// @param height from the top of the title to the bottom of the colours
 std::unique_ptr<Legend> makeLegend(const PlotItem& item, const LegendStyle& style, float maxWidth, float height);
 
 } // namespace vxrenderer

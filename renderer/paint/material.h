@@ -16,9 +16,9 @@ std::array<float, 4> channelsOf(const vxgraphics3d::Color& color);
 
 /// How faces and lines get their colours: one for all, or that of their data. It is the uniform block `Material`.
 ///
-/// With u the texture coordinate of a place, 0 to 1 over the range of the data, l = mix(dataTex, u) is the place on the
-/// legend and t = mix(legendTex, l), with l clamped, the place in the colour table, which is the texture of unit 0.
-/// What has a u outside of the restriction is not drawn.
+/// With u the texture coordinate, 0 to 1 over the range of the data, l = mix(dataTex, u) is the position on the legend
+/// and t = mix(legendTex, l), with l clamped, the position in the colour table, which is the texture of unit 0. What
+/// has a u outside of the restriction is not drawn.
 struct Material {
     static constexpr const char* c_block = "Material";
     static constexpr GLuint c_binding = 2;

@@ -53,7 +53,7 @@ MeshShader lightShaderOf(const View& view, const Lighting& light)
 template <class Draw>
 void drawFaces(bool isTranslucent, Draw&& draw)
 {
-    // Faces lie a little deeper than lines at the same place.
+    // Faces lie a little deeper than lines at the same position.
     glEnable(GL_POLYGON_OFFSET_FILL);
     glPolygonOffset(1.0f, 1.0f);
     if (isTranslucent) {

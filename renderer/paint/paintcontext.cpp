@@ -5,18 +5,27 @@
 #include "renderer/paint/meshpainter.h"
 
 namespace vxrenderer {
+namespace {
+
+Material faded(Material material, float opacity)
+{
+    material.color[3] *= opacity;
+    return material;
+}
+
+} // namespace
 
 void PaintContext::drawMesh(const Mesh* mesh, const Look& look) const
 {
     if (mesh != nullptr) {
-        meshes.draw(*mesh, look.toEye, look.material);
+        meshes.draw(*mesh, look.toEye, faded(look.material, opacity));
     }
 }
 
 void PaintContext::drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const
 {
     if (mesh != nullptr && instances != nullptr) {
-        meshes.draw(*mesh, *instances, look.toEye, look.material);
+        meshes.draw(*mesh, *instances, look.toEye, faded(look.material, opacity));
     }
 }
 
@@ -24,7 +33,7 @@ void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width
 {
     if (mesh != nullptr) {
         lines.draw(*mesh, {view.projection * look.toEye, view.area.width, view.area.height, width * scale},
-                   look.material);
+                   faded(look.material, opacity));
     }
 }
 

@@ -28,11 +28,11 @@ struct Look {
 /// What the painters of plots and objects draw with in one frame: they take from `uploads` what they consist of and
 /// draw it, in any order. Uploads that are null, because they cannot be drawn, are left out.
 ///
-/// In a translucent scene faces are blended in two steps, those that face away first, and lines once; a painter need
-/// not know of it.
+/// A painter need not know whether the scene is translucent: materials lose some of their opacity here, and faces are
+/// blended in two steps, those that face away first, lines in one.
 struct PaintContext {
     const View& view;
-    /// From 0 to 1; below 1, what lies behind shines through.
+    /// Of the scene, from 0 to 1; below 1, what lies behind shines through.
     float opacity;
     /// Pixels of the picture for a pixel of the screen, by which widths of lines are multiplied.
     float scale;

@@ -23,7 +23,8 @@ std::optional<Look> lookOf(const PlotItem& item, const PaintContext& context)
     look.toEye.translate(0.0f, 0.0f, plot.getPlotPlaneOffset()).scale(1.0f, 1.0f, plot.getHeightScale());
 
     Material& material = look.material;
-    material.color[3] = context.opacity;
+    // Plots are as opaque as the scene, also in a colour with an alpha of its own.
+    material.color[3] = 1.0f;
     const boost::shared_ptr<vxgraphics3d::ColorTable> table = plot.getColorTable();
     if (table) {
         context.colorTextures.bind(item.group, plot.getColorTableTextureHandle(0), *table);

@@ -14,7 +14,7 @@ namespace {
 
 using vxgraphics3d::TextItem;
 
-/// Room around title, legends and scene, in units of the size of the legend's numbers.
+/// Space around title, legends and scene, in units of the size of the legend's numbers.
 constexpr float c_margin = 0.8f;
 /// Gap between two legends, and the widest title of a legend, in the same units.
 constexpr float c_legendGap = 1.6f;
@@ -113,8 +113,8 @@ FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, c
     layout.legendTop = top;
     layout.legendLeft = fullWidth - margin - std::ceil(legendWidth);
     const float right = layout.legends.empty() ? fullWidth - margin : layout.legendLeft - margin;
-    layout.room = {static_cast<int>(margin), static_cast<int>(top), static_cast<int>(right - margin),
-                   static_cast<int>(fullHeight - top - margin)};
+    layout.space = {static_cast<int>(margin), static_cast<int>(top), static_cast<int>(right - margin),
+                    static_cast<int>(fullHeight - top - margin)};
     return layout;
 }
 

@@ -16,7 +16,7 @@ struct Frame;
 
 /// What one picture shows and where: laid out once, and then drawn.
 ///
-/// Title and legends get their room first, and the scene what is left, so that nothing lies over the plots. It refers
+/// Title and legends get their space first, and the scene what is left, so that nothing lies over the plots. It refers
 /// to fonts of the renderer, which live at least until the next picture is drawn.
 struct FrameLayout {
     /// Of the whole picture, in pixels.
@@ -37,12 +37,12 @@ struct FrameLayout {
     float legendLeft = 0.0f;
     float legendGap = 0.0f;
     /// What is left for the scene with its axes.
-    PixelArea room{};
+    PixelArea space{};
     /// Where the scene goes; empty if there is none.
     SceneArea area{};
 };
 
-/// Lays out everything but the area of the scene, which follows from the room and the camera.
+/// Lays out everything but the area of the scene, which follows from the remaining space and the camera.
 FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, const std::vector<TitleItem>& title,
                              FontSets& fonts, int width, int height);
 

@@ -79,7 +79,7 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     if (frame.scene == nullptr) {
         return;
     }
-    layout.area = divideRoom(frame, layout.room, layout.width, layout.height, layout.axisFonts);
+    layout.area = divideSpace(frame, layout.space, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
         frame.camera.setRenderArea(layout.width, layout.height, area.x, layout.height - area.y - area.height,

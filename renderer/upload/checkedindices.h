@@ -14,7 +14,7 @@ namespace vxrenderer {
 const vxgraphics3d::VertexLayout& requireLayout(const vxgraphics3d::VertexBuffer& vertices);
 
 /// The indices that were appended to an index buffer, in either width, found to lie within the vertices: graphics
-/// hardware would read whatever lies beyond them.
+/// hardware would read the memory beyond them.
 class CheckedIndices {
 public:
     /// @throws std::out_of_range if an index points beyond the vertices

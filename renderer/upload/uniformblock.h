@@ -7,7 +7,7 @@
 
 namespace vxrenderer {
 
-/// A record of values that shaders read as a uniform block, so that several programs share it and it is set as a whole.
+/// A record of values that shaders read as a uniform block, set as a whole and used by several programs.
 ///
 /// `Record` is laid out as std140 prescribes and names itself: `c_block` is the name of the block in the shaders,
 /// `c_binding` the binding point, one for each block that may be in use at the same time.

@@ -118,7 +118,11 @@ Picture drawnAsIs(OffscreenCanvas& canvas, Quality quality)
 
 std::array<double, 2> pixelOf(const OffscreenCanvas& canvas, const vxgraphics3d::Vector3f& point)
 {
-    const View& view = canvas.getView();
+    return pixelOf(canvas.getView(), point);
+}
+
+std::array<double, 2> pixelOf(const View& view, const vxgraphics3d::Vector3f& point)
+{
     const vxgraphics3d::Vector3f place = view.projection * (view.sceneToEye * point);
     return {view.area.x + 0.5 * (1.0 + static_cast<double>(place.x)) * view.area.width,
             view.area.y + 0.5 * (1.0 - static_cast<double>(place.y)) * view.area.height};

@@ -58,6 +58,9 @@ Picture drawnAsIs(OffscreenCanvas& canvas, Quality quality = Quality::full);
 /// Where a point of the scene stands in the picture drawn last, in pixels from the top left corner.
 std::array<double, 2> pixelOf(const OffscreenCanvas& canvas, const vxgraphics3d::Vector3f& point);
 
+/// The same in a view of a scene.
+std::array<double, 2> pixelOf(const View& view, const vxgraphics3d::Vector3f& point);
+
 /// The colour where a point of the scene stands in the picture drawn last.
 Rgb colorAt(const OffscreenCanvas& canvas, const Picture& picture, const vxgraphics3d::Vector3f& point);
 
