@@ -85,7 +85,7 @@ vec3 lit(vec3 color)
     vec3 reflected = vec3(0.0);
     for (int i = 0; i < c_numLights; ++i) {
         vec4 place = lightPlaces[i];
-        vec3 toLight = normalize(place.xyz - place.w * eyePosition);
+        vec3 toLight = c_hasPositions ? normalize(place.xyz - place.w * eyePosition) : place.xyz;
         float falling = dot(n, toLight);
         // No light falls from behind, from nowhere or out of a cone; the comparison also fails for what is no number.
         bool isReached = falling > 0.0;
@@ -126,7 +126,8 @@ std::string MeshShader::vertexSource() const
 
 std::string MeshShader::fragmentSource() const
 {
-    return constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("hasCones", hasCones) +
+    return constant("isRestricted", isRestricted) + constant("isLit", isLit) +
+           constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
            constant("hasHighlights", hasHighlights) + "const int c_numLights = " + std::to_string(numLights) + ";\n" +
            Material::c_source + c_fragmentMain;
 }

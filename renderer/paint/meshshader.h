@@ -17,6 +17,8 @@ struct MeshShader {
     bool isRestricted = false;
     bool isLit = false;
     std::size_t numLights = 0;
+    /// Whether a light has a position, rather than one direction everywhere.
+    bool hasPositions = false;
     /// Whether a light shines into a cone only.
     bool hasCones = false;
     /// Whether a light is mirrored.

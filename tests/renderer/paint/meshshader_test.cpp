@@ -13,6 +13,7 @@
 namespace vxrenderer {
 namespace {
 
+using vxgraphics3d::DirectionLightSource;
 using vxgraphics3d::LightSource;
 using vxgraphics3d::PointLightSource;
 using vxgraphics3d::SceneGraphPlotSurface3d;
@@ -74,6 +75,22 @@ TEST_F(MeshShaderTest, lightsShineAsOneThatIsAsBrightAsAllOfThem)
     }
     m_light.removeAllLightSources();
     EXPECT_GT(difference(picture(), one), 50);
+}
+
+TEST_F(MeshShaderTest, aDistantLightShinesAsOneFromItsDirection)
+{
+    const Vector3f direction(0.6f, -0.3f, 0.7f);
+    auto& lamp = static_cast<DirectionLightSource&>(turnOn(m_light.createDirectionLight(), 0.6f));
+    lamp.setFromDirection(true, direction);
+    lamp.setSpecularIntensity(0.4f);
+    const Picture parallel = picture();
+    m_light.removeAllLightSources();
+    auto& bulb = static_cast<PointLightSource&>(turnOn(m_light.createPointLight(), 0.6f));
+    bulb.setPosition(true, direction * 1e4f);
+    bulb.setSpecularIntensity(0.4f);
+    EXPECT_LE(difference(picture(), parallel), 1);
+    bulb.setPosition(true, direction);
+    EXPECT_GT(difference(picture(), parallel), 10);
 }
 
 TEST_F(MeshShaderTest, aFaintHighlightChangesNothingAndABrightOneIsSeen)
