@@ -1,14 +1,24 @@
 // Frames of the reference renderer: a surface of two triangles in each cell of a grid, lit, with title, legend and grid
-// box, in 1600 by 1000 pixels.
+// box, in 1600 by 1000 pixels, beside what the driver takes for the triangles alone.
 
 #include "benchmarks/memory.h"
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/scenelight.h"
+#include "renderer/frame/view.h"
+#include "renderer/gl/eglcontext.h"
+#include "renderer/gl/glprogram.h"
+#include "renderer/gl/target.h"
+#include "renderer/upload/mesh.h"
+#include "renderer/upload/uniformblock.h"
 #include "tests/renderer/support/testscene.h"
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
+#include <vector>
 
 namespace vxrenderer {
 namespace {
@@ -37,22 +47,106 @@ public:
     boost::shared_ptr<SceneGraphPlotSurface3d> plot;
 };
 
-/// Frames after the first one, in which nothing is uploaded.
-void drawFrame(benchmark::State& state)
+constexpr int c_width = 1600;
+constexpr int c_height = 1000;
+constexpr int c_samples = 4;
+/// Fewer pixels than the surface covers.
+constexpr int c_fewPixels = 100000;
+
+/// Frames after the first one, in which nothing is uploaded: drawn and read back.
+void drawFrame(benchmark::State& state, Quality quality)
 {
     const Waves waves(static_cast<int>(state.range(0)));
-    OffscreenCanvas canvas(1600, 1000, 4);
+    OffscreenCanvas canvas(c_width, c_height, c_samples);
     canvas.setScene(waves.scene.scene);
     lookFrom(canvas, -50.0, 30.0);
-    if (drawn(canvas).countDrawn(0, 0, 1600, 1000) < 100000) {
+    canvas.zoomExtents();
+    if (drawnAsIs(canvas, quality).countDrawn(0, 0, c_width, c_height) < c_fewPixels) {
         state.SkipWithError("hardly anything was drawn");
     }
     const UploadCounts before = canvas.getUploadCounts();
+    std::vector<std::uint8_t> pixels(canvas.imageSize());
     for (auto _ : state) {
-        canvas.draw();
+        canvas.draw(quality);
+        canvas.readImage(pixels.data(), pixels.size());
     }
     if (canvas.getUploadCounts() != before) {
         state.SkipWithError("something was uploaded");
+    }
+    state.SetItemsProcessed(state.iterations() * waves.plot->getTriangles().getNumIndices() / 3);
+}
+
+constexpr const char* c_bareVertexSource = R"(
+layout(std140) uniform Bare {
+    mat4 toClip;
+};
+layout(location = 0) in vec3 position;
+
+void main()
+{
+    gl_Position = toClip * vec4(position, 1.0);
+}
+)";
+
+constexpr const char* c_bareFragmentSource = R"(
+out vec4 result;
+
+void main()
+{
+    result = vec4(0.2, 0.4, 0.8, 1.0);
+}
+)";
+
+struct BareBlock {
+    static constexpr const char* c_block = "Bare";
+    static constexpr GLuint c_binding = 0;
+
+    std::array<float, 16> toClip;
+};
+
+/// What the driver alone takes for the same triangles at the same place in a picture of the same kind: cleared, drawn in
+/// one colour with a depth test, resolved and read back.
+void drawBare(benchmark::State& state, int samples)
+{
+    const Waves waves(static_cast<int>(state.range(0)));
+    OffscreenCanvas canvas(c_width, c_height, 1);
+    canvas.setScene(waves.scene.scene);
+    lookFrom(canvas, -50.0, 30.0);
+    canvas.zoomExtents();
+    canvas.draw();
+    const View view = canvas.getView();
+
+    const EglContext context;
+    const EglContext::Current current(context);
+    const Target target(c_width, c_height, samples);
+    const GlProgram program("bare triangles", c_bareVertexSource, c_bareFragmentSource);
+    Mesh mesh;
+    mesh.load(waves.plot->getVertices(), waves.plot->getTriangles());
+    program.use();
+    const vxgraphics3d::Matrixf toClip = view.projection * view.sceneToEye;
+    BareBlock values{};
+    std::copy_n(toClip.data(), values.toClip.size(), values.toClip.begin());
+    UniformBlock<BareBlock> block;
+    block.attach(program);
+    block.set(values);
+    glEnable(GL_DEPTH_TEST);
+    glClearColor(1.0f, 1.0f, 1.0f, 1.0f);
+    std::vector<std::uint8_t> pixels(canvas.imageSize());
+    const auto draw = [&] {
+        target.beginScene();
+        glClear(GL_COLOR_BUFFER_BIT);
+        glViewport(view.area.x, c_height - view.area.y - view.area.height, view.area.width, view.area.height);
+        mesh.draw();
+        target.beginOverlay();
+        target.read(pixels.data());
+    };
+    draw();
+    // White but for three channels of what was drawn.
+    if (std::count(pixels.begin(), pixels.end(), std::uint8_t(255)) > 4 * c_width * c_height - 3 * c_fewPixels) {
+        state.SkipWithError("hardly anything was drawn");
+    }
+    for (auto _ : state) {
+        draw();
     }
     state.SetItemsProcessed(state.iterations() * waves.plot->getTriangles().getNumIndices() / 3);
 }
@@ -76,7 +170,16 @@ void drawTenMillion(benchmark::State& state)
     }
 }
 
-BENCHMARK(drawFrame)->Arg(224)->Arg(708)->Unit(benchmark::kMillisecond)->UseRealTime();
+/// Grids of 100,352 and 1,002,528 triangles.
+void sizes(benchmark::internal::Benchmark* frames)
+{
+    frames->Arg(224)->Arg(708)->Unit(benchmark::kMillisecond)->UseRealTime();
+}
+
+BENCHMARK_CAPTURE(drawFrame, full, Quality::full)->Name("drawFrame")->Apply(sizes);
+BENCHMARK_CAPTURE(drawBare, full, c_samples)->Name("drawFrame_limit")->Apply(sizes);
+BENCHMARK_CAPTURE(drawFrame, draft, Quality::draft)->Name("drawDraft")->Apply(sizes);
+BENCHMARK_CAPTURE(drawBare, draft, 1)->Name("drawDraft_limit")->Apply(sizes);
 BENCHMARK(drawTenMillion)->Name("draw_memory")->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace

@@ -104,10 +104,12 @@ OffscreenCanvas::~OffscreenCanvas()
         const EglContext::Current current(m_context);
         m_renderer.reset();
         m_target.reset();
+        m_draftTarget.reset();
     } catch (...) {
         // The context is in use on another thread, against the rules. Without it nothing can be freed in order.
         static_cast<void>(m_renderer.release());
         static_cast<void>(m_target.release());
+        static_cast<void>(m_draftTarget.release());
     }
 }
 
@@ -121,8 +123,20 @@ void OffscreenCanvas::makeTarget(int width, int height)
     const int samples = wantedSamples();
     m_target = std::make_unique<Target>(width, height, samples);
     m_targetSamples = samples;
+    m_draftTarget.reset();
+    m_drawnTarget = nullptr;
     *m_contextData = contextDataOf(*m_target);
-    m_isDrawn = false;
+}
+
+const Target& OffscreenCanvas::draftTarget()
+{
+    if (m_target->getSamples() == 1) {
+        return *m_target;
+    }
+    if (!m_draftTarget) {
+        m_draftTarget = std::make_unique<Target>(getWidth(), getHeight(), 1);
+    }
+    return *m_draftTarget;
 }
 
 void OffscreenCanvas::resize(int width, int height)
@@ -204,23 +218,24 @@ void OffscreenCanvas::zoomExtents()
     }
 }
 
-void OffscreenCanvas::draw()
+void OffscreenCanvas::draw(Quality quality)
 {
     dropDisposedScene();
     const EglContext::Current current(m_context);
     if (m_targetSamples != wantedSamples()) {
         makeTarget(getWidth(), getHeight());
     }
-    m_isDrawn = false;
+    m_drawnTarget = nullptr;
+    const Target& target = quality == Quality::draft ? draftTarget() : *m_target;
     const Appearance look = appearance();
     const Frame frame = frameOf(m_settings->cameraTransforms(), look);
-    m_renderer->draw(frame, m_renderer->layOut(frame, getWidth(), getHeight()), *m_target);
+    m_renderer->draw(frame, m_renderer->layOut(frame, getWidth(), getHeight()), target);
     m_view = m_renderer->getView();
     if (m_sceneView) {
         m_sceneView->getSettings().resetChangedFlags();
     }
     requireNoFault();
-    m_isDrawn = true;
+    m_drawnTarget = &target;
 }
 
 std::size_t OffscreenCanvas::imageSize() const
@@ -234,11 +249,11 @@ void OffscreenCanvas::readImage(std::uint8_t* pixels, std::size_t numBytes) cons
         throw std::invalid_argument("The image takes " + std::to_string(imageSize()) + " bytes, not " +
                                     std::to_string(numBytes) + ".");
     }
-    if (!m_isDrawn) {
+    if (m_drawnTarget == nullptr) {
         throw std::logic_error("There is no image: nothing was drawn since the size was given.");
     }
     const EglContext::Current current(m_context);
-    m_target->read(pixels);
+    m_drawnTarget->read(pixels);
     requireNoFault();
 }
 

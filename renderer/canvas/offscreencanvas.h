@@ -27,6 +27,14 @@ struct Frame;
 class SceneRenderer;
 class Target;
 
+/// How much work goes into a picture.
+enum class Quality {
+    full,
+    /// For a picture that the next one replaces at once, as while the user drags the scene: one sample a pixel, so edges
+    /// are jagged. Everything is at the same place as in the full picture.
+    draft
+};
+
 /// A view of a scene that no screen shows: what a Java OffscreenRenderer stands for.
 ///
 /// It owns the drawing context and everything that lives in it, the settings of the view with its cameras, and shares
@@ -66,7 +74,7 @@ public:
 
     /// Draws the picture.
     /// @throws std::runtime_error if the driver reports a fault
-    void draw();
+    void draw(Quality quality = Quality::full);
     /// Bytes of the picture.
     std::size_t imageSize() const;
     /// Copies the picture drawn last: four bytes a pixel, red first, the top row first.
@@ -95,19 +103,23 @@ private:
     void dropDisposedScene();
     int wantedSamples() const;
     void makeTarget(int width, int height);
+    const Target& draftTarget();
 
     EglContext m_context;
     /// Samples asked for; 0 to follow the settings of the process.
     int m_samples;
     int m_targetSamples = 0;
     std::unique_ptr<Target> m_target;
+    /// Of the same size with one sample; null until it is needed.
+    std::unique_ptr<Target> m_draftTarget;
+    /// Where the picture drawn last is; null if nothing was drawn since the size was given.
+    const Target* m_drawnTarget = nullptr;
     std::unique_ptr<SceneRenderer> m_renderer;
     boost::shared_ptr<vxgraphics3d::Canvas3dSettings> m_settings;
     boost::shared_ptr<vxgraphics3d::CanvasPickSettings> m_pickSettings;
     boost::shared_ptr<vxgraphics3d::ContextData> m_contextData;
     std::unique_ptr<SceneView> m_sceneView;
     View m_view;
-    bool m_isDrawn = false;
 };
 
 } // namespace vxrenderer

@@ -79,6 +79,11 @@ VX_NATIVE(void, OffscreenRenderer, draw)(JNIEnv* env, jclass, jobject self)
     guarded(env, [&] { canvas(env, self).draw(); });
 }
 
+VX_NATIVE(void, OffscreenRenderer, drawDraft)(JNIEnv* env, jclass, jobject self)
+{
+    guarded(env, [&] { canvas(env, self).draw(Quality::draft); });
+}
+
 VX_NATIVE(void, OffscreenRenderer, readImage)(JNIEnv* env, jclass, jobject self, jobject out)
 {
     guarded(env, [&] {

@@ -23,7 +23,6 @@ layout(std140) uniform Background {
     vec4 topColor;
     vec4 bottomColor;
     vec2 imagePart;
-    bool hasImage;
 };
 )";
 
@@ -37,20 +36,26 @@ void main()
 }
 )";
 
+constexpr const char* c_colorsMain = R"(
+in vec2 place;
+out vec4 result;
+
+void main()
+{
+    result = mix(topColor, bottomColor, place.y);
+}
+)";
+
 // Colours between two texels at the rim of the image must not take in the empty part of the texture beyond it.
-constexpr const char* c_fragmentMain = R"(
+constexpr const char* c_imageMain = R"(
 uniform sampler2D image;
 in vec2 place;
 out vec4 result;
 
 void main()
 {
-    if (hasImage) {
-        vec2 texel = 1.0 / vec2(textureSize(image, 0));
-        result = texture(image, clamp(place * imagePart, 0.5 * texel, imagePart - 0.5 * texel));
-    } else {
-        result = mix(topColor, bottomColor, place.y);
-    }
+    vec2 texel = 1.0 / vec2(textureSize(image, 0));
+    result = texture(image, clamp(place * imagePart, 0.5 * texel, imagePart - 0.5 * texel));
 }
 )";
 
@@ -89,25 +94,34 @@ struct BackgroundPainter::BackgroundBlock {
     std::array<float, 4> topColor{};
     std::array<float, 4> bottomColor{};
     std::array<float, 2> imagePart{};
-    std::int32_t hasImage = 0;
-    std::int32_t unused = 0;
+    std::array<float, 2> unused{};
 };
 
 BackgroundPainter::BackgroundPainter()
-    : m_program("the background", (std::string(c_block) + c_vertexMain).c_str(),
-                (std::string(c_block) + c_fragmentMain).c_str())
+    : m_colors("the background", (std::string(c_block) + c_vertexMain).c_str(),
+               (std::string(c_block) + c_colorsMain).c_str()),
+      m_image("the image of the background", (std::string(c_block) + c_vertexMain).c_str(),
+              (std::string(c_block) + c_imageMain).c_str())
 {
-    m_block.attach(m_program);
+    m_block.attach(m_colors);
+    m_block.attach(m_image);
 }
 
 void BackgroundPainter::draw(const Appearance::Backdrop& backdrop, int width, int height, float scale) const
 {
     glDisable(GL_DEPTH_TEST);
     glDisable(GL_BLEND);
-    m_program.use();
     glBindVertexArray(m_array.name());
-    m_block.set({.topColor = channelsOf(backdrop.top), .bottomColor = channelsOf(backdrop.bottom)});
-    glDrawArrays(GL_TRIANGLE_STRIP, 0, 4);
+    const std::array<float, 4> top = channelsOf(backdrop.top);
+    if (backdrop.top == backdrop.bottom) {
+        // Far cheaper than a rectangle where the processor draws.
+        glClearColor(top[0], top[1], top[2], top[3]);
+        glClear(GL_COLOR_BUFFER_BIT);
+    } else {
+        m_colors.use();
+        m_block.set({.topColor = top, .bottomColor = channelsOf(backdrop.bottom)});
+        glDrawArrays(GL_TRIANGLE_STRIP, 0, 4);
+    }
     const CanvasBackgroundImage* image = backdrop.image.get();
     if (image != nullptr && image->wasImageSet() && image->getImage(image->getMinLevel()) != nullptr) {
         drawImage(backdrop, width, height, scale);
@@ -136,9 +150,9 @@ void BackgroundPainter::drawImage(const Appearance::Backdrop& backdrop, int widt
 
     glEnable(GL_BLEND);
     glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    m_image.use();
     m_block.set({.corners = {clipX(left), clipY(top), clipX(left + imageWidth), clipY(top + imageHeight)},
-                 .imagePart = {image.getWidthFraction(), image.getHeightFraction()},
-                 .hasImage = 1});
+                 .imagePart = {image.getWidthFraction(), image.getHeightFraction()}});
     glDrawArrays(GL_TRIANGLE_STRIP, 0, 4);
     glDisable(GL_BLEND);
 }

@@ -13,7 +13,7 @@ class BackgroundPainter {
 public:
     BackgroundPainter();
 
-    /// Fills the present viewport, which is a whole picture.
+    /// Fills the whole picture, which is the present viewport.
     /// @param scale pixels of the picture that a pixel of the image takes in each direction
     void draw(const Appearance::Backdrop& backdrop, int width, int height, float scale) const;
 
@@ -22,7 +22,8 @@ private:
 
     void drawImage(const Appearance::Backdrop& backdrop, int width, int height, float scale) const;
 
-    GlProgram m_program;
+    GlProgram m_colors;
+    GlProgram m_image;
     UniformBlock<BackgroundBlock> m_block;
     GlVertexArray m_array;
     GlTexture m_texture;

@@ -37,6 +37,11 @@ struct Material {
     std::array<float, 3> unused{};
 
     bool isTranslucent() const { return color[3] < 1.0f; }
+    bool isRestricted() const
+    {
+        return restriction[0] > -std::numeric_limits<float>::max() ||
+               restriction[1] < std::numeric_limits<float>::max();
+    }
 
     /// One colour, with its own alpha.
     static Material of(const vxgraphics3d::Color& color);

@@ -2,7 +2,10 @@
 
 #include "renderer/gl/glprogram.h"
 #include "renderer/paint/material.h"
+#include "renderer/paint/meshshader.h"
 #include "renderer/upload/uniformblock.h"
+
+#include <map>
 
 namespace vxgraphics3d {
 class Matrixf;
@@ -20,26 +23,27 @@ struct View;
 /// Opaque faces hide each other by their depths. Translucent ones are blended, those of a mesh that face away first.
 class MeshPainter {
 public:
-    MeshPainter();
-
     /// Takes the view and the light of a frame.
-    void begin(const View& view, const Lighting& lighting) const;
+    void begin(const View& view, const Lighting& lighting);
 
     /// @param toEye from the vertices to the eye
-    void draw(const Mesh& mesh, const vxgraphics3d::Matrixf& toEye, const Material& material) const;
+    void draw(const Mesh& mesh, const vxgraphics3d::Matrixf& toEye, const Material& material);
     /// Draws a mesh once for each instance.
     void draw(const Mesh& mesh, const InstanceBuffer& instances, const vxgraphics3d::Matrixf& toEye,
-              const Material& material) const;
+              const Material& material);
 
 private:
     struct ViewBlock;
     struct LightBlock;
     struct ModelBlock;
 
-    void setUp(const GlProgram& program, const vxgraphics3d::Matrixf& toEye, const Material& material) const;
+    const GlProgram& program(const MeshShader& shader);
+    void setUp(bool isInstanced, const vxgraphics3d::Matrixf& toEye, const Material& material);
 
-    GlProgram m_single;
-    GlProgram m_instanced;
+    /// Made when they are used for the first time.
+    std::map<MeshShader, GlProgram> m_programs;
+    /// What the light of this frame asks for.
+    MeshShader m_lightShader;
     UniformBlock<ViewBlock> m_view;
     UniformBlock<LightBlock> m_light;
     UniformBlock<ModelBlock> m_model;

@@ -38,7 +38,7 @@ struct PaintContext {
     float scale;
     UploadCache& uploads;
     ColorTextures& colorTextures;
-    const MeshPainter& meshes;
+    MeshPainter& meshes;
     const LinePainter& lines;
     std::vector<SceneLabel>& labels;
 

@@ -14,6 +14,7 @@
 
 #include <boost/make_shared.hpp>
 
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -347,6 +348,50 @@ TEST_F(OffscreenCanvasTest, resizingKeepsSceneAndUploads)
     EXPECT_THROW(m_canvas.resize(100000, 100000), std::invalid_argument);
     EXPECT_EQ(m_canvas.getWidth(), 123);
     EXPECT_EQ(quarters(drawn(m_canvas)), (std::vector<Rgb>{c_blue, c_green, c_yellow, c_red}));
+}
+
+TEST(OffscreenCanvas, aDraftShowsTheSameWithOneSample)
+{
+    TestScene scene;
+    GridRecord record;
+    record.cells = 10;
+    record.height = [](double x, double y) { return x * y; };
+    scene.add<SceneGraphPlotSurface3d>(1, record, c_fourColors);
+    OffscreenCanvas canvas(320, 200, 4);
+    OffscreenCanvas plain(320, 200, 1);
+    canvas.setScene(scene.scene);
+    plain.setScene(scene.scene);
+    const Picture before = drawn(canvas);
+    drawn(plain);
+    const UploadCounts uploads = canvas.getUploadCounts();
+    // Labels go with the camera: nothing is left where the last full picture had it.
+    for (const double azimuth : {-120.0, 20.0}) {
+        for (OffscreenCanvas* view : {&canvas, &plain}) {
+            lookFrom(*view, azimuth, 30.0);
+            view->zoomExtents();
+        }
+        const Picture draft = drawnAsIs(canvas, Quality::draft);
+        EXPECT_EQ(draft.bytes, drawnAsIs(plain).bytes) << azimuth;
+        EXPECT_NE(draft.bytes, before.bytes) << azimuth;
+        const Picture full = drawnAsIs(canvas);
+        int numOthers = 0;
+        for (std::size_t i = 0; i < full.bytes.size(); i += 4) {
+            numOthers += std::equal(&full.bytes[i], &full.bytes[i] + 4, &draft.bytes[i]) ? 0 : 1;
+        }
+        // Only edges differ.
+        EXPECT_GT(numOthers, 200) << azimuth;
+        EXPECT_LT(numOthers, 320 * 200 / 10) << azimuth;
+    }
+    // Characters that come into view for the first time are loaded.
+    EXPECT_EQ(canvas.getUploadCounts().meshes, uploads.meshes);
+    EXPECT_EQ(canvas.getUploadCounts().colorTables, uploads.colorTables);
+    EXPECT_EQ(canvas.getSamples(), 4);
+
+    canvas.draw(Quality::draft);
+    canvas.resize(160, 100);
+    std::vector<std::uint8_t> bytes(canvas.imageSize());
+    EXPECT_THROW(canvas.readImage(bytes.data(), bytes.size()), std::logic_error);
+    EXPECT_GT(drawnAsIs(canvas, Quality::draft).countDrawn(0, 0, 160, 100), 500);
 }
 
 TEST(OffscreenCanvas, refusesSizesThatAreNone)

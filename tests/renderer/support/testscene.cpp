@@ -105,10 +105,10 @@ Picture drawn(OffscreenCanvas& canvas)
     return drawnAsIs(canvas);
 }
 
-Picture drawnAsIs(OffscreenCanvas& canvas)
+Picture drawnAsIs(OffscreenCanvas& canvas, Quality quality)
 {
     Picture picture;
-    canvas.draw();
+    canvas.draw(quality);
     picture.width = canvas.getWidth();
     picture.height = canvas.getHeight();
     picture.bytes.resize(static_cast<std::size_t>(4 * picture.width * picture.height));

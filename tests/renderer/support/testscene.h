@@ -53,7 +53,7 @@ inline constexpr Rgb c_white = {255, 255, 255};
 /// Looks at the whole scene, draws and reads back.
 Picture drawn(OffscreenCanvas& canvas);
 /// The same with the camera as it is.
-Picture drawnAsIs(OffscreenCanvas& canvas);
+Picture drawnAsIs(OffscreenCanvas& canvas, Quality quality = Quality::full);
 
 /// Where a point of the scene stands in the picture drawn last, in pixels from the top left corner.
 std::array<double, 2> pixelOf(const OffscreenCanvas& canvas, const vxgraphics3d::Vector3f& point);

@@ -16,6 +16,7 @@ import com.vexane.producer.PostDataBuilder;
 import com.vexane.producer.PostDataGroup;
 import com.vexane.producer.PostDataObject;
 import java.nio.ByteBuffer;
+import java.util.Arrays;
 import org.junit.jupiter.api.Test;
 
 /** The road of a plot from Java arrays to pixels. */
@@ -91,6 +92,42 @@ class PlotPictureTest {
             assertEquals(2, renderer.countUploads().meshes());
             assertEquals(before.colorTables(), renderer.countUploads().colorTables());
         }
+    }
+
+    @Test
+    void aDraftDiffersFromTheFullPictureInEdgesOnly() {
+        try (Scene scene = new Scene();
+                SceneGraphRoot root = SceneGraphRoot.connect(scene);
+                SceneGraphPlotGroup group = new SceneGraphPlotGroup();
+                SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
+                PostDataObject record = square();
+                OffscreenRenderer renderer = OffscreenRenderer.create(200, 200, 4)) {
+            plot.setColorTable("red", new double[][] {{1, 0, 0}}, false);
+            root.setChild(group);
+            group.addPlot(plot);
+            plot.fillPlot(record);
+            renderer.setScene(scene);
+            renderer.viewFrom(20, 40);
+            renderer.drawDraft();
+            int red = pixelAt(renderer, 0.5, 0.5);
+            byte[] draft = bytes(renderer);
+            renderer.draw();
+            assertEquals(red, pixelAt(renderer, 0.5, 0.5));
+            byte[] full = bytes(renderer);
+            int others = 0;
+            for (int i = 0; i < full.length; i += 4) {
+                others += Arrays.equals(full, i, i + 4, draft, i, i + 4) ? 0 : 1;
+            }
+            assertTrue(others > 50 && others < 4000, others + " pixels differ");
+            assertEquals(4, renderer.getSamples());
+        }
+    }
+
+    private static byte[] bytes(OffscreenRenderer renderer) {
+        ByteBuffer image = renderer.image();
+        byte[] bytes = new byte[image.remaining()];
+        image.get(bytes);
+        return bytes;
     }
 
     @Test

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <compare>
+#include <cstddef>
+#include <string>
+
+namespace vxrenderer {
+
+/// What the shaders of meshes have to do for a picture, and their texts.
+///
+/// What is off costs nothing: without graphics hardware the processor runs the fragment shader for every pixel, and
+/// asking there for what a scene does not have takes a third of the time of a frame. A picture is the same with all
+/// shaders that have what its scene needs.
+struct MeshShader {
+    bool isInstanced = false;
+    /// Whether some values are hidden.
+    bool isRestricted = false;
+    bool isLit = false;
+    std::size_t numLights = 0;
+    /// Whether a light has a position, rather than one direction everywhere.
+    bool hasPositions = false;
+    /// Whether a light shines into a cone only.
+    bool hasCones = false;
+    /// Whether a light is mirrored.
+    bool hasHighlights = false;
+
+    auto operator<=>(const MeshShader&) const = default;
+
+    /// They declare the uniform blocks `View`, `Model`, `Light` and `Material`.
+    std::string vertexSource() const;
+    std::string fragmentSource() const;
+};
+
+} // namespace vxrenderer
