@@ -69,7 +69,8 @@ function(vx_java_jar)
     COMMAND ${CMAKE_COMMAND} -E rm -rf ${root}/packed
     COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/jars ${root}/packed/${folder}
     ${copies}
-    COMMAND ${Java_JAR_EXECUTABLE} --create --file ${jar} -C ${root}/classes . -C ${root}/packed .
+    COMMAND ${Java_JAR_EXECUTABLE} --create --file ${jar} --module-version ${PROJECT_VERSION}
+            -C ${root}/classes . -C ${root}/packed .
     DEPENDS ${root}/stamp ${arg_LIBRARIES}
     COMMENT "Packing ${jar}"
     VERBATIM)
