@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/export.h"
-#include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/foundation/color.h"
 
 #include <array>
@@ -18,9 +18,7 @@ public:
 
     /// A hidden triad in red, green and blue.
     AxisOrientationIndicator() = default;
-    /// Copies the settings; the change number of a copy starts at 1.
-    AxisOrientationIndicator(const AxisOrientationIndicator& other);
-    AxisOrientationIndicator& operator=(const AxisOrientationIndicator&) = delete;
+    AxisOrientationIndicator(const AxisOrientationIndicator&) = default;
 
     /// Takes over all settings of another indicator and counts one change; nothing happens for the object itself.
     void import(const AxisOrientationIndicator& other);
@@ -34,7 +32,7 @@ public:
     void setAxisLength(float length);
     void show(bool shown);
 
-    int getChangeId() const { return m_changeId; }
+    int getChangeId() const { return m_changeId.get(); }
     bool isShown() const { return m_shown; }
     float getAxisLength() const { return m_axisLength; }
     float getExtraSize() const { return m_extraSize; }
@@ -44,9 +42,9 @@ public:
     const Color& getColor(Axis axis) const { return m_axisColors.at(axis); }
 
 private:
-    void copySettings(const AxisOrientationIndicator& other);
+    AxisOrientationIndicator& operator=(const AxisOrientationIndicator&) = default;
 
-    int m_changeId = 1;
+    ChangeNumber m_changeId;
     bool m_shown = false;
     float m_axisLength = 10.0f;
     float m_extraSize = 12.0f;

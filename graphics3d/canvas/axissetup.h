@@ -2,8 +2,7 @@
 
 #include "base/export.h"
 #include "base/ustring.h"
-#include "graphics3d/foundation/changeablesetting.h"
-#include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/foundation/changenumber.h"
 
 #include <vector>
 
@@ -18,17 +17,12 @@ public:
     /// Type of the axes. Of the numbers 0 to 6 the library itself knows two by name; a renderer decides on the rest.
     enum AxisType : int { AxisPolar = 1, AxisGraph = 4, AxisDefault = 5 };
 
-    AxisSetup() = default;
-    /// Copies everything but the change number, which starts at 1.
-    AxisSetup(const AxisSetup& other);
-    /// Copies everything but the change number, which stays.
-    AxisSetup& operator=(const AxisSetup& other);
     /// Takes all values of another setup and adds one to the change number; from itself it does nothing.
     void import(const AxisSetup& other);
 
-    int getChangeId() const { return m_changeId; }
-    bool isChanged(const LastChangeId& last) const { return last.changeId != m_changeId; }
-    void resetChanged(LastChangeId& last) const { last.changeId = m_changeId; }
+    int getChangeId() const { return m_changeId.get(); }
+    bool isChanged(const LastChangeId& last) const { return m_changeId.isChanged(last); }
+    void resetChanged(LastChangeId& last) const { m_changeId.resetChanged(last); }
 
     /// The type, 0 to 6; it decides the kind as well.
     void setAxisType(int type);
@@ -79,12 +73,12 @@ private:
     {
         if (member != value) {
             member = value;
-            raiseChange(m_changeId);
+            m_changeId.raise();
         }
     }
     void setTitle(vxbase::UString& title, const vxbase::UString& text);
 
-    int m_changeId = 1;
+    ChangeNumber m_changeId;
     bool m_yAxisLog = false;
     bool m_xAxisLog = false;
     double m_xSpacing = 0.0;

@@ -1,6 +1,5 @@
 #include "graphics3d/canvas/scenesettings.h"
 
-#include "graphics3d/foundation/changecounter.h"
 #include "graphics3d/lights/scenesettingslight.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 
@@ -14,12 +13,6 @@ namespace vxgraphics3d {
 
 namespace {
 
-int nextId(int& lastId)
-{
-    raiseChange(lastId);
-    return lastId;
-}
-
 std::size_t placeOf(SceneSettings::TextItem item)
 {
     if (item < 0 || item >= SceneSettings::c_numTextItems) {
@@ -30,10 +23,10 @@ std::size_t placeOf(SceneSettings::TextItem item)
 
 } // namespace
 
-int SceneSettings::m_lastId = 0;
+std::atomic<int> SceneSettings::m_lastId = 0;
 
 SceneSettings::SceneSettings(IRendererSetup& setup)
-    : m_id(nextId(m_lastId)),
+    : m_id(++m_lastId),
       m_setup(setup),
       m_light(boost::make_shared<SceneSettingsLight>()),
       m_fonts{{Canvas3dGlobalSettings::getInstance()->getFont(vxgraphics3d::TextItem::TextLabel),
@@ -41,7 +34,7 @@ SceneSettings::SceneSettings(IRendererSetup& setup)
 {}
 
 SceneSettings::SceneSettings(IRendererSetup& setup, const SceneSettings& other)
-    : m_id(nextId(m_lastId)),
+    : m_id(++m_lastId),
       m_setup(setup),
       m_light(boost::make_shared<SceneSettingsLight>(*other.m_light)),
       m_showLegends(other.m_showLegends),

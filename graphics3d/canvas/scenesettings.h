@@ -6,6 +6,7 @@
 #include <boost/shared_ptr.hpp>
 
 #include <array>
+#include <atomic>
 
 namespace vxgraphics3d {
 
@@ -85,7 +86,7 @@ private:
         }
     }
 
-    static int m_lastId;
+    static std::atomic<int> m_lastId; // settings may be made on any thread
 
     int m_id;
     IRendererSetup& m_setup;

@@ -1,27 +1,25 @@
 #pragma once
 
 #include "base/export.h"
-#include "graphics3d/foundation/changecounter.h"
-#include "graphics3d/foundation/lastchangeid.h"
+#include "graphics3d/foundation/changenumber.h"
 
 namespace vxgraphics3d {
 
 /// Base of the settings classes: one change number that rises with every change that an observer must notice.
 ///
-/// The number belongs to the object and never travels with a value: a copy starts at 1, an assignment leaves the number
-/// of its target to the derived class.
+/// A copy starts at 1, and an assignment leaves the number of its target to the derived class.
 class VX_API ChangeableSetting {
 public:
     ChangeableSetting() = default;
-    ChangeableSetting(const ChangeableSetting&) {}
-    ChangeableSetting& operator=(const ChangeableSetting&) { return *this; }
+    ChangeableSetting(const ChangeableSetting&) = default;
+    ChangeableSetting& operator=(const ChangeableSetting&) = default;
     virtual ~ChangeableSetting();
 
-    int getChangeId() const { return m_changeId; }
+    int getChangeId() const { return m_changeId.get(); }
     /// Whether something has changed since the observer took the number last.
-    bool isChanged(const LastChangeId& last) const { return last.changeId != m_changeId; }
+    bool isChanged(const LastChangeId& last) const { return m_changeId.isChanged(last); }
     /// Brings the observer up to date.
-    void resetChanged(LastChangeId& last) const { last.changeId = m_changeId; }
+    void resetChanged(LastChangeId& last) const { m_changeId.resetChanged(last); }
 
     /// Counts one change if the source is another object. A derived class calls it when it takes all its settings over.
     void import(const ChangeableSetting& other)
@@ -33,10 +31,10 @@ public:
 
 protected:
     /// Counts one change.
-    void countChange() { raiseChange(m_changeId); }
+    void countChange() { m_changeId.raise(); }
 
 private:
-    int m_changeId = 1;
+    ChangeNumber m_changeId;
 };
 
 } // namespace vxgraphics3d

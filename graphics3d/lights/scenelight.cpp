@@ -1,6 +1,5 @@
 #include "graphics3d/lights/scenelight.h"
 
-#include "graphics3d/foundation/changecounter.h"
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/pointlightsource.h"
 #include "graphics3d/lights/spotlightsource.h"
@@ -25,7 +24,7 @@ SceneLight::~SceneLight()
 
 void SceneLight::markChanged()
 {
-    raiseChange(m_changeId);
+    m_changeId.raise();
 }
 
 template <class Source>

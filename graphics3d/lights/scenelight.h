@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/export.h"
+#include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/foundation/color.h"
-#include "graphics3d/foundation/lastchangeid.h"
 #include "graphics3d/lights/ilightsourceparent.h"
 #include "graphics3d/lights/lightsource.h"
 
@@ -25,9 +25,9 @@ public:
     SceneLight& operator=(const SceneLight&) = delete;
     ~SceneLight() override;
 
-    int getChangeId() const { return m_changeId; }
-    bool isChanged(const LastChangeId& last) const { return last.changeId != m_changeId; }
-    void resetChanged(LastChangeId& last) const { last.changeId = m_changeId; }
+    int getChangeId() const { return m_changeId.get(); }
+    bool isChanged(const LastChangeId& last) const { return m_changeId.isChanged(last); }
+    void resetChanged(LastChangeId& last) const { m_changeId.resetChanged(last); }
 
     /// Each makes a light that does not shine yet.
     /// @return its id; ids start at 1, rise by one and are never used again
@@ -82,7 +82,7 @@ private:
     }
 
     int m_lastLightId = 0;
-    int m_changeId = 1;
+    ChangeNumber m_changeId;
     Color m_globalAmbientColor{255, 255, 255, 255};
     float m_ambientIntensity = 1.0f;
     float m_totalLightSourceIntensity = 1.0f;

@@ -110,8 +110,8 @@ void SceneGraphPlot::fillPlot(const PostDataObject& data)
     m_hasValueRestrictions = false;
     m_restrictionTexMin = 0.0f;
     m_restrictionTexMax = 1.0f;
-    raiseChange(m_colorChangeId);
-    raiseChange(m_textureChangeId);
+    m_colorChangeId.raise();
+    m_textureChangeId.raise();
 
     try {
         fillPlotImpl(data);
@@ -178,7 +178,7 @@ void SceneGraphPlot::setLegendLimitsInternal(double min, double max)
         m_legendTexMax = 1.0f;
     }
     m_autoLegendLimits = false;
-    raiseChange(m_textureChangeId);
+    m_textureChangeId.raise();
 }
 
 void SceneGraphPlot::setAutoLegendLimits()
@@ -186,7 +186,7 @@ void SceneGraphPlot::setAutoLegendLimits()
     m_dataTexMin = m_legendTexMin = m_constantData ? 0.5f : 0.0f;
     m_dataTexMax = m_legendTexMax = m_constantData ? 0.5f : 1.0f;
     m_autoLegendLimits = true;
-    raiseChange(m_textureChangeId);
+    m_textureChangeId.raise();
 }
 
 void SceneGraphPlot::setValueRestrictions(double min, double max)
@@ -207,7 +207,7 @@ void SceneGraphPlot::setValueRestrictions(double min, double max)
         m_restrictionTexMin = static_cast<float>((m_valueRestrictionMin - m_valueMin) * scale);
         m_restrictionTexMax = static_cast<float>((m_valueRestrictionMax - m_valueMin) * scale);
     }
-    raiseChange(m_textureChangeId);
+    m_textureChangeId.raise();
 }
 
 void SceneGraphPlot::resetValueRestrictions()
@@ -224,7 +224,7 @@ void SceneGraphPlot::resetValueRestrictions()
         m_legendMin = m_valueMin;
         m_legendMax = m_valueMax;
     }
-    raiseChange(m_textureChangeId);
+    m_textureChangeId.raise();
 }
 
 void SceneGraphPlot::setSymmetricColorTable(bool symmetric)
@@ -234,7 +234,7 @@ void SceneGraphPlot::setSymmetricColorTable(bool symmetric)
     }
     m_symmetricColorTable = symmetric;
     setLegendLimitsInternal(m_requestedLegendMin, m_requestedLegendMax);
-    raiseChange(m_colorChangeId);
+    m_colorChangeId.raise();
 }
 
 void SceneGraphPlot::setReverseColorTable(bool reverse)
@@ -243,7 +243,7 @@ void SceneGraphPlot::setReverseColorTable(bool reverse)
         return;
     }
     m_reverseColorTable = reverse;
-    raiseChange(m_colorChangeId);
+    m_colorChangeId.raise();
 }
 
 bool SceneGraphPlot::setColorTable(const std::string& name, const std::vector<std::vector<double>>& colors,
@@ -260,7 +260,7 @@ bool SceneGraphPlot::setColorTable(const std::string& name, const std::vector<st
         table = handler->getColorTable(name);
     }
     m_colorTable = table;
-    raiseChange(m_colorChangeId);
+    m_colorChangeId.raise();
     return true;
 }
 
@@ -275,7 +275,7 @@ void SceneGraphPlot::setColor(const Color& color)
 {
     m_color = color;
     m_colorTable.reset();
-    raiseChange(m_colorChangeId);
+    m_colorChangeId.raise();
 }
 
 void SceneGraphPlot::setShininess(float shininess)

@@ -3,7 +3,7 @@
 #include "base/export.h"
 #include "base/ustring.h"
 #include "graphics3d/foundation/boundingbox.h"
-#include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/foundation/color.h"
 #include "graphics3d/foundation/textformat.h"
 
@@ -163,9 +163,9 @@ public:
 
     // Read access
 
-    int getGeometryChangeId() const { return m_geometryChangeId; }
-    int getColorChangeId() const { return m_colorChangeId; }
-    int getTextureChangeId() const { return m_textureChangeId; }
+    int getGeometryChangeId() const { return m_geometryChangeId.get(); }
+    int getColorChangeId() const { return m_colorChangeId.get(); }
+    int getTextureChangeId() const { return m_textureChangeId.get(); }
     PlotType getType() const { return m_type; }
     /// The number given by the creator, under which the plot stands in its group.
     int getId() const { return m_id; }
@@ -237,13 +237,13 @@ protected:
     void computeHeightScale(const vxdatacarrier::PostDataObject& data, double& min, double& max, double& scale) const;
     /// Fills `vertices` with the points of one group and the texture coordinates of their colour data, 0 without any.
     void allocateVertices(const vxdatacarrier::PostDataObject& data, VertexBufferTex& vertices, int group) const;
-    void markGeometryChanged() { raiseChange(m_geometryChangeId); }
+    void markGeometryChanged() { m_geometryChangeId.raise(); }
     void setHasHeightData(bool hasHeightData) { m_hasHeightData = hasHeightData; }
 
 private:
-    int m_geometryChangeId = 1;
-    int m_colorChangeId = 1;
-    int m_textureChangeId = 1;
+    ChangeNumber m_geometryChangeId;
+    ChangeNumber m_colorChangeId;
+    ChangeNumber m_textureChangeId;
     PlotType m_type;
     int m_id;
     double m_valueMin = 0.0;

@@ -2,7 +2,7 @@
 
 #include "base/export.h"
 #include "base/ustring.h"
-#include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/foundation/textformat.h"
 #include "graphics3d/plots/texturehandlestack.h"
 #include "graphics3d/scenegraph/ilegendsource.h"
@@ -72,7 +72,7 @@ public:
     void getLineLegend(std::vector<LineLegend>& result) const override;
 
     /// Called by a plot when something of it that shows in title or legends has changed.
-    void markTitleChanged() { raiseChange(m_titleChangeId); }
+    void markTitleChanged() { m_titleChangeId.raise(); }
 
     // Tree
 
@@ -91,7 +91,7 @@ public:
 
     // Read access
 
-    int getTitleChangeId() const override { return m_titleChangeId; }
+    int getTitleChangeId() const override { return m_titleChangeId.get(); }
     TextFormat getTitleFormat() const { return m_titleFormat; }
     const vxbase::UString& getTitle() const { return m_title; }
     const TextureHandleStack& getTextureHandles() const { return m_textureHandles; }
@@ -99,7 +99,7 @@ public:
 private:
     SceneGraphPlotGroup();
 
-    int m_titleChangeId = 1;
+    ChangeNumber m_titleChangeId;
     TextFormat m_titleFormat = TextFormat::plain;
     vxbase::UString m_title;
     TextureHandleStack m_textureHandles;

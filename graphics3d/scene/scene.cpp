@@ -1,7 +1,6 @@
 #include "graphics3d/scene/scene.h"
 
 #include "graphics3d/canvas/scenesettings.h"
-#include "graphics3d/foundation/changecounter.h"
 #include "graphics3d/lights/scenelight.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 
@@ -11,13 +10,11 @@
 
 namespace vxgraphics3d {
 
-int Scene::m_lastSceneId = 0;
+std::atomic<int> Scene::m_lastSceneId = 0;
 
-Scene::Scene() : m_sceneLight(boost::make_shared<SceneLight>()), m_root(SceneGraphRoot::create())
-{
-    raiseChange(m_lastSceneId);
-    m_sceneId = m_lastSceneId;
-}
+Scene::Scene()
+    : m_sceneId(++m_lastSceneId), m_sceneLight(boost::make_shared<SceneLight>()), m_root(SceneGraphRoot::create())
+{}
 
 // The members go in reverse order: the root first, then the settings, the lights last.
 Scene::~Scene() = default;

@@ -6,6 +6,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <atomic>
 #include <map>
 
 namespace vxbase {
@@ -71,7 +72,7 @@ public:
     void resetTitleChanged(LastChangeId& last) const;
 
 private:
-    static int m_lastSceneId;
+    static std::atomic<int> m_lastSceneId; // scenes may be made on any thread
 
     int m_sceneId;
     bool m_disposed = false;

@@ -1,6 +1,5 @@
 #include "graphics3d/scenegraph/scenegraphnode.h"
 
-#include "graphics3d/foundation/changecounter.h"
 #include "graphics3d/foundation/errorlog.h"
 #include "graphics3d/scenegraph/scenegraphparent.h"
 
@@ -9,13 +8,9 @@
 namespace vxgraphics3d {
 
 const BoundingBox SceneGraphNode::c_emptyBox;
-int SceneGraphNode::m_lastUniqueNodeId = 0;
+std::atomic<int> SceneGraphNode::m_lastUniqueNodeId = 0;
 
-SceneGraphNode::SceneGraphNode(NodeType type) : m_type(type)
-{
-    raiseChange(m_lastUniqueNodeId);
-    m_nodeId = m_lastUniqueNodeId;
-}
+SceneGraphNode::SceneGraphNode(NodeType type) : m_type(type), m_nodeId(++m_lastUniqueNodeId) {}
 
 SceneGraphNode::~SceneGraphNode() = default;
 
@@ -66,7 +61,7 @@ void SceneGraphNode::disconnectFromParent()
 
 void SceneGraphNode::markChanged()
 {
-    raiseChange(m_changeId);
+    m_changeId.raise();
     if (SceneGraphParent* parent = parentOrNull()) {
         parent->markChildChanged();
     }

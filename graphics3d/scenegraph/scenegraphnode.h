@@ -2,6 +2,7 @@
 
 #include "base/export.h"
 #include "graphics3d/foundation/boundingbox.h"
+#include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/scenegraph/snapvertex.h"
 
 #include <boost/shared_ptr.hpp>
@@ -9,6 +10,7 @@
 #include <boost/smart_ptr/intrusive_ref_counter.hpp>
 #include <boost/weak_ptr.hpp>
 
+#include <atomic>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -64,7 +66,7 @@ public:
     // Changes
 
     /// The number of changes of this node itself, from 1.
-    int getChangeId() const { return m_changeId; }
+    int getChangeId() const { return m_changeId.get(); }
     /// Counts a change of this node, and a change below on every node above it.
     void markChanged();
 
@@ -137,7 +139,7 @@ private:
     void updateBoxesAbove();
 
     static const BoundingBox c_emptyBox;
-    static int m_lastUniqueNodeId;
+    static std::atomic<int> m_lastUniqueNodeId; // nodes may be made on any thread
 
     boost::weak_ptr<SceneGraphNode> m_self;
     NodeType m_type;
@@ -147,7 +149,7 @@ private:
     bool m_active = true;
     /// Of a parent: whether the box is the merge of all children, each of which tells this parent of its changes.
     bool m_boxIsMerged = false;
-    int m_changeId = 1;
+    ChangeNumber m_changeId;
     int m_numHolders = 0; ///< how often parents hold the node; the one that it answers to is among them
     std::vector<SnapVertex> m_snapVertices;
     BoundingBox m_boundingBox;

@@ -65,7 +65,7 @@ SceneGraphParent* SceneGraphParent::root()
 void SceneGraphParent::markChildChangedAbove()
 {
     for (SceneGraphParent* parent = parentOrNull(); parent != nullptr; parent = parent->parentOrNull()) {
-        raiseChange(parent->m_childrenChangeId);
+        parent->m_childrenChangeId.raise();
     }
 }
 
@@ -122,7 +122,7 @@ void SceneGraphParent::announce(SceneGraphNode& node)
     if (root() != nullptr) {
         node.updateNodeSnapVertices();
     }
-    raiseChange(node.m_changeId);
+    node.m_changeId.raise();
     markChildChanged();
 }
 

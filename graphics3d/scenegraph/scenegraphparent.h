@@ -1,6 +1,6 @@
 #pragma once
 
-#include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 
 #include <boost/shared_ptr.hpp>
@@ -19,13 +19,13 @@ public:
     ~SceneGraphParent() override { orphanChildren(); }
 
     /// The number of changes anywhere below this node, from 1.
-    int getChildrenChangeId() const { return m_childrenChangeId; }
+    int getChildrenChangeId() const { return m_childrenChangeId.get(); }
     /// Whether the number differs from the one given.
-    bool areChildrenChanged(int id) const { return id != m_childrenChangeId; }
+    bool areChildrenChanged(int id) const { return m_childrenChangeId.isChanged({id}); }
     /// Counts a change below this node, here and on every node above.
     void markChildChanged()
     {
-        raiseChange(m_childrenChangeId);
+        m_childrenChangeId.raise();
         if (m_parent) {
             markChildChangedAbove();
         }
@@ -93,8 +93,8 @@ protected:
         if (m_parent) {
             announceLast(child);
         } else {
-            raiseChange(child.m_changeId);
-            raiseChange(m_childrenChangeId);
+            child.m_changeId.raise();
+            m_childrenChangeId.raise();
             if (m_boxIsMerged) {
                 mergeBox(child);
             } else {
@@ -176,7 +176,7 @@ private:
     template <class Enter, class Leaf>
     void walk(bool inside, Enter enter, Leaf leaf) const;
 
-    int m_childrenChangeId = 1;
+    ChangeNumber m_childrenChangeId;
     boost::intrusive_ptr<ParentReference> m_reference; ///< on this node, for its children
 };
 

@@ -1,6 +1,5 @@
 #include "graphics3d/scenegraph/scenegraphroot.h"
 
-#include "graphics3d/foundation/changecounter.h"
 #include "graphics3d/scenegraph/ilegendsource.h"
 
 namespace vxgraphics3d {
@@ -16,7 +15,7 @@ boost::shared_ptr<SceneGraphRoot> SceneGraphRoot::create()
 
 void SceneGraphRoot::treeStructureChanged()
 {
-    raiseChange(m_treeStructureChangeId);
+    m_treeStructureChangeId.raise();
     markChildChanged();
 }
 
@@ -72,13 +71,13 @@ void SceneGraphRoot::getTitle(vxbase::UString& result) const
 bool SceneGraphRoot::isTitleChanged(const LastChangeId& last) const
 {
     const ILegendSource* plots = legendSource();
-    return plots != nullptr && plots->getTitleChangeId() != last.changeId;
+    return plots != nullptr && last.differsFrom(plots->getTitleChangeId());
 }
 
 void SceneGraphRoot::resetTitleChanged(LastChangeId& last) const
 {
     if (const ILegendSource* plots = legendSource()) {
-        last.changeId = plots->getTitleChangeId();
+        last.take(plots->getTitleChangeId());
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "graphics3d/foundation/lastchangeid.h"
+#include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/foundation/vector3f.h"
 #include "graphics3d/scenegraph/scenegraphsinglechildparent.h"
 #include "graphics3d/scenegraph/snapvertexindex.h"
@@ -23,9 +23,9 @@ public:
     ~SceneGraphRoot() override;
 
     /// How often nodes have come or gone below, from 1.
-    int getTreeStructureChangeId() const { return m_treeStructureChangeId; }
+    int getTreeStructureChangeId() const { return m_treeStructureChangeId.get(); }
     /// Whether the number differs from the one given.
-    bool isTreeStructureChanged(int id) const { return id != m_treeStructureChangeId; }
+    bool isTreeStructureChanged(int id) const { return m_treeStructureChangeId.isChanged({id}); }
 
     /// Finds a snap vertex near a point; see SnapVertexIndex.
     /// @param coordinate receives x, y and z of the vertex found; untouched if none is
@@ -57,7 +57,7 @@ private:
     const ILegendSource* legendSource() const;
 
     SnapVertexIndex m_snapIndex;
-    int m_treeStructureChangeId = 1;
+    ChangeNumber m_treeStructureChangeId;
 };
 
 } // namespace vxgraphics3d

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/export.h"
-#include "graphics3d/foundation/changecounter.h"
+#include "graphics3d/foundation/changenumber.h"
 
 #include <string>
 
@@ -22,7 +22,7 @@ public:
         if (this != &other) {
             m_name = other.m_name;
             m_size = other.m_size;
-            raiseChange(m_changeCount);
+            m_changeCount.raise();
         }
         return *this;
     }
@@ -33,17 +33,17 @@ public:
         if (name != m_name || size != m_size) {
             m_name = name;
             m_size = size;
-            raiseChange(m_changeCount);
+            m_changeCount.raise();
         }
     }
 
-    int getChangeCount() const { return m_changeCount; }
+    int getChangeCount() const { return m_changeCount.get(); }
     const std::string& getName() const { return m_name; }
     /// In points; -1 until a font is set.
     int getSize() const { return m_size; }
 
 private:
-    int m_changeCount = 1;
+    ChangeNumber m_changeCount;
     std::string m_name;
     int m_size = -1;
 };

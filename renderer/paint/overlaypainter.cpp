@@ -132,10 +132,9 @@ void OverlayPainter::bindAtlas(const GlyphAtlas& atlas)
     Atlas& copy = m_atlases[&atlas];
     glActiveTexture(GL_TEXTURE1);
     glBindTexture(GL_TEXTURE_2D, copy.texture.name());
-    if (copy.changeId == atlas.getChangeId()) {
+    if (!copy.lastChangeId.take(atlas.getChangeId())) {
         return;
     }
-    copy.changeId = atlas.getChangeId();
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     glTexImage2D(GL_TEXTURE_2D, 0, GL_R8, atlas.getWidth(), atlas.getHeight(), 0, GL_RED, GL_UNSIGNED_BYTE,
                  atlas.getPixels().data());

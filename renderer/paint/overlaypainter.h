@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics3d/foundation/color.h"
+#include "graphics3d/foundation/lastchangeid.h"
 #include "renderer/gl/globject.h"
 #include "renderer/gl/glprogram.h"
 #include "renderer/text/fontset.h"
@@ -53,7 +54,7 @@ private:
 
     struct Atlas {
         GlTexture texture;
-        int changeId = 0;
+        vxgraphics3d::LastChangeId lastChangeId;
     };
 
     void addQuad(const PixelRect& rect, const PixelRect& texture);

@@ -80,7 +80,8 @@ void SceneRenderer::updateTitle(const Scene& scene)
 {
     const SceneGraphRoot& root = *scene.getRoot();
     // Another group of plots may have counted its titles up to the same number.
-    const bool isSameTree = m_titleRoot.lock().get() == &root && !root.isTreeStructureChanged(m_lastTreeStructure);
+    const bool isSameTree =
+        m_titleRoot.lock().get() == &root && !root.isTreeStructureChanged(m_lastTreeStructure.changeId);
     if (isSameTree && !root.isTitleChanged(m_lastTitle)) {
         return;
     }
@@ -88,7 +89,7 @@ void SceneRenderer::updateTitle(const Scene& scene)
     root.getTitle(title);
     m_title = parseTitle(title);
     m_titleRoot = root.self();
-    m_lastTreeStructure = root.getTreeStructureChangeId();
+    m_lastTreeStructure.take(root.getTreeStructureChangeId());
     root.resetTitleChanged(m_lastTitle);
 }
 

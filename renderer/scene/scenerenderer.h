@@ -81,7 +81,7 @@ private:
     OverlayPainter m_overlay{m_counts};
     FontSets m_fontSets;
     boost::weak_ptr<const vxgraphics3d::SceneGraphNode> m_titleRoot;
-    int m_lastTreeStructure = 0;
+    vxgraphics3d::LastChangeId m_lastTreeStructure;
     vxgraphics3d::LastChangeId m_lastTitle;
     std::vector<TitleItem> m_title;
 };

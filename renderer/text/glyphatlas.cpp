@@ -32,7 +32,7 @@ std::optional<GlyphAtlas::Place> GlyphAtlas::add(const std::uint8_t* rows, int w
     }
     m_rowEnd += width + 1;
     m_rowHeight = std::max(m_rowHeight, height);
-    ++m_changeId;
+    m_changeId.raise();
     return place;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "graphics3d/foundation/changenumber.h"
+
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -23,7 +25,7 @@ public:
     int getHeight() const { return m_height; }
     const std::vector<std::uint8_t>& getPixels() const { return m_pixels; }
     /// Rises with every glyph; whoever keeps a copy of the picture compares it.
-    int getChangeId() const { return m_changeId; }
+    int getChangeId() const { return m_changeId.get(); }
 
     /// Copies a glyph in.
     /// @param rows its coverage, row by row from the top, `pitch` bytes apart
@@ -35,7 +37,7 @@ private:
 
     int m_width;
     int m_height = 0;
-    int m_changeId = 1;
+    vxgraphics3d::ChangeNumber m_changeId;
     int m_rowTop = 1;
     int m_rowHeight = 0;
     int m_rowEnd = 1;

@@ -11,12 +11,12 @@ void ColorTextures::bind(const boost::shared_ptr<const vxgraphics3d::SceneGraphP
     Entry& entry = m_entries[{group.get(), handle}];
     glActiveTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_1D, entry.texture.name());
-    if (!entry.group.expired() && entry.tableId == table.getId() && entry.tableChangeId == table.getChangeId()) {
+    const bool isChanged = entry.lastChangeId.take(table.getChangeId());
+    if (!isChanged && !entry.group.expired() && entry.tableId == table.getId()) {
         return;
     }
     entry.group = group;
     entry.tableId = table.getId();
-    entry.tableChangeId = table.getChangeId();
     // The texels are words with red in the highest byte.
     glTexImage1D(GL_TEXTURE_1D, 0, GL_RGBA8, vxgraphics3d::ColorTable::c_numTexels, 0, GL_RGBA, GL_UNSIGNED_INT_8_8_8_8,
                  table.getRgba().data());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics3d/foundation/lastchangeid.h"
 #include "renderer/gl/globject.h"
 #include "renderer/upload/uploadcounts.h"
 
@@ -35,7 +36,7 @@ private:
     struct Entry {
         boost::weak_ptr<const vxgraphics3d::SceneGraphPlotGroup> group;
         int tableId = 0;
-        int tableChangeId = 0;
+        vxgraphics3d::LastChangeId lastChangeId;
         GlTexture texture;
     };
 

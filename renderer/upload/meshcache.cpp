@@ -9,9 +9,9 @@ namespace vxrenderer {
 const Mesh* MeshCache::mesh(const boost::shared_ptr<const void>& owner, int number, const Source& source)
 {
     Entry& entry = m_entries[{owner.get(), number}];
-    if (entry.owner.expired() || entry.changeId != source.changeId) {
+    const bool isChanged = entry.lastChangeId.take(source.changeId);
+    if (isChanged || entry.owner.expired()) {
         entry.owner = owner;
-        entry.changeId = source.changeId;
         entry.isDrawable = false;
         try {
             entry.mesh.load(source.vertices, source.indices);

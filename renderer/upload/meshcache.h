@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics3d/foundation/lastchangeid.h"
 #include "renderer/upload/mesh.h"
 #include "renderer/upload/uploadcounts.h"
 
@@ -40,7 +41,7 @@ public:
 private:
     struct Entry {
         boost::weak_ptr<const void> owner;
-        int changeId = 0;
+        vxgraphics3d::LastChangeId lastChangeId;
         bool isDrawable = false;
         Mesh mesh;
     };

@@ -51,9 +51,7 @@ private:
     void draw(const boost::shared_ptr<const SceneGraphPlotSurface>& plot, const ICameraTransforms& camera)
     {
         std::printf("  plot %d, legend %g to %g\n", plot->getId(), plot->getLegendMin(), plot->getLegendMax());
-        int& loaded = m_loaded[plot];
-        if (loaded != plot->getGeometryChangeId()) {
-            loaded = plot->getGeometryChangeId();
+        if (m_loaded[plot].take(plot->getGeometryChangeId())) {
             const auto& vertices = plot->getVertices();
             const VertexLayout* layout = findVertexLayout(vertices.getVertexType());
             std::printf("    load %d vertices of %d bytes, normal at %d, texture at %d\n",
@@ -71,8 +69,8 @@ private:
         }
     }
 
-    /// The change number of the geometry loaded last, by plot.
-    std::map<boost::weak_ptr<const SceneGraphPlotSurface>, int> m_loaded;
+    /// The geometry loaded last, by plot.
+    std::map<boost::weak_ptr<const SceneGraphPlotSurface>, LastChangeId> m_loaded;
 };
 
 } // namespace

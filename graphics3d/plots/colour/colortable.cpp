@@ -1,6 +1,5 @@
 #include "graphics3d/plots/colour/colortable.h"
 
-#include "graphics3d/foundation/changecounter.h"
 #include "graphics3d/foundation/errorlog.h"
 
 #include <cmath>
@@ -45,7 +44,7 @@ void ColorTable::update(Type type, const Colors& colors)
 {
     calculate(type, colors);
     m_type = type;
-    raiseChange(m_changeId);
+    m_changeId.raise();
 }
 
 void ColorTable::calculateDiscreteTable(const Colors& colors)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/export.h"
+#include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/foundation/color.h"
 
 #include <array>
@@ -44,7 +45,7 @@ public:
     void calculateContinuousTable(const Colors& colors);
 
     /// Starts at 1 and rises with every update.
-    int getChangeId() const { return m_changeId; }
+    int getChangeId() const { return m_changeId.get(); }
     const std::string& getName() const { return m_name; }
     Type getType() const { return m_type; }
     /// Unique in the process, from 1; never used again.
@@ -60,7 +61,7 @@ private:
 
     inline static int m_lastId = 0;
 
-    int m_changeId = 1;
+    ChangeNumber m_changeId;
     std::string m_name;
     Type m_type;
     int m_id = 0;

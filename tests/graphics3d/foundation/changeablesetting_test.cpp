@@ -45,11 +45,9 @@ TEST(ChangeableSetting, importCountsOnlyFromAnotherObject)
     EXPECT_EQ(setting.getChangeId(), 2);
 }
 
-TEST(ChangeCounter, wrapsPastTheLargestNumber)
+TEST(ChangeNumber, wrapsPastTheHighest)
 {
-    int id = std::numeric_limits<int>::max();
-    raiseChange(id);
-    EXPECT_EQ(id, std::numeric_limits<int>::min());
+    EXPECT_EQ(ChangeNumber::after(std::numeric_limits<int>::max()), std::numeric_limits<int>::min());
 }
 
 } // namespace

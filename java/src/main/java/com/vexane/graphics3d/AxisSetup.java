@@ -4,23 +4,96 @@ import com.vexane.base.NativePeer;
 import java.util.Objects;
 
 /**
- * How the axes of a 2D view are laid out: their type, logarithmic scales, grid spacing and titles, and where legends
- * go. Numbers that have no name here mean what the renderer makes of them.
+ * How the axes of a 2D view are laid out: their type, logarithmic scales, grid spacing and titles, and where the
+ * legends of lines are placed.
+ *
+ * <p>The model stores types, positions and layouts for the renderer. Constants named {@code RENDERER_n} have the number
+ * n and the meaning that the renderer gives them.
  */
 public final class AxisSetup extends NativePeer {
-    /** The type of polar axes. */
-    public static final int TYPE_POLAR = 1;
+    /** The types of axes. */
+    public enum AxisType implements NativeEnum {
+        /** The renderer's type 0. */
+        RENDERER_0(0),
+        /** Polar axes. */
+        POLAR(1),
+        /** The renderer's type 2. */
+        RENDERER_2(2),
+        /** The renderer's type 3. */
+        RENDERER_3(3),
+        /** The axes of graphs. */
+        GRAPH(4),
+        /** The initial type. */
+        DEFAULT(5),
+        /** The renderer's type 6. */
+        RENDERER_6(6);
 
-    /** The type of the axes of graphs. */
-    public static final int TYPE_GRAPH = 4;
+        private final int number;
 
-    /** The type at the start. */
-    public static final int TYPE_DEFAULT = 5;
+        AxisType(int number) {
+            this.number = number;
+        }
+
+        @Override
+        public int number() {
+            return number;
+        }
+    }
+
+    /** Where the legends of lines are placed. */
+    public enum LegendPosition implements NativeEnum {
+        /** The initial position. */
+        DEFAULT(0),
+        /** The renderer's position 1. */
+        RENDERER_1(1),
+        /** The renderer's position 2. */
+        RENDERER_2(2),
+        /** The renderer's position 3. */
+        RENDERER_3(3);
+
+        private final int number;
+
+        LegendPosition(int number) {
+            this.number = number;
+        }
+
+        @Override
+        public int number() {
+            return number;
+        }
+    }
+
+    /** How legends are laid out. */
+    public enum LegendLayoutStrategy implements NativeEnum {
+        /** The renderer's layout 0. */
+        RENDERER_0(0),
+        /** The initial layout. */
+        DEFAULT(1),
+        /** The renderer's layout 2. */
+        RENDERER_2(2),
+        /** The renderer's layout 3. */
+        RENDERER_3(3),
+        /** The renderer's layout 4. */
+        RENDERER_4(4),
+        /** The renderer's layout 5. */
+        RENDERER_5(5);
+
+        private final int number;
+
+        LegendLayoutStrategy(int number) {
+            this.number = number;
+        }
+
+        @Override
+        public int number() {
+            return number;
+        }
+    }
 
     private AxisSetup() {}
 
     /**
-     * Makes a peer of the axis setup of a view. The setup lives as long as the peer, also when the view is gone.
+     * Makes a peer of the axis setup of a view. The setup lives as long as the peer, even after the view is gone.
      *
      * @param settings the settings of the view
      * @return the peer
@@ -36,35 +109,24 @@ public final class AxisSetup extends NativePeer {
     /**
      * Sets the type of the axes.
      *
-     * @param type 0 to 6; anything else is {@link #TYPE_DEFAULT}
+     * @param type the type, initially {@link AxisType#DEFAULT}
+     * @throws NullPointerException if the type is null
      */
-    public void setAxisType(int type) {
-        setAxisType(this, type);
+    public void setAxisType(AxisType type) {
+        setAxisType(this, Objects.requireNonNull(type, "type").number());
     }
 
-    /**
-     * Whether the axes are polar.
-     *
-     * @return true for {@link #TYPE_POLAR}
-     */
+    /** {@return whether the axes are {@linkplain AxisType#POLAR polar}} */
     public boolean isPolar() {
         return isPolar(this);
     }
 
-    /**
-     * Whether the axes are those of graphs.
-     *
-     * @return true for {@link #TYPE_GRAPH}
-     */
+    /** {@return whether the axes are {@linkplain AxisType#GRAPH those of graphs}} */
     public boolean isGraph() {
         return isGraph(this);
     }
 
-    /**
-     * Whether the x axis is logarithmic.
-     *
-     * @return false at the start
-     */
+    /** {@return whether the x axis is logarithmic, initially false} */
     public boolean getXAxisLog() {
         return getXAxisLog(this);
     }
@@ -78,11 +140,7 @@ public final class AxisSetup extends NativePeer {
         setXAxisLog(this, logScale);
     }
 
-    /**
-     * Whether the y axis is logarithmic.
-     *
-     * @return false at the start
-     */
+    /** {@return whether the y axis is logarithmic, initially false} */
     public boolean getYAxisLog() {
         return getYAxisLog(this);
     }
@@ -97,25 +155,21 @@ public final class AxisSetup extends NativePeer {
     }
 
     /**
-     * Sets whether the renderer chooses the grid spacing. It does at the start.
+     * Sets whether the renderer chooses the grid spacing.
      *
-     * @param autoSpacing false for the spacings that are set here
+     * @param autoSpacing true, as initially, for a spacing that the renderer chooses; false for the spacings set here
      */
     public void setAutoSpacing(boolean autoSpacing) {
         setAutoSpacing(this, autoSpacing);
     }
 
-    /**
-     * The distance of grid lines on the x axis.
-     *
-     * @return the distance in data units, 0 at the start
-     */
+    /** {@return the distance between grid lines on the x axis in data units, initially 0} */
     public double getXAxisSpacing() {
         return getXAxisSpacing(this);
     }
 
     /**
-     * Sets the distance of grid lines on the x axis.
+     * Sets the distance between grid lines on the x axis.
      *
      * @param spacing the distance in data units; not checked
      */
@@ -123,17 +177,13 @@ public final class AxisSetup extends NativePeer {
         setXSpacing(this, spacing);
     }
 
-    /**
-     * The distance of grid lines on the y axis.
-     *
-     * @return the distance in data units, 0 at the start
-     */
+    /** {@return the distance between grid lines on the y axis in data units, initially 0} */
     public double getYAxisSpacing() {
         return getYAxisSpacing(this);
     }
 
     /**
-     * Sets the distance of grid lines on the y axis.
+     * Sets the distance between grid lines on the y axis.
      *
      * @param spacing the distance in data units; not checked
      */
@@ -141,17 +191,13 @@ public final class AxisSetup extends NativePeer {
         setYSpacing(this, spacing);
     }
 
-    /**
-     * Further grid positions on the x axis.
-     *
-     * @return the positions in data units, as they were set; none at the start
-     */
+    /** {@return the additional grid positions on the x axis in data units, as they were set; initially none} */
     public double[] getExtraX() {
         return getExtraX(this);
     }
 
     /**
-     * Sets further grid positions on the x axis.
+     * Sets additional grid positions on the x axis.
      *
      * @param positions the positions in data units, which are copied
      * @throws NullPointerException if the array is null
@@ -160,17 +206,13 @@ public final class AxisSetup extends NativePeer {
         setExtraX(this, Objects.requireNonNull(positions, "positions"));
     }
 
-    /**
-     * Further grid positions on the y axis.
-     *
-     * @return the positions in data units, as they were set; none at the start
-     */
+    /** {@return the additional grid positions on the y axis in data units, as they were set; initially none} */
     public double[] getExtraY() {
         return getExtraY(this);
     }
 
     /**
-     * Sets further grid positions on the y axis.
+     * Sets additional grid positions on the y axis.
      *
      * @param positions the positions in data units, which are copied
      * @throws NullPointerException if the array is null
@@ -180,30 +222,28 @@ public final class AxisSetup extends NativePeer {
     }
 
     /**
-     * Sets where legends of lines stand.
+     * Sets where the legends of lines are placed.
      *
-     * @param position 0 to 3; anything else is 0, as at the start
+     * @param position the position, initially {@link LegendPosition#DEFAULT}
+     * @throws NullPointerException if the position is null
      */
-    public void setLegendPosition(int position) {
-        setLegendPosition(this, position);
+    public void setLegendPosition(LegendPosition position) {
+        setLegendPosition(this, Objects.requireNonNull(position, "position").number());
     }
 
-    /**
-     * How legends are laid out.
-     *
-     * @return 0 to 5, 1 at the start
-     */
-    public int getLegendLayoutStrategy() {
-        return getLegendLayoutStrategy(this);
+    /** {@return how legends are laid out, initially {@link LegendLayoutStrategy#DEFAULT}} */
+    public LegendLayoutStrategy getLegendLayoutStrategy() {
+        return NativeEnum.of(LegendLayoutStrategy.class, getLegendLayoutStrategy(this));
     }
 
     /**
      * Sets how legends are laid out.
      *
-     * @param strategy 0 to 5; anything else is reported in the log and becomes 0
+     * @param strategy the layout, initially {@link LegendLayoutStrategy#DEFAULT}
+     * @throws NullPointerException if the layout is null
      */
-    public void setLegendLayoutStrategy(int strategy) {
-        setLegendLayoutStrategy(this, strategy);
+    public void setLegendLayoutStrategy(LegendLayoutStrategy strategy) {
+        setLegendLayoutStrategy(this, Objects.requireNonNull(strategy, "strategy").number());
     }
 
     /**
@@ -227,7 +267,7 @@ public final class AxisSetup extends NativePeer {
     }
 
     /**
-     * Names the axis of symmetry. It is titled with the name and "=0".
+     * Names the axis of symmetry, whose title is the name and "=0".
      *
      * @param text the name as plain text, such as "r"; an empty one for no title
      * @throws NullPointerException if the text is null

@@ -4,15 +4,18 @@ import com.vexane.base.NativePeer;
 import java.util.Objects;
 
 /**
- * The camera of a 2D view: the rectangle of the plane that it shows, kept in step with the shape of the canvas.
+ * The camera of a 2D view: the rectangle of the plane that it shows, adapted to the shape of the canvas.
  *
- * <p>Limits that are set are adapted to the canvas, so {@link #getViewLimits()} may report more than was asked for.
- * Every method costs no more than a few sums. Values are taken as they are; a scale of 0 or a value that is no number
- * makes a picture of nothing until good values come, and no error.
+ * <p>Limits that are set are adapted to the canvas, so {@link #getViewLimits()} may report more than was requested. All
+ * calls take constant time. Values are not checked: a scale of 0 or a NaN is no error, but leaves the picture empty
+ * until valid values are set.
+ *
+ * <p>Under {@link ResizeBehaviour#PIXELS} the size of the canvas decides how much is shown: limits that are set, and
+ * zooming, last only until the next resize or the end of the next interaction.
  */
 public final class Camera2d extends NativePeer {
     /** What the limits mean. */
-    public enum UseMode {
+    public enum UseMode implements NativeEnum {
         /** Radii about a pole. */
         POLAR(0),
         /** A range in x; y always runs from -1 to 1. */
@@ -26,17 +29,13 @@ public final class Camera2d extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the mode.
-         *
-         * @return 0 to 2
-         */
+        @Override
         public int number() {
             return number;
         }
     }
 
-    /** Makes a camera of its own that shows 0 to 1 on both axes. */
+    /** Makes a camera that belongs to no view and shows 0 to 1 on both axes. */
     public Camera2d() {
         createNative(this);
     }
@@ -46,7 +45,7 @@ public final class Camera2d extends NativePeer {
     }
 
     /**
-     * Makes a peer of the 2D camera of a view. The camera lives as long as the peer, also when the view is gone.
+     * Makes a peer of the 2D camera of a view. The camera lives as long as the peer, even after the view is gone.
      *
      * @param settings the settings of the view
      * @return the peer
@@ -60,7 +59,7 @@ public final class Camera2d extends NativePeer {
     /**
      * Sets the radii of the polar mode.
      *
-     * @param outer the radius at the border; one that does not exceed the inner one becomes the inner one plus 1
+     * @param outer the radius at the border; if it does not exceed the inner radius, the inner radius plus 1 is used
      * @param inner the radius at the pole
      */
     public void setPolarLimits(float outer, float inner) {
@@ -68,34 +67,26 @@ public final class Camera2d extends NativePeer {
     }
 
     /**
-     * Sets what the limits mean. The picture follows with the next limits, zoom or size of the canvas.
+     * Sets what the limits mean. The picture changes when limits are set next, or at the next zoom or resize.
      *
-     * @param mode the mode, {@link UseMode#PLANE} at the start
+     * @param mode the mode, initially {@link UseMode#PLANE}
      * @throws NullPointerException if the mode is null
      */
     public void setUseMode(UseMode mode) {
         setUseMode(this, Objects.requireNonNull(mode, "mode").number());
     }
 
-    /**
-     * How much the x axis is stretched on the screen.
-     *
-     * @return the scale, 1 at the start
-     */
+    /** {@return the factor by which the x axis is stretched on the screen, initially 1} */
     public float getAxisViewScaleX() {
         return getAxisViewScaleX(this);
     }
 
-    /**
-     * How much the y axis is stretched on the screen.
-     *
-     * @return the scale, 1 at the start
-     */
+    /** {@return the factor by which the y axis is stretched on the screen, initially 1} */
     public float getAxisViewScaleY() {
         return getAxisViewScaleY(this);
     }
 
-    /** Takes the stretch of the axes back and stops it from following the scene. */
+    /** Resets the stretch of the axes to 1 and stops it from following the scene. */
     public void resetAxisViewScales() {
         resetAxisViewScales(this);
     }
@@ -105,18 +96,14 @@ public final class Camera2d extends NativePeer {
         setAxisViewScalesAuto(this);
     }
 
-    /**
-     * Whether the stretch of the axes follows the scene.
-     *
-     * @return true at the start
-     */
+    /** {@return whether the stretch of the axes follows the scene, initially true} */
     public boolean getAxisViewScalesAuto() {
         return getAxisViewScalesAuto(this);
     }
 
     /**
-     * Sets the stretch of the axes. It takes effect with the next limits; a stretch that follows the scene replaces it
-     * when the scene changes.
+     * Sets the stretch of the axes. It takes effect when limits are set next; a stretch that follows the scene replaces
+     * it when the scene changes.
      *
      * @param x the scale of the x axis, above 0
      * @param y the scale of the y axis, above 0
@@ -126,9 +113,8 @@ public final class Camera2d extends NativePeer {
     }
 
     /**
-     * The limits that are displayed.
-     *
-     * @return lower x, upper x, lower y, upper y; in polar mode the inner and the outer radius, 0 and 0
+     * {@return the displayed limits: lower x, upper x, lower y, upper y; in polar mode the inner and the outer radius,
+     * 0 and 0}
      */
     public float[] getViewLimits() {
         return getViewLimits(this);
@@ -172,8 +158,8 @@ public final class Camera2d extends NativePeer {
     /**
      * Sets the limits so that all of them are visible.
      *
-     * <p>Preserving the aspect ratio, more is shown of one axis than was asked for if the canvas has another shape. An
-     * empty range of one axis then follows from the other, and if both are empty, one unit to each side is shown.
+     * <p>If the aspect ratio is preserved and the canvas has another shape, more of one axis is shown than requested.
+     * An empty range of one axis then follows from the other, and if both are empty, one unit to each side is shown.
      * Otherwise the axes are stretched so that the limits fill the canvas, and an empty range is refused.
      *
      * @param x0 the lower limit of x
@@ -187,11 +173,7 @@ public final class Camera2d extends NativePeer {
         return setViewLimitsWithPreserve(this, x0, x1, y0, y1, preserve);
     }
 
-    /**
-     * Whether setting limits and zooming preserve the aspect ratio.
-     *
-     * @return true at the start
-     */
+    /** {@return whether setting limits and zooming preserve the aspect ratio, initially true} */
     public boolean isPreserveAspectRatio() {
         return isPreserveAspectRatio(this);
     }
@@ -206,17 +188,17 @@ public final class Camera2d extends NativePeer {
     }
 
     /**
-     * Magnifies the picture about its centre and commits whatever is displayed. Magnification ends, without an error,
-     * where the range of an axis is so small against its distance from zero that floats hardly tell its ends apart.
+     * Magnifies the picture about its centre and commits what is displayed. Magnification ends, without an error, where
+     * the range of an axis is so small compared to its distance from zero that floats hardly distinguish its ends.
      *
-     * @param factor how much larger things become, above 0; below 1 they become smaller
+     * @param factor the factor by which things become larger, above 0; below 1 they become smaller
      */
     public void zoomCenter(float factor) {
         zoomCenter(this, factor);
     }
 
     /**
-     * Makes the camera follow a resize behaviour of its own, or the one of {@link Canvas3dGlobalSettings}.
+     * Sets whether the camera uses a resize behaviour of its own or that of {@link Canvas3dGlobalSettings}.
      *
      * @param override true for its own behaviour
      * @param behaviour its own behaviour

@@ -4,19 +4,19 @@ import com.vexane.base.NativePeer;
 import java.util.Objects;
 
 /**
- * The camera of a 3D view: where the eye is, how it is turned, and what it projects.
+ * The camera of a 3D view: where the eye is, how it is turned, and how it projects.
  *
- * <p>Positions and directions are in the world as the axis scales stretch it; without axis scales that is the world
- * itself. Every method costs no more than a few matrices. Values are taken as they are: a direction without length, or
- * a factor or size of 0, makes a picture of nothing until good values come, and no error.
+ * <p>Positions and directions are in the world as stretched by the axis scales; without axis scales that is the world
+ * itself. All calls take constant time. Values are not checked: a direction of length 0, or a factor or size of 0, is
+ * no error, but leaves the picture empty until valid values are set.
  *
  * <p>Interaction changes what is displayed and commits it at its end. Position, direction and up direction are the
  * committed ones; the view offset is the displayed one.
  */
 public final class Camera3d extends NativePeer {
-    /** How depth shows on the screen. */
-    public enum ProjectionType {
-        /** What is farther away is smaller. */
+    /** The projections. */
+    public enum ProjectionType implements NativeEnum {
+        /** What is farther away appears smaller. */
         PERSPECTIVE(0),
         /** Size does not depend on depth. */
         ORTHOGRAPHIC(1);
@@ -27,17 +27,13 @@ public final class Camera3d extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the projection.
-         *
-         * @return 0 or 1
-         */
+        @Override
         public int number() {
             return number;
         }
     }
 
-    /** Makes a camera of its own, with a perspective projection and an angle of view of 20 degrees. */
+    /** Makes a camera that belongs to no view, with a perspective projection and an angle of view of 20 degrees. */
     public Camera3d() {
         createNative(this);
     }
@@ -47,7 +43,7 @@ public final class Camera3d extends NativePeer {
     }
 
     /**
-     * Makes a peer of the 3D camera of a view. The camera lives as long as the peer, also when the view is gone.
+     * Makes a peer of the 3D camera of a view. The camera lives as long as the peer, even after the view is gone.
      *
      * @param settings the settings of the view
      * @return the peer
@@ -59,105 +55,75 @@ public final class Camera3d extends NativePeer {
     }
 
     /**
-     * Places the eye and turns it. Only the length of the direction is kept, not used; zoom and view offset stay.
+     * Sets the position of the eye, the viewing direction and the up direction. Zoom and view offset stay.
      *
      * @param px the position of the eye, x
      * @param py the position of the eye, y
      * @param pz the position of the eye, z
-     * @param dx the direction from the eye into the scene, x; of any length above 0
-     * @param dy the direction, y
-     * @param dz the direction, z
-     * @param ux what is up, x; of any length above 0, in any direction but the one that the eye looks
-     * @param uy what is up, y
-     * @param uz what is up, z
+     * @param dx the viewing direction, x; its length is any number above 0, and is stored but not used
+     * @param dy the viewing direction, y
+     * @param dz the viewing direction, z
+     * @param ux the up direction, x; its length is any number above 0, and it is not parallel to the viewing direction
+     * @param uy the up direction, y
+     * @param uz the up direction, z
      */
     public void setPosition(float px, float py, float pz, float dx, float dy, float dz, float ux, float uy, float uz) {
         setPosition(this, px, py, pz, dx, dy, dz, ux, uy, uz);
     }
 
-    /**
-     * The committed position of the eye, x.
-     *
-     * @return the coordinate
-     */
+    /** {@return the x coordinate of the committed position of the eye} */
     public float getPositionX() {
         return getPositionX(this);
     }
 
-    /**
-     * The committed position of the eye, y.
-     *
-     * @return the coordinate
-     */
+    /** {@return the y coordinate of the committed position of the eye} */
     public float getPositionY() {
         return getPositionY(this);
     }
 
-    /**
-     * The committed position of the eye, z.
-     *
-     * @return the coordinate
-     */
+    /** {@return the z coordinate of the committed position of the eye} */
     public float getPositionZ() {
         return getPositionZ(this);
     }
 
     /**
-     * The committed direction into the scene, x, at the length with which the eye was placed.
-     *
-     * @return the component
+     * {@return the x component of the committed viewing direction, which has the length that {@link #setPosition} gave
+     * it}
      */
     public float getLookAtDirectionX() {
         return getLookAtDirectionX(this);
     }
 
-    /**
-     * The committed direction into the scene, y.
-     *
-     * @return the component
-     */
+    /** {@return the y component of the committed viewing direction} */
     public float getLookAtDirectionY() {
         return getLookAtDirectionY(this);
     }
 
-    /**
-     * The committed direction into the scene, z.
-     *
-     * @return the component
-     */
+    /** {@return the z component of the committed viewing direction} */
     public float getLookAtDirectionZ() {
         return getLookAtDirectionZ(this);
     }
 
     /**
-     * The committed up direction of the picture, x: of length 1 and at right angles to the direction into the scene.
-     *
-     * @return the component
+     * {@return the x component of the committed up direction of the picture, which has length 1 and is perpendicular to
+     * the viewing direction}
      */
     public float getUpDirectionX() {
         return getUpDirectionX(this);
     }
 
-    /**
-     * The committed up direction of the picture, y.
-     *
-     * @return the component
-     */
+    /** {@return the y component of the committed up direction of the picture} */
     public float getUpDirectionY() {
         return getUpDirectionY(this);
     }
 
-    /**
-     * The committed up direction of the picture, z.
-     *
-     * @return the component
-     */
+    /** {@return the z component of the committed up direction of the picture} */
     public float getUpDirectionZ() {
         return getUpDirectionZ(this);
     }
 
     /**
-     * Sets the point that the scene turns about and that the eye moves towards.
+     * Sets the point about which the scene turns and towards which the eye moves.
      *
      * @param x the point in the world, x; not stretched by the axis scales
      * @param y the point, y
@@ -167,29 +133,17 @@ public final class Camera3d extends NativePeer {
         setRotationPoint(this, x, y, z);
     }
 
-    /**
-     * The point that the scene turns about, x.
-     *
-     * @return the coordinate in the world
-     */
+    /** {@return the x coordinate of the point in the world about which the scene turns} */
     public float getRotationPointX() {
         return getRotationPointX(this);
     }
 
-    /**
-     * The point that the scene turns about, y.
-     *
-     * @return the coordinate in the world
-     */
+    /** {@return the y coordinate of the point in the world about which the scene turns} */
     public float getRotationPointY() {
         return getRotationPointY(this);
     }
 
-    /**
-     * The point that the scene turns about, z.
-     *
-     * @return the coordinate in the world
-     */
+    /** {@return the z coordinate of the point in the world about which the scene turns} */
     public float getRotationPointZ() {
         return getRotationPointZ(this);
     }
@@ -197,17 +151,15 @@ public final class Camera3d extends NativePeer {
     /**
      * Sets the angle of view of the perspective projection, in both directions.
      *
-     * @param degrees the angle between the middle and the border of the picture, above 0 and below 90
+     * @param degrees the angle between the centre and the border of the picture, above 0 and below 90
      */
     public void setFieldOfView(float degrees) {
         setFieldOfView(this, degrees);
     }
 
     /**
-     * The angle of view that decides how large the perspective picture is.
-     *
-     * @return the angle between the middle and the border of the picture in degrees; 0 under a resize behaviour by which
-     *     no angle decides it, {@link ResizeBehaviour#PIXELS} or {@link ResizeBehaviour#KEEP}
+     * {@return the angle in degrees between the centre and the border of the perspective picture; 0 under a resize
+     * behaviour that uses no angle, {@link ResizeBehaviour#PIXELS} or {@link ResizeBehaviour#KEEP}}
      */
     public float getFieldOfView() {
         return getFieldOfView(this);
@@ -223,28 +175,23 @@ public final class Camera3d extends NativePeer {
     }
 
     /**
-     * The extent that decides how large the orthographic picture is.
-     *
-     * @return the extent from border to border; the geometric mean of width and height where neither decides
+     * {@return the extent of the orthographic picture from border to border; the geometric mean of width and height
+     * where neither of them decides}
      */
     public float getOrthographicSize() {
         return getOrthographicSize(this);
     }
 
     /**
-     * Sets how many pixels a unit at the near clipping plane covers under {@link ResizeBehaviour#PIXELS}.
+     * Sets the number of pixels per unit at the near clipping plane under {@link ResizeBehaviour#PIXELS}.
      *
-     * @param scale pixels a unit, above 0
+     * @param scale pixels per unit, above 0
      */
     public void setViewingScale(float scale) {
         setViewingScale(this, scale);
     }
 
-    /**
-     * How many pixels a unit at the near clipping plane covers under {@link ResizeBehaviour#PIXELS}.
-     *
-     * @return pixels a unit
-     */
+    /** {@return the number of pixels per unit at the near clipping plane under {@link ResizeBehaviour#PIXELS}} */
     public float getViewingScale() {
         return getViewingScale(this);
     }
@@ -259,27 +206,19 @@ public final class Camera3d extends NativePeer {
         setRelativeViewOffset(this, x, y);
     }
 
-    /**
-     * How far the displayed picture is moved to the right.
-     *
-     * @return a fraction of the width
-     */
+    /** {@return how far the displayed picture is shifted to the right, as a fraction of its width} */
     public float getRelativeViewOffsetX() {
         return getRelativeViewOffsetX(this);
     }
 
-    /**
-     * How far the displayed picture is moved upwards.
-     *
-     * @return a fraction of the height
-     */
+    /** {@return how far the displayed picture is shifted upwards, as a fraction of its height} */
     public float getRelativeViewOffsetY() {
         return getRelativeViewOffsetY(this);
     }
 
     /**
-     * Changes the projection. Angle, extent and pixel scale change with it, so that what lies at the rotation point keeps
-     * its size on the screen.
+     * Changes the projection. Angle, extent and pixel scale change as well, so that things at the rotation point keep
+     * their size on the screen.
      *
      * @param type the projection
      * @throws NullPointerException if the type is null
@@ -288,20 +227,16 @@ public final class Camera3d extends NativePeer {
         setProjectionType(this, Objects.requireNonNull(type, "type").number());
     }
 
-    /**
-     * The projection.
-     *
-     * @return the projection
-     */
+    /** {@return the projection} */
     public ProjectionType getProjectionType() {
-        return ProjectionType.values()[getProjectionType(this)];
+        return NativeEnum.of(ProjectionType.class, getProjectionType(this));
     }
 
     /**
-     * Magnifies the picture about its centre and commits whatever is displayed. Magnification ends, without an error,
-     * where the view is tiny against the range between the clipping planes.
+     * Magnifies the picture about its centre and commits what is displayed. Magnification ends, without an error, where
+     * the view is tiny compared to the range between the clipping planes.
      *
-     * @param factor how much larger things become, above 0; below 1 they become smaller
+     * @param factor the factor by which things become larger, above 0; below 1 they become smaller
      */
     public void zoomCenter(float factor) {
         zoomCenter(this, factor);
@@ -318,46 +253,37 @@ public final class Camera3d extends NativePeer {
         setAxisViewScales(this, x, y, z);
     }
 
-    /** Stretches the axes so that the box of the scene becomes a cube; once, not whenever the scene changes. */
+    /**
+     * Stretches the axes so that the box of the scene becomes a cube. The scales do not follow later changes of the
+     * scene.
+     */
     public void setAxisViewScalesAuto() {
         setAxisViewScalesAuto(this);
     }
 
-    /** Takes the stretch of the axes back. */
+    /** Resets the stretch of the axes to 1. */
     public void resetAxisViewScales() {
         resetAxisViewScales(this);
     }
 
-    /**
-     * How much the x axis is stretched.
-     *
-     * @return the scale, 1 at the start
-     */
+    /** {@return the factor by which the x axis is stretched, initially 1} */
     public float getAxisViewScaleX() {
         return getAxisViewScaleX(this);
     }
 
-    /**
-     * How much the y axis is stretched.
-     *
-     * @return the scale, 1 at the start
-     */
+    /** {@return the factor by which the y axis is stretched, initially 1} */
     public float getAxisViewScaleY() {
         return getAxisViewScaleY(this);
     }
 
-    /**
-     * How much the z axis is stretched.
-     *
-     * @return the scale, 1 at the start
-     */
+    /** {@return the factor by which the z axis is stretched, initially 1} */
     public float getAxisViewScaleZ() {
         return getAxisViewScaleZ(this);
     }
 
     /**
-     * Makes the camera follow a resize behaviour of its own, or the one of {@link Canvas3dGlobalSettings}. The picture
-     * follows when it is computed next, at the latest when the canvas is drawn in another size.
+     * Sets whether the camera uses a resize behaviour of its own or that of {@link Canvas3dGlobalSettings}. The change
+     * takes effect when the view is computed next, at the latest when the canvas is drawn in another size.
      *
      * @param override true for its own behaviour
      * @param behaviour its own behaviour

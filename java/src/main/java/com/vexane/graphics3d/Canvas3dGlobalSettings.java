@@ -4,16 +4,16 @@ import com.vexane.base.NativeLibrary;
 import java.util.Objects;
 
 /**
- * What holds for all canvases of the process: rendering quality, picking, how the mouse drives the cameras, the fonts
- * that new canvases and scenes start with, and the precision of numbers.
+ * What applies to all canvases of the process: rendering quality, picking, how the mouse moves the cameras, the initial
+ * fonts of canvases and scenes, and the precision of numbers.
  *
- * <p>Values are stored as they come, without a check of their range, and last until the process ends. A renderer sees
- * them when it draws next. Like peers, the settings are not synchronised. The colours of marked parts are in
- * {@link MarkingSetups}.
+ * <p>The range of values is not checked. Values last until the process ends; a renderer reads them when it draws next.
+ * The settings are not synchronised: all calls, of all scenes, must come from one thread at a time. The colours of
+ * marked parts are in {@link MarkingSetups}.
  */
 public final class Canvas3dGlobalSettings {
     /** How much a renderer spends on a picture. */
-    public enum RenderQuality {
+    public enum RenderQuality implements NativeEnum {
         /** As little as it can. */
         FAST(0),
         /** Good enough to work with. */
@@ -27,21 +27,17 @@ public final class Canvas3dGlobalSettings {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the quality.
-         *
-         * @return 0 to 2
-         */
+        @Override
         public int number() {
             return number;
         }
     }
 
     /** What fills the canvas when a 3D camera zooms to the extent of a box. */
-    public enum ZoomToExtentBehaviour {
-        /** The box itself, but for the margin. */
+    public enum ZoomToExtentBehaviour implements NativeEnum {
+        /** The box itself, except for the margin. */
         TIGHT(0),
-        /** The sphere around the box, so that it stays visible however it is turned. */
+        /** The sphere around the box, so that the box stays visible when it is turned. */
         SPHERE(1);
 
         private final int number;
@@ -50,23 +46,19 @@ public final class Canvas3dGlobalSettings {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the behaviour.
-         *
-         * @return 0 or 1
-         */
+        @Override
         public int number() {
             return number;
         }
     }
 
     /** What dragging the mouse does to a camera. */
-    public enum CameraMouseAction {
+    public enum CameraMouseAction implements NativeEnum {
         /** Turns the scene about the rotation point. Only the default actions contain it. */
         ORBIT(0, -1),
         /** Turns the scene about the line of sight. */
         ORBIT_ROLL(1, 1),
-        /** Moves across the line to the rotation point. */
+        /** Moves perpendicular to the line to the rotation point. */
         SCENE_MOVE(2, 4),
         /** Moves along the line to the rotation point. */
         SCENE_DOLLY(3, 6),
@@ -86,6 +78,8 @@ public final class Canvas3dGlobalSettings {
         NONE(10, 10);
 
         private final int number;
+
+        /** The number to set the action with, which is another one than the number to read; -1 if it cannot be set. */
         private final int settable;
 
         CameraMouseAction(int number, int settable) {
@@ -93,26 +87,19 @@ public final class Canvas3dGlobalSettings {
             this.settable = settable;
         }
 
-        /**
-         * The number under which native code keeps the action, and a renderer reads it.
-         *
-         * @return 0 to 10
-         */
+        /** {@return the number that native code stores and returns; the native that sets an action takes another} */
+        @Override
         public int number() {
             return number;
         }
     }
 
-    /** How many mouse buttons the table of mouse actions has, counted from 1. */
+    /** The number of mouse buttons in the table of mouse actions; the first is button 1. */
     public static final int MOUSE_BUTTONS = 3;
 
     private Canvas3dGlobalSettings() {}
 
-    /**
-     * The resolution of the screen.
-     *
-     * @return dots per inch
-     */
+    /** {@return the resolution of the screen in dots per inch} */
     public static int getOnScreenResolution() {
         NativeLibrary.ensureLoaded();
         return nGetOnScreenResolution();
@@ -128,18 +115,14 @@ public final class Canvas3dGlobalSettings {
         nSetOnScreenResolution(dpi);
     }
 
-    /**
-     * Whether a renderer may keep display lists.
-     *
-     * @return true at the start
-     */
+    /** {@return whether a renderer may use display lists, initially true} */
     public static boolean isOpenGlDisplayListsUsed() {
         NativeLibrary.ensureLoaded();
         return nIsOpenGlDisplayListsUsed();
     }
 
     /**
-     * Sets whether a renderer may keep display lists.
+     * Sets whether a renderer may use display lists.
      *
      * @param use whether it may
      */
@@ -148,18 +131,14 @@ public final class Canvas3dGlobalSettings {
         nSetUseOpenGlDisplayLists(use);
     }
 
-    /**
-     * Whether a renderer may pick with a buffer of pixels.
-     *
-     * @return true at the start
-     */
+    /** {@return whether a renderer may use a pixel buffer for picking, initially true} */
     public static boolean isPBufferUsedForPicking() {
         NativeLibrary.ensureLoaded();
         return nIsPBufferUsedForPicking();
     }
 
     /**
-     * Sets whether a renderer may pick with a buffer of pixels.
+     * Sets whether a renderer may use a pixel buffer for picking.
      *
      * @param use whether it may
      */
@@ -168,18 +147,14 @@ public final class Canvas3dGlobalSettings {
         nSetUsePBufferForPicking(use);
     }
 
-    /**
-     * The number of samples a pixel.
-     *
-     * @return the number of samples, 0 for no antialiasing
-     */
+    /** {@return the number of samples per pixel, 0 for no antialiasing} */
     public static int getMultisampleSetting() {
         NativeLibrary.ensureLoaded();
         return nGetMultisampleSetting();
     }
 
     /**
-     * Sets the number of samples a pixel.
+     * Sets the number of samples per pixel.
      *
      * @param samples the number of samples, 0 for no antialiasing
      */
@@ -189,20 +164,16 @@ public final class Canvas3dGlobalSettings {
     }
 
     /**
-     * Sets whether a renderer may use shaders. It may not at the start.
+     * Sets whether a renderer may use shaders.
      *
-     * @param use whether it may
+     * @param use whether it may, initially false
      */
     public static void setUseShaders(boolean use) {
         NativeLibrary.ensureLoaded();
         nSetUseShaders(use);
     }
 
-    /**
-     * Whether edges are smoothed: whether the number of samples a pixel is above 0.
-     *
-     * @return true if edges are smoothed
-     */
+    /** {@return whether edges are smoothed, that is, whether the number of samples per pixel is above 0} */
     public static boolean isAntiAliasing() {
         NativeLibrary.ensureLoaded();
         return nIsAntiAliasing();
@@ -210,7 +181,7 @@ public final class Canvas3dGlobalSettings {
 
     /**
      * Switches the smoothing of edges on, with the first number of samples that the renderer offers, or off. It stays
-     * off while there is no renderer or if it offers none.
+     * off if there is no renderer or the renderer offers none.
      *
      * @param on true to smooth edges
      */
@@ -219,18 +190,14 @@ public final class Canvas3dGlobalSettings {
         nSetAntiAliasing(on);
     }
 
-    /**
-     * How far from the pointer a part may lie and still be picked.
-     *
-     * @return the distance in pixels
-     */
+    /** {@return how far from the pointer a part may be and still be picked, in pixels} */
     public static int getPickingTolerance() {
         NativeLibrary.ensureLoaded();
         return nGetPickingTolerance();
     }
 
     /**
-     * Sets how far from the pointer a part may lie and still be picked.
+     * Sets how far from the pointer a part may be and still be picked.
      *
      * @param pixels the distance in pixels
      */
@@ -239,18 +206,14 @@ public final class Canvas3dGlobalSettings {
         nSetPickingTolerance(pixels);
     }
 
-    /**
-     * How cameras adapt to a canvas of another shape, unless they have a behaviour of their own.
-     *
-     * @return the behaviour
-     */
+    /** {@return how cameras without a behaviour of their own adapt to a canvas of another shape} */
     public static ResizeBehaviour getResizeBehaviour() {
         NativeLibrary.ensureLoaded();
-        return ResizeBehaviour.of(nGetResizeBehaviour());
+        return NativeEnum.of(ResizeBehaviour.class, nGetResizeBehaviour());
     }
 
     /**
-     * Sets how cameras adapt to a canvas of another shape.
+     * Sets how cameras without a behaviour of their own adapt to a canvas of another shape.
      *
      * @param behaviour the behaviour
      * @throws NullPointerException if the behaviour is null
@@ -260,14 +223,10 @@ public final class Canvas3dGlobalSettings {
         nSetResizeBehaviour(behaviour.number());
     }
 
-    /**
-     * What fills the canvas when a 3D camera zooms to the extent of a box.
-     *
-     * @return the behaviour
-     */
+    /** {@return what fills the canvas when a 3D camera zooms to the extent of a box} */
     public static ZoomToExtentBehaviour getZoomToExtentBehaviour() {
         NativeLibrary.ensureLoaded();
-        return ZoomToExtentBehaviour.values()[nGetZoomToExtentBehaviour()];
+        return NativeEnum.of(ZoomToExtentBehaviour.class, nGetZoomToExtentBehaviour());
     }
 
     /**
@@ -281,11 +240,7 @@ public final class Canvas3dGlobalSettings {
         nSetZoomToExtentBehaviour(behaviour.number());
     }
 
-    /**
-     * The margin around the scene after a zoom to its extent.
-     *
-     * @return the margin as a fraction of the extent
-     */
+    /** {@return the margin around the scene after a zoom to its extent, as a fraction of the extent} */
     public static float getZoomToExtentMargin() {
         NativeLibrary.ensureLoaded();
         return nGetZoomToExtentMargin();
@@ -301,11 +256,7 @@ public final class Canvas3dGlobalSettings {
         nSetZoomToExtentMargin(margin);
     }
 
-    /**
-     * How fast dragging turns.
-     *
-     * @return radians a pixel
-     */
+    /** {@return how fast dragging turns, in radians per pixel} */
     public static float getCameraMouseOrbitSpeed() {
         NativeLibrary.ensureLoaded();
         return nGetCameraMouseOrbitSpeed();
@@ -314,18 +265,14 @@ public final class Canvas3dGlobalSettings {
     /**
      * Sets how fast dragging turns.
      *
-     * @param speed radians a pixel
+     * @param speed radians per pixel
      */
     public static void setCameraMouseOrbitSpeed(float speed) {
         NativeLibrary.ensureLoaded();
         nSetCameraMouseOrbitSpeed(speed);
     }
 
-    /**
-     * How fast dragging moves.
-     *
-     * @return fractions of the size of the scene a pixel
-     */
+    /** {@return how fast dragging moves, in fractions of the size of the scene per pixel} */
     public static float getCameraMouseDollySpeed() {
         NativeLibrary.ensureLoaded();
         return nGetCameraMouseDollySpeed();
@@ -334,18 +281,14 @@ public final class Canvas3dGlobalSettings {
     /**
      * Sets how fast dragging moves.
      *
-     * @param speed fractions of the size of the scene a pixel
+     * @param speed fractions of the size of the scene per pixel
      */
     public static void setCameraMouseDollySpeed(float speed) {
         NativeLibrary.ensureLoaded();
         nSetCameraMouseDollySpeed(speed);
     }
 
-    /**
-     * How fast dragging zooms.
-     *
-     * @return pixels for one step of the zoom
-     */
+    /** {@return how fast dragging zooms, in pixels per step of the zoom} */
     public static float getCameraMouseZoomSpeed() {
         NativeLibrary.ensureLoaded();
         return nGetCameraMouseZoomSpeed();
@@ -354,7 +297,7 @@ public final class Canvas3dGlobalSettings {
     /**
      * Sets how fast dragging zooms.
      *
-     * @param speed pixels for one step of the zoom
+     * @param speed pixels per step of the zoom
      */
     public static void setCameraMouseZoomSpeed(float speed) {
         NativeLibrary.ensureLoaded();
@@ -362,22 +305,22 @@ public final class Canvas3dGlobalSettings {
     }
 
     /**
-     * What dragging with a button does while keys are held down.
+     * {@return what dragging with a button does while keys are held down; {@link CameraMouseAction#NONE} for a button
+     * that is not in the table}
      *
      * @param button 1 to {@value #MOUSE_BUTTONS}
-     * @param keyMask the set of keys, of which the low three bits count
-     * @return the action; {@link CameraMouseAction#NONE} for a button that the table does not have
+     * @param keyMask the set of keys: 1 for Shift, 2 for Control, 4 for Alt; higher bits are ignored
      */
     public static CameraMouseAction getCameraMouseAction(int button, int keyMask) {
         NativeLibrary.ensureLoaded();
-        return CameraMouseAction.values()[nGetCameraMouseAction(button, keyMask)];
+        return NativeEnum.of(CameraMouseAction.class, nGetCameraMouseAction(button, keyMask));
     }
 
     /**
-     * Sets what dragging with a button does while keys are held down. Buttons that the table does not have are ignored.
+     * Sets what dragging with a button does while keys are held down. Buttons that are not in the table are ignored.
      *
      * @param button 1 to {@value #MOUSE_BUTTONS}
-     * @param keyMask the set of keys, of which the low three bits count
+     * @param keyMask the set of keys: 1 for Shift, 2 for Control, 4 for Alt; higher bits are ignored
      * @param action the action
      * @throws IllegalArgumentException if the action is {@link CameraMouseAction#ORBIT}
      * @throws NullPointerException if the action is null
@@ -390,34 +333,26 @@ public final class Canvas3dGlobalSettings {
         nSetCameraMouseAction(button, keyMask, action.settable);
     }
 
-    /**
-     * Takes the actions of all buttons away, as at the start.
-     */
+    /** Removes the actions of all buttons, which restores the initial table. */
     public static void resetCameraMouseActions() {
         NativeLibrary.ensureLoaded();
         nResetCameraMouseActions();
     }
 
-    /**
-     * Gives the buttons their usual actions: the first turns, the second zooms, the third moves.
-     */
+    /** Gives the buttons their usual actions: the first turns, the second zooms, the third pans. */
     public static void setDefaultCameraMouseActions() {
         NativeLibrary.ensureLoaded();
         nSetDefaultCameraMouseActions();
     }
 
-    /**
-     * How much is spent on pictures on the screen.
-     *
-     * @return the quality
-     */
+    /** {@return the quality of pictures on the screen} */
     public static RenderQuality getOnScreenRenderQuality() {
         NativeLibrary.ensureLoaded();
-        return RenderQuality.values()[nGetOnScreenRenderQuality()];
+        return NativeEnum.of(RenderQuality.class, nGetOnScreenRenderQuality());
     }
 
     /**
-     * Sets how much is spent on pictures on the screen.
+     * Sets the quality of pictures on the screen.
      *
      * @param quality the quality
      * @throws NullPointerException if the quality is null
@@ -427,18 +362,14 @@ public final class Canvas3dGlobalSettings {
         nSetOnScreenRenderQuality(quality.number());
     }
 
-    /**
-     * How much is spent on pictures made for files and printers.
-     *
-     * @return the quality
-     */
+    /** {@return the quality of pictures for files and printers} */
     public static RenderQuality getOffScreenRenderQuality() {
         NativeLibrary.ensureLoaded();
-        return RenderQuality.values()[nGetOffScreenRenderQuality()];
+        return NativeEnum.of(RenderQuality.class, nGetOffScreenRenderQuality());
     }
 
     /**
-     * Sets how much is spent on pictures made for files and printers.
+     * Sets the quality of pictures for files and printers.
      *
      * @param quality the quality
      * @throws NullPointerException if the quality is null
@@ -449,10 +380,9 @@ public final class Canvas3dGlobalSettings {
     }
 
     /**
-     * The name of the font that new canvases and scenes take for a kind of text.
+     * {@return the name of the font that new canvases and scenes use for a kind of text, initially &quot;default&quot;}
      *
      * @param item the kind of text
-     * @return the name, &quot;default&quot; at the start
      * @throws NullPointerException if the item is null
      */
     public static String getFontName(TextItem item) {
@@ -461,10 +391,9 @@ public final class Canvas3dGlobalSettings {
     }
 
     /**
-     * The size of the font that new canvases and scenes take for a kind of text.
+     * {@return the size in points of the font that new canvases and scenes use for a kind of text, initially 12}
      *
      * @param item the kind of text
-     * @return the size in points, 12 at the start
      * @throws NullPointerException if the item is null
      */
     public static int getFontSize(TextItem item) {
@@ -473,7 +402,7 @@ public final class Canvas3dGlobalSettings {
     }
 
     /**
-     * Sets the font that new canvases and scenes take for a kind of text.
+     * Sets the font that new canvases and scenes use for a kind of text.
      *
      * @param item the kind of text
      * @param name the name of the font
@@ -485,18 +414,14 @@ public final class Canvas3dGlobalSettings {
         nSetFont(item.number(), Objects.requireNonNull(name, "name"), size);
     }
 
-    /**
-     * The precision of the numbers beside legends.
-     *
-     * @return the number of significant digits
-     */
+    /** {@return the number of significant digits of the numbers next to legends} */
     public static int getLegendTickPrecision() {
         NativeLibrary.ensureLoaded();
         return nGetLegendTickPrecision();
     }
 
     /**
-     * Sets the precision of the numbers beside legends.
+     * Sets the precision of the numbers next to legends.
      *
      * @param digits the number of significant digits
      */
@@ -505,18 +430,14 @@ public final class Canvas3dGlobalSettings {
         nSetLegendTickPrecision(digits);
     }
 
-    /**
-     * The precision of the extremes in legends.
-     *
-     * @return the number of significant digits
-     */
+    /** {@return the number of significant digits of the smallest and the largest value in legends} */
     public static int getLegendMinMaxPrecision() {
         NativeLibrary.ensureLoaded();
         return nGetLegendMinMaxPrecision();
     }
 
     /**
-     * Sets the precision of the extremes in legends.
+     * Sets the precision of the smallest and the largest value in legends.
      *
      * @param digits the number of significant digits
      */
@@ -525,11 +446,7 @@ public final class Canvas3dGlobalSettings {
         nSetLegendMinMaxPrecision(digits);
     }
 
-    /**
-     * The precision of the numbers along axes in 2D.
-     *
-     * @return the number of significant digits
-     */
+    /** {@return the number of significant digits of the numbers along axes in 2D} */
     public static int getGridbox2dTickPrecision() {
         NativeLibrary.ensureLoaded();
         return nGetGridbox2dTickPrecision();
@@ -545,11 +462,7 @@ public final class Canvas3dGlobalSettings {
         nSetGridbox2dTickPrecision(digits);
     }
 
-    /**
-     * The precision of the numbers along axes in 3D.
-     *
-     * @return the number of significant digits
-     */
+    /** {@return the number of significant digits of the numbers along axes in 3D} */
     public static int getGridbox3dTickPrecision() {
         NativeLibrary.ensureLoaded();
         return nGetGridbox3dTickPrecision();

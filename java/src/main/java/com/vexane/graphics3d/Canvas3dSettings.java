@@ -8,13 +8,14 @@ import java.util.Objects;
  * What belongs to one view: whether it shows the 3D or the 2D mode, a camera for each, backgrounds, grid box, axes,
  * fonts, and what the mouse does.
  *
- * <p>A view of a renderer has settings to {@linkplain #connect connect} to. Settings made here belong to no view. The
- * parts of the settings have peers of their own: {@link Camera3d}, {@link Camera2d}, {@link GridBoxSettings} and
- * {@link AxisSetup}; they may outlive the settings and the view. All calls but the copying take constant time.
+ * <p>The settings of a view belong to its renderer and are reached by {@link #connect}; settings made by the
+ * constructor belong to no view. The parts of the settings have peers of their own: {@link Camera3d},
+ * {@link Camera2d}, {@link GridBoxSettings} and {@link AxisSetup}; they may outlive the settings and the view. All
+ * calls except {@link #copyOf} take constant time.
  */
 public final class Canvas3dSettings extends NativePeer {
     /** What a view shows. */
-    public enum RenderMode {
+    public enum RenderMode implements NativeEnum {
         /** The scene in space, through the 3D camera. */
         VIEW_3D(0),
         /** The scene in a plane, through the 2D camera. */
@@ -26,25 +27,53 @@ public final class Canvas3dSettings extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the mode.
-         *
-         * @return 0 to 1
-         */
+        @Override
+        public int number() {
+            return number;
+        }
+    }
+
+    /**
+     * What the mouse does in a view. Constants named {@code RENDERER_n} have the number n and the meaning that the
+     * renderer gives them.
+     */
+    public enum MouseMode implements NativeEnum {
+        /** The renderer's mode 0. */
+        RENDERER_0(0),
+        /** The initial mode. */
+        DEFAULT(1),
+        /** The renderer's mode 2. */
+        RENDERER_2(2),
+        /** The renderer's mode 3. */
+        RENDERER_3(3),
+        /** The renderer's mode 4. */
+        RENDERER_4(4),
+        /** The renderer's mode 5. */
+        RENDERER_5(5),
+        /** The renderer's mode 6. */
+        RENDERER_6(6);
+
+        private final int number;
+
+        MouseMode(int number) {
+            this.number = number;
+        }
+
+        @Override
         public int number() {
             return number;
         }
     }
 
     /** The kinds of text that belong to a view, each with a font of its own. */
-    public enum Text {
+    public enum Text implements NativeEnum {
         /** Titles of axes. */
         AXIS_TITLE(0),
         /** Numbers along axes and grid boxes. */
         AXIS_TICK(1),
         /** Titles of legends, and names in line legends. */
         LEGEND_TITLE(2),
-        /** Numbers beside legends. */
+        /** Numbers next to legends. */
         LEGEND_TICK(3),
         /** Letters of the axis orientation indicator. */
         AXIS_ORIENTATION(4);
@@ -55,18 +84,14 @@ public final class Canvas3dSettings extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the kind of text.
-         *
-         * @return 0 to 4
-         */
+        @Override
         public int number() {
             return number;
         }
     }
 
-    /** Where the image of a background stands between left and right. */
-    public enum HorizontalPosition {
+    /** Where the image of a background is between left and right. */
+    public enum HorizontalPosition implements NativeEnum {
         /** At the left. */
         LEFT(0),
         /** In the middle. */
@@ -80,18 +105,14 @@ public final class Canvas3dSettings extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the position.
-         *
-         * @return 0 to 2
-         */
+        @Override
         public int number() {
             return number;
         }
     }
 
-    /** Where the image of a background stands between top and bottom. */
-    public enum VerticalPosition {
+    /** Where the image of a background is between top and bottom. */
+    public enum VerticalPosition implements NativeEnum {
         /** At the top. */
         TOP(0),
         /** In the middle. */
@@ -105,18 +126,14 @@ public final class Canvas3dSettings extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the position.
-         *
-         * @return 0 to 2
-         */
+        @Override
         public int number() {
             return number;
         }
     }
 
     /**
-     * Makes settings that belong to no view: the 3D mode with new cameras on black, with the fonts that the
+     * Makes settings that belong to no view: 3D mode, new cameras, a black background, and the fonts that the
      * {@linkplain Canvas3dGlobalSettings settings of the process} have now.
      */
     public Canvas3dSettings() {
@@ -138,15 +155,14 @@ public final class Canvas3dSettings extends NativePeer {
      * @return the peer
      * @throws NullPointerException if the view's peer is null
      * @throws IllegalStateException if the view's peer is closed
-     * @throws NativeException if the peer is no view of a renderer, or the view has no settings
+     * @throws NativeException if the peer is not a view of a renderer, or the view has no settings
      */
     public static Canvas3dSettings connect(NativePeer renderer) {
         return new Canvas3dSettings(renderer);
     }
 
     /**
-     * Makes settings with the values of others, and with cameras, grid box, axes and indicator of their own. Only the
-     * images of backgrounds are shared.
+     * Copies settings, including cameras, grid box, axes and indicator. Only the images of backgrounds are shared.
      *
      * @param source the settings to copy
      * @return the copy, which belongs to no view
@@ -158,17 +174,12 @@ public final class Canvas3dSettings extends NativePeer {
     }
 
     /**
-     * What the view shows.
+     * {@return what the view shows, initially {@link RenderMode#VIEW_3D}}
      *
-     * @return the mode, {@link RenderMode#VIEW_3D} at the start
-     * @throws IllegalStateException if the renderer has set a mode that has no name here
+     * @throws IllegalStateException if the renderer has set a mode that has no constant here
      */
     public RenderMode getRenderMode() {
-        int number = getRenderMode(this);
-        if (number < 0) {
-            throw new IllegalStateException("The view is in a mode without a name.");
-        }
-        return RenderMode.values()[number];
+        return NativeEnum.of(RenderMode.class, getRenderMode(this));
     }
 
     /**
@@ -182,18 +193,17 @@ public final class Canvas3dSettings extends NativePeer {
     }
 
     /**
-     * Which kinds of item the renderer draws.
-     *
-     * @return a bit for each kind, among bits 0 to 20 and 25; all of them at the start
+     * {@return which kinds of item the renderer draws: one bit per kind, among bits 0 to 20 and 25; initially all of
+     * them}
      */
     public int getRenderMask() {
         return getRenderMask(this);
     }
 
     /**
-     * Sets which kinds of item the renderer draws.
+     * Sets which kinds of item the renderer draws. What the bits mean is the renderer's choice.
      *
-     * @param mask a bit for each kind; bits beyond 0 to 20 and 25 are ignored
+     * @param mask one bit per kind; bits other than 0 to 20 and 25 are ignored
      */
     public void setRenderMask(int mask) {
         setRenderMask(this, mask);
@@ -202,7 +212,7 @@ public final class Canvas3dSettings extends NativePeer {
     /**
      * Makes the renderer draw more kinds of item.
      *
-     * @param mask a bit for each further kind; bits beyond 0 to 20 and 25 are ignored
+     * @param mask one bit per additional kind; bits other than 0 to 20 and 25 are ignored
      */
     public void addRenderMask(int mask) {
         addRenderMask(this, mask);
@@ -211,35 +221,28 @@ public final class Canvas3dSettings extends NativePeer {
     /**
      * Makes the renderer draw fewer kinds of item.
      *
-     * @param mask a bit for each kind to leave out; bits beyond 0 to 20 and 25 are ignored
+     * @param mask one bit per kind to leave out; bits other than 0 to 20 and 25 are ignored
      */
     public void removeRenderMask(int mask) {
         removeRenderMask(this, mask);
     }
 
-    /**
-     * What the mouse does in the view.
-     *
-     * @return 0 to 6, 1 at the start; what the numbers mean is the view's
-     */
-    public int getMouseMode() {
-        return getMouseMode(this);
+    /** {@return what the mouse does in the view, initially {@link MouseMode#DEFAULT}} */
+    public MouseMode getMouseMode() {
+        return NativeEnum.of(MouseMode.class, getMouseMode(this));
     }
 
     /**
      * Sets what the mouse does in the view.
      *
-     * @param mode 0 to 6; anything else is reported in the log and becomes 0
+     * @param mode the mode
+     * @throws NullPointerException if the mode is null
      */
-    public void setMouseMode(int mode) {
-        setMouseMode(this, mode);
+    public void setMouseMode(MouseMode mode) {
+        setMouseMode(this, mode.number());
     }
 
-    /**
-     * Whether the pointer snaps to vertices.
-     *
-     * @return true at the start
-     */
+    /** {@return whether the pointer snaps to vertices, initially true} */
     public boolean getSnap() {
         return getSnap(this);
     }
@@ -254,10 +257,9 @@ public final class Canvas3dSettings extends NativePeer {
     }
 
     /**
-     * The name of the font of a kind of text.
+     * {@return the name of the font of a kind of text}
      *
      * @param text the kind of text
-     * @return the name
      * @throws NullPointerException if the kind is null
      */
     public String getFontName(Text text) {
@@ -265,10 +267,9 @@ public final class Canvas3dSettings extends NativePeer {
     }
 
     /**
-     * The size of the font of a kind of text.
+     * {@return the size in points of the font of a kind of text, -1 if none has been set}
      *
      * @param text the kind of text
-     * @return the size in points; -1 if none has been set
      * @throws NullPointerException if the kind is null
      */
     public int getFontSize(Text text) {
@@ -299,7 +300,7 @@ public final class Canvas3dSettings extends NativePeer {
     }
 
     /**
-     * Sets the background of a mode to two colours that run into each other. Two equal colours are one colour.
+     * Sets the background of a mode to a gradient of two colours. Two equal colours are one plain colour.
      *
      * @param mode the mode
      * @param topColor 0xRRGGBB; higher bits are ignored
@@ -311,10 +312,9 @@ public final class Canvas3dSettings extends NativePeer {
     }
 
     /**
-     * Whether the background of a mode has two colours.
+     * {@return whether the background of a mode has two colours, initially false}
      *
      * @param mode the mode
-     * @return false at the start
      * @throws NullPointerException if the mode is null
      */
     public boolean isBackgroundShaded(RenderMode mode) {
@@ -322,10 +322,9 @@ public final class Canvas3dSettings extends NativePeer {
     }
 
     /**
-     * The colour at the top of the background of a mode.
+     * {@return the colour at the top of the background of a mode as 0xRRGGBB, initially black}
      *
      * @param mode the mode
-     * @return 0xRRGGBB, black at the start
      * @throws NullPointerException if the mode is null
      */
     public int getTopBackgroundColor(RenderMode mode) {
@@ -333,10 +332,9 @@ public final class Canvas3dSettings extends NativePeer {
     }
 
     /**
-     * The colour at the bottom of the background of a mode.
+     * {@return the colour at the bottom of the background of a mode as 0xRRGGBB, initially black}
      *
      * @param mode the mode
-     * @return 0xRRGGBB, black at the start
      * @throws NullPointerException if the mode is null
      */
     public int getBottomBackgroundColor(RenderMode mode) {
@@ -344,12 +342,13 @@ public final class Canvas3dSettings extends NativePeer {
     }
 
     /**
-     * Sets the image on the background of a mode. The view shares the image and follows its changes.
+     * Sets the image on the background of a mode. The view holds a reference to the image and follows its
+     * changes.
      *
      * @param mode the mode
      * @param image the image, or null for none
-     * @param horizontal where it stands between left and right
-     * @param vertical where it stands between top and bottom
+     * @param horizontal where it is between left and right
+     * @param vertical where it is between top and bottom
      * @throws NullPointerException if the mode or a position is null
      * @throws IllegalStateException if the image is closed
      */
@@ -361,11 +360,7 @@ public final class Canvas3dSettings extends NativePeer {
         setBackgroundImage(this, mode.number(), image, horizontal.number(), vertical.number());
     }
 
-    /**
-     * Whether the axis orientation indicator is shown.
-     *
-     * @return false at the start
-     */
+    /** {@return whether the axis orientation indicator is shown, initially false} */
     public boolean isAxisOrientationIndicatorShown() {
         return isAxisOrientationIndicatorShown(this);
     }

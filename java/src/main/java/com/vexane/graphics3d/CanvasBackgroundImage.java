@@ -4,9 +4,9 @@ import com.vexane.base.NativePeer;
 import java.util.Objects;
 
 /**
- * A picture for the {@linkplain Canvas3dSettings#setBackgroundImage background} of views, kept as a chain of images of
- * falling size, from which a renderer takes the one that fits. Views that show the picture keep it when the peer is
- * closed.
+ * A picture for the {@linkplain Canvas3dSettings#setBackgroundImage background} of views, stored as a chain of images
+ * of decreasing size, from which a renderer takes the one that fits. Views that show the picture keep it when the peer
+ * is closed.
  */
 public final class CanvasBackgroundImage extends NativePeer {
     /** Makes a background image without a picture. */
@@ -22,8 +22,8 @@ public final class CanvasBackgroundImage extends NativePeer {
      * @param height the number of rows
      * @param scale a size factor for the renderer
      * @throws NullPointerException if the array is null
-     * @throws IllegalArgumentException if width or height is negative, or the array has not width times height pixels;
-     *     the present picture then stays
+     * @throws IllegalArgumentException if width or height is negative, or the array does not have width times height
+     *     pixels; the current picture then stays
      */
     public void setImage(int[] pixels, int width, int height, float scale) {
         Objects.requireNonNull(pixels, "pixels");
@@ -33,7 +33,7 @@ public final class CanvasBackgroundImage extends NativePeer {
         }
     }
 
-    /** Gives up the picture. Views that use it have no picture then. */
+    /** Removes the picture, also from the views that show it. */
     public void resetImage() {
         resetImage(this);
     }

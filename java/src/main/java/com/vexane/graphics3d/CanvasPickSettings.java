@@ -6,10 +6,10 @@ import java.util.EnumSet;
 import java.util.Objects;
 import java.util.Set;
 
-/** What a pick on a canvas looks for: one kind of target, and the kinds of geometry that may answer. */
+/** What a pick on a canvas looks for: one kind of target, and the kinds of geometry by which it can be picked. */
 public final class CanvasPickSettings extends NativePeer {
-    /** Kinds of thing that a pick can find. */
-    public enum Target {
+    /** The targets of a pick. */
+    public enum Target implements NativeEnum {
         /** Nothing. */
         NONE(0),
         /** Whole draw objects. */
@@ -22,7 +22,7 @@ public final class CanvasPickSettings extends NativePeer {
         LINE(4),
         /** Vertices of geometry. */
         POINT(5),
-        /** What a renderer answers itself. */
+        /** Targets that the renderer finds by itself. */
         OTHER(6);
 
         private final int number;
@@ -31,18 +31,14 @@ public final class CanvasPickSettings extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the target.
-         *
-         * @return 0 to 6
-         */
+        @Override
         public int number() {
             return number;
         }
     }
 
-    /** Kinds of geometry that may answer for a draw object; physics objects answer in any case. */
-    public enum Mask {
+    /** Kinds of geometry by which a draw object can be picked; the pick mask does not concern physics objects. */
+    public enum Mask implements NativeEnum {
         /** Faces. */
         SHEETS(1),
         /** Edges. */
@@ -50,19 +46,16 @@ public final class CanvasPickSettings extends NativePeer {
         /** Vertices. */
         POINTS(4);
 
-        private final int bit;
+        private final int number;
 
-        Mask(int bit) {
-            this.bit = bit;
+        Mask(int number) {
+            this.number = number;
         }
 
-        /**
-         * The bit by which native code knows the kind.
-         *
-         * @return 1, 2 or 4
-         */
-        public int bit() {
-            return bit;
+        /** {@return the bit of this kind in the pick mask} */
+        @Override
+        public int number() {
+            return number;
         }
     }
 
@@ -75,6 +68,8 @@ public final class CanvasPickSettings extends NativePeer {
      * Connects to the settings of a renderer's canvas.
      *
      * @param canvas the peer of the canvas
+     * @throws NullPointerException if the canvas is null
+     * @throws IllegalStateException if the peer is closed
      * @throws NativeException if the peer is not the canvas of a renderer
      */
     public CanvasPickSettings(NativePeer canvas) {
@@ -85,39 +80,33 @@ public final class CanvasPickSettings extends NativePeer {
      * Sets what a pick looks for.
      *
      * @param target the target
+     * @throws NullPointerException if the target is null
      */
     public void setPickTarget(Target target) {
         setPickTarget(this, target.number());
     }
 
-    /**
-     * What a pick looks for.
-     *
-     * @return the target
-     */
+    /** {@return what a pick looks for} */
     public Target getPickTarget() {
-        return Target.values()[getPickTarget(this)];
+        return NativeEnum.of(Target.class, getPickTarget(this));
     }
 
     /**
-     * Sets which kinds of geometry may answer for a draw object.
+     * Sets the kinds of geometry by which a draw object can be picked.
      *
-     * @param kinds the kinds; none means that no draw object answers
+     * @param kinds the kinds; with none, no draw object is picked
+     * @throws NullPointerException if the set is null
      */
     public void setPickMask(Set<Mask> kinds) {
-        setPickMask(this, Objects.requireNonNull(kinds, "kinds").stream().mapToInt(Mask::bit).sum());
+        setPickMask(this, Objects.requireNonNull(kinds, "kinds").stream().mapToInt(Mask::number).sum());
     }
 
-    /**
-     * Which kinds of geometry may answer for a draw object.
-     *
-     * @return the kinds
-     */
+    /** {@return the kinds of geometry by which a draw object can be picked} */
     public Set<Mask> getPickMask() {
         int bits = getPickMask(this);
         Set<Mask> kinds = EnumSet.noneOf(Mask.class);
         for (Mask kind : Mask.values()) {
-            if ((bits & kind.bit()) != 0) {
+            if ((bits & kind.number()) != 0) {
                 kinds.add(kind);
             }
         }

@@ -4,15 +4,15 @@ import com.vexane.base.NativeException;
 import com.vexane.base.NativePeer;
 
 /**
- * What a drawing context of the renderer turned out to be: sizes of its buffers, and how it smooths edges. The numbers
- * are those of the moment of each call.
+ * The properties of a drawing context of the renderer: the sizes of its buffers, and how it smooths edges. Every call
+ * reads the current value.
  */
 public final class ContextData extends NativePeer {
     /** How a renderer smooths edges. */
-    public enum AntialiasingType {
+    public enum AntialiasingType implements NativeEnum {
         /** Not at all. */
         NONE(0),
-        /** By several samples a pixel. */
+        /** By several samples per pixel. */
         FULL_SCREEN(1),
         /** By adding up several pictures. */
         ACCUMULATION_BUFFER(2);
@@ -23,11 +23,7 @@ public final class ContextData extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the type.
-         *
-         * @return 0 to 2
-         */
+        @Override
         public int number() {
             return number;
         }
@@ -42,7 +38,7 @@ public final class ContextData extends NativePeer {
      * @return the peer
      * @throws NullPointerException if the view's peer is null
      * @throws IllegalStateException if the view's peer is closed
-     * @throws NativeException if the peer is no view of a renderer, or the view has no context yet
+     * @throws NativeException if the peer is not a view of a renderer, or the view has no context yet
      */
     public static ContextData connect(NativePeer renderer) {
         ContextData data = new ContextData();
@@ -50,139 +46,79 @@ public final class ContextData extends NativePeer {
         return data;
     }
 
-    /**
-     * Bits a pixel for its colour.
-     *
-     * @return the number of bits
-     */
+    /** {@return the number of bits per pixel for colour} */
     public int getColorBits() {
         return getColorBits(this);
     }
 
-    /**
-     * Bits a pixel for red.
-     *
-     * @return the number of bits
-     */
+    /** {@return the number of bits per pixel for red} */
     public int getRedBits() {
         return getRedBits(this);
     }
 
-    /**
-     * Bits a pixel for green.
-     *
-     * @return the number of bits
-     */
+    /** {@return the number of bits per pixel for green} */
     public int getGreenBits() {
         return getGreenBits(this);
     }
 
-    /**
-     * Bits a pixel for blue.
-     *
-     * @return the number of bits
-     */
+    /** {@return the number of bits per pixel for blue} */
     public int getBlueBits() {
         return getBlueBits(this);
     }
 
-    /**
-     * Bits a pixel for opacity.
-     *
-     * @return the number of bits
-     */
+    /** {@return the number of bits per pixel for opacity} */
     public int getAlphaBits() {
         return getAlphaBits(this);
     }
 
-    /**
-     * Bits a pixel for depth.
-     *
-     * @return the number of bits
-     */
+    /** {@return the number of bits per pixel for depth} */
     public int getDepthBits() {
         return getDepthBits(this);
     }
 
-    /**
-     * Bits a pixel for stencils.
-     *
-     * @return the number of bits
-     */
+    /** {@return the number of bits per pixel for stencils} */
     public int getStencilBits() {
         return getStencilBits(this);
     }
 
-    /**
-     * Bits a pixel for red in the accumulation buffer.
-     *
-     * @return the number of bits
-     */
+    /** {@return the number of bits per pixel for red in the accumulation buffer} */
     public int getAccumBufferRedBits() {
         return getAccumBufferRedBits(this);
     }
 
-    /**
-     * Bits a pixel for green in the accumulation buffer.
-     *
-     * @return the number of bits
-     */
+    /** {@return the number of bits per pixel for green in the accumulation buffer} */
     public int getAccumBufferGreenBits() {
         return getAccumBufferGreenBits(this);
     }
 
-    /**
-     * Bits a pixel for blue in the accumulation buffer.
-     *
-     * @return the number of bits
-     */
+    /** {@return the number of bits per pixel for blue in the accumulation buffer} */
     public int getAccumBufferBlueBits() {
         return getAccumBufferBlueBits(this);
     }
 
-    /**
-     * Bits a pixel for opacity in the accumulation buffer.
-     *
-     * @return the number of bits
-     */
+    /** {@return the number of bits per pixel for opacity in the accumulation buffer} */
     public int getAccumBufferAlphaBits() {
         return getAccumBufferAlphaBits(this);
     }
 
-    /**
-     * Samples a pixel.
-     *
-     * @return the number of samples, 0 without multisampling
-     */
+    /** {@return the number of samples per pixel, 0 without multisampling} */
     public int getMultipleSamples() {
         return getMultipleSamples(this);
     }
 
-    /**
-     * Whether pictures are drawn out of sight and shown when they are complete.
-     *
-     * @return true if so
-     */
+    /** {@return whether pictures are drawn out of sight and shown when they are complete} */
     public boolean isDoubleBuffered() {
         return isDoubleBuffered(this);
     }
 
-    /**
-     * Whether a graphics processor draws.
-     *
-     * @return true if so, false if the main processor draws
-     */
+    /** {@return whether a graphics processor draws; false if the main processor does} */
     public boolean isHardwareAccelerated() {
         return isHardwareAccelerated(this);
     }
 
-    /**
-     * How edges are smoothed.
-     *
-     * @return the type; {@link AntialiasingType#NONE} also for one that is not known here
-     */
+    /** {@return how edges are smoothed; {@link AntialiasingType#NONE} also for a way without a constant here} */
     public AntialiasingType getAntialiasingType() {
-        return AntialiasingType.values()[getAntialiasingType(this)];
+        return NativeEnum.of(AntialiasingType.class, getAntialiasingType(this));
     }
 
     @Override

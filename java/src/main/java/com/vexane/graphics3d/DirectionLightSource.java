@@ -2,7 +2,7 @@ package com.vexane.graphics3d;
 
 import com.vexane.base.NativeException;
 
-/** Light that comes from one direction everywhere, as from the sun. */
+/** Light from one direction everywhere, as from the sun. */
 public final class DirectionLightSource extends LightSource {
     private DirectionLightSource() {}
 
@@ -22,11 +22,7 @@ public final class DirectionLightSource extends LightSource {
         return source;
     }
 
-    /**
-     * The direction that the light comes from.
-     *
-     * @return x, y and z, as they were set; (0, 0, 1) at the start
-     */
+    /** {@return the direction from which the light comes: x, y and z as they were set, initially (0, 0, 1)} */
     public float[] getFromDirection() {
         float[] direction = new float[3];
         getFromDirection(this, direction);
@@ -34,10 +30,10 @@ public final class DirectionLightSource extends LightSource {
     }
 
     /**
-     * Sets the direction that the light comes from.
+     * Sets the direction from which the light comes.
      *
-     * @param world true if the direction is in world coordinates; false if it is in those of the camera, with which
-     *     the light then moves
+     * @param world true if the direction is in world coordinates; false if it is in those of the camera, with which the
+     *     light then moves
      * @param x the first component
      * @param y the second component
      * @param z the third component; the three need not have length 1

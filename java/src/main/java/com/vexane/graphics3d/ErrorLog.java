@@ -4,14 +4,14 @@ import com.vexane.base.NativeLibrary;
 import java.nio.file.Path;
 
 /**
- * The log of the native library: one line a message, silent until a level is set.
+ * The log of the native library: one line per message, silent until a level is set.
  *
- * <p>A line holds, with tabs between them, the level's name, the module, the message, and source file and line. The
- * log belongs to the process and goes to standard error until a file is given.
+ * <p>A line has the name of the level, the module, the message, and source file and line, separated by tabs. The log
+ * belongs to the process and goes to standard error until a file is set.
  */
 public final class ErrorLog {
-    /** How much is written: the level named and all above it. */
-    public enum Level {
+    /** The levels of messages. The log writes those of its level and of all levels listed before it. */
+    public enum Level implements NativeEnum {
         /** Nothing is written. */
         NONE(0),
         /** Bad input that makes the library skip a step. */
@@ -22,7 +22,7 @@ public final class ErrorLog {
         INFO(3),
         /** Every call from Java. */
         CALLS(4),
-        /** Whatever else is there. */
+        /** Messages for the development of the library. */
         DEBUG(5);
 
         private final int number;
@@ -31,11 +31,7 @@ public final class ErrorLog {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the level.
-         *
-         * @return 0 to 5
-         */
+        @Override
         public int number() {
             return number;
         }
@@ -44,10 +40,11 @@ public final class ErrorLog {
     private ErrorLog() {}
 
     /**
-     * Writes into a file from now on and switches the log on at the level set last. The file is truncated; one that
-     * cannot be opened leaves the log off until another is given.
+     * Writes into a file from now on and switches the log on at the level set last. The file is truncated; a file that
+     * cannot be opened leaves the log off until another is set.
      *
      * @param file the file
+     * @throws NullPointerException if the file is null
      */
     public static void setOutputFile(Path file) {
         NativeLibrary.ensureLoaded();
@@ -55,9 +52,9 @@ public final class ErrorLog {
     }
 
     /**
-     * Whether every line is written out at once, which is slow but loses nothing if the process dies.
+     * Sets whether every line is written at once, which is slow but loses nothing if the process dies.
      *
-     * @param flush true to write out every line
+     * @param flush true to write every line at once
      */
     public static void setFlushAfterEachMessage(boolean flush) {
         NativeLibrary.ensureLoaded();
@@ -68,6 +65,7 @@ public final class ErrorLog {
      * Sets the level and switches the log on at it.
      *
      * @param level the level; {@link Level#NONE} silences the log
+     * @throws NullPointerException if the level is null
      */
     public static void setReportLevel(Level level) {
         NativeLibrary.ensureLoaded();

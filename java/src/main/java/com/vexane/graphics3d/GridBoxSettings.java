@@ -7,7 +7,7 @@ public final class GridBoxSettings extends NativePeer {
     private GridBoxSettings() {}
 
     /**
-     * Makes a peer of the grid box settings of a view. They live as long as the peer, also when the view is gone.
+     * Makes a peer of the grid box settings of a view. They live as long as the peer, even after the view is gone.
      *
      * @param settings the settings of the view
      * @return the peer
@@ -20,11 +20,7 @@ public final class GridBoxSettings extends NativePeer {
         return grid;
     }
 
-    /**
-     * Whether the grid box is shown.
-     *
-     * @return true at the start
-     */
+    /** {@return whether the grid box is shown, initially true} */
     public boolean isGridShown() {
         return isGridShown(this);
     }
@@ -38,11 +34,7 @@ public final class GridBoxSettings extends NativePeer {
         setShowGrid(this, show);
     }
 
-    /**
-     * The colour of the lines.
-     *
-     * @return 0xRRGGBB, grey at the start
-     */
+    /** {@return the colour of the lines as 0xRRGGBB, initially grey} */
     public int getGridColor() {
         return getGridColor(this);
     }
@@ -56,11 +48,7 @@ public final class GridBoxSettings extends NativePeer {
         setGridColor(this, color);
     }
 
-    /**
-     * The colour of the labels.
-     *
-     * @return 0xRRGGBB, black at the start
-     */
+    /** {@return the colour of the labels as 0xRRGGBB, initially black} */
     public int getLabelColor() {
         return getLabelColor(this);
     }

@@ -4,26 +4,22 @@ import com.vexane.base.NativePeer;
 import java.util.Objects;
 
 /**
- * What the export of one picture asks of a renderer: resolution, decorations, background, font sizes, and the title and
- * creator that the file carries. Nothing is checked until a renderer reads it. Nobody is told of changes.
+ * What a renderer uses for the export of one picture: resolution, decorations, background, font sizes, and the title
+ * and creator stored in the file. Values are not checked before a renderer reads them.
  */
 public final class HardcopySettings extends NativePeer {
-    /** Makes settings without decorations on a white background, at the resolution that the screen has now. */
+    /** Makes settings without decorations on a white background, at the current resolution of the screen. */
     public HardcopySettings() {
         createNative(this);
     }
 
-    /**
-     * The title that the file carries.
-     *
-     * @return the title, empty at the start
-     */
+    /** {@return the title stored in the file, initially empty} */
     public String getFileTitle() {
         return getFileTitle(this);
     }
 
     /**
-     * Sets the title that the file carries.
+     * Sets the title stored in the file.
      *
      * @param title the title
      * @throws NullPointerException if the title is null
@@ -32,17 +28,13 @@ public final class HardcopySettings extends NativePeer {
         setFileTitle(this, Objects.requireNonNull(title, "title"));
     }
 
-    /**
-     * The creator that the file carries.
-     *
-     * @return the creator, empty at the start
-     */
+    /** {@return the creator stored in the file, initially empty} */
     public String getFileCreator() {
         return getFileCreator(this);
     }
 
     /**
-     * Sets the creator that the file carries.
+     * Sets the creator stored in the file.
      *
      * @param creator the creator
      * @throws NullPointerException if the creator is null
@@ -52,7 +44,7 @@ public final class HardcopySettings extends NativePeer {
     }
 
     /**
-     * Sets the background, which runs from one colour at the top to another at the bottom.
+     * Sets the background, a gradient from one colour at the top to another at the bottom.
      *
      * @param topColor 0xRRGGBB; higher bits are ignored
      * @param bottomColor 0xRRGGBB; higher bits are ignored
@@ -62,10 +54,9 @@ public final class HardcopySettings extends NativePeer {
     }
 
     /**
-     * The size of a kind of text.
+     * {@return the size of a kind of text in points; 0 or less, the initial value, means the size on the screen}
      *
      * @param item the kind of text
-     * @return the size in points; 0 or less, as at the start, for the size on the screen
      * @throws NullPointerException if the item is null
      */
     public int getFontSize(TextItem item) {
@@ -84,9 +75,8 @@ public final class HardcopySettings extends NativePeer {
     }
 
     /**
-     * The resolution of the picture.
-     *
-     * @return dots per inch; at the start the resolution that the screen had when these settings were made
+     * {@return the resolution of the picture in dots per inch, initially that of the screen when these settings were
+     * made}
      */
     public int getDpi() {
         return getDpi(this);
@@ -101,17 +91,13 @@ public final class HardcopySettings extends NativePeer {
         setDpi(this, dpi);
     }
 
-    /**
-     * The number of samples a pixel.
-     *
-     * @return the number of samples, 1 at the start
-     */
+    /** {@return the number of samples per pixel, initially 1} */
     public int getMultisampleSetting() {
         return getMultisampleSetting(this);
     }
 
     /**
-     * Sets the number of samples a pixel.
+     * Sets the number of samples per pixel.
      *
      * @param setting the number of samples
      */
@@ -120,19 +106,15 @@ public final class HardcopySettings extends NativePeer {
     }
 
     /**
-     * Sets whether the markers of physics are shown. They are at the start.
+     * Sets whether the markers of physics are shown.
      *
-     * @param shown true to show them
+     * @param shown true, as initially, to show them
      */
     public void setShowPhysicsMarkers(boolean shown) {
         setShowPhysicsMarkers(this, shown);
     }
 
-    /**
-     * Whether the background is that of the canvas.
-     *
-     * @return false at the start: the background is set here
-     */
+    /** {@return whether the background is that of the canvas; initially false, for the background that is set here} */
     public boolean isUseCurrentBackground() {
         return isUseCurrentBackground(this);
     }
@@ -146,11 +128,7 @@ public final class HardcopySettings extends NativePeer {
         setUseCurrentBackground(this, use);
     }
 
-    /**
-     * Whether the axis orientation indicator is shown.
-     *
-     * @return false at the start
-     */
+    /** {@return whether the axis orientation indicator is shown, initially false} */
     public boolean isAxisOrientationShown() {
         return isAxisOrientationShown(this);
     }
@@ -164,11 +142,7 @@ public final class HardcopySettings extends NativePeer {
         setAxisOrientationShown(this, shown);
     }
 
-    /**
-     * Whether legends are shown.
-     *
-     * @return false at the start
-     */
+    /** {@return whether legends are shown, initially false} */
     public boolean isLegendsShown() {
         return isLegendsShown(this);
     }
@@ -182,11 +156,7 @@ public final class HardcopySettings extends NativePeer {
         setLegendsShown(this, shown);
     }
 
-    /**
-     * Whether axes and grid boxes are shown.
-     *
-     * @return false at the start
-     */
+    /** {@return whether axes and grid boxes are shown, initially false} */
     public boolean isAxisShown() {
         return isAxisShown(this);
     }
@@ -200,11 +170,7 @@ public final class HardcopySettings extends NativePeer {
         setAxisShown(this, shown);
     }
 
-    /**
-     * Whether the title is shown.
-     *
-     * @return false at the start
-     */
+    /** {@return whether the title is shown, initially false} */
     public boolean isTitleShown() {
         return isTitleShown(this);
     }
@@ -219,9 +185,9 @@ public final class HardcopySettings extends NativePeer {
     }
 
     /**
-     * Sets whether the logo is shown. It is not at the start.
+     * Sets whether the logo is shown.
      *
-     * @param shown true to show it
+     * @param shown true to show it, initially false
      */
     public void setLogoShown(boolean shown) {
         setLogoShown(this, shown);

@@ -3,8 +3,8 @@ package com.vexane.graphics3d;
 import com.vexane.base.NativePeer;
 
 /**
- * A raster image that native code fills: a renderer takes the peer and gives it size and pixels. The pixels do not
- * come to Java through this class.
+ * A raster image that a renderer fills: it receives the peer and sets its size and pixels. The pixels cannot be read
+ * through this class.
  */
 public final class Image extends NativePeer {
     /** Makes an image of 0 by 0 pixels. */

@@ -4,23 +4,23 @@ import com.vexane.base.NativePeer;
 import java.util.Objects;
 
 /**
- * A light of a scene: colour, intensities and whether it shines. The subclasses say from where.
+ * A light of a scene: colour, intensities and whether it shines. The subclasses add where it comes from.
  *
- * <p>Lights are made and removed by their {@link SceneLight}. A peer keeps its light alive when the scene has removed
- * it or has gone; such a light takes new values and lights nothing.
+ * <p>Lights are made and removed by their {@link SceneLight}. A peer keeps its light alive after the light has been
+ * removed or the scene is gone; such a light can still be changed, but lights nothing.
  *
- * <p>A position or direction is in world coordinates, or in those of the camera while the light is locked to it. Values
- * are stored as they come, without a check of their range. All calls take constant time.
+ * <p>A position or direction is in world coordinates, or in those of the camera while the light is locked to it. The
+ * range of values is not checked. All calls take constant time.
  */
 public abstract sealed class LightSource extends NativePeer
         permits DirectionLightSource, PointLightSource, SpotLightSource {
     /** The kinds of light. */
-    public enum Type {
-        /** Comes from one direction everywhere: a {@link DirectionLightSource}. */
+    public enum Type implements NativeEnum {
+        /** Light from one direction everywhere: a {@link DirectionLightSource}. */
         DIRECTION(1),
-        /** Goes out from a point to all sides: a {@link PointLightSource}. */
+        /** Light from a point to all sides: a {@link PointLightSource}. */
         POINT(2),
-        /** Goes out from a point within a cone: a {@link SpotLightSource}. */
+        /** Light from a point within a cone: a {@link SpotLightSource}. */
         SPOT(3);
 
         private final int number;
@@ -29,51 +29,31 @@ public abstract sealed class LightSource extends NativePeer
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the kind.
-         *
-         * @return 1 to 3
-         */
+        @Override
         public int number() {
             return number;
-        }
-
-        static Type of(int number) {
-            return values()[number - 1];
         }
     }
 
     LightSource() {}
 
-    /**
-     * The id of the light in its scene.
-     *
-     * @return the id, from 1
-     */
+    /** {@return the id of the light in its scene, from 1} */
     public int getId() {
         return getId(this);
     }
 
-    /**
-     * The kind of the light.
-     *
-     * @return the kind
-     */
+    /** {@return the kind of the light} */
     public Type getType() {
-        return Type.of(getType(this));
+        return NativeEnum.of(Type.class, getType(this));
     }
 
-    /**
-     * The name of the light.
-     *
-     * @return the name, empty at the start
-     */
+    /** {@return the name of the light, initially empty} */
     public String getName() {
         return getName(this);
     }
 
     /**
-     * Names the light.
+     * Sets the name of the light.
      *
      * @param name the name
      * @throws NullPointerException if the name is null
@@ -82,18 +62,14 @@ public abstract sealed class LightSource extends NativePeer
         setName(this, Objects.requireNonNull(name, "name"));
     }
 
-    /**
-     * Whether the light shines.
-     *
-     * @return false at the start
-     */
+    /** {@return whether the light shines, initially false} */
     public boolean isActive() {
         return isActive(this);
     }
 
     /**
-     * Switches the light on or off. At most eight lights of a scene shine at one time; a ninth one stays off, without
-     * an error.
+     * Switches the light on or off. At most eight lights of a scene shine at the same time; a ninth one stays off,
+     * without an error.
      *
      * @param active true to switch it on
      * @return whether the light shines now
@@ -103,11 +79,7 @@ public abstract sealed class LightSource extends NativePeer
         return isActive(this);
     }
 
-    /**
-     * The colour of the light.
-     *
-     * @return 0xRRGGBB, white at the start
-     */
+    /** {@return the colour of the light as 0xRRGGBB, initially white} */
     public int getColor() {
         return getColor(this);
     }
@@ -121,17 +93,13 @@ public abstract sealed class LightSource extends NativePeer
         setColor(this, color);
     }
 
-    /**
-     * The intensity of the light.
-     *
-     * @return the intensity, 0 at the start
-     */
+    /** {@return the intensity of the light, initially 0} */
     public float getIntensity() {
         return getIntensity(this);
     }
 
     /**
-     * Sets the intensity of the light. A renderer multiplies it with that of the
+     * Sets the intensity of the light. A renderer multiplies it by that of the
      * {@linkplain SceneLight#setTotalLightSourceIntensity whole scene}.
      *
      * @param intensity the intensity
@@ -140,11 +108,7 @@ public abstract sealed class LightSource extends NativePeer
         setIntensity(this, intensity);
     }
 
-    /**
-     * What the light adds to the ambient light, relative to its intensity.
-     *
-     * @return the ambient intensity, 0 at the start
-     */
+    /** {@return what the light adds to the ambient light, relative to its intensity; initially 0} */
     public float getAmbientIntensity() {
         return getAmbientIntensity(this);
     }
@@ -158,17 +122,13 @@ public abstract sealed class LightSource extends NativePeer
         setAmbientIntensity(this, intensity);
     }
 
-    /**
-     * How bright the light's reflections are.
-     *
-     * @return the specular intensity, 0 at the start
-     */
+    /** {@return how bright the reflections of the light are, initially 0} */
     public float getSpecularIntensity() {
         return getSpecularIntensity(this);
     }
 
     /**
-     * Sets how bright the light's reflections are.
+     * Sets how bright the reflections of the light are.
      *
      * @param intensity the specular intensity
      */
@@ -177,17 +137,16 @@ public abstract sealed class LightSource extends NativePeer
     }
 
     /**
-     * Whether the light moves with the camera: its position and direction are then in camera coordinates.
-     *
-     * @return false at the start
+     * {@return whether the light moves with the camera, so that its position and direction are in camera coordinates;
+     * initially false}
      */
     public boolean isLockedToCamera() {
         return isLockedToCamera(this);
     }
 
     /**
-     * Makes the light move with the camera from now on. It stays where it is in the picture at this moment. Nothing
-     * happens if it moves with the camera already.
+     * Makes the light move with the camera from now on, from its current position in the picture. Under axis view
+     * scales other than 1 a renderer may show it elsewhere. Nothing happens if it moves with the camera already.
      *
      * @param camera the camera of the view
      * @throws NullPointerException if the camera is null
@@ -201,7 +160,7 @@ public abstract sealed class LightSource extends NativePeer
     }
 
     /**
-     * Leaves the light where it is in the world at this moment. Nothing happens if it does not move with the camera.
+     * Makes the light stay at its current position in the world. Nothing happens if it does not move with the camera.
      *
      * @param camera the camera that the light moves with
      * @throws NullPointerException if the camera is null
@@ -215,9 +174,9 @@ public abstract sealed class LightSource extends NativePeer
     }
 
     /**
-     * Sets whether the light's marker is drawn as selected. It is not at the start.
+     * Sets whether the marker of the light is drawn as selected.
      *
-     * @param selected true if it is selected
+     * @param selected true to draw it as selected, initially false
      */
     public void setSelected(boolean selected) {
         setSelected(this, selected);
@@ -225,9 +184,9 @@ public abstract sealed class LightSource extends NativePeer
 
     /**
      * Sets whether a marker is drawn where the light is, if the view
-     * {@linkplain SceneSettingsLight#setRenderLightMarkers draws markers of lights}. It is not at the start.
+     * {@linkplain SceneSettingsLight#setRenderLightMarkers draws markers of lights}.
      *
-     * @param visible true to draw it
+     * @param visible true to draw it, initially false
      */
     public void setMarkerVisibility(boolean visible) {
         setMarkerVisibility(this, visible);

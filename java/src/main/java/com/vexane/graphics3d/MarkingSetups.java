@@ -4,20 +4,20 @@ import com.vexane.base.NativePeer;
 import java.util.Objects;
 
 /**
- * How marked parts look: for each of three modes, a table with a row for each look that a part can have. All peers of
- * this class stand for the one set of tables of the process; a renderer sees a change when it draws next. Which mode is
- * in use is the renderer's choice.
+ * How marked parts look: for each of three modes, a table with one row per look that a part can have. All peers of this
+ * class refer to the one set of tables of the process, so calls must come from one thread at a time. A renderer reads
+ * the tables when it draws next, and chooses the mode.
  *
  * <p>Colours are numbers 0xRRGGBB; higher bits are ignored.
  */
 public final class MarkingSetups extends NativePeer {
     /** The tables. */
-    public enum Mode {
+    public enum Mode implements NativeEnum {
         /** The first table. */
         FIRST(1),
-        /** The second table; it starts like the first. */
+        /** The second table, which initially equals the first. */
         SECOND(2),
-        /** The third table; it starts with wider lines. */
+        /** The third table, which initially has wider lines. */
         THIRD(3);
 
         private final int number;
@@ -26,21 +26,17 @@ public final class MarkingSetups extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the mode.
-         *
-         * @return 1 to 3
-         */
+        @Override
         public int number() {
             return number;
         }
     }
 
     /**
-     * The looks of a part. A part that has several reasons for a look takes the first of: hidden, meshed, its own
-     * primary mark, an adjacent primary mark, its own secondary mark, an adjacent secondary mark.
+     * The looks of a part. If several apply, the part has the first of: hidden, meshed, its own primary mark, an
+     * adjacent primary mark, its own secondary mark, an adjacent secondary mark.
      */
-    public enum Row {
+    public enum Row implements NativeEnum {
         /** Unmarked. */
         NORMAL(0),
         /** Marked as primary. */
@@ -55,9 +51,9 @@ public final class MarkingSetups extends NativePeer {
         SECONDARY_ADJACENT(5),
         /** Next to both. */
         BOTH_ADJACENT(6),
-        /** Showing a mesh; hidden at the start. */
+        /** Showing a mesh; initially a hidden row. */
         MESHED(7),
-        /** Hidden; hidden at the start. */
+        /** Hidden; initially a hidden row. */
         HIDDEN(8);
 
         private final int number;
@@ -66,11 +62,7 @@ public final class MarkingSetups extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the row.
-         *
-         * @return 0 to 8
-         */
+        @Override
         public int number() {
             return number;
         }
@@ -85,18 +77,14 @@ public final class MarkingSetups extends NativePeer {
      * @param pointColor the colour of points, 0xRRGGBB
      * @param pointSize the size of points in pixels
      * @param labelColor the colour of labels, 0xRRGGBB
-     * @param polygonLayer the layer of faces: of two at the same depth, the one of the higher layer is seen
+     * @param polygonLayer the layer of faces: of two faces at the same depth, the one of the higher layer is visible
      */
     public record Marking(int sheetColor, int lineColor, float lineWidth, int pointColor, float pointSize,
             int labelColor, int polygonLayer) {}
 
     private MarkingSetups() {}
 
-    /**
-     * Makes a peer of the tables of the process.
-     *
-     * @return the peer
-     */
+    /** {@return a new peer of the tables of the process} */
     public static MarkingSetups connect() {
         MarkingSetups setups = new MarkingSetups();
         connectNative(setups);
@@ -104,11 +92,10 @@ public final class MarkingSetups extends NativePeer {
     }
 
     /**
-     * What a row holds. A hidden row holds zeros.
+     * {@return what a row holds; zeros for a hidden row}
      *
      * @param mode the table
      * @param row the look
-     * @return the row
      * @throws NullPointerException if an argument is null
      */
     public Marking getMarking(Mode mode, Row row) {

@@ -3,49 +3,74 @@ package com.vexane.graphics3d;
 /**
  * One result of a pick.
  *
- * @param objectType kind of hit
- * @param objectId id of the object
- * @param partType kind of part, {@link PartType#NONE} for a whole object
- * @param partId index of the part, -1 for a whole object
+ * @param objectType the kind of hit
+ * @param objectId the id of the object
+ * @param partType the kind of part, {@link PartType#NONE} for a whole object
+ * @param partId the index of the part, -1 for a whole object
  */
 public record PickedObject(ObjectType objectType, int objectId, PartType partType, int partId) {
-    /** Kinds of hit, in the order of their native numbers. */
-    public enum ObjectType {
+    /** The kinds of hit. */
+    public enum ObjectType implements NativeEnum {
         /** Nothing. */
-        NONE,
+        NONE(0),
         /** A plot. */
-        PLOT,
+        PLOT(1),
         /** A solid, or a part of any draw object. */
-        SOLID,
+        SOLID(2),
         /** A face. */
-        FACE,
+        FACE(3),
         /** A curve. */
-        CURVE,
+        CURVE(4),
         /** A point. */
-        POINT,
+        POINT(5),
         /** A part of a physics object. */
-        PHYSICS,
+        PHYSICS(6),
         /** An overlay. */
-        OVERLAY
+        OVERLAY(7);
+
+        private final int number;
+
+        ObjectType(int number) {
+            this.number = number;
+        }
+
+        @Override
+        public int number() {
+            return number;
+        }
     }
 
-    /** Kinds of part, in the order of their Java numbers; the last three are a renderer's own. */
-    public enum PartType {
+    /**
+     * The kinds of part. Constants named {@code RENDERER_n} have the number n and the meaning that the renderer gives
+     * them.
+     */
+    public enum PartType implements NativeEnum {
         /** The whole object. */
-        NONE,
+        NONE(0),
         /** A subdomain. */
-        SUBDOMAIN,
+        SUBDOMAIN(1),
         /** A face. */
-        SHEET,
+        SHEET(2),
         /** An edge. */
-        LINE,
+        LINE(3),
         /** A vertex. */
-        POINT,
-        /** A renderer's first own kind. */
-        OWN_1,
-        /** A renderer's second own kind. */
-        OWN_2,
-        /** A renderer's third own kind. */
-        OWN_3
+        POINT(4),
+        /** The renderer's kind 5. */
+        RENDERER_5(5),
+        /** The renderer's kind 6. */
+        RENDERER_6(6),
+        /** The renderer's kind 7. */
+        RENDERER_7(7);
+
+        private final int number;
+
+        PartType(int number) {
+            this.number = number;
+        }
+
+        @Override
+        public int number() {
+            return number;
+        }
     }
 }

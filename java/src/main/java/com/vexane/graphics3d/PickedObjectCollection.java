@@ -5,40 +5,34 @@ import java.util.Objects;
 import java.util.stream.IntStream;
 import java.util.stream.Stream;
 
-/** The results of picks in the order in which they were found. A renderer fills it; a pick appends to what is there. */
+/** The results of picks in the order in which they were found. A renderer fills it; each pick appends its results. */
 public final class PickedObjectCollection extends NativePeer {
     /** Makes an empty collection. */
     public PickedObjectCollection() {
         createNative(this);
     }
 
-    /**
-     * How many results there are.
-     *
-     * @return the count
-     */
+    /** {@return the number of results} */
     public int size() {
         return getNumberOfPickedObjects(this);
     }
 
     /**
-     * One result.
+     * {@return the result at an index}
      *
      * @param index its index, from 0
-     * @return the result
      * @throws IndexOutOfBoundsException if there is no such result
      */
     public PickedObject get(int index) {
         Objects.checkIndex(index, size());
-        return new PickedObject(PickedObject.ObjectType.values()[getObjectType(this, index)], getObjectId(this, index),
-                PickedObject.PartType.values()[getPartType(this, index)], getPartId(this, index));
+        return new PickedObject(
+                NativeEnum.of(PickedObject.ObjectType.class, getObjectType(this, index)),
+                getObjectId(this, index),
+                NativeEnum.of(PickedObject.PartType.class, getPartType(this, index)),
+                getPartId(this, index));
     }
 
-    /**
-     * All results in their order.
-     *
-     * @return a stream that reads the collection as it goes
-     */
+    /** {@return all results in their order, as a stream that reads the collection lazily} */
     public Stream<PickedObject> stream() {
         return IntStream.range(0, size()).mapToObj(this::get);
     }

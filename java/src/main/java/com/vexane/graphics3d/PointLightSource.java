@@ -2,7 +2,7 @@ package com.vexane.graphics3d;
 
 import com.vexane.base.NativeException;
 
-/** Light that goes out from one point to all sides, as from a lamp. */
+/** Light from one point to all sides, as from a lamp. */
 public final class PointLightSource extends LightSource {
     private PointLightSource() {}
 
@@ -22,11 +22,7 @@ public final class PointLightSource extends LightSource {
         return source;
     }
 
-    /**
-     * Where the light is.
-     *
-     * @return x, y and z; the origin at the start
-     */
+    /** {@return the position of the light: x, y and z, initially the origin} */
     public float[] getPosition() {
         float[] position = new float[3];
         getPosition(this, position);

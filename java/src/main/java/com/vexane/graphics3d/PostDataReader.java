@@ -8,31 +8,31 @@ import java.util.Objects;
 /**
  * Reads text files into the records of which plots are made.
  *
- * <p>What a file holds, and what is said about a wrong one, is told in the page on the plot data format.
+ * <p>The page on the plot data format describes the files and the messages about invalid ones.
  */
 public final class PostDataReader {
     private PostDataReader() {}
 
     /**
-     * Reads a plot file into a record: a surface in two or three dimensions or an iso surface, as the record's kind
-     * says. The groups of the file are added to those that the record has, and the record's bounds become those of the
-     * file. Which data array plays which role is told by the record and is left as it is.
+     * Reads a plot file into a record. The kind of the record decides how: as a surface in two or three dimensions or
+     * as an iso surface. The groups of the file are added to those of the record, and the bounds of the record become
+     * those of the file. The roles of the data arrays are those of the record and do not change.
      *
-     * <p>A surface in three dimensions has the file's data, scaled to the range from 0 to 1, in array 0. A surface in
-     * two dimensions has the third coordinate as height in array 1 as well. An iso surface has a group for each run of
-     * equal data, the value of the group in array 0 and a value for each point in array 1.
+     * <p>A surface in three dimensions has the data of the file, scaled to the range from 0 to 1, in array 0. A surface
+     * in two dimensions also has the third coordinate as height in array 1. An iso surface has one group per run of
+     * equal data, with the value of the group in array 0 and one value per point in array 1.
      *
-     * <p>The file is read as a stream; memory is needed for the record and half as much besides. A million triangles
+     * <p>The file is read as a stream; reading needs memory for the record and half as much again. A million triangles
      * take some tenths of a second.
      *
      * @param record the peer of a record
      * @param file the file
-     * @return true if the file was read. False if the file is wrong or cannot be opened, which the log says and, but
-     *     for numbers that are missing in a row, standard error, or if the record's kind is none of those named. The
-     *     record is unchanged then, but for the groups of an iso surface that stand before a wrong row
+     * @return true if the file was read. False if the record is of another kind, or if the file is invalid or cannot be
+     *     opened; the log then has the reason, and so has standard error except for numbers that are missing in a row.
+     *     The record is unchanged, except for the groups of an iso surface that precede an invalid row
      * @throws NullPointerException if an argument is null
      * @throws IllegalStateException if the record is closed
-     * @throws NativeException if the peer is not that of a record, or memory runs out
+     * @throws NativeException if the peer is not a record, or memory runs out
      */
     public static boolean readPostData(NativePeer record, Path file) {
         Objects.requireNonNull(file, "file");

@@ -6,114 +6,78 @@ import java.util.List;
 import java.util.Objects;
 
 /**
- * What the renderer of this process can do, and what it lacks to run at all.
+ * What the renderer of this process can do, and which of its requirements are not met.
  *
- * <p>A renderer brings its own subclass and gives the peer its native object; until then the peer counts as closed.
+ * <p>A renderer has a subclass of its own and connects the peer to its native object; until then the peer is closed.
  */
 public class RendererInfo extends NativePeer {
     /** For the renderer's subclass, which has to connect the peer. */
     protected RendererInfo() {}
 
-    /**
-     * How many things are missing for the renderer to run.
-     *
-     * @return 0 if it can run
-     */
+    /** {@return how many requirements of the renderer are not met; 0 if it can run} */
     public int getNumberOfMissingRequirements() {
         return getNumberOfMissingRequirements(this);
     }
 
     /**
-     * What is missing for the renderer to run.
+     * {@return a requirement of the renderer that is not met, in words}
      *
      * @param index 0 to one less than {@link #getNumberOfMissingRequirements()}
-     * @return the requirement in words
      * @throws IndexOutOfBoundsException if there is no such requirement
      */
     public String getMissingRequirement(int index) {
         return getMissingRequirement(this, Objects.checkIndex(index, getNumberOfMissingRequirements()));
     }
 
-    /**
-     * What the renderer calls itself.
-     *
-     * @return the name, perhaps empty
-     */
+    /** {@return what the renderer calls itself; may be empty} */
     public String getRendererType() {
         return getRendererType(this);
     }
 
-    /**
-     * How many monitors the renderer knows.
-     *
-     * @return 0 or more
-     */
+    /** {@return the number of monitors that the renderer knows} */
     public int getNumberOfMonitors() {
         return getNumberOfMonitors(this);
     }
 
-    /**
-     * Whether pictures are drawn out of sight and shown when they are complete.
-     *
-     * @return true if so
-     */
+    /** {@return whether pictures are drawn out of sight and shown when they are complete} */
     public boolean hasDoubleBuffering() {
         return hasDoubleBuffering(this);
     }
 
     /**
-     * How many multisample settings the renderer offers.
-     *
-     * @return 0 if it cannot multisample, at most 10
+     * {@return the number of multisample settings that the renderer offers: at most 10, and 0 if it cannot multisample}
      */
     public int getNumberOfMultisampleSettings() {
         return getNumberOfMultisampleSettings(this);
     }
 
     /**
-     * The number of samples a pixel of one multisample setting.
+     * {@return the number of samples per pixel of a multisample setting}
      *
-     * @param index 0 to one less than {@link #getNumberOfMultisampleSettings()}; setting 0 is the one that
-     *     antialiasing uses
-     * @return the number of samples
+     * @param index 0 to one less than {@link #getNumberOfMultisampleSettings()}; setting 0 is the one that antialiasing
+     *     uses
      * @throws IndexOutOfBoundsException if there is no such setting
      */
     public int getMultisampleSetting(int index) {
         return getMultisampleSetting(this, Objects.checkIndex(index, getNumberOfMultisampleSettings()));
     }
 
-    /**
-     * How many lights can shine at once.
-     *
-     * @return 0 or more
-     */
+    /** {@return the number of lights that can shine at once} */
     public int getNumberOfLights() {
         return getNumberOfLights(this);
     }
 
-    /**
-     * The longest side of a texture.
-     *
-     * @return the length in texels
-     */
+    /** {@return the largest width and height of a texture in texels} */
     public int getMaxTextureSize() {
         return getMaxTextureSize(this);
     }
 
-    /**
-     * How many vertices one array may hold.
-     *
-     * @return the number of vertices
-     */
+    /** {@return the largest number of vertices in one array} */
     public int getMaxVertexArraySize() {
         return getMaxVertexArraySize(this);
     }
 
-    /**
-     * How many indices one array may hold.
-     *
-     * @return the number of indices
-     */
+    /** {@return the largest number of indices in one array} */
     public int getMaxIndexArraySize() {
         return getMaxIndexArraySize(this);
     }
@@ -123,7 +87,7 @@ public class RendererInfo extends NativePeer {
         cleanupNative(this);
     }
 
-    /** What the video card of one monitor can do. It stays valid after the renderer's record has been closed. */
+    /** What the video card of one monitor can do. It stays valid after the peer of the renderer's record is closed. */
     public static final class MonitorInfo extends NativePeer {
         private MonitorInfo() {}
 
@@ -136,7 +100,7 @@ public class RendererInfo extends NativePeer {
          * @throws NullPointerException if the owner is null
          * @throws IllegalStateException if the owner is closed
          * @throws IndexOutOfBoundsException if there is no such monitor
-         * @throws NativeException if the renderer holds nothing that can be shared for this monitor
+         * @throws NativeException if the renderer has no record of this monitor to which a peer can refer
          */
         public static MonitorInfo connect(RendererInfo owner, int monitor) {
             Objects.checkIndex(monitor, requireOpen(owner, "owner").getNumberOfMonitors());
@@ -145,84 +109,48 @@ public class RendererInfo extends NativePeer {
             return info;
         }
 
-        /**
-         * The system's name of the monitor.
-         *
-         * @return the name, perhaps empty
-         */
+        /** {@return the name by which the system knows the monitor; may be empty} */
         public String getDeviceID() {
             return getDeviceID(this);
         }
 
-        /**
-         * Who made the video card or its driver.
-         *
-         * @return the maker, perhaps empty
-         */
+        /** {@return the maker of the video card or of its driver; may be empty} */
         public String getRendererVendor() {
             return getRendererVendor(this);
         }
 
-        /**
-         * The name of the video card.
-         *
-         * @return the name, perhaps empty
-         */
+        /** {@return the name of the video card; may be empty} */
         public String getRendererName() {
             return getRendererName(this);
         }
 
-        /**
-         * The version of the driver.
-         *
-         * @return the version, perhaps empty
-         */
+        /** {@return the version of the driver; may be empty} */
         public String getRendererVersion() {
             return getRendererVersion(this);
         }
 
-        /**
-         * The extensions of the graphics interface.
-         *
-         * @return their names in ascending order, perhaps none
-         */
+        /** {@return the names of the extensions of the graphics interface in ascending order; may be none} */
         public List<String> getOpenGlExtensions() {
             String joined = getOpenGlExtensions(this);
             return joined == null ? List.of() : List.of(joined.split(",", -1));
         }
 
-        /**
-         * How many lights can shine at once.
-         *
-         * @return 0 or more
-         */
+        /** {@return the number of lights that can shine at once} */
         public int getMaxNumberOfLights() {
             return getMaxNumberOfLights(this);
         }
 
-        /**
-         * The longest side of a texture.
-         *
-         * @return the length in texels
-         */
+        /** {@return the largest width and height of a texture in texels} */
         public int getMaxTextureSize() {
             return getMaxTextureSize(this);
         }
 
-        /**
-         * How many vertices one array may hold.
-         *
-         * @return the number of vertices
-         */
+        /** {@return the largest number of vertices in one array} */
         public int getMaxVertexArraySize() {
             return getMaxVertexArraySize(this);
         }
 
-        /**
-         * How many indices one array may hold.
-         *
-         * @return the number of indices
-         */
+        /** {@return the largest number of indices in one array} */
         public int getMaxIndexArraySize() {
             return getMaxIndexArraySize(this);
         }

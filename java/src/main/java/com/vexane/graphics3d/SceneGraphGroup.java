@@ -5,11 +5,11 @@ import com.vexane.base.NativeException;
 /**
  * A node with any number of children, which are ordered by their ids.
  *
- * <p>Ids count from 1 in the order of arrival and are never used again. Adding a child takes a time that does not depend
- * on the number of children; removing one takes a merge of the boxes of those that are left.
+ * <p>Ids count from 1 in the order of addition and are never reused. Adding a child takes a time that does not depend
+ * on the number of children; removing one merges the boxes of the remaining children.
  */
 public final class SceneGraphGroup extends SceneGraphParent {
-    /** Makes a group without children that stands in no scene. */
+    /** Makes a group without children that belongs to no scene. */
     public SceneGraphGroup() {
         this(true);
         createNative(this);
@@ -18,12 +18,12 @@ public final class SceneGraphGroup extends SceneGraphParent {
     private SceneGraphGroup(boolean unattached) {}
 
     /**
-     * Makes a further peer of a group that stands under a parent.
+     * Makes another peer of a group that has a parent.
      *
      * @param parent the parent
      * @param childId the id of the group under its parent; a parent with a single child ignores it
      * @return the peer
-     * @throws NativeException if the parent has no such child, or one that is no group
+     * @throws NativeException if the parent has no such child, or one that is not a group
      * @throws NullPointerException if the parent is null
      * @throws IllegalStateException if the parent's peer is closed
      */
@@ -34,11 +34,11 @@ public final class SceneGraphGroup extends SceneGraphParent {
     }
 
     /**
-     * Takes a node in under the next id, which {@link #getChildId} of the node then tells. A node that stands under
-     * another parent stays there as well, but answers to this group from now on.
+     * Adds a node under the next id, which {@link #getChildId} of the node then returns. A node that has another parent
+     * stays there as well, but its current parent is this group from now on.
      *
      * @param child the node
-     * @throws NativeException if the node is this group, or a parent of it on whatever level; nothing has then changed
+     * @throws NativeException if the node is this group or an ancestor of it; nothing changes then
      * @throws NullPointerException if the node is null
      * @throws IllegalStateException if the node's peer is closed
      */
@@ -47,58 +47,51 @@ public final class SceneGraphGroup extends SceneGraphParent {
     }
 
     /**
-     * Lets a child go.
+     * Removes a child.
      *
-     * @param childId the id of the child; one that is not there is ignored
+     * @param childId the id of the child; an id without child is ignored
      */
     public void removeChild(int childId) {
         removeChild(this, childId);
     }
 
-    /** Lets all children go. */
+    /** Removes all children. */
     public void removeAllChildren() {
         removeAllChildren(this);
     }
 
-    /**
-     * The number of children.
-     *
-     * @return 0 or more
-     */
+    /** {@return the number of children} */
     public int getNoOfChildren() {
         return getNoOfChildren(this);
     }
 
     /**
-     * Whether there is a child with an id.
+     * {@return whether the group has a child with an id}
      *
      * @param childId the id
-     * @return true if the group holds such a child
      */
     public boolean doesChildExist(int childId) {
         return doesChildExist(this, childId);
     }
 
     /**
-     * What a child is.
+     * {@return the type of a child}
      *
      * @param childId the id of the child
-     * @return its type
      * @throws NativeException if there is no such child
      */
     public NodeType getChildType(int childId) {
-        return NodeType.of(getChildType(this, childId));
+        return NativeEnum.of(NodeType.class, getChildType(this, childId));
     }
 
     /**
-     * What kind of object a child is.
+     * {@return the kind of object that a child is}
      *
      * @param childId the id of the child
-     * @return its kind
-     * @throws NativeException if there is no such child, or one that is no object
+     * @throws NativeException if there is no such child, or if it is not an object
      */
     public SceneGraphObject.ObjectType getChildObjectType(int childId) {
-        return SceneGraphObject.ObjectType.of(getChildObjectType(this, childId));
+        return NativeEnum.of(SceneGraphObject.ObjectType.class, getChildObjectType(this, childId));
     }
 
     private static native void createNative(SceneGraphGroup peer);

@@ -5,16 +5,16 @@ import com.vexane.base.NativePeer;
 /**
  * A node of the scene tree: a parent of other nodes, an object to show, or a group of plots.
  *
- * <p>A node is owned by the parents that hold it and by its peers, so a peer may be closed while its node stays in the
- * scene, and a node that was taken out of the scene lives on while a peer holds it. A node may stand under several
- * parents; it answers to the one that took it last.
+ * <p>A node is owned by its parents and by its peers: a peer may be closed while its node stays in the scene, and a
+ * node that has been removed from the scene lives on while it has a peer. A node may have several parents; its current
+ * parent is the one that added it last.
  *
- * <p>Bounding boxes are kept in every node and are up to date at once: a change of a box costs a merge of the boxes of
- * all siblings on each level above, as far up as the boxes change.
+ * <p>Every node has a bounding box, which is always up to date: a change of a box costs a merge of the boxes of all
+ * siblings on each level above, as far up as the boxes change.
  */
 public abstract class SceneGraphNode extends NativePeer {
     /** What a node is. */
-    public enum NodeType {
+    public enum NodeType implements NativeEnum {
         /** The root of a scene. */
         ROOT(0),
         /** A group of nodes. */
@@ -30,51 +30,34 @@ public abstract class SceneGraphNode extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the type.
-         *
-         * @return 0 to 3
-         */
+        @Override
         public int number() {
             return number;
-        }
-
-        static NodeType of(int number) {
-            return values()[number];
         }
     }
 
     SceneGraphNode() {}
 
-    /**
-     * What the node is.
-     *
-     * @return the type
-     */
+    /** {@return the type of the node} */
     public NodeType getType() {
-        return NodeType.of(getType(this));
+        return NativeEnum.of(NodeType.class, getType(this));
     }
 
     /**
-     * The id of the node under the parent that it answers to.
-     *
-     * @return from 1 under a group, 0 under a root; -1 before the node had a parent, and 0 after it has lost its parent
+     * {@return the id of the node under its current parent: from 1 under a group, 0 under a root; -1 if the node never
+     * had a parent, and 0 if it has lost its parent}
      */
     public int getChildId() {
         return getChildId(this);
     }
 
-    /**
-     * Whether the node is shown.
-     *
-     * @return true unless it was hidden
-     */
+    /** {@return whether the node is shown, initially true} */
     public boolean isActive() {
         return isActive(this);
     }
 
     /**
-     * Shows or hides the node and all below it. A hidden node counts as empty in the boxes above it.
+     * Shows or hides the node and everything below it. A hidden node counts as empty in the boxes above it.
      *
      * @param active true to show the node
      */
@@ -82,7 +65,7 @@ public abstract class SceneGraphNode extends NativePeer {
         setActive(this, active);
     }
 
-    /** Takes the node out of the parent that it answers to, if there is one. */
+    /** Removes the node from its current parent, if there is one. */
     public void disconnectFromParent() {
         disconnectFromParent(this);
     }

@@ -2,8 +2,8 @@ package com.vexane.graphics3d;
 
 /** A leaf of the scene tree that shows geometry, with a colour and a shininess of its own. */
 public abstract class SceneGraphObject extends SceneGraphNode {
-    /** Kinds of objects. */
-    public enum ObjectType {
+    /** The kinds of objects. */
+    public enum ObjectType implements NativeEnum {
         /** A construction object. */
         OTHER(0),
         /** A solid. */
@@ -23,27 +23,15 @@ public abstract class SceneGraphObject extends SceneGraphNode {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the kind.
-         *
-         * @return 0 to 5
-         */
+        @Override
         public int number() {
             return number;
-        }
-
-        static ObjectType of(int number) {
-            return values()[number];
         }
     }
 
     SceneGraphObject() {}
 
-    /**
-     * The object's own colour.
-     *
-     * @return the colour as 0xRRGGBB; white at first
-     */
+    /** {@return the object's own colour as 0xRRGGBB, initially white} */
     public int getObjectColor() {
         return getObjectColor(this);
     }
@@ -57,11 +45,7 @@ public abstract class SceneGraphObject extends SceneGraphNode {
         setObjectColor(this, color);
     }
 
-    /**
-     * Whether the object is shown in its own colour.
-     *
-     * @return false at first
-     */
+    /** {@return whether the object is shown in its own colour, initially false} */
     public boolean isObjectColorUsed() {
         return isObjectColorUsed(this);
     }
@@ -75,11 +59,7 @@ public abstract class SceneGraphObject extends SceneGraphNode {
         setUseObjectColor(this, use);
     }
 
-    /**
-     * The exponent of the highlight.
-     *
-     * @return 1 to 128; 64 at first
-     */
+    /** {@return the exponent of the highlight: 1 to 128, initially 64} */
     public float getShininess() {
         return getShininess(this);
     }
@@ -87,7 +67,7 @@ public abstract class SceneGraphObject extends SceneGraphNode {
     /**
      * Sets the exponent of the highlight.
      *
-     * @param shininess the exponent; values outside 1 to 128 become the nearest limit, and what is no number becomes 1
+     * @param shininess the exponent; values outside 1 to 128 become the nearest limit, and NaN becomes 1
      */
     public void setShininess(float shininess) {
         setShininess(this, shininess);

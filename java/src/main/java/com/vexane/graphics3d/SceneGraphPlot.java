@@ -7,16 +7,16 @@ import java.util.Objects;
 /**
  * A plot: one record of post-processing results with a colour scale, a legend and a title.
  *
- * <p>{@link #fillPlot} builds the buffers that a renderer draws; it costs one pass over the record. Everything else here
- * sets a few numbers beside the buffers and costs no more than the call, but for a new colour table, which is computed
- * once for each name.
+ * <p>{@link #fillPlot} builds the buffers that a renderer draws; it costs one pass over the record. Every other method
+ * sets a few numbers outside the buffers and costs no more than the call, except for a new colour table, which is
+ * computed once per name.
  *
  * <p>A plot is drawn while it is in a {@link SceneGraphPlotGroup}. Values are those of the record; colours are
  * {@code 0xRRGGBB}.
  */
 public abstract class SceneGraphPlot extends NativePeer {
-    /** The kinds of plots that are told apart. */
-    public enum Kind {
+    /** The kinds of plots, as far as they are distinguished. */
+    public enum Kind implements NativeEnum {
         /** A {@link SceneGraphPlotSurface3d}. */
         SURFACE_3D(2),
         /** Arrows in three dimensions. */
@@ -42,35 +42,22 @@ public abstract class SceneGraphPlot extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the kind.
-         *
-         * @return 2 to 8, 10 or -1
-         */
+        @Override
         public int number() {
             return number;
         }
-
-        static Kind of(int number) {
-            for (Kind kind : values()) {
-                if (kind.number == number) {
-                    return kind;
-                }
-            }
-            return OTHER;
-        }
     }
 
-    /** For the classes of this package, one for each kind of plot. */
+    /** For the classes of this package, one per kind of plot. */
     SceneGraphPlot() {}
 
     /**
-     * Fills the plot from a record. Legend limits follow the values of the record from now on and a value restriction
-     * falls away; colours, symmetry, height scale, offset and title stay. The record is not kept and may be closed.
+     * Fills the plot from a record. The legend limits follow the values of the record again and a value restriction is
+     * removed; colours, symmetry, height scale, offset and title stay. The plot keeps no reference to the record.
      *
      * @param record the peer of a record of post-processing results
-     * @throws NativeException if the peer is no record, or if the record lacks something that this plot draws; the
-     *     message names it, and the plot is as it was
+     * @throws NativeException if the peer is not a record, or if the record lacks something that this plot draws; the
+     *     message names it, and the plot is unchanged
      * @throws NullPointerException if the record is null
      * @throws IllegalStateException if the record's peer is closed
      */
@@ -83,35 +70,24 @@ public abstract class SceneGraphPlot extends NativePeer {
         resetPlotData(this);
     }
 
-    /**
-     * The number given to the plot when it was made, under which it stands in its group.
-     *
-     * @return the id
-     */
+    /** {@return the id of the plot in its group, which was given when the plot was made} */
     public final int getId() {
         return getId(this);
     }
 
-    /**
-     * The kind of the plot, as far as kinds are told apart.
-     *
-     * @return the kind
-     */
+    /** {@return the kind of the plot, as far as kinds are distinguished} */
     public final Kind getKind() {
-        return Kind.of(getType(this));
+        return NativeEnum.of(Kind.class, getType(this));
     }
 
-    /**
-     * Whether the plot is drawn.
-     *
-     * @return false if it was switched off
-     */
+    /** {@return whether the plot is drawn, initially true} */
     public final boolean isActive() {
         return isActive(this);
     }
 
     /**
-     * Switches the plot on or off. A plot that is off adds nothing to the box, the title and the legends of its group.
+     * Switches the plot on or off. A plot that is switched off adds nothing to the box, the title and the legends of
+     * its group.
      *
      * @param active true to draw the plot
      */
@@ -130,27 +106,19 @@ public abstract class SceneGraphPlot extends NativePeer {
         setTitle(this, format.number(), Objects.requireNonNull(text, "text"));
     }
 
-    /**
-     * The smallest value of the last fill.
-     *
-     * @return the value; 0 before the first fill or without colour data
-     */
+    /** {@return the smallest value of the last fill; 0 before the first fill or without colour data} */
     public final double getValueMin() {
         return getValueMin(this);
     }
 
-    /**
-     * The largest value of the last fill.
-     *
-     * @return the value; 1 before the first fill or without colour data
-     */
+    /** {@return the largest value of the last fill; 1 before the first fill or without colour data} */
     public final double getValueMax() {
         return getValueMax(this);
     }
 
     /**
-     * Sets the values at the ends of the legend, and ends automatic limits. With a symmetric colour table the limits in
-     * force become plus and minus the larger magnitude of the two.
+     * Sets the values at the ends of the legend, and ends automatic limits. With a symmetric colour table the applied
+     * limits are plus and minus the larger magnitude of the two.
      *
      * @param min the value at the lower end
      * @param max the value at the upper end
@@ -160,36 +128,24 @@ public abstract class SceneGraphPlot extends NativePeer {
     }
 
     /**
-     * Lets the legend span all values of the fill. {@link #getLegendMin} and {@link #getLegendMax} go on reporting the
-     * limits in force before, until the next fill or {@link #resetValueRestrictions}.
+     * Lets the legend span all values of the fill. {@link #getLegendMin} and {@link #getLegendMax} report the
+     * previous limits until the next fill or {@link #resetValueRestrictions}.
      */
     public final void setAutoLegendLimits() {
         setAutoLegendLimits(this);
     }
 
-    /**
-     * The value at the lower end of the legend.
-     *
-     * @return the limit in force
-     */
+    /** {@return the value at the lower end of the legend, as currently applied} */
     public final double getLegendMin() {
         return getLegendMin(this);
     }
 
-    /**
-     * The value at the upper end of the legend.
-     *
-     * @return the limit in force
-     */
+    /** {@return the value at the upper end of the legend, as currently applied} */
     public final double getLegendMax() {
         return getLegendMax(this);
     }
 
-    /**
-     * Whether the plot asks for a legend.
-     *
-     * @return true if its legend is shown
-     */
+    /** {@return whether the legend of the plot is shown} */
     public final boolean isShowLegend() {
         return isShowLegend(this);
     }
@@ -204,7 +160,7 @@ public abstract class SceneGraphPlot extends NativePeer {
     }
 
     /**
-     * Hides what lies outside a range of values. The range is clamped to the values of the fill; a limit that is not a
+     * Hides what is outside a range of values. The range is clamped to the values of the fill; a limit that is not a
      * number hides nothing.
      *
      * @param min the smallest value shown
@@ -220,26 +176,24 @@ public abstract class SceneGraphPlot extends NativePeer {
     }
 
     /**
-     * The smallest value shown.
-     *
-     * @return the lower end of the restriction; without one, the smallest value of the fill
+     * {@return the smallest value shown: the lower end of the restriction or, without one, the smallest value of the
+     * fill}
      */
     public final double getValueRestrictionMin() {
         return getValueRestrictionMin(this);
     }
 
     /**
-     * The largest value shown.
-     *
-     * @return the upper end of the restriction; without one, the largest value of the fill
+     * {@return the largest value shown: the upper end of the restriction or, without one, the largest value of the
+     * fill}
      */
     public final double getValueRestrictionMax() {
         return getValueRestrictionMax(this);
     }
 
     /**
-     * Whether the limits of the legend lie symmetrically about 0. A change applies the limits requested last anew, and
-     * so ends automatic limits.
+     * Sets whether the limits of the legend are symmetric about 0. A change applies the limits requested last again,
+     * which ends automatic limits.
      *
      * @param symmetric true for symmetric limits
      */
@@ -248,19 +202,15 @@ public abstract class SceneGraphPlot extends NativePeer {
     }
 
     /**
-     * Whether the colour table runs backwards.
+     * Sets whether the colour table is reversed.
      *
-     * @param reverse true to turn it round
+     * @param reverse true to reverse it
      */
     public final void setReverseColorTable(boolean reverse) {
         setReverseColorTable(this, reverse);
     }
 
-    /**
-     * The name of the colour table.
-     *
-     * @return the name, or null for a plot of one uniform colour
-     */
+    /** {@return the name of the colour table, or null for a plot of one uniform colour} */
     public final String getColorTable() {
         return getColorTable(this);
     }
@@ -270,12 +220,12 @@ public abstract class SceneGraphPlot extends NativePeer {
      * makes the table from the rows, later ones find it and ignore theirs.
      *
      * @param name the name of the table
-     * @param colors one row for each colour: red, green and blue from 0 to 1, and optionally the relative width of the
+     * @param colors one row per colour: red, green and blue from 0 to 1, and optionally the relative width of the
      *     colour, which is 1 otherwise
-     * @param continuous whether the colours of a new table run into each other, or stand side by side
-     * @return whether the plot has the table now
-     * @throws NativeException if the name is new and there is no row, or a row has fewer than 3 values, or the widths
-     *     have no sum above 0; no table is made then
+     * @param continuous true if the colours of a new table blend into each other, false if they form bands
+     * @return whether the plot uses the table now
+     * @throws NativeException if the name is new and there is no row, a row has fewer than 3 values, or the widths are
+     *     negative, not finite or all 0; no table is made then
      * @throws NullPointerException if an argument or a row is null
      */
     public final boolean setColorTable(String name, double[][] colors, boolean continuous) {
@@ -286,11 +236,7 @@ public abstract class SceneGraphPlot extends NativePeer {
         return setColorTable(this, name, colors, continuous);
     }
 
-    /**
-     * The uniform colour.
-     *
-     * @return {@code 0xRRGGBB}
-     */
+    /** {@return the uniform colour as {@code 0xRRGGBB}} */
     public final int getColor() {
         return getColor(this);
     }
@@ -304,11 +250,7 @@ public abstract class SceneGraphPlot extends NativePeer {
         setColor(this, color);
     }
 
-    /**
-     * The specular exponent.
-     *
-     * @return 1 to 128
-     */
+    /** {@return the specular exponent, 1 to 128} */
     public final float getShininess() {
         return getShininess(this);
     }
@@ -334,7 +276,7 @@ public abstract class SceneGraphPlot extends NativePeer {
     /**
      * Moves the plot along z.
      *
-     * @param offset the distance from its place, in the units of the scene
+     * @param offset the distance from its original position, in the units of the scene
      */
     public final void setPlotPlaneOffset(float offset) {
         setPlotPlaneOffset(this, offset);

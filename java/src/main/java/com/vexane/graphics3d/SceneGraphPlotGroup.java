@@ -4,10 +4,10 @@ import com.vexane.base.NativeException;
 import java.util.Objects;
 
 /**
- * The node of a scene that holds plots.
+ * A node of the scene tree with plots.
  *
  * <p>A group has 256 texture handles, of which most plots take two and a mesh plot four while they are in the group, so
- * it holds 128 plots of the usual kind. Its title stands over all of its plots, together with theirs.
+ * it has space for 128 plots of the usual kind. The title of the group is shown above its plots, together with theirs.
  */
 public final class SceneGraphPlotGroup extends SceneGraphNode {
     /** Makes a group without plots. */
@@ -19,12 +19,12 @@ public final class SceneGraphPlotGroup extends SceneGraphNode {
     private SceneGraphPlotGroup(boolean unattached) {}
 
     /**
-     * Makes a further peer of a plot group that stands under a parent.
+     * Makes another peer of a plot group that has a parent.
      *
      * @param parent the parent of the group
      * @param childId the id of the group under its parent; a parent with a single child ignores it
      * @return the peer
-     * @throws NativeException if the parent has no such child, or one that is no plot group
+     * @throws NativeException if the parent has no such child, or one that is not a plot group
      * @throws NullPointerException if the parent is null
      * @throws IllegalStateException if the parent's peer is closed
      */
@@ -35,9 +35,12 @@ public final class SceneGraphPlotGroup extends SceneGraphNode {
     }
 
     /**
-     * Takes a plot in under its own id. Another plot with that id is replaced, and its texture handles are lost to the
-     * group. If the group has too few handles left, the plot stays outside and the log has a warning;
-     * {@link #doesPlotExist} tells.
+     * Adds a plot under its own id. Another plot with that id is replaced, and its texture handles are lost to the
+     * group. If the group has too few handles left, the plot is not added and the log has a warning; check with
+     * {@link #doesPlotExist}.
+     *
+     * <p>Remove a plot before adding it again, to this group or another: each addition takes new texture handles, and
+     * the earlier ones are lost or returned to the wrong group.
      *
      * @param plot the plot
      * @throws NullPointerException if the plot is null
@@ -48,40 +51,35 @@ public final class SceneGraphPlotGroup extends SceneGraphNode {
     }
 
     /**
-     * Takes a plot out. It stays usable and can enter a group again.
+     * Removes a plot. It stays usable and can be added to a group again.
      *
-     * @param plotId the id of the plot; one that is not there is ignored
+     * @param plotId the id of the plot; an id without plot is ignored
      */
     public void removePlot(int plotId) {
         removePlot(this, plotId);
     }
 
-    /** Takes all plots out. */
+    /** Removes all plots. */
     public void removeAllPlots() {
         removeAllPlots(this);
     }
 
     /**
-     * Whether there is a plot with an id.
+     * {@return whether the group has a plot with an id}
      *
      * @param plotId the id
-     * @return true if the group holds such a plot
      */
     public boolean doesPlotExist(int plotId) {
         return doesPlotExist(this, plotId);
     }
 
-    /**
-     * The number of plots in the group.
-     *
-     * @return 0 or more
-     */
+    /** {@return the number of plots in the group} */
     public int getNoOfPlots() {
         return getNoOfPlots(this);
     }
 
     /**
-     * Sets the group's own part of the title, which stands ahead of those of its plots.
+     * Sets the group's own part of the title, which precedes those of its plots.
      *
      * @param format how the text is written
      * @param text the text; empty for no title

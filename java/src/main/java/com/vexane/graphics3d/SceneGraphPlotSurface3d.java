@@ -6,13 +6,13 @@ import com.vexane.base.NativeException;
  * A plot of a field on a triangulated surface in space, with the normals of the record.
  *
  * <p>A fill reads the first group of the record: points, triangles and colour data. Ten million points take 320 MB of
- * native memory, and each triangle 12 bytes more (6 for up to 65535 points).
+ * native memory, and each triangle another 12 bytes (6 for up to 65535 points).
  */
 public final class SceneGraphPlotSurface3d extends SceneGraphPlot {
     /**
      * Makes an empty plot.
      *
-     * @param id the number under which the plot will stand in its group
+     * @param id the id of the plot in its group
      */
     public SceneGraphPlotSurface3d(int id) {
         createNative(this, id);
@@ -21,7 +21,7 @@ public final class SceneGraphPlotSurface3d extends SceneGraphPlot {
     private SceneGraphPlotSurface3d() {}
 
     /**
-     * Makes a further peer of a plot that a group holds.
+     * Makes another peer of a plot in a group.
      *
      * @param group the group
      * @param plotId the id of the plot

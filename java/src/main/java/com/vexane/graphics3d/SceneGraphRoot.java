@@ -1,11 +1,11 @@
 package com.vexane.graphics3d;
 
-/** The root of a scene's tree. Every scene makes its own root and keeps it. */
+/** The root of the tree of a scene. Every scene has one root, which it makes itself. */
 public final class SceneGraphRoot extends SceneGraphSingleChildParent {
     private SceneGraphRoot() {}
 
     /**
-     * Makes a peer of the root of a scene. The tree lives as long as the peer, also when the scene is closed.
+     * Makes a peer of the root of a scene. The tree lives as long as the peer, even after the scene is closed.
      *
      * @param scene the scene
      * @return the peer

@@ -7,10 +7,10 @@ public abstract class SceneGraphSingleChildParent extends SceneGraphParent {
     SceneGraphSingleChildParent() {}
 
     /**
-     * Takes a node in, and lets a present child go.
+     * Sets the child and removes the previous one.
      *
      * @param child the node
-     * @throws NativeException if the node is this one, or a parent of it on whatever level; nothing has then changed
+     * @throws NativeException if the node is this one or an ancestor of it; nothing changes then
      * @throws NullPointerException if the node is null
      * @throws IllegalStateException if the node's peer is closed
      */
@@ -18,33 +18,27 @@ public abstract class SceneGraphSingleChildParent extends SceneGraphParent {
         setChild(this, requireOpen(child, "child"));
     }
 
-    /**
-     * Whether there is a child.
-     *
-     * @return true if there is one
-     */
+    /** {@return whether there is a child} */
     public boolean hasChild() {
         return hasChild(this);
     }
 
     /**
-     * What the child is.
+     * {@return the type of the child}
      *
-     * @return its type
      * @throws NativeException if there is no child
      */
     public NodeType getChildType() {
-        return NodeType.of(getChildType(this));
+        return NativeEnum.of(NodeType.class, getChildType(this));
     }
 
     /**
-     * What kind of object the child is.
+     * {@return the kind of object that the child is}
      *
-     * @return its kind
-     * @throws NativeException if there is no child, or one that is no object
+     * @throws NativeException if there is no child, or if it is not an object
      */
     public SceneGraphObject.ObjectType getChildObjectType() {
-        return SceneGraphObject.ObjectType.of(getChildObjectType(this));
+        return NativeEnum.of(SceneGraphObject.ObjectType.class, getChildObjectType(this));
     }
 
     private static native void setChild(SceneGraphSingleChildParent peer, SceneGraphNode child);

@@ -4,17 +4,17 @@ import com.vexane.base.NativePeer;
 import java.util.NoSuchElementException;
 
 /**
- * The light of a scene: its light sources, and the ambient light and intensity that hold for all of them. Every view of
- * the scene decides through {@link SceneSettingsLight} which of it it uses.
+ * The light of a scene: its light sources, and the ambient light and intensity that apply to all of them. Every view of
+ * the scene chooses through {@link SceneSettingsLight} which light it uses.
  *
- * <p>Light sources have ids, from 1, which are never used again. At most eight shine at one time. Calls take time
- * logarithmic in the number of sources, except where they say otherwise.
+ * <p>Light sources have ids from 1, which are never reused. At most eight shine at the same time. Calls take time
+ * logarithmic in the number of sources, except where stated otherwise.
  */
 public final class SceneLight extends NativePeer {
     private SceneLight() {}
 
     /**
-     * Makes a peer of the light of a scene. The light lives as long as the peer, also when the scene is closed.
+     * Makes a peer of the light of a scene. The light lives as long as the peer, even after the scene is closed.
      *
      * @param scene the scene
      * @return the peer
@@ -46,7 +46,7 @@ public final class SceneLight extends NativePeer {
     }
 
     /**
-     * Makes a light within a cone. It does not shine yet, and its intensity is 0.
+     * Makes a light from one point within a cone. It does not shine yet, and its intensity is 0.
      *
      * @return the id of the light source, for {@link SpotLightSource#connect}
      */
@@ -55,7 +55,7 @@ public final class SceneLight extends NativePeer {
     }
 
     /**
-     * Switches a light source off and removes it. Peers of it stay good.
+     * Switches a light source off and removes it. Its peers stay usable.
      *
      * @param lightId the id of the light source
      * @return false if there is no such light source
@@ -64,40 +64,34 @@ public final class SceneLight extends NativePeer {
         return removeLightSource(this, lightId);
     }
 
-    /** Switches all light sources off and removes them, in time linear in their number. Peers of them stay good. */
+    /** Switches all light sources off and removes them, in time linear in their number. Their peers stay usable. */
     public void removeAllLightSources() {
         removeAllLightSources(this);
     }
 
     /**
-     * Whether there is a light source of an id.
+     * {@return whether there is a light source with an id}
      *
      * @param lightId the id
-     * @return true if there is
      */
     public boolean lightSourceExists(int lightId) {
         return lightSourceExists(this, lightId);
     }
 
     /**
-     * The kind of a light source.
+     * {@return the kind of a light source}
      *
      * @param lightId the id of the light source
-     * @return the kind
      * @throws NoSuchElementException if there is no such light source
      */
     public LightSource.Type getLightSourceType(int lightId) {
         if (!lightSourceExists(this, lightId)) {
             throw new NoSuchElementException("There is no light source " + lightId + ".");
         }
-        return LightSource.Type.of(getLightSourceType(this, lightId));
+        return NativeEnum.of(LightSource.Type.class, getLightSourceType(this, lightId));
     }
 
-    /**
-     * The factor on the intensity of every light source.
-     *
-     * @return the factor, 1 at the start
-     */
+    /** {@return the factor on the intensity of every light source, initially 1} */
     public float getTotalLightSourceIntensity() {
         return getTotalLightSourceIntensity(this);
     }
@@ -111,29 +105,21 @@ public final class SceneLight extends NativePeer {
         setTotalLightSourceIntensity(this, intensity);
     }
 
-    /**
-     * The intensity of all ambient light together.
-     *
-     * @return the intensity, 1 at the start
-     */
+    /** {@return the factor on all ambient light, initially 1} */
     public float getAmbientIntensity() {
         return getAmbientIntensity(this);
     }
 
     /**
-     * Sets the intensity of all ambient light together.
+     * Sets the factor on all ambient light.
      *
-     * @param intensity the intensity; not checked
+     * @param intensity the factor; not checked
      */
     public void setAmbientIntensity(float intensity) {
         setAmbientIntensity(this, intensity);
     }
 
-    /**
-     * The colour of the ambient light that comes from no source.
-     *
-     * @return 0xRRGGBB, white at the start
-     */
+    /** {@return the colour of the ambient light that comes from no source as 0xRRGGBB, initially white} */
     public int getGlobalAmbientColor() {
         return getGlobalAmbientColor(this);
     }

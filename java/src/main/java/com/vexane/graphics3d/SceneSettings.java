@@ -5,12 +5,13 @@ import com.vexane.base.NativePeer;
 import java.util.Objects;
 
 /**
- * How one view shows one scene: which decorations are on, the opacity, two fonts, and the light of the scene that it
- * uses. The settings stay good when the view shows another scene; they then have no effect.
+ * How one view shows one scene: which decorations it shows, the opacity, two fonts and, through
+ * {@link SceneSettingsLight}, the light that it uses. The settings stay usable when the view shows another scene, but
+ * have no effect then.
  */
 public final class SceneSettings extends NativePeer {
     /** The kinds of text that belong to a scene, each with a font of its own. */
-    public enum Text {
+    public enum Text implements NativeEnum {
         /** Labels of points and parts. */
         LABEL(0),
         /** The title of the scene. */
@@ -22,11 +23,7 @@ public final class SceneSettings extends NativePeer {
             this.number = number;
         }
 
-        /**
-         * The number by which native code knows the kind of text.
-         *
-         * @return 0 to 1
-         */
+        @Override
         public int number() {
             return number;
         }
@@ -41,7 +38,7 @@ public final class SceneSettings extends NativePeer {
      * @return the peer
      * @throws NullPointerException if the view's peer is null
      * @throws IllegalStateException if the view's peer is closed
-     * @throws NativeException if the peer is no view of a renderer, or the view shows no scene
+     * @throws NativeException if the peer is not a view of a renderer, or the view shows no scene
      */
     public static SceneSettings connect(NativePeer renderer) {
         SceneSettings settings = new SceneSettings();
@@ -49,11 +46,7 @@ public final class SceneSettings extends NativePeer {
         return settings;
     }
 
-    /**
-     * Whether legends are shown.
-     *
-     * @return true at the start
-     */
+    /** {@return whether legends are shown, initially true} */
     public boolean isLegendsShown() {
         return isLegendsShown(this);
     }
@@ -67,11 +60,7 @@ public final class SceneSettings extends NativePeer {
         setShowLegends(this, show);
     }
 
-    /**
-     * Whether the smallest and the largest value of legends are shown.
-     *
-     * @return true at the start
-     */
+    /** {@return whether the smallest and the largest value of legends are shown, initially true} */
     public boolean isMinMaxShown() {
         return isMinMaxShown(this);
     }
@@ -85,11 +74,7 @@ public final class SceneSettings extends NativePeer {
         setShowMinMax(this, show);
     }
 
-    /**
-     * Whether the title is shown.
-     *
-     * @return true at the start
-     */
+    /** {@return whether the title is shown, initially true} */
     public boolean isTitleShown() {
         return isTitleShown(this);
     }
@@ -103,11 +88,7 @@ public final class SceneSettings extends NativePeer {
         setShowTitle(this, show);
     }
 
-    /**
-     * Whether labels of points and parts are shown.
-     *
-     * @return false at the start
-     */
+    /** {@return whether labels of points and parts are shown, initially false} */
     public boolean isLabelsShown() {
         return isLabelsShown(this);
     }
@@ -121,11 +102,7 @@ public final class SceneSettings extends NativePeer {
         setShowLabels(this, show);
     }
 
-    /**
-     * Whether the markers of physics are shown.
-     *
-     * @return false at the start
-     */
+    /** {@return whether the markers of physics are shown, initially false} */
     public boolean isPhysicsMarkersShown() {
         return isPhysicsMarkersShown(this);
     }
@@ -139,11 +116,7 @@ public final class SceneSettings extends NativePeer {
         setShowPhysicsMarkers(this, show);
     }
 
-    /**
-     * Whether the directions of lines are shown.
-     *
-     * @return false at the start
-     */
+    /** {@return whether the directions of lines are shown, initially false} */
     public boolean isLineDirectionsShown() {
         return isLineDirectionsShown(this);
     }
@@ -157,11 +130,7 @@ public final class SceneSettings extends NativePeer {
         setShowLineDirections(this, show);
     }
 
-    /**
-     * The opacity of the whole scene.
-     *
-     * @return the opacity, 1 at the start
-     */
+    /** {@return the opacity of the whole scene, initially 1} */
     public float getGlobalOpacity() {
         return getGlobalOpacity(this);
     }
@@ -169,26 +138,21 @@ public final class SceneSettings extends NativePeer {
     /**
      * Sets the opacity of the whole scene.
      *
-     * @param opacity from 0, invisible, to 1, opaque; not checked
+     * @param opacity 0 (invisible) to 1 (opaque); not checked
      */
     public void setGlobalOpacity(float opacity) {
         setGlobalOpacity(this, opacity);
     }
 
-    /**
-     * Whether nothing shines through the scene.
-     *
-     * @return true if the opacity is 1 or more
-     */
+    /** {@return whether nothing shines through the scene, that is, whether the opacity is 1 or more} */
     public boolean isGlobalOpaque() {
         return isGlobalOpaque(this);
     }
 
     /**
-     * The name of the font of a kind of text.
+     * {@return the name of the font of a kind of text}
      *
      * @param text the kind of text
-     * @return the name
      * @throws NullPointerException if the kind is null
      */
     public String getFontName(Text text) {
@@ -196,10 +160,9 @@ public final class SceneSettings extends NativePeer {
     }
 
     /**
-     * The size of the font of a kind of text.
+     * {@return the size in points of the font of a kind of text, -1 if none has been set}
      *
      * @param text the kind of text
-     * @return the size in points; -1 if none has been set
      * @throws NullPointerException if the kind is null
      */
     public int getFontSize(Text text) {

@@ -2,9 +2,7 @@ package com.vexane.graphics3d;
 
 import com.vexane.base.NativePeer;
 
-/**
- * Which of the light of a scene one view uses. All of it is on at the start; markers of lights are not drawn.
- */
+/** Which light of a scene one view uses. Initially all of it; markers of lights are not drawn. */
 public final class SceneSettingsLight extends NativePeer {
     private SceneSettingsLight() {}
 
@@ -22,11 +20,7 @@ public final class SceneSettingsLight extends NativePeer {
         return light;
     }
 
-    /**
-     * Whether the view uses light at all.
-     *
-     * @return true at the start
-     */
+    /** {@return whether the view uses light at all, initially true} */
     public boolean isLightUsed() {
         return isLightUsed(this);
     }
@@ -34,17 +28,13 @@ public final class SceneSettingsLight extends NativePeer {
     /**
      * Sets whether the view uses light at all.
      *
-     * @param on false to show all colours as they are
+     * @param on false to show all colours without shading
      */
     public void setUseLight(boolean on) {
         setUseLight(this, on);
     }
 
-    /**
-     * Whether the ambient light that comes from no source is used.
-     *
-     * @return true at the start
-     */
+    /** {@return whether the ambient light that comes from no source is used, initially true} */
     public boolean isGlobalAmbientLight() {
         return isGlobalAmbientLight(this);
     }
@@ -58,29 +48,21 @@ public final class SceneSettingsLight extends NativePeer {
         setGlobalAmbientLight(this, on);
     }
 
-    /**
-     * Whether what the light sources add to the ambient light is used.
-     *
-     * @return true at the start
-     */
+    /** {@return whether the light sources add to the ambient light, initially true} */
     public boolean isAmbientLight() {
         return isAmbientLight(this);
     }
 
     /**
-     * Sets whether what the light sources add to the ambient light is used.
+     * Sets whether the light sources add to the ambient light.
      *
-     * @param on true to use it
+     * @param on true if they do
      */
     public void setAmbientLight(boolean on) {
         setAmbientLight(this, on);
     }
 
-    /**
-     * Whether the light that surfaces scatter is used.
-     *
-     * @return true at the start
-     */
+    /** {@return whether the light that surfaces scatter is used, initially true} */
     public boolean isDiffuseLight() {
         return isDiffuseLight(this);
     }
@@ -94,11 +76,7 @@ public final class SceneSettingsLight extends NativePeer {
         setDiffuseLight(this, on);
     }
 
-    /**
-     * Whether reflections of the light sources are used.
-     *
-     * @return true at the start
-     */
+    /** {@return whether reflections of the light sources are used, initially true} */
     public boolean isSpecularLight() {
         return isSpecularLight(this);
     }

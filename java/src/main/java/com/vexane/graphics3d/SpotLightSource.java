@@ -2,7 +2,7 @@ package com.vexane.graphics3d;
 
 import com.vexane.base.NativeException;
 
-/** Light that goes out from one point within a cone, as from a spotlight. */
+/** Light from one point within a cone, as from a spotlight. */
 public final class SpotLightSource extends LightSource {
     private SpotLightSource() {}
 
@@ -22,11 +22,7 @@ public final class SpotLightSource extends LightSource {
         return source;
     }
 
-    /**
-     * Where the light is.
-     *
-     * @return x, y and z; (0, 0, 1) at the start
-     */
+    /** {@return the position of the light: x, y and z, initially (0, 0, 1)} */
     public float[] getPosition() {
         float[] position = new float[3];
         getPosition(this, position);
@@ -34,7 +30,7 @@ public final class SpotLightSource extends LightSource {
     }
 
     /**
-     * Moves the light and turns it to (0, 0, 1), so set the direction after the position.
+     * Moves the light and sets its direction to (0, 0, 1), so set the direction after the position.
      *
      * @param world true if the position is in world coordinates; false if it is in those of the camera, with which the
      *     light then moves
@@ -46,11 +42,7 @@ public final class SpotLightSource extends LightSource {
         setPosition(this, world, x, y, z);
     }
 
-    /**
-     * The direction that the light shines to.
-     *
-     * @return x, y and z; (0, 0, -1) at the start
-     */
+    /** {@return the direction in which the light shines: x, y and z, initially (0, 0, -1)} */
     public float[] getAtDirection() {
         float[] direction = new float[3];
         getAtDirection(this, direction);
@@ -68,11 +60,7 @@ public final class SpotLightSource extends LightSource {
         setAtDirection(this, x, y, z);
     }
 
-    /**
-     * The angle of the cone.
-     *
-     * @return the angle in radians, a quarter of pi at the start
-     */
+    /** {@return the angle of the cone in radians, initially a quarter of pi} */
     public float getSpreadAngle() {
         return getSpreadAngle(this);
     }

@@ -1,10 +1,10 @@
 package com.vexane.graphics3d;
 
-/** How a text that becomes a title is written. */
-public enum TextFormat {
+/** How the text of a title is written. */
+public enum TextFormat implements NativeEnum {
     /** Plain text, in which braces and backslashes are ordinary characters. */
     PLAIN(1),
-    /** Text in the markup of titles, taken as it is. */
+    /** Text in the markup of titles, which is used unchanged. */
     MARKUP(2);
 
     private final int number;
@@ -13,11 +13,7 @@ public enum TextFormat {
         this.number = number;
     }
 
-    /**
-     * The number by which native code knows the format.
-     *
-     * @return 1 or 2
-     */
+    @Override
     public int number() {
         return number;
     }

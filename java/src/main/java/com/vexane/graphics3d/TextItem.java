@@ -1,7 +1,7 @@
 package com.vexane.graphics3d;
 
-/** The kinds of text that a picture holds, each with a font of its own. */
-public enum TextItem {
+/** The kinds of text in a picture, each with a font of its own. */
+public enum TextItem implements NativeEnum {
     /** Labels of points and parts. */
     LABEL(0),
     /** Titles of axes. */
@@ -10,7 +10,7 @@ public enum TextItem {
     AXIS_TICK(2),
     /** Titles of legends, and names in line legends. */
     LEGEND_TITLE(3),
-    /** Numbers beside legends. */
+    /** Numbers next to legends. */
     LEGEND_TICK(4),
     /** The title of the scene. */
     TITLE(5),
@@ -23,11 +23,7 @@ public enum TextItem {
         this.number = number;
     }
 
-    /**
-     * The number by which native code knows the kind of text.
-     *
-     * @return 0 to 6
-     */
+    @Override
     public int number() {
         return number;
     }

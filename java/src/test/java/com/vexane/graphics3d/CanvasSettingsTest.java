@@ -8,7 +8,11 @@ import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.vexane.base.NativeException;
+import com.vexane.graphics3d.AxisSetup.AxisType;
+import com.vexane.graphics3d.AxisSetup.LegendLayoutStrategy;
+import com.vexane.graphics3d.AxisSetup.LegendPosition;
 import com.vexane.graphics3d.Canvas3dSettings.HorizontalPosition;
+import com.vexane.graphics3d.Canvas3dSettings.MouseMode;
 import com.vexane.graphics3d.Canvas3dSettings.RenderMode;
 import com.vexane.graphics3d.Canvas3dSettings.Text;
 import com.vexane.graphics3d.Canvas3dSettings.VerticalPosition;
@@ -21,16 +25,16 @@ class CanvasSettingsTest {
     void everyValueComesBack() {
         try (Canvas3dSettings settings = new Canvas3dSettings()) {
             assertEquals(RenderMode.VIEW_3D, settings.getRenderMode());
-            assertEquals(1, settings.getMouseMode());
+            assertEquals(MouseMode.DEFAULT, settings.getMouseMode());
             assertTrue(settings.getSnap());
             assertFalse(settings.isAxisOrientationIndicatorShown());
             settings.setRenderMode(RenderMode.VIEW_2D);
-            settings.setMouseMode(6);
+            settings.setMouseMode(MouseMode.RENDERER_6);
             settings.setSnap(false);
             settings.setShowAxisOrientationIndicator(true);
             settings.setAxisOrientationIndicator(20, "r", 0x010203, "phi", 0x040506, "z", 0x070809);
             assertEquals(RenderMode.VIEW_2D, settings.getRenderMode());
-            assertEquals(6, settings.getMouseMode());
+            assertEquals(MouseMode.RENDERER_6, settings.getMouseMode());
             assertFalse(settings.getSnap());
             assertTrue(settings.isAxisOrientationIndicatorShown());
             for (Text text : Text.values()) {
@@ -130,14 +134,14 @@ class CanvasSettingsTest {
                             "Unknown legend layout strategy."),
                     CapturedLog.messagesOf(ErrorLog.Level.ERROR, () -> {
                         for (int mode : new int[] {-1, 7, Integer.MIN_VALUE}) {
-                            settings.setMouseMode(3);
-                            settings.setMouseMode(mode);
-                            assertEquals(0, settings.getMouseMode());
+                            settings.setMouseMode(MouseMode.RENDERER_3);
+                            Natives.call(Canvas3dSettings.class, "setMouseMode", settings, mode);
+                            assertEquals(MouseMode.RENDERER_0, settings.getMouseMode());
                         }
                         Natives.call(Canvas3dSettings.class, "setBackgroundImage", settings, 0, null, 3, 2);
                         Natives.call(Canvas3dSettings.class, "setBackgroundImage", settings, 0, null, 0, -1);
-                        axes.setLegendLayoutStrategy(6);
-                        assertEquals(0, axes.getLegendLayoutStrategy());
+                        Natives.call(AxisSetup.class, "setLegendLayoutStrategy", axes, 6);
+                        assertEquals(LegendLayoutStrategy.RENDERER_0, axes.getLegendLayoutStrategy());
                     }));
         }
     }
@@ -151,12 +155,12 @@ class CanvasSettingsTest {
             camera.setPreserveAspectRatio(false);
             axes.setXSpacing(0.5);
             grid.setGridColor(0x123456);
-            source.setMouseMode(4);
+            source.setMouseMode(MouseMode.RENDERER_4);
             try (Canvas3dSettings copy = Canvas3dSettings.copyOf(source);
                     Camera2d copiedCamera = Camera2d.connect(copy);
                     AxisSetup copiedAxes = AxisSetup.connect(copy);
                     GridBoxSettings copiedGrid = GridBoxSettings.connect(copy)) {
-                assertEquals(4, copy.getMouseMode());
+                assertEquals(MouseMode.RENDERER_4, copy.getMouseMode());
                 assertFalse(copiedCamera.isPreserveAspectRatio());
                 assertEquals(0.5, copiedAxes.getXAxisSpacing());
                 assertEquals(0x123456, copiedGrid.getGridColor());
@@ -184,8 +188,8 @@ class CanvasSettingsTest {
         try (TestRenderer view = new TestRenderer();
                 Canvas3dSettings settings = Canvas3dSettings.connect(view);
                 Canvas3dSettings again = Canvas3dSettings.connect(view)) {
-            settings.setMouseMode(5);
-            assertEquals(5, again.getMouseMode());
+            settings.setMouseMode(MouseMode.RENDERER_5);
+            assertEquals(MouseMode.RENDERER_5, again.getMouseMode());
             camera = Camera3d.connect(settings);
             axes = AxisSetup.connect(settings);
             grid = GridBoxSettings.connect(settings);
@@ -232,14 +236,13 @@ class CanvasSettingsTest {
     void axisSetupComesBack() {
         try (Canvas3dSettings settings = new Canvas3dSettings();
                 AxisSetup axes = AxisSetup.connect(settings)) {
-            assertEquals(1, axes.getLegendLayoutStrategy());
+            assertEquals(LegendLayoutStrategy.DEFAULT, axes.getLegendLayoutStrategy());
             assertArrayEquals(new double[0], axes.getExtraY());
-            axes.setAxisType(AxisSetup.TYPE_POLAR);
-            assertTrue(axes.isPolar());
-            axes.setAxisType(AxisSetup.TYPE_GRAPH);
-            assertTrue(axes.isGraph() && !axes.isPolar());
-            axes.setAxisType(99);
-            assertFalse(axes.isGraph() || axes.isPolar());
+            for (AxisType type : AxisType.values()) {
+                axes.setAxisType(type);
+                assertEquals(type == AxisType.POLAR, axes.isPolar(), type.name());
+                assertEquals(type == AxisType.GRAPH, axes.isGraph(), type.name());
+            }
             axes.setXAxisLog(true);
             assertTrue(axes.getXAxisLog() && !axes.getYAxisLog());
             axes.setYAxisLog(true);
@@ -253,9 +256,11 @@ class CanvasSettingsTest {
             axes.setExtraY(4);
             assertArrayEquals(new double[] {1, 2, 3}, axes.getExtraX());
             assertArrayEquals(new double[] {4}, axes.getExtraY());
-            axes.setLegendPosition(3);
-            axes.setLegendLayoutStrategy(5);
-            assertEquals(5, axes.getLegendLayoutStrategy());
+            axes.setLegendPosition(LegendPosition.RENDERER_3);
+            for (LegendLayoutStrategy strategy : LegendLayoutStrategy.values()) {
+                axes.setLegendLayoutStrategy(strategy);
+                assertEquals(strategy, axes.getLegendLayoutStrategy());
+            }
             axes.setXAxisTitle("x {m}");
             axes.setYAxisTitle("");
             axes.setSymmetryAxis("r");

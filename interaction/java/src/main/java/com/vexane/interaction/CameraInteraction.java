@@ -8,11 +8,11 @@ import com.vexane.graphics3d.Canvas3dGlobalSettings;
 /**
  * Turns what the mouse does over a view into the movement of its camera.
  *
- * <p>A press begins a drag with the camera that the view shows now and the action that
- * {@link Canvas3dGlobalSettings#getCameraMouseAction} has for the button and the keys; call
- * {@link Canvas3dGlobalSettings#setDefaultCameraMouseActions()} once, since the table is empty at first. While the
- * pointer moves, the camera shows a movement counted from the press, so it makes no difference how many events arrive.
- * The release keeps it, and cancelling, as on the Escape key, falls back.
+ * <p>A press begins a drag with the current camera of the view and the action that
+ * {@link Canvas3dGlobalSettings#getCameraMouseAction} returns for the button and the keys; call
+ * {@link Canvas3dGlobalSettings#setDefaultCameraMouseActions()} once, since the table is initially empty. While the
+ * pointer moves, the camera shows the movement since the press, so the number of events makes no difference. The
+ * release keeps it; cancelling, for example on the Escape key, restores the previous view.
  *
  * <pre>{@code
  * public void mousePressed(MouseEvent e) {
@@ -29,9 +29,9 @@ import com.vexane.graphics3d.Canvas3dGlobalSettings;
  * }
  * }</pre>
  *
- * <p>Pointer positions are pixels of the picture as mouse events give them: from the top left corner, also outside of
- * it. The settings of the view stay alive with the interaction. Closing it during a drag cancels the drag. All calls
- * take constant time and, as for all peers, come from one thread at a time, never while the view is drawn.
+ * <p>Pointer positions are pixels of the picture as in mouse events: from the top left corner, also outside the
+ * picture. The interaction keeps the settings of the view alive. Closing it during a drag cancels the drag. All calls
+ * take constant time. As for all peers, they must come from one thread at a time, never while the view is drawn.
  */
 public final class CameraInteraction extends NativePeer {
     /** The bit of the Shift key in a set of keys. */
@@ -49,12 +49,12 @@ public final class CameraInteraction extends NativePeer {
      * Makes an interaction with a view.
      *
      * @param renderer the peer of the renderer's view
-     * @param canvasHeight rows of the picture, at least 1
+     * @param canvasHeight the number of rows of the picture, at least 1
      * @return the interaction
      * @throws NullPointerException if the view's peer is null
      * @throws IllegalStateException if the view's peer is closed
      * @throws IllegalArgumentException if the height is below 1
-     * @throws com.vexane.base.NativeException if the peer is no view of a renderer, or the view has no settings
+     * @throws com.vexane.base.NativeException if the peer is not a view of a renderer, or the view has no settings
      * @throws UnsatisfiedLinkError if the native library or one that it needs cannot be loaded
      */
     public static CameraInteraction connect(NativePeer renderer, int canvasHeight) {
@@ -67,21 +67,20 @@ public final class CameraInteraction extends NativePeer {
     }
 
     /**
-     * The set of keys for {@link #press}.
+     * {@return the set of keys for {@link #press}, 0 to 7}
      *
      * @param shift whether Shift is held down
      * @param control whether Control is held down
      * @param alt whether Alt is held down
-     * @return the bits, 0 to 7
      */
     public static int keyMask(boolean shift, boolean control, boolean alt) {
         return (shift ? SHIFT : 0) | (control ? CONTROL : 0) | (alt ? ALT : 0);
     }
 
     /**
-     * Tells how many rows the picture has from now on. A drag keeps counting from its press.
+     * Sets the number of rows of the picture. A current drag is still measured from its press.
      *
-     * @param canvasHeight rows, at least 1
+     * @param canvasHeight the number of rows, at least 1
      * @throws IllegalArgumentException if the height is below 1
      */
     public void setCanvasHeight(int canvasHeight) {
@@ -90,10 +89,10 @@ public final class CameraInteraction extends NativePeer {
     }
 
     /**
-     * Begins a drag, if the button has an action under the keys, the camera knows the action (that of a 2D view knows
-     * only {@link CameraMouseAction#PAN} and {@link CameraMouseAction#ZOOM}), and the pointer is where the view draws.
-     * During a drag other buttons are ignored. The same button once more means that its release was lost: the drag ends
-     * as by {@link #release()}, and a new one may begin.
+     * Begins a drag, if the button has an action with these keys, the camera supports the action (that of a 2D view
+     * supports only {@link CameraMouseAction#PAN} and {@link CameraMouseAction#ZOOM}), and the pointer is in the area
+     * in which the view draws. During a drag other buttons are ignored. A second press of the same button means that
+     * its release was lost: the drag ends as by {@link #release()}, and a new one may begin.
      *
      * @param button 1 to 3, as mouse events count
      * @param keyMask the keys held down: {@link #SHIFT}, {@link #CONTROL} and {@link #ALT} together, 0 for none
@@ -114,7 +113,7 @@ public final class CameraInteraction extends NativePeer {
     }
 
     /**
-     * Moves the camera as far as the pointer has come since the press. Without a drag nothing happens.
+     * Moves the camera by the movement of the pointer since the press. Without a drag nothing happens.
      *
      * @param x column of the pointer
      * @param y row of the pointer, from the top
@@ -130,7 +129,7 @@ public final class CameraInteraction extends NativePeer {
     }
 
     /**
-     * Ends the drag and falls back to the view before it.
+     * Ends the drag and restores the view before it.
      *
      * @return whether the picture may have changed
      */
@@ -139,7 +138,8 @@ public final class CameraInteraction extends NativePeer {
     }
 
     /**
-     * Zooms about the pointer and keeps it. Ignored during a drag, and where the view does not draw.
+     * Zooms about the pointer and keeps the result. Ignored during a drag, and outside the area in which the view
+     * draws.
      *
      * @param notches how far the wheel was turned, above 0 towards the user, which makes the picture smaller; fractions
      *     are fine
@@ -152,8 +152,8 @@ public final class CameraInteraction extends NativePeer {
     }
 
     /**
-     * Zooms to a rectangle: its middle comes to the middle of the view, and all of it that the view shows stays
-     * visible. Ignored during a drag, and for a rectangle of which less than 2 pixels each way lie in the view.
+     * Zooms to a rectangle: its centre moves to the centre of the view, and all of it that the view shows stays
+     * visible. Ignored during a drag, and for a rectangle with less than 2 columns or rows in the view.
      *
      * @param x0 column of a corner
      * @param y0 row of that corner, from the top
@@ -165,20 +165,12 @@ public final class CameraInteraction extends NativePeer {
         return zoomToRectangle(this, x0, y0, x1, y1);
     }
 
-    /**
-     * Whether there is a drag.
-     *
-     * @return true from a press to its end
-     */
+    /** {@return whether there is a drag: true from a press to its end} */
     public boolean isDragging() {
         return isDragging(this);
     }
 
-    /**
-     * What the drag does.
-     *
-     * @return the action; {@link CameraMouseAction#NONE} if there is no drag
-     */
+    /** {@return what the current drag does; {@link CameraMouseAction#NONE} if there is no drag} */
     public CameraMouseAction getAction() {
         return CameraMouseAction.values()[getAction(this)];
     }

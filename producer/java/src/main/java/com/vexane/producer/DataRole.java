@@ -3,11 +3,10 @@ package com.vexane.producer;
 import java.util.Objects;
 
 /**
- * What a data array is to a plot. A record says for each role which of its data arrays plays it; one array may play
- * several.
+ * What a plot uses a data array for. A record specifies the data array of each role; one array may have several roles.
  *
- * <p>A principal plot uses the nine direction roles and the three of the vector in its own way, which
- * {@link #principalLength} and {@link #principalDirection} spell.
+ * <p>A principal plot uses the nine direction roles and the three vector roles in its own way, see
+ * {@link #principalLength} and {@link #principalDirection}.
  */
 public enum DataRole {
     /** The values that the colour table shows. */
@@ -20,9 +19,9 @@ public enum DataRole {
     VECTOR_X(7),
     /** Second component of a vector field. */
     VECTOR_Y(8),
-    /** Third component of a vector field; arrows without it lie in the plane. */
+    /** Third component of a vector field; arrows without it are drawn in the plane. */
     VECTOR_Z(9),
-    /** First component of the first direction, which a ribbon follows. */
+    /** First component of the first direction, along which a ribbon runs. */
     FIRST_DIRECTION_X(10),
     /** Second component of the first direction. */
     FIRST_DIRECTION_Y(11),
@@ -43,7 +42,7 @@ public enum DataRole {
     /** The levels of iso surfaces and contours: one value per point, or one for the whole group. */
     ISO_LEVEL(19);
 
-    /** How many numbers a record keeps for roles; some have no meaning to any plot. */
+    /** How many numbers a record has for roles; some have no meaning to any plot. */
     static final int COUNT = 22;
 
     private static final DataRole[] BY_NUMBER = new DataRole[COUNT];
@@ -60,20 +59,15 @@ public enum DataRole {
         this.number = number;
     }
 
-    /**
-     * The number by which native code knows the role.
-     *
-     * @return 0 to 21
-     */
+    /** {@return the number by which native code knows the role, 0 to 21} */
     public int number() {
         return number;
     }
 
     /**
-     * The role of an axis' length in a principal plot.
+     * {@return the role of the length of an axis in a principal plot}
      *
      * @param axis 0 to 2
-     * @return the role
      * @throws IndexOutOfBoundsException if there is no such axis
      */
     public static DataRole principalLength(int axis) {
@@ -81,15 +75,14 @@ public enum DataRole {
     }
 
     /**
-     * The role of a component of an axis' direction in a principal plot.
+     * {@return the role of a component of the direction of an axis in a principal plot}
      *
      * @param axis 0 to 2
      * @param component 0 for x, 1 for y, 2 for z
-     * @return the role
      * @throws IndexOutOfBoundsException if there is no such axis or component
      */
     public static DataRole principalDirection(int axis, int component) {
-        // The x components of all three axes stand side by side, then those of y, then those of z.
+        // The x components of all three axes come first, then the y components, then the z components.
         return BY_NUMBER[FIRST_DIRECTION_X.number + 3 * Objects.checkIndex(component, 3) + Objects.checkIndex(axis, 3)];
     }
 }

@@ -1,28 +1,28 @@
 package com.vexane.producer;
 
-/** What the data of a record are, where a plot or a file reader has to know. */
+/** The kinds of data that plots and file readers distinguish. */
 public enum PlotKind {
-    /** Whatever needs no kind of its own, such as arrows, slices, spheres and graphs. */
+    /** Data that need no kind of their own, such as those of arrows, slices, spheres and graphs. */
     GENERAL(0),
-    /** Lines in three dimensions, drawn as tubes; tubes of another kind lie in the plane. */
+    /** Lines in three dimensions, drawn as tubes; tubes of any other kind are in the plane. */
     LINES_3D(5),
-    /** Surfaces of equal value, one group a level. */
+    /** Surfaces of equal value, one group per level. */
     ISO_SURFACE(6),
     /** A field on triangles in the plane. */
     SURFACE_2D(8),
     /** A field on triangles in space. */
     SURFACE_3D(9),
-    /** A mesh in three dimensions; meshes of another kind lie in the plane. */
+    /** A mesh in three dimensions; meshes of any other kind are in the plane. */
     MESH_3D(12),
     /** Contour lines in the plane. */
     CONTOUR_2D(17),
     /** Contours in space. */
     CONTOUR_3D(18),
-    /** Principal values and directions in the plane; those of another kind lie in space. */
+    /** Principal values and directions in the plane; those of any other kind are in space. */
     PRINCIPAL_2D(19),
     /** Coordinate systems in the plane, drawn by principal plots. */
     PRINCIPAL_AXES_2D(21),
-    /** Point labels in the plane; those of another kind lie in space. */
+    /** Point labels in the plane; those of any other kind are in space. */
     POINT_LABEL_2D(23);
 
     private final int number;
@@ -31,11 +31,7 @@ public enum PlotKind {
         this.number = number;
     }
 
-    /**
-     * The number by which native code knows the kind.
-     *
-     * @return a number, unique among the kinds
-     */
+    /** {@return the number by which native code knows the kind, different for each kind} */
     public int number() {
         return number;
     }

@@ -8,7 +8,7 @@ import java.util.Map;
 import java.util.Objects;
 
 /**
- * Collects what a record holds and makes it.
+ * Collects the content of a record and makes the record.
  *
  * <pre>{@code
  * try (PostDataObject record = new PostDataBuilder(PlotKind.SURFACE_3D)
@@ -19,8 +19,8 @@ import java.util.Objects;
  * }
  * }</pre>
  *
- * <p>The values are copied once, from the arrays or direct buffers straight into the record, at the speed of memory. A
- * builder may be used again: every {@link #build} reads the arrays anew and makes a record of its own.
+ * <p>The values are copied once, directly from the arrays or direct buffers into the record. A builder may be used
+ * again: every {@link #build} reads the arrays again and makes another record.
  */
 public final class PostDataBuilder {
     private final PlotKind kind;
@@ -32,18 +32,19 @@ public final class PostDataBuilder {
      * Starts a record without groups and roles.
      *
      * @param kind what the data are
+     * @throws NullPointerException if the kind is null
      */
     public PostDataBuilder(PlotKind kind) {
         this.kind = Objects.requireNonNull(kind, "kind");
     }
 
     /**
-     * Says which data array plays a role, in all groups. A role that is not named is not filled.
+     * Sets the data array of a role, in all groups. Roles that are not set stay empty.
      *
      * @param role the role
-     * @param array the number of the data array, in the order in which a group got them
+     * @param array the index of the data array, in the order in which they are added to a group
      * @return this builder
-     * @throws IndexOutOfBoundsException if the number is negative
+     * @throws IndexOutOfBoundsException if the index is negative
      */
     public PostDataBuilder role(DataRole role, int array) {
         Objects.requireNonNull(role, "role");
@@ -68,10 +69,10 @@ public final class PostDataBuilder {
     /**
      * Sets the bounds of the whole record instead of having them computed from the finite coordinates of all groups.
      *
-     * @param axes for one to three axes, an array of minimum and maximum
+     * @param axes one array of minimum and maximum per axis, for one to three axes
      * @return this builder
-     * @throws IllegalArgumentException if there are other than one to three axes, or an axis is no range of two finite
-     *         numbers
+     * @throws IllegalArgumentException if there are other than one to three axes, or an axis is not a range of two
+     *     finite numbers
      */
     public PostDataBuilder bounds(double[]... axes) {
         Objects.requireNonNull(axes, "bounds");
@@ -91,15 +92,15 @@ public final class PostDataBuilder {
     }
 
     /**
-     * Makes the record. Nothing is made if something does not fit; the message names the group and the array.
+     * Makes the record. If arrays do not fit together, no record is made and the message names the group and the array.
      *
      * @return the record, to be closed by the caller
      * @throws IllegalStateException if there is no group, or a group has no coordinates
      * @throws IllegalArgumentException if arrays do not fit together: another number of axes or data arrays than in the
-     *         first group, or not one value or normal for each point; a single value for the whole group is taken where
-     *         {@link DataRole#ISO_LEVEL} alone names the array
-     * @throws IndexOutOfBoundsException if a role names an array that the groups do not have
-     * @throws com.vexane.base.NativeException if an element names a point that its group does not have
+     *     first group, or not one value or normal per point; a single value for the whole group is accepted where
+     *     {@link DataRole#ISO_LEVEL} is the only role of the array
+     * @throws IndexOutOfBoundsException if a role has an array that the groups do not have
+     * @throws com.vexane.base.NativeException if an element has a point that its group does not have
      */
     public PostDataObject build() {
         if (groups.isEmpty()) {

@@ -7,17 +7,17 @@ import java.util.ArrayList;
 import java.util.List;
 
 /**
- * One part of a record: points, what they are joined to, and values at them. A level, a slice or a line of a graph is
- * a group of its own; most records have one.
+ * One part of a record: points, the elements that connect them, and values at the points. A level, a slice or a line of
+ * a graph is a group of its own; most records have one group.
  *
- * <p>All values are arrays by axis, corner or quantity, never one object a point. Each can be a Java array or a direct
- * buffer in native byte order, of which the values from its position to its limit count. A group only keeps
- * references: the values are read when {@link PostDataBuilder#build} copies them, once.
+ * <p>All values are arrays per axis, corner or quantity, never one object per point. Each can be a Java array or a
+ * direct buffer in native byte order, whose values are those from its position to its limit. A group only keeps
+ * references: {@link PostDataBuilder#build} reads the values once, when it copies them.
  *
- * <p>Every method returns the group itself, and refuses what cannot be right by itself with a message that names the
- * array: {@link NullPointerException} for a missing array, {@link IllegalArgumentException} for a wrong number of
- * arrays, unequal lengths, or a buffer that is not direct or has another byte order. What has to fit together, such as
- * values and points, is tested by the builder.
+ * <p>Every method returns the group itself, and refuses an invalid argument with a message that names the array: {@link
+ * NullPointerException} for a missing array, {@link IllegalArgumentException} for a wrong number of arrays, unequal
+ * lengths, or a buffer that is not direct or has another byte order. Whether arrays fit together, such as values and
+ * points, is checked by the builder.
  */
 public final class PostDataGroup {
     Object[] coordinates;
@@ -25,10 +25,10 @@ public final class PostDataGroup {
     Object[] lineElements = {};
     Object[] normals = {};
     final List<Object> data = new ArrayList<>();
-    /** Minimum and maximum of each data array, or NaN where they are to be computed. */
+    /** Minimum and maximum of each data array; NaN where they are to be computed. */
     final List<double[]> limits = new ArrayList<>();
 
-    /** Makes a group without anything; it needs coordinates at least. */
+    /** Makes an empty group, which needs at least coordinates. */
     public PostDataGroup() {}
 
     /**
@@ -45,7 +45,7 @@ public final class PostDataGroup {
     /**
      * Sets the points.
      *
-     * @param axes x, y and z of all points: one to three direct buffers with equally many values left
+     * @param axes x, y and z of all points: one to three direct buffers with the same number of remaining values
      * @return this group
      */
     public PostDataGroup coordinates(DoubleBuffer... axes) {
@@ -54,10 +54,10 @@ public final class PostDataGroup {
     }
 
     /**
-     * Sets the elements. The number of arrays is the kind: one for points, two for lines, three for triangles, four for
-     * tetrahedra.
+     * Sets the elements. The number of arrays decides their kind: one for points, two for lines, three for triangles,
+     * four for tetrahedra.
      *
-     * @param corners one array for each corner: the points that the elements have there, counted from 0 in this group
+     * @param corners one array per corner: the index of the point in this group, from 0, of each element
      * @return this group
      */
     public PostDataGroup elements(int[]... corners) {
@@ -68,7 +68,7 @@ public final class PostDataGroup {
     /**
      * Sets the elements, as {@link #elements(int[]...)}.
      *
-     * @param corners one direct buffer for each corner
+     * @param corners one direct buffer per corner
      * @return this group
      */
     public PostDataGroup elements(IntBuffer... corners) {
@@ -77,13 +77,14 @@ public final class PostDataGroup {
     }
 
     /**
-     * Sets the elements to the triangles of a grid, two in each cell, for points that lie row by row. Seen with columns
-     * to the right and rows upwards, their corners go round counterclockwise.
+     * Sets the elements to the triangles of a grid, two per cell, for points that are stored row by row. Seen with
+     * columns to the right and rows upwards, their corners are in counterclockwise order.
      *
      * @param columns points in a row, at least 2
      * @param rows rows of points, at least 2
      * @return this group
-     * @throws IllegalArgumentException if a number is below 2, or the points or triangles are more than an int counts
+     * @throws IllegalArgumentException if a number is below 2, or there are more points or triangles than an int can
+     *     count
      */
     public PostDataGroup gridElements(int columns, int rows) {
         long cells = (columns - 1L) * (rows - 1L);
@@ -108,8 +109,8 @@ public final class PostDataGroup {
     /**
      * Adds lines that are drawn with triangles, such as the outline of a slice.
      *
-     * @param from the points where the lines begin, counted from 0 in this group
-     * @param to the points where they end
+     * @param from the indices of the points in this group, from 0, at which the lines start
+     * @param to the indices of the points at which they end
      * @return this group
      */
     public PostDataGroup lineElements(int[] from, int[] to) {
@@ -120,8 +121,8 @@ public final class PostDataGroup {
     /**
      * Adds lines that are drawn with triangles, as {@link #lineElements(int[], int[])}.
      *
-     * @param from a direct buffer with the points where the lines begin
-     * @param to a direct buffer with the points where they end
+     * @param from a direct buffer with the start points
+     * @param to a direct buffer with the end points
      * @return this group
      */
     public PostDataGroup lineElements(IntBuffer from, IntBuffer to) {
@@ -130,7 +131,7 @@ public final class PostDataGroup {
     }
 
     /**
-     * Sets the normals of all points. They are taken as they are and have to be of unit length.
+     * Sets the normals of all points. They must have unit length, which is not checked.
      *
      * @param x first components
      * @param y second components
@@ -156,12 +157,12 @@ public final class PostDataGroup {
     }
 
     /**
-     * Adds a data array; the first one added has the number 0. Its limits are computed: they span the finite values,
-     * so that a hole marked by NaN or an infinite outlier does not spoil the colours of all others. An array without
-     * any finite value gets plus infinity as its minimum and minus infinity as its maximum, which count for nothing
-     * beside the limits of other groups.
+     * Adds a data array; the first one added has the index 0. Its limits are computed from the finite values only, so
+     * that a hole marked by NaN or an infinite outlier does not spoil the colours of all other values. An array without
+     * finite values has plus infinity as its minimum and minus infinity as its maximum, which do not affect the limits
+     * of other groups.
      *
-     * @param values one value for each point, or a single one for the level of the whole group
+     * @param values one value per point, or a single one for the level of the whole group
      * @return this group
      */
     public PostDataGroup data(double[] values) {
@@ -171,7 +172,7 @@ public final class PostDataGroup {
     /**
      * Adds a data array, as {@link #data(double[])}.
      *
-     * @param values a direct buffer with one value for each point
+     * @param values a direct buffer with one value per point
      * @return this group
      */
     public PostDataGroup data(DoubleBuffer values) {
@@ -179,9 +180,9 @@ public final class PostDataGroup {
     }
 
     /**
-     * Adds a data array with limits that are known. Plots trust them: colours run from the one to the other.
+     * Adds a data array with known limits. Plots do not check them: colours range from one to the other.
      *
-     * @param values one value for each point
+     * @param values one value per point
      * @param min the smallest value
      * @param max the largest value
      * @return this group
@@ -192,9 +193,9 @@ public final class PostDataGroup {
     }
 
     /**
-     * Adds a data array with limits that are known, as {@link #data(double[], double, double)}.
+     * Adds a data array with known limits, as {@link #data(double[], double, double)}.
      *
-     * @param values a direct buffer with one value for each point
+     * @param values a direct buffer with one value per point
      * @param min the smallest value
      * @param max the largest value
      * @return this group

@@ -8,10 +8,10 @@ import java.util.Objects;
 import java.util.OptionalInt;
 
 /**
- * A record of post-processing results, from which a plot is filled. {@link PostDataBuilder} makes it from arrays; one
- * made by {@link #forFile} is empty and waits for a file reader.
+ * A record of post-processing results, from which a plot is filled. {@link PostDataBuilder} makes one from arrays;
+ * {@link #forFile} makes an empty one for a file reader to fill.
  *
- * <p>A plot copies what it needs, so the record may be closed as soon as the plot is filled. All methods that read
+ * <p>A plot copies what it needs, so the record may be closed as soon as the plot is filled. All methods that return
  * values return copies.
  */
 public final class PostDataObject extends NativePeer {
@@ -24,20 +24,20 @@ public final class PostDataObject extends NativePeer {
     }
 
     /**
-     * Makes an empty record that a file reader can fill. The kind says how the file is read and which data arrays that
-     * gives:
+     * Makes an empty record that a file reader can fill. The kind decides how the file is read and which data arrays
+     * the record gets:
      *
      * <ul>
-     *   <li>{@link PlotKind#SURFACE_2D}: array 0 is the file's data, array 1 the third coordinate
-     *   <li>{@link PlotKind#SURFACE_3D}: array 0 is the file's data
-     *   <li>{@link PlotKind#ISO_SURFACE}: array 0 is the level of each group, array 1 the file's data
+     * <li>{@link PlotKind#SURFACE_2D}: array 0 is the data of the file, array 1 the third coordinate
+     * <li>{@link PlotKind#SURFACE_3D}: array 0 is the data of the file
+     * <li>{@link PlotKind#ISO_SURFACE}: array 0 is the level of each group, array 1 the data of the file
      * </ul>
      *
      * @param kind one of these kinds
-     * @param roles which array plays which role
+     * @param roles the index of the array of each role
      * @return the record, to be closed by the caller
-     * @throws IllegalArgumentException if no file reader knows the kind
-     * @throws IndexOutOfBoundsException if a role names an array that the reader does not give
+     * @throws IllegalArgumentException if there is no file reader for the kind
+     * @throws IndexOutOfBoundsException if a role has an array that the record does not get
      */
     public static PostDataObject forFile(PlotKind kind, Map<DataRole, Integer> roles) {
         int arrays = switch (Objects.requireNonNull(kind, "kind")) {
@@ -69,109 +69,93 @@ public final class PostDataObject extends NativePeer {
         }
     }
 
-    /**
-     * What the data are.
-     *
-     * @return the kind
-     */
+    /** {@return what the data are} */
     public PlotKind getPlotKind() {
         return PlotKind.of(getPlotKind(this));
     }
 
     /**
-     * Which data array plays a role.
+     * {@return the index of the data array of a role, or nothing if the role is not filled}
      *
      * @param role the role
-     * @return the number of the array, or nothing if the role is not filled
      */
     public OptionalInt getArrayOf(DataRole role) {
         int array = getDataIndex(this, role.number());
         return array < 0 ? OptionalInt.empty() : OptionalInt.of(array);
     }
 
-    /**
-     * The number of groups.
-     *
-     * @return 0 for a record that waits for a file, else 1 or more
-     */
+    /** {@return the number of groups; 0 for a record that no file has been read into} */
     public int getNumGroups() {
         return getNumGroups(this);
     }
 
     /**
-     * The points of a group.
+     * {@return the points of a group, one array per axis}
      *
      * @param group the group, from 0
-     * @return an array for each axis
      */
     public double[][] getCoordinates(int group) {
         return getCoordinates(this, requireGroup(group));
     }
 
     /**
-     * The elements of a group.
+     * {@return the elements of a group, one array per corner; empty if the group has no elements}
      *
      * @param group the group, from 0
-     * @return an array for each corner; none if the group has no elements
      */
     public int[][] getElements(int group) {
         return getElements(this, requireGroup(group));
     }
 
     /**
-     * The data arrays of a group.
+     * {@return the data arrays of a group, one per quantity}
      *
      * @param group the group, from 0
-     * @return an array for each quantity
      */
     public double[][] getData(int group) {
         return getData(this, requireGroup(group));
     }
 
     /**
-     * The minima of the data arrays of a group.
+     * {@return the minimum of each data array of a group}
      *
      * @param group the group, from 0
-     * @return a value for each data array
      */
     public double[] getDataMin(int group) {
         return getDataMin(this, requireGroup(group));
     }
 
     /**
-     * The maxima of the data arrays of a group.
+     * {@return the maximum of each data array of a group}
      *
      * @param group the group, from 0
-     * @return a value for each data array
      */
     public double[] getDataMax(int group) {
         return getDataMax(this, requireGroup(group));
     }
 
     /**
-     * The normals of a group.
+     * {@return the normals of a group as arrays of x, y and z; empty if the group has no normals}
      *
      * @param group the group, from 0
-     * @return arrays of x, y and z; none if the group has no normals
      */
     public float[][] getNormals(int group) {
         return getNormals(this, requireGroup(group));
     }
 
     /**
-     * The lines of a group that are drawn with its triangles.
+     * {@return the start and the end points of the lines of a group that are drawn with its triangles; empty if the
+     * group has no such lines}
      *
      * @param group the group, from 0
-     * @return the beginnings and the ends; none if the group has no such lines
      */
     public int[][] getLineElements(int group) {
         return getLineElements(this, requireGroup(group));
     }
 
     /**
-     * The bounds of the whole record.
-     *
-     * @return minimum and maximum for each axis; nothing for a record that waits for a file
+     * {@return the minimum and the maximum of the whole record on each axis; empty for a record that no file has been
+     * read into}
      */
     public double[][] getBounds() {
         return getBounds(this);

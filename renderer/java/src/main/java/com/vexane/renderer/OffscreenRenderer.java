@@ -14,7 +14,7 @@ import java.nio.file.Path;
 import java.util.Objects;
 
 /**
- * A view that draws scenes into pictures which no window shows. It needs neither a screen nor a graphics card.
+ * A view that draws scenes into pictures in memory and files. It needs neither a screen nor a graphics card.
  *
  * <pre>{@code
  * try (OffscreenRenderer renderer = OffscreenRenderer.create(1600, 1000, 4)) {
@@ -28,15 +28,15 @@ import java.util.Objects;
  * <p>The view owns settings, to which peers connect: {@link Canvas3dSettings#connect Canvas3dSettings} and through them
  * cameras, backgrounds, grid box, axes and fonts; {@link com.vexane.graphics3d.SceneSettings#connect SceneSettings} for
  * title, legends, opacity and light switches while a scene is shown; {@link com.vexane.graphics3d.ContextData#connect
- * ContextData} for what the drawing context turned out to be. A new view is white. Sizes of fonts are in points of the
- * resolution of the screen, or of the export. The bits of the render mask are the {@code RENDER_} constants.
+ * ContextData} for the properties of the drawing context. A new view is white. Sizes of fonts are in points at the
+ * resolution of the screen or of the export. The bits of the render mask are the {@code RENDER_} constants.
  *
- * <p>Buffers of the scene go to the graphics hardware once and again only when their plots are filled anew, so a picture
- * after a change of legend limits, colours or view costs the drawing alone. Plots, titles and legends are read when a
- * picture is drawn: a scene must not be changed on another thread meanwhile. Calls may come from any thread, one at a
- * time.
+ * <p>Buffers of the scene are uploaded to the graphics hardware once, and again when their plots are filled again. A
+ * picture after a change of legend limits, colours or view uploads nothing. Plots, titles and legends are read while a
+ * picture is drawn, so another thread must not change the scene meanwhile. Calls may come from any thread, one at
+ * a time.
  *
- * <p>While a scene is shown it is kept alive, also if its peer is closed.
+ * <p>The view keeps its scene alive, even after the peer of the scene is closed.
  */
 public final class OffscreenRenderer extends NativePeer {
     /** Bit of the render mask: plots. */
@@ -57,25 +57,25 @@ public final class OffscreenRenderer extends NativePeer {
     /** Bit of the render mask: markers of lights. */
     public static final int RENDER_LIGHT_MARKERS = 0x20;
 
-    /** Bit of the render mask: the background; without it, everything stands on black. */
+    /** Bit of the render mask: the background; without it, the background is black. */
     public static final int RENDER_BACKGROUND = 0x40;
 
     private static final int BYTES_PER_PIXEL = 4;
 
-    /** The image that Java sees: memory of the virtual machine, so that it outlives the renderer. */
+    /** The image that callers see: memory of the virtual machine, so that it outlives the renderer. */
     private ByteBuffer image;
 
     private OffscreenRenderer() {}
 
     /**
-     * Makes a renderer whose pictures follow the multisample setting of {@link
+     * Makes a renderer whose pictures use the multisample setting of {@link
      * com.vexane.graphics3d.Canvas3dGlobalSettings}.
      *
      * @param width pixels in a row, at least 1
      * @param height rows, at least 1
      * @return the renderer
      * @throws IllegalArgumentException if a number is below 1
-     * @throws com.vexane.base.NativeException as with a number of samples
+     * @throws com.vexane.base.NativeException as for {@link #create(int, int, int)}
      * @throws UnsatisfiedLinkError if the native library or one that it needs cannot be loaded
      */
     public static OffscreenRenderer create(int width, int height) {
@@ -83,15 +83,15 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Makes a renderer. That starts the graphics driver, which takes some 50 to 200 milliseconds.
+     * Makes a renderer. This starts the graphics driver, which takes 50 to 200 milliseconds.
      *
      * @param width pixels in a row, at least 1
      * @param height rows, at least 1
-     * @param samples samples a pixel against jagged edges, 1 for none; reduced to what the driver has, often 4 or 8
+     * @param samples samples per pixel for smooth edges, 1 for none; reduced to what the driver offers, often 4 or 8
      * @return the renderer
      * @throws IllegalArgumentException if a number is below 1
      * @throws com.vexane.base.NativeException if the picture is larger than the driver allows, or if there is no
-     *     driver or font; the message says what is missing
+     *     driver or font; the message names what is missing
      * @throws UnsatisfiedLinkError if the native library or one that it needs cannot be loaded
      */
     public static OffscreenRenderer create(int width, int height, int samples) {
@@ -109,8 +109,8 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Shows a scene from the next picture on. A scene that is disposed is let go when the next picture is drawn. Another
-     * scene comes with new {@link com.vexane.graphics3d.SceneSettings}; the one that is shown already keeps its own.
+     * Shows a scene from the next picture on. A scene that has been disposed is released when the next picture is
+     * drawn. Another scene gets new {@link com.vexane.graphics3d.SceneSettings}; the current scene keeps its own.
      *
      * @param scene the scene, or null for an empty picture
      * @throws IllegalStateException if the scene is closed
@@ -120,12 +120,12 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Gives the picture another size. There is no image until the next {@link #draw()}.
+     * Changes the size of the picture. There is no image until the next {@link #draw()}.
      *
      * @param width pixels in a row, at least 1
      * @param height rows, at least 1
      * @throws IllegalArgumentException if a number is below 1
-     * @throws com.vexane.base.NativeException if the driver does not allow the size; the present one then stays
+     * @throws com.vexane.base.NativeException if the driver does not allow the size; the size then stays
      */
     public void resize(int width, int height) {
         requirePositive(width, "width");
@@ -133,54 +133,42 @@ public final class OffscreenRenderer extends NativePeer {
         resize(this, width, height);
     }
 
-    /**
-     * The width of the picture.
-     *
-     * @return pixels
-     */
+    /** {@return the width of the picture in pixels} */
     public int getWidth() {
         return getWidth(this);
     }
 
-    /**
-     * The height of the picture.
-     *
-     * @return rows
-     */
+    /** {@return the height of the picture in pixels} */
     public int getHeight() {
         return getHeight(this);
     }
 
-    /**
-     * The samples in use, which may be fewer than were asked for.
-     *
-     * @return samples a pixel
-     */
+    /** {@return the number of samples per pixel, which may be smaller than the one requested} */
     public int getSamples() {
         return getSamples(this);
     }
 
     /**
-     * Looks at the whole scene with the camera of the present render mode. A 3D camera keeps its direction and turns
-     * about the middle of the scene from now on. Without a scene, or with an empty one, nothing happens.
+     * Shows the whole scene with the camera of the current render mode. A 3D camera keeps its direction, and its
+     * rotation point becomes the centre of the scene. Without a scene, or with an empty one, nothing happens.
      */
     public void zoomExtents() {
         zoomExtents(this);
     }
 
     /**
-     * Looks at the whole scene from a direction with the 3D camera, as {@link #zoomExtents()} does; z points upwards in
+     * Shows the whole scene from a direction with the 3D camera, as {@link #zoomExtents()} does; z points upwards in
      * the picture.
      *
-     * @param azimuth degrees around the z axis, from the x axis on
-     * @param elevation degrees above the xy plane; at 90 and -90 the view goes along the z axis
+     * @param azimuth degrees around the z axis, from the x axis
+     * @param elevation degrees above the xy plane; at 90 and -90 the view is along the z axis
      * @throws IllegalArgumentException if a number is not finite
      */
     public void viewFrom(double azimuth, double elevation) {
         double a = Math.toRadians(requireFinite(azimuth, "azimuth"));
         double e = Math.toRadians(requireFinite(elevation, "elevation"));
         float[] towards = vector(-Math.cos(a) * Math.cos(e), -Math.sin(a) * Math.cos(e), -Math.sin(e));
-        // At right angles to the direction, so that it is as good a hint when that is vertical.
+        // Perpendicular to the direction, so that it is valid for vertical directions too.
         float[] up = vector(-Math.cos(a) * Math.sin(e), -Math.sin(a) * Math.sin(e), Math.cos(e));
         try (Canvas3dSettings settings = Canvas3dSettings.connect(this);
                 Camera3d camera = Camera3d.connect(settings)) {
@@ -194,7 +182,7 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Draws the scene as it is now.
+     * Draws the scene in its current state.
      *
      * @throws com.vexane.base.NativeException if the driver reports a fault
      */
@@ -203,14 +191,14 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * The picture drawn last, as a direct buffer of {@code width * height * 4} bytes: red, green, blue and alpha of each
-     * pixel, the top row first.
+     * The last picture drawn, as a direct buffer of {@code width * height * 4} bytes: red, green, blue and alpha of
+     * each pixel, the top row first.
      *
-     * <p>The buffer stays readable for as long as it is held, also after the renderer is closed. Its content is that of
-     * this call until the next one, which writes into the same memory unless the size has changed.
+     * <p>The buffer stays readable after the renderer is closed. The next call writes into the same memory unless the
+     * size has changed.
      *
      * @return the image, with position 0 and the limit at its end
-     * @throws com.vexane.base.NativeException if nothing was drawn since the size was given
+     * @throws com.vexane.base.NativeException if nothing has been drawn since the size was set
      */
     public ByteBuffer image() {
         int size = Math.multiplyExact(Math.multiplyExact(getWidth(), getHeight()), BYTES_PER_PIXEL);
@@ -222,12 +210,12 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Writes the picture drawn last to a PNG file with 8 bits a channel, without alpha.
+     * Writes the last picture drawn to a PNG file with 8 bits per channel, without alpha.
      *
      * @param file the file, which is replaced
      * @throws NullPointerException if the file is null
      * @throws IOException if the file cannot be written
-     * @throws com.vexane.base.NativeException if nothing was drawn since the size was given
+     * @throws com.vexane.base.NativeException if nothing has been drawn since the size was set
      */
     public void writePng(Path file) throws IOException {
         Objects.requireNonNull(file, "file");
@@ -235,11 +223,11 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Draws the view at a size of its own and writes it to a PNG file, with the resolution, decorations, background and
-     * sizes of fonts that the settings ask for and their texts in the file. The view itself stays as it is.
+     * Draws the view at another size and writes it to a PNG file, with the resolution, decorations, background and font
+     * sizes of the settings and with their texts in the file. The view itself does not change.
      *
      * @param file the file, which is replaced
-     * @param settings what is asked
+     * @param settings the settings of the export
      * @param width pixels in a row, at least 1
      * @param height rows, at least 1
      * @throws NullPointerException if file or settings are null
@@ -257,7 +245,8 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * What the renderer of this process can do, or what it lacks. The first call may start the graphics driver.
+     * What the renderer of this process can do, or which of its requirements are not met. The first call may start the
+     * graphics driver.
      *
      * @return a new peer, which the caller closes
      * @throws UnsatisfiedLinkError if the native library or one that it needs cannot be loaded
@@ -271,19 +260,14 @@ public final class OffscreenRenderer extends NativePeer {
 
     private static final class Info extends RendererInfo {}
 
-    /**
-     * Who draws: the way to the drawing context, the driver and its version, for reports.
-     *
-     * @return a line of text
-     */
+    /** {@return a line of text for reports: how the drawing context was obtained, the driver and its version} */
     public String describeDriver() {
         return describeDriver(this);
     }
 
     /**
-     * How often data were handed to the graphics hardware so far: what changes of the scene have cost.
-     *
-     * @return the counts
+     * {@return how often data have been uploaded to the graphics hardware so far, which shows what changes of the scene
+     * cost}
      */
     public UploadCounts countUploads() {
         int[] counts = new int[3];

@@ -47,7 +47,7 @@ public final class PolarView implements Picture {
             plot.setColorTable("magma", studio.colors("magma"), true);
             plot.fillPlot(record);
             plot.setLegendLimits(-40, 15);
-            studio.axes().setAxisType(AxisSetup.TYPE_POLAR);
+            studio.axes().setAxisType(AxisSetup.AxisType.POLAR);
             studio.show(plot, "Pressure level in dB").flat();
             studio.camera2d().setUseMode(Camera2d.UseMode.POLAR);
             studio.camera2d().setPolarLimits((float) FARTHEST, 0);
