@@ -1,6 +1,7 @@
 // A renderer in words: walks the tree of a scene and prints what it would load and draw.
 #include "graphics3d/buffers/vertexlayout.h"
 #include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/foundation/lastchangeid.h"
 #include "squarescene.h"
 
 #include <boost/weak_ptr.hpp>
