@@ -8,23 +8,24 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 # All shared objects lie side by side, and each finds its neighbours there.
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 set(CMAKE_INSTALL_RPATH $ORIGIN)
 
 # A compiler cache, where there is one, is shared by all checkouts: paths count from the root of each.
 find_program(VX_CCACHE ccache)
-if(VX_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
+if(PROJECT_IS_TOP_LEVEL AND VX_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
       ${VX_CCACHE})
 endif()
 
-if(NOT CMAKE_BUILD_TYPE)
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
 endif()
 
+# Linked privately: users of the libraries choose their own warnings.
 add_library(vx_options INTERFACE)
-target_include_directories(vx_options INTERFACE ${CMAKE_SOURCE_DIR})
+target_include_directories(vx_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(vx_options INTERFACE
   # The same bytes on every machine: no fused multiply-add, no excess precision.
   -ffp-contract=off
@@ -35,7 +36,7 @@ target_compile_options(vx_options INTERFACE
   -Wnon-virtual-dtor -Woverloaded-virtual -Wdouble-promotion -Wformat=2 -Wundef
   $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op -Wuseless-cast>
   $<$<CXX_COMPILER_ID:Clang>:-Wno-unknown-warning-option>)
-if(NOT DEFINED VX_WARNINGS_AS_ERRORS OR VX_WARNINGS_AS_ERRORS)
+if(VX_WARNINGS_AS_ERRORS)
   target_compile_options(vx_options INTERFACE -Werror)
 endif()
 if(VX_SANITIZE)
@@ -46,7 +47,7 @@ else()
 endif()
 target_link_options(vx_options INTERFACE -Wl,--as-needed)
 
-# Sources of a folder, found anew at every build.
+# Sources of a folder, searched again at every build.
 function(vx_glob result)
   file(GLOB_RECURSE files CONFIGURE_DEPENDS ${ARGN})
   set(${result} ${files} PARENT_SCOPE)

@@ -12,18 +12,18 @@ add_library(vx_jni_headers INTERFACE)
 target_include_directories(vx_jni_headers SYSTEM INTERFACE ${VX_JAVA_HOME}/include ${VX_JAVA_HOME}/include/linux)
 
 # vx_java_module(NAME name SOURCES folder [NEEDS module-target...] [NATIVE_HEADERS])
-# Compiles the Java sources below a folder into ${CMAKE_BINARY_DIR}/java/<name>/classes. With NATIVE_HEADERS the JNI
-# headers of the natives land in ${CMAKE_BINARY_DIR}/java/<name>/include, and the interface library <name>_headers
+# Compiles the Java sources below a folder into ${PROJECT_BINARY_DIR}/java/<name>/classes. With NATIVE_HEADERS the JNI
+# headers of the natives land in ${PROJECT_BINARY_DIR}/java/<name>/include, and the interface library vx_<name>_headers
 # carries them: a native whose signature differs from the Java method does not compile.
 function(vx_java_module)
   cmake_parse_arguments(arg "NATIVE_HEADERS" "NAME;SOURCES" "NEEDS" ${ARGN})
-  set(root ${CMAKE_BINARY_DIR}/java/${arg_NAME})
+  set(root ${PROJECT_BINARY_DIR}/java/${arg_NAME})
   vx_glob(files ${arg_SOURCES}/*.java)
   set(path)
   set(stamps)
   foreach(module ${arg_NEEDS})
-    list(APPEND path ${CMAKE_BINARY_DIR}/java/${module}/classes)
-    list(APPEND stamps ${CMAKE_BINARY_DIR}/java/${module}/stamp)
+    list(APPEND path ${PROJECT_BINARY_DIR}/java/${module}/classes)
+    list(APPEND stamps ${PROJECT_BINARY_DIR}/java/${module}/stamp)
   endforeach()
   list(JOIN path ":" path)
   set(options -g --release 17 -encoding UTF-8 -Xlint:all,-exports,-requires-automatic -Werror)
@@ -42,42 +42,46 @@ function(vx_java_module)
     DEPENDS ${files} ${stamps} ${root}/sources.txt
     COMMENT "Compiling Java module ${arg_NAME}"
     VERBATIM)
-  add_custom_target(${arg_NAME}_classes ALL DEPENDS ${root}/stamp)
+  add_custom_target(vx_${arg_NAME}_classes ALL DEPENDS ${root}/stamp)
   if(arg_NATIVE_HEADERS)
-    add_library(${arg_NAME}_headers INTERFACE)
-    target_include_directories(${arg_NAME}_headers INTERFACE ${root}/include)
-    target_link_libraries(${arg_NAME}_headers INTERFACE vx_jni_headers)
-    add_dependencies(${arg_NAME}_headers ${arg_NAME}_classes)
+    add_library(vx_${arg_NAME}_headers INTERFACE)
+    target_include_directories(vx_${arg_NAME}_headers INTERFACE ${root}/include)
+    target_link_libraries(vx_${arg_NAME}_headers INTERFACE vx_jni_headers)
+    add_dependencies(vx_${arg_NAME}_headers vx_${arg_NAME}_classes)
   endif()
 endfunction()
 
 # vx_java_jar(NAME module LIBRARIES target...)
-# Packs the classes of a module and native libraries into ${CMAKE_BINARY_DIR}/jars/vexane-<name>.jar, where the loader
-# finds the libraries.
+# Packs the classes of a module and native libraries into ${PROJECT_BINARY_DIR}/jars/vexane-<name>.jar, where the loader
+# finds the libraries under their plain names. It loads each after those that it needs, so the system matches what a
+# library needs with the sonames of the loaded ones and looks for no file.
 function(vx_java_jar)
   cmake_parse_arguments(arg "" "NAME" "LIBRARIES" ${ARGN})
-  set(jar ${CMAKE_BINARY_DIR}/jars/vexane-${arg_NAME}.jar)
-  set(root ${CMAKE_BINARY_DIR}/java/${arg_NAME})
+  set(jar ${PROJECT_BINARY_DIR}/jars/vexane-${arg_NAME}.jar)
+  set(root ${PROJECT_BINARY_DIR}/java/${arg_NAME})
   set(folder native/linux-${CMAKE_SYSTEM_PROCESSOR})
   set(copies)
   foreach(library ${arg_LIBRARIES})
-    list(APPEND copies COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:${library}> ${root}/packed/${folder}/)
+    list(APPEND copies COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:${library}>
+                ${root}/packed/${folder}/$<TARGET_LINKER_FILE_NAME:${library}>)
   endforeach()
   add_custom_command(OUTPUT ${jar}
-    COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/jars ${root}/packed/${folder}
+    COMMAND ${CMAKE_COMMAND} -E rm -rf ${root}/packed
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/jars ${root}/packed/${folder}
     ${copies}
-    COMMAND ${Java_JAR_EXECUTABLE} --create --file ${jar} -C ${root}/classes . -C ${root}/packed .
+    COMMAND ${Java_JAR_EXECUTABLE} --create --file ${jar} --module-version ${PROJECT_VERSION}
+            -C ${root}/classes . -C ${root}/packed .
     DEPENDS ${root}/stamp ${arg_LIBRARIES}
     COMMENT "Packing ${jar}"
     VERBATIM)
-  add_custom_target(${arg_NAME}_jar ALL DEPENDS ${jar})
-  install(FILES ${jar} DESTINATION share/java)
+  add_custom_target(vx_${arg_NAME}_jar ALL DEPENDS ${jar})
+  install(FILES ${jar} DESTINATION ${CMAKE_INSTALL_DATADIR}/java)
 endfunction()
 
 # vx_java_tests(SOURCES folder... NEEDS module... )
 # Compiles the JUnit tests of all modules, on the class path so that tests reach what packages hide, into
-# ${CMAKE_BINARY_DIR}/java/tests/classes, and writes the class path that runs them to ${CMAKE_BINARY_DIR}/java/tests/path.
-# The JNI headers of natives that the tests bring themselves are carried by the interface library java_tests_headers.
+# ${PROJECT_BINARY_DIR}/java/tests/classes, and writes the class path that runs them to ${PROJECT_BINARY_DIR}/java/tests/path.
+# The JNI headers of natives that the tests bring themselves are carried by the interface library vx_java_test_headers.
 function(vx_java_tests)
   cmake_parse_arguments(arg "" "" "SOURCES;NEEDS" ${ARGN})
   set(junit)
@@ -90,12 +94,12 @@ function(vx_java_tests)
     endif()
     list(APPEND junit /usr/share/java/${name}.jar)
   endforeach()
-  set(root ${CMAKE_BINARY_DIR}/java/tests)
+  set(root ${PROJECT_BINARY_DIR}/java/tests)
   set(path ${junit})
   set(stamps)
   foreach(module ${arg_NEEDS})
-    list(APPEND path ${CMAKE_BINARY_DIR}/java/${module}/classes)
-    list(APPEND stamps ${CMAKE_BINARY_DIR}/java/${module}/stamp)
+    list(APPEND path ${PROJECT_BINARY_DIR}/java/${module}/classes)
+    list(APPEND stamps ${PROJECT_BINARY_DIR}/java/${module}/stamp)
   endforeach()
   set(files)
   set(resources)
@@ -119,9 +123,9 @@ function(vx_java_tests)
     DEPENDS ${files} ${stamps} ${root}/sources.txt
     COMMENT "Compiling Java tests"
     VERBATIM)
-  add_custom_target(java_tests ALL DEPENDS ${root}/stamp)
-  add_library(java_tests_headers INTERFACE)
-  target_include_directories(java_tests_headers INTERFACE ${root}/include)
-  target_link_libraries(java_tests_headers INTERFACE vx_jni_headers)
-  add_dependencies(java_tests_headers java_tests)
+  add_custom_target(vx_java_test_classes ALL DEPENDS ${root}/stamp)
+  add_library(vx_java_test_headers INTERFACE)
+  target_include_directories(vx_java_test_headers INTERFACE ${root}/include)
+  target_link_libraries(vx_java_test_headers INTERFACE vx_jni_headers)
+  add_dependencies(vx_java_test_headers vx_java_test_classes)
 endfunction()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/export.h"
 #include "datacarrier/postdataobject.h"
 
 #include <limits>
@@ -10,7 +11,7 @@ namespace vxproducer {
 
 /// The range that values span. Without values it runs from plus to minus infinity, so that it counts for nothing when
 /// ranges are merged.
-struct ValueRange {
+struct VX_API ValueRange {
     double min = std::numeric_limits<double>::infinity();
     double max = -std::numeric_limits<double>::infinity();
 
@@ -19,15 +20,15 @@ struct ValueRange {
 };
 
 /// The range of the finite values; infinite ones and those that are no number are left out.
-ValueRange finiteRange(const std::vector<double>& values);
+VX_API ValueRange finiteRange(const std::vector<double>& values);
 
 /// The bounds of a record: by axis, the range of the finite coordinates of all groups, or 0 to 0 without any.
-vxdatacarrier::PostDataObject::DoubleArrays boundsOf(const vxdatacarrier::PostDataObject& record);
+VX_API vxdatacarrier::PostDataObject::DoubleArrays boundsOf(const vxdatacarrier::PostDataObject& record);
 
 /// Refuses indices outside the points.
 /// @param field,group what to call the arrays in the message
 /// @throws std::out_of_range for the first corner array that has one, with its first such index
-void requireInside(const vxdatacarrier::PostDataObject::IntArrays& corners, std::size_t numPoints, const char* field,
-                   std::size_t group);
+VX_API void requireInside(const vxdatacarrier::PostDataObject::IntArrays& corners, std::size_t numPoints,
+                          const char* field, std::size_t group);
 
 } // namespace vxproducer

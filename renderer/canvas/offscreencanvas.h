@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/export.h"
 #include "graphics3d/canvas/irenderercanvas.h"
 #include "renderer/canvas/sceneview.h"
 #include "renderer/frame/view.h"
@@ -40,7 +41,7 @@ enum class Quality {
 /// It owns the drawing context and everything that lives in it, the settings of the view with its cameras, and shares
 /// in the scene that it shows. The settings start as new ones do, but on white. Calls may come from any thread, one at
 /// a time, and never while the scene is being changed.
-class OffscreenCanvas : public vxgraphics3d::IRendererCanvas {
+class VX_API OffscreenCanvas : public vxgraphics3d::IRendererCanvas {
 public:
     /// @param samples a pixel against jagged edges, 1 for none; reduced to what the driver has. With 0 the picture
     /// follows the multisample setting of the process
