@@ -16,8 +16,8 @@ namespace vxgraphics3d {
 /// The lights of a scene, and the ambient light and intensity that hold for all of them.
 ///
 /// A scene owns one. It makes and owns the light sources; at most `c_maxActiveLights` of them shine at one time. All
-/// changes of its own values and of its sources' raise one change number. A source that a Java peer keeps longer goes on
-/// alone: it finds its scene light gone.
+/// changes of its own values and of its sources' raise one change number. A source that a Java peer keeps longer goes
+/// on alone: it finds its scene light gone.
 class VX_API SceneLight : public ILightSourceParent, public boost::enable_shared_from_this<SceneLight> {
 public:
     static constexpr int c_maxActiveLights = 8;

@@ -86,8 +86,8 @@ public:
 
     // What the kinds of nodes do in their own ways
 
-    /// Registers the snap vertices again under the parent. Not called for a node that comes under a parent at the top of
-    /// its tree, unless that is a root: roots keep the snap vertices.
+    /// Registers the snap vertices again under the parent. Not called for a node that comes under a parent at the top
+    /// of its tree, unless that is a root: roots keep the snap vertices.
     virtual void updateNodeSnapVertices();
     /// Withdraws the snap vertices from the parent.
     virtual void removeNodeSnapVertices();

@@ -30,8 +30,9 @@ import com.vexane.graphics3d.Canvas3dGlobalSettings;
  * }</pre>
  *
  * <p>Pointer positions are pixels of the picture as mouse events give them: from the top left corner, also outside of
- * it. The settings of the view stay alive with the interaction. Closing it during a drag cancels the drag. All calls
- * take constant time and, as for all peers, come from one thread at a time, never while the view is drawn.
+ * it. The settings of the view stay alive with the interaction. Closing it during a drag cancels the drag; if it is
+ * dropped without being closed, the camera stays as the drag shows it. All calls take constant time and, as for all
+ * peers, come from one thread at a time, never while the view is drawn.
  */
 public final class CameraInteraction extends NativePeer {
     /** The bit of the Shift key in a set of keys. */
