@@ -163,7 +163,7 @@ BENCHMARK(createScenes)->Arg(10)->Arg(1000)->Arg(100000);
 void createScenes_limit(benchmark::State& state)
 {
     struct Parts {
-        boost::shared_ptr<SceneLight> light = boost::make_shared<SceneLight>();
+        boost::shared_ptr<SceneLight> light = SceneLight::create();
         std::map<int, boost::shared_ptr<SceneSettings>> settings;
         boost::shared_ptr<SceneGraphRoot> root = SceneGraphRoot::create();
     };

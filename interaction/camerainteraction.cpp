@@ -78,11 +78,6 @@ CameraInteraction::CameraInteraction(boost::shared_ptr<Canvas3dSettings> setting
     }
 }
 
-CameraInteraction::~CameraInteraction()
-{
-    cancel();
-}
-
 void CameraInteraction::setCanvasHeight(int canvasHeight)
 {
     m_canvasHeight = requireHeight(canvasHeight);

@@ -22,8 +22,9 @@ namespace vxinteraction {
 /// its mode meanwhile. Pointer positions are pixels as mouse events give them: from the top left corner of the picture,
 /// also outside of it.
 ///
-/// It shares in the settings of the view, so they stay alive with it. Like the cameras that it drives it is not
-/// synchronised.
+/// It holds a reference to the settings of the view, so they stay alive with it. Like the cameras that it drives it is
+/// not synchronised. The destructor leaves the camera as a drag shows it, because it may run on a thread that must not
+/// touch the view: cancel() or release() the drag first. Closing the Java peer cancels it.
 class VX_API CameraInteraction {
 public:
     using Action = vxgraphics3d::Canvas3dGlobalSettings::CameraMouseAction;
@@ -34,8 +35,6 @@ public:
     /// @param canvasHeight rows of the picture, 1 or more
     /// @throws std::invalid_argument for settings that are null or a height below 1
     CameraInteraction(boost::shared_ptr<vxgraphics3d::Canvas3dSettings> settings, int canvasHeight);
-    /// Cancels a drag that has not ended.
-    ~CameraInteraction();
     CameraInteraction(const CameraInteraction&) = delete;
     CameraInteraction& operator=(const CameraInteraction&) = delete;
 

@@ -54,12 +54,7 @@ void Camera2d::import(const Camera2d& other)
         return;
     }
     Camera2d taken(other);
-    taken.m_canvasWidth = m_canvasWidth;
-    taken.m_canvasHeight = m_canvasHeight;
-    taken.m_renderAreaWidth = m_renderAreaWidth;
-    taken.m_renderAreaHeight = m_renderAreaHeight;
-    taken.m_renderAreaLeft = m_renderAreaLeft;
-    taken.m_renderAreaBottom = m_renderAreaBottom;
+    taken.m_renderArea = m_renderArea;
     taken.m_rotationPoint = m_rotationPoint;
     taken.m_rotationTransform = other.m_rotationTransform;
     *this = taken;
@@ -96,7 +91,7 @@ bool Camera2d::setViewLimits(float x0, float x1, float y0, float y1, bool preser
         if (!preserve) {
             const float largest = std::max(x1 - x0, y1 - y0);
             setAxisViewScales(largest / (x1 - x0),
-                              largest / (y1 - y0) * view::aspect(m_renderAreaHeight, m_renderAreaWidth));
+                              largest / (y1 - y0) * view::aspect(m_renderArea.height, m_renderArea.width));
         }
         intSetViewLimits(x0, x1, y0, y1, true);
         return true;
@@ -184,10 +179,10 @@ void Camera2d::moveToBoundingBox(const BoundingBox& box, float margin)
 
 void Camera2d::setRenderArea(int canvasWidth, int canvasHeight, int left, int bottom, int width, int height)
 {
-    m_canvasWidth = canvasWidth;
-    m_canvasHeight = canvasHeight;
-    m_renderAreaLeft = std::min(left, canvasWidth);
-    m_renderAreaBottom = std::min(bottom, canvasHeight);
+    m_renderArea.canvasWidth = canvasWidth;
+    m_renderArea.canvasHeight = canvasHeight;
+    m_renderArea.left = std::min(left, canvasWidth);
+    m_renderArea.bottom = std::min(bottom, canvasHeight);
     calculateViewLimits(std::max(width, 1), std::max(height, 1), resizeBehaviour());
     calculatePerspective();
 }
@@ -286,7 +281,7 @@ void Camera2d::intSetViewLimits(float x0, float x1, float y0, float y1, bool fit
     m_viewMaxX = x1;
     m_viewMinY = y0;
     m_viewMaxY = y1;
-    calculateViewLimits(m_renderAreaWidth, m_renderAreaHeight, fit ? c_limitsStayVisible : resizeBehaviour());
+    calculateViewLimits(m_renderArea.width, m_renderArea.height, fit ? c_limitsStayVisible : resizeBehaviour());
     if (fit) {
         const float rangeX = m_viewMaxX - m_viewMinX;
         if (rangeX > 0.0f && rangeX < x1 - x0) {
@@ -307,10 +302,10 @@ void Camera2d::intSetViewLimits(float x0, float x1, float y0, float y1, bool fit
 /// Takes a render area and adapts the base limits to its shape.
 void Camera2d::calculateViewLimits(int width, int height, ResizeBehaviour behaviour)
 {
-    const float oldAspect = view::aspect(m_renderAreaHeight, m_renderAreaWidth);
+    const float oldAspect = view::aspect(m_renderArea.height, m_renderArea.width);
     const float newAspect = view::aspect(height, width);
-    m_renderAreaWidth = width;
-    m_renderAreaHeight = height;
+    m_renderArea.width = width;
+    m_renderArea.height = height;
     const bool wide = newAspect <= 1.0f;
     if (m_cameraMode == ModeOneDimensional) {
         // The y range is fixed, so it is always the height that follows.
@@ -374,14 +369,14 @@ void Camera2d::calculateViewHeight(float aspect)
 
 void Camera2d::calculateViewingScales()
 {
-    m_viewingScaleY = (m_viewMaxY - m_viewMinY) / static_cast<float>(m_renderAreaHeight);
-    m_viewingScaleX = (m_viewMaxX - m_viewMinX) / static_cast<float>(m_renderAreaWidth);
+    m_viewingScaleY = (m_viewMaxY - m_viewMinY) / static_cast<float>(m_renderArea.height);
+    m_viewingScaleX = (m_viewMaxX - m_viewMinX) / static_cast<float>(m_renderArea.width);
 }
 
 /// Stretches the scene box to a square, and the square to the area unless the aspect ratio is preserved.
 void Camera2d::calcViewScalesFromSceneBB()
 {
-    const float k = m_preserveAspectRatio ? 1.0f : view::aspect(m_renderAreaHeight, m_renderAreaWidth);
+    const float k = m_preserveAspectRatio ? 1.0f : view::aspect(m_renderArea.height, m_renderArea.width);
     if (!m_sceneBox.isValid()) {
         setAxisViewScales(1.0f, k);
         return;

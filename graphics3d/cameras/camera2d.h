@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics3d/cameras/renderarea.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/viewing/icameraactions.h"
 #include "graphics3d/viewing/icameratransforms.h"
@@ -84,10 +85,10 @@ public:
     /// A size below 1 becomes 1, an origin beyond the canvas its far edge. The base limits follow the new shape by the
     /// resize behaviour.
     void setRenderArea(int canvasWidth, int canvasHeight, int left, int bottom, int width, int height) override;
-    int getRenderAreaWidth() const override { return m_renderAreaWidth; }
-    int getRenderAreaHeight() const override { return m_renderAreaHeight; }
-    int getRenderAreaLeft() const override { return m_renderAreaLeft; }
-    int getRenderAreaBottom() const override { return m_renderAreaBottom; }
+    int getRenderAreaWidth() const override { return m_renderArea.width; }
+    int getRenderAreaHeight() const override { return m_renderArea.height; }
+    int getRenderAreaLeft() const override { return m_renderArea.left; }
+    int getRenderAreaBottom() const override { return m_renderArea.bottom; }
     void setBoundingBox(const BoundingBox& box) override;
     /// The box flattened to z = 0, not scaled; an empty box stays empty.
     BoundingBox getViewBoundingBox(const BoundingBox& box) const override;
@@ -161,12 +162,7 @@ private:
     float m_additionalScaleY = 1.0f;
     float m_viewingScaleX = 1.0f;
     float m_viewingScaleY = 1.0f;
-    int m_canvasWidth = 100;
-    int m_canvasHeight = 100;
-    int m_renderAreaWidth = 100;
-    int m_renderAreaHeight = 100;
-    int m_renderAreaLeft = 0;
-    int m_renderAreaBottom = 0;
+    RenderArea m_renderArea;
     float m_viewMinX = 0.0f;
     float m_viewMaxX = 1.0f;
     float m_viewMinY = 0.0f;

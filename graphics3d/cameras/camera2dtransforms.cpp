@@ -44,11 +44,11 @@ const Matrixf& Camera2d::getInvAxisViewScaleTransform() const
 
 Vector3f Camera2d::screenToWorld(int x, int y, float z) const
 {
-    return {(m_actualMaxX - m_actualMinX) * view::pixelDistance(m_renderAreaLeft, x) /
-                    static_cast<float>(m_renderAreaWidth) +
+    return {(m_actualMaxX - m_actualMinX) * view::pixelDistance(m_renderArea.left, x) /
+                    static_cast<float>(m_renderArea.width) +
                 m_actualMinX,
-            (m_actualMaxY - m_actualMinY) * view::pixelDistance(m_renderAreaBottom, y) /
-                    static_cast<float>(m_renderAreaHeight) +
+            (m_actualMaxY - m_actualMinY) * view::pixelDistance(m_renderArea.bottom, y) /
+                    static_cast<float>(m_renderArea.height) +
                 m_actualMinY,
             -z};
 }
@@ -56,8 +56,9 @@ Vector3f Camera2d::screenToWorld(int x, int y, float z) const
 Vector3f Camera2d::worldToScreen(const Vector3f& point, const Matrixf& projection) const
 {
     const Vector3f device = point.transformed(m_viewTransform).transformed(projection);
-    return {(device.x * 0.5f + 0.5f) * static_cast<float>(m_renderAreaWidth) + static_cast<float>(m_renderAreaLeft),
-            (device.y * 0.5f + 0.5f) * static_cast<float>(m_renderAreaHeight) + static_cast<float>(m_renderAreaBottom),
+    return {(device.x * 0.5f + 0.5f) * static_cast<float>(m_renderArea.width) + static_cast<float>(m_renderArea.left),
+            (device.y * 0.5f + 0.5f) * static_cast<float>(m_renderArea.height) +
+                static_cast<float>(m_renderArea.bottom),
             device.z};
 }
 
@@ -73,8 +74,8 @@ Vector3f Camera2d::worldToScreenLH(const Vector3f& point) const
 
 void Camera2d::jitterPerspective(float dx, float dy)
 {
-    shiftProjection(2.0f * dx / static_cast<float>(m_renderAreaWidth),
-                    2.0f * dy / static_cast<float>(m_renderAreaHeight));
+    shiftProjection(2.0f * dx / static_cast<float>(m_renderArea.width),
+                    2.0f * dy / static_cast<float>(m_renderArea.height));
 }
 
 float Camera2d::worldToPixelScale(const Vector3f&) const
@@ -85,7 +86,7 @@ float Camera2d::worldToPixelScale(const Vector3f&) const
 
 float Camera2d::getPanSpeed() const
 {
-    return (m_viewMaxX - m_viewMinX) / static_cast<float>(m_renderAreaWidth);
+    return (m_viewMaxX - m_viewMinX) / static_cast<float>(m_renderArea.width);
 }
 
 void Camera2d::calculateDisplayedLimits()

@@ -95,12 +95,7 @@ void Camera3d::import(const Camera3d& other)
     }
     ChangeableSetting::import(other);
     Camera3d taken(other);
-    taken.m_canvasWidth = m_canvasWidth;
-    taken.m_canvasHeight = m_canvasHeight;
-    taken.m_renderAreaWidth = m_renderAreaWidth;
-    taken.m_renderAreaHeight = m_renderAreaHeight;
-    taken.m_renderAreaLeft = m_renderAreaLeft;
-    taken.m_renderAreaBottom = m_renderAreaBottom;
+    taken.m_renderArea = m_renderArea;
     taken.m_dollySpeedScale = m_dollySpeedScale;
     *this = taken;
     calculatePerspective();
@@ -207,14 +202,14 @@ void Camera3d::setOrthographicSize(float size)
 void Camera3d::setOrthographicWidth(float width)
 {
     m_orthographicWidth = width;
-    m_orthographicHeight = width / static_cast<float>(m_renderAreaWidth) * static_cast<float>(m_renderAreaHeight);
+    m_orthographicHeight = width / static_cast<float>(m_renderArea.width) * static_cast<float>(m_renderArea.height);
     recalculateIn(ProjectionOrthographic);
 }
 
 void Camera3d::setOrthographicHeight(float height)
 {
     m_orthographicHeight = height;
-    m_orthographicWidth = height / static_cast<float>(m_renderAreaHeight) * static_cast<float>(m_renderAreaWidth);
+    m_orthographicWidth = height / static_cast<float>(m_renderArea.height) * static_cast<float>(m_renderArea.width);
     recalculateIn(ProjectionOrthographic);
 }
 
@@ -299,7 +294,7 @@ Vector3f Camera3d::getUpDirection() const
 
 float Camera3d::getPanSpeed() const
 {
-    const float pixel = m_nearWidth / static_cast<float>(m_renderAreaWidth);
+    const float pixel = m_nearWidth / static_cast<float>(m_renderArea.width);
     return isOrthographicProjection() ? pixel : pixel * distanceToRotationPoint() / m_nearClip;
 }
 

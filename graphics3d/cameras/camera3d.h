@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics3d/cameras/halfangle.h"
+#include "graphics3d/cameras/renderarea.h"
 #include "graphics3d/foundation/changeablesetting.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/viewing/icameraactions.h"
@@ -142,10 +143,10 @@ public:
     const Vector3f& getRotationPoint() const override { return m_rotationPoint; }
     /// Computes the projection anew in every case; a change is counted only if a value differs.
     void setRenderArea(int canvasWidth, int canvasHeight, int left, int bottom, int width, int height) override;
-    int getRenderAreaWidth() const override { return m_renderAreaWidth; }
-    int getRenderAreaHeight() const override { return m_renderAreaHeight; }
-    int getRenderAreaLeft() const override { return m_renderAreaLeft; }
-    int getRenderAreaBottom() const override { return m_renderAreaBottom; }
+    int getRenderAreaWidth() const override { return m_renderArea.width; }
+    int getRenderAreaHeight() const override { return m_renderArea.height; }
+    int getRenderAreaLeft() const override { return m_renderArea.left; }
+    int getRenderAreaBottom() const override { return m_renderArea.bottom; }
     /// Fits the clipping planes to the scene, if that moves one of them by more than a tenth of their distance; only
     /// then a change is counted.
     void setBoundingBox(const BoundingBox& box) override;
@@ -194,12 +195,7 @@ private:
     float m_farClip = 100.0f;
     float m_viewingScale = 1.0f;
     ProjectionType m_projectionType = ProjectionPerspective;
-    int m_canvasWidth = 100;
-    int m_canvasHeight = 100;
-    int m_renderAreaWidth = 100;
-    int m_renderAreaHeight = 100;
-    int m_renderAreaLeft = 0;
-    int m_renderAreaBottom = 0;
+    RenderArea m_renderArea;
     float m_baseRelativeViewOffsetX = 0.0f;
     float m_baseRelativeViewOffsetY = 0.0f;
     float m_relativeViewOffsetX = 0.0f;

@@ -86,16 +86,16 @@ float Camera3d::getOrthographicSize() const
 Vector3f Camera3d::screenToWorld(int x, int y, float z) const
 {
     const Vector3f device(
-        view::pixelDistance(m_renderAreaLeft, x) * 2.0f / static_cast<float>(m_renderAreaWidth) - 1.0f,
-        view::pixelDistance(m_renderAreaBottom, y) * 2.0f / static_cast<float>(m_renderAreaHeight) - 1.0f, z);
+        view::pixelDistance(m_renderArea.left, x) * 2.0f / static_cast<float>(m_renderArea.width) - 1.0f,
+        view::pixelDistance(m_renderArea.bottom, y) * 2.0f / static_cast<float>(m_renderArea.height) - 1.0f, z);
     return device.transformed(m_invProjectionTransformRH).transformed(m_invAxisViewScaleTransform * m_invViewTransform);
 }
 
 Vector3f Camera3d::toPixels(const Vector3f& viewPoint, const Matrixf& projection) const
 {
     const Vector3f device = viewPoint.transformed(projection);
-    return {(device.x * 0.5f + 0.5f) * static_cast<float>(m_renderAreaWidth),
-            (device.y * 0.5f + 0.5f) * static_cast<float>(m_renderAreaHeight), device.z};
+    return {(device.x * 0.5f + 0.5f) * static_cast<float>(m_renderArea.width),
+            (device.y * 0.5f + 0.5f) * static_cast<float>(m_renderArea.height), device.z};
 }
 
 Vector3f Camera3d::worldToScreen(const Vector3f& point, const Matrixf& projection) const
@@ -124,14 +124,9 @@ float Camera3d::worldToPixelScale(const Vector3f& point) const
 
 void Camera3d::setRenderArea(int canvasWidth, int canvasHeight, int left, int bottom, int width, int height)
 {
-    if (canvasWidth != m_canvasWidth || canvasHeight != m_canvasHeight || left != m_renderAreaLeft ||
-        bottom != m_renderAreaBottom || width != m_renderAreaWidth || height != m_renderAreaHeight) {
-        m_canvasWidth = canvasWidth;
-        m_canvasHeight = canvasHeight;
-        m_renderAreaLeft = left;
-        m_renderAreaBottom = bottom;
-        m_renderAreaWidth = width;
-        m_renderAreaHeight = height;
+    const RenderArea area = {canvasWidth, canvasHeight, left, bottom, width, height};
+    if (!(area == m_renderArea)) {
+        m_renderArea = area;
         logInfo("Setting renderarea to, w:%d, h:%d.", width, height);
         countChange();
     }
@@ -175,8 +170,8 @@ BoundingBox Camera3d::getViewBoundingBox(const BoundingBox& box) const
 
 void Camera3d::jitterPerspective(float dx, float dy)
 {
-    const float jx = dx / static_cast<float>(m_renderAreaWidth) + m_relativeViewOffsetX;
-    const float jy = dy / static_cast<float>(m_renderAreaHeight) + m_relativeViewOffsetY;
+    const float jx = dx / static_cast<float>(m_renderArea.width) + m_relativeViewOffsetX;
+    const float jy = dy / static_cast<float>(m_renderArea.height) + m_relativeViewOffsetY;
     shiftProjection(jx, jy);
 }
 
@@ -230,7 +225,7 @@ bool Camera3d::widthGoverns(ResizeBehaviour behaviour, double baseRatio) const
 /// Height over width.
 float Camera3d::renderAreaRatio() const
 {
-    return view::aspect(m_renderAreaHeight, m_renderAreaWidth);
+    return view::aspect(m_renderArea.height, m_renderArea.width);
 }
 
 void Camera3d::calculateViewRectangle()
@@ -238,7 +233,7 @@ void Camera3d::calculateViewRectangle()
     const float areaRatio = renderAreaRatio();
     const ResizeBehaviour behaviour = resizeBehaviour();
     if (behaviour == ResizeBehaviour::ResizePixels) {
-        m_nearWidth = m_additionalScale * static_cast<float>(m_renderAreaWidth) / m_viewingScale;
+        m_nearWidth = m_additionalScale * static_cast<float>(m_renderArea.width) / m_viewingScale;
         m_nearHeight = m_nearWidth * areaRatio;
     } else if (isGoverned(behaviour)) {
         // In perspective the base view is given by tangents, at twice the near distance to cover both halves.

@@ -4,8 +4,8 @@
 
 namespace vxgraphics3d {
 
-DirectionLightSource::DirectionLightSource(int id, boost::shared_ptr<LightSourceLink> link)
-    : LightSource(LightDirection, id, std::move(link))
+DirectionLightSource::DirectionLightSource(int id, boost::weak_ptr<ILightSourceParent> parent)
+    : LightSource(LightDirection, id, std::move(parent))
 {}
 
 void DirectionLightSource::setFromDirection(bool world, const Vector3f& direction)

@@ -7,7 +7,7 @@ namespace vxgraphics3d {
 /// Light that comes from one direction everywhere, as from the sun.
 class VX_API DirectionLightSource : public LightSource {
 public:
-    DirectionLightSource(int id, boost::shared_ptr<LightSourceLink> link);
+    DirectionLightSource(int id, boost::weak_ptr<ILightSourceParent> parent);
 
     /// The direction that the light comes from; not normalised.
     const Vector3f& getFromDirection() const { return m_fromDirection; }

@@ -16,10 +16,4 @@ public:
     virtual ~ILightSourceParent();
 };
 
-/// The way from the sources to their owner. A Java peer may hold a source longer than its owner lives; the owner then
-/// empties the link, and the source goes on alone.
-struct LightSourceLink {
-    ILightSourceParent* parent = nullptr;
-};
-
 } // namespace vxgraphics3d

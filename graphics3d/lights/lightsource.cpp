@@ -8,15 +8,16 @@
 
 namespace vxgraphics3d {
 
-LightSource::LightSource(Type type, int id, boost::shared_ptr<LightSourceLink> link)
-    : m_type(type), m_id(id), m_link(std::move(link))
+LightSource::LightSource(Type type, int id, boost::weak_ptr<ILightSourceParent> parent)
+    : m_type(type), m_id(id), m_parent(std::move(parent))
 {}
 
 LightSource::~LightSource() = default;
 
 float LightSource::getEffectiveIntensity() const
 {
-    return m_link->parent != nullptr ? m_intensity * m_link->parent->getTotalLightSourceIntensity() : m_intensity;
+    const auto parent = m_parent.lock();
+    return parent ? m_intensity * parent->getTotalLightSourceIntensity() : m_intensity;
 }
 
 bool LightSource::setActive(bool active)
@@ -24,7 +25,8 @@ bool LightSource::setActive(bool active)
     if (active == m_active) {
         return active;
     }
-    if (m_link->parent == nullptr || m_link->parent->mayChangeLightSourceActiveState(m_id, active)) {
+    const auto parent = m_parent.lock();
+    if (!parent || parent->mayChangeLightSourceActiveState(m_id, active)) {
         store(m_active, active);
     }
     return m_active;
@@ -39,8 +41,8 @@ void LightSource::setActiveFlag(bool active)
 
 void LightSource::markChanged()
 {
-    if (m_link->parent != nullptr) {
-        m_link->parent->markChanged();
+    if (const auto parent = m_parent.lock()) {
+        parent->markChanged();
     }
 }
 

@@ -5,7 +5,7 @@
 #include "graphics3d/foundation/vector3f.h"
 #include "graphics3d/lights/ilightsourceparent.h"
 
-#include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
 
 #include <string>
 
@@ -70,7 +70,7 @@ public:
     void markChanged();
 
 protected:
-    LightSource(Type type, int id, boost::shared_ptr<LightSourceLink> link);
+    LightSource(Type type, int id, boost::weak_ptr<ILightSourceParent> parent);
 
     template <class T>
     void store(T& member, const T& value)
@@ -92,7 +92,7 @@ private:
     bool m_lockedToCamera = false;
     Type m_type;
     int m_id;
-    boost::shared_ptr<LightSourceLink> m_link;
+    boost::weak_ptr<ILightSourceParent> m_parent;
     std::string m_name;
     bool m_active = false;
     Color m_color{255, 255, 255, 255};

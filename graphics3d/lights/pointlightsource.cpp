@@ -4,8 +4,8 @@
 
 namespace vxgraphics3d {
 
-PointLightSource::PointLightSource(int id, boost::shared_ptr<LightSourceLink> link)
-    : LightSource(LightPoint, id, std::move(link))
+PointLightSource::PointLightSource(int id, boost::weak_ptr<ILightSourceParent> parent)
+    : LightSource(LightPoint, id, std::move(parent))
 {}
 
 void PointLightSource::setPosition(bool world, const Vector3f& position)

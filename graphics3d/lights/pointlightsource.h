@@ -7,7 +7,7 @@ namespace vxgraphics3d {
 /// Light that goes out from one point to all sides, as from a lamp.
 class VX_API PointLightSource : public LightSource {
 public:
-    PointLightSource(int id, boost::shared_ptr<LightSourceLink> link);
+    PointLightSource(int id, boost::weak_ptr<ILightSourceParent> parent);
 
     const Vector3f& getPosition() const { return m_position; }
     /// @param world whether the position is in world coordinates; otherwise the light is locked to the camera

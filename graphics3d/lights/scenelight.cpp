@@ -12,14 +12,13 @@
 
 namespace vxgraphics3d {
 
-SceneLight::SceneLight() : m_link(boost::make_shared<LightSourceLink>())
-{
-    m_link->parent = this;
-}
+SceneLight::SceneLight() = default;
 
-SceneLight::~SceneLight()
+SceneLight::~SceneLight() = default;
+
+boost::shared_ptr<SceneLight> SceneLight::create()
 {
-    m_link->parent = nullptr;
+    return boost::shared_ptr<SceneLight>(new SceneLight);
 }
 
 void SceneLight::markChanged()
@@ -31,7 +30,7 @@ template <class Source>
 int SceneLight::create()
 {
     const int id = ++m_lastLightId;
-    m_lightSources.emplace(id, boost::make_shared<Source>(id, m_link));
+    m_lightSources.emplace(id, boost::make_shared<Source>(id, weak_from_this()));
     markChanged();
     return id;
 }

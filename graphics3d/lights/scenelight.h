@@ -6,6 +6,7 @@
 #include "graphics3d/lights/ilightsourceparent.h"
 #include "graphics3d/lights/lightsource.h"
 
+#include <boost/enable_shared_from_this.hpp>
 #include <boost/shared_ptr.hpp>
 
 #include <map>
@@ -15,12 +16,13 @@ namespace vxgraphics3d {
 /// The lights of a scene, and the ambient light and intensity that hold for all of them.
 ///
 /// A scene owns one. It makes and owns the light sources; at most `c_maxActiveLights` of them shine at one time. All
-/// changes of its own values and of its sources' raise one change number.
-class VX_API SceneLight : public ILightSourceParent {
+/// changes of its own values and of its sources' raise one change number. A source that a Java peer keeps longer goes on
+/// alone: it finds its scene light gone.
+class VX_API SceneLight : public ILightSourceParent, public boost::enable_shared_from_this<SceneLight> {
 public:
     static constexpr int c_maxActiveLights = 8;
 
-    SceneLight();
+    static boost::shared_ptr<SceneLight> create();
     SceneLight(const SceneLight&) = delete;
     SceneLight& operator=(const SceneLight&) = delete;
     ~SceneLight() override;
@@ -69,6 +71,8 @@ public:
     bool mayChangeLightSourceActiveState(int id, bool active) override;
 
 private:
+    SceneLight();
+
     template <class Source>
     int create();
 
@@ -87,7 +91,6 @@ private:
     float m_ambientIntensity = 1.0f;
     float m_totalLightSourceIntensity = 1.0f;
     std::map<int, boost::shared_ptr<LightSource>> m_lightSources;
-    boost::shared_ptr<LightSourceLink> m_link;
 };
 
 } // namespace vxgraphics3d

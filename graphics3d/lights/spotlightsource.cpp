@@ -4,8 +4,8 @@
 
 namespace vxgraphics3d {
 
-SpotLightSource::SpotLightSource(int id, boost::shared_ptr<LightSourceLink> link)
-    : LightSource(LightSpot, id, std::move(link))
+SpotLightSource::SpotLightSource(int id, boost::weak_ptr<ILightSourceParent> parent)
+    : LightSource(LightSpot, id, std::move(parent))
 {}
 
 void SpotLightSource::place(bool world, const Vector3f& position, const Vector3f& atDirection)

@@ -7,7 +7,7 @@ namespace vxgraphics3d {
 /// Light that goes out from one point within a cone, as from a spotlight.
 class VX_API SpotLightSource : public LightSource {
 public:
-    SpotLightSource(int id, boost::shared_ptr<LightSourceLink> link);
+    SpotLightSource(int id, boost::weak_ptr<ILightSourceParent> parent);
 
     const Vector3f& getPosition() const { return m_position; }
     /// The direction that the light shines to.

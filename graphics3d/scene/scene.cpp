@@ -13,7 +13,7 @@ namespace vxgraphics3d {
 std::atomic<int> Scene::m_lastSceneId = 0;
 
 Scene::Scene()
-    : m_sceneId(++m_lastSceneId), m_sceneLight(boost::make_shared<SceneLight>()), m_root(SceneGraphRoot::create())
+    : m_sceneId(++m_lastSceneId), m_sceneLight(SceneLight::create()), m_root(SceneGraphRoot::create())
 {}
 
 // The members go in reverse order: the root first, then the settings, the lights last.

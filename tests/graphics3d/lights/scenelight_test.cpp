@@ -31,7 +31,8 @@ void expectNear(const Vector3f& actual, const Vector3f& expected)
 
 TEST(SceneLight, startsWithItsDefaults)
 {
-    SceneLight light;
+    const auto owner = SceneLight::create();
+    SceneLight& light = *owner;
     EXPECT_EQ(light.getChangeId(), 1);
     EXPECT_EQ(light.getGlobalAmbientColor(), (Color{255, 255, 255, 255}));
     EXPECT_EQ(light.getAmbientIntensity(), 1.0f);
@@ -58,7 +59,8 @@ TEST(SceneLight, startsWithItsDefaults)
 
 TEST(SceneLight, neverUsesAnIdAgainAndRefusesMissingOnes)
 {
-    SceneLight light;
+    const auto owner = SceneLight::create();
+    SceneLight& light = *owner;
     EXPECT_EQ(light.createPointLight(), 1);
     EXPECT_TRUE(light.removeLightSource(1));
     EXPECT_EQ(light.createSpotLight(), 2);
@@ -72,7 +74,8 @@ TEST(SceneLight, neverUsesAnIdAgainAndRefusesMissingOnes)
 
 TEST(SceneLight, aNinthLightIsRefusedUntilOneGoesOut)
 {
-    SceneLight light;
+    const auto owner = SceneLight::create();
+    SceneLight& light = *owner;
     for (int i = 1; i <= 9; ++i) {
         light.createDirectionLight();
     }
@@ -90,7 +93,8 @@ TEST(SceneLight, aNinthLightIsRefusedUntilOneGoesOut)
 
 TEST(SceneLight, removingCountsEachShiningLightAndOnceMore)
 {
-    SceneLight light;
+    const auto owner = SceneLight::create();
+    SceneLight& light = *owner;
     light.removeAllLightSources();
     EXPECT_EQ(light.getChangeId(), 1);
     light.createDirectionLight();
@@ -112,7 +116,8 @@ TEST(SceneLight, aSourceOutlivesItsSceneLight)
 {
     boost::shared_ptr<LightSource> source;
     {
-        SceneLight light;
+        const auto owner = SceneLight::create();
+        SceneLight& light = *owner;
         source = light.getLightSourcePtr(light.createPointLight());
         light.setTotalLightSourceIntensity(0.5f);
         source->setIntensity(3.0f);
@@ -126,7 +131,8 @@ TEST(SceneLight, aSourceOutlivesItsSceneLight)
 
 TEST(SceneLight, ambientScaleSharesTheAmbientIntensityAmongWhatShines)
 {
-    SceneLight light;
+    const auto owner = SceneLight::create();
+    SceneLight& light = *owner;
     light.setAmbientIntensity(0.6f);
     EXPECT_EQ(light.calculateAmbientScale(false, false), 0.0f);
     EXPECT_EQ(light.calculateAmbientScale(true, false), 0.6f);
@@ -142,7 +148,8 @@ TEST(SceneLight, ambientScaleSharesTheAmbientIntensityAmongWhatShines)
 
 TEST(SceneLight, countsChangesOfValuesOnceAndOfSourcesAlways)
 {
-    SceneLight light;
+    const auto owner = SceneLight::create();
+    SceneLight& light = *owner;
     light.createSpotLight();
     auto& spot = sourceOf<SpotLightSource>(light, 1);
     struct Case {
@@ -186,7 +193,8 @@ TEST(SceneLight, countsChangesOfValuesOnceAndOfSourcesAlways)
 
 TEST(LightSource, sphericalInputTurnsAroundZAndDownFromZ)
 {
-    SceneLight light;
+    const auto owner = SceneLight::create();
+    SceneLight& light = *owner;
     auto& direction = sourceOf<DirectionLightSource>(light, light.createDirectionLight());
     direction.setFromDirection(true, 0.0f, c_pi / 2.0f);
     expectNear(direction.getFromDirection(), {1.0f, 0.0f, 0.0f});
@@ -210,7 +218,8 @@ TEST(LightSource, lockingMovesIntoTheCameraAndReleasingBack)
     // From above: right is x, up is y turned to -z, so world z is the camera's y.
     camera.lookAt(Vector3f(0.0f, -5.0f, 0.0f), Vector3f(0.0f, 1.0f, 0.0f), Vector3f(0.0f, 0.0f, 1.0f));
     camera.setRotationPoint(Vector3f(1.0f, 0.0f, 0.0f));
-    SceneLight light;
+    const auto owner = SceneLight::create();
+    SceneLight& light = *owner;
     auto& direction = sourceOf<DirectionLightSource>(light, light.createDirectionLight());
     auto& point = sourceOf<PointLightSource>(light, light.createPointLight());
     auto& spot = sourceOf<SpotLightSource>(light, light.createSpotLight());

@@ -41,7 +41,8 @@ TEST(LightMarkers, standWhereTheirLightsShineFrom)
     camera.setAxisViewScales(1.0f, 1.0f, 4.0f);
     const BoundingBox box(-1.0f, 1.0f, -1.0f, 1.0f, 0.0f, 0.5f);
     const float radius = std::sqrt(3.0f);
-    SceneLight light;
+    const auto owner = SceneLight::create();
+    SceneLight& light = *owner;
     add<vxgraphics3d::DirectionLightSource>(light, &SceneLight::createDirectionLight)
         .setFromDirection(true, Vector3f(0.0f, 3.0f, 4.0f));
     add<vxgraphics3d::PointLightSource>(light, &SceneLight::createPointLight)

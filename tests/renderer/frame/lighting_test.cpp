@@ -79,7 +79,8 @@ protected:
     Lighting lighting() const { return Lighting::of(m_light, m_switches, m_camera); }
 
     Camera3d m_camera;
-    SceneLight m_light;
+    boost::shared_ptr<SceneLight> m_owner = SceneLight::create();
+    SceneLight& m_light = *m_owner;
     SceneSettingsLight m_switches;
 };
 
