@@ -69,8 +69,9 @@ void appendPoints(VertexBufferNormalTex& vertices, const PointPositions& positio
     });
 }
 
-void appendPoints(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors)
+void allocateVertices(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors)
 {
+    vertices.allocate(positions.count);
     VertexTex* out = vertices.appendUnwritten(positions.count);
     const auto count = static_cast<std::size_t>(positions.count);
     withPositions(positions, [&](auto position) {
