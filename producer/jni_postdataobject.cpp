@@ -62,6 +62,7 @@ VX_NATIVE(void, PostDataObject, addGroup)
  jdoubleArray limits, jobjectArray normals, jboolean computeNormals, jobjectArray lineElements)
 {
     guarded(env, [&] {
+        auto& record = peer<PostDataObject>(env, self);
         PostDataGroup group = {copyRows<double>(env, coordinates, "coordinates"),
                                copyRows<int>(env, elements, "elements"),
                                copyRows<double>(env, data, "data"),
@@ -77,7 +78,7 @@ VX_NATIVE(void, PostDataObject, addGroup)
             // Java marks limits that are to be computed by NaN, a group by an empty range.
             group.limits.push_back(std::isnan(ends[i]) ? ValueRange() : ValueRange{ends[i], ends[i + 1]});
         }
-        append(peer<PostDataObject>(env, self), std::move(group));
+        append(record, std::move(group));
     });
 }
 
