@@ -6,7 +6,6 @@ import com.vexane.graphics3d.Camera3d;
 import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.DirectionLightSource;
 import com.vexane.graphics3d.GridBoxSettings;
-import com.vexane.graphics3d.PostDataReader;
 import com.vexane.graphics3d.Scene;
 import com.vexane.graphics3d.SceneGraphPlot;
 import com.vexane.graphics3d.SceneGraphPlotGroup;
@@ -95,7 +94,7 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Reads a file of sample data by the library's reader.
+     * Reads a file of sample data.
      *
      * @param file its name
      * @param kind the kind of plot that the data are for
@@ -104,12 +103,7 @@ public final class Studio implements AutoCloseable {
      * @throws IOException if the file cannot be read
      */
     public PostDataObject read(String file, PlotKind kind, Map<DataRole, Integer> roles) throws IOException {
-        PostDataObject record = PostDataObject.forFile(kind, roles);
-        if (!PostDataReader.readPostData(record, data(file))) {
-            record.close();
-            throw new IOException(file + " cannot be read; the log says why.");
-        }
-        return record;
+        return PostDataObject.read(kind, roles, data(file));
     }
 
     /**
