@@ -31,8 +31,8 @@ class Target;
 /// How much work goes into a picture.
 enum class Quality {
     full,
-    /// For a picture that the next one replaces at once, as while the user drags the scene: one sample a pixel, so edges
-    /// are jagged. Everything is at the same place as in the full picture.
+    /// For a picture that the next one replaces at once, as while the user drags the scene: one sample a pixel, so
+    /// edges are jagged. Everything is at the same place as in the full picture.
     draft
 };
 

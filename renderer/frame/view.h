@@ -30,7 +30,8 @@ struct View {
     ///
     /// A line keeps the depth of its middle across its width, and a steep face comes before that at one side of it. The
     /// distance is six times the half width, or three pixels, in the scale of the picture: enough for faces up to 80
-    /// degrees, and too little to show a line that is visibly behind something. All faces of a flat view have one depth.
+    /// degrees, and too little to show a line that is visibly behind something. All faces of a flat view have one
+    /// depth.
     DepthShift aboveFaces(float lineWidth) const;
 
     /// The present view of a camera that draws to an area.

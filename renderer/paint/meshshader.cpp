@@ -146,8 +146,8 @@ std::string MeshShader::vertexSource() const
 
 std::string MeshShader::fragmentSource() const
 {
-    return constant("isRestricted", isRestricted) + constant("isLit", isLit) +
-           constant("lacksNormals", lacksNormals) + constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
+    return constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
+           constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
            constant("hasHighlights", hasHighlights) + "const int c_numLights = " + std::to_string(numLights) + ";\n" +
            Material::c_source + c_fragmentMain;
 }

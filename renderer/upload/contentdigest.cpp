@@ -68,8 +68,7 @@ std::uint64_t contentDigest(const vxgraphics3d::VertexBuffer& vertices, const vx
 {
     Digest digest;
     digest.addNumber(vertices.getVertexType());
-    digest.add(vertices.vertexPointer(),
-               std::ptrdiff_t{vertices.getVertexSize()} * vertices.getNumberOfVertices());
+    digest.add(vertices.vertexPointer(), std::ptrdiff_t{vertices.getVertexSize()} * vertices.getNumberOfVertices());
     digest.addNumber(indices.getType());
     const std::vector<int>& starts = indices.getSegmentStarts();
     digest.add(starts.data(), static_cast<std::ptrdiff_t>(starts.size() * sizeof(int)));

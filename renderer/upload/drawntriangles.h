@@ -14,10 +14,10 @@ class CheckedIndices;
 
 /// The triangles of an index buffer in the form that the graphics hardware draws them in.
 ///
-/// A triangle is left out if the position or the texture coordinate of one of its corners is not finite: no place and no
-/// colour stands for it. The corners of all others run counter-clockwise for an eye on the side that their normals point
-/// to, so that the hardware knows which side of a surface it shows: plots keep the order of their source, which may be
-/// either.
+/// A triangle is left out if the position or the texture coordinate of one of its corners is not finite: no place and
+/// no colour stands for it. The corners of all others run counter-clockwise for an eye on the side that their normals
+/// point to, so that the hardware knows which side of a surface it shows: plots keep the order of their source, which
+/// may be either.
 struct DrawnTriangles {
     DrawnTriangles(const CheckedIndices& source, const vxgraphics3d::VertexBuffer& vertices,
                    const vxgraphics3d::VertexLayout& layout);

@@ -26,9 +26,9 @@ namespace vxrenderer {
 /// given out lives until `dropLost`.
 ///
 /// Data are looked at again when `changeId`, the change number that counts their changes, differs from the one seen
-/// last. Numbers also move for other reasons, as that of a plot's geometry does when a value restriction is switched on:
-/// buffers whose content is the same are not loaded again. Data that cannot be drawn are reported once for each change
-/// and give null.
+/// last. Numbers also move for other reasons, as that of a plot's geometry does when a value restriction is switched
+/// on: buffers whose content is the same are not loaded again. Data that cannot be drawn are reported once for each
+/// change and give null.
 class UploadCache {
 public:
     explicit UploadCache(UploadCounts& counts) : m_counts(counts) {}
