@@ -44,6 +44,15 @@ bool isMirrored(const Matrixf& matrix)
            0.0;
 }
 
+/// Steps to which the driver rounds positions, from the middle of a viewport to its sides.
+std::array<float, 2> roundingOf(const PixelArea& viewport)
+{
+    GLint bits = 0;
+    glGetIntegerv(GL_SUBPIXEL_BITS, &bits);
+    const float steps = 0.5f * static_cast<float>(1 << bits);
+    return {steps * static_cast<float>(viewport.width), steps * static_cast<float>(viewport.height)};
+}
+
 /// What the light of a frame asks of a shader.
 MeshShader lightShaderOf(const View& view, const Lighting& light)
 {
@@ -83,8 +92,10 @@ struct MeshPainter::ViewBlock {
     static constexpr GLuint c_binding = 0;
 
     std::array<float, 16> projection;
+    /// Steps to which the driver rounds positions, from the middle of the view to its sides.
+    std::array<float, 2> grid;
     std::int32_t isPerspective;
-    std::array<std::int32_t, 3> unused{};
+    std::int32_t unused = 0;
 };
 
 struct MeshPainter::LightBlock {
@@ -108,7 +119,7 @@ struct MeshPainter::ModelBlock {
 
 void MeshPainter::begin(const View& view, const Lighting& light)
 {
-    m_view.set({elementsOf(view.projection), view.isPerspective ? 1 : 0});
+    m_view.set({elementsOf(view.projection), roundingOf(view.area), view.isPerspective ? 1 : 0});
     m_light.set({light.ambient, light.places, light.diffuse, light.specular, light.cones});
     m_lightShader = lightShaderOf(view, light);
 }

@@ -11,6 +11,7 @@ namespace {
 constexpr const char* c_vertexBlocks = R"(
 layout(std140) uniform View {
     mat4 projection;
+    vec2 grid;
     bool isPerspective;
 };
 layout(std140) uniform Model {
@@ -23,6 +24,16 @@ centroid out float u;
 centroid out vec3 eyePosition;
 centroid out vec3 eyeNormal;
 out vec3 slopePosition;
+
+// Graphics hardware rounds corners to parts of a pixel before it finds out which samples a triangle covers, yet takes its
+// depths from the corners as they were: next to an outline the back of a surface would come before its front. Rounding
+// corners here keeps both together.
+vec4 clipPlace(vec4 eye)
+{
+    vec4 place = projection * eye;
+    vec2 steps = grid / place.w;
+    return vec4(place.w > 0.0 ? round(place.xy * steps) / steps : place.xy, place.zw);
+}
 
 // What is not finite is as good as absent.
 vec3 usable(vec3 v)
@@ -41,7 +52,7 @@ void main()
     slopePosition = eye.xyz;
     eyeNormal = mat3(normalMatrix) * usable(normal);
     u = texturePlace.x;
-    gl_Position = projection * eye;
+    gl_Position = clipPlace(eye);
 }
 )";
 
@@ -61,7 +72,7 @@ void main()
     slopePosition = eye.xyz;
     eyeNormal = mat3(normalMatrix) * (turn * usable(normal));
     u = instanceU;
-    gl_Position = projection * eye;
+    gl_Position = clipPlace(eye);
 }
 )";
 
@@ -70,6 +81,7 @@ const int c_maxLights = 8;
 
 layout(std140) uniform View {
     mat4 projection;
+    vec2 grid;
     bool isPerspective;
 };
 layout(std140) uniform Light {
