@@ -288,7 +288,7 @@ private:
         Vector3f from = at(part, 0.0);
         for (int i = 1; i <= corners; ++i) {
             const Vector3f to = at(part, 360.0 * (i % corners) / corners);
-            lines.push_back({from, to, isMinor});
+            lines.push_back({from, to, isMinor, true});
             from = to;
         }
     }

@@ -15,6 +15,7 @@
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/overlaypainter.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vxrenderer {
@@ -65,6 +66,19 @@ void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int wi
         Color faint = color;
         faint.alpha = isMinor ? color.alpha * c_minorAlpha / 255 : color.alpha;
         painter.draw(segments, {toClip, width, height, lineWidth}, faint);
+    }
+}
+
+/// Moves a line along a side of the picture onto whole pixels, over two of which it would be spread in half its colour:
+/// one of odd width to the middles of pixels, one of even width to their borders. Pieces of circles stay together.
+void snapToPixels(AxisLine& line, float lineWidth)
+{
+    if (line.isArc || (line.from.x != line.to.x && line.from.y != line.to.y)) {
+        return;
+    }
+    const bool isOdd = std::max(std::lround(lineWidth), 1L) % 2 != 0;
+    for (float* coordinate : {&line.from.x, &line.from.y, &line.to.x, &line.to.y}) {
+        *coordinate = isOdd ? std::floor(*coordinate) + 0.5f : std::round(*coordinate);
     }
 }
 
@@ -123,6 +137,11 @@ void AxesPainter::layOutAxes2d(const Frame& frame, const View& view, const AxisF
     m_around = std::move(layout.frame);
     append(m_around, layout.ticks);
     m_labels = std::move(layout.labels);
+    for (std::vector<AxisLine>* lines : {&m_behind, &m_around}) {
+        for (AxisLine& line : *lines) {
+            snapToPixels(line, c_lineWidth * m_scale);
+        }
+    }
 }
 
 void AxesPainter::drawBehind(const LinePainter& painter) const

@@ -177,9 +177,9 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
 {
     const BoundingBox& box = frame.scene->getBoundingBox();
     for (const LightMarker& marker : lightMarkers(*frame.scene->getSceneLight(), box, frame.camera)) {
-        const float width = marker.isSelected ? c_selectedMarkerWidth : c_markerWidth;
+        const float width = (marker.isSelected ? c_selectedMarkerWidth : c_markerWidth) * frame.appearance.scale;
         m_lines.draw(marker.lines,
-                     {m_view.projection, m_view.area.width, m_view.area.height, width * frame.appearance.scale},
+                     {m_view.projection, m_view.area.width, m_view.area.height, width, m_view.aboveFaces(width)},
                      marker.color);
     }
 }

@@ -133,6 +133,15 @@ TEST_F(OffscreenCanvasTest, changesOfLegendRestrictionAndHeightUploadNothing)
     plot->setColor({9, 8, 7, 255});
     EXPECT_EQ(colorAt(drawn(m_canvas), {0.5f, 0.5f, 1.0f}), (Rgb{9, 8, 7}));
     EXPECT_EQ(m_canvas.getUploadCounts(), before);
+
+    // Switching a restriction moves the number of the geometry, and so does filling in the same data.
+    plot->setValueRestrictions(0.3, 2.0);
+    EXPECT_EQ(colorAt(drawn(m_canvas), {0.2f, 0.4f, 0.0f}), c_white);
+    plot->resetValueRestrictions();
+    EXPECT_EQ(colorAt(drawn(m_canvas), {0.2f, 0.4f, 0.0f}), (Rgb{9, 8, 7}));
+    plot->fillPlot(GridRecord().make());
+    drawn(m_canvas);
+    EXPECT_EQ(m_canvas.getUploadCounts(), before);
 }
 
 TEST_F(OffscreenCanvasTest, uploadsWhatAFillChangedAndNothingElse)
@@ -153,6 +162,17 @@ TEST_F(OffscreenCanvasTest, uploadsWhatAFillChangedAndNothingElse)
     drawn(m_canvas);
     EXPECT_EQ(m_canvas.getUploadCounts().meshes, 3);
     EXPECT_EQ(m_canvas.getUploadCounts().colorTables, 3);
+
+    // One value, or one corner, of many.
+    auto changed = record.make();
+    (*changed.m_data[0])[0].back() = 0.75;
+    second->fillPlot(changed);
+    drawn(m_canvas);
+    EXPECT_EQ(m_canvas.getUploadCounts().meshes, 4);
+    (*changed.m_elements[0])[2].back() = 0;
+    second->fillPlot(changed);
+    drawn(m_canvas);
+    EXPECT_EQ(m_canvas.getUploadCounts().meshes, 5);
 }
 
 TEST_F(OffscreenCanvasTest, restrictionHidesWhatLiesOutsideAndPunchesNoHoles)
