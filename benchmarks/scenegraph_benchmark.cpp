@@ -48,7 +48,7 @@ void check(benchmark::State& state, const BoundingBox& box, const BoundingBox& e
     }
 }
 
-// --- adding children to one group: a place in the table, the links between child and group, and one merge each -------
+// --- adding children to one group: an entry in the table, the links between child and group, and one merge each ------
 //
 // The limit is the merging of the children's boxes alone, into a box in memory, as that of a group is. Leaves are new
 // each time and made outside the measured time, which a clock of its own takes: pausing costs more than many a thousand
@@ -93,18 +93,6 @@ void addChildren(benchmark::State& state)
     state.counters["allowed"] = 3;
 }
 
-/// In a scene, where the root is notified of each child.
-void addChildren_inScene(benchmark::State& state)
-{
-    withNewLeaves(state, [](const auto& measure) {
-        const auto root = SceneGraphRoot::create();
-        const auto group = SceneGraphGroup::create();
-        root->setChild(group);
-        measure([&](const boost::shared_ptr<SceneGraphNode>& leaf) { group->addChild(leaf); });
-        return root->getBoundingBox();
-    });
-}
-
 void addChildren_given(benchmark::State& state)
 {
     withNewLeaves(state, [](const auto& measure) {
@@ -125,7 +113,6 @@ void addChildren_limit(benchmark::State& state)
 }
 
 BENCHMARK(addChildren)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime();
-BENCHMARK(addChildren_inScene)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime();
 BENCHMARK(addChildren_given)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime();
 BENCHMARK(addChildren_limit)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime();
 

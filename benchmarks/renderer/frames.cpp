@@ -104,8 +104,8 @@ struct BareBlock {
     std::array<float, 16> toClip;
 };
 
-/// What the driver alone takes for the same triangles at the same place in a picture of the same kind: cleared, drawn in
-/// one colour with a depth test, resolved and read back.
+/// What the driver alone takes for the same triangles at the same place in a picture of the same kind: cleared, drawn
+/// in one colour with a depth test, resolved and read back.
 void drawBare(benchmark::State& state, int samples)
 {
     const Waves waves(static_cast<int>(state.range(0)));

@@ -41,6 +41,9 @@ void withNormals(const PointNormals& normals, Write write)
 {
     if (normals.x != nullptr) {
         write([x = normals.x, y = normals.y, z = normals.z](std::size_t i) { return Vector3f(x[i], y[i], z[i]); });
+    } else if (normals.constant == Vector3f(0.0f, 0.0f, 1.0f)) {
+        // By far the most frequent one; as a constant of the code it is written with the zeros beside it at once.
+        write([](std::size_t) { return Vector3f(0.0f, 0.0f, 1.0f); });
     } else {
         write([normal = normals.constant](std::size_t) { return normal; });
     }
@@ -66,8 +69,9 @@ void appendPoints(VertexBufferNormalTex& vertices, const PointPositions& positio
     });
 }
 
-void appendPoints(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors)
+void allocateVertices(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors)
 {
+    vertices.allocate(positions.count);
     VertexTex* out = vertices.appendUnwritten(positions.count);
     const auto count = static_cast<std::size_t>(positions.count);
     withPositions(positions, [&](auto position) {

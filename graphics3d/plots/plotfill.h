@@ -13,8 +13,8 @@ class VertexBufferTex;
 /// Appends every point to a buffer that has space for them.
 void appendPoints(VertexBufferNormalTex& vertices, const PointPositions& positions, const PointNormals& normals,
                   const PointColors& colors);
-/// Appends every point to a buffer that has space for them.
-void appendPoints(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors);
+/// Allocates the buffer, then fills it with every point.
+void allocateVertices(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors);
 
 /// Allocates the mesh, then fills it with all points and triangles in their order.
 void fillSurface(SurfaceMesh& mesh, const PointPositions& positions, const PointNormals& normals,

@@ -9,21 +9,6 @@ using vxdatacarrier::PostDataView;
 
 namespace vxgraphics3d {
 
-namespace {
-
-/// The factor that gives heights, with 0 included, a range equal to the mean extent of the bounds in x and y.
-double heightScale(double min, double max, const PostDataObject::DoubleArrays& bounds)
-{
-    const double range = std::max(max, 0.0) - std::min(min, 0.0);
-    double span = bounds[0][1] - bounds[0][0];
-    if (bounds.size() > 1) {
-        span = (span + (bounds[1][1] - bounds[1][0])) / 2.0;
-    }
-    return range > 0.0 ? span / range : 1.0;
-}
-
-} // namespace
-
 PointPositions::PointPositions(const PostDataView& record, int group, int numAxes)
     : PointPositions(record.coordinates(group, numAxes), numAxes)
 {}
@@ -74,12 +59,25 @@ LineEnds LineEnds::ofBoundary(const PostDataView& record, int group)
     return {static_cast<int>(ends[0].size()), ends[0].data(), ends[1].data()};
 }
 
+void computeHeightScale(const PostDataView& record, double& min, double& max, double& scale)
+{
+    min = record.dataMin(0, c_heightData);
+    max = record.dataMax(0, c_heightData);
+    const PostDataObject::DoubleArrays& bounds = record.bounds(1);
+    const double range = std::max(max, 0.0) - std::min(min, 0.0);
+    double span = bounds[0][1] - bounds[0][0];
+    if (bounds.size() > 1) {
+        span = (span + (bounds[1][1] - bounds[1][0])) / 2.0;
+    }
+    scale = range > 0.0 ? span / range : 1.0;
+}
+
 HeightMap::HeightMap(const PostDataView& record) : heights(record.data(0, c_heightData).data())
 {
-    const double min = record.dataMin(0, c_heightData);
-    const double max = record.dataMax(0, c_heightData);
+    double min = 0.0;
+    double max = 0.0;
+    computeHeightScale(record, min, max, scale);
     const PostDataObject::DoubleArrays& bounds = record.bounds(1);
-    scale = heightScale(min, max, bounds);
     const bool hasY = bounds.size() > 1;
     box = BoundingBox(bounds[0][0], bounds[0][1], hasY ? bounds[1][0] : 0.0, hasY ? bounds[1][1] : 0.0, min * scale,
                       max * scale);

@@ -72,6 +72,11 @@ struct LineEnds {
     const int* to;
 };
 
+/// The factor that gives the heights of the first group, with 0 included, a range equal to the mean extent of the
+/// record's bounds in x and y.
+/// @param min,max receive the limits of the height data, unscaled
+void computeHeightScale(const vxdatacarrier::PostDataView& record, double& min, double& max, double& scale);
+
 /// Heights that raise a plot in the plane: scaled, with 0 included in their range, to as much as the plot is wide on
 /// average.
 struct HeightMap {

@@ -6,6 +6,7 @@
 #include "graphics3d/foundation/textutil.h"
 #include "graphics3d/plots/colour/colortable.h"
 #include "graphics3d/plots/colour/colortablehandler.h"
+#include "graphics3d/plots/plotinput.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
 
 #include <algorithm>
@@ -107,13 +108,18 @@ void SceneGraphPlot::setBoundingBox(const BoundingBox& box)
     }
 }
 
+void SceneGraphPlot::setBoundingBox(const PostDataObject& data)
+{
+    setBoundingBox(boxOf(PostDataView(data, plotClassName(m_type)).bounds(0), 3));
+}
+
 const BoundingBox& SceneGraphPlot::getBoundingBox() const
 {
     static const BoundingBox s_empty;
     return m_active ? m_boundingBox : s_empty;
 }
 
-void SceneGraphPlot::setLegendLimits(double min, double max)
+void SceneGraphPlot::setLegendLimitsInternal(double min, double max)
 {
     m_colorScale.setLegendLimits(min, max);
     m_textureChangeId.raise();

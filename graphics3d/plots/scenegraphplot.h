@@ -65,6 +65,8 @@ public:
 
     /// Stores the box, in scene units, and lets the plot group renew its own; an equal box changes nothing.
     void setBoundingBox(const BoundingBox& box);
+    /// Stores the box of a record's bounds; an axis that the bounds lack ranges from 0 to 0.
+    void setBoundingBox(const vxdatacarrier::PostDataObject& data);
     /// The box while the plot is active, otherwise an empty one.
     const BoundingBox& getBoundingBox() const;
     /// The box that the plot keeps, active or not.
@@ -73,7 +75,8 @@ public:
     // Legend and value restriction
 
     // The rules of these are those of ColorScale.
-    void setLegendLimits(double min, double max);
+    void setLegendLimits(double min, double max) { setLegendLimitsInternal(min, max); }
+    void setLegendLimitsInternal(double min, double max);
     void setAutoLegendLimits();
     void setValueRestrictions(double min, double max);
     void resetValueRestrictions();

@@ -34,7 +34,7 @@ VX_NATIVE(void, CameraInteraction, connectNative)
 VX_NATIVE(void, CameraInteraction, cleanupNative)(JNIEnv* env, jclass, jobject self)
 {
     guarded(env, [&] {
-        // Only here is the caller known to work on the view: a lost peer is released on any thread.
+        // Not in the destructor: a lost peer is released on any thread, which must not change the camera.
         if (const auto open = detach<CameraInteraction>(env, self)) {
             open->cancel();
         }

@@ -111,8 +111,7 @@ const GlProgram& MeshPainter::program(const MeshShader& shader)
 {
     auto known = m_programs.find(shader);
     if (known == m_programs.end()) {
-        known = m_programs
-                    .try_emplace(shader, "meshes", shader.vertexSource().c_str(), shader.fragmentSource().c_str())
+        known = m_programs.try_emplace(shader, "meshes", shader.vertexSource().c_str(), shader.fragmentSource().c_str())
                     .first;
         m_view.attach(known->second);
         m_light.attach(known->second);

@@ -78,8 +78,7 @@ vec3 lit(vec3 color)
 {
     vec3 toEye = isPerspective ? normalize(-eyePosition) : vec3(0.0, 0.0, 1.0);
     // Vertices without a normal are lit by the slope of the triangle. Surfaces are seen from both sides.
-    vec3 n = dot(eyeNormal, eyeNormal) > 0.0 ? normalize(eyeNormal)
-                                             : normalize(cross(dFdx(eyePosition), dFdy(eyePosition)));
+    vec3 n = normalize(dot(eyeNormal, eyeNormal) > 0.0 ? eyeNormal : cross(dFdx(eyePosition), dFdy(eyePosition)));
     n = dot(n, toEye) < 0.0 ? -n : n;
     vec3 received = ambient.rgb;
     vec3 reflected = vec3(0.0);
@@ -126,10 +125,9 @@ std::string MeshShader::vertexSource() const
 
 std::string MeshShader::fragmentSource() const
 {
-    return constant("isRestricted", isRestricted) + constant("isLit", isLit) +
-           constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
-           constant("hasHighlights", hasHighlights) + "const int c_numLights = " + std::to_string(numLights) + ";\n" +
-           Material::c_source + c_fragmentMain;
+    return constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("hasPositions", hasPositions) +
+           constant("hasCones", hasCones) + constant("hasHighlights", hasHighlights) +
+           "const int c_numLights = " + std::to_string(numLights) + ";\n" + Material::c_source + c_fragmentMain;
 }
 
 } // namespace vxrenderer

@@ -65,7 +65,7 @@ TEST(PlotFill, appendPoints_combinesPositionsNormalsAndColoursOfOneGroup)
     }
 }
 
-TEST(PlotFill, appendPoints_takesMissingAxesAsZero)
+TEST(PlotFill, allocateVertices_takesMissingAxesAsZero)
 {
     for (const auto& [coordinates, position] : {std::pair{Record::DoubleArrays{{1.0}}, Vector3f(1.0f, 0.0f, 0.0f)},
                                                 {{{1.0}, {2.0}}, Vector3f(1.0f, 2.0f, 0.0f)},
@@ -73,9 +73,8 @@ TEST(PlotFill, appendPoints_takesMissingAxesAsZero)
         const PostRecord record = PostRecord().role(Record::ColorData, 0).group(coordinates, {}, {{7.0}});
         const PostDataView view(record, "Plot");
         VertexBufferTex vertices;
-        vertices.allocate(1);
-        appendPoints(vertices, PointPositions::ofAnyAxes(view, 0),
-                     PointColors(view, 0, c_colorData, ValueScale::ofGroup(view, 0, c_colorData)));
+        allocateVertices(vertices, PointPositions::ofAnyAxes(view, 0),
+                         PointColors(view, 0, c_colorData, ValueScale::ofGroup(view, 0, c_colorData)));
         EXPECT_EQ(vertices.getCoord(0), position);
         EXPECT_EQ(vertices.vertices()[0].u, 0.0f); // one value is constant data
     }

@@ -327,6 +327,14 @@ TEST(SceneGraphPlot, setHeightScale_growsTheBoxAboutThePlotPlane)
     EXPECT_EQ(moved.now(), (Numbers{0, 0, 0}));
 }
 
+TEST(SceneGraphPlot, setBoundingBox_takesTheBoundsOfARecord)
+{
+    FakePlot plot(1);
+    PostRecord record = rangeRecord(0.0, 1.0);
+    plot.setBoundingBox(record.bounds({{1.0, 2.0}, {3.0, 5.0}}));
+    EXPECT_EQ(plot.getBoundingBox(), BoundingBox(1.0f, 2.0f, 3.0f, 5.0f, 0.0f, 0.0f));
+}
+
 TEST(SceneGraphPlot, setPlotPlaneOffset_movesTheBoxByTheDifference)
 {
     FakePlot plot(1);

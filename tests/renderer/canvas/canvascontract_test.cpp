@@ -36,6 +36,7 @@ TEST(CanvasContract, aSceneKnowsTheSettingsOfItsViewsWhileTheyShowIt)
         second.setScene(one.scene);
         EXPECT_EQ(map.size(), 2u);
         EXPECT_NE(second.getSceneSettings().get(), settings.get());
+        second.setScene(nullptr);
     }
     EXPECT_EQ(map.size(), 1u);
     settings->setShowTitle(false);

@@ -129,7 +129,7 @@ protected:
         m_plot->setColorTable("painters", {{0.0, 0.0, 1.0}, {1.0, 0.0, 0.0}}, false);
     }
 
-    vxgraphics3d::SceneSettings& settings() { return m_view->getSettings(); }
+    vxgraphics3d::SceneSettings& settings() { return m_view.getSettings(); }
 
     void drawPlotsBy(TestPlotPainter::Draw draw) { m_drawPlot = std::move(draw); }
     void drawObjectsBy(TestObjectPainter::Draw draw) { m_drawObject = std::move(draw); }
@@ -180,7 +180,7 @@ protected:
     boost::shared_ptr<FakePlot> m_plot =
         boost::make_shared<FakePlot>(1, vxgraphics3d::SceneGraphPlot::PlotType::mesh3d);
     boost::shared_ptr<vxgraphics3d::Canvas3dSettings> m_settings = boost::make_shared<vxgraphics3d::Canvas3dSettings>();
-    boost::shared_ptr<SceneView> m_view = SceneView::connect(m_scene.scene);
+    SceneView m_view{m_scene.scene};
     TestPlotPainter::Draw m_drawPlot = [](const auto&, const auto&) {};
     TestObjectPainter::Draw m_drawObject = [](const auto&, const auto&) {};
     EglContext m_context;

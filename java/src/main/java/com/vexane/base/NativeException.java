@@ -47,6 +47,9 @@ public class NativeException extends RuntimeException {
     /**
      * What went wrong, in words.
      *
+     * <p>For a peer of the wrong class it has the name of the argument, the expected class and the class found. These
+     * are the names of the native classes, which are those of the Java peers where there is one.
+     *
      * @return the detail; may be empty
      */
     public String getDetail() {

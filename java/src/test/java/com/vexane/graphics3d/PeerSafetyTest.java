@@ -90,7 +90,7 @@ class PeerSafetyTest {
 
     /** Opens a peer at each depth of a recursion to the end of the stack, and closes them on the way back. */
     static final class EndsTheStack implements Runnable {
-        private static final int ROUNDS = 400;
+        private static final int ROUNDS = 150;
         private final SceneGraphGroup[] made = new SceneGraphGroup[100_000];
         private int numClosed;
 
@@ -120,7 +120,7 @@ class PeerSafetyTest {
             for (int round = 0; round < ROUNDS; ++round) {
                 EndsTheStack deep = new EndsTheStack();
                 // Another size each time, so that the end falls on another instruction.
-                Thread thread = new Thread(null, deep, "deep", 200_000 + 512L * round);
+                Thread thread = new Thread(null, deep, "deep", 200_000 + 1400L * round);
                 thread.start();
                 thread.join();
                 assertTrue(deep.numClosed > 0);

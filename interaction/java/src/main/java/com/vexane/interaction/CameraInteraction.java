@@ -30,8 +30,8 @@ import com.vexane.graphics3d.Canvas3dGlobalSettings;
  * }</pre>
  *
  * <p>Pointer positions are pixels of the picture as in mouse events: from the top left corner, also outside the
- * picture. The interaction keeps the settings of the view alive. Closing it during a drag cancels the drag. All calls
- * take constant time. As for all peers, they must come from one thread at a time, never while the view is drawn.
+ * picture. The interaction keeps the settings of the view alive. Closing it during a drag cancels the drag; if it
+ * is dropped without being closed, the camera stays as the drag shows it. All calls take constant time. As for all peers, they must come from one thread at a time, never while the view is drawn.
  */
 public final class CameraInteraction extends NativePeer {
     /** The bit of the Shift key in a set of keys. */
