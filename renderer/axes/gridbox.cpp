@@ -23,6 +23,10 @@ constexpr double c_tickDistance = 2.2;
 /// Axes that look shorter are not labelled.
 constexpr double c_shortestAxis = 1.5;
 constexpr int c_mostTicks = 100;
+/// Without two labels an axis has no scale.
+constexpr std::size_t c_fewestLabels = 2;
+/// Finer ticks, which come closer to the ends, for axes on which coarse ones leave fewer labels.
+constexpr int c_finerTicks[] = {5, 10, 20};
 /// Sine of the angle below which a face is seen edge-on.
 constexpr double c_edgeOn = 1e-4;
 
@@ -73,15 +77,23 @@ struct Edge {
     Range visible;
 };
 
-/// An axis with its ticks.
-struct Axis {
+/// Where an axis has its ticks, and their labels along its edge.
+struct AxisTickSet {
     std::vector<double> ticks;
-    std::optional<Edge> edge;
     std::vector<AxisLabel> labels;
     std::vector<Pixel> places;
+    /// Labels that have space beside those before them.
+    std::size_t numFitting = 0;
     /// How far the labels reach out from the edge.
     double reach = 0.0;
     std::string power;
+
+    bool isScale() const { return numFitting >= c_fewestLabels; }
+};
+
+/// An axis with its ticks.
+struct Axis : AxisTickSet {
+    std::optional<Edge> edge;
 };
 
 class Layouter {
@@ -223,7 +235,8 @@ private:
         return longest;
     }
 
-    /// Chooses ticks whose labels have room beside each other, and lays the labels out.
+    /// Chooses ticks whose labels have space beside each other, at least two of them if two fit, and lays the labels
+    /// out.
     void addTicks(std::size_t index)
     {
         if (isFlat(index)) {
@@ -236,46 +249,61 @@ private:
         const double wanted = length / (c_tickDistance * m_em);
         for (int count = std::clamp(static_cast<int>(std::min(wanted, 1e6)), 1, c_mostTicks); count > 0;
              count = count * 3 / 4) {
-            const Ticks ticks = makeTicks(m_low[index], m_high[index], count, m_input.digits);
-            axis.ticks.clear();
-            axis.labels.clear();
-            axis.places.clear();
-            axis.reach = 0.0;
-            axis.power = ticks.exponent == 0 ? "" : "\\times" + powerText(ticks.exponent);
-            LabelPlacer placer(m_metrics);
-            bool isFree = true;
-            for (const Ticks::Tick& tick : ticks.ticks) {
-                axis.ticks.push_back(std::clamp(tick.value, m_low[index], m_high[index]));
-                isFree &= !axis.edge || addLabel(axis, index, tick, placer);
+            AxisTickSet set = tickSet(index, count);
+            const bool fits = set.numFitting == set.labels.size();
+            const bool isEnough = set.isScale() || !axis.edge;
+            if (std::min(set.numFitting, c_fewestLabels) >= std::min(axis.numFitting, c_fewestLabels)) {
+                static_cast<AxisTickSet&>(axis) = std::move(set);
             }
-            if (isFree) {
+            if (fits && isEnough) {
                 return;
+            }
+        }
+        for (const int count : c_finerTicks) {
+            if (AxisTickSet set = tickSet(index, count); !axis.isScale() && set.isScale()) {
+                static_cast<AxisTickSet&>(axis) = std::move(set);
             }
         }
     }
 
-    /// @return whether the label has room beside the ones before
-    bool addLabel(Axis& axis, std::size_t index, const Ticks::Tick& tick, LabelPlacer& placer) const
+    /// About so many ticks of an axis.
+    AxisTickSet tickSet(std::size_t index, int aboutCount) const
     {
-        const Edge& edge = *axis.edge;
+        const Ticks ticks = makeTicks(m_low[index], m_high[index], aboutCount, m_input.digits);
+        AxisTickSet set;
+        set.power = ticks.exponent == 0 ? "" : "\\times" + powerText(ticks.exponent);
+        LabelPlacer placer(m_metrics);
+        for (const Ticks::Tick& tick : ticks.ticks) {
+            set.ticks.push_back(std::clamp(tick.value, m_low[index], m_high[index]));
+            if (m_axes[index].edge) {
+                addLabel(set, index, tick, placer);
+            }
+        }
+        set.numFitting = placer.getLabels().size();
+        return set;
+    }
+
+    void addLabel(AxisTickSet& set, std::size_t index, const Ticks::Tick& tick, LabelPlacer& placer) const
+    {
+        const Edge& edge = *m_axes[index].edge;
         Point point = edge.start;
         point[index] = std::clamp(tick.value, m_low[index], m_high[index]);
         const std::optional<Pixel> place = m_projector.pixelOf(point);
         if (!place) {
-            return true;
+            return;
         }
         const Pixel along = edge.to - edge.from;
         const double part = (*place - edge.from).dot(along) / along.dot(along);
         if (part < edge.visible.from - 1e-6 || part > edge.visible.to + 1e-6) {
-            return true;
+            return;
         }
         AxisLabel label;
         label.markup = tick.label;
         const double begin = (c_tickLength + c_gap) * m_em;
-        axis.reach = std::max(axis.reach, begin + moveOut(label, *place, edge.outward, begin));
-        axis.labels.push_back(label);
-        axis.places.push_back(*place);
-        return placer.place(label);
+        set.reach = std::max(set.reach, begin + moveOut(label, *place, edge.outward, begin));
+        set.labels.push_back(label);
+        set.places.push_back(*place);
+        placer.place(label);
     }
 
     /// Moves a label to where its rectangle just touches a line beside an edge.

@@ -82,6 +82,10 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     layout.area = divideSpace(frame, layout.space, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
+        const float middle = static_cast<float>(area.x) + 0.5f * static_cast<float>(area.width);
+        const float rightmost = static_cast<float>(layout.width - layout.space.x) - layout.title.width;
+        layout.titleLeft =
+            std::max(std::min(middle - 0.5f * layout.title.width, rightmost), static_cast<float>(layout.space.x));
         frame.camera.setRenderArea(layout.width, layout.height, area.x, layout.height - area.y - area.height,
                                    area.width, area.height);
         frame.camera.setBoundingBox(frame.scene->getBoundingBox());
@@ -187,8 +191,7 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
 void SceneRenderer::drawDecoration(const FrameLayout& layout)
 {
     m_overlay.begin(layout.width, layout.height);
-    const float titleLeft = 0.5f * (static_cast<float>(layout.width) - layout.title.width);
-    m_overlay.drawText(layout.title, layout.titleFonts, titleLeft, layout.titleTop, layout.legendStyle.color);
+    m_overlay.drawText(layout.title, layout.titleFonts, layout.titleLeft, layout.titleTop, layout.legendStyle.color);
 
     float headHeight = 0.0f;
     for (const auto& legend : layout.legends) {

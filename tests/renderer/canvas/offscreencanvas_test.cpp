@@ -1,5 +1,7 @@
 #include "renderer/canvas/offscreencanvas.h"
 
+#include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/scenelight.h"
 #include "graphics3d/plots/colour/colortable.h"
@@ -439,6 +441,25 @@ TEST(OffscreenCanvas, anyNumberOfThemDrawSideBySide)
     two.setScene(scene.scene);
     EXPECT_EQ(drawn(one).bytes, drawn(two).bytes);
     EXPECT_EQ(drawn(one).bytes, drawn(two).bytes);
+}
+
+TEST_F(OffscreenCanvasTest, anUnknownRenderModeIsDrawnAs3dAndReportedOnce)
+{
+    m_scene.addSquare(1, 0x00ff00);
+    lookFrom(m_canvas, 30.0, 30.0);
+    drawn(m_canvas);
+    const Picture expected = drawnAsIs(m_canvas);
+    const vxgraphics3d::CapturedLog log(vxgraphics3d::ErrorLog::Level::error);
+    for (const int mode : {7, -1}) {
+        m_canvas.getCanvas3dSettings()->setRenderMode(static_cast<vxgraphics3d::Canvas3dSettings::RenderMode>(mode));
+        for (int i = 0; i < 2; ++i) {
+            EXPECT_TRUE(drawnAsIs(m_canvas).bytes == expected.bytes);
+            EXPECT_FALSE(m_canvas.encodeHardcopy(vxgraphics3d::HardcopySettings(), 20, 20).empty());
+        }
+    }
+    EXPECT_EQ(log.messages(), (std::vector<std::string>{"There is no render mode 7: the 3D view is drawn.",
+                                                        "There is no render mode -1: the 3D view is drawn."}));
+    EXPECT_NO_THROW(m_canvas.zoomExtents());
 }
 
 } // namespace

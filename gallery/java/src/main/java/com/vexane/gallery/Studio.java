@@ -32,6 +32,8 @@ import java.util.Map;
 public final class Studio implements AutoCloseable {
     private static final int SAMPLES = 4;
     private static final int TITLE_SIZE = 15;
+    /** The bit of axes in the render mask. */
+    private static final int RENDER_AXES = 2;
 
     private final Path root;
     private final Path output;
@@ -161,6 +163,29 @@ public final class Studio implements AutoCloseable {
     public Studio flat() {
         canvas.setRenderMode(Canvas3dSettings.RenderMode.VIEW_2D);
         renderer.zoomExtents();
+        return this;
+    }
+
+    /**
+     * Shows the scene without axes.
+     *
+     * @return this studio
+     */
+    public Studio hideAxes() {
+        canvas.removeRenderMask(RENDER_AXES);
+        return this;
+    }
+
+    /**
+     * Names the axes of the flat view.
+     *
+     * @param x what the x axis shows, with its unit
+     * @param y what the y axis shows, with its unit
+     * @return this studio
+     */
+    public Studio nameAxes(String x, String y) {
+        axes.setXAxisTitle(x);
+        axes.setYAxisTitle(y);
         return this;
     }
 
