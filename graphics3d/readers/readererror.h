@@ -16,7 +16,7 @@ template <class... Args>
 void reportWithEnding(const char* ending, const vxbase::LogText<Args...>& text, Args... args)
 {
     logError<Args...>(text, args...);
-// The text was checked against its arguments when it was compiled.
+// The text was checked against its arguments at compile time.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-security"
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
