@@ -7,7 +7,7 @@
 
 namespace vxbase {
 
-/// A failure with a key that the Java side knows, and the native place where it arose.
+/// A failure with a key that the Java side knows, and the source location where it occurred.
 ///
 /// Thrown by value, caught by reference. Java receives key, detail, file and line in one unchecked exception; other
 /// standard exceptions are wrapped into this class at the native boundary.

@@ -24,7 +24,7 @@ constexpr const char* trueFalse(bool value)
     return value ? "true" : "false";
 }
 
-/// An argument as it goes to a function like `printf`: a float widens to double.
+/// An argument as it is passed to a function like `printf`: a float widens to double.
 template <class T>
 constexpr auto printable(T value)
 {
@@ -37,7 +37,7 @@ constexpr auto printable(T value)
 
 namespace detail {
 
-/// Whether an argument of type T may stand for the conversion character c of a log text.
+/// Whether an argument of type T matches the conversion character c of a log text.
 template <class T>
 consteval bool fitsConversion(char c)
 {
@@ -56,7 +56,7 @@ consteval bool fitsConversion(char c)
     }
 }
 
-/// Whether the conversions of a printf text are exactly those that the argument types need, in order.
+/// Whether the conversions of a printf text match the argument types exactly and in order.
 template <class... Args>
 consteval bool fitsArguments(const char* text)
 {
@@ -80,17 +80,17 @@ consteval bool fitsArguments(const char* text)
 
 } // namespace detail
 
-/// A printf text that the compiler has held against the types of its arguments, with the place where it was written.
+/// A printf text that the compiler has checked against the types of its arguments, with its source location.
 ///
-/// Made implicitly from a string literal, so a text that a user typed can never become a format. The place comes from
-/// default arguments, which name the caller's line.
+/// Made implicitly from a string literal, so user input can never become a format. The location comes from default
+/// arguments, which refer to the caller's line.
 template <class... Args>
 struct LogText {
     const char* text;
     const char* file;
     int line;
 
-    /// Keeps the arguments of a message apart from the place, which is never given.
+    /// Separates the arguments of a message from the location, which callers never pass.
     struct Here {
         explicit constexpr Here() = default;
     };

@@ -9,7 +9,7 @@ namespace vxbase {
 class ISerialStream;
 class OSerialStream;
 
-/// What a caller hands to all records of one serialisation. The records pass it on to those they hold.
+/// Options that a caller passes to all records of one serialisation; records pass it on to the records they contain.
 class Prop {};
 
 /// Base of the records that can be written to a serial stream and read back.

@@ -8,11 +8,11 @@
 
 namespace vxbase {
 
-/// Collects typed values as bytes, the same on every machine: one byte that names the type, then the value with its
+/// Collects typed values as bytes, in the same format on every machine: one byte for the type, then the value with its
 /// lowest byte first. A boolean takes two bytes in all, a number five.
 class VX_API OSerialStream {
 public:
-    /// Whether comments go into the bytes or are dropped. Readers pass over them.
+    /// Whether comments are written or dropped. Readers skip them.
     enum class Comments { dropped, written };
 
     explicit OSerialStream(Comments comments = Comments::dropped) : m_comments(comments) {}
@@ -24,7 +24,7 @@ public:
     /// A remark for people who look at the bytes; an empty one separates groups of values and is never written.
     void comment(const std::string& text);
 
-    /// All that has been written so far.
+    /// All bytes written so far.
     const std::string& bytes() const { return m_bytes; }
 
 private:
@@ -35,10 +35,10 @@ private:
 };
 
 /// Reads the values of an OSerialStream in the order in which they were written. The bytes are not copied and must
-/// outlive the stream; they may come from anywhere, every read is checked.
+/// outlive the stream; they may come from any source, since every read is checked.
 ///
-/// A read past the end throws std::out_of_range, a read of another type std::invalid_argument; the stream then stands
-/// where it stood. An unsigned number can be read as an int if it fits into one.
+/// A read past the end throws std::out_of_range, a read of another type std::invalid_argument; the position in the
+/// stream is then unchanged. An unsigned number can be read as an int if it fits into one.
 class VX_API ISerialStream {
 public:
     ISerialStream(const void* bytes, std::size_t size) : m_bytes(static_cast<const unsigned char*>(bytes)), m_size(size)
@@ -48,8 +48,8 @@ public:
     float readFloat();
     int readInt();
 
-    /// Throws std::out_of_range if a count is negative or the rest of the bytes is too short for so many numbers:
-    /// for counts that stand in the stream themselves, before room is made for what they announce.
+    /// Throws std::out_of_range if a count is negative or if the rest of the bytes is too short for that many numbers.
+    /// Use it for counts read from the stream, before memory is allocated for the values that follow.
     void requireNumbers(std::int64_t count) const;
 
 private:

@@ -53,15 +53,15 @@ void appendUtf8(std::string& out, unsigned long character)
     }
 }
 
-/// Takes one character off the front of a UTF-8 text that is not empty. The longest start of a character that does not
-/// go on as one counts as a single U+FFFD.
+/// Removes one character from the front of a UTF-8 text that is not empty. The longest invalid start of a character
+/// counts as a single U+FFFD.
 unsigned long takeUtf8(std::string_view& rest)
 {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(rest[i]); };
     const unsigned long lead = byte(0);
     std::size_t length = 1;
     unsigned long character = lead;
-    // The second byte's range shuts out overlong forms, surrogates, and what lies above the last character.
+    // The second byte's range excludes overlong forms, surrogates, and everything above the last character.
     unsigned long low = 0x80;
     unsigned long high = 0xBF;
     if (lead >= 0x80) {

@@ -12,7 +12,7 @@ namespace vxbase {
 /// An argument refers to an object of the wrong class:
 /// `Argument "child": expected class SceneGraphNode, found class Scene.`
 ///
-/// Classes have their C++ names without namespaces, which are those of the Java peers where there is one.
+/// Class names are those of C++ without namespaces, which match the Java peers where there is one.
 class VX_API WrongClass : public std::bad_cast {
 public:
     WrongClass(const char* argument, const std::type_info& expected, const std::type_info& found);

@@ -10,20 +10,21 @@
 namespace vxdatacarrier {
 
 /// The record that brings post-processing results to a plot: a plain carrier with public fields, which a producer fills
-/// and a plot only reads. A plot copies what it needs, so the record may go after the fill.
+/// and a plot only reads. A plot copies what it needs, so the record may be destroyed after the fill.
 ///
-/// A record is split into groups, such as one iso level, one slice or one batch of mesh elements. Each group has points
-/// of its own, and all arrays are by axis, by corner or by quantity, never one object per point. There are as many
-/// groups as entries in `m_coordinates`, at least one; the other group fields that a plot needs have equally many.
+/// A record is split into groups, such as one iso level, one slice or one batch of mesh elements. Each group has its
+/// own points, and all arrays are organised by axis, corner or quantity, never as one object per point. There are as
+/// many groups as entries in `m_coordinates`, at least one; the other group fields that a plot needs have the same
+/// number of entries.
 ///
-/// Plots read records through `PostDataView`, which tests what a fill relies on.
+/// Plots read records through `PostDataView`, which checks everything that a fill relies on.
 class VX_API PostDataObject {
 public:
     using DoubleArrays = std::vector<std::vector<double>>;
     using FloatArrays = std::vector<std::vector<float>>;
     using IntArrays = std::vector<std::vector<int>>;
 
-    /// What a data array is to a plot: positions in `m_dataIndex`. Numbers without a name are read by no plot.
+    /// What a data array means to a plot: indices into `m_dataIndex`. No plot reads the numbers without a name.
     enum Role : int {
         ColorData = 0,
         HeightData = 4,
@@ -40,7 +41,7 @@ public:
         SecondDirectionZ = 15,
         IsoLevelData = 19,
     };
-    /// The roles of a principal plot, each the first of three that stand for its three axes.
+    /// The roles of a principal plot, each the first of three consecutive roles for its three axes.
     enum PrincipalRole : int {
         PrincipalLengths = 7,
         PrincipalX = 10,
@@ -49,8 +50,8 @@ public:
     };
     static constexpr int c_numRoles = 22;
 
-    /// What the data are: the values of `m_plotKind` that change what a plot or a reader does. The full set is the
-    /// producer's.
+    /// The kind of data: the values of `m_plotKind` that change what a plot or a reader does. Producers define the full
+    /// set.
     enum PlotKind : int {
         Lines3d = 5,
         IsoSurface = 6,
@@ -67,30 +68,30 @@ public:
 
     PostDataObject() { m_dataIndex.fill(-1); }
 
-    /// The smallest of a role's minima over all groups. The role must be filled and a group present.
+    /// The smallest minimum of a role over all groups. The role must be filled and there must be a group.
     double getDataMin(int role) const;
-    /// The largest of a role's maxima over all groups. The role must be filled and a group present.
+    /// The largest maximum of a role over all groups. The role must be filled and there must be a group.
     double getDataMax(int role) const;
 
     int m_plotKind = 0;
-    /// By role: the index of an array in `m_data`, `m_dataMin` and `m_dataMax`, or a negative number for none.
+    /// By role: the index of an array in `m_data`, `m_dataMin` and `m_dataMax`, or a negative number if there is none.
     std::array<int, c_numRoles> m_dataIndex;
     /// By group: one array per axis, 1 to 3 of equal length, which is the group's number of points.
     std::vector<boost::shared_ptr<DoubleArrays>> m_coordinates;
-    /// Of the whole record: minimum and maximum of each axis.
+    /// Minimum and maximum of each axis over the whole record.
     boost::shared_ptr<DoubleArrays> m_bounds;
     /// By group: one array per element corner, all of equal length, with indices into the group's points from 0. One
-    /// corner makes points, two lines, three triangles, four tetrahedra.
+    /// corner defines points, two lines, three triangles, four tetrahedra.
     std::vector<boost::shared_ptr<IntArrays>> m_elements;
     /// By group: arrays with one value per point.
     std::vector<boost::shared_ptr<DoubleArrays>> m_data;
-    /// By group: the maximum of each data array. Plots trust it.
+    /// By group: the maximum of each data array. Plots do not check it.
     std::vector<boost::shared_ptr<std::vector<double>>> m_dataMax;
-    /// By group: the minimum of each data array. Plots trust it.
+    /// By group: the minimum of each data array. Plots do not check it.
     std::vector<boost::shared_ptr<std::vector<double>>> m_dataMin;
-    /// By group: x, y and z of the unit normal at each point.
+    /// By group: x, y and z components of the unit normals, one array per component.
     std::vector<boost::shared_ptr<FloatArrays>> m_normals;
-    /// By group: two arrays, the ends of boundary lines that go with triangles.
+    /// By group: two arrays with the ends of the boundary lines of the triangles.
     std::vector<boost::shared_ptr<IntArrays>> m_lineElements;
 };
 

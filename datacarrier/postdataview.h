@@ -8,24 +8,25 @@
 
 namespace vxdatacarrier {
 
-/// A role of data as one plot uses it. The same role may mean different things to different plots, so each says how its
-/// messages call it.
+/// A role of data as one plot uses it. The same role may mean different things to different plots, so each plot
+/// provides the name for its messages.
 struct PostDataRole {
-    int number;       ///< position in `PostDataObject::m_dataIndex`
+    int number;       ///< index in `PostDataObject::m_dataIndex`
     const char* name; ///< a noun phrase such as "length of axis 1"
 };
 
-/// The roles that mean the same to every plot.
+/// The roles with the same meaning for every plot.
 inline constexpr PostDataRole c_colorData{PostDataObject::ColorData, "DataRole.COLOR"};
 inline constexpr PostDataRole c_heightData{PostDataObject::HeightData, "DataRole.HEIGHT"};
 inline constexpr PostDataRole c_isoLevelData{PostDataObject::IsoLevelData, "DataRole.ISO_LEVEL"};
 
-/// How a plot reads a record: each access first tests that what it hands out is there and has the right shape, and
-/// throws std::invalid_argument with a text that names the plot and the role or field. A view is made once for each
-/// fill; the plot's input fetches everything through it, so that a poor record is refused before anything has changed.
+/// How a plot reads a record: each access first checks that the data are present and have the right shape, and throws
+/// std::invalid_argument with a text that names the plot and the role or field. A view is made for each fill; the
+/// plot's input fetches everything through it, so that an incomplete record is refused before anything has changed.
 ///
-/// Only counts are tested, at a cost that does not depend on the number of points; all of them fit into an int. Values
-/// are the producer's duty: indices of elements in particular are not tested. The view must not outlive the record.
+/// Only counts are checked, at a cost that does not depend on the number of points; all of them fit into an int.
+/// Producers are responsible for the values: indices of elements in particular are not checked. The view must not
+/// outlive the record.
 class PostDataView {
 public:
     using DoubleArrays = PostDataObject::DoubleArrays;
@@ -39,7 +40,7 @@ public:
     int plotKind() const { return m_record.m_plotKind; }
     int numGroups() const { return static_cast<int>(m_record.m_coordinates.size()); }
 
-    /// The group's points.
+    /// The number of points of a group.
     int numPoints(int group) const;
     /// At least `minAxes` axes, all of the same length.
     const DoubleArrays& coordinates(int group, int minAxes) const;
@@ -69,7 +70,7 @@ public:
 
 private:
     int dataIndex(const PostDataRole& role) const;
-    /// The array index of a role that must be filled.
+    /// The array index of a role; throws if the role is not filled.
     std::size_t filledIndex(const PostDataRole& role) const;
     template <class Entry>
     const Entry& entry(const std::vector<boost::shared_ptr<Entry>>& groups, int group, const char* field) const;

@@ -21,7 +21,7 @@ jclass findClass(JNIEnv* env, const char* name)
     return global;
 }
 
-/// Whether all that peers need was found. The exception class may be missing: a standard one stands in for it.
+/// Whether everything that peers need was found. The exception class may be missing: a standard one then replaces it.
 bool load(JNIEnv* env, JavaClasses& java)
 {
     java.exception = findClass(env, "com/vexane/base/NativeException");

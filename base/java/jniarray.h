@@ -50,10 +50,11 @@ VX_ARRAY_ELEMENTS(jdoubleArray, jdouble, double, Double);
 
 } // namespace detail
 
-/// Access to the elements of a Java array for the length of a scope. What is written reaches Java when the holder goes.
+/// Access to the elements of a Java array within a scope. Changes are written back to Java when the holder is
+/// destroyed.
 ///
-/// Natives that read or fill a fixed count say so with `atLeast`, which refuses an array that is too short before
-/// anything is touched.
+/// Natives that read or fill a fixed number of elements check it with `atLeast`, which refuses an array that is too
+/// short before anything is accessed.
 template <class JavaArray>
 class ArrayHolder {
 public:
@@ -70,7 +71,7 @@ public:
             throw JavaExceptionPending();
         }
     }
-    /// The same, and hands out elements and length.
+    /// The same, and returns elements and length in the arguments.
     ArrayHolder(JNIEnv* env, JavaArray array, std::nullptr_t, int, Element*& data, int& length)
         : ArrayHolder(env, array)
     {
@@ -81,7 +82,7 @@ public:
     ArrayHolder(const ArrayHolder&) = delete;
     ArrayHolder& operator=(const ArrayHolder&) = delete;
 
-    /// @throws std::out_of_range if the array has fewer elements than that
+    /// @throws std::out_of_range if the array has fewer than `count` elements
     static void atLeast(JNIEnv* env, JavaArray array, int count)
     {
         if (array == nullptr) {

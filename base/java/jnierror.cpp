@@ -72,7 +72,7 @@ void raiseCaught(JNIEnv* env, const char* file, int line) noexcept
             throwException(env, Exception(file, line, c_internalError));
         }
     } catch (...) {
-        // Not even the report could be built; Java must see a failure all the same.
+        // Not even the report could be built, but Java must still see a failure.
         if (env->ExceptionCheck() == JNI_FALSE) {
             throwJava(env, "java/lang/OutOfMemoryError", c_outOfMemory);
         }

@@ -19,8 +19,8 @@
 namespace vxbase {
 
 /// Runs the body of a native. No C++ exception leaves it: each becomes a Java exception, and the native then returns
-/// the zero of its type, which is also what a body without result gives.
-/// @param path,line the place where the native is written
+/// the zero of its type, as does a body without a result.
+/// @param path,line the source location of the native
 template <class Operation>
 auto guarded(JNIEnv* env, Operation&& operation, const char* path = __builtin_FILE(), int line = __builtin_LINE())
     -> std::invoke_result_t<Operation>

@@ -18,19 +18,19 @@ namespace vxbase {
 
 /// What the number in a Java peer points to: a reference to one native object, kept as the root class of its family.
 ///
-/// A native of a base peer class works on every derived peer because the pointer is cast back to the root only and
-/// from there down by the language's own casts; a peer of another family is recognised by `family` and refused. One
-/// handle belongs to one peer: `attach` makes it, `release` destroys it.
+/// A native of a base peer class works on every derived peer because the pointer is cast back to the root only, and
+/// from there down by ordinary C++ casts; a peer of another family is recognised by `family` and refused. A handle
+/// belongs to one peer: `attach` creates it, `release` destroys it.
 struct PeerHandle {
     const std::type_info& family;
     /// The class of the object itself.
     const std::type_info& type;
     boost::shared_ptr<void> object;
-    /// The class that the object was last found to be: the same question is answered by one comparison.
+    /// The class that the last check found the object to be, so that repeated checks need only one comparison.
     mutable const std::type_info* knownAs = &family;
 };
 
-/// The name in messages of the peer on which a native works; other arguments have the names of the Java parameters.
+/// The name that messages use for the peer a native works on; other arguments have the names of the Java parameters.
 inline constexpr const char* c_selfArgument = "peer";
 
 namespace detail {
@@ -43,7 +43,7 @@ extern VX_API jfieldID g_peerHandleField;
 
 } // namespace detail
 
-/// The handle in a peer, or null if the peer is null or closed. Every native begins with it, so it is inline.
+/// The handle in a peer, or null if the peer is null or closed. Inline because every native begins with it.
 inline void* getWsPtrOrNull(JNIEnv* env, jobject peer)
 {
     static_assert(sizeof(jlong) >= sizeof(void*));
@@ -64,8 +64,8 @@ inline void* getWsPtr(JNIEnv* env, jobject peer, const char* argument = c_selfAr
     return handle;
 }
 
-/// Stores a handle in a peer; it is released if Java loses the peer. Calls no Java code, so it cannot fail half-way,
-/// not even at the end of the Java stack.
+/// Stores a handle in a peer; it is released if Java loses the peer. Calls no Java code, so it cannot fail halfway, not
+/// even when the Java stack is exhausted.
 /// @throws Exception if the peer is null or was closed
 VX_API void setWsPtr(JNIEnv* env, jobject peer, void* handle);
 VX_API void setNullWsPtr(JNIEnv* env, jobject peer);
@@ -90,13 +90,13 @@ struct PeerRootOf<T> {
 };
 
 /// @throws Exception if the object is null
-/// @throws std::invalid_argument if it is not a peer at all
+/// @throws std::invalid_argument if it is not a peer
 VX_API void requirePeer(JNIEnv* env, jobject object, const char* argument);
 VX_API void attachHandle(JNIEnv* env, jobject self, std::unique_ptr<PeerHandle> handle);
-/// Takes the handle from a peer, which is closed from then on; null if it has none.
+/// Takes the handle out of a peer, which closes the peer; null if it has none.
 VX_API std::unique_ptr<PeerHandle> takeHandle(JNIEnv* env, jobject self);
 
-/// Finds out whether the object of a handle is one of class T, and notes it in the handle.
+/// Checks that the object of a handle is of class T, and records this in the handle.
 /// @throws WrongClass if it is not
 template <class T>
 [[gnu::noinline]] void requireClass(const PeerHandle& handle, const char* argument)
@@ -116,7 +116,7 @@ const PeerHandle& handleOf(JNIEnv* env, jobject peer, const char* argument)
 {
     using Root = typename PeerRootOf<T>::Type;
     const auto* handle = static_cast<const PeerHandle*>(getWsPtr(env, peer, argument));
-    // A class has one type_info in the process; one that had two would only take the slow way each time.
+    // A class normally has one type_info per process; one with two would only take the slow path each time.
     const std::type_info* known = std::is_same_v<T, Root> ? &handle->family : handle->knownAs;
     if (known != &typeid(T)) [[unlikely]] {
         requireClass<T>(*handle, argument);
@@ -124,7 +124,7 @@ const PeerHandle& handleOf(JNIEnv* env, jobject peer, const char* argument)
     return *handle;
 }
 
-/// The object of a handle that was found to hold one of class T.
+/// The object of a handle that has been checked to be of class T.
 template <class T>
 T& objectOf(const PeerHandle& handle)
 {
@@ -149,14 +149,14 @@ T& peer(JNIEnv* env, jobject object, const char* argument = c_selfArgument)
     return detail::objectOf<T>(detail::handleOf<T>(env, object, argument));
 }
 
-/// The native object of a peer, with a reference to it.
+/// A shared pointer to the native object of a peer.
 template <class T>
 boost::shared_ptr<T> share(JNIEnv* env, jobject object, const char* argument = c_selfArgument)
 {
     return detail::shareOf<T>(detail::handleOf<T>(env, object, argument));
 }
 
-/// The same as `peer` for an argument whose Java type says nothing: it may be any object.
+/// The same as `peer` for an argument of any Java type.
 template <class T>
 T& anyPeer(JNIEnv* env, jobject object, const char* argument)
 {
@@ -165,7 +165,7 @@ T& anyPeer(JNIEnv* env, jobject object, const char* argument)
 }
 
 /// Gives a new peer its handle.
-/// @throws std::invalid_argument if there is no object
+/// @throws std::invalid_argument if the object is null
 /// @throws std::logic_error if the peer holds a handle already
 /// @throws Exception if the peer is null or was closed
 template <class T>
@@ -177,13 +177,13 @@ void attach(JNIEnv* env, jobject self, boost::shared_ptr<T> object)
     detail::attachHandle(env, self, std::unique_ptr<PeerHandle>(new PeerHandle{typeid(Root), type, std::move(root)}));
 }
 
-/// Takes the handle from a peer and releases its reference to the object. A peer without handle stays as it is, so this
-/// may be called twice.
+/// Takes the handle out of a peer and releases its reference to the object. Does nothing for a peer without a handle,
+/// so it may be called twice.
 VX_API void release(JNIEnv* env, jobject self);
 
-/// The same for an object that has work left when its peer is closed, but not when the peer is lost: returns the
-/// reference instead of releasing it, or null for a peer without handle.
-/// @throws WrongClass if the peer refers to an object of another class; it is released all the same
+/// The same for an object that has work to do when its peer is closed, but not when the peer is lost: returns the
+/// reference instead of releasing it, or null for a peer without a handle.
+/// @throws WrongClass if the peer refers to an object of another class; it is released nevertheless
 template <class T>
 boost::shared_ptr<T> detach(JNIEnv* env, jobject self)
 {

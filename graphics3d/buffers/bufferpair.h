@@ -2,7 +2,7 @@
 
 namespace vxgraphics3d {
 
-/// One vertex buffer with one index buffer over it, whose indices are one segment: what most plots draw.
+/// One vertex buffer and one index buffer over it with a single segment, as most plots draw it.
 ///
 ///     BufferPair<VertexBufferNormalTex, IndexBufferTriangles> mesh;
 ///     mesh.allocate(3, 1);
@@ -13,8 +13,8 @@ struct BufferPair {
     Vertices vertices;
     Indices indices{vertices};
 
-    /// Drops what both hold, makes space for as many vertices and elements, and opens the segment. If that fails, both
-    /// are deallocated.
+    /// Drops the contents of both, makes space for the given numbers of vertices and elements, and opens the segment.
+    /// If that fails, both are deallocated.
     void allocate(int numVertices, int numElements)
     {
         deallocate();

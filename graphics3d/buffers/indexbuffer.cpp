@@ -16,7 +16,7 @@ struct IndexCounts {
     int perSegment;
 };
 
-/// By the numbers of IndexBuffer::Type.
+/// Indexed by IndexBuffer::Type.
 constexpr IndexCounts c_indexCounts[] = {{2, 0}, {1, 1}, {3, 0}, {4, 0}};
 
 constexpr int c_largestNarrowCapacity = 65535;
@@ -126,7 +126,7 @@ void IndexBuffer::import(const IndexBuffer& source)
     }
     internalAllocate(elements, segments);
     const int count = segments * m_indicesPerSegment + elements * m_indicesPerElem;
-    // Strips that were opened and got no line piece have indices, but nothing was allocated for them here.
+    // Strips that were opened but have no line pieces contain indices, but nothing was allocated for them here.
     if (count > m_numIndices) {
         return;
     }

@@ -17,10 +17,10 @@ public:
         });
     }
     /// Appends line i from `from[i] + offset` to `to[i] + offset`, for i below `count`. Throws std::out_of_range, and
-    /// appends none, if there is no room.
+    /// appends none, if there is not enough space.
     void appendLines(const int* from, const int* to, int count, int offset = 0);
 
-    /// The ends of a line counted from the start of the array, across segments; the number is not tested.
+    /// The ends of a line, counted from the start of the array across segments; the index is not checked.
     void getLine(int line, int& from, int& to) const;
 };
 

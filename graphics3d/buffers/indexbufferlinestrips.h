@@ -4,18 +4,18 @@
 
 namespace vxgraphics3d {
 
-/// Strips of connected line pieces, a segment each: a strip of k pieces has k + 1 indices.
+/// Strips of connected line pieces, one segment per strip: a strip of k pieces has k + 1 indices.
 class VX_API IndexBufferLineStrips : public IndexBuffer {
 public:
     explicit IndexBufferLineStrips(const VertexBuffer& vertexBuffer) : IndexBuffer(LineStrips, vertexBuffer) {}
 
-    /// Opens a strip at its first vertex.
+    /// Opens a strip with its first vertex.
     void newStrip(int firstVertex)
     {
         newSegment();
         appendStrip(firstVertex);
     }
-    /// Goes on to the next vertex of the present strip.
+    /// Extends the current strip to the next vertex.
     void appendStrip(int vertex)
     {
         append(1, [=](auto* out) { put(out[0], vertex); });

@@ -4,7 +4,7 @@
 
 namespace vxgraphics3d {
 
-/// Triangles, three indices each in the order of their corners; none is turned or sorted.
+/// Triangles, three indices each in the order of their corners; none is reoriented or sorted.
 class VX_API IndexBufferTriangles : public IndexBuffer {
 public:
     explicit IndexBufferTriangles(const VertexBuffer& vertexBuffer) : IndexBuffer(Triangles, vertexBuffer) {}
@@ -17,13 +17,14 @@ public:
             put(out[2], c);
         });
     }
-    /// Appends the triangles of `3 * count` indices. Throws std::out_of_range, and appends none, if there is no room.
+    /// Appends the triangles of `3 * count` indices. Throws std::out_of_range, and appends none, if there is not enough
+    /// space.
     void appendTriangles(const int* indices, int count);
-    /// Appends triangles whose corners stand in three arrays, adding an offset to each index. Throws std::out_of_range,
-    /// and appends none, if there is no room.
+    /// Appends triangles whose corners are in three arrays, adding an offset to each index. Throws std::out_of_range,
+    /// and appends none, if there is not enough space.
     void appendTriangles(const int* a, const int* b, const int* c, int count, int offset = 0);
-    /// The same without an offset, calling `each(a, b, c)` for every triangle on the way: one pass over the corners for
-    /// a fill that also computes with them.
+    /// The same without an offset, calling `each(a, b, c)` for every triangle: a single pass over the corners for a
+    /// fill that also computes with them.
     template <class Each>
     void appendTriangles(const int* a, const int* b, const int* c, int count, Each each)
     {
@@ -38,7 +39,7 @@ public:
         });
     }
 
-    /// The corners of a triangle counted from the start of the array, across segments; the number is not tested.
+    /// The corners of a triangle, counted from the start of the array across segments; the index is not checked.
     void getTriangle(int triangle, int& a, int& b, int& c) const;
 };
 

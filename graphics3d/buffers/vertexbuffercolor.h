@@ -6,7 +6,7 @@
 
 namespace vxgraphics3d {
 
-/// Vertices with a colour each, for what the renderer draws without light.
+/// Vertices with a colour each, for unlit geometry.
 class VX_API VertexBufferColor : public VertexBufferOf<VertexColor> {
 public:
     /// Appends with the low bytes of the channels, and an alpha from 0 (clear) to 1 (opaque).

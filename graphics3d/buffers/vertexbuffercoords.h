@@ -11,7 +11,7 @@ public:
     int appendVertex(const Vector3f& p) { return appendVertex(p.x, p.y, p.z); }
     int appendVertex(float x, float y, float z) { return append({x, y, z}); }
 
-    /// Copies `count` records behind the present ones and returns the index of the first. Without room for all of them
+    /// Copies `count` records after the existing ones and returns the index of the first. Without space for all of them
     /// it logs an error, appends none and returns 0.
     int appendVertices(const Vertex* vertices, int count) { return appendCopies(vertices, count); }
 };

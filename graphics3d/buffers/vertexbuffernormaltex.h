@@ -5,10 +5,10 @@
 
 namespace vxgraphics3d {
 
-/// Vertices with normals and a place on the colour scale, for lit surfaces that show data.
+/// Vertices with normals and a position on the colour scale, for lit surfaces that show data.
 class VX_API VertexBufferNormalTex : public VertexBufferOf<VertexNormalTex> {
 public:
-    /// Appends with the place on the colour scale, 0 to 1; v is 0.
+    /// Appends with the position on the colour scale, 0 to 1; v is 0.
     int appendVertex(const Vector3f& p, const Vector3f& n, float u)
     {
         return appendVertex(p.x, p.y, p.z, n.x, n.y, n.z, u);

@@ -5,7 +5,7 @@
 
 namespace vxgraphics3d {
 
-/// Vertices with normals, two texture coordinates and a further coordinate triple.
+/// Vertices with normals, two texture coordinates and an additional coordinate triple.
 class VX_API VertexBufferNormalTexTexCoord : public VertexBufferOf<VertexNormalTexTexCoord> {
 public:
     /// Appends with the first coordinates of both textures, and the triple c; v and t are 0.

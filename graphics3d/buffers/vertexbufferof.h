@@ -9,8 +9,8 @@
 
 namespace vxgraphics3d {
 
-/// What the vertex buffers of all layouts share: the array of records. A class of buffers adds the appends of its
-/// layout.
+/// The common part of the vertex buffers of all layouts: the array of records. Each derived class adds the appends of
+/// its layout.
 template <class Record>
 class VX_API VertexBufferOf : public VertexBuffer {
     static_assert(std::is_trivially_default_constructible_v<Record>, "a new array is written once, by its fill");
@@ -18,8 +18,8 @@ class VX_API VertexBufferOf : public VertexBuffer {
 public:
     using Vertex = Record;
 
-    /// Takes the next `count` records as appended and gives the first of them, which the caller then writes: the fast
-    /// way in for loops that fill many. Throws std::out_of_range if there is no room.
+    /// Counts the next `count` records as appended and returns the first of them, which the caller must then write: the
+    /// fast path for loops that fill many. Throws std::out_of_range if there is not enough space.
     Vertex* appendUnwritten(int count)
     {
         requireRoom(count);
@@ -49,7 +49,7 @@ protected:
         return m_numVertices++;
     }
 
-    /// Appends copies of `count` records and returns the index of the first; without room for all of them logs an
+    /// Appends copies of `count` records and returns the index of the first; without space for all of them, logs an
     /// error, appends none and returns 0.
     int appendCopies(const Vertex* vertices, int count)
     {

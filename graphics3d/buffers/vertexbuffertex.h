@@ -5,10 +5,10 @@
 
 namespace vxgraphics3d {
 
-/// Vertices with a place on the colour scale, for lines and unlit surfaces that show data.
+/// Vertices with a position on the colour scale, for lines and unlit surfaces that show data.
 class VX_API VertexBufferTex : public VertexBufferOf<VertexTex> {
 public:
-    /// Appends with the place on the colour scale, 0 to 1; v is 0.
+    /// Appends with the position on the colour scale, 0 to 1; v is 0.
     int appendVertex(const Vector3f& p, float u) { return appendVertex(p.x, p.y, p.z, u); }
     int appendVertex(float x, float y, float z, float u) { return append({x, y, z, u, 0.0f}); }
 };

@@ -4,8 +4,9 @@
 
 namespace vxgraphics3d {
 
-/// A textured buffer whose records can be changed after they were appended, and the one whose v is not always 0. It is
-/// for renderers, which keep positions of a plot here with texture coordinates of their own. No index is tested.
+/// A textured buffer whose records can be changed after they were appended, and the only one whose v may differ from 0.
+/// It is for renderers, which store the positions of a plot here with texture coordinates of their own. Indices are not
+/// checked.
 class VX_API VertexBufferTexModifiable : public VertexBufferTex {
 public:
     float getVertexTextureUCoord(int index) const { return record(index).u; }

@@ -4,9 +4,9 @@
 
 namespace vxgraphics3d {
 
-// The records of the vertex buffers, as a renderer hands them to the graphics hardware. Their codes, sizes and byte
-// offsets are a contract with every renderer and never change. A record is uninitialised when an array is made, so that
-// a fill writes its memory once.
+// The records of the vertex buffers, as a renderer passes them to the graphics hardware. Their codes, sizes and byte
+// offsets are a contract with every renderer and never change. A record is not initialised when an array is made, so
+// that a fill writes its memory only once.
 
 /// A position.
 struct VertexCoords {
@@ -68,8 +68,8 @@ static_assert(sizeof(VertexNormalTexTexCoord) == 52 && offsetof(VertexNormalTexT
               offsetof(VertexNormalTexTexCoord, u) == 24 && offsetof(VertexNormalTexTexCoord, s) == 32 &&
               offsetof(VertexNormalTexTexCoord, cx) == 40);
 
-/// Where the parts of a record lie, in bytes from its start; -1 for a part that the record does not have. The position,
-/// three floats, always stands at the start.
+/// Offsets of the parts of a record, in bytes from its start; -1 for a part that the record does not have. The
+/// position, three floats, is always at the start.
 struct VertexLayout {
     int vertexType;
     std::ptrdiff_t size;
@@ -80,7 +80,7 @@ struct VertexLayout {
     std::ptrdiff_t triple = -1;        ///< three floats
 };
 
-/// All layouts, by rising code.
+/// All layouts, in ascending order of their codes.
 inline constexpr VertexLayout c_vertexLayouts[] = {
     {.vertexType = VertexCoords::c_vertexType, .size = sizeof(VertexCoords)},
     {.vertexType = VertexColor::c_vertexType, .size = sizeof(VertexColor), .color = offsetof(VertexColor, red)},
@@ -98,7 +98,7 @@ inline constexpr VertexLayout c_vertexLayouts[] = {
      .triple = offsetof(VertexNormalTexTexCoord, cx)},
 };
 
-/// The layout that a code stands for, or null if it stands for none.
+/// The layout with a code, or null if there is none.
 constexpr const VertexLayout* findVertexLayout(int vertexType)
 {
     for (const VertexLayout& layout : c_vertexLayouts) {

@@ -20,10 +20,10 @@ public:
     AxisOrientationIndicator() = default;
     AxisOrientationIndicator(const AxisOrientationIndicator&) = default;
 
-    /// Takes over all settings of another indicator and counts one change; nothing happens for the object itself.
+    /// Copies all settings of another indicator and counts one change; does nothing for the object itself.
     void import(const AxisOrientationIndicator& other);
 
-    /// Each setter stores its value and counts a change, also when the value is the present one.
+    /// Each setter stores its value and counts a change, even when the value stays the same.
     /// @throws std::out_of_range for an axis that is none of the three
     void setColor(Axis axis, const Color& color);
     /// @throws std::out_of_range for an axis that is none of the three

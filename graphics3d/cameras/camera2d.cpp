@@ -1,4 +1,4 @@
-// The limits of the 2D camera, and driving it. How it makes its matrices stands in camera2dtransforms.cpp.
+// Limits and navigation of the 2D camera. The computation of its matrices is in camera2dtransforms.cpp.
 #include "graphics3d/cameras/camera2d.h"
 
 #include "graphics3d/cameras/viewarithmetic.h"
@@ -10,16 +10,16 @@ namespace vxgraphics3d {
 
 namespace {
 
-// To this camera the two resize behaviours that look at the shape of the area mean the opposite of what they are named
-// for: the first keeps all of the limits visible, the second fills the area.
+// For this camera the two resize behaviours that depend on the shape of the area mean the opposite of their names: the
+// first keeps all limits visible, the second fills the area.
 constexpr auto c_limitsStayVisible = Canvas3dGlobalSettings::ResizeFill;
 constexpr auto c_limitsFillArea = Canvas3dGlobalSettings::ResizeFit;
 
-/// A range is not magnified further at this fraction of the sum of its limits: some ten thousand floats lie between
-/// them.
+/// A range is not magnified further below this fraction of the sum of its limits, where about ten thousand floats lie
+/// between them.
 constexpr float c_smallestRange = 1.1920929e-07f * 10000.0f;
 
-/// Gives a range of limits a new size about its centre.
+/// Resizes a range of limits about its centre.
 void resizeAboutCentre(float& min, float& max, float range)
 {
     const float centre = (min + max) * 0.5f;
@@ -32,7 +32,7 @@ bool mayScale(float factor, float min, float max)
     return !(factor <= 1.0f && (max - min) / std::abs(min + max) <= c_smallestRange);
 }
 
-/// The shift, as a fraction of the view size, that holds a point still while the view is scaled.
+/// The shift, as a fraction of the view size, that keeps a point fixed while the view is scaled.
 float scaleCentre(float factor, float point, float min, float max)
 {
     const float range = max - min;
@@ -236,7 +236,8 @@ void Camera2d::setAdditionalRelativeViewOffset(float x, float y)
 
 void Camera2d::mergeAdditionalTransformation()
 {
-    // What is displayed becomes the base, so the factors must be gone before the displayed limits follow from it.
+    // The displayed view becomes the base, so the factors must be reset before the displayed limits are derived from
+    // it.
     resetAdditionalTransformation();
     if (m_cameraMode == ModePolar) {
         setPolarLimits(m_actualPolarMax, m_actualPolarMin);
@@ -256,7 +257,7 @@ void Camera2d::discardAdditionalTransformation()
     calculatePerspective();
 }
 
-/// The resize behaviour in force.
+/// The current resize behaviour.
 Camera2d::ResizeBehaviour Camera2d::resizeBehaviour() const
 {
     return m_overrideResizeBehaviour ? m_ownResizeBehaviour
@@ -274,7 +275,7 @@ void Camera2d::resetAdditionalTransformation()
 }
 
 /// Stores base limits and adapts them to the render area.
-/// @param fit whether the rectangle must be visible as a whole, whatever the resize behaviour
+/// @param fit whether the whole rectangle must be visible, regardless of the resize behaviour
 void Camera2d::intSetViewLimits(float x0, float x1, float y0, float y1, bool fit)
 {
     m_viewMinX = x0;
@@ -299,7 +300,7 @@ void Camera2d::intSetViewLimits(float x0, float x1, float y0, float y1, bool fit
     calculatePerspective();
 }
 
-/// Takes a render area and adapts the base limits to its shape.
+/// Stores a render area and adapts the base limits to its shape.
 void Camera2d::calculateViewLimits(int width, int height, ResizeBehaviour behaviour)
 {
     const float oldAspect = view::aspect(m_renderArea.height, m_renderArea.width);
@@ -308,7 +309,7 @@ void Camera2d::calculateViewLimits(int width, int height, ResizeBehaviour behavi
     m_renderArea.height = height;
     const bool wide = newAspect <= 1.0f;
     if (m_cameraMode == ModeOneDimensional) {
-        // The y range is fixed, so it is always the height that follows.
+        // The y range is fixed, so the height always follows.
         behaviour = wide ? c_limitsFillArea : c_limitsStayVisible;
     }
 
@@ -355,13 +356,13 @@ void Camera2d::calculateViewLimits(int width, int height, ResizeBehaviour behavi
     calculateViewingScales();
 }
 
-/// Makes the x range follow the y range at a ratio of height to width.
+/// Derives the x range from the y range at a ratio of height to width.
 void Camera2d::calculateViewWidth(float aspect)
 {
     resizeAboutCentre(m_viewMinX, m_viewMaxX, (m_viewMaxY - m_viewMinY) * m_axisViewScaleY / aspect / m_axisViewScaleX);
 }
 
-/// Makes the y range follow the x range at a ratio of height to width.
+/// Derives the y range from the x range at a ratio of height to width.
 void Camera2d::calculateViewHeight(float aspect)
 {
     resizeAboutCentre(m_viewMinY, m_viewMaxY, (m_viewMaxX - m_viewMinX) * m_axisViewScaleX * aspect / m_axisViewScaleY);

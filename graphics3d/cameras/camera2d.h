@@ -7,13 +7,13 @@
 
 namespace vxgraphics3d {
 
-/// The camera of a 2D view: a rectangle of view limits that is kept in step with the shape of the render area.
+/// The camera of a 2D view: a rectangle of view limits that is adapted to the shape of the render area.
 ///
-/// Base limits are what was asked for, adapted to the area; displayed limits are the base with uncommitted zoom and
+/// Base limits are the requested limits, adapted to the area; displayed limits are the base with uncommitted zoom and
 /// pan. The axis view scales stretch the axes on the screen: a unit of y is as long as `y scale / x scale` units of x.
-/// The one-dimensional mode fixes the y range, the polar mode has radii for limits. The camera counts no changes and is
-/// never smaller than one pixel. A canvas owns its camera as this class (there is no virtual destructor); Java peers
-/// share it.
+/// The one-dimensional mode fixes the y range; in polar mode the limits are radii. The camera counts no changes, and
+/// its area is never smaller than one pixel. A canvas owns its camera as this class (there is no virtual destructor)
+/// and shares it with Java peers.
 class VX_API Camera2d final : public ICameraTransforms, public ICameraActions {
 public:
     enum CameraMode2D { ModeOrdinary = 0, ModeOneDimensional = 1, ModePolar = 2 };
@@ -21,38 +21,38 @@ public:
 
     /// Shows 0 to 1 on both axes. The projections are computed with the first render area, limits or merge.
     Camera2d() = default;
-    /// Copies all but the rotation point and the rotation, which start as in a new camera.
+    /// Copies everything except the rotation point and the rotation, which start as in a new camera.
     Camera2d(const Camera2d& other);
 
-    /// Takes over the settings and the base state of another camera, but not its render area, canvas size and rotation
-    /// point. Uncommitted zoom and pan end; nothing is computed anew. Nothing happens for the camera itself.
+    /// Copies the settings and the base state of another camera, but not its render area, canvas size and rotation
+    /// point. Uncommitted zoom and pan are discarded; nothing is recomputed. Does nothing for the camera itself.
     void import(const Camera2d& other);
 
-    /// Stores the mode; the picture follows when it is computed next.
+    /// Stores the mode; it takes effect when the view is computed next.
     void setCameraMode(CameraMode2D mode) { m_cameraMode = mode; }
     /// Whether both axes keep their ratio on the screen when limits are set or the view is zoomed.
     void setPreserveAspectRatio(bool preserve) { m_preserveAspectRatio = preserve; }
-    /// Makes the camera follow a resize behaviour of its own or, with false, the global one.
+    /// Makes the camera use its own resize behaviour or, with false, the global one.
     void setOverrideResizeBehaviour(bool overrideGlobal, ResizeBehaviour behaviour);
-    /// Stores the stretch of the axes and nothing else; scales that follow the scene box go on following it.
+    /// Stores the stretch of the axes and nothing else; scales derived from the scene box continue to follow it.
     void setAxisViewScales(float x, float y);
 
-    /// Sets the base limits so that the whole rectangle is visible, with the camera's own choice of aspect ratio.
+    /// Sets the base limits so that the whole rectangle is visible, with the camera's own setting for the aspect ratio.
     /// @return whether the limits were accepted
     bool setViewLimits(float x0, float x1, float y0, float y1);
-    /// Preserving the aspect ratio, a range that is empty follows from the other one, and two empty ranges show a unit
-    /// to each side. Otherwise the axes are stretched to fill the area, and an empty range is refused.
+    /// If the aspect ratio is preserved, an empty range is derived from the other one, and two empty ranges show one
+    /// unit to each side. Otherwise the axes are stretched to fill the area, and an empty range is refused.
     /// @return whether the limits were accepted
     bool setViewLimits(float x0, float x1, float y0, float y1, bool preserve);
-    /// Sets the limits of one axis; the other follows the aspect ratio if that is preserved and stays else.
+    /// Sets the limits of one axis; the other follows if the aspect ratio is preserved, and otherwise stays unchanged.
     bool setViewLimitsX(float x0, float x1);
     bool setViewLimitsY(float y0, float y1);
-    /// The displayed limits, x first. In polar mode the displayed radial limits in a and b; c and d stay.
+    /// The displayed limits, x first. In polar mode the displayed radial limits in a and b; c and d are unchanged.
     void getViewLimits(float& a, float& b, float& c, float& d) const;
     /// Sets the radial limits. An outer limit that does not exceed the inner one becomes the inner one plus 1.
     void setPolarLimits(float outer, float inner);
-    /// Zooms to a box, with a margin around it given as a fraction of its extents. A box without extent gets a margin
-    /// of its own.
+    /// Zooms to a box, with a margin around it given as a fraction of its extents. A box without extent gets a default
+    /// margin.
     void moveToBoundingBox(const BoundingBox& box, float margin);
 
     CameraMode2D getCameraMode() const { return m_cameraMode; }
@@ -73,7 +73,7 @@ public:
     float getActualMaxX() const { return m_actualMaxX; }
     float getActualMinY() const { return m_actualMinY; }
     float getActualMaxY() const { return m_actualMaxY; }
-    /// The base radial limits, and the displayed ones with the radius between them.
+    /// The base and displayed radial limits, and the radii between them.
     float getPolarMin() const { return m_polarMin; }
     float getPolarMax() const { return m_polarMax; }
     float getActualPolarMin() const { return m_actualPolarMin; }
@@ -82,8 +82,8 @@ public:
     const BoundingBox& getSceneBox() const { return m_sceneBox; }
     const Matrixf& getInvProjectionTransformRH() const { return m_invProjectionTransformRH; }
 
-    /// A size below 1 becomes 1, an origin beyond the canvas its far edge. The base limits follow the new shape by the
-    /// resize behaviour.
+    /// A size below 1 becomes 1; an origin outside the canvas moves to its far edge. The base limits follow the new
+    /// shape according to the resize behaviour.
     void setRenderArea(int canvasWidth, int canvasHeight, int left, int bottom, int width, int height) override;
     int getRenderAreaWidth() const override { return m_renderArea.width; }
     int getRenderAreaHeight() const override { return m_renderArea.height; }
@@ -115,21 +115,21 @@ public:
     void jitterPerspective(float dx, float dy) override;
     void setAxisViewScalesAuto() override;
     void resetAxisViewScales() override;
-    /// The same everywhere: the smaller of both axes' pixels per unit.
+    /// The same everywhere: the smaller of the pixels per unit of both axes.
     float worldToPixelScale(const Vector3f& point) const override;
     Vector3f getLookAtDirection() const override { return {0.0f, 0.0f, -1.0f}; }
     Vector3f getUpDirection() const override { return {0.0f, 1.0f, 0.0f}; }
 
     float getPanSpeed() const override;
-    /// The four that turn or move a camera in space do nothing in a 2D view; panning goes through the view offset.
+    /// The four operations that rotate or move a camera in space do nothing in a 2D view; panning uses the view offset.
     void setAdditionalSceneRotation(float, float, float) override {}
     void setAdditionalRotation(float, float, float) override {}
     void setAdditionalSceneTranslation(float, float, float) override {}
     void setAdditionalTranslation(float, float, float) override {}
     /// Zooms about the point (cx, cy), relative to the base view.
     void setAdditionalScale(float cx, float cy, float s) override;
-    /// Preserving the aspect ratio, the larger factor holds for both axes. A factor of 1 or less is refused, for both
-    /// axes, where the range has become too small against its distance from zero for floats to tell its ends apart.
+    /// If the aspect ratio is preserved, the larger factor applies to both axes. A factor of 1 or less is refused, for
+    /// both axes, where the range is too small relative to its distance from zero for floats to distinguish its ends.
     void setAdditionalScale(float cx, float cy, float sx, float sy) override;
     /// Pans by a fraction of the view size.
     void setAdditionalRelativeViewOffset(float x, float y) override;

@@ -1,4 +1,4 @@
-// How the 2D camera makes its matrices, and what it reads from them. Its limits and driving it stand in camera2d.cpp.
+// Computes the matrices of the 2D camera and the values derived from them. Limits and navigation are in camera2d.cpp.
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/viewarithmetic.h"
 
@@ -136,7 +136,7 @@ void Camera2d::shiftProjection(float x, float y)
     m_invProjectionTransformRH.set(2, 4, -0.5f * shiftY * height);
 }
 
-/// The position moves the view; nothing gives a 2D camera another than the origin.
+/// The position moves the view; a 2D camera's position is always the origin.
 void Camera2d::calculateViewMatrix()
 {
     m_viewTransform.identity();

@@ -1,4 +1,4 @@
-// Placing, setting up and driving the 3D camera. How it makes its matrices stands in camera3dtransforms.cpp.
+// Placement, settings and navigation of the 3D camera. The computation of its matrices is in camera3dtransforms.cpp.
 #include "graphics3d/cameras/camera3d.h"
 
 #include "graphics3d/cameras/viewarithmetic.h"
@@ -13,7 +13,7 @@ namespace {
 
 constexpr float c_pi = 3.1415927f;
 constexpr float c_defaultFov = 20.0f;
-/// The view is not magnified further once it is smaller than this fraction of the clipping range.
+/// The view is not magnified further below this fraction of the clipping range.
 constexpr float c_smallestView = 1e-05f;
 
 HalfAngle fromDegrees(float degrees)
@@ -38,13 +38,13 @@ float extentAt(float distance, const HalfAngle& angle)
     return static_cast<float>(2.0 * static_cast<double>(distance) * angle.tangent());
 }
 
-/// Turns about axes through the origin, one multiplied on the right of the other, kept as where they take the axes of
-/// space: a whole matrix would add a translation by nothing and a division by 1 to every step.
+/// Successive rotations about axes through the origin, each multiplied on the right, stored as the images of the axes
+/// of space: a whole matrix would add a zero translation and a division by 1 to every step.
 class Turn {
 public:
     Turn() = default;
 
-    /// Turns no further for an angle of 0.
+    /// An angle of 0 changes nothing.
     void rotate(const Vector3f& axis, float angle)
     {
         if (angle == 0.0f) {
@@ -58,7 +58,7 @@ public:
         const Vector3f z(m[8], m[9], m[10]);
         *this = m_turned ? Turn((*this)(x), (*this)(y), (*this)(z)) : Turn(x, y, z);
     }
-    /// Where a vector goes. The last summand keeps a component of 0 from being negative.
+    /// The rotated vector. The last summand turns a component of -0 into 0.
     Vector3f operator()(const Vector3f& v) const { return m_x * v.x + m_y * v.y + m_z * v.z + Vector3f(); }
 
 private:
@@ -145,7 +145,7 @@ void Camera3d::moveToBoundingBox(const BoundingBox& focus, const BoundingBox& sc
     }
 }
 
-/// Moves and scales the picture so that the corners of a box of the view fill the render area but for the margin.
+/// Moves and scales the view so that the corners of a box of the view fill the render area except for the margin.
 void Camera3d::fitTightly(const BoundingBox& viewBox, float margin)
 {
     float minX = 1.0f;
@@ -213,7 +213,7 @@ void Camera3d::setOrthographicHeight(float height)
     recalculateIn(ProjectionOrthographic);
 }
 
-/// Counts a change of a value that only one projection shows.
+/// Counts a change of a value that is only visible in one projection.
 void Camera3d::recalculateIn(ProjectionType type)
 {
     if (m_projectionType == type) {

@@ -11,16 +11,16 @@
 
 namespace vxgraphics3d {
 
-/// The camera of a 3D view: where the eye is, how it is turned, what it projects and how the picture lies in the render
-/// area, with every matrix that a renderer needs.
+/// The camera of a 3D view: position and orientation of the eye, the projection, and the position of the image in the
+/// render area, with every matrix that a renderer needs.
 ///
 /// Positions and axes are in axis-scaled space, which is the world stretched by the axis view scales; rotation point
 /// and boxes are given in world coordinates. The eye looks along negative z of the view. A view offset moves the image
-/// by a fraction of the render area. Nothing is guarded against a render area, a size or a clipping distance of 0, nor
-/// against a direction of length 0: the results are then not finite.
+/// by a fraction of the render area. There is no protection against a render area, size or clipping distance of 0, or a
+/// direction of length 0: the results are then not finite.
 ///
-/// Every operation counts a change unless it says otherwise. A canvas owns its camera; Java peers share it. The
-/// matrices of a new camera are those of an eye at the origin that looks along negative z; its committed axes take
+/// Every operation counts a change unless documented otherwise. A canvas owns its camera and shares it with Java peers.
+/// The matrices of a new camera are those of an eye at the origin that looks along negative z; its committed axes take
 /// effect with the first `lookAt`.
 class VX_API Camera3d : public ChangeableSetting, public ICameraTransforms, public ICameraActions {
 public:
@@ -31,20 +31,20 @@ public:
     /// Copies the whole state; the change number of a copy starts at 1.
     Camera3d(const Camera3d& other);
 
-    /// Takes over the settings of another camera but its canvas size, render area and dolly speed, and counts two
-    /// changes. Nothing happens for the camera itself.
+    /// Copies the settings of another camera except its canvas size, render area and dolly speed, and counts two
+    /// changes. Does nothing for the camera itself.
     void import(const Camera3d& other);
 
-    /// Places the eye and turns it, in axis-scaled space. The base and the displayed position and axes become the same;
-    /// uncommitted zoom and offset stay.
-    /// @param direction from the eye into the scene; its length is remembered, nothing else
-    /// @param upHint any direction but the line of sight; the up axis is the nearest one at right angles to it
+    /// Positions and orients the eye, in axis-scaled space. The base and the displayed position and axes become the
+    /// same; uncommitted zoom and offset are kept.
+    /// @param direction from the eye into the scene; only its direction and, for getLookAtLength(), its length are used
+    /// @param upHint any direction except the line of sight; the up axis is the nearest perpendicular direction
     void lookAt(const Vector3f& position, const Vector3f& direction, const Vector3f& upHint);
-    /// Zooms to a box: looks at it along the present direction and shows the whole of it, with the margin of the global
-    /// settings. A view offset that was in force before takes some of that margin.
-    /// @param focus the box to show, in world coordinates; a box of no size shows its surroundings
-    /// @param scene the box of the whole scene, which sets the distance of the eye
-    /// @param expansion what is left free around the box, as a fraction of its radius
+    /// Zooms to a box: looks at it along the current direction and shows the whole of it, with the margin of the global
+    /// settings. An existing view offset takes some of that margin.
+    /// @param focus the box to show, in world coordinates; for a box of zero size, its surroundings are shown
+    /// @param scene the box of the whole scene, which determines the distance of the eye
+    /// @param expansion the free space around the box, as a fraction of its radius
     void moveToBoundingBox(const BoundingBox& focus, const BoundingBox& scene, float expansion);
 
     /// Sets both base angles of view, each measured from the axis of the view, in degrees.
@@ -53,36 +53,36 @@ public:
     void setVerticalFOV(float degrees);
     /// Sets both base extents of the view for orthographic projection, in axis-scaled units.
     void setOrthographicSize(float size);
-    /// Sets one base extent, and the other by the shape of the render area.
+    /// Sets one base extent, and the other from the shape of the render area.
     void setOrthographicWidth(float width);
     void setOrthographicHeight(float height);
-    /// Sets the pixels per unit of the near plane, used where the pixel scale is fixed.
+    /// Sets the pixels per unit of the near plane, used if the pixel scale is fixed.
     void setViewingScale(float scale);
     /// Sets the base and the displayed offset of the image, as a fraction of the render area.
     void setRelativeViewOffset(float x, float y);
-    /// Changes the projection and converts angles, extents and viewing scale so that things at the rotation point keep
+    /// Changes the projection and converts angles, extents and viewing scale so that objects at the rotation point keep
     /// their size on the screen.
     void setProjectionType(ProjectionType type);
-    /// Sets the point that the scene turns about, in world coordinates. No change is counted.
+    /// Sets the point about which the scene rotates, in world coordinates. No change is counted.
     void setRotationPoint(const Vector3f& point);
-    /// Makes the camera follow a resize behaviour of its own or, with false, the global one. The picture follows when
-    /// it is computed next; no change is counted.
+    /// Makes the camera use its own resize behaviour or, with false, the global one. It takes effect when the view is
+    /// computed next; no change is counted.
     void setOverrideResizeBehaviour(bool overrideGlobal, ResizeBehaviour behaviour);
-    /// Stretches the axes of the world. No change is counted and no view matrix moves.
+    /// Stretches the axes of the world. No change is counted and no view matrix changes.
     void setAxisViewScales(float x, float y, float z);
 
     bool isPerspectiveProjection() const { return m_projectionType == ProjectionPerspective; }
     bool isOrthographicProjection() const { return m_projectionType == ProjectionOrthographic; }
     ProjectionType getProjectionType() const { return m_projectionType; }
-    /// The base angle of view in degrees that governs the picture, measured from the axis; 0 where no angle does.
+    /// The base angle of view in degrees that determines the view, measured from the axis; 0 if no angle does.
     float getFOV() const;
     float getHorizontalFOV() const;
     float getVerticalFOV() const;
     /// The displayed angles of view in radians, measured from the axis; 0 in orthographic projection.
     float getActualHorizontalFOV() const { return m_actualHorizontalFov; }
     float getActualVerticalFOV() const { return m_actualVerticalFov; }
-    /// The base extent of the view that governs the picture in orthographic projection; the geometric mean of both
-    /// where neither does.
+    /// The base extent that determines the view in orthographic projection; the geometric mean of both extents if
+    /// neither does.
     float getOrthographicSize() const;
     float getViewingScale() const { return m_viewingScale; }
     /// The displayed offset of the image.
@@ -101,11 +101,11 @@ public:
     const Vector3f& getRight() const { return m_right; }
     const Vector3f& getUp() const { return m_up; }
     const Vector3f& getForward() const { return m_forward; }
-    /// The length of the direction that `lookAt` took last.
+    /// The length of the direction that was last passed to `lookAt`.
     float getLookAtLength() const { return m_lookAtLength; }
     const BoundingBox& getSceneBoundingBox() const { return m_sceneBoundingBox; }
     const Matrixf& getInvProjectionTransformRH() const { return m_invProjectionTransformRH; }
-    /// The axes (0 to 2), ordered by the depth in the view at which they end, farthest first.
+    /// The axes (0 to 2), ordered by the depth of their ends in the view, farthest first.
     const std::array<int, 3>& getDepthOrder() const { return m_depthOrder; }
 
     /// The displayed direction, with any uncommitted rotation.
@@ -116,7 +116,7 @@ public:
     void setAdditionalRotation(float a, float b, float c) override;
     void setAdditionalSceneTranslation(float a, float b, float c) override;
     void setAdditionalTranslation(float a, float b, float c) override;
-    /// Further magnification is refused, without a change, once the view is tiny against the clipping range.
+    /// Further magnification is refused, without a change, once the view is tiny relative to the clipping range.
     void setAdditionalScale(float cx, float cy, float s) override;
     /// Zooms by the larger factor.
     void setAdditionalScale(float cx, float cy, float sx, float sy) override;
@@ -133,22 +133,22 @@ public:
     bool hasViewScaleTransform() const override { return m_hasAxisViewScale; }
     const Matrixf& getAxisViewScaleTransform() const override { return m_axisViewScaleTransform; }
     const Matrixf& getInvAxisViewScaleTransform() const override { return m_invAxisViewScaleTransform; }
-    /// In orthographic projection the point lies on the line of sight of the pixel, but near plus far distance closer
-    /// to the viewer than what is seen there.
+    /// In orthographic projection the point is on the line of sight of the pixel, but nearer to the viewer than the
+    /// visible point by the sum of near and far distance.
     Vector3f screenToWorld(int x, int y, float z) const override;
-    /// Pixels count from the lower left corner of the render area, where `screenToWorld` counts from the drawable's.
+    /// Pixels count from the lower left corner of the render area; those of `screenToWorld` from that of the drawable.
     Vector3f worldToScreenRH(const Vector3f& point) const override;
     Vector3f worldToScreenLH(const Vector3f& point) const override;
     float worldToPixelScale(const Vector3f& point) const override;
     const Vector3f& getRotationPoint() const override { return m_rotationPoint; }
-    /// Computes the projection anew in every case; a change is counted only if a value differs.
+    /// Always recomputes the projection, but counts a change only if a value differs.
     void setRenderArea(int canvasWidth, int canvasHeight, int left, int bottom, int width, int height) override;
     int getRenderAreaWidth() const override { return m_renderArea.width; }
     int getRenderAreaHeight() const override { return m_renderArea.height; }
     int getRenderAreaLeft() const override { return m_renderArea.left; }
     int getRenderAreaBottom() const override { return m_renderArea.bottom; }
-    /// Fits the clipping planes to the scene, if that moves one of them by more than a tenth of their distance; only
-    /// then a change is counted.
+    /// Fits the clipping planes to the scene if that moves one of them by more than a tenth of their distance; only
+    /// then is a change counted.
     void setBoundingBox(const BoundingBox& box) override;
     /// The box in axis-scaled space; an empty box stays empty.
     BoundingBox getViewBoundingBox(const BoundingBox& box) const override;

@@ -1,4 +1,4 @@
-// How the 3D camera makes its matrices, and what it reads from them. Placing and driving it stand in camera3d.cpp.
+// Computes the matrices of the 3D camera and the values derived from them. Navigation is in camera3d.cpp.
 #include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/cameras/viewarithmetic.h"
 #include "graphics3d/foundation/errorlog.h"
@@ -11,19 +11,19 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// A clipping plane moves only by more than this fraction of the clipping range.
+/// A clipping plane moves only if it changes by more than this fraction of the clipping range.
 constexpr float c_clippingThreshold = 0.1f;
-/// The nearest that the near plane comes, as a fraction of the radius that the planes enclose.
+/// The smallest near clipping distance, as a fraction of the radius that the planes enclose.
 constexpr float c_smallestNearClip = 0.001f;
 
-/// Whether the base view decides how large the view is.
+/// Whether the base view determines the size of the view.
 constexpr bool isGoverned(Camera3d::ResizeBehaviour behaviour)
 {
     using enum Canvas3dGlobalSettings::ResizeBehaviour;
     return behaviour == ResizeWidth || behaviour == ResizeHeight || behaviour == ResizeFill || behaviour == ResizeFit;
 }
 
-/// A point under a rotation, without the division by its w, which is 1.
+/// A rotated point, without the division by its w, which is 1.
 Vector3f turned(const Matrixf& rotation, const Vector3f& p)
 {
     const float* m = rotation.data();
@@ -31,7 +31,7 @@ Vector3f turned(const Matrixf& rotation, const Vector3f& p)
             m[2] * p.x + m[6] * p.y + m[10] * p.z + m[14]};
 }
 
-/// A rotation with a translation after it.
+/// A rotation followed by a translation.
 Matrixf movedTo(const Matrixf& rotation, const Vector3f& t)
 {
     const Matrixf& r = rotation;
@@ -198,14 +198,14 @@ void Camera3d::resetAxisViewScales()
     m_scaledRotationPoint = m_rotationPoint;
 }
 
-/// The resize behaviour in force.
+/// The current resize behaviour.
 Camera3d::ResizeBehaviour Camera3d::resizeBehaviour() const
 {
     return m_overrideResizeBehaviour ? m_ownResizeBehaviour
                                      : Canvas3dGlobalSettings::getInstance()->getResizeBehaviour();
 }
 
-/// Whether the base width decides how large the view is, not the base height.
+/// Whether the base width, rather than the base height, determines the size of the view.
 /// @param baseRatio height over width of the base view
 bool Camera3d::widthGoverns(ResizeBehaviour behaviour, double baseRatio) const
 {
@@ -302,7 +302,7 @@ void Camera3d::calculatePerspective()
 /// Writes the entries of the projections that move the image, by a fraction of the render area.
 void Camera3d::shiftProjection(float x, float y)
 {
-    // A shift acts after the division by depth, so in perspective it stands where depth itself multiplies it.
+    // A shift applies after the division by depth, so in perspective its entry is the one that is multiplied by depth.
     const bool orthographic = isOrthographicProjection();
     const int column = orthographic ? 4 : 3;
     const float factor = orthographic ? 2.0f : -2.0f;
@@ -319,7 +319,7 @@ void Camera3d::shiftProjection(float x, float y)
     }
 }
 
-/// Sets the displayed rotation from orthonormal axes of the camera.
+/// Sets the displayed rotation from the orthonormal axes of the camera.
 void Camera3d::calculateRotationMatrix(const Vector3f& right, const Vector3f& up, const Vector3f& forward)
 {
     const Vector3f back = -forward;
@@ -340,7 +340,7 @@ void Camera3d::calculateViewMatrix()
     m_invViewTransform = movedTo(m_invRotationTransform, -turned(m_invRotationTransform, t));
 }
 
-/// Sorts the axes by the depth of their ends; axes at equal depth keep their places.
+/// Sorts the axes by the depth of their ends; axes at equal depth keep their order.
 void Camera3d::calculateDepthOrder()
 {
     const auto depth = [this](int axis) { return m_rotationTransform.get(3, axis + 1); };

@@ -4,8 +4,8 @@
 
 namespace vxgraphics3d {
 
-/// Half an angle of view in radians, with its tangent in double precision: every step of a drag asks for the tangent,
-/// and only a change of the angle moves it.
+/// Half an angle of view in radians, with its tangent in double precision: every step of a drag uses the tangent, which
+/// changes only with the angle.
 class HalfAngle {
 public:
     HalfAngle() = default;

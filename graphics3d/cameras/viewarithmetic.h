@@ -2,8 +2,7 @@
 
 #include <cmath>
 
-/// Small sums that the cameras need in more than one place. Angles are half angles of view in radians, taken through
-/// double precision.
+/// Small calculations that the cameras share. Angles are half angles of view in radians, computed in double precision.
 namespace vxgraphics3d::view {
 
 inline double tangent(float angle)
@@ -11,7 +10,7 @@ inline double tangent(float angle)
     return std::tan(static_cast<double>(angle));
 }
 
-/// The half angle under which an extent is seen from a distance.
+/// The half angle that an extent covers at a distance.
 inline float halfAngle(float extent, float distance)
 {
     return static_cast<float>(std::atan(0.5 * static_cast<double>(extent) / static_cast<double>(distance)));
@@ -23,7 +22,7 @@ inline float aspect(int height, int width)
     return static_cast<float>(height) / static_cast<float>(width);
 }
 
-/// How far one pixel position is from another. Both come from outside, so their difference need not fit an int.
+/// The distance from one pixel position to another. Both are external input, so their difference need not fit an int.
 inline float pixelDistance(int from, int to)
 {
     return static_cast<float>(static_cast<long long>(to) - from);

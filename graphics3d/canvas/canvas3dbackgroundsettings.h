@@ -10,11 +10,11 @@ namespace vxgraphics3d {
 
 class CanvasBackgroundImage;
 
-/// What lies behind the picture of a canvas in one of its modes: a colour, or two that run into each other from top to
-/// bottom, and an image over them. Colours count a change, the image does not.
+/// The background of a canvas in one of its modes: one colour, or a gradient of two colours from top to bottom, and an
+/// image over them. Setting colours counts a change, setting the image does not.
 class VX_API Canvas3dBackgroundSettings : public ChangeableSetting {
 public:
-    // Where the image stands.
+    // The position of the image.
     enum HorizontalPosition : int { HorizontalLeft = 0, HorizontalCenter = 1, HorizontalRight = 2 };
     enum VerticalPosition : int { VerticalTop = 0, VerticalCenter = 1, VerticalBottom = 2 };
 
@@ -24,13 +24,13 @@ public:
     ~Canvas3dBackgroundSettings() override;
     Canvas3dBackgroundSettings& operator=(const Canvas3dBackgroundSettings&) = delete;
 
-    /// Takes the colours over, shares the image and counts one change; nothing happens for the object itself.
+    /// Copies the colours, shares the image and counts one change; does nothing for the object itself.
     void import(const Canvas3dBackgroundSettings& other);
 
     void setBackgroundColor(const Color& color);
-    /// Two equal colours are one colour, without shading.
+    /// Two equal colours mean a single colour without a gradient.
     void setShadedBackground(const Color& top, const Color& bottom);
-    /// Sets the image and where it stands. Without an image it is the centre.
+    /// Sets the image and its position. Without an image the position is the centre.
     void setBackgroungImage(boost::shared_ptr<const CanvasBackgroundImage> image, HorizontalPosition horizontal,
                             VerticalPosition vertical);
 

@@ -19,23 +19,22 @@ class GridBoxSettings;
 class ICameraActions;
 class ICameraTransforms;
 
-/// What belongs to one view: whether it shows the 3D or the 2D mode, a camera for each, backgrounds, grid box, axes,
-/// fonts, and what the mouse does.
+/// The settings of one view: 3D or 2D mode, a camera for each, backgrounds, grid box, axes, fonts, and the mouse mode.
 ///
-/// A renderer owns one for each of its views, and Java can make further ones, to keep a state or to set up a view
-/// before there is one. Cameras, indicator, grid box and axes are objects that Java peers share; they stay the same
-/// ones for the life of the settings, also when values are imported.
+/// A renderer owns one for each of its views, and Java can create more, to save a state or to prepare a view before it
+/// exists. Cameras, indicator, grid box and axes are shared with Java peers; the objects stay the same for the lifetime
+/// of the settings, even when values are imported.
 class VX_API Canvas3dSettings : public ChangeableSetting {
 public:
     enum RenderMode : int { RenderMode3d = 0, RenderMode2d = 1 };
     static constexpr int c_numRenderModes = 2;
 
-    /// What the mouse does in the view, 0 to 6; what the numbers mean is agreed between the view and Java.
+    /// What the mouse does in the view, 0 to 6; the view and Java agree on the meaning of the numbers.
     enum MouseMode : int {};
-    /// How a renderer that uses shaders lights the scene; the numbers are the renderer's.
+    /// How a renderer that uses shaders lights the scene; the renderer defines the numbers.
     enum ShaderType : int {};
 
-    /// The kinds of text that belong to a canvas, and their places in its table of fonts.
+    /// The kinds of text that belong to a canvas, and their indices in its table of fonts.
     enum TextItem : int {
         TextAxisTitle = 0,
         TextAxisTick = 1,
@@ -45,25 +44,25 @@ public:
     };
     static constexpr int c_numTextItems = 5;
 
-    /// A 3D view with new cameras on black, with the fonts that the settings of the process have now.
+    /// A 3D view with new cameras on black, with the current default fonts of the global settings.
     Canvas3dSettings();
-    /// Copies everything, also what the settings own; only the images of backgrounds are shared.
+    /// Copies everything, including the objects that the settings own; only the images of backgrounds are shared.
     Canvas3dSettings(const Canvas3dSettings& other);
     ~Canvas3dSettings() override;
     Canvas3dSettings& operator=(const Canvas3dSettings&) = delete;
 
-    /// Takes all values over into the objects that are here and counts one change; nothing happens for the object
-    /// itself. Cameras take what their own import takes.
+    /// Copies all values into the existing objects and counts one change; does nothing for the object itself. Each
+    /// camera copies what its own import copies.
     void import(const Canvas3dSettings& other);
 
-    // Counted always.
+    // These setters always count a change.
 
     RenderMode getRenderMode() const { return m_renderMode; }
     void setRenderMode(RenderMode mode);
     ShaderType getShaderType() const { return m_shaderType; }
     void setShaderType(ShaderType type);
 
-    // Not counted.
+    // These setters count no change.
 
     /// One bit for each kind of item that the renderer draws.
     unsigned getRenderMask() const { return m_renderMask; }
@@ -75,7 +74,7 @@ public:
     /// Whether the pointer is to snap to vertices.
     bool isSnap() const { return m_snap; }
     void setSnap(bool snap) { m_snap = snap; }
-    /// A mark that the renderer may set; it travels with the settings and means nothing here.
+    /// A flag for the renderer's own use, copied with the settings.
     bool isMarked() const { return m_marked; }
     void setMarked(bool marked) { m_marked = marked; }
 
@@ -86,7 +85,7 @@ public:
     Canvas3dBackgroundSettings& background(RenderMode mode);
     const Canvas3dBackgroundSettings& getBackground(RenderMode mode) const;
 
-    // What the settings own.
+    // Owned objects.
 
     const boost::shared_ptr<AxisOrientationIndicator>& getAxisOrientationIndicatorPtr() const
     {
@@ -101,17 +100,17 @@ public:
     Camera3d* camera3d() { return m_camera3d.get(); }
     const Camera2d* getCamera2d() const { return m_camera2d.get(); }
     const Camera3d* getCamera3d() const { return m_camera3d.get(); }
-    /// Imports a camera into the one that is here.
+    /// Imports a camera into the existing one.
     void setCamera2d(const Camera2d& camera);
     void setCamera3d(const Camera3d& camera);
 
-    /// The camera of the present render mode; for a mode that is none of the two, the 3D camera and a message.
+    /// The camera of the current render mode; for any other mode, the 3D camera, and an error is logged.
     ICameraTransforms& cameraTransforms();
     const ICameraTransforms& getCameraTransforms() const;
     boost::shared_ptr<ICameraActions> getCurrentCameraActionsPtr() const;
 
 private:
-    /// Whether the 2D camera is the one to use.
+    /// Whether the 2D camera is the current one.
     bool isCamera2dCurrent() const;
 
     RenderMode m_renderMode = RenderMode3d;

@@ -5,8 +5,8 @@
 
 namespace vxgraphics3d {
 
-/// How the grid box around a scene looks. A plain record that a canvas owns and Java peers share; nobody is told of
-/// changes.
+/// The appearance of the grid box around a scene. A plain record that a canvas owns and Java peers share; changes are
+/// not reported.
 class VX_API GridBoxSettings {
 public:
     bool isGridShown() const { return m_showGrid; }

@@ -9,13 +9,13 @@
 
 namespace vxgraphics3d {
 
-/// What the export of one picture asks of a renderer. Java makes one for each export and fills it; the renderer reads
-/// it. A plain record: setters only store, and nobody is told of changes.
+/// The settings for exporting one picture. Java creates and fills one per export; the renderer reads it. A plain
+/// record: setters only store, and changes are not reported.
 class VX_API HardcopySettings {
 public:
     using TextItem = vxgraphics3d::TextItem;
 
-    /// Without decorations on a white background, at the resolution that the screen has now.
+    /// No decorations, a white background, and the current resolution of the screen.
     HardcopySettings();
 
     // Decorations.
@@ -35,12 +35,12 @@ public:
 
     // Background.
 
-    /// Whether the background is that of the canvas; otherwise it is the one set here.
+    /// Whether the canvas background is used; otherwise it is the background set here.
     bool isUseCurrentBackground() const { return m_useCurrentBackground; }
     void setUseCurrentBackground(bool use) { m_useCurrentBackground = use; }
     const Color& getTopColor() const { return m_topColor; }
     const Color& getBottomColor() const { return m_bottomColor; }
-    /// Two opaque colours 0xRRGGBB, between which the background runs.
+    /// Two opaque colours 0xRRGGBB for a gradient from top to bottom.
     void setBackground(int top, int bottom);
 
     // Picture.
@@ -48,23 +48,23 @@ public:
     /// Dots per inch.
     int getDpi() const { return m_dpi; }
     void setDpi(int dpi) { m_dpi = dpi; }
-    /// Samples a pixel.
+    /// Samples per pixel.
     int getMultisampleSetting() const { return m_multisampleSetting; }
     void setMultisampleSetting(int samples) { m_multisampleSetting = samples; }
-    /// Whether transparent parts are drawn in layers, and in how many.
+    /// Whether transparent parts are drawn in layers, and the number of layers.
     bool isUseTransparency() const { return m_useTransparency; }
     void setUseTransparency(bool use) { m_useTransparency = use; }
     int getTransparencyLayers() const { return m_transparencyLayers; }
     void setTransparencyLayers(int layers) { m_transparencyLayers = layers; }
 
-    // Texts. The sizes are in points; the functions throw std::out_of_range if there is no such kind of text.
+    // Texts. Sizes are in points; the functions throw std::out_of_range if there is no such kind of text.
 
     int getFontSize(TextItem item) const;
     void setFontSize(TextItem item, int size);
-    /// Whether a size is given, which is above 0; otherwise the text has its size on the screen.
+    /// Whether a size above 0 is set; otherwise the text has its size on the screen.
     bool isFontSizeValid(TextItem item) const { return getFontSize(item) > 0; }
 
-    // What the file carries.
+    // Metadata of the file.
 
     const std::string& getFileTitle() const { return m_fileTitle; }
     void setFileTitle(const std::string& title) { m_fileTitle = title; }

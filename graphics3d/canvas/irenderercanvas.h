@@ -11,11 +11,11 @@ class SceneSettings;
 struct CanvasPickSettings;
 struct ContextData;
 
-/// One view of a renderer, as far as Java peers connect to what it holds.
+/// One view of a renderer, as far as Java peers connect to its objects.
 ///
 /// A renderer implements this for its native canvas and attaches the peer of that canvas as an `IRendererCanvas`; the
-/// peers of settings and of the context's data then connect through it. Each call gives a further owner of the object
-/// that the view uses itself, or null while it has none, which refuses the connection.
+/// peers of settings and of the context's data then connect through it. Each call returns a shared pointer to the
+/// object that the view itself uses, or null if it has none, in which case the connection is refused.
 class VX_API IRendererCanvas {
 public:
     using PeerRoot = IRendererCanvas;

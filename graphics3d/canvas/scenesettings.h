@@ -13,18 +13,18 @@ namespace vxgraphics3d {
 class IRendererSetup;
 class SceneSettingsLight;
 
-/// How one view shows one scene: which decorations are on, the opacity, two fonts, and which of the scene's light it
+/// How one view shows one scene: which decorations are on, the opacity, two fonts, and which of the scene's lights it
 /// uses.
 ///
-/// A scene makes one for each view that shows it and keeps it by its id; the renderer and Java peers share it. What has
-/// changed is told by bits, which the renderer clears when it has looked.
+/// A scene creates one for each view that shows it and stores it by its id; the renderer and Java peers share it.
+/// Changes are reported by bits, which the renderer clears once it has handled them.
 class VX_API SceneSettings {
 public:
-    /// The kinds of text that belong to a scene, and their places in its table of fonts.
+    /// The kinds of text that belong to a scene, and their indices in its table of fonts.
     enum TextItem : int { TextLabel = 0, TextTitle = 1 };
     static constexpr int c_numTextItems = 2;
 
-    /// Bits of what has changed.
+    /// Bits that report what has changed.
     enum ChangedFlag : unsigned {
         ChangedLegends = 0x08, ///< legends, or their smallest and largest values
         ChangedTitle = 0x10,
@@ -33,17 +33,17 @@ public:
         ChangedLineDirections = 0x80,
     };
 
-    /// Settings with the fonts that the settings of the process have now.
-    /// @param setup what the renderer keeps for the scene; only remembered
+    /// Settings with the current default fonts of the global settings.
+    /// @param setup what the renderer stores for the scene; only the reference is kept
     explicit SceneSettings(IRendererSetup& setup);
-    /// Settings of another view that start like those: an id of their own, nothing changed, light switches that change
-    /// by themselves.
+    /// Settings for another view, copied from existing ones: with an id of their own, no changes reported, and
+    /// independent light switches.
     SceneSettings(IRendererSetup& setup, const SceneSettings& other);
     SceneSettings(const SceneSettings&) = delete;
     SceneSettings& operator=(const SceneSettings&) = delete;
     ~SceneSettings();
 
-    /// Unique over the process, from 1.
+    /// Unique in the process, from 1.
     int getId() const { return m_id; }
     IRendererSetup& getSetup() const { return m_setup; }
     /// A set of `ChangedFlag`.
@@ -51,7 +51,7 @@ public:
     void resetChangedFlags() { m_changedFlags = 0; }
     const boost::shared_ptr<SceneSettingsLight>& getLight() const { return m_light; }
 
-    // A value that differs from the present one sets the bit of its kind.
+    // Setting a different value sets the bit for its kind.
 
     bool isLegendsShown() const { return m_showLegends; }
     void setShowLegends(bool show) { set(m_showLegends, show, ChangedLegends); }
@@ -67,7 +67,7 @@ public:
     bool isLineDirectionsShown() const { return m_showLineDirections; }
     void setShowLineDirections(bool show) { set(m_showLineDirections, show, ChangedLineDirections); }
 
-    /// From 0, invisible, to 1, opaque; values beyond are kept as they are.
+    /// From 0, invisible, to 1, opaque; other values are stored as they are.
     float getGlobalOpacity() const { return m_globalOpacity; }
     /// Sets no bit.
     void setGlobalOpacity(float opacity) { m_globalOpacity = opacity; }

@@ -11,7 +11,7 @@ namespace {
 constexpr float c_cornerSigns[8][3] = {{-1, -1, -1}, {1, -1, -1}, {1, 1, -1}, {-1, 1, -1},
                                        {1, -1, 1},   {-1, -1, 1}, {1, 1, 1},  {-1, 1, 1}};
 
-/// Cuts the range of the segment's parameter down to the part between two parallel planes.
+/// Clips the range of the segment's parameter to the part between two parallel planes.
 /// @return whether anything is left
 bool clipToSlab(double from, double to, double low, double high, double& begin, double& end)
 {

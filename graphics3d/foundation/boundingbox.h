@@ -8,10 +8,10 @@
 
 namespace vxgraphics3d {
 
-/// A box along the axes, kept as centre and half sizes, or an empty box.
+/// An axis-aligned box, stored as centre and half sizes, or an empty box.
 ///
-/// Every operation on limits takes them as centre plus and minus half size and makes these anew, so each step rounds,
-/// and a merged box is not a bit-exact union. An empty (invalid) box absorbs nothing but a merge.
+/// Every operation on limits computes them as centre plus and minus half size and converts the result back, so each
+/// step rounds, and a merged box is not a bit-exact union. An empty (invalid) box is changed only by a merge.
 class VX_API BoundingBox {
 public:
     /// An empty box, all zeros.
@@ -30,7 +30,7 @@ public:
     {
         setLimits({xmin, ymin, zmin}, {xmax, ymax, zmax});
     }
-    /// Copies a valid box; an empty one leaves this box untouched. To copy in every case, assign.
+    /// Copies a valid box; an empty one leaves this box unchanged. Use assignment to copy in either case.
     void init(const BoundingBox& box)
     {
         if (box.m_isValid) {
@@ -46,12 +46,13 @@ public:
     float getHalfSizeY() const { return m_halfSize.y; }
     float getHalfSizeZ() const { return m_halfSize.z; }
     Vector3f getHalfSize() const { return m_halfSize; }
-    /// The corner of the lowest coordinates, also of an empty box, where it is the origin.
+    /// The corner of the lowest coordinates; the origin for an empty box.
     Vector3f getMin() const { return m_center - m_halfSize; }
     /// The corner of the highest coordinates.
     Vector3f getMax() const { return m_center + m_halfSize; }
 
-    /// Widens the box over another one. An empty box takes the other over as it is; an empty other changes nothing.
+    /// Extends the box to include another one. An empty box becomes a copy of the other; an empty other changes
+    /// nothing.
     void merge(const BoundingBox& box)
     {
         if (!m_isValid) {
@@ -60,7 +61,7 @@ public:
             cover(box.getMin(), box.getMax());
         }
     }
-    /// Widens a valid box over a point; an empty box stays empty.
+    /// Extends a valid box to include a point; an empty box stays empty.
     void expandWithPoint(const Vector3f& point)
     {
         if (m_isValid) {
@@ -98,7 +99,7 @@ public:
     float getBoundingRadius() const;
     /// Whether all three half sizes are 0, as they are in an empty box.
     bool isZeroSize() const { return m_halfSize == Vector3f(); }
-    /// Whether the segment from a to b meets the box, border included. An empty box meets nothing.
+    /// Whether the segment from a to b intersects the box, border included. Nothing intersects an empty box.
     bool doesLineIntersect(const Vector3f& a, const Vector3f& b) const;
 
     /// Whether both boxes are valid and equal. An empty box equals nothing, not even another empty one.
@@ -114,7 +115,7 @@ private:
         m_halfSize = (high - low) * 0.5f;
         m_isValid = true;
     }
-    /// Widens a valid box over the space between two corners. A limit that is no number widens nothing.
+    /// Extends a valid box to include the space between two corners. A limit that is NaN is ignored.
     void cover(const Vector3f& low, const Vector3f& high)
     {
         const Vector3f ownLow = getMin();

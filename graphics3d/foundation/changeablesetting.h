@@ -7,7 +7,7 @@ namespace vxgraphics3d {
 
 /// Base of the settings classes: one change number that rises with every change that an observer must notice.
 ///
-/// A copy starts at 1, and an assignment leaves the number of its target to the derived class.
+/// A copy starts at 1; an assignment leaves the number of its target to the derived class.
 class VX_API ChangeableSetting {
 public:
     ChangeableSetting() = default;
@@ -16,12 +16,12 @@ public:
     virtual ~ChangeableSetting();
 
     int getChangeId() const { return m_changeId.get(); }
-    /// Whether something has changed since the observer took the number last.
+    /// Whether something has changed since the observer last took the number.
     bool isChanged(const LastChangeId& last) const { return m_changeId.isChanged(last); }
     /// Brings the observer up to date.
     void resetChanged(LastChangeId& last) const { m_changeId.resetChanged(last); }
 
-    /// Counts one change if the source is another object. A derived class calls it when it takes all its settings over.
+    /// Counts one change if the source is another object. A derived class calls it when it copies all settings.
     void import(const ChangeableSetting& other)
     {
         if (&other != this) {

@@ -24,7 +24,7 @@ public:
     /// Brings the observer up to date.
     void resetChanged(LastChangeId& last) const { last.take(m_number); }
 
-    /// The number that follows another one: the lowest after the highest. Signed overflow would be undefined.
+    /// The next number: the lowest follows the highest. Signed overflow would be undefined.
     static constexpr int after(int number) { return static_cast<int>(static_cast<unsigned>(number) + 1u); }
 
 private:

@@ -9,7 +9,7 @@ struct Color {
     int blue = 0;
     int alpha = 255;
 
-    /// The opaque colour of a number 0xRRGGBB; higher bits are ignored.
+    /// The opaque colour for a number 0xRRGGBB; higher bits are ignored.
     static constexpr Color fromRgb(int rgb) { return {rgb >> 16 & 0xff, rgb >> 8 & 0xff, rgb & 0xff, 255}; }
     /// The number 0xRRGGBB of the three colour channels, without alpha.
     constexpr int toRgb() const { return (red & 0xff) << 16 | (green & 0xff) << 8 | (blue & 0xff); }

@@ -29,8 +29,8 @@ bool isModule(ErrorLog::ModuleID module)
     return id >= 0 && id < c_numModules;
 }
 
-/// While it lives, this thread writes numbers as in the "C" locale. A virtual machine sets the process's locale from
-/// its environment, and a comma in a log line would break every reader of it.
+/// During its lifetime, this thread formats numbers as in the "C" locale. A virtual machine sets the process's locale
+/// from its environment, and a decimal comma in a log line would break programs that read it.
 class NumberLocale {
 public:
     NumberLocale() : m_previous(uselocale(cLocale())) {}
@@ -51,15 +51,15 @@ private:
 constexpr const char* c_nowhere = "/dev/null";
 constexpr int c_forWriting = O_WRONLY | O_CLOEXEC;
 
-/// The one stream for all files that the log ever writes, made for the first of them. It is never closed, so a thread
-/// that logs while another changes the file always has a stream. Null if it could not be made.
+/// The one stream for all files that the log ever writes, created for the first of them. It is never closed, so a
+/// thread that logs while another changes the file always has a stream. Null if it could not be created.
 std::FILE* fileStream()
 {
     static std::FILE* const stream = std::fopen(c_nowhere, "we");
     return stream;
 }
 
-/// Lets a stream write to another file. What the stream still holds goes to the file before, or is lost if that cannot
+/// Redirects a stream to another file. Buffered text is written to the old file first, or is lost if that file cannot
 /// be written. The stream's own lock keeps the lines of other threads whole.
 /// @return whether the file was opened; if not, the stream writes nowhere
 bool redirect(std::FILE* stream, const char* path, int flags)
@@ -84,7 +84,7 @@ __attribute__((format(printf, 2, 0))) void append(std::string& line, const char*
     va_copy(again, args);
     const int length = std::vsnprintf(nullptr, 0, format, args);
     const std::size_t end = line.size();
-    // The terminating 0 goes where the string has its own.
+    // The terminating 0 overwrites the string's own.
     line.resize(end + static_cast<std::size_t>(std::max(length, 0)));
     std::vsnprintf(line.data() + end, line.size() - end + 1, format, again);
     va_end(again);
@@ -106,7 +106,7 @@ std::atomic<ErrorLog::Level> ErrorLog::m_heardLevel = Level::none;
 ErrorLog* ErrorLog::getInstance()
 {
     static ErrorLog* const instance = [] {
-        // The pointer goes when the process ends, the log stays: a stream is written out by the C library.
+        // The pointer is destroyed when the process ends, but the log is not: the C library flushes its stream.
         m_instance.reset(new ErrorLog, [](ErrorLog*) {});
         return m_instance.get();
     }();
@@ -159,7 +159,7 @@ void ErrorLog::deactivateAllModuleReporting()
     updateHeardLevel();
 }
 
-/// Closes the file that the log writes, if it does; its stream stays.
+/// Closes the file that the log currently writes, if any; its stream stays.
 void ErrorLog::closeOwnedTarget()
 {
     if (m_ownsTarget) {
@@ -198,7 +198,7 @@ bool ErrorLog::setTargetToStdErr()
 
 void ErrorLog::log(Level level, ModuleID module, int subId, const char* file, int line, const char* format, ...)
 {
-    // A message of level none passes a silent log, which may have no target.
+    // A message of level none passes even when the log is silent, and then there may be no target.
     std::FILE* const target = m_target;
     if (!passes(level, module) || target == nullptr) {
         return;
@@ -220,7 +220,7 @@ void ErrorLog::log(Level level, ModuleID module, int subId, const char* file, in
         // One call, so that the lines of several threads do not mix.
         std::fwrite(text.data(), 1, text.size(), target);
     } catch (const std::bad_alloc&) {
-        // Destructors log: a line for which there is no memory is left out.
+        // Destructors log, so a line for which there is no memory is dropped.
     }
     if (m_flushEachMessage) {
         std::fflush(target);

@@ -12,49 +12,49 @@
 
 namespace vxgraphics3d {
 
-/// The library's only diagnostic output: one line a message, silent until a level is set.
+/// The library's only diagnostic output: one line per message, silent until a level is set.
 ///
-/// A line holds the level's name, the module field, the message, and source file and line, with tabs between the
+/// A line consists of the level's name, the module field, the message, and source file and line, with tabs between the
 /// fields: `info <tab> graphics:0 <tab> Creating ... <tab> scenegraphgroup.cpp;12`. Reals are written with a decimal
-/// point whatever locale the process has set.
+/// point, independent of the locale of the process.
 ///
-/// Any thread may log, also while another thread changes the target or the level: a line is written whole, to one
+/// Any thread may log, even while another thread changes the target or the level: a line is written whole, to one
 /// target. The streams exist as long as the process; another file only replaces the descriptor of its stream. Two
 /// threads must not change the target at the same time. The log is never destroyed, so threads that still run while the
 /// process ends may log.
 class VX_API ErrorLog {
 public:
-    /// Severity of a message; a message passes if its level is not above the level in force.
+    /// Severity of a message; a message passes if its level is not above the current level.
     enum class Level : int { none = 0, error = 1, warning = 2, info = 3, jniInfo = 4, debug = 5 };
 
-    /// Who writes a message. The library is one module, with one bit in the mask.
+    /// The source of a message. The library is one module, with one bit in the mask.
     enum class ModuleID : int { graphics = 0 };
 
-    /// The process-wide log, made at the first call.
+    /// The process-wide log, created by the first call.
     static ErrorLog* getInstance();
 
     ErrorLog(const ErrorLog&) = delete;
     ErrorLog& operator=(const ErrorLog&) = delete;
 
-    /// Switches the log off, or on at the level asked for last. Without a target it stays off.
+    /// Switches the log off, or on at the last requested level. Without a target it stays off.
     void setActive(bool on);
     bool isActive() const { return m_activeLevel > Level::none; }
 
-    /// Stores the level asked for and switches the log on at it.
+    /// Stores the requested level and switches the log on at it.
     void setReportLevel(Level level);
-    /// The level in force, not the one asked for: `Level::none` while the log is switched off.
+    /// The current level, not the requested one: `Level::none` while the log is switched off.
     Level getReportLevel() const { return m_activeLevel; }
 
-    /// Lets a module's messages pass. Unknown modules are ignored.
+    /// Enables the messages of a module. Unknown modules are ignored.
     void activateModuleReporting(ModuleID module);
-    /// Holds a module's messages back. Unknown modules are ignored.
+    /// Suppresses the messages of a module. Unknown modules are ignored.
     void deactivateModuleReporting(ModuleID module);
     void activateAllModuleReporting();
     void deactivateAllModuleReporting();
 
-    /// Writes to a file from now on, truncating it, and switches the log on. The file before is written out and closed.
-    /// A file that cannot be opened leaves the log without target and off.
-    /// @return true, also when the file does not open
+    /// Writes to a file from now on, truncating it, and switches the log on. The previous file is flushed and closed.
+    /// If the file cannot be opened, the log has no target and is switched off.
+    /// @return true, even if the file cannot be opened
     bool setTargetToFile(const std::string& path);
     bool setTargetToStdOut();
     bool setTargetToStdErr();
@@ -69,7 +69,7 @@ public:
                (m_moduleMask.load(std::memory_order_relaxed) >> static_cast<int>(module) & 1u) != 0;
     }
 
-    /// Whether the library's own messages of this level would be written: all that a silent message costs.
+    /// Whether the library's own messages of this level would be written: the only cost of a silent message.
     static bool isHeard(Level level) { return level <= m_heardLevel.load(std::memory_order_relaxed); }
 
     /// Writes one line if level and module pass. The format follows `printf`.
@@ -84,7 +84,7 @@ private:
     void updateHeardLevel();
 
     static boost::shared_ptr<ErrorLog> m_instance;
-    static std::atomic<Level> m_heardLevel; ///< the current level, or none while the library's module is held back
+    static std::atomic<Level> m_heardLevel; ///< the current level, or none while the library's module is suppressed
 
     std::atomic<Level> m_reportLevel = Level::none;
     std::atomic<Level> m_activeLevel = Level::none;
@@ -101,11 +101,11 @@ inline constexpr int c_nativeLogSubId = 8;
 
 namespace detail {
 
-/// Out of line and with few arguments, so that a message that nobody hears costs the code around it one comparison.
+/// Out of line and with few arguments, so that a message that is not written costs its caller only one comparison.
 template <ErrorLog::Level level, int subId, class... Args>
 [[gnu::cold, gnu::noinline]] void writeLine(const char* file, int line, const char* format, Args... args)
 {
-// The text was held against its arguments when it was compiled, which is more than this warning could do.
+// The text was checked against its arguments at compile time, which is stricter than this warning.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-security"
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
@@ -131,14 +131,14 @@ void logInfo(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
     detail::logLine<ErrorLog::Level::info, c_coreLogSubId, Args...>(text, args...);
 }
 
-/// Writes a message on a handled oddity.
+/// Writes a message about an unusual situation that was handled.
 template <class... Args>
 void logWarning(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
 {
     detail::logLine<ErrorLog::Level::warning, c_coreLogSubId, Args...>(text, args...);
 }
 
-/// Writes a message on bad input that makes the library skip a step.
+/// Writes a message about invalid input that makes the library skip a step.
 template <class... Args>
 void logError(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
 {

@@ -10,7 +10,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// Mean of some pixels in which each colour counts by its alpha; clear if all of them are.
+/// Mean of several pixels, each colour weighted by its alpha; transparent if all of them are.
 template <class... Words>
 std::uint32_t weightedMean(Words... words)
 {

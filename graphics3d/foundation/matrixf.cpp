@@ -8,7 +8,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// Sine and cosine of a float angle, taken in double.
+/// Sine and cosine of a float angle, computed in double.
 struct Turn {
     explicit Turn(float angle)
         : sine(static_cast<float>(std::sin(static_cast<double>(angle)))),

@@ -9,17 +9,18 @@
 namespace vxgraphics3d {
 
 /// A 4 x 4 matrix of floats in column-major order, ready for a graphics interface: the element of row r and column c,
-/// counted from 0, lies at index 4 c + r, and the translation at 12, 13, 14.
+/// counted from 0, is at index 4 c + r, and the translation at 12, 13, 14.
 ///
-/// Points are column vectors, so a transformation that is multiplied on the right acts on a point first. Angles are in
+/// Points are column vectors, so a transformation that is multiplied on the right is applied to a point first. Angles
+/// are in
 /// radians; rotations are right-handed.
 class VX_API Matrixf {
 public:
-    /// The content that a new matrix starts with.
+    /// The initial content of a new matrix.
     enum MatrixType {
         MatrixZero = 0,
         MatrixIdentity = 1,
-        MatrixUninitialized = 2, ///< for a result that is filled at once
+        MatrixUninitialized = 2, ///< for a result that is filled immediately
     };
 
     explicit Matrixf(MatrixType type)
@@ -90,7 +91,7 @@ public:
     /// Inverts in place; a singular matrix stays as it is.
     Matrixf& invert();
     /// Writes the inverse of 16 column-major elements. The arrays must not overlap.
-    /// @return false for a determinant of 0; `out` is then untouched
+    /// @return false for a determinant of 0; `out` is then unchanged
     static bool invertMatrixf(const float* in, float* out);
 
     /// Writes four rows to standard output, with the shortest width that fits.

@@ -1,6 +1,6 @@
 #pragma once
 
-/// In what form a title is given.
+/// The format of a title.
 enum class TextFormat : int {
     /// Plain text, in which braces and backslashes are ordinary characters.
     plain = 0,

@@ -15,7 +15,7 @@ public:
     static void prepareTitle(const vxbase::UString& in, vxbase::UString& out, TextFormat format);
 
     /// Replaces `out` by `in` with a backslash before each backslash and brace. The characters 9 and 12 stand for a
-    /// closing and an opening brace that the formatter is to obey, and get none. A character 0 ends the text.
+    /// closing and an opening brace that the formatter interprets, and are not escaped. A null character ends the text.
     static void escapeBracesAndBackslash(const vxbase::UString& in, vxbase::UString& out);
 };
 

@@ -26,7 +26,7 @@ std::pair<float, float> Vector3f::toSpherical() const
         return {0.0f, 0.0f};
     }
     const Vector3f unit = normalized();
-    // A length that underflows can leave the quotient a little above 1, where the arc cosine has no value.
+    // A length that underflows can leave the quotient slightly above 1, where the arc cosine is undefined.
     return {std::atan2(unit.y, unit.x), std::acos(std::clamp(unit.z, -1.0f, 1.0f))};
 }
 

@@ -90,7 +90,7 @@ public:
     /// A copy of length 1; (0, 0, 0) for a vector of length 0. A copy is unchanged if the length is not finite.
     Vector3f normalized() const { return length() == 0.0f ? Vector3f() : Vector3f(*this).normalize(); }
 
-    /// A unit vector at right angles to this one: the longest of the cross products with the x, y and z axis, the
+    /// A unit vector perpendicular to this one: the longest of the cross products with the x, y and z axis, or the
     /// first of them if several are equally long.
     Vector3f orthogonal() const;
     /// Azimuth and polar angle in radians: (atan2(y, x), acos(z)) of the unit vector, (0, 0) for a vector of length 0.

@@ -11,7 +11,7 @@ public:
     virtual void markChanged() = 0;
     /// Whether a source may be switched on or off.
     virtual bool mayChangeLightSourceActiveState(int id, bool active) = 0;
-    /// Factor on the intensity of every source.
+    /// Factor for the intensity of every source.
     virtual float getTotalLightSourceIntensity() const = 0;
     virtual ~ILightSourceParent();
 };

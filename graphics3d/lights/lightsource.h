@@ -13,11 +13,11 @@ namespace vxgraphics3d {
 
 class ICameraTransforms;
 
-/// A light of a scene: colour, intensities and whether it shines; the derived classes say from where.
+/// A light of a scene: colour, intensities and whether it is on; the derived classes add position and direction.
 ///
-/// Made and owned by a `SceneLight`; Java peers share it and may outlive both the light's place in the scene and the
-/// scene itself. Positions and directions are in world coordinates, or in camera coordinates while the light is locked
-/// to the camera. Every change is counted by the scene light.
+/// Created and owned by a `SceneLight`; Java peers share it and may keep it after its removal from the scene and after
+/// the scene itself. Positions and directions are in world coordinates, or in camera coordinates while the light is
+/// locked to the camera. The scene light counts every change.
 class VX_API LightSource {
 public:
     using PeerRoot = LightSource;
@@ -28,10 +28,10 @@ public:
     LightSource& operator=(const LightSource&) = delete;
     virtual ~LightSource();
 
-    /// Moves position and direction from world to camera coordinates, so that the light stays where it is in the
-    /// picture. Does not look whether it is locked already: locking twice transforms twice.
+    /// Transforms position and direction from world to camera coordinates, so that the light keeps its position in the
+    /// picture. Does not check whether it is already locked: locking twice transforms twice.
     virtual void lockToCamera(const ICameraTransforms& camera) = 0;
-    /// The way back from `lockToCamera`.
+    /// The inverse of `lockToCamera`.
     virtual void releaseFromCamera(const ICameraTransforms& camera) = 0;
 
     Type getType() const { return m_type; }
@@ -46,27 +46,27 @@ public:
     float getSpecularIntensity() const { return m_specularIntensity; }
     bool isSelected() const { return m_selected; }
     bool isMarkerVisible() const { return m_markerVisible; }
-    /// The intensity times the scene light's factor on all sources; without scene light the factor is 1.
+    /// The intensity times the scene light's factor for all sources; without a scene light the factor is 1.
     float getEffectiveIntensity() const;
 
-    /// Switches the light on or off if the scene light allows it; only so many may shine at one time.
-    /// @return whether the light shines afterwards
+    /// Switches the light on or off if the scene light allows it; the number of lights that are on is limited.
+    /// @return whether the light is on afterwards
     bool setActive(bool active);
-    /// Switches the light on or off and asks nobody.
+    /// Switches the light on or off without asking the scene light.
     void setActiveFlag(bool active);
 
-    // Each of these counts a change, also when the value stays the same.
+    // Each of these counts a change, even when the value stays the same.
     void setName(const std::string& name) { store(m_name, name); }
     void setColor(const Color& color) { store(m_color, color); }
     void setIntensity(float intensity) { store(m_intensity, intensity); }
     void setAmbientIntensity(float intensity) { store(m_ambientIntensity, intensity); }
     void setSpecularIntensity(float intensity) { store(m_specularIntensity, intensity); }
 
-    // What Java shows of the light itself; counts no change.
+    // Selection state for Java; counts no change.
     void setSelected(bool selected) { m_selected = selected; }
     void setMarkerVisibility(bool visible) { m_markerVisible = visible; }
 
-    /// Counts a change at the scene light, if it lives.
+    /// Counts a change at the scene light, if it still exists.
     void markChanged();
 
 protected:
@@ -78,7 +78,7 @@ protected:
         member = value;
         markChanged();
     }
-    /// Notes whether new coordinates are those of the camera, and counts the change.
+    /// Stores whether new coordinates are in camera space, and counts the change.
     void markPlaced(bool lockedToCamera);
 
     /// The unit vector of two angles in radians: `theta` around the z axis from x, `phi` down from z.

@@ -4,7 +4,7 @@
 
 namespace vxgraphics3d {
 
-/// Light that goes out from one point to all sides, as from a lamp.
+/// Light that radiates from one point in all directions, as from a lamp.
 class VX_API PointLightSource : public LightSource {
 public:
     PointLightSource(int id, boost::weak_ptr<ILightSourceParent> parent);

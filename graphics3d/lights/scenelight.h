@@ -13,11 +13,11 @@
 
 namespace vxgraphics3d {
 
-/// The lights of a scene, and the ambient light and intensity that hold for all of them.
+/// The lights of a scene, and the ambient light and intensity that apply to all of them.
 ///
-/// A scene owns one. It makes and owns the light sources; at most `c_maxActiveLights` of them shine at one time. All
-/// changes of its own values and of its sources' raise one change number. A source that a Java peer keeps longer goes
-/// on alone: it finds its scene light gone.
+/// A scene owns one. It creates and owns the light sources; at most `c_maxActiveLights` of them may be on at one time.
+/// All changes of its own values and of its sources' raise one change number. A source that a Java peer keeps longer
+/// stays usable, but no longer has a scene light.
 class VX_API SceneLight : public ILightSourceParent, public boost::enable_shared_from_this<SceneLight> {
 public:
     static constexpr int c_maxActiveLights = 8;
@@ -31,8 +31,8 @@ public:
     bool isChanged(const LastChangeId& last) const { return m_changeId.isChanged(last); }
     void resetChanged(LastChangeId& last) const { m_changeId.resetChanged(last); }
 
-    /// Each makes a light that does not shine yet.
-    /// @return its id; ids start at 1, rise by one and are never used again
+    /// Each creates a light that is switched off.
+    /// @return its id; ids start at 1, rise by one and are never reused
     int createDirectionLight();
     int createPointLight();
     int createSpotLight();
@@ -42,7 +42,7 @@ public:
     void removeAllLightSources();
     bool lightSourceExists(int id) const { return m_lightSources.count(id) != 0; }
 
-    /// The light of an id.
+    /// The light with an id.
     /// @throws std::out_of_range if there is none
     const LightSource* getLightSource(int id) const;
     LightSource* lightSource(int id);
@@ -50,7 +50,7 @@ public:
     /// All lights by id.
     const std::map<int, boost::shared_ptr<LightSource>>& getLightSources() const { return m_lightSources; }
 
-    /// Factor on the intensity of every source.
+    /// Factor for the intensity of every source.
     float getTotalLightSourceIntensity() const override { return m_totalLightSourceIntensity; }
     void setTotalLightSourceIntensity(float intensity) { set(m_totalLightSourceIntensity, intensity); }
     /// Intensity of all ambient light together.
@@ -59,15 +59,15 @@ public:
     const Color& getGlobalAmbientColor() const { return m_globalAmbientColor; }
     void setGlobalAmbientColor(const Color& color) { set(m_globalAmbientColor, color); }
 
-    /// The factor that brings the sum of all ambient light to the ambient intensity: the global ambient light counts
-    /// 1, each shining source but spots its ambient intensity times its intensity.
+    /// The factor that scales the sum of all ambient light to the ambient intensity: the global ambient light counts 1,
+    /// and each active source except spotlights its ambient intensity times its intensity.
     /// @param globalAmbient whether the global ambient light is on
     /// @param lightAmbient whether the ambient light of the sources is on
     /// @return 0 if there is no ambient light
     float calculateAmbientScale(bool globalAmbient, bool lightAmbient) const;
 
     void markChanged() override;
-    /// Refuses to switch a light on while `c_maxActiveLights` others shine.
+    /// Refuses to switch a light on while `c_maxActiveLights` others are on.
     bool mayChangeLightSourceActiveState(int id, bool active) override;
 
 private:

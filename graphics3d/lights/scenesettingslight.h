@@ -5,7 +5,7 @@
 
 namespace vxgraphics3d {
 
-/// Which of a scene's light a view uses. Setters that change something raise the change number.
+/// Which of a scene's lights a view uses. Setters that change something raise the change number.
 class VX_API SceneSettingsLight : public ChangeableSetting {
 public:
     bool isLightUsed() const { return m_useLight; }
@@ -20,7 +20,7 @@ public:
     void setAmbientLight(bool on) { set(m_ambientLight, on); }
     void setDiffuseLight(bool on) { set(m_diffuseLight, on); }
     void setSpecularLight(bool on) { set(m_specularLight, on); }
-    /// Whether markers stand where the lights are. Raises no change number.
+    /// Whether markers are drawn at the positions of the lights. Raises no change number.
     void setRenderLightMarkers(bool on) { m_renderLightMarkers = on; }
 
 private:

@@ -4,18 +4,18 @@
 
 namespace vxgraphics3d {
 
-/// Light that goes out from one point within a cone, as from a spotlight.
+/// Light that radiates from one point within a cone, as from a spotlight.
 class VX_API SpotLightSource : public LightSource {
 public:
     SpotLightSource(int id, boost::weak_ptr<ILightSourceParent> parent);
 
     const Vector3f& getPosition() const { return m_position; }
-    /// The direction that the light shines to.
+    /// The direction in which the light shines.
     const Vector3f& getAtDirection() const { return m_atDirection; }
     /// Angle of the cone in radians.
     float getSpreadAngle() const { return m_spreadAngle; }
 
-    /// Moves the light and turns it to (0, 0, 1).
+    /// Moves the light and points it in the direction (0, 0, 1).
     /// @param world whether the position is in world coordinates; otherwise the light is locked to the camera
     void setPosition(bool world, const Vector3f& position);
     /// Moves the light to a distance from the origin and two angles in radians, `theta` around the z axis and `phi`

@@ -4,7 +4,7 @@ namespace vxgraphics3d {
 
 /// The marks of a selectable part, one bit each. The low 16 bits decide how the part looks
 /// (`MarkingModeSetup::getMarkingType`), the high 16 bits only what can be done with it. An adjacent mark is one that
-/// the part has through its neighbours.
+/// the part gets from its neighbours.
 enum MarkFlags : unsigned {
     MarkPrimary = 0x1,
     MarkSecondary = 0x2,

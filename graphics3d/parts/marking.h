@@ -5,7 +5,7 @@
 
 namespace vxgraphics3d {
 
-/// How a part looks, as a row of the marking tables; chosen from the part's flags. What a caller *does* to a part is
+/// How a part looks, as a row of the marking tables; selected by the part's flags. What a caller *does* to a part is
 /// `SceneGraphObject::MarkingType`.
 enum MarkingType : int {
     RowNormal = 0,            ///< unmarked
@@ -19,8 +19,7 @@ enum MarkingType : int {
     RowHidden = 8,            ///< hidden
 };
 
-/// One row of a marking table: the colours, widths and sizes that a part is drawn with, or that it is not drawn at all.
-/// A plain value.
+/// One row of a marking table: the colours, widths and sizes of a part, or that it is not drawn at all. A plain value.
 class VX_API Marking {
 public:
     /// Makes the row visible and sets everything else.
@@ -43,7 +42,7 @@ public:
         m_visible = false;
     }
 
-    /// False if parts of this row are not drawn.
+    /// False if parts with this row are not drawn.
     bool isVisible() const { return m_visible; }
     const Color& getSheetColor() const { return m_sheetColor; }
     const Color& getLineColor() const { return m_lineColor; }
@@ -53,7 +52,7 @@ public:
     /// In pixels.
     float getPointSize() const { return m_pointSize; }
     const Color& getLabelColor() const { return m_labelColor; }
-    /// Polygons of a higher layer lie over those of a lower one at the same depth.
+    /// Polygons of a higher layer are drawn over those of a lower one at the same depth.
     int getPolygonLayer() const { return m_polygonLayer; }
 
     friend bool operator==(const Marking&, const Marking&) = default;

@@ -7,14 +7,14 @@
 
 namespace vxgraphics3d {
 
-/// The marking table of one mode: a row for each look a part can have. A plain value; a new table has default rows.
+/// The marking table of one mode: a row for each appearance of a part. A plain value; a new table has default rows.
 class VX_API MarkingModeSetup {
 public:
     /// The named rows and one more, which nothing selects.
     static constexpr int c_numRows = 10;
 
-    /// The row that a part is drawn by. Hidden comes before everything, a mesh before the marks, a part's own primary
-    /// mark before anything adjacent, and an adjacent primary mark before the part's own secondary one.
+    /// The row that determines how a part is drawn. Hidden has priority over everything, a mesh over the marks, a
+    /// part's own primary mark over anything adjacent, and an adjacent primary mark over the part's own secondary one.
     /// @param flags the low 16 bits of the part's flags
     static MarkingType getMarkingType(int flags);
 

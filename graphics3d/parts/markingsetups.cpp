@@ -7,7 +7,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// A visible row as the application starts with it. The line colour is also that of points and labels.
+/// The initial state of a visible row. The line colour is also that of points and labels.
 struct Start {
     MarkingType row;
     Color sheet;

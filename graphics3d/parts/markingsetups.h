@@ -10,7 +10,7 @@ namespace vxgraphics3d {
 /// The marking tables of the process, one for each of three modes. Which mode is in use is the renderer's choice.
 ///
 /// `Canvas3dGlobalSettings` owns the one object that renderers read; a change takes effect when a renderer reads it
-/// next. A new object has the tables that the application starts with.
+/// next. A new object has the default tables.
 class VX_API MarkingSetups {
 public:
     enum MarkingMode : int { MarkingMode0 = 0, MarkingMode1 = 1, MarkingMode2 = 2 };

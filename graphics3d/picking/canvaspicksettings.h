@@ -7,7 +7,7 @@ namespace vxgraphics3d {
 /// What a pick on a canvas looks for. A plain pair that the renderer's canvas owns; Java sets it, the leaves of the
 /// scene tree read it.
 struct VX_API CanvasPickSettings {
-    /// Kinds of thing that a pick can find.
+    /// The kinds of objects that a pick can find.
     enum PickTarget : int {
         PickNone = 0,
         PickObject = 1,
@@ -18,7 +18,7 @@ struct VX_API CanvasPickSettings {
         PickOther = 6
     };
 
-    /// Bits of the mask: which kinds of geometry may answer for a draw object. Physics objects ignore it.
+    /// Bits of the mask: which kinds of geometry of a draw object can be picked. Physics objects ignore it.
     enum PickMask : int { PickMaskSheets = 1, PickMaskLines = 2, PickMaskPoints = 4 };
 
     int pickTarget = PickNone;

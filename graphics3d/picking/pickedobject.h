@@ -4,7 +4,7 @@
 
 namespace vxgraphics3d {
 
-/// Kind of a part in a result of a pick. The numbers 4 to 6 belong to parts that renderers add.
+/// Kind of a part in a pick result. The numbers 4 to 6 belong to parts that renderers add.
 enum PartType : int { PartTypePoint = 0, PartTypeLine = 1, PartTypeSheet = 2, PartTypeSubdomain = 3, PartTypeNone = 7 };
 
 /// One result of a pick: an object, or a part of one.

@@ -7,12 +7,12 @@
 
 namespace vxgraphics3d {
 
-/// The results of a pick in the order in which the walk through the scene found them. It only appends: nothing is
-/// sorted, doubles stay, and a second pick adds to the results of the first until the caller resets it.
+/// The results of a pick in the order in which the traversal of the scene found them. Results are only appended: they
+/// are not sorted, duplicates remain, and a second pick adds to the results of the first until the caller resets it.
 class VX_API PickedObjectCollection {
 public:
     int getNumberOfPickedObjects() const { return static_cast<int>(m_pickedObjects.size()); }
-    /// @throws std::out_of_range if there is no result of that index
+    /// @throws std::out_of_range if there is no result with that index
     const PickedObject& getPickedObject(int index) const;
 
     void add(const PickedObject& object) { m_pickedObjects.push_back(object); }

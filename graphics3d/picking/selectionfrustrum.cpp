@@ -6,7 +6,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// The plane through a near corner that holds the next near corner and the far corner behind it.
+/// The plane through a near corner, the next near corner and the far corner opposite the first.
 SelectionFrustrum::FrustrumPlane planeThrough(const Vector3f& corner, const Vector3f& next, const Vector3f& behind)
 {
     return {corner, (next - corner).cross(behind - corner)};

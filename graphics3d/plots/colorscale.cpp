@@ -7,7 +7,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// Written out because std::clamp is undefined for limits that are not numbers, which records may bring.
+/// Written out because std::clamp is undefined for limits that are NaN, which records may contain.
 double clampToRange(double value, double min, double max)
 {
     return value < min ? min : value > max ? max : value;
@@ -66,7 +66,7 @@ void ColorScale::setRestriction(double min, double max)
     m_restrictionMax = std::isnan(max) ? m_valueMax : clampToRange(max, m_valueMin, m_valueMax);
     m_hasRestriction = true;
     if (m_constant) {
-        // Clamping has moved both limits onto the one value, so only the unclamped limits say whether they include it.
+        // Clamping has set both limits to the same value, so only the unclamped limits say whether they include it.
         const bool hidden = max < m_valueMin || min > m_valueMax;
         m_restrictionTexMin = 0.0f;
         m_restrictionTexMax = hidden ? 0.0f : 1.0f;

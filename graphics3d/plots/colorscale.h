@@ -4,39 +4,40 @@
 
 namespace vxgraphics3d {
 
-/// How the values of a plot lie on its legend: the value range of the data, the limits of the legend and a restriction
-/// of what is shown. A plain value without change numbers, which belong to the plot.
+/// How the values of a plot map to its legend: the value range of the data, the limits of the legend and a restriction
+/// of the values shown. A plain value without change numbers, which belong to the plot.
 ///
-/// Vertices carry texture coordinates from 0 at the smallest value to 1 at the largest. All numbers here that end in
-/// Tex are floats on that or a similar scale, computed in double and narrowed, from which a renderer finds the colour:
+/// Vertices carry texture coordinates from 0 at the smallest value to 1 at the largest. All numbers here whose names
+/// contain Tex are floats on that or a similar scale, computed in double and narrowed, from which a renderer finds the
+/// colour:
 ///
 ///     scale.setValues(-1.0, 3.0);         // the legend follows the data, nothing is restricted
-///     scale.setLegendLimits(-5.0, 5.0);   // the data lie at 0.4 to 0.8 of the legend
+///     scale.setLegendLimits(-5.0, 5.0);   // the data are at 0.4 to 0.8 of the legend
 ///     scale.setRestriction(0.0, 3.0);     // vertices from 0.25 to 1 are shown
 class VX_API ColorScale {
 public:
-    /// Takes the range of new data. The legend follows it automatically and nothing is restricted; symmetry stays.
+    /// Stores the range of new data. The legend follows it automatically and nothing is restricted; symmetry is kept.
     void setValues(double min, double max);
 
     /// Sets the values at the ends of the legend and ends automatic limits. Under symmetry the current limits are plus
     /// and minus the larger magnitude of the two.
     void setLegendLimits(double min, double max);
-    /// Lets the legend show the whole value range. The reported limits stay as they are until the next setValues() or
+    /// Makes the legend show the whole value range. The reported limits stay as they are until the next setValues() or
     /// resetRestriction().
     void setAutoLegendLimits();
-    /// Sets whether the legend lies symmetrically around 0, and applies the requested limits again.
+    /// Sets whether the legend is symmetric about 0, and applies the requested limits again.
     void setSymmetric(bool symmetric);
 
-    /// Shows only values within the limits, which are clamped to the value range; a limit that is not a number hides
-    /// nothing. Constant data are hidden as a whole if their value lies outside.
+    /// Shows only values within the limits, which are clamped to the value range; a limit that is NaN hides nothing.
+    /// Constant data are hidden entirely if their value is outside.
     void setRestriction(double min, double max);
-    /// Shows all values again. Under automatic limits the legend reports the plain value range, symmetric or not.
+    /// Shows all values again. With automatic limits the legend reports the plain value range, symmetric or not.
     void resetRestriction();
 
     double getValueMin() const { return m_valueMin; }
     double getValueMax() const { return m_valueMax; }
     bool isConstant() const { return m_constant; }
-    /// Where the value range lies on the legend: 0 at its minimum, 1 at its maximum.
+    /// The position of the value range on the legend: 0 at its minimum, 1 at its maximum.
     float getDataTexMin() const { return m_dataTexMin; }
     float getDataTexMax() const { return m_dataTexMax; }
 
@@ -47,7 +48,7 @@ public:
     double getLegendMax() const { return m_legendMax; }
     bool hasAutoLegendLimits() const { return m_autoLegendLimits; }
     bool isSymmetric() const { return m_symmetric; }
-    /// Which part of the colour table the legend shows, from 0 to 1.
+    /// The part of the colour table that the legend shows, from 0 to 1.
     float getLegendTexMin() const { return m_legendTexMin; }
     float getLegendTexMax() const { return m_legendTexMax; }
 

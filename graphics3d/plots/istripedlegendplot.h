@@ -6,7 +6,7 @@
 
 namespace vxgraphics3d {
 
-/// A plot whose legend shows discrete levels instead of a continuous scale. Serves the renderer.
+/// A plot whose legend shows discrete levels instead of a continuous scale. Used by the renderer.
 class VX_API IStripedLegendPlot {
 public:
     /// Number of levels in the legend.

@@ -10,8 +10,8 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// Hands `write` a function from the index of a point to its texture coordinate: one for data, another for a constant,
-/// so that a loop over points tests nothing.
+/// Passes `write` a function from the index of a point to its texture coordinate: one for data, another for a constant,
+/// so that the loop over points has no branches.
 template <class Write>
 void withColors(const PointColors& colors, Write write)
 {
@@ -42,7 +42,8 @@ void withNormals(const PointNormals& normals, Write write)
     if (normals.x != nullptr) {
         write([x = normals.x, y = normals.y, z = normals.z](std::size_t i) { return Vector3f(x[i], y[i], z[i]); });
     } else if (normals.constant == Vector3f(0.0f, 0.0f, 1.0f)) {
-        // By far the most frequent one; as a constant of the code it is written with the zeros beside it at once.
+        // By far the most frequent case; a compile-time constant lets the compiler combine it with the zeros next to
+        // it.
         write([](std::size_t) { return Vector3f(0.0f, 0.0f, 1.0f); });
     } else {
         write([normal = normals.constant](std::size_t) { return normal; });
@@ -101,7 +102,7 @@ void fillRaisedSurface(SurfaceMesh& mesh, const PointPositions& positions, const
     const double* x = positions.x;
     const double* y = positions.y;
 
-    // The sums of normals grow in the vertices themselves, which are written as a whole only afterwards.
+    // The sums of normals accumulate in the vertices themselves, which are written completely afterwards.
     std::fill_n(out, count, VertexNormalTex{});
     const auto addNormal = [=, z = heights](int first, int second, int third) {
         const auto a = static_cast<std::size_t>(first);

@@ -8,7 +8,7 @@ namespace vxgraphics3d {
 class IndexBufferLines;
 class VertexBufferTex;
 
-// From the inputs of a plot straight into its buffers.
+// Fills the buffers directly from the inputs of a plot.
 
 /// Appends every point to a buffer that has space for them.
 void appendPoints(VertexBufferNormalTex& vertices, const PointPositions& positions, const PointNormals& normals,
@@ -19,8 +19,8 @@ void allocateVertices(VertexBufferTex& vertices, const PointPositions& positions
 /// Allocates the mesh, then fills it with all points and triangles in their order.
 void fillSurface(SurfaceMesh& mesh, const PointPositions& positions, const PointNormals& normals,
                  const PointColors& colors, const TriangleCorners& triangles);
-/// Does the same for points that heights raise. The normal of a point is the sum of the normals of its triangles, each
-/// as long as twice the triangle's area, at length 1; (0, 0, 0) for a point without triangles.
+/// The same for points raised by heights. The normal of a point is the sum of the normals of its triangles, each as
+/// long as twice the triangle's area, normalised; (0, 0, 0) for a point without triangles.
 void fillRaisedSurface(SurfaceMesh& mesh, const PointPositions& positions, const HeightMap& heights,
                        const PointColors& colors, const TriangleCorners& triangles);
 /// Allocates one segment for all lines and appends them in their order. The vertex buffer must have been allocated.

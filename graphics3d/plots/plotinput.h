@@ -9,10 +9,11 @@
 
 namespace vxgraphics3d {
 
-// The parts of a plot's input: each constructor fetches from one group of a record what a fill reads, or throws
-// std::invalid_argument. They hold plain pointers into the record's arrays, which must live until the fill is done.
+// The parts of a plot's input: each constructor fetches the data that a fill reads from one group of a record, or
+// throws std::invalid_argument. They contain plain pointers into the record's arrays, which must live until the fill is
+// done.
 
-/// Where points lie.
+/// The positions of points.
 struct PointPositions {
     /// Fetches positions in the plane (2 axes, z is 0 even if the record has a third) or in space (3 axes).
     PointPositions(const vxdatacarrier::PostDataView& record, int group, int numAxes);
@@ -28,7 +29,7 @@ private:
     PointPositions(const vxdatacarrier::PostDataObject::DoubleArrays& coordinates, int numAxes);
 };
 
-/// The normals of points: those of the record or one for all.
+/// The normals of points: those of the record, or one for all.
 struct PointNormals {
     PointNormals(const vxdatacarrier::PostDataView& record, int group);
     explicit PointNormals(const Vector3f& normal) : constant(normal) {}
@@ -39,7 +40,7 @@ struct PointNormals {
     Vector3f constant;
 };
 
-/// The texture coordinates of points: data on a scale or one coordinate for all.
+/// The texture coordinates of points: data on a scale, or one coordinate for all.
 struct PointColors {
     PointColors(const vxdatacarrier::PostDataView& record, int group, const vxdatacarrier::PostDataRole& role,
                 const ValueScale& valueScale);
@@ -64,7 +65,7 @@ struct TriangleCorners {
 struct LineEnds {
     /// The lines between the first two corners of a group's elements.
     static LineEnds ofElements(const vxdatacarrier::PostDataView& record, int group);
-    /// The boundary lines that go with a group's triangles.
+    /// The boundary lines of a group's triangles.
     static LineEnds ofBoundary(const vxdatacarrier::PostDataView& record, int group);
 
     int count;
@@ -72,13 +73,13 @@ struct LineEnds {
     const int* to;
 };
 
-/// The factor that gives the heights of the first group, with 0 included, a range equal to the mean extent of the
-/// record's bounds in x and y.
+/// The factor that scales the heights of the first group, extended to include 0, to the mean extent of the record's
+/// bounds in x and y.
 /// @param min,max receive the limits of the height data, unscaled
 void computeHeightScale(const vxdatacarrier::PostDataView& record, double& min, double& max, double& scale);
 
-/// Heights that raise a plot in the plane: scaled, with 0 included in their range, to as much as the plot is wide on
-/// average.
+/// Heights that raise a plot in the plane, scaled so that their range, extended to include 0, equals the mean width of
+/// the plot.
 struct HeightMap {
     /// Fetches the height data of the first group and the bounds of the record.
     explicit HeightMap(const vxdatacarrier::PostDataView& record);
@@ -91,7 +92,7 @@ struct HeightMap {
     BoundingBox box; ///< the record's bounds in x and y, the scaled limits of the heights in z
 };
 
-/// The box of the first axes of a record's bounds; an axis beyond those, or that the bounds lack, ranges from 0 to 0.
+/// The box of the first axes of a record's bounds; further axes and axes that the bounds lack range from 0 to 0.
 BoundingBox boxOf(const vxdatacarrier::PostDataObject::DoubleArrays& bounds, std::size_t numAxes);
 
 } // namespace vxgraphics3d

@@ -7,7 +7,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// By the number of the type; no class has the number 5.
+/// Indexed by the number of the type; no class has the number 5.
 constexpr const char* c_classNames[] = {
     "SceneGraphPlotArrow2d",     "SceneGraphPlotArrow3d",      "SceneGraphPlotContour",
     "SceneGraphPlotPrincipal",   "SceneGraphPlotPrincipal",    "SceneGraphPlot",

@@ -24,7 +24,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// A channel of 0 to 1 as an integer of 0 to 255; what is not a number counts as 0.
+/// A channel from 0 to 1 as an integer from 0 to 255; NaN counts as 0.
 int toChannel(double value)
 {
     const double scaled = std::floor(value * 255.0 + 0.5);
@@ -90,7 +90,7 @@ void SceneGraphPlot::fillPlot(const PostDataObject& data)
     try {
         fill();
     } catch (...) {
-        // Buffers that had been drawn may be gone: a reader must not go on with its copy.
+        // Buffers that were already drawn may be gone: readers must not keep using their copies.
         markGeometryChanged();
         throw;
     }
@@ -210,7 +210,8 @@ void SceneGraphPlot::setHeightScale(float scale)
     if (!(scale > 0.0f) || scale == m_heightScale) {
         return;
     }
-    // The stored box is taken, not getBoundingBox(): an inactive plot keeps its box and shows it when it comes back.
+    // Uses the stored box, not getBoundingBox(): an inactive plot keeps its box and shows it when it becomes active
+    // again.
     const float ratio = scale / m_heightScale;
     BoundingBox box = m_boundingBox;
     const float abovePlane = box.getCenter().z - m_plotPlaneOffset;

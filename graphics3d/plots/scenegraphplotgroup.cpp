@@ -15,7 +15,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// Room for the title that a group typically gets.
+/// Capacity for the title of a typical group.
 constexpr std::size_t c_titleRoom = 500;
 
 template <class Map>
@@ -28,7 +28,7 @@ auto& plotIn(Map& plots, int id)
     return place->second;
 }
 
-/// The type is tested first because a cast across the class tree is dear.
+/// The type is tested first because a cast across the class tree is expensive.
 const IGraphPlot* asGraph(const SceneGraphPlot& plot)
 {
     return plot.getType() == SceneGraphPlot::PlotType::graph ? &dynamic_cast<const IGraphPlot&>(plot) : nullptr;

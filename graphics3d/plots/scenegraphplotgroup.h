@@ -18,13 +18,13 @@ namespace vxgraphics3d {
 
 class SceneGraphPlot;
 
-/// The node of the scene tree that holds plots, which are no nodes themselves.
+/// The node of the scene tree that holds plots, which are not nodes themselves.
 ///
-/// It gives each plot its texture handles from a pool of 256, merges the boxes of its plots, builds the one title that
-/// stands over all of them, and answers for their legends. Made by create(); owned by its parent and its Java peers. A
-/// group that dies with plots in it leaves them without a group and with their handles.
+/// It gives each plot its texture handles from a pool of 256, merges the boxes of its plots, builds their common title,
+/// and provides their legends. Created by create(); owned by its parent and its Java peers. When a group is destroyed,
+/// its plots have no group any more but keep their handles.
 ///
-/// The title change number counts whatever shows in title or legends, and may be compared for equality alone.
+/// The title change number counts everything visible in title or legends; compare it for equality only.
 class VX_API SceneGraphPlotGroup : public SceneGraphNode, public ILegendSource {
 public:
     using PlotMap = std::map<int, boost::shared_ptr<SceneGraphPlot>>;
@@ -34,12 +34,12 @@ public:
 
     // Plots
 
-    /// Takes a plot in under its own id, with texture handles from the pool. A plot that stands there already is
-    /// replaced without a call to it: its handles stay with it.
-    /// @return false if the pool ran dry: the group is then unchanged, and the plot keeps the handles it got
-    /// @throws std::invalid_argument without a plot
+    /// Adds a plot under its own id, with texture handles from the pool. An existing plot with that id is replaced
+    /// without being notified: it keeps its handles.
+    /// @return false if the pool ran out: the group is then unchanged, and the plot keeps the handles it got
+    /// @throws std::invalid_argument if the plot is null
     bool addPlot(boost::shared_ptr<SceneGraphPlot> plot);
-    /// Lets a plot go, which gives its handles back. An id that is not there is ignored.
+    /// Removes a plot, which returns its handles. An unknown id is ignored.
     void removePlot(int id);
     void removeAllPlots();
 
@@ -51,7 +51,7 @@ public:
     SceneGraphPlot& plot(int id);
     boost::shared_ptr<SceneGraphPlot> plotPtr(int id);
 
-    /// Begin and end of the plots, by rising id.
+    /// Begin and end of the plots, in ascending order of their ids.
     std::pair<PlotMap::const_iterator, PlotMap::const_iterator> getPlots() const
     {
         return {m_plots.begin(), m_plots.end()};
@@ -60,28 +60,28 @@ public:
 
     // Title and legends
 
-    /// Sets the group's own part of the title; plain text is escaped on the way in.
+    /// Sets the group's own part of the title; plain text is escaped.
     void setTitle(TextFormat format, const vxbase::UString& text);
-    /// Replaces `result` by the title over the whole group, in markup: the group's own part and those of its active
-    /// plots by rising id, centred. Empty if none of them has a title.
+    /// Replaces `result` by the title of the whole group, in markup: the group's own part and those of its active plots
+    /// in ascending order of their ids, centred. Empty if none of them has a title.
     void getTotalTitle(vxbase::UString& result) const override;
 
     /// Number of plots that show a legend for their colour table.
     int getNumberOfColorLegends() const override;
-    /// Appends the legend entries of all graphs, by rising id.
+    /// Appends the legend entries of all graphs, in ascending order of their ids.
     void getLineLegend(std::vector<LineLegend>& result) const override;
 
-    /// Called by a plot when something of it that shows in title or legends has changed.
+    /// Called by a plot when something visible in title or legends has changed.
     void markTitleChanged() { m_titleChangeId.raise(); }
 
     // Tree
 
-    /// Merges the boxes of all plots and passes the result up the tree.
+    /// Merges the boxes of all plots and updates the boxes above.
     void calculateBoundingBox();
-    /// Counts a change of title and legends, and passes the change of structure up the tree.
+    /// Counts a change of title and legends, and reports the change of structure to the parent.
     void treeStructureChanged();
 
-    /// Does nothing: plots are picked through no frustum.
+    /// Does nothing: plots cannot be picked by a frustum.
     void getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
                       PickedObjectCollection& result, bool inside) const override;
     /// Merges the boxes of the plots into `box`.

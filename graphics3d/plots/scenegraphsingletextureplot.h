@@ -4,8 +4,8 @@
 
 namespace vxgraphics3d {
 
-/// A plot with one colour table. It takes two texture handles from its group, not one: a renderer has room for the
-/// table in two forms.
+/// A plot with one colour table. It takes two texture handles from its group, so that a renderer can keep the table in
+/// two forms.
 class VX_API SceneGraphSingleTexturePlot : public SceneGraphTexturePlot {
 public:
     ~SceneGraphSingleTexturePlot() override;

@@ -2,10 +2,9 @@
 
 namespace vxgraphics3d {
 
-/// The pool of numbers under which a renderer keeps the colour table textures of one plot group's plots.
+/// The pool of numbers that a renderer uses for the colour table textures of one plot group's plots.
 ///
-/// Handles are the numbers 1 to 256. A new stack gives 1, 2, 3 and so on; a handle that was given back is the next to
-/// be taken.
+/// Handles are the numbers 1 to 256. A new stack gives 1, 2, 3 and so on; the handle returned last is taken next.
 class TextureHandleStack {
 public:
     /// Number of handles in a full stack.
@@ -18,10 +17,10 @@ public:
         }
     }
 
-    /// Takes the handle on top, or gives -1 when none is left.
+    /// Takes the top handle, or returns -1 if none is left.
     int pop() { return m_top < 0 ? -1 : m_handles[m_top--]; }
 
-    /// Gives a handle back. Only handles that came from this stack may return, so there is always room.
+    /// Returns a handle. Only handles that came from this stack may be returned, so there is always space.
     void push(int handle) { m_handles[++m_top] = handle; }
 
     /// Number of handles that can still be taken.

@@ -4,19 +4,19 @@
 
 namespace vxgraphics3d {
 
-/// Turns data values into the texture coordinates of vertices: 0 at the smallest value, 1 at the largest, and 0
-/// throughout for constant data. Computed in double and narrowed.
+/// Converts data values to the texture coordinates of vertices: 0 at the smallest value, 1 at the largest, and 0 for
+/// constant data. Computed in double and narrowed.
 class ValueScale {
 public:
     ValueScale(double min, double max) : m_min(min), m_factor(max - min > 0.0 ? 1.0 / (max - min) : 0.0) {}
 
-    /// By the limits of a filled role in one group.
+    /// From the limits of a filled role in one group.
     static ValueScale ofGroup(const vxdatacarrier::PostDataView& record, int group,
                               const vxdatacarrier::PostDataRole& role)
     {
         return {record.dataMin(group, role), record.dataMax(group, role)};
     }
-    /// By the limits of a filled role over all groups.
+    /// From the limits of a filled role over all groups.
     static ValueScale ofRecord(const vxdatacarrier::PostDataView& record, const vxdatacarrier::PostDataRole& role)
     {
         return {record.dataMin(role), record.dataMax(role)};

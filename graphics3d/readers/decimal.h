@@ -11,7 +11,7 @@ inline bool isDigit(char c)
     return static_cast<unsigned char>(c - '0') < 10;
 }
 
-/// Adds the digits at the start of a text to a number, which may wrap around, and returns what follows them.
+/// Appends the digits at the start of a text to a number, which may wrap around, and returns the text after them.
 inline const char* readDigits(const char* text, std::uint64_t& number)
 {
     for (; isDigit(*text); ++text) {
@@ -20,19 +20,19 @@ inline const char* readDigits(const char* text, std::uint64_t& number)
     return text;
 }
 
-/// A decimal number as a text spells it: sign, digits with or without a point, exponent.
+/// A decimal number as it is written in a text: sign, digits with or without a point, exponent.
 struct Decimal {
     const char* begin; ///< after the sign
     const char* end;   ///< after the number; null if the text is not a decimal number, or one with a huge exponent
     bool negative;
-    std::uint64_t digits;     ///< all digits as one integer, right if there are not more than 19
-    std::ptrdiff_t numDigits; ///< zeros at the front included
-    std::int64_t exponent;    ///< the number is digits times ten to this
+    std::uint64_t digits;     ///< all digits as one integer, exact if there are at most 19
+    std::ptrdiff_t numDigits; ///< leading zeros included
+    std::int64_t exponent;    ///< the number is digits times ten to this power
 
-    /// Looks at the start of a text, which holds no white space there.
+    /// Parses the start of a text, which must not begin with white space.
     static Decimal at(const char* text);
 
-    /// The number, if it takes only one operation on exact operands, which rounds as the true value would be rounded.
+    /// The number, if it takes only one operation on exact operands, whose result is correctly rounded.
     bool toExact(double& value) const;
 };
 
@@ -84,7 +84,7 @@ inline bool Decimal::toExact(double& value) const
                                                              1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
                                                              1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
     constexpr std::int64_t c_maxPower = 22;
-    // Integers up to here are doubles without rounding.
+    // Integers up to this one are exact as doubles.
     constexpr std::uint64_t c_maxInteger = std::uint64_t{1} << 53;
     constexpr std::ptrdiff_t c_maxDigits = 19;
     if (end == nullptr || numDigits > c_maxDigits || digits > c_maxInteger || exponent < -c_maxPower ||

@@ -4,12 +4,12 @@ namespace vxgraphics3d {
 
 struct PlotFileContents;
 
-// Whether a file has what a plot needs. If so, its sizes and limits are logged, else the first thing that is wrong is
+// Checks whether a file has what a plot needs. If so, its sizes and limits are logged; otherwise the first fault is
 // reported.
 
 /// Points with a value each, and triangles or quadrilaterals.
 bool hasSurface(const PlotFileContents& contents);
-/// Points with a vector each, and a value each or no values.
+/// Points with a vector each, and a value each or no values at all.
 bool hasArrows(const PlotFileContents& contents);
 /// Points with a value each, and lines.
 bool hasEdges(const PlotFileContents& contents);

@@ -11,7 +11,7 @@
 
 namespace vxgraphics3d {
 
-/// The sections of a plot file in their only possible order.
+/// The sections of a plot file in their fixed order.
 enum class PlotSection : std::size_t {
     coordinates,
     triangles,
@@ -44,7 +44,7 @@ struct PointGroup {
     int numPoints() const { return last - first + 1; }
 };
 
-/// The smallest and the largest of the numbers seen so far. Not-a-number does not count.
+/// The smallest and the largest of the numbers seen so far. NaN is ignored.
 struct FloatLimits {
     float max = std::numeric_limits<float>::lowest();
     float min = std::numeric_limits<float>::max();
@@ -60,7 +60,7 @@ struct FloatLimits {
     }
 };
 
-/// The rows of a section of data. Their limits are of the numbers themselves, or of the lengths of vectors.
+/// The rows of a data section. Their limits are those of the numbers themselves, or of the lengths of vectors.
 template <class T>
 struct PlotRows {
     std::vector<T> values;
@@ -68,8 +68,8 @@ struct PlotRows {
 
     bool isFull(int count) const { return values.size() >= static_cast<std::size_t>(count); }
     /// Adds a row.
-    /// @param size what the limits are of
-    /// @param count how many rows there will be at most
+    /// @param size the number that the limits include
+    /// @param count the maximum number of rows
     void append(const T& value, float size, int count)
     {
         if (values.empty()) {

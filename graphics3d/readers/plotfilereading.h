@@ -12,7 +12,7 @@ namespace vxgraphics3d {
 class PlotPoints;
 
 // The last pass over a plot file, after a scan has counted everything: forward only, in the order of its sections and
-// groups. Each function reports what is wrong and returns false then.
+// groups. Each function returns false if it finds a fault, which it reports.
 
 /// Skips empty rows and the tag of a section, which must follow them.
 bool expectTag(TextFile& file, PlotSection section);
@@ -27,9 +27,9 @@ inline bool enterElements(TextFile& file, PlotSection section, int count, int gr
     return count == 0 || group != 0 || expectTag(file, section);
 }
 
-/// Reads some of the next elements, at least one.
-/// @param kind what the elements are called in messages
-/// @return the number of elements; 0 if the next row holds none
+/// Reads up to `maxElements` of the next elements, at least one.
+/// @param kind the name of the elements in messages
+/// @return the number of elements; 0 if the next row contains none
 int nextElements(TextFile& file, int* corners, int numCorners, int maxElements, const char* kind);
 
 /// Reads the elements of a group, whose corners must be points of the group.

@@ -11,7 +11,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-// Rows that are taken at once.
+// The maximum number of rows read at once.
 constexpr int c_maxRows = 128;
 
 /// How the four sections of elements differ.
@@ -36,12 +36,12 @@ struct ElementSection {
     }
 };
 
-/// The group that is being formed, and the points counted so far.
+/// The group that is being formed, and the number of points counted so far.
 struct OpenGroup {
     int numPoints = 0;
     PointGroup group;
     bool isOpen = false;
-    double value = 0.0; ///< what opened the group
+    double value = 0.0; ///< the value that opened the group
 
     void open(double openingValue)
     {
@@ -111,7 +111,7 @@ bool Pass::run()
     if (m_file.hasTooManyRows()) {
         return false;
     }
-    // The one group of an ungrouped file is left to the tag after the coordinates.
+    // The single group of an ungrouped file is closed by the tag after the coordinates.
     if (m_open.isOpen && m_criteria != GroupCriteria::none) {
         m_open.close(m_contents.groups);
     }
@@ -135,7 +135,7 @@ bool Pass::enterSection(const char* row)
     return true;
 }
 
-/// The short way through the rows of a section that hold just what they should; any other row ends it.
+/// The fast path for rows of a section that contain exactly what they should; any other row ends it.
 bool Pass::takePlainRows()
 {
     if (m_checksElements && ElementSection::contains(m_section)) {
@@ -247,7 +247,7 @@ bool Pass::takeData(const double* values, int numRows)
             if (m_open.isOpen && std::abs(value - m_open.value) > 1e-5 * std::abs(value + m_open.value)) {
                 m_open.close(m_contents.groups);
             }
-            // A tag that repeats itself between two equal values has closed the group as well.
+            // A repeated tag between two equal values has also closed the group.
             if (!m_open.isOpen) {
                 m_open.open(value);
             }
@@ -298,7 +298,7 @@ void scale(PlotRows<float>& rows)
 
 bool scanPlotFile(TextFile& file, GroupCriteria criteria, PlotFileContents& contents)
 {
-    // Groups by data are known only after the elements, which therefore wait for a second pass.
+    // Groups by data are known only after the elements, so the elements are checked in a second pass.
     const bool needsSecondPass = criteria == GroupCriteria::data;
     if (!Pass(file, contents, criteria, true, !needsSecondPass).run() ||
         (needsSecondPass && !Pass(file, contents, criteria, false, true).run())) {

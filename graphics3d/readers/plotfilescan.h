@@ -15,9 +15,9 @@ enum class GroupCriteria : int {
 };
 
 /// Reads a whole plot file: counts the rows of each section, forms the groups, checks the elements against them, stores
-/// all data, and scales "Data" and "Tetrahedral Data" to 0 to 1. The file is at its start again afterwards.
-/// @param contents takes what is found; empty before
-/// @return false if the file is wrong, which is reported
+/// all data, and scales "Data" and "Tetrahedral Data" to 0 to 1. Afterwards the file is at its start again.
+/// @param contents receives the result; must be empty
+/// @return false if the file has a fault, which is reported
 bool scanPlotFile(TextFile& file, GroupCriteria criteria, PlotFileContents& contents);
 
 } // namespace vxgraphics3d

@@ -13,7 +13,7 @@ namespace vxgraphics3d {
 class VertexBufferNormalTex;
 class VertexBufferTex;
 
-/// The points of a plot file with the normals of the triangles at them, and their limits. Fills arrays and vertex
+/// The points of a plot file with normals computed from their triangles, and their limits. Fills arrays and vertex
 /// buffers with the points of a group.
 class PlotPoints {
 public:
@@ -34,19 +34,18 @@ public:
     /// Adds the unit normal of a triangle to those of its three corners.
     void addNormal(const int* corners);
 
-    /// Appends x, y and z of a group's points to three arrays, and their normals, brought to unit length, to three
-    /// more.
+    /// Appends x, y and z of a group's points to three arrays, and their normals, normalised, to three more.
     void appendTo(Arrays<double>& coordinates, Arrays<float>& normals, const PointGroup& group);
-    /// Appends a group's points with their normals, brought to unit length, to a buffer with space for them.
-    /// @param values by point of the file, the texture coordinate
+    /// Appends a group's points with their normals, normalised, to a buffer with space for them.
+    /// @param values texture coordinates, one per point of the file
     void appendTo(VertexBufferNormalTex& vertices, const std::vector<float>& values, const PointGroup& group);
     /// Appends a group's points to a buffer with space for them.
-    /// @param values by point of the file, the texture coordinate
+    /// @param values texture coordinates, one per point of the file
     void appendTo(VertexBufferTex& vertices, const std::vector<float>& values, const PointGroup& group) const;
     /// Appends x and y of a group's points to two arrays, and z to a third.
     void appendPlaneTo(Arrays<double>& coordinates, std::vector<double>& heights, const PointGroup& group) const;
 
-    /// The limits on the first axes, as a record holds them.
+    /// The limits on the first axes, in the format of a record.
     Arrays<double> bounds(std::size_t numAxes) const;
     /// The box of all points.
     BoundingBox box() const;
@@ -58,7 +57,7 @@ private:
 };
 
 /// Appends the values of a group's points to an array.
-/// @param values by point of the file
+/// @param values one per point of the file
 void appendValues(std::vector<double>& target, const std::vector<float>& values, const PointGroup& group);
 
 } // namespace vxgraphics3d

@@ -10,7 +10,7 @@
 
 namespace vxgraphics3d {
 
-/// Groups on their way from a file into a record, which takes all of them or, if memory runs out, none.
+/// Groups that are read from a file before they are added to a record: all of them or, if memory runs out, none.
 class RecordGroups {
 public:
     using Record = vxdatacarrier::PostDataObject;
@@ -18,18 +18,18 @@ public:
     /// The arrays of one group, as the record will own them.
     struct Group {
         boost::shared_ptr<Record::DoubleArrays> coordinates;
-        boost::shared_ptr<Record::FloatArrays> normals; ///< null if the record takes none
+        boost::shared_ptr<Record::FloatArrays> normals; ///< null if the record has none
         boost::shared_ptr<Record::DoubleArrays> data;
         boost::shared_ptr<Record::IntArrays> elements;
         boost::shared_ptr<std::vector<double>> max;
         boost::shared_ptr<std::vector<double>> min;
 
-        /// Makes three corner arrays, and as many others as asked for, all empty. Limits are infinite: the minimum
+        /// Creates three corner arrays, and as many others as requested, all empty. Limits are infinite: the minimum
         /// positive, the maximum negative.
         Group(std::size_t numAxes, std::size_t numData);
 
         void makeNormals();
-        /// Widens the limits over all data.
+        /// Extends the limits to include all data.
         void computeLimits();
     };
 

@@ -11,7 +11,7 @@ namespace vxgraphics3d {
 
 bool isEmptyRow(const char* row)
 {
-    // Bytes above 127 are characters of some text, whatever sign a char has here.
+    // Bytes above 127 are characters of some text, even where char is signed.
     while (*row != '\0' && static_cast<unsigned char>(*row) <= ' ') {
         ++row;
     }

@@ -11,10 +11,10 @@ namespace vxgraphics3d {
 
 // What one row of a text format holds. Row numbers, from 1, are those that reports name.
 
-/// Whether a row holds no character above the blank.
+/// Whether a row contains no character above the blank.
 bool isEmptyRow(const char* row);
 
-/// Whether a row begins a section: "%", then any one character, then the tag. What follows the tag does not matter.
+/// Whether a row begins a section: "%", then any one character, then the tag. Anything after the tag is ignored.
 bool isTagRow(const char* row, std::string_view tag);
 
 /// A row without its line end, as messages show it.

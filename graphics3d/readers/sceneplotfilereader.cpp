@@ -86,7 +86,7 @@ bool ScenePlotFileReader::readAndAppendTriangleElements(IndexBufferTriangles& tr
     return readTriangles(group, [&triangles](int a, int b, int c) { triangles.appendTriangle(a, b, c); });
 }
 
-/// Reads the triangles of a group, turns the normals of their points, and passes them on relative to the first point.
+/// Reads the triangles of a group, adds their normals to their points, and passes them on relative to the first point.
 template <class Append>
 bool ScenePlotFileReader::readTriangles(int groupId, Append append)
 {

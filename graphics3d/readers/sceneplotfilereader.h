@@ -25,16 +25,15 @@ class VertexBufferTex;
 
 /// Reads a plot from a text file of tagged sections (docs/plot-data-format.md) into a record or into a plot's buffers.
 ///
-/// The static entry points make one reader, work through the file and throw the reader away. The file is read as a
-/// stream in a few passes: `readSizesAndData` counts and checks everything and stores the data, one of the verify
-/// operations compares the counts, then `readCoordinates` and the element operations move through the file a last time,
-/// in the order of its sections and groups. Each step returns false once the file has proved wrong, and the steps must
-/// stop there. The points of a file fall into groups by a criterion, so that one file can hold several slices or
-/// levels.
+/// The static entry points create a reader, process the file and discard the reader. The file is read as a stream in a
+/// few passes: `readSizesAndData` counts and checks everything and stores the data, one of the verify operations
+/// compares the counts, then `readCoordinates` and the element operations go through the file a last time, in the order
+/// of its sections and groups. Each step returns false once a fault has been found, and the caller must then stop. The
+/// points of a file are grouped by a criterion, so that one file can contain several slices or levels.
 ///
-/// Errors go to the log and to standard error; those on a number in a row go to the log only. Nothing is thrown except
-/// when memory runs out, which leaves a record as it was. Numbers are read as in the "C" locale, whatever locale the
-/// process has set.
+/// Errors go to the log and to standard error; those about a number in a row go to the log only. Nothing is thrown
+/// except when memory runs out, which leaves a record unchanged. Numbers are read as in the "C" locale, independent of
+/// the locale of the process.
 class ScenePlotFileReader {
 public:
     using GroupCriteria = vxgraphics3d::GroupCriteria;
@@ -44,16 +43,16 @@ public:
     using Arrays = PlotPoints::Arrays<T>;
 
     /// Appends one group to a record: two coordinate arrays, data array 0 with the values scaled to 0 to 1, data array
-    /// 1 with the height, which is the z of the file. The record's kind and roles are the caller's.
-    /// @return false, with the record unchanged, if the file is wrong
+    /// 1 with the height, which is the z of the file. The caller sets the record's kind and roles.
+    /// @return false, with the record unchanged, if the file has a fault
     static bool readSurfacePlot2d(vxdatacarrier::PostDataObject& record, std::string fileName);
     /// Appends one group to a record: three coordinate arrays, normals averaged over the triangles at each point, one
     /// data array with the values scaled to 0 to 1.
-    /// @return false, with the record unchanged, if the file is wrong
+    /// @return false, with the record unchanged, if the file has a fault
     static bool readSurfacePlot3d(vxdatacarrier::PostDataObject& record, std::string fileName);
-    /// Appends a group for each run of equal values to a record, each as in `readSurfacePlot3d` but with the group's
-    /// value alone in data array 0 and a value for each point in data array 1.
-    /// @return false if the file is wrong; the groups before a wrong element row are appended
+    /// Appends a group for each run of equal values to a record, each as in `readSurfacePlot3d`, but with only the
+    /// group's value in data array 0 and a value for each point in data array 1.
+    /// @return false if the file has a fault; the groups before a faulty element row are appended
     static bool readIsoSurfacePlot3dData(vxdatacarrier::PostDataObject& record, std::string fileName);
 
     /// Opens the file. If that fails, every step returns false without a further message.
@@ -76,18 +75,18 @@ public:
     /// Reads the triangles of a group into three corner arrays, relative to the group's first point, and adds their
     /// unit normals to those of their points. Groups must come in order.
     bool readAndAppendTriangleElements(Arrays<int>& corners, int group);
-    /// The same into an index buffer with an open segment and space for the group's triangles.
+    /// The same for an index buffer with an open segment and space for the group's triangles.
     bool readAndAppendTriangleElements(IndexBufferTriangles& triangles, int group);
     /// Reads the lines of a group, relative to its first point, into an index buffer with space for them.
     bool readAndAppendLineElements(IndexBufferLines& lines, int group);
-    /// Moves past the tag of the quadrilaterals for group 0. Quadrilaterals are counted and checked, but never kept.
+    /// Skips the tag of the quadrilaterals for group 0. Quadrilaterals are counted and checked, but never stored.
     bool readAndAppendQuadElements(IndexBufferQuads& quads, int group);
 
-    /// Appends the points of a group, their normals, brought to unit length, and their scaled data.
+    /// Appends the points of a group, their normals, normalised, and their scaled data.
     void appendCoordinates(Arrays<double>& coordinates, Arrays<float>& normals, std::vector<double>& data, int group);
-    /// The same, with the scaled data of the group's first point alone.
+    /// The same, with only the scaled data of the group's first point.
     void appendCoordinates(Arrays<double>& coordinates, Arrays<float>& normals, double& value, int group);
-    /// The same into a vertex buffer with space for the group's points; the data become texture coordinates.
+    /// The same for a vertex buffer with space for the group's points; the data become texture coordinates.
     void appendCoordinates(VertexBufferNormalTex& vertices, int group);
     /// The same without normals.
     void appendCoordinates(VertexBufferTex& vertices, int group) const;

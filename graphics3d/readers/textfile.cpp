@@ -12,10 +12,10 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// Opens first and then looks at what was opened, so that no other file can take the name in between.
+/// Opens first and then checks the file type, so that the name cannot be moved to another file in between.
 std::FILE* openRegularFile(const std::string& name)
 {
-    // Without O_NONBLOCK, a pipe would wait here for its writer.
+    // Without O_NONBLOCK, opening a pipe would block until it has a writer.
     const int descriptor = ::open(name.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (descriptor == -1) {
         return nullptr;
@@ -71,7 +71,7 @@ int TextFile::nextPlainReals(double* values, int count, int maxRows)
     return numRows;
 }
 
-/// As many rows as can still be counted.
+/// The number of rows that can still be counted.
 int TextFile::limited(int maxRows) const
 {
     return std::min(maxRows, std::numeric_limits<int>::max() - 1 - m_rowNumber);

@@ -9,33 +9,33 @@
 
 namespace vxgraphics3d {
 
-/// A text file that is read row by row, in one pass or several, with the row numbers that messages name.
+/// A text file that is read row by row, in one or several passes, and counts rows for messages.
 ///
-/// Only regular files are opened: a pipe could block for ever, a device could have no end. Opening never waits.
+/// Only regular files are opened: a pipe could block forever, a device could have no end. Opening never blocks.
 class TextFile {
 public:
-    /// Opens the file. One that cannot be opened, or is no regular file, is reported, and has no rows.
+    /// Opens the file. One that cannot be opened, or is not a regular file, is reported and has no rows.
     explicit TextFile(std::string name);
 
     bool isOpen() const { return m_file != nullptr; }
     const std::string& name() const { return m_name; }
-    /// The number of the present row, from 1 in each pass.
+    /// The number of the current row, from 1 in each pass.
     int rowNumber() const { return m_rowNumber; }
 
-    /// The next row, or null at the end of the file. It stays valid until the next call. Rows beyond what an int counts
-    /// are refused: the first of them is reported and read as the end of the file.
+    /// The next row, or null at the end of the file. It stays valid until the next call. Rows beyond the range of an
+    /// int are refused: the first of them is reported and treated as the end of the file.
     const char* nextRow();
     /// Whether the last row was refused because there were too many.
     bool hasTooManyRows() const { return m_rowNumber == std::numeric_limits<int>::max(); }
 
-    /// Takes rows of indices while they are plain, see `TextRows`; the indices are as `getIndices` gives them.
-    /// @return the number of rows taken
+    /// Reads rows of indices while they are plain, see `TextRows`; the indices are as `getIndices` returns them.
+    /// @return the number of rows read
     int nextPlainIndices(int* indices, int count, int maxRows);
-    /// Takes rows of reals while they are plain.
-    /// @return the number of rows taken
+    /// Reads rows of reals while they are plain.
+    /// @return the number of rows read
     int nextPlainReals(double* values, int count, int maxRows);
 
-    /// Begins the next pass.
+    /// Starts the next pass.
     void rewind();
 
 private:

@@ -9,7 +9,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-// Small enough to stay in the processor's cache, large enough that the calls to the system do not count.
+// Small enough for the processor's cache, large enough to make the cost of system calls negligible.
 constexpr std::size_t c_blockSize = 64 * 1024;
 
 unsigned digitOf(char c)
@@ -36,7 +36,7 @@ TextRows::TextRows(std::FILE* file)
 {
     *m_next = '\0';
     if (file != nullptr) {
-        // Blocks go straight into m_block.
+        // Blocks are read directly into m_block.
         std::setvbuf(file, nullptr, _IONBF, 0);
     }
 }
@@ -58,8 +58,8 @@ const char* TextRows::next()
     return row != m_next ? row : nullptr;
 }
 
-/// Reads rows of numbers until one is not plain. No number leads past the block, because a zero byte follows it.
-/// @param readNumber reads one number and gives what follows it, or null if it is not plain
+/// Reads rows of numbers until one is not plain. No number extends past the block, because a zero byte follows it.
+/// @param readNumber reads one number and returns the text after it, or null if it is not plain
 template <class Number, class ReadNumber>
 int TextRows::nextPlainRows(Number* values, int numbersPerRow, int maxRows, ReadNumber readNumber)
 {
@@ -132,7 +132,7 @@ void TextRows::rewind()
     }
 }
 
-/// Moves the bytes that are left to the start of the block and fills it up.
+/// Moves the remaining bytes to the start of the block and fills the block up.
 void TextRows::fill()
 {
     const auto left = static_cast<std::size_t>(m_end - m_next);
@@ -142,7 +142,7 @@ void TextRows::fill()
     m_end += std::fread(m_end, 1, c_blockSize - left, m_file);
     m_exhausted = m_end != m_next + c_blockSize;
     if (std::ferror(m_file) != 0) {
-        // A row cut short by a failing device is no row.
+        // A row that a failing device cut short is not a row.
         m_end = std::find(std::make_reverse_iterator(m_end), std::make_reverse_iterator(m_next), '\n').base();
     }
     *m_end = '\0';

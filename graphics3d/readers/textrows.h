@@ -6,13 +6,13 @@
 
 namespace vxgraphics3d {
 
-/// The rows of a text stream, one after another, exactly as `fgets` with a buffer of 256 bytes gives them.
+/// The rows of a text stream, one after another, exactly as `fgets` with a buffer of 256 bytes returns them.
 ///
-/// A row is a C string that ends after its line end. A line of more than 255 characters comes as several rows, the
-/// last line needs no line end, and a row that holds a zero byte seems to end there. The rows lie in the block that was
-/// read from the stream, so none is copied; memory does not grow with the file, however long it is.
+/// A row is a C string that ends after its line end. A line of more than 255 characters is returned as several rows,
+/// the last line needs no line end, and a row that contains a zero byte appears to end there. The rows are in the block
+/// that was read from the stream, so none is copied; memory does not grow with the length of the file.
 ///
-/// The stream is not owned and must outlive this object, which alone may read from it.
+/// The stream is not owned and must outlive this object; nothing else may read from it.
 class TextRows {
 public:
     /// Longest row, line end included.
@@ -24,11 +24,11 @@ public:
     /// The next row, or null at the end of the stream. It stays valid until the next call.
     const char* next();
 
-    /// Takes up to `maxRows` of the next rows while they are plain: exactly `numbersPerRow` integers each, of at most
-    /// nine digits and without signs, blanks between and around them, and a line end. This is the short way through
-    /// rows for which `next` and the C library's functions would give the same numbers.
-    /// @param values takes the numbers of all rows one after another
-    /// @return the number of rows taken; the one after them is still to come
+    /// Reads up to `maxRows` of the next rows while they are plain: exactly `numbersPerRow` integers each, of at most
+    /// nine digits and without signs, blanks between and around them, and a line end. This is the fast path for rows
+    /// for which `next` and the C library's functions would give the same numbers.
+    /// @param values receives the numbers of all rows one after another
+    /// @return the number of rows read; the row after them is returned next
     int nextPlainIntegers(int* values, int numbersPerRow, int maxRows);
     /// The same for reals: decimal numbers of few enough digits.
     int nextPlainReals(double* values, int numbersPerRow, int maxRows);
@@ -43,9 +43,9 @@ private:
 
     std::FILE* m_file;
     std::unique_ptr<char[]> m_block;
-    char* m_next;         // first byte after the present row
+    char* m_next;         // first byte after the current row
     char* m_end;          // after the last byte read
-    char m_hidden = '\0'; // what stood at m_next before the present row got its terminating zero there
+    char m_hidden = '\0'; // the byte at m_next before the terminating zero of the current row
     bool m_exhausted;     // the stream has no more bytes for the block
 };
 

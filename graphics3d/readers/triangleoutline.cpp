@@ -27,7 +27,7 @@ void TriangleOutline::addTriangle(int a, int b, int c)
     }
 }
 
-/// Stores an edge that is new; one that was there is an inner edge and goes.
+/// Stores a new edge; an edge that is already stored is an inner edge and is removed.
 void TriangleOutline::toggleEdge(int low, int high)
 {
     Neighbours& neighbours = m_neighbours[static_cast<std::size_t>(low)];

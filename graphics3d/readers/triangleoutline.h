@@ -10,17 +10,17 @@ class IndexBufferLines;
 
 /// Finds the outline of a triangulated surface: the edges that exactly one triangle uses.
 ///
-/// A point takes edges to at most ten points of higher index at a time; further ones are reported and dropped.
+/// A point has edges to at most ten points of higher index at a time; further ones are reported and dropped.
 class TriangleOutline {
 public:
-    /// @param numPoints the points to which the triangles refer
+    /// @param numPoints the number of points to which the triangles refer
     explicit TriangleOutline(int numPoints);
 
-    /// Notes the edges of a triangle.
+    /// Adds the edges of a triangle.
     void addTriangle(int a, int b, int c);
 
-    /// Replaces the lines of a buffer by the edges of the outline, each from its lower to its higher index, in the
-    /// order of the lower ones.
+    /// Replaces the lines of a buffer by the edges of the outline, each from its lower to its higher index, in
+    /// ascending order of the lower ones.
     void writeTo(IndexBufferLines& lines) const;
 
 private:

@@ -14,7 +14,7 @@ std::atomic<int> Scene::m_lastSceneId = 0;
 
 Scene::Scene() : m_sceneId(++m_lastSceneId), m_sceneLight(SceneLight::create()), m_root(SceneGraphRoot::create()) {}
 
-// The members go in reverse order: the root first, then the settings, the lights last.
+// The members are destroyed in reverse order: the root first, then the settings, the lights last.
 Scene::~Scene() = default;
 
 boost::shared_ptr<SceneSettings> Scene::createSceneSettings(IRendererSetup& setup)

@@ -23,10 +23,10 @@ class SceneSettings;
 class SelectionFrustrum;
 struct CanvasPickSettings;
 
-/// What one or several views show: one tree, one set of lights, and settings for each view that shows it.
+/// What one or several views show: a tree, lights, and settings for each view.
 ///
-/// A scene answers for its tree as one object and draws nothing. It lives while its Java peer or a renderer holds it.
-/// Tree, lights and settings may outlive it, each as long as a peer or a renderer holds that.
+/// A scene represents its tree as one object and draws nothing. It lives while its Java peer or a renderer holds it.
+/// Tree, lights and settings may outlive it, each as long as a peer or a renderer holds it.
 class VX_API Scene {
 public:
     Scene();
@@ -34,37 +34,37 @@ public:
     Scene& operator=(const Scene&) = delete;
     virtual ~Scene();
 
-    /// The id of the scene, unique over the process, from 1.
+    /// The id of the scene, unique in the process, from 1.
     int getSceneId() const { return m_sceneId; }
 
-    /// Tells renderers to drop their shares. Nothing else happens: the scene stays usable.
+    /// Asks renderers to release their references. Nothing else happens: the scene stays usable.
     void dispose() { m_disposed = true; }
     bool isDisposed() const { return m_disposed; }
 
-    /// The root of the tree, the same one always.
+    /// The root of the tree, always the same object.
     const boost::shared_ptr<SceneGraphRoot>& getRoot() const { return m_root; }
-    /// The lights, the same object always.
+    /// The lights, always the same object.
     const boost::shared_ptr<SceneLight>& getSceneLight() const { return m_sceneLight; }
 
-    /// Makes settings for one more view, which the scene keeps until the view disconnects.
-    /// @param setup what the renderer keeps for the scene in that view; must live as long as anyone asks the settings
-    /// for it
+    /// Creates settings for another view, which the scene keeps until the view disconnects.
+    /// @param setup what the renderer stores for the scene in that view; must outlive the use of the settings
     boost::shared_ptr<SceneSettings> createSceneSettings(IRendererSetup& setup);
-    /// Forgets the settings of a view; nothing happens if they are not of this scene. The caller's share stays good.
-    /// @throws std::invalid_argument if there are no settings
+    /// Removes the settings of a view; does nothing if they belong to another scene. The caller's reference stays
+    /// valid.
+    /// @throws std::invalid_argument if the settings are null
     void disconnect(boost::shared_ptr<SceneSettings> settings);
     /// The settings of all views, by their ids.
     const std::map<int, boost::shared_ptr<SceneSettings>>& getSceneSettingsMap() const { return m_sceneSettings; }
 
-    /// Appends to `result` what of the scene lies in the frustum and is asked for.
+    /// Appends to `result` the parts of the scene in the frustum that the settings ask for.
     void getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
                       PickedObjectCollection& result) const;
     /// The box of the tree.
     const BoundingBox& getBoundingBox() const;
-    /// The box of what is marked in the tree; empty if nothing is.
+    /// The box of all marked parts of the tree; empty if nothing is marked.
     BoundingBox calculateMarkedBoundingBox(int include, int exclude) const;
 
-    // Title and legends of the plots, as the root tells them.
+    // Title and legends of the plots, from the root.
 
     int getNumberOfColorLegends() const;
     void getTitle(vxbase::UString& result) const;

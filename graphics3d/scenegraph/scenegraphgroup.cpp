@@ -41,7 +41,7 @@ bool SceneGraphGroup::addChild(boost::shared_ptr<SceneGraphNode> node)
     const int id = ++m_lastChildId;
     SceneGraphNode& child = *m_children.back().second;
     logInfo("Adding child %d to group (node %d).", id, getNodeId());
-    // The box is without the child until attaching it, which may throw, is done.
+    // The box does not include the child until it is attached, which may throw.
     const bool isBoxCurrent = std::exchange(m_hearsAllChildren, false);
     attach(child, id);
     if (isBoxCurrent) {
@@ -64,7 +64,7 @@ void SceneGraphGroup::removeChild(int childId)
         return;
     }
     logInfo("Removing child %d from group (node %d).", childId, getNodeId());
-    // The child may die with its entry in the table, but not while it is being detached.
+    // Removing the table entry may destroy the child, which must not happen while it is being detached.
     found->second->removeParent();
     m_children.erase(found);
     calculateBoundingBox();

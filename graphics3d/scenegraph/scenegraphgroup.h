@@ -9,29 +9,29 @@ namespace vxgraphics3d {
 
 /// A node with any number of children, which are ordered by their ids.
 ///
-/// Ids count from 1 in the order of arrival and are never used again. When a group dies its children are released, not
-/// detached: their references to the parent simply expire.
+/// Ids count from 1 in the order of addition and are never reused. When a group is destroyed, its children are
+/// released, not detached: their references to the parent simply expire.
 ///
 ///     const auto group = SceneGraphGroup::create();
 ///     group->addChild(child);                       // under id 1; the box of the group now covers the child
 ///     group->removeChild(child->getChildId());
 class VX_API SceneGraphGroup final : public SceneGraphParent {
 public:
-    /// Children with their ids, by rising id. A new child has the highest id, so it always comes at the end.
+    /// Children with their ids, in ascending order. A new child has the highest id, so it always comes at the end.
     using ChildTable = std::vector<std::pair<int, boost::shared_ptr<SceneGraphNode>>>;
 
     static boost::shared_ptr<SceneGraphGroup> create();
     ~SceneGraphGroup() override;
 
-    /// Takes a node in under the next id, at a cost that does not depend on the number of children. A node that another
-    /// parent holds stays there as well, but answers to this group from now on.
+    /// Adds a node under the next id, at a cost that does not depend on the number of children. A node that is already
+    /// in another parent remains there too, but from now on reports to this group.
     /// @return true
-    /// @throws std::invalid_argument for no node, this group itself or one that this group stands below
+    /// @throws std::invalid_argument for null, this group itself, or a parent that contains this group
     bool addChild(boost::shared_ptr<SceneGraphNode> node);
-    /// Lets all children go, in id order. A group without children only writes its log line.
+    /// Removes all children, in id order. A group without children only writes its log line.
     void removeAllChildren();
 
-    /// Begin and end of the children, by rising id. Good until a child comes or goes.
+    /// Begin and end of the children, in ascending order of their ids. Valid until a child is added or removed.
     std::pair<ChildTable::iterator, ChildTable::iterator> children() { return {m_children.begin(), m_children.end()}; }
     std::pair<ChildTable::const_iterator, ChildTable::const_iterator> getChildren() const
     {
@@ -48,7 +48,7 @@ public:
     const SceneGraphNode* getChild(int childId) const override { return find(childId).get(); }
     SceneGraphNode* child(int childId) override { return find(childId).get(); }
     boost::shared_ptr<SceneGraphNode> childPtr(int childId) override { return find(childId); }
-    /// Lets a child go. An id that is not there is ignored.
+    /// Removes a child. An unknown id is ignored.
     void removeChild(int childId) override;
     NodeType getChildType(int childId) const override { return find(childId)->getType(); }
 
@@ -68,9 +68,9 @@ private:
 
     int m_lastChildId = 0;
     ChildTable m_children;
-    /// The boxes of all children, merged in id order when one of them changed last.
+    /// The boxes of all children, merged in id order after the last change of any of them.
     BoundingBox m_childBox;
-    /// Whether every child answers to this group, so that no change of a child's box has escaped `m_childBox`.
+    /// Whether every child reports to this group, so that `m_childBox` includes every change of a child's box.
     bool m_hearsAllChildren = true;
 };
 

@@ -83,7 +83,7 @@ bool SceneGraphNode::storeBoundingBox(const BoundingBox& box)
     return isNew;
 }
 
-/// Each parent has its box calculated as by calculateBoundingBox(), but in a loop: a tree may be deeper than the stack.
+/// Each parent has its box calculated as in calculateBoundingBox(), but in a loop: a tree may be deeper than the stack.
 void SceneGraphNode::updateBoxesAbove()
 {
     for (auto parent = getParent(); parent && parent->storeBoundingBox(parent->mergeChildBoxes());

@@ -20,16 +20,16 @@ struct CanvasPickSettings;
 
 /// A node of the scene tree: a parent, an object to show, or a group of plots.
 ///
-/// Nodes are made by the static `create()` of their class and owned by the parents that hold them and by their Java
-/// peers; the reference to the parent is weak. Several parents may hold a node. It answers to the one that took it
-/// last: changes and boxes travel up from there. A parent that has died counts as none.
+/// Nodes are created by the static `create()` of their class and owned by the parents that hold them and by their Java
+/// peers; the reference to the parent is weak. Several parents may hold a node. It reports to the one that added it
+/// last: changes and boxes are propagated from there. A parent that has been destroyed counts as none.
 ///
-/// The destructor of a node touches nothing but what the node alone owns. So the last owner of a dropped subtree may
-/// let go on any thread, also while another thread works on a scene that shares nodes with it.
+/// The destructor of a node accesses only what the node alone owns. So the last owner may release a subtree on any
+/// thread, even while another thread works on a scene that shares nodes with it.
 ///
-/// Two things travel up at once: the bounding box, which is kept in every node, and the snap vertices, which the root
-/// collects. For everything else a change raises a number, with which a reader compares the number it saw last; only
-/// equality tells anything.
+/// Two things are propagated immediately: the bounding box, which every node stores, and the snap vertices, which the
+/// root collects. Every other change raises a number, which readers compare with the number they saw last, for equality
+/// only.
 class VX_API SceneGraphNode {
 public:
     using PeerRoot = SceneGraphNode;
@@ -43,66 +43,66 @@ public:
     // Identity
 
     NodeType getType() const { return m_type; }
-    /// The id of the node, unique over the process, from 1.
+    /// The id of the node, unique in the process, from 1.
     int getNodeId() const { return m_nodeId; }
-    /// A share in the node itself.
+    /// A reference to the node itself.
     /// @throws boost::bad_weak_ptr if the node was not made by `create()`
     boost::shared_ptr<SceneGraphNode> self() const { return boost::shared_ptr<SceneGraphNode>(m_self); }
 
     // Position in the tree
 
-    /// The parent that the node answers to, or null. The reference keeps it alive, whoever else lets it go meanwhile.
+    /// The parent that the node reports to, or null. The reference keeps it alive, even if all other owners release it.
     boost::shared_ptr<SceneGraphParent> getParent() const { return m_parent.lock(); }
     /// The id under the parent: -1 before the first parent, 0 after the last one.
     int getChildId() const { return m_childId; }
-    /// Makes the node answer to a parent, registers its snap vertices there and counts a change. Called by the parent
-    /// when it takes the node in.
+    /// Makes the node report to a parent, registers its snap vertices there and counts a change. Called by the parent
+    /// that adds the node.
     void setParent(boost::weak_ptr<SceneGraphParent> parent, int childId);
-    /// Withdraws the snap vertices and makes the node answer to nobody. Called by the parent when it lets the node go;
+    /// Withdraws the snap vertices and makes the node report to no parent. Called by the parent that removes the node;
     /// the parent counts the removal itself.
     void removeParent();
-    /// Leaves the parent, if there is one.
+    /// Removes the node from its parent, if there is one.
     void disconnectFromParent();
 
     // Changes
 
     /// The number of changes of this node itself, from 1.
     int getChangeId() const { return m_changeId.get(); }
-    /// Counts a change of this node, and a change below on every node above it.
+    /// Counts a change of this node, and a change below it for every node above.
     void markChanged();
 
     // Visibility and bounding box
 
     bool isActive() const { return m_active; }
-    /// Shows or hides the node. A hidden node counts as empty in the boxes above; no change number moves.
+    /// Shows or hides the node. A hidden node counts as empty in the boxes above; no change number changes.
     void setActive(bool active);
-    /// The box of an active node; one empty box, the same object always, for every inactive one.
+    /// The box of an active node; for every inactive one, the same empty box object.
     const BoundingBox& getBoundingBox() const { return m_active ? m_boundingBox : c_emptyBox; }
-    /// The box that the node keeps, active or not.
+    /// The box that the node stores, active or not.
     const BoundingBox& getStoredBoundingBox() const { return m_boundingBox; }
-    /// Stores the box and brings the boxes above up to date, as far up as they change. An equal box does nothing; an
-    /// empty one always travels up, since empty boxes are never equal.
+    /// Stores the box and updates the boxes above, as far up as they change. An equal box does nothing; an empty one is
+    /// always propagated, since empty boxes are never equal.
     void setBoundingBox(const BoundingBox& box);
 
-    // What the kinds of nodes do in their own ways
+    // What each kind of node implements
 
-    /// Registers the snap vertices again under the parent. Not called for a node that comes under a parent at the top
-    /// of its tree, unless that is a root: roots keep the snap vertices.
+    /// Registers the snap vertices with the parent again. Not called when a node is added to a parent at the top of its
+    /// tree, unless that is a root: roots store the snap vertices.
     virtual void updateNodeSnapVertices();
     /// Withdraws the snap vertices from the parent.
     virtual void removeNodeSnapVertices();
-    /// Adds to `result` what of this node and below lies in the frustum and is asked for.
-    /// @param inside whether a group above lies wholly in the frustum, so that nothing here need be tested
+    /// Adds to `result` the parts of this node and its subtree in the frustum that the settings ask for.
+    /// @param inside whether a group above is wholly inside the frustum, so that nothing here needs a test
     virtual void getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
                               PickedObjectCollection& result, bool inside) const = 0;
-    /// Merges into `box` the box of what is marked in this node and below. The meaning of the two masks is the leaves'.
+    /// Merges into `box` the box of all marked parts of this node and its subtree. Leaves define the two masks.
     virtual void getMarkedBoundingBox(BoundingBox& box, int include, int exclude) const = 0;
     virtual const std::vector<SnapVertex>& getSnapVertices() const;
 
 protected:
     explicit SceneGraphNode(NodeType type);
 
-    /// Takes a new node into shared ownership and lets it know its owner: what every `create()` does.
+    /// Puts a new node under shared ownership and gives it a reference to its owner, as every `create()` requires.
     template <class Node>
     static boost::shared_ptr<Node> own(Node* node)
     {
@@ -117,9 +117,9 @@ protected:
 private:
     friend class SceneGraphParent;
 
-    /// Stops answering to the parent, which may go on holding the node.
+    /// Stops reporting to the parent, which may still hold the node.
     void leaveParent();
-    /// @return whether the box differs from the one before
+    /// @return whether the box differs from the previous one
     bool storeBoundingBox(const BoundingBox& box);
     /// Has the parents above merge the boxes of their children again, as far up as that changes a box.
     void updateBoxesAbove();

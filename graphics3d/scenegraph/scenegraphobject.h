@@ -5,7 +5,7 @@
 
 namespace vxgraphics3d {
 
-/// A leaf of the scene tree that shows geometry, with a colour and a shininess of its own.
+/// A leaf of the scene tree that shows geometry, with its own colour and shininess.
 class VX_API SceneGraphObject : public SceneGraphNode {
 public:
     enum ObjectType {
@@ -20,12 +20,12 @@ public:
         ObjectDrawProj = 8
     };
 
-    /// What a caller does to a part: the actions of marking.
+    /// What a caller does to a part: the marking actions.
     enum MarkingType { MarkingPrimary = 0, MarkingSecondary = 1, MarkingHidden = 2, MarkingUnpickable = 3 };
 
     ObjectType getObjectType() const { return m_objectType; }
 
-    // Each setter counts a change, also when the value stays the same.
+    // Each setter counts a change, even when the value stays the same.
 
     const Color& getObjectColor() const { return m_objectColor; }
     void setObjectColor(const Color& color);
@@ -34,7 +34,7 @@ public:
     void setUseObjectColor(bool use);
     /// The exponent of the highlight, 1 to 128.
     float getShininess() const { return m_shininess; }
-    /// Takes the nearest value within 1 to 128; what is no number counts as 1.
+    /// Clamps the value to 1 to 128; NaN counts as 1.
     void setShininess(float shininess);
 
 protected:

@@ -21,9 +21,9 @@ const SceneGraphParent* SceneGraphParent::asParent(const SceneGraphNode& node)
     return mayHold ? dynamic_cast<const SceneGraphParent*>(&node) : nullptr;
 }
 
-// --- ways down ------------------------------------------------------------------------------------------------------
+// --- traversal downwards --------------------------------------------------------------------------------------------
 
-/// Visits this node and all below it, depth first, with a stack of its own.
+/// Visits this node and all nodes below it, depth first, with an explicit stack.
 template <class Enter, class Leaf>
 void SceneGraphParent::walk(bool inside, Enter enter, Leaf leaf) const
 {
@@ -57,7 +57,7 @@ void SceneGraphParent::getMarkedBoundingBox(BoundingBox& box, int include, int e
         [&](const SceneGraphNode& leaf, bool) { leaf.getMarkedBoundingBox(box, include, exclude); });
 }
 
-// --- ways up --------------------------------------------------------------------------------------------------------
+// --- propagation upwards --------------------------------------------------------------------------------------------
 
 boost::shared_ptr<SceneGraphParent> SceneGraphParent::rootAbove() const
 {
@@ -123,7 +123,7 @@ void SceneGraphParent::requireNewChild(const SceneGraphNode* node) const
     if (parent == nullptr) {
         return;
     }
-    // A parent that no other has ever taken in is below none of them.
+    // A parent that was never added to another one is below none.
     const bool isBelowOthers = getChildId() != c_neverAttached;
     if (parent == this || (isBelowOthers && parent->contains(*this))) {
         throw std::invalid_argument("Node " + std::to_string(node->getNodeId()) + " cannot be a child of node " +
@@ -131,7 +131,7 @@ void SceneGraphParent::requireNewChild(const SceneGraphNode* node) const
     }
 }
 
-/// Looks from above, because a node that several parents hold knows only one of them.
+/// Searches from the top, because a node with several parents refers to only one of them.
 bool SceneGraphParent::contains(const SceneGraphParent& wanted) const
 {
     std::unordered_set<const SceneGraphNode*> seen;
@@ -164,7 +164,7 @@ void SceneGraphParent::release(boost::shared_ptr<SceneGraphNode> child) noexcept
     if (asParent(*child) == nullptr) {
         return;
     }
-    // The first parent to die opens the list, and empties it; those that die meanwhile only add to it.
+    // The first parent to be destroyed creates and empties the list; those destroyed meanwhile only add to it.
     thread_local std::vector<boost::shared_ptr<SceneGraphNode>>* dying = nullptr;
     if (dying != nullptr) {
         try {

@@ -11,7 +11,7 @@ namespace vxgraphics3d {
 
 /// A node that holds other nodes, and owns them.
 ///
-/// No parent may come to be below itself, on any path: addChild() and setChild() refuse that before anything changes.
+/// No parent may become its own descendant, on any path: addChild() and setChild() refuse that before anything changes.
 /// All paths up and down the tree are loops, in destruction too, so that no depth of a tree exhausts the stack.
 class VX_API SceneGraphParent : public SceneGraphNode {
 public:
@@ -19,13 +19,13 @@ public:
 
     /// The number of changes anywhere below this node, from 1.
     int getChildrenChangeId() const { return m_childrenChangeId.get(); }
-    /// Whether the number differs from the one given.
+    /// Whether the number differs from the given one.
     bool areChildrenChanged(int id) const { return m_childrenChangeId.isChanged({id}); }
     /// Counts a change below this node, here and on every node above.
     void markChildChanged();
 
-    /// A group is passed by if it is empty or lies outside the frustum, and its subtree is not tested any more if it
-    /// lies wholly inside; the children go in ascending order of their ids.
+    /// A group is skipped if it is empty or outside the frustum, and its subtree is not tested further if it is wholly
+    /// inside; the children are visited in ascending order of their ids.
     void getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
                       PickedObjectCollection& result, bool inside) const override;
     void getMarkedBoundingBox(BoundingBox& box, int include, int exclude) const override;
@@ -38,11 +38,11 @@ public:
     virtual boost::shared_ptr<SceneGraphNode> childPtr(int childId) = 0;
     virtual void removeChild(int childId) = 0;
     virtual NodeType getChildType(int childId) const = 0;
-    /// Lets the root know that nodes have come or gone.
+    /// Reports to the root that nodes were added or removed.
     virtual void treeStructureChanged();
-    /// Calculates the box from those of the children, and brings the boxes above up to date.
+    /// Calculates the box from those of the children, and updates the boxes above.
     virtual void calculateBoundingBox();
-    /// Ends at the root, which does nothing.
+    /// Forwarded to the root, which does nothing.
     virtual void changeVertexState(int nodeId, int index, int state);
     /// Registers snap vertices at the root.
     virtual void addSnapVertices(int nodeId, const std::vector<SnapVertex>& vertices);
@@ -50,7 +50,7 @@ public:
     virtual void removeSnapVertices(int nodeId);
 
 protected:
-    /// A node that a walk through the tree has yet to visit.
+    /// A node that a traversal of the tree has yet to visit.
     struct OpenNode {
         const SceneGraphNode* node;
         bool inside;
@@ -58,25 +58,25 @@ protected:
 
     explicit SceneGraphParent(NodeType type);
 
-    /// Refuses what may not become a child: null, this node itself, or one that this node is below. For a leaf the cost
-    /// does not depend on the tree.
+    /// Refuses nodes that must not become a child: null, this node itself, or one that contains this node. For a leaf
+    /// the cost does not depend on the tree.
     /// @throws std::invalid_argument
     void requireNewChild(const SceneGraphNode* node) const;
-    /// Makes a node that this parent holds answer to it, under an id: the one way in. Box and structure are up to the
-    /// caller.
+    /// Makes a node that this parent holds report to it, under an id: the only way to add a node. The caller updates
+    /// box and structure.
     void attach(SceneGraphNode& node, int childId);
     static const BoundingBox& emptyBox() { return c_emptyBox; }
-    /// Gives a child up when this parent dies. Parents that die with it are taken apart in a loop.
+    /// Releases a child when this parent is destroyed. Parents that are destroyed with it are handled in a loop.
     static void release(boost::shared_ptr<SceneGraphNode> child) noexcept;
 
-    /// The box over all children, inactive ones left out, merged in id order.
+    /// The merged box of the active children, in id order.
     virtual const BoundingBox& mergeChildBoxes() = 0;
-    /// A node stops answering to this parent, though it may still be held; its box may change unnoticed from now on.
+    /// A node stops reporting to this parent, which may still hold it; its box may change unnoticed from now on.
     virtual void loseChild() {}
-    /// Whether a pick goes on to the children.
-    /// @param inside in: whether a group above lies wholly in the frustum; out: whether this node does
+    /// Whether a pick continues with the children.
+    /// @param inside in: whether a group above is wholly inside the frustum; out: whether this node is
     virtual bool admitsPick(const SelectionFrustrum& frustum, bool& inside) const = 0;
-    /// Puts the children on a stack, the first one on top.
+    /// Pushes the children onto a stack, the first one on top.
     virtual void pushChildren(std::vector<OpenNode>& open, bool inside) const = 0;
 
 private:

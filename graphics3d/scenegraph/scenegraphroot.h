@@ -22,9 +22,9 @@ public:
     static boost::shared_ptr<SceneGraphRoot> create();
     ~SceneGraphRoot() override;
 
-    /// How often nodes have come or gone below, from 1.
+    /// The number of structural changes below, from 1.
     int getTreeStructureChangeId() const { return m_treeStructureChangeId.get(); }
-    /// Whether the number differs from the one given.
+    /// Whether the number differs from the given one.
     bool isTreeStructureChanged(int id) const { return m_treeStructureChangeId.isChanged({id}); }
 
     /// Finds a snap vertex near a point; see SnapVertexIndex.
@@ -33,15 +33,15 @@ public:
     double getClosestSnapCoordinate(const Vector3f& point, double* coordinate, double maxDistance,
                                     const Vector3f& direction);
 
-    // Title and legends, which a child that holds plots answers; without one there is nothing to tell.
+    // Title and legends, provided by a child that holds plots; without one they are empty.
 
     /// Number of colour legends, 0 without plots.
     int getNumberOfColorLegends() const;
     /// Appends the legend entries of the graphs.
     void getLineLegend(std::vector<LineLegend>& result) const;
-    /// Replaces `result` by the title of the plots; without plots it stays untouched.
+    /// Replaces `result` by the title of the plots; unchanged if there are no plots.
     void getTitle(vxbase::UString& result) const;
-    /// Whether title or legends have changed since the observer took their number last; false without plots.
+    /// Whether title or legends have changed since the observer last took their number; false without plots.
     bool isTitleChanged(const LastChangeId& last) const;
     /// Brings the observer up to date.
     void resetTitleChanged(LastChangeId& last) const;

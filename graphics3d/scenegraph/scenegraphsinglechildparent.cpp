@@ -32,7 +32,7 @@ void SceneGraphSingleChildParent::removeChild(int)
     treeStructureChanged();
 }
 
-/// Detaches a present child and releases it.
+/// Detaches an existing child and releases it.
 void SceneGraphSingleChildParent::detachChild()
 {
     if (m_child) {

@@ -5,17 +5,17 @@
 
 namespace vxgraphics3d {
 
-/// A node with at most one child, whose id is 0. The id that the operations on the child take is ignored.
+/// A node with at most one child, whose id is 0. The child id that some operations take is ignored.
 class VX_API SceneGraphSingleChildParent : public SceneGraphParent {
 public:
     ~SceneGraphSingleChildParent() override;
 
-    /// Takes a node in, and lets a present child go.
-    /// @throws std::invalid_argument for no node, this node itself or one that this node stands below
+    /// Adds a node, and removes an existing child.
+    /// @throws std::invalid_argument for null, this node itself, or a parent that contains this node
     void setChild(boost::shared_ptr<SceneGraphNode> node);
-    /// The kind of object that the child is.
+    /// The object type of the child.
     /// @throws std::out_of_range if there is no child
-    /// @throws vxbase::WrongClass if the child is no object
+    /// @throws vxbase::WrongClass if the child is not an object
     SceneGraphObject::ObjectType getChildObjectType(int childId) const;
 
     int getNoOfChildren() const override { return m_child ? 1 : 0; }
@@ -23,7 +23,7 @@ public:
     const SceneGraphNode* getChild(int) const override { return find().get(); }
     SceneGraphNode* child(int) override { return find().get(); }
     boost::shared_ptr<SceneGraphNode> childPtr(int) override { return find(); }
-    /// Lets a present child go. Box and structure count as changed in any case.
+    /// Removes an existing child. Box and structure always count as changed.
     void removeChild(int childId) override;
     NodeType getChildType(int) const override { return find()->getType(); }
 

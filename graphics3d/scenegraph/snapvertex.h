@@ -9,7 +9,7 @@ struct SnapVertex {
     double z = 0.0;
     int nodeId = 0; ///< the node that owns the vertex
     int state = 0;
-    int index = 0; ///< of the entry in the snap arrays of the record that the node was filled from
+    int index = 0; ///< index into the snap arrays of the record that filled the node
 };
 
 } // namespace vxgraphics3d

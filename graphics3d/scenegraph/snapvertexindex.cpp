@@ -41,7 +41,7 @@ void SnapVertexIndex::remove(int nodeId)
     for (const Runs::iterator run : runs) {
         run->listed = false;
     }
-    // Runs that follow each other are one run in the order of arrival.
+    // Adjacent runs become one run in the order of arrival.
     auto last = runs.begin() + 1;
     while (last != runs.end() && *last == std::next(*(last - 1))) {
         ++last;
@@ -71,7 +71,7 @@ std::vector<SnapVertex> SnapVertexIndex::getVertices() const
 
 // --- orders ---------------------------------------------------------------------------------------------------------
 
-/// Brings the orders up to date. What came since the last time stands at the end of the runs.
+/// Brings the orders up to date. New runs are at the end.
 void SnapVertexIndex::sort()
 {
     if (m_upToDate) {
@@ -100,8 +100,8 @@ void SnapVertexIndex::sort()
     m_upToDate = true;
 }
 
-/// The order of an axis with further entries, which come newest first: so a sort and a merge that keep equal ones as
-/// they stand put the newest in front of its equals.
+/// The order of an axis merged with further entries, which come newest first: so a stable sort and merge put the newest
+/// before its equals.
 std::vector<SnapVertexIndex::Entry> SnapVertexIndex::merged(Axis axis, std::vector<Entry> added) const
 {
     for (Entry& entry : added) {
@@ -140,7 +140,7 @@ bool SnapVertexIndex::Best::improve(const Entry& entry, const Vector3f& point)
     return true;
 }
 
-/// Walks from the cursor to the first entry that is nearer, and leaves the cursor there; if there is none it stays.
+/// Moves the cursor to the first entry that is nearer; if there is none, the cursor stays.
 void SnapVertexIndex::step(Order& order, const Vector3f& point, float direction, Best& best)
 {
     if (direction < 0.0f) {

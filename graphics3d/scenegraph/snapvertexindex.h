@@ -10,40 +10,40 @@
 
 namespace vxgraphics3d {
 
-/// All snap vertices of a scene, in the order of their coordinates, with the place where the last search ended.
+/// All snap vertices of a scene, sorted by their coordinates, with the position where the last search ended.
 ///
-/// Among equal coordinates the vertex that came last stands first. A search starts where the last one ended, so a
-/// pointer that moves a little is answered after a short walk; every change of the vertices sends it back to the lowest
+/// Among equal coordinates the vertex that was added last comes first. A search starts where the last one ended, so a
+/// small movement of the pointer needs only a short search; every change of the vertices moves it back to the lowest
 /// coordinates. Only x and y are searched.
 ///
-/// The orders are brought up to date by the next search, not by each change: n vertices, in whatever portions they come
-/// and go, cost a time of n log n, and a scene that nobody snaps to costs nothing. A coordinate that is no number
-/// stands before all others; its vertex is never found.
+/// The orders are updated by the next search, not by each change: n vertices take O(n log n) time, no matter how they
+/// are added and removed, and a scene without searches costs nothing. A coordinate that is NaN sorts before all others;
+/// its vertex is never found.
 class SnapVertexIndex {
 public:
     enum Axis { AxisX = 0, AxisY = 1 };
 
-    /// Takes copies of the vertices, each for the node that it names.
+    /// Adds copies of the vertices, each for the node that it refers to.
     void add(const std::vector<SnapVertex>& vertices);
-    /// Takes the node's vertices out of the orders, and the first unbroken run of them out of the vertices themselves;
-    /// vertices of one node come together, so the run is all of them. A node without vertices changes nothing.
+    /// Removes the node's vertices from the orders, and the first contiguous run of them from the vertices themselves;
+    /// the vertices of a node are added together, so the run is all of them. A node without vertices changes nothing.
     void remove(int nodeId);
 
     /// Looks for a vertex nearer to the point than `maxDistance`: first at the ends of the last search, then along x
-    /// and y by turns, in the sense of the direction's components, until neither finds a nearer one. Each walk takes
-    /// the first vertex that is nearer, and the next search goes on from it.
-    /// @param coordinate receives x, y and z of the vertex found; untouched if none is
+    /// and y alternately, in the directions given by the signs of the components, until neither finds a nearer one.
+    /// Each step takes the first vertex that is nearer, and the next search continues from it.
+    /// @param coordinate receives x, y and z of the vertex found; unchanged if none is
     /// @return the distance of that vertex, measured in float, or `maxDistance`
     double getClosestSnapCoordinate(const Vector3f& point, double* coordinate, double maxDistance,
                                     const Vector3f& direction);
 
-    /// All vertices in the order of their arrival.
+    /// All vertices in the order of arrival.
     std::vector<SnapVertex> getVertices() const;
-    /// The vertices in the order of a coordinate.
+    /// The vertices, sorted by one coordinate.
     std::vector<SnapVertex> getOrder(Axis axis);
 
 private:
-    /// Vertices of one node that came together. They are never moved, so entries may point at them.
+    /// Vertices of one node that were added together. They are never moved, so entries may point at them.
     struct Run {
         int nodeId;
         std::vector<SnapVertex> vertices;
@@ -60,7 +60,7 @@ private:
     };
 
     struct Order {
-        std::vector<Entry> entries; ///< by rising coordinate, the newest of equals first
+        std::vector<Entry> entries; ///< in ascending order of the coordinate, the newest of equals first
         std::size_t cursor = 0;
     };
 

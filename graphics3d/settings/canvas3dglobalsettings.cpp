@@ -35,7 +35,7 @@ boost::shared_ptr<RendererInfo> Canvas3dGlobalSettings::m_rendererInfo;
 
 Canvas3dGlobalSettings* Canvas3dGlobalSettings::getInstance()
 {
-    // Made once even if two threads come first, each with a scene of its own.
+    // Created once even if two threads, each with its own scene, call this first.
     static Canvas3dGlobalSettings* const instance = [] {
         m_instance.reset(new Canvas3dGlobalSettings);
         return m_instance.get();
@@ -111,7 +111,7 @@ bool Canvas3dGlobalSettings::isButtonForMouseAction(int button, CameraMouseActio
     if (!isButton(button)) {
         return false;
     }
-    // All three keys together are no column that a drag is looked up in.
+    // The lookup for a drag excludes the column of all three keys.
     const CameraMouseAction* row = m_cameraMouseActions[button - 1];
     return std::find(row, row + c_numKeyMasks - 1, action) != row + c_numKeyMasks - 1;
 }

@@ -13,19 +13,19 @@ namespace vxgraphics3d {
 class MarkingSetups;
 class RendererInfo;
 
-/// What holds for all canvases of the process: rendering quality, picking, how the mouse drives the cameras, default
+/// The settings for all canvases of the process: rendering quality, picking, mouse actions for the cameras, default
 /// fonts, number precisions and the marking tables.
 ///
-/// One object, made at the first `getInstance()` and kept until the process ends. Canvas, scene and hardcopy settings
-/// take their first fonts and resolution from it, cameras ask it for their behaviour, speeds and precisions serve the
-/// renderer and Java. Values are stored as they come, without a check of their range. Only the setters that say so
-/// raise the change number, and those raise it always.
+/// One object, created by the first `getInstance()` and kept until the process ends. Canvas, scene and hardcopy
+/// settings take their initial fonts and resolution from it, and cameras read their resize behaviour; speeds and
+/// precisions are for the renderer and Java. Values are stored without a range check. Only the setters that say so
+/// raise the change number, and they always raise it.
 class VX_API Canvas3dGlobalSettings : public ChangeableSetting {
 public:
     using TextItem = vxgraphics3d::TextItem;
 
-    /// How a camera adapts to a render area of another shape. `ResizeFill` and `ResizeFit` say what a 3D camera does; a
-    /// 2D camera fits with the first and fills with the second.
+    /// How a camera adapts to a render area of another shape. `ResizeFill` and `ResizeFit` describe the 3D camera; a 2D
+    /// camera fits with the first and fills with the second.
     enum ResizeBehaviour : int {
         ResizeWidth = 0,  ///< the width of the view stays, its height follows
         ResizeHeight = 1, ///< the height of the view stays, its width follows
@@ -37,11 +37,11 @@ public:
 
     /// What fills the render area when a 3D camera zooms to the extent of a box.
     enum ZoomToExtentBehaviour : int {
-        ZoomToExtentTight = 0,  ///< the box itself fills the area, but for the margin
-        ZoomToExtentSphere = 1, ///< the sphere around the box does, so that it stays visible however it is turned
+        ZoomToExtentTight = 0,  ///< the box itself fills the area, except for the margin
+        ZoomToExtentSphere = 1, ///< the sphere around the box does, so that every rotation stays visible
     };
 
-    /// What dragging the mouse does, each in the terms of `ICameraActions`.
+    /// The effect of dragging the mouse, in terms of `ICameraActions`.
     enum CameraMouseAction : int {
         ActionOrbit = 0,      ///< turn the scene about the rotation point
         ActionOrbitRoll = 1,  ///< turn the scene about the line of sight
@@ -56,7 +56,7 @@ public:
         ActionNone = 10,
     };
 
-    /// Mouse buttons are 1 to this.
+    /// Mouse buttons are 1 to this number.
     static constexpr int c_numMouseButtons = 3;
     /// Key masks are the sets of three keys, 0 to 7.
     static constexpr int c_numKeyMasks = 8;
@@ -68,7 +68,7 @@ public:
     Canvas3dGlobalSettings& operator=(const Canvas3dGlobalSettings&) = delete;
     ~Canvas3dGlobalSettings() override;
 
-    /// What the renderer can do; null until a renderer has said so.
+    /// The capabilities of the renderer; null until a renderer has set them.
     static RendererInfo* getRendererInfo() { return m_rendererInfo.get(); }
     /// Called by the renderer when it starts. `setAntiAliasing` needs it.
     static void setRendererInfo(const boost::shared_ptr<RendererInfo>& info) { m_rendererInfo = info; }
@@ -88,20 +88,20 @@ public:
     RenderQuality getOffScreenRenderQuality() const { return m_offScreenRenderQuality; }
     void setOffScreenRenderQuality(RenderQuality quality) { m_offScreenRenderQuality = quality; }
 
-    /// Samples a pixel; 0 for no antialiasing.
+    /// Samples per pixel; 0 for no antialiasing.
     int getMultisampleSetting() const { return m_multisampleSetting; }
     /// Counts a change.
     void setMultisampleSetting(int samples);
     bool isAntiAliasing() const { return m_multisampleSetting > 0; }
-    /// Sets the first number of samples that the renderer offers, or 0 to switch antialiasing off or if the renderer
-    /// offers none or is not known. Counts a change.
+    /// Sets the first number of samples that the renderer supports, or 0 to switch antialiasing off or if the renderer
+    /// supports none or is not known. Counts a change.
     void setAntiAliasing(bool on);
 
     // Picking.
 
     bool isPBufferUsedForPicking() const { return m_usePBufferForPicking; }
     void setUsePBufferForPicking(bool use) { m_usePBufferForPicking = use; }
-    /// How far from the pointer a part may lie and still be picked, in pixels.
+    /// The maximum distance of a picked part from the pointer, in pixels.
     int getPickingTolerance() const { return m_pickingTolerance; }
     void setPickingTolerance(int pixels) { m_pickingTolerance = pixels; }
 
@@ -116,32 +116,33 @@ public:
     float getZoomToExtentMargin() const { return m_zoomToExtentMargin; }
     void setZoomToExtentMargin(float margin) { m_zoomToExtentMargin = margin; }
 
-    /// Radians a pixel.
+    /// Radians per pixel.
     float getCameraMouseOrbitSpeed() const { return m_cameraMouseOrbitSpeed; }
     void setCameraMouseOrbitSpeed(float speed) { m_cameraMouseOrbitSpeed = speed; }
-    /// Fraction of the scene's size a pixel.
+    /// Fraction of the scene's size per pixel.
     float getCameraMouseDollySpeed() const { return m_cameraMouseDollySpeed; }
     void setCameraMouseDollySpeed(float speed) { m_cameraMouseDollySpeed = speed; }
     /// Pixels for a zoom by one step.
     float getCameraMouseZoomSpeed() const { return m_cameraMouseZoomSpeed; }
     void setCameraMouseZoomSpeed(float speed) { m_cameraMouseZoomSpeed = speed; }
 
-    // The table of mouse actions: a row for each button and a column for each set of keys held down with it.
+    // The table of mouse actions: a row per button and a column per set of modifier keys.
 
-    /// The action of a button, 1 to 3, under a key mask, of which the low three bits count. Other buttons have none.
+    /// The action of a button, 1 to 3, for a key mask, of which only the low three bits are used. Other buttons have
+    /// none.
     CameraMouseAction getCameraMouseAction(int button, int mask) const;
-    /// Sets the action of a button, 1 to 3, under a key mask, 0 to 7.
+    /// Sets the action of a button, 1 to 3, for a key mask, 0 to 7.
     /// @return false if there is no such button or mask; then nothing changes
     bool setCameraMouseAction(int button, int mask, CameraMouseAction action);
-    /// Leaves no action anywhere.
+    /// Removes all actions.
     void resetCameraMouseActions();
     void setDefaultCameraMouseActions();
-    /// Whether a button has an action under one of the key masks 0 to 6.
+    /// Whether a button has an action for one of the key masks 0 to 6.
     bool isButtonForMouseAction(int button, CameraMouseAction action) const;
 
     // Texts.
 
-    /// The font that new canvases and scenes take for a kind of text.
+    /// The font of new canvases and scenes for a kind of text.
     /// @throws std::out_of_range if there is no such kind
     const FontSetting& getFont(TextItem item) const;
     FontSetting& font(TextItem item);

@@ -4,8 +4,8 @@
 
 namespace vxgraphics3d {
 
-/// What a drawing context of the renderer turned out to be. A plain record that the renderer fills; nothing is known
-/// of a context whose fields are all zero.
+/// The properties of a renderer's drawing context. A plain record that the renderer fills; all fields are zero if
+/// nothing is known.
 struct VX_API ContextData {
     int colorBits = 0;
     int redBits = 0;
@@ -21,7 +21,7 @@ struct VX_API ContextData {
     bool doubleBuffered = false;
     bool hardwareAccelerated = false;
     int antialiasingType = 0; ///< as `RendererInfo::getAntialiasingType`
-    int multipleSamples = 0;  ///< samples a pixel
+    int multipleSamples = 0;  ///< samples per pixel
 };
 
 } // namespace vxgraphics3d

@@ -7,16 +7,16 @@
 
 namespace vxgraphics3d {
 
-/// The font of one kind of text: its name, its size, and a count of changes by which a renderer sees that it has to
-/// lay the text out anew.
+/// The font of one kind of text: its name, its size, and a count of changes that tells a renderer to lay the text out
+/// again.
 ///
 /// The count belongs to the object and never travels with the value.
 class VX_API FontSetting {
 public:
     FontSetting() = default;
-    /// A new setting that has taken the other's font, so its count is 2.
+    /// A new setting with the other's font, whose count is 2.
     FontSetting(const FontSetting& other) { *this = other; }
-    /// Takes the other's font and counts a change, also if the fonts were equal; assigned to itself it does nothing.
+    /// Copies the other's font and counts a change, even if the fonts are equal; does nothing for the object itself.
     FontSetting& operator=(const FontSetting& other)
     {
         if (this != &other) {
@@ -27,7 +27,7 @@ public:
         return *this;
     }
 
-    /// Sets the font and counts a change if name or size differ from the present ones.
+    /// Sets the font and counts a change if name or size differ from the current ones.
     void setFont(const std::string& name, int size)
     {
         if (name != m_name || size != m_size) {

@@ -2,10 +2,11 @@
 
 namespace vxgraphics3d {
 
-/// Names what a renderer's mouse handling reports to Java; the handling itself is the renderer's.
+/// Declares what a renderer's mouse handling reports to Java; the renderer implements the handling itself.
 class MouseActionHandler {
 public:
-    /// What is left to do after a mouse action: numbers 0 to 7, whose meaning the renderer and its Java side agree on.
+    /// What remains to be done after a mouse action: numbers 0 to 7, on whose meaning the renderer and its Java code
+    /// agree.
     enum PostMouseActions : int {};
 };
 

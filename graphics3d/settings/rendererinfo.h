@@ -12,15 +12,15 @@
 
 namespace vxgraphics3d {
 
-/// What the renderer of this process can do, and what it lacks to run at all.
+/// The capabilities of the renderer of this process, and any requirements that are missing.
 ///
-/// The renderer makes one object of its own subclass, whose constructor writes the fields, and hands it to
+/// The renderer creates one object of its own subclass, whose constructor sets the fields, and passes it to
 /// `Canvas3dGlobalSettings::setRendererInfo`. Everything else, Java included, only reads it.
 class VX_API RendererInfo {
 public:
     using PeerRoot = RendererInfo;
 
-    /// What one monitor's video card can do. Filled by a subclass of the renderer, like the record around it.
+    /// The capabilities of one monitor's video card. Filled by a subclass of the renderer, like the enclosing class.
     class VX_API MonitorInfo : public boost::enable_shared_from_this<MonitorInfo> {
     public:
         using PeerRoot = MonitorInfo;
@@ -39,9 +39,9 @@ public:
         int getMaxNumberOfLights() const { return m_maxNumberOfLights; }
         /// The longest side of a texture, in texels.
         int getMaxTextureSize() const { return m_maxTextureSize; }
-        /// The number of vertices that one array may hold.
+        /// The number of vertices that one array may contain.
         int getMaxVertexArraySize() const { return m_maxVertexArraySize; }
-        /// The number of indices that one array may hold.
+        /// The number of indices that one array may contain.
         int getMaxIndexArraySize() const { return m_maxIndexArraySize; }
 
     protected:
@@ -57,7 +57,7 @@ public:
         int m_maxIndexArraySize = 0;
     };
 
-    /// The number of multisample settings that a record can hold.
+    /// The maximum number of multisample settings.
     static constexpr int c_maxMultisampleSettings = 10;
 
     RendererInfo() = default;
@@ -68,10 +68,10 @@ public:
     /// Whether the renderer has an extension of its graphics interface.
     virtual bool hasOpenGlExtension(const std::string& name) const;
 
-    /// Whether nothing is missing for the renderer to run.
+    /// Whether all requirements of the renderer are fulfilled.
     bool isRendererRequirementsFulfilled() const { return m_missingRequirements.empty(); }
     int getNumberOfMissingRequirements() const { return static_cast<int>(m_missingRequirements.size()); }
-    /// What is missing, in words.
+    /// The description of a missing requirement.
     /// @throws std::out_of_range for an index that is not below the number of missing requirements
     const std::string& getMissingRequirement(int index) const;
     const std::string& getRendererType() const { return m_rendererType; }
@@ -79,9 +79,9 @@ public:
     int getNumberOfMonitors() const { return static_cast<int>(m_monitors.size()); }
     /// @throws std::out_of_range for an index that is not below the number of monitors
     const MonitorInfo* getMonitorInfo(int index) const;
-    /// A further owner of a monitor's record.
+    /// A shared pointer to a monitor's record.
     /// @throws std::out_of_range for an index that is not below the number of monitors
-    /// @throws std::logic_error if the place is empty
+    /// @throws std::logic_error if the record is null
     /// @throws boost::bad_weak_ptr if no shared pointer owns the record
     boost::shared_ptr<MonitorInfo> getMonitorInfoPtr(int index) const;
 
@@ -90,9 +90,9 @@ public:
     bool hasQuads() const { return m_hasQuads; }
     /// Whether indices may have 32 bits.
     bool has32BitIndexBuffer() const { return m_has32BitIndexBuffer; }
-    /// 0 none, 1 of the full screen, 2 by the accumulation buffer.
+    /// 0 none, 1 full screen, 2 accumulation buffer.
     int getAntialiasingType() const { return m_antialiasingType; }
-    /// The type's name; numbers without a name read as 0.
+    /// The type's name; unknown numbers are treated as 0.
     const std::string& getAntialiasingTypeStr() const;
     int getNumberOfMultisampleSettings() const { return m_numberOfMultisampleSettings; }
     /// The number of samples of a setting.
@@ -103,13 +103,13 @@ public:
     int getMaxTextureSize() const { return m_maxTextureSize; }
     /// 1 red first, 2 alpha first; anything else is an error.
     int getColorFormat() const { return m_colorFormat; }
-    /// The format's name; numbers without a name read as 0.
+    /// The format's name; unknown numbers are treated as 0.
     const std::string& getColorFormatStr() const;
-    /// The number of vertices that one array may hold.
+    /// The number of vertices that one array may contain.
     int getMaxVertexArraySize() const { return m_maxVertexArraySize; }
-    /// The number of indices that one array may hold.
+    /// The number of indices that one array may contain.
     int getMaxIndexArraySize() const { return m_maxIndexArraySize; }
-    /// Whether the array sizes are limits; otherwise they are only what is drawn fast.
+    /// Whether the array sizes are hard limits; otherwise they are only recommendations for speed.
     bool isArraySizesHard() const { return m_isArraySizesHard; }
     bool hasOffscreenContext() const { return m_hasOffscreenContext; }
 

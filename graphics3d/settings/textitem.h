@@ -4,13 +4,13 @@
 
 namespace vxgraphics3d {
 
-/// The kinds of text that a picture holds, each with a font of its own.
+/// The kinds of text in a picture, each with its own font.
 enum class TextItem : int {
     TextLabel = 0,           ///< labels of points and parts
     TextAxisTitle = 1,       ///< titles of axes
     TextAxisTick = 2,        ///< numbers along axes and grid boxes
     TextLegendTitle = 3,     ///< titles of legends, names in line legends
-    TextLegendTick = 4,      ///< numbers beside legends
+    TextLegendTick = 4,      ///< numbers next to legends
     TextTitle = 5,           ///< the title of the scene
     TextAxisOrientation = 6, ///< letters of the axis orientation indicator
 };
@@ -18,7 +18,7 @@ enum class TextItem : int {
 /// The number of kinds of text.
 inline constexpr int c_numTextItems = 7;
 
-/// The place of a kind of text in a table of all kinds.
+/// The index of a kind of text in a table of all kinds.
 /// @throws std::out_of_range if there is no such kind
 std::size_t textItemIndex(TextItem item);
 

@@ -4,12 +4,12 @@
 
 namespace vxgraphics3d {
 
-/// What interaction code drives a camera with.
+/// The operations by which interaction code controls a camera.
 ///
 /// A camera has a base state and a displayed one. Each `setAdditional...` call computes the displayed state from the
-/// base and its own arguments, so the calls of one drag replace each other. `mergeAdditionalTransformation` makes what
-/// is displayed the new base; `discardAdditionalTransformation` falls back to the base. Angles are in radians. A camera
-/// is owned as the class that it is, never through this interface, so there is no virtual destructor.
+/// base and its own arguments, so the calls of one drag replace each other. `mergeAdditionalTransformation` makes the
+/// displayed state the new base; `discardAdditionalTransformation` restores the base. Angles are in radians. A camera
+/// is owned as its own class, never through this interface, so there is no virtual destructor.
 class VX_API ICameraActions {
 public:
     virtual int getRenderAreaWidth() const = 0;
@@ -17,13 +17,13 @@ public:
     virtual int getRenderAreaLeft() const = 0;
     virtual int getRenderAreaBottom() const = 0;
 
-    /// World units that a pixel covers where the camera turns.
+    /// World units that a pixel covers at the rotation point.
     virtual float getPanSpeed() const = 0;
 
-    /// Turns the scene about the rotation point: about the horizontal axis by a, the vertical axis by b, the line of
+    /// Rotates the scene about the rotation point: about the horizontal axis by a, the vertical axis by b, the line of
     /// sight by c.
     virtual void setAdditionalSceneRotation(float a, float b, float c) = 0;
-    /// Turns the camera about itself: about its right axis by a, its up axis by b, its forward axis by c.
+    /// Rotates the camera about itself: about its right axis by a, its up axis by b, its forward axis by c.
     virtual void setAdditionalRotation(float a, float b, float c) = 0;
     /// Moves the camera relative to the line from the eye to the rotation point: to the right by a, up by b, towards
     /// the point by c.
@@ -40,7 +40,7 @@ public:
     virtual void mergeAdditionalTransformation() = 0;
     virtual void discardAdditionalTransformation() = 0;
 
-    /// The size of what the camera looks at, which a dolly step is scaled with.
+    /// The size of the object that the camera looks at, by which a dolly step is scaled.
     virtual float getDollySpeedScale() const = 0;
 
 protected:

@@ -7,24 +7,24 @@
 
 namespace vxgraphics3d {
 
-/// What a renderer and the picking ask of a camera, whether it shows a 3D or a 2D view: the area it draws to, its
-/// matrices, and the way between world and screen.
+/// What a renderer and picking need from a camera, in a 3D or a 2D view: the area it draws to, its matrices, and the
+/// conversions between world and screen.
 ///
 /// A point goes from the world to normalised device coordinates through the axis view scale, the view and the
-/// projection, in this order. Pixels count from the lower left corner. A camera is owned as the class that it is, never
+/// projection, in this order. Pixels count from the lower left corner. A camera is owned as its own class, never
 /// through this interface, so there is no virtual destructor.
 class VX_API ICameraTransforms {
 public:
-    /// Tells the camera the size of the whole drawable and the part of it that it draws to, in pixels.
+    /// Sets the size of the whole drawable and the part of it that the camera draws to, in pixels.
     virtual void setRenderArea(int canvasWidth, int canvasHeight, int left, int bottom, int width, int height) = 0;
     virtual int getRenderAreaWidth() const = 0;
     virtual int getRenderAreaHeight() const = 0;
     virtual int getRenderAreaLeft() const = 0;
     virtual int getRenderAreaBottom() const = 0;
 
-    /// Tells the camera the box of the whole scene in world coordinates.
+    /// Sets the box of the whole scene in world coordinates.
     virtual void setBoundingBox(const BoundingBox& box) = 0;
-    /// A box of world coordinates as the view matrix takes it.
+    /// A box of world coordinates in the space that the view matrix transforms.
     virtual BoundingBox getViewBoundingBox(const BoundingBox& box) const = 0;
 
     virtual const Matrixf& getViewTransform() const = 0;
@@ -37,7 +37,7 @@ public:
     /// The projection to depths from 0 at the near plane to 1 at the far plane.
     virtual const Matrixf& getProjectionTransformLH() const = 0;
 
-    /// Whether `getAxisViewScaleTransform` is anything but the identity.
+    /// Whether `getAxisViewScaleTransform` differs from the identity.
     virtual bool hasViewScaleTransform() const = 0;
     virtual const Matrixf& getAxisViewScaleTransform() const = 0;
     virtual const Matrixf& getInvAxisViewScaleTransform() const = 0;
@@ -45,7 +45,7 @@ public:
     virtual float getAxisViewScaleY() const = 0;
     virtual float getAxisViewScaleZ() const = 0;
 
-    /// The world point of a pixel of the drawable and a depth as `getProjectionTransformRH` gives it.
+    /// The world point of a pixel of the drawable at a depth as defined by `getProjectionTransformRH`.
     virtual Vector3f screenToWorld(int x, int y, float z) const = 0;
     /// The pixel position and the depth of a world point, from -1 to 1 within the clipping planes.
     virtual Vector3f worldToScreenRH(const Vector3f& point) const = 0;
@@ -56,15 +56,15 @@ public:
     virtual float getNearClippingPlane() const = 0;
     virtual float getFarClippingPlane() const = 0;
 
-    /// Shifts the projection by a part of a pixel, for pictures made of several passes. The shift lasts until the
+    /// Shifts the projection by a fraction of a pixel, for pictures made of several passes. The shift lasts until the
     /// projection is computed again.
     virtual void jitterPerspective(float dx, float dy) = 0;
 
-    /// Scales the axes so that the scene box comes out with equal edges.
+    /// Scales the axes so that the scene box has equal edges.
     virtual void setAxisViewScalesAuto() = 0;
     virtual void resetAxisViewScales() = 0;
 
-    /// How many pixels a step in the plane of the screen covers at a world point.
+    /// The number of pixels that a unit step in the plane of the screen covers at a world point.
     virtual float worldToPixelScale(const Vector3f& point) const = 0;
     virtual Vector3f getLookAtDirection() const = 0;
     virtual Vector3f getUpDirection() const = 0;

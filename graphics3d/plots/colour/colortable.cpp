@@ -10,7 +10,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// The texels at which the first `numWidths` widths begin, and 1024 behind them. They rise, as no width is negative.
+/// The texels at which the first `numWidths` widths begin, followed by 1024. They rise, as no width is negative.
 std::vector<int> positions(const ColorTable::Colors& colors, std::size_t numWidths)
 {
     double total = 0;

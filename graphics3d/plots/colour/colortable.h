@@ -15,14 +15,14 @@ namespace vxgraphics3d {
 /// A colour scale as a texture of 1024 opaque texels, in two byte orders, which the renderer binds when it draws a
 /// plot.
 ///
-/// Tables are owned by the ColorTableHandler and shared by all plots that ask for a name. A list of colours must hold
-/// at least one, and the widths that count must be finite, not negative, and in sum above 0; otherwise
+/// Tables are owned by the ColorTableHandler and shared by all plots that request the same name. A list of colours must
+/// not be empty, and the widths that are used must be finite, not negative, and in sum above 0; otherwise
 /// std::invalid_argument is thrown and nothing has changed.
 class VX_API ColorTable {
 public:
     enum Type : int { Discrete = 0, Continuous = 1 };
 
-    /// Colours by rising position, each with its relative width: only the ratios of the widths matter.
+    /// Colours in ascending position, each with its relative width: only the ratios of the widths matter.
     using Colors = std::vector<std::pair<Color, double>>;
 
     static constexpr int c_numTexels = 1024;
@@ -32,23 +32,23 @@ public:
     ColorTable(const ColorTable&) = delete;
     ColorTable& operator=(const ColorTable&) = delete;
 
-    /// Computes the texels anew; the id stays, the change number rises.
+    /// Recomputes the texels; the id stays, the change number rises.
     void update(Type type, const Colors& colors);
-    /// Changes the name only. The handler's key is its own matter.
+    /// Changes the name only; the handler changes its key itself.
     void rename(const std::string& name) { m_name = name; }
 
-    /// Computes the texels as bands of one colour, as wide as told. A band narrower than half a texel may vanish.
+    /// Computes the texels as bands of one colour with the given widths. A band narrower than half a texel may vanish.
     void calculateDiscreteTable(const Colors& colors);
-    /// Computes the texels as a run from colour to colour, where a width is the distance to the next colour and the
-    /// last one has no effect. The first texel is exactly the first colour, the last texel one step short of the last
-    /// colour. A single colour fills the table.
+    /// Computes the texels as a gradient from colour to colour, where a width is the distance to the next colour and
+    /// the last one has no effect. The first texel is exactly the first colour, the last texel one step short of the
+    /// last colour. A single colour fills the table.
     void calculateContinuousTable(const Colors& colors);
 
     /// Starts at 1 and rises with every update.
     int getChangeId() const { return m_changeId.get(); }
     const std::string& getName() const { return m_name; }
     Type getType() const { return m_type; }
-    /// Unique in the process, from 1; never used again.
+    /// Unique in the process, from 1; never reused.
     int getId() const { return m_id; }
     /// Texels as 0xRRGGBBAA.
     const Texels& getRgba() const { return m_rgba; }

@@ -11,7 +11,7 @@ boost::shared_ptr<ColorTableHandler> ColorTableHandler::m_instance;
 
 ColorTableHandler* ColorTableHandler::getInstance()
 {
-    // Made once even if two threads come first, each with a scene of its own.
+    // Created once even if two threads, each with its own scene, call this first.
     static ColorTableHandler* const instance = [] {
         m_instance.reset(new ColorTableHandler());
         return m_instance.get();

@@ -10,11 +10,11 @@
 
 namespace vxgraphics3d {
 
-/// The process-wide registry of colour tables by name: a table is computed once and shared by all plots that ask for
+/// The process-wide registry of colour tables by name: a table is computed once and shared by all plots that request
 /// it.
 ///
-/// It comes into being at the first `getInstance()` and lives until the process ends. The library registers no table by
-/// itself. Plots hold tables weakly, so a deleted table is gone for them.
+/// It is created by the first `getInstance()` and lives until the process ends. The library registers no tables itself.
+/// Plots hold tables weakly, so they lose a table that is deleted.
 class VX_API ColorTableHandler {
 public:
     static ColorTableHandler* getInstance();
@@ -23,22 +23,22 @@ public:
     ColorTableHandler(const ColorTableHandler&) = delete;
     ColorTableHandler& operator=(const ColorTableHandler&) = delete;
 
-    /// The table of a name, or an empty pointer.
+    /// The table with a name, or an empty pointer.
     boost::shared_ptr<ColorTable> getColorTable(const std::string& name) const;
     bool isColorTable(const std::string& name) const;
 
-    /// Computes and registers a table. A name that is taken keeps its table, and the result is false.
-    /// Throws std::invalid_argument for colours that make no table, and registers nothing.
+    /// Computes and registers a table. If the name is taken, its table is kept and the result is false.
+    /// Throws std::invalid_argument for colours that define no table, and registers nothing.
     bool addColorTable(const std::string& name, ColorTable::Type type, const ColorTable::Colors& colors);
-    /// Computes a table anew; false if it is protected. Throws std::out_of_range if the name is not known.
+    /// Recomputes a table; false if it is protected. Throws std::out_of_range if the name is not known.
     bool updateColorTable(const std::string& name, ColorTable::Type type, const ColorTable::Colors& colors);
-    /// Takes a table out of the registry; false if the name is not known or the table is protected.
+    /// Removes a table from the registry; false if the name is not known or the table is protected.
     bool deleteColorTable(const std::string& name);
-    /// Gives a table a new name; false if it is protected. If the new name is taken, its table stays and the renamed
-    /// one leaves the registry. Throws std::out_of_range if the old name is not known.
+    /// Renames a table; false if it is protected. If the new name is taken, its table is kept and the renamed one
+    /// leaves the registry. Throws std::out_of_range if the old name is not known.
     bool renameColorTable(const std::string& oldName, const std::string& newName);
 
-    /// Tables up to this id are protected: they are neither deleted, updated nor renamed. At first none is.
+    /// Tables up to this id are protected: they cannot be deleted, updated or renamed. Initially none is.
     int getLastProtectedId() const { return m_lastProtectedId; }
     void setLastProtectedId(int id) { m_lastProtectedId = id; }
 

@@ -10,7 +10,7 @@ class VX_API SceneGraphPlotDomain3d : public SceneGraphSingleTexturePlot {
 public:
     explicit SceneGraphPlotDomain3d(int id);
     ~SceneGraphPlotDomain3d() override;
-    /// Frees the buffers. Counts no change: a renderer sees it by isValid().
+    /// Frees the buffers. Counts no change: a renderer checks isValid().
     void resetPlotData() override;
     /// Whether there are vertices and triangles.
     bool isValid() const override;

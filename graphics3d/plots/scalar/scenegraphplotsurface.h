@@ -10,7 +10,7 @@ namespace vxgraphics3d {
 class VX_API SceneGraphPlotSurface : public SceneGraphSingleTexturePlot {
 public:
     ~SceneGraphPlotSurface() override;
-    /// Frees the buffers and counts a change of geometry. Value range and legend stay.
+    /// Frees the buffers and counts a change of geometry. Value range and legend are kept.
     void resetPlotData() override;
     /// Whether there are vertices and triangles.
     bool isValid() const override;
