@@ -4,6 +4,7 @@ import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.vexane.graphics3d.Canvas3dGlobalSettings;
 import java.awt.Rectangle;
 import java.awt.image.BufferedImage;
 import java.io.IOException;
@@ -23,6 +24,7 @@ class CommonTasksTest {
 
     @BeforeAll
     static void doAllTasks() throws Exception {
+        Canvas3dGlobalSettings.setOnScreenResolution(72); // as at first; the gallery sets another one
         CommonTasks.main(new String[] {folder.toString()});
     }
 
