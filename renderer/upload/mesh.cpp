@@ -8,7 +8,6 @@
 #include "renderer/upload/instancebuffer.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <stdexcept>
 #include <string>
 
@@ -54,14 +53,13 @@ void Mesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
     describe(Attribute::secondTexture, layout.secondTexture, 2, GL_FLOAT, layout);
     describe(Attribute::triple, layout.triple, 3, GL_FLOAT, layout);
     glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, m_indices.name());
-    glBufferData(GL_ELEMENT_ARRAY_BUFFER, static_cast<GLsizeiptr>(triangles.indices.size() * sizeof(std::uint32_t)),
-                 triangles.indices.data(), GL_STATIC_DRAW);
+    glBufferData(GL_ELEMENT_ARRAY_BUFFER, triangles.bytes(), triangles.data(), GL_STATIC_DRAW);
     glBindVertexArray(0);
     if (glGetError() == GL_OUT_OF_MEMORY) {
         throw std::runtime_error("The driver has no memory for a mesh.");
     }
-    m_numIndices = static_cast<GLsizei>(triangles.indices.size());
-    m_hasNormals = triangles.haveNormals;
+    m_numIndices = triangles.size();
+    m_hasNormals = triangles.haveNormals();
 }
 
 void Mesh::draw() const
