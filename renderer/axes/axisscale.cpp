@@ -13,7 +13,7 @@ constexpr int c_mostTicks = 100;
 /// So many wanted ticks give one for certain.
 constexpr int c_fewestTicks = 3;
 /// Without two labels an axis has no scale.
-constexpr int c_fewestLabels = 2;
+constexpr std::size_t c_fewestLabels = 2;
 /// Finer ticks, which come closer to the ends, for scales on which coarse ones leave fewer labels.
 constexpr int c_finerTicks[] = {5, 10, 20};
 /// Lines are at least so many pixels apart.
@@ -58,30 +58,50 @@ public:
     }
 
 private:
-    struct LabelCount {
-        int all = 0;
-        /// Labels that have space beside each other when each one that overlaps the one before is left out.
-        int fitting = 0;
-
-        bool fits() const { return fitting == all; }
-        bool isScale() const { return fitting >= c_fewestLabels; }
+    /// What a label covers, in pixels.
+    struct Interval {
+        double low;
+        double high;
     };
 
-    LabelCount countLabels(const std::vector<AxisTick>& ticks) const
+    Interval intervalOf(const AxisTick& tick) const
     {
-        LabelCount count;
-        double end = -HUGE_VAL;
+        const double half = 0.5 * m_scale.labelLength(tick.label);
+        return {tick.position * m_pixels - half, tick.position * m_pixels + half};
+    }
+
+    /// Every how manyth label of some ticks is kept, and from which one on.
+    struct Thinning {
+        std::size_t step = 0;
+        std::size_t first = 0;
+        std::size_t numLabels = 0;
+
+        /// Whether at least two labels are left.
+        bool isScale() const { return step > 0; }
+        bool keepsAll() const { return step == 1; }
+    };
+
+    /// As many labels as have space beside each other.
+    Thinning thinningOf(const std::vector<AxisTick>& ticks) const
+    {
+        std::vector<Interval> labels;
         for (const AxisTick& tick : ticks) {
             if (!tick.label.empty()) {
-                ++count.all;
-                const double half = 0.5 * m_scale.labelLength(tick.label);
-                if (tick.position * m_pixels - half >= end) {
-                    ++count.fitting;
-                    end = tick.position * m_pixels + half;
+                labels.push_back(intervalOf(tick));
+            }
+        }
+        for (std::size_t step = 1; step < labels.size(); ++step) {
+            for (std::size_t first = 0; first < step && first + step < labels.size(); ++first) {
+                bool fits = true;
+                for (std::size_t i = first + step; i < labels.size() && fits; i += step) {
+                    fits = labels[i - step].high <= labels[i].low;
+                }
+                if (fits) {
+                    return {step, first, labels.size()};
                 }
             }
         }
-        return count;
+        return {0, 0, labels.size()};
     }
 
     bool isInside(double position) const
@@ -90,23 +110,31 @@ private:
         return position >= m_scale.low - slack && position <= m_scale.high + slack;
     }
 
-    /// Takes over ticks as the result, unless those taken before, which are finer, leave more of the labels that a
-    /// scale needs.
+    /// Takes over ticks as the result, with as many of their labels as fit, unless fewer than two do and the ticks
+    /// taken before, which are finer, have more.
     /// @return whether no coarser ones need be tried, because all labels fit and they are enough
     bool take(std::vector<AxisTick> ticks, int exponent = 0)
     {
-        const LabelCount count = countLabels(ticks);
-        if (std::min(count.fitting, c_fewestLabels) >= std::min(m_count.fitting, c_fewestLabels)) {
-            m_result = {std::move(ticks), exponent};
-            m_count = count;
+        const Thinning thinning = thinningOf(ticks);
+        if (thinning.isScale()) {
+            std::size_t index = 0;
+            for (AxisTick& tick : ticks) {
+                if (!tick.label.empty() && index++ % thinning.step != thinning.first) {
+                    tick.label.clear();
+                }
+            }
+        } else if (m_isScale || (thinning.numLabels == 0 && !m_result.ticks.empty())) {
+            return false;
         }
-        return count.fits() && count.isScale();
+        m_result = {std::move(ticks), exponent};
+        m_isScale = thinning.isScale();
+        return thinning.keepsAll();
     }
 
     /// Takes over ticks that are finer than all before if only they leave the labels that a scale needs.
     void takeFiner(std::vector<AxisTick> ticks, int exponent = 0)
     {
-        if (!m_count.isScale() && countLabels(ticks).isScale()) {
+        if (!m_isScale && thinningOf(ticks).isScale()) {
             take(std::move(ticks), exponent);
         }
     }
@@ -123,9 +151,11 @@ private:
             }
         }
         for (const int count : c_finerTicks) {
-            if (count * c_closestLines <= m_scale.length) {
+            if (!m_isScale) {
                 const auto& [ticks, exponent] = make(count);
                 takeFiner(ticks, exponent);
+                // Lines that close would only hide the scene.
+                std::erase_if(m_result.ticks, [this](const AxisTick& t) { return m_isScale && t.label.empty(); });
             }
         }
     }
@@ -207,8 +237,8 @@ private:
     bool fillNumbers()
     {
         std::vector<AxisTick> ticks = numbers();
-        const LabelCount count = countLabels(ticks);
-        return count.all >= 3 && count.fits() && take(std::move(ticks));
+        const Thinning thinning = thinningOf(ticks);
+        return thinning.numLabels >= 3 && thinning.keepsAll() && take(std::move(ticks));
     }
 
     /// Round values as on a linear scale.
@@ -310,18 +340,12 @@ private:
     /// Takes the labels away that still overlap, those of extra places last.
     void thinOut()
     {
-        struct Interval {
-            double low;
-            double high;
-        };
         std::vector<Interval> taken;
         const auto keep = [&](AxisTick& tick) {
             if (tick.label.empty()) {
                 return;
             }
-            const double half = 0.5 * m_scale.labelLength(tick.label);
-            const double middle = tick.position * m_pixels;
-            const Interval place = {middle - half, middle + half};
+            const Interval place = intervalOf(tick);
             const auto overlaps = [&](const Interval& other) {
                 return place.low < other.high && other.low < place.high;
             };
@@ -349,8 +373,8 @@ private:
     /// Number of ticks that suits the length.
     int m_wanted;
     AxisTicks m_result;
-    /// Labels of the result.
-    LabelCount m_count;
+    /// Whether the result has at least two labels that fit.
+    bool m_isScale = false;
     std::vector<AxisTick> m_extra;
 };
 

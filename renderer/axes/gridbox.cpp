@@ -23,8 +23,6 @@ constexpr double c_tickDistance = 2.2;
 /// Axes that look shorter are not labelled.
 constexpr double c_shortestAxis = 1.5;
 constexpr int c_mostTicks = 100;
-/// Without two labels an axis has no scale.
-constexpr std::size_t c_fewestLabels = 2;
 /// Finer ticks, which come closer to the ends, for axes on which coarse ones leave fewer labels.
 constexpr int c_finerTicks[] = {5, 10, 20};
 /// Sine of the angle below which a face is seen edge-on.
@@ -77,18 +75,23 @@ struct Edge {
     Range visible;
 };
 
-/// Where an axis has its ticks, and their labels along its edge.
+/// Where an axis has its ticks, and those that are labelled along its edge.
 struct AxisTickSet {
     std::vector<double> ticks;
-    std::vector<AxisLabel> labels;
-    std::vector<Pixel> places;
-    /// Labels that have space beside those before them.
-    std::size_t numFitting = 0;
+    struct Label {
+        AxisLabel label;
+        Pixel place;
+        double tick;
+    };
+    std::vector<Label> labels;
+    /// Every how manyth label was kept so that they have space beside each other; 0 if no two of them have.
+    std::size_t step = 0;
     /// How far the labels reach out from the edge.
     double reach = 0.0;
     std::string power;
 
-    bool isScale() const { return numFitting >= c_fewestLabels; }
+    /// Without two labels an axis has no scale.
+    bool isScale() const { return step > 0; }
 };
 
 /// An axis with its ticks.
@@ -250,40 +253,64 @@ private:
         for (int count = std::clamp(static_cast<int>(std::min(wanted, 1e6)), 1, c_mostTicks); count > 0;
              count = count * 3 / 4) {
             AxisTickSet set = tickSet(index, count);
-            const bool fits = set.numFitting == set.labels.size();
-            const bool isEnough = set.isScale() || !axis.edge;
-            if (std::min(set.numFitting, c_fewestLabels) >= std::min(axis.numFitting, c_fewestLabels)) {
+            const bool isBest = !axis.edge || set.step == 1;
+            if (set.isScale() || !axis.isScale()) {
                 static_cast<AxisTickSet&>(axis) = std::move(set);
             }
-            if (fits && isEnough) {
+            if (isBest) {
                 return;
             }
         }
         for (const int count : c_finerTicks) {
             if (AxisTickSet set = tickSet(index, count); !axis.isScale() && set.isScale()) {
+                // Lines that close would only hide the scene.
+                set.ticks.clear();
+                for (const AxisTickSet::Label& label : set.labels) {
+                    set.ticks.push_back(label.tick);
+                }
                 static_cast<AxisTickSet&>(axis) = std::move(set);
             }
         }
     }
 
-    /// About so many ticks of an axis.
+    /// About so many ticks of an axis, with as many of their labels as have space beside each other.
     AxisTickSet tickSet(std::size_t index, int aboutCount) const
     {
         const Ticks ticks = makeTicks(m_low[index], m_high[index], aboutCount, m_input.digits);
         AxisTickSet set;
         set.power = ticks.exponent == 0 ? "" : "\\times" + powerText(ticks.exponent);
-        LabelPlacer placer(m_metrics);
         for (const Ticks::Tick& tick : ticks.ticks) {
             set.ticks.push_back(std::clamp(tick.value, m_low[index], m_high[index]));
             if (m_axes[index].edge) {
-                addLabel(set, index, tick, placer);
+                addLabel(set, index, tick);
             }
         }
-        set.numFitting = placer.getLabels().size();
+        thinOut(set);
         return set;
     }
 
-    void addLabel(AxisTickSet& set, std::size_t index, const Ticks::Tick& tick, LabelPlacer& placer) const
+    /// Leaves every second, third ... label where those between have no space; all of them if no two fit.
+    void thinOut(AxisTickSet& set) const
+    {
+        for (std::size_t step = 1; step < set.labels.size(); ++step) {
+            for (std::size_t first = 0; first < step && first + step < set.labels.size(); ++first) {
+                std::vector<AxisTickSet::Label> kept;
+                LabelPlacer placer(m_metrics);
+                bool fits = true;
+                for (std::size_t i = first; i < set.labels.size() && fits; i += step) {
+                    fits = placer.place(set.labels[i].label);
+                    kept.push_back(set.labels[i]);
+                }
+                if (fits) {
+                    set.labels = std::move(kept);
+                    set.step = step;
+                    return;
+                }
+            }
+        }
+    }
+
+    void addLabel(AxisTickSet& set, std::size_t index, const Ticks::Tick& tick) const
     {
         const Edge& edge = *m_axes[index].edge;
         Point point = edge.start;
@@ -301,9 +328,7 @@ private:
         label.markup = tick.label;
         const double begin = (c_tickLength + c_gap) * m_em;
         set.reach = std::max(set.reach, begin + moveOut(label, *place, edge.outward, begin));
-        set.labels.push_back(label);
-        set.places.push_back(*place);
-        placer.place(label);
+        set.labels.push_back({label, *place, point[index]});
     }
 
     /// Moves a label to where its rectangle just touches a line beside an edge.
@@ -386,11 +411,11 @@ private:
         }
         for (const auto& [length, index] : order) {
             const Axis& axis = m_axes[index];
-            for (std::size_t i = 0; i < axis.labels.size(); ++i) {
-                const Pixel end = axis.places[i] + axis.edge->outward * (c_tickLength * m_em);
+            for (const AxisTickSet::Label& label : axis.labels) {
+                const Pixel end = label.place + axis.edge->outward * (c_tickLength * m_em);
                 m_layout.ticks.push_back(
-                    {Vector3f(axis.places[i].x, axis.places[i].y, 0.0), Vector3f(end.x, end.y, 0.0), false});
-                m_labels.place(axis.labels[i]);
+                    {Vector3f(label.place.x, label.place.y, 0.0), Vector3f(end.x, end.y, 0.0), false});
+                m_labels.place(label.label);
             }
         }
     }

@@ -66,8 +66,8 @@ TEST(AxisScale, twoTicksAreLabelledWhereverTheyHaveSpace)
     EXPECT_EQ(told(scaleOf(-65.0, 65.0, 60.0)), "\xE2\x88\x92"
                                                 "50 | 50")
         << "0 would stand alone";
-    EXPECT_EQ(told(scaleOf(1.1, 1.9, 60.0)), "1.2 | 1.6 |") << "finer ticks come closer to the ends";
-    EXPECT_EQ(told(scaleOf(0.3, 1.48, 60.0, true)), "2 5 10 |") << "a single decade";
+    EXPECT_EQ(told(scaleOf(1.1, 1.9, 60.0)), "1.2 1.6") << "finer ticks come closer to the ends";
+    EXPECT_EQ(told(scaleOf(0.3, 1.48, 60.0, true)), "2 | 10 |") << "a single decade";
     EXPECT_EQ(told(scaleOf(0.9, 4.1, 80.0, true)), "10^{1} | | 10^{4}") << "every second decade has no space";
     AxisScale scale = scaleOf(0.0, 1.0, 60.0);
     scale.spacing = 0.125;
