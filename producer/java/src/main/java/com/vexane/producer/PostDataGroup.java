@@ -26,7 +26,7 @@ public final class PostDataGroup {
     Object[] lineElements = {};
     Object[] normals = {};
     final List<Object> data = new ArrayList<>();
-    /** Minimum and maximum of each data array; NaN where they are to be computed. */
+    /** Minimum and maximum of each data array; NaN if they are to be computed. */
     final List<double[]> limits = new ArrayList<>();
 
     /** Makes an empty group, which needs at least coordinates. */

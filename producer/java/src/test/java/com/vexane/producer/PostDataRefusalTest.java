@@ -20,8 +20,8 @@ import org.junit.jupiter.params.provider.Arguments;
 import org.junit.jupiter.params.provider.MethodSource;
 
 /**
- * Every input that does not fit is refused with a message that names it, and no record is left open: the leak check
- * that runs around each test would find it.
+ * Every inconsistent input is refused with a message that names it, and no record remains open: the leak check around
+ * each test would find it.
  */
 class PostDataRefusalTest {
     private static final double[] TWO = {1, 2};
@@ -77,7 +77,7 @@ class PostDataRefusalTest {
 
     @ParameterizedTest
     @MethodSource("groupCalls")
-    void aGroupRefusesWhatCannotBeRightByItself(Class<? extends RuntimeException> type, String message, Executable call) {
+    void aGroupRefusesInvalidArguments(Class<? extends RuntimeException> type, String message, Executable call) {
         assertRefused(type, message, call);
     }
 
@@ -114,7 +114,7 @@ class PostDataRefusalTest {
     }
 
     @Test
-    void elementsThatNamePointsOutsideTheGroupAreRefused() {
+    void elementsThatReferToPointsOutsideTheGroupAreRefused() {
         Map<String, UnaryOperator<PostDataGroup>> cases = Map.of(
                 "group 1: elements[1] names point 2 at entry 2, the group has 2 points",
                 group -> group.elements(new int[] {0, 1, 1}, new int[] {0, 1, 2}),
@@ -131,7 +131,7 @@ class PostDataRefusalTest {
     }
 
     @Test
-    void rolesThatNameNoArrayAreRefused() {
+    void rolesWithoutAnArrayAreRefused() {
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL).addGroup(twoPoints());
         assertRefused(IndexOutOfBoundsException.class, "role HEIGHT: there is no data[-1]",
                 () -> builder.role(DataRole.HEIGHT, -1));
@@ -140,7 +140,7 @@ class PostDataRefusalTest {
     }
 
     @Test
-    void oneValueForAGroupIsRefusedWhereMoreThanTheLevelReadsIt() {
+    void oneValueForAGroupIsRefusedIfMoreThanTheLevelUsesIt() {
         PostDataGroup group = new PostDataGroup().coordinates(TWO).data(new double[] {5});
         PostDataBuilder builder = new PostDataBuilder(PlotKind.ISO_SURFACE).addGroup(group);
         String message = "group 0: data[0] has 1 values for 2 points";
@@ -152,7 +152,7 @@ class PostDataRefusalTest {
     }
 
     @Test
-    void boundsThatAreNoRangesAreRefused() {
+    void boundsThatAreNotRangesAreRefused() {
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL).addGroup(twoPoints());
         assertRefused(IllegalArgumentException.class, "bounds: 0 axes, not 1 to 3", builder::bounds);
         assertRefused(IllegalArgumentException.class, "bounds[1] is no range: [2.0, 1.0]",
