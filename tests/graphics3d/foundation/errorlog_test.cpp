@@ -25,7 +25,7 @@ TEST(ErrorLog, isSilentUntilALevelIsSet)
     EXPECT_EQ(log.text(), "");
 }
 
-TEST(ErrorLog, writesLevelModuleTextAndPlaceWithTabs)
+TEST(ErrorLog, writesLevelModuleTextAndLocationWithTabs)
 {
     CapturedLog log(Level::info);
     ErrorLog::getInstance()->log(Level::info, ErrorLog::ModuleID::graphics, 8, "camera.cpp", 12, "zoom(%f)", 0.5);
@@ -54,7 +54,7 @@ TEST(ErrorLog, namesTheCallersFileAndLine)
               "warning\tgraphics:0\todd 3 of shape, 0.500000\terrorlog_test.cpp;" + std::to_string(line) + "\n");
 }
 
-TEST(ErrorLog, passesMessagesUpToTheLevelInForce)
+TEST(ErrorLog, passesMessagesUpToTheCurrentLevel)
 {
     CapturedLog log(Level::warning);
     logInfo("not this");
@@ -63,7 +63,7 @@ TEST(ErrorLog, passesMessagesUpToTheLevelInForce)
     EXPECT_EQ(log.messages(), (std::vector<std::string>{"this", "and this"}));
 }
 
-TEST(ErrorLog, switchingOffAndOnRestoresTheLevelAskedFor)
+TEST(ErrorLog, switchingOffAndOnRestoresTheRequestedLevel)
 {
     CapturedLog captured(Level::info);
     ErrorLog* log = ErrorLog::getInstance();
@@ -74,7 +74,7 @@ TEST(ErrorLog, switchingOffAndOnRestoresTheLevelAskedFor)
     EXPECT_EQ(log->getReportLevel(), Level::info);
 }
 
-TEST(ErrorLog, moduleMaskHoldsMessagesBackAndIgnoresUnknownModules)
+TEST(ErrorLog, moduleMaskSuppressesMessagesAndIgnoresUnknownModules)
 {
     CapturedLog captured(Level::info);
     ErrorLog* log = ErrorLog::getInstance();

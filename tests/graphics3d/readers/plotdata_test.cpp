@@ -21,7 +21,7 @@ using Record = vxdatacarrier::PostDataObject;
 const std::string c_dataFolder = VX_DATA_FOLDER "/";
 const std::string c_docsFolder = VX_TEST_FOLDER "/../docs/";
 
-TEST(PlotData, hasTheSizesAndLimitsThatItsPageTells)
+TEST(PlotData, hasTheSizesAndLimitsOfItsPage)
 {
     struct Limits {
         double min, max;
@@ -102,7 +102,7 @@ TEST(PlotData, hasTheSizesAndLimitsThatItsPageTells)
     }
 }
 
-TEST(PlotData, samplesOfThePageDoAsThePageSays)
+TEST(PlotData, samplesOfThePageBehaveAsDocumented)
 {
     std::ifstream stream(c_docsFolder + "plot-data-format.md");
     std::ostringstream text;
