@@ -4,7 +4,7 @@
 
 namespace vxgraphics3d {
 
-/// How often this thread has taken memory by `new` since it started.
+/// The number of allocations by `new` on this thread since it started.
 std::size_t numAllocations();
 
 } // namespace vxgraphics3d

@@ -1,5 +1,5 @@
-// Filling vertex and index buffers, beside bare loops that write the same records and indices into new memory: the
-// limit of any fill. Every case allocates anew in each round, as a plot does, and checks what it wrote.
+// Filling vertex and index buffers, compared with bare loops that write the same records and indices into new memory:
+// the limit of any fill. Every case allocates again in each round, as a plot does, and checks what it wrote.
 
 #include "graphics3d/buffers/indexbuffertriangles.h"
 #include "graphics3d/buffers/vertexbuffercoords.h"
@@ -14,7 +14,7 @@
 namespace vxgraphics3d {
 namespace {
 
-/// Points and triangles as a record carries them: an array per axis and per corner.
+/// Points and triangles as in a record: an array per axis and per corner.
 struct Mesh {
     explicit Mesh(int size)
     {
@@ -52,7 +52,7 @@ VertexNormalTex vertexOf(const Mesh& mesh, std::size_t i)
             0.0f};
 }
 
-/// What a fill may take, in times of the bare loop.
+/// The time limit of a fill, as a multiple of the bare loop.
 constexpr double c_allowed = 1.3;
 
 void reportVertices(benchmark::State& state, const Mesh& mesh, const void* written)
@@ -189,7 +189,7 @@ void appendTriangle(benchmark::State& state)
     reportTriangles(state, mesh, buffer);
 }
 
-// Below and above the count that makes indices wide.
+// Below and above the count that requires wide indices.
 constexpr int c_narrow = 65000;
 constexpr int c_wide = 2000000;
 
@@ -205,7 +205,7 @@ BENCHMARK(bareVertices)->Name("appendUnwritten_limit")->Apply(sizes);
 BENCHMARK(appendTriangles)->Apply(sizes);
 BENCHMARK(bareTriangles<unsigned short>)->Name("appendTriangles_limit")->Arg(c_narrow);
 BENCHMARK(bareTriangles<unsigned int>)->Name("appendTriangles_limit")->Arg(c_wide);
-// One triangle at a time keeps the write position in memory: for fills whose corners are computed on the way.
+// One triangle at a time keeps the write position in memory: for fills that compute the corners as they go.
 BENCHMARK(appendTriangle)->Apply(sizes);
 BENCHMARK(bareTriangles<unsigned short>)->Name("appendTriangle_limit")->Arg(c_narrow);
 BENCHMARK(bareTriangles<unsigned int>)->Name("appendTriangle_limit")->Arg(c_wide);

@@ -1,4 +1,4 @@
-// One step of a drag: the additional transformation and both matrices that a renderer reads then. The limit is the bare
+// One step of a drag: the additional transformation and both matrices that a renderer then reads. The limit is the bare
 // arithmetic of the same matrices on arrays of floats, without the camera's state.
 
 #include "benchmarks/allocations.h"
@@ -13,7 +13,7 @@
 namespace vxgraphics3d {
 namespace {
 
-/// What a step may take, in times of the bare arithmetic.
+/// The time limit of a step, as a multiple of the bare arithmetic.
 constexpr double c_allowed = 1.3;
 
 using Vector = std::array<float, 3>;
@@ -66,7 +66,7 @@ Rotation product(const Rotation& a, const Rotation& b)
     return result;
 }
 
-/// The state that an orbit starts from, and the matrices that it ends in.
+/// The initial state of an orbit, and the resulting matrices.
 struct BareOrbit {
     Vector toPoint{-1.0f, -2.0f, -10.0f};
     Vector right{};
@@ -127,7 +127,7 @@ float factorOf(int step)
     return 0.75f + angleOf(step);
 }
 
-/// Fails the benchmark if the camera has taken memory since it was set up.
+/// Fails the benchmark if the camera has allocated memory since it was set up.
 void checkNothingAllocated(benchmark::State& state, std::size_t before)
 {
     if (numAllocations() != before) {
@@ -175,8 +175,8 @@ void orbit3d_limit(benchmark::State& state)
 }
 BENCHMARK(orbit3d_limit);
 
-/// The projections of a perspective view of which all stays visible, with nothing about its angles, clipping distances
-/// and area known beforehand.
+/// The projections of a perspective view that stays completely visible, with no assumptions about its angles, clipping
+/// distances and area.
 struct BareZoom {
     std::array<float, 16> rightHanded{};
     std::array<float, 16> leftHanded{};
@@ -192,7 +192,7 @@ struct BareZoom {
 
     void scale(float cx, float cy, float s)
     {
-        // A view that is tiny against the clipping range is not magnified further.
+        // A view that is tiny relative to the clipping range is not magnified further.
         if (s < 1.0f) {
             const auto angle = static_cast<double>(std::min(actualHorizontalFov, actualVerticalFov));
             if (std::tan(angle) * static_cast<double>(lengthOf(toPoint)) < static_cast<double>((f - n) * 1e-05f)) {

@@ -7,7 +7,7 @@
 namespace vxgraphics3d {
 namespace {
 
-/// A figure of the process in bytes, such as "VmHWM:", its highest use of memory; 0 where the system does not tell.
+/// A memory figure of the process in bytes, such as "VmHWM:", its peak memory use; 0 if the system does not report it.
 double processMemory(const std::string& figure)
 {
     std::ifstream status("/proc/self/status");

@@ -4,13 +4,13 @@
 
 namespace vxgraphics3d {
 
-/// The highest use of memory in a stretch of a benchmark, beyond what was in use when it began.
+/// The peak memory use in a section of a benchmark, beyond what was in use when it began.
 class MemoryWatch {
 public:
-    /// Gives back what was freed before, and starts from here.
+    /// Returns freed memory to the system, and starts measuring.
     MemoryWatch();
 
-    /// Reports the highest use since then, in bytes: beside the bytes of the buffers that stay, and of those and the
+    /// Reports the peak use since then, in bytes: next to the bytes of the remaining buffers, and of those and the
     /// temporary arrays.
     void report(benchmark::State& state, double buffers, double told) const;
 

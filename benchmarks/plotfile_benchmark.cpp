@@ -14,8 +14,8 @@
 namespace vxgraphics3d {
 namespace {
 
-// A surface of 500,000 points with its triangles. The limit is the same work through fgets and strtod: the reader must
-// be at least three times as fast. The rate of both, and of the copy of the same bytes, is that of the file's bytes.
+// A surface of 500,000 points with its triangles. The limit is the same work with fgets and strtod: the reader must be
+// at least three times as fast. All rates, including that of a plain copy, are in bytes of the file.
 struct Plot {
     const std::string text = gridPlotText(1000, 500, 7);
     const TemporaryFile file{text};
@@ -76,7 +76,7 @@ READ_BENCHMARK(surface2d, read<ScenePlotFileReader::readSurfacePlot2d>,
                readPlainly<ReferencePlotReader::Plot::surface2d>);
 #undef READ_BENCHMARK
 
-/// The physical limit: the bytes of one pass, from the file into memory.
+/// The physical limit: the bytes of one pass, copied from the file into memory.
 void copyFile(benchmark::State& state)
 {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(Plot::get().file.path().c_str(), "r"),

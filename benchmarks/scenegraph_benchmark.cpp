@@ -1,4 +1,4 @@
-// The scene tree beside the merges of boxes that its work comes down to. Each case checks the box that it made.
+// The scene tree, compared with the box merges that dominate its work. Each case checks the resulting box.
 
 #include "graphics3d/scenegraph/scenegraphgroup.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
@@ -50,12 +50,12 @@ void check(benchmark::State& state, const BoundingBox& box, const BoundingBox& e
 
 // --- adding children to one group: an entry in the table, the links between child and group, and one merge each ------
 //
-// The limit is the merging of the children's boxes alone, into a box in memory, as that of a group is. Leaves are new
-// each time and made outside the measured time, which a clock of its own takes: pausing costs more than many a thousand
-// merges. The caller keeps its shares and hands copies over, or gives them away.
+// The limit is merging the children's boxes alone, into a box in memory, like that of a group. Leaves are new each time
+// and created outside the measured time, which has its own clock: pausing costs more than thousands of merges. The
+// caller keeps its references and passes copies, or moves them.
 
-/// Leaves memory with the allocator that has been written before: the first touch of a page costs more than the work on
-/// what lies in it, and it is the system's.
+/// Leaves the allocator with memory that has been written before: the first access to a page costs more than the work
+/// on its contents, and is a cost of the system.
 void warmMemory(int count)
 {
     std::vector<char> memory(static_cast<std::size_t>(count) * 100);
@@ -120,7 +120,7 @@ BENCHMARK(addChildren_limit)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime(
 
 constexpr int c_levels[] = {32, 32, 10};
 
-/// Two boxes that change the box of every level by turns.
+/// Two boxes that alternately change the box of every level.
 const BoundingBox c_leafBoxes[] = {{0.0f, 1.0f, 0.0f, 20000.0f, 0.0f, 2.0f}, {0.0f, 1.0f, 0.0f, 20001.0f, 0.0f, 2.0f}};
 
 void changeLeafBox(benchmark::State& state)

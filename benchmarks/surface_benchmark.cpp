@@ -1,5 +1,5 @@
-// Fills of surface plots, each beside a bare loop that writes the same records and indices into new memory. The data
-// are a square grid of points with two triangles in each cell. What both wrote is compared once, byte for byte.
+// Fills of surface plots, each compared with a bare loop that writes the same records and indices into new memory. The
+// data are a square grid of points with two triangles in each cell. Both results are compared once, byte for byte.
 
 #include "benchmarks/memory.h"
 #include "graphics3d/plots/scalar/scenegraphplotsurface2d.h"
@@ -23,7 +23,7 @@ using Record = vxdatacarrier::PostDataObject;
 
 enum class Kind { flat, raised, spatial };
 
-/// A grid of side by side points. Array 0 are colour data, array 1 heights.
+/// A grid of side by side points. Array 0 contains colour data, array 1 heights.
 PostRecord gridRecord(Kind kind, std::size_t side)
 {
     const std::size_t count = side * side;
@@ -72,7 +72,7 @@ PostRecord gridRecord(Kind kind, std::size_t side)
     return record;
 }
 
-/// What a bare loop writes.
+/// The output of a bare loop.
 struct BareSurface {
     std::unique_ptr<VertexNormalTex[]> vertices;
     std::unique_ptr<unsigned short[]> indices16;
@@ -126,8 +126,8 @@ struct Points {
     std::size_t count;
 };
 
-/// Writes the indices and sums the normals of triangles in one pass, straight into the vertices, so that no memory but
-/// that of the result is touched; the vertices are completed in a second pass. Returns the indices.
+/// Writes the indices and sums the normals of triangles in one pass, directly into the vertices, so that only the
+/// memory of the result is accessed; the vertices are completed in a second pass. Returns the indices.
 template <class Index>
 std::unique_ptr<Index[]> bareRaised(const Record& record, VertexNormalTex* out)
 {
@@ -259,7 +259,7 @@ void bareFill(benchmark::State& state)
     state.SetItemsProcessed(state.iterations() * state.range(0) * state.range(0));
 }
 
-/// The highest use of memory during a fill of ten million points beyond what the record takes: the buffers themselves.
+/// The peak memory use during a fill of ten million points beyond that of the record: the buffers themselves.
 template <class Plot, Kind kind>
 void fillTenMillion(benchmark::State& state)
 {

@@ -1,5 +1,5 @@
 // What a renderer and Java do with views besides drawing: asking every node whether it has changed, showing a scene in
-// one more view, making scenes. The sizes show that nothing grows faster than the number of things.
+// another view, creating scenes. The sizes show that no cost grows faster than the number of objects.
 
 #include "graphics3d/canvas/irenderersetup.h"
 #include "graphics3d/canvas/scenesettings.h"
@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::size_t c_numNodes = 10000;
 
-/// A number in as much memory as a node takes.
+/// A number in as much memory as a node uses.
 struct Cell {
     int changeId = 1;
     char rest[sizeof(TestLeaf) - sizeof(int)] = {};

@@ -1,4 +1,5 @@
-// Any bytes as a plot file: the reader must give the same answer and the same messages as its plain counterpart.
+// Arbitrary bytes as a plot file: the reader must give the same result and the same messages as the simple reference
+// reader.
 
 #include "tests/support/plotcomparison.h"
 #include "tests/support/temporaryfile.h"
@@ -12,8 +13,8 @@
 
 namespace {
 
-/// What the reader writes on standard error, while the fuzzer's own reports go on to the real one: those are written to
-/// the descriptor, past the stream.
+/// What the reader writes to standard error. The fuzzer's own reports still reach the real one: they are written to the
+/// descriptor, not the stream.
 std::string takeError()
 {
     static char* text = nullptr;

@@ -40,8 +40,8 @@ void CameraDrag::takeView(const ICameraTransforms& transforms)
                           .transformed(transforms.getAxisViewScaleTransform())
                           .transformed(transforms.getViewTransform());
 
-    // The axis of a roll is seen as a point: that of the camera straight ahead, that of the scene at the rotation
-    // point.
+    // The centre of the rotation in the picture: straight ahead for a roll of the camera, the rotation point for a roll
+    // of the scene.
     const Vector3f axis = m_action == Action::ActionRoll ? Vector3f(0.0f, 0.0f, -1.0f) : m_rotationPoint;
     const Vector3f device = axis.transformed(projection);
     m_rollCentre = {(device.x * 0.5f + 0.5f) * m_areaWidth, (device.y * 0.5f + 0.5f) * m_areaHeight};
@@ -54,7 +54,7 @@ bool CameraDrag::moveTo(float dx, float dy)
     }
     switch (m_action) {
     case Action::ActionOrbit:
-        // The camera goes round the other way, so that the near side of the scene goes with the pointer.
+        // The camera orbits in the opposite direction, so that the near side of the scene follows the pointer.
         return apply(&ICameraActions::setAdditionalSceneRotation, m_orbitSpeed * dy, -m_orbitSpeed * dx, 0.0f);
     case Action::ActionTurn:
         return turnTo(dx, dy);
@@ -77,17 +77,17 @@ bool CameraDrag::moveTo(float dx, float dy)
     }
 }
 
-/// Turns the camera so that what lies straight ahead goes with the pointer.
+/// Turns the camera so that the point straight ahead follows the pointer.
 bool CameraDrag::turnTo(float dx, float dy)
 {
     const float distance = m_isPerspective ? 1.0f : m_rotationPoint.length();
     const float x = dx * m_pixelWidth / distance;
     const float y = dy * m_pixelHeight / distance;
-    // The camera tips after it has turned, so the turn is seen at the distance that the tipping leaves.
+    // The camera pitches after it has turned, so the turn is measured at the distance that remains after pitching.
     return apply(&ICameraActions::setAdditionalRotation, -std::atan(y), std::atan(x / std::hypot(1.0f, y)), 0.0f);
 }
 
-/// Turns the picture by the angle that the pointer goes round the place that stays.
+/// Rotates the picture by the angle that the pointer moves about the centre of the roll.
 bool CameraDrag::rollTo(float dx, float dy)
 {
     const float x = m_start.x - m_rollCentre.x;
@@ -97,16 +97,16 @@ bool CameraDrag::rollTo(float dx, float dy)
     if (m_action == Action::ActionRoll) {
         return apply(&ICameraActions::setAdditionalRotation, 0.0f, 0.0f, now - before);
     }
-    // The line to a point behind the eye points the other way.
+    // The line to a point behind the eye points in the opposite direction.
     const float angle = m_rotationPoint.z < 0.0f ? now - before : before - now;
     return apply(&ICameraActions::setAdditionalSceneRotation, 0.0f, 0.0f, angle);
 }
 
-/// Moves the camera sideways so that a point at the place of the rotation point goes with the pointer.
+/// Moves the camera sideways so that a point at the rotation point follows the pointer.
 bool CameraDrag::shiftTo(float dx, float dy)
 {
     const bool isSceneMove = m_action == Action::ActionSceneMove;
-    // The directions of the movement, as the eye sees them.
+    // The directions of the movement in the coordinates of the eye.
     Vector3f right(1.0f, 0.0f, 0.0f);
     Vector3f up(0.0f, 1.0f, 0.0f);
     if (isSceneMove) {
@@ -114,8 +114,8 @@ bool CameraDrag::shiftTo(float dx, float dy)
         up = right.cross(m_rotationPoint).normalized();
     }
 
-    // The place of a point in the picture is its x and y, in perspective divided by its depth. A point behind the eye
-    // has no such place; one straight ahead at the same distance stands for it.
+    // The position of a point in the picture is its x and y, divided by its depth in perspective. A point behind the
+    // eye has no such position; a point straight ahead at the same distance replaces it.
     double depth = 1.0;
     double placeX = 0.0;
     double placeY = 0.0;
@@ -131,7 +131,7 @@ bool CameraDrag::shiftTo(float dx, float dy)
     const auto seen = [](float sideways, float backwards, double place) {
         return static_cast<double>(sideways) + place * static_cast<double>(backwards);
     };
-    // With a and b the steps to the right and up, the point comes to its new place where
+    // With a and b the steps to the right and up, the point moves to its new position where
     //     a rightX + b upX = -shiftX depth,    a rightY + b upY = -shiftY depth.
     const double rightX = seen(right.x, right.z, placeX);
     const double upX = seen(up.x, up.z, placeX);
@@ -151,8 +151,8 @@ bool CameraDrag::zoomTo(float dy)
     if (!isZoomFactor(factor)) {
         return false;
     }
-    // The camera refuses to magnify a view that is very small already. Asked from the view at the beginning, its answer
-    // does not depend on the places that the pointer has come by.
+    // The camera refuses to magnify a view that is already very small. The request starts from the initial view, so the
+    // answer does not depend on the earlier positions of the pointer.
     discard();
     m_camera->setAdditionalScale(m_start.x / m_areaWidth, m_start.y / m_areaHeight, factor);
     m_hasMoved = true;

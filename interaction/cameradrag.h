@@ -13,37 +13,37 @@ class ICameraTransforms;
 
 namespace vxinteraction {
 
-/// A place in a render area, in pixels from its lower left corner. The middle of the first pixel is (0.5, 0.5).
+/// A position in a render area, in pixels from its lower left corner. The middle of the first pixel is (0.5, 0.5).
 struct AreaPoint {
     float x = 0.0f;
     float y = 0.0f;
 };
 
-/// What one drag of the pointer does to a camera.
+/// The effect of one drag of the pointer on a camera.
 ///
-/// Everything that a drag depends on is taken when it begins: the view, the size of the render area, the speeds. Each
-/// place of the pointer then gives one additional transformation, counted from the beginning, so the view depends on
-/// where the pointer is and not on how many events brought it there.
+/// Everything that a drag depends on is read when it begins: the view, the size of the render area, the speeds. Each
+/// position of the pointer then gives one additional transformation relative to the beginning, so the view depends on
+/// the position of the pointer and not on the number of events.
 class VX_API CameraDrag {
 public:
     using Action = vxgraphics3d::Canvas3dGlobalSettings::CameraMouseAction;
 
-    /// @param camera the camera to drive; the drag keeps it alive
+    /// @param camera the camera to control; the drag keeps it alive
     /// @param transforms the same camera
-    /// @param start where the pointer is
+    /// @param start the position of the pointer
     CameraDrag(boost::shared_ptr<vxgraphics3d::ICameraActions> camera,
                const vxgraphics3d::ICameraTransforms& transforms, Action action, const AreaPoint& start);
 
     Action getAction() const { return m_action; }
 
-    /// Takes the pointer to a place, in pixels to the right of its start and above it. Nothing happens if the settings
-    /// of the process or the view make a transformation that is not finite.
-    /// @return whether the camera was driven
+    /// Moves the pointer to a position in pixels to the right of its start and above it. Nothing happens if the
+    /// settings of the process or the view give a transformation that is not finite.
+    /// @return whether the camera was changed
     bool moveTo(float dx, float dy);
-    /// Keeps what is displayed. A drag that never moved leaves the camera untouched.
+    /// Keeps the displayed view. A drag that never moved leaves the camera unchanged.
     void merge();
-    /// Falls back to the view at the beginning.
-    /// @return whether there was anything to fall back from
+    /// Restores the view at the beginning.
+    /// @return whether there was anything to discard
     bool discard();
 
 private:
@@ -67,12 +67,12 @@ private:
     float m_zoomSpeed;
 
     bool m_isPerspective = false;
-    /// What a pixel covers: in perspective at distance 1 from the eye, in orthographic projection anywhere.
+    /// The extent of a pixel: in perspective at distance 1 from the eye, in orthographic projection at any distance.
     float m_pixelWidth = 0.0f;
     float m_pixelHeight = 0.0f;
-    /// The rotation point as the eye sees it.
+    /// The rotation point in the coordinates of the eye.
     vxgraphics3d::Vector3f m_rotationPoint;
-    /// The place that a roll leaves where it is.
+    /// The fixed point of a roll.
     AreaPoint m_rollCentre;
 };
 

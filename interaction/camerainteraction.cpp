@@ -18,7 +18,7 @@ using vxgraphics3d::ICameraActions;
 
 namespace {
 
-/// A notch of the wheel zooms as a drag over so many pixels does.
+/// A notch of the wheel zooms as a drag over this number of pixels does.
 constexpr double c_pixelsPerNotch = 50.0;
 /// The smallest side of a rectangle to zoom to.
 constexpr float c_smallestSide = 2.0f;
@@ -42,13 +42,13 @@ bool contains(const ICameraActions& camera, const AreaPoint& point)
            point.y < toFloat(camera.getRenderAreaHeight());
 }
 
-/// Whether a camera of a 2D view knows an action.
+/// Whether a camera of a 2D view supports an action.
 bool isPlanar(CameraInteraction::Action action)
 {
     return action == Canvas3dGlobalSettings::ActionPan || action == Canvas3dGlobalSettings::ActionZoom;
 }
 
-/// The part of one side of a render area that lies between two places, as fractions of the side.
+/// The part of one side of a render area between two positions, as fractions of the side.
 struct Span {
     float middle;
     float size;
@@ -64,7 +64,7 @@ struct Span {
         isWideEnough = high - low >= c_smallestSide;
     }
 
-    /// The place that has to stay while the view is scaled, so that the middle comes to the middle of the side.
+    /// The position that must stay fixed while the view is scaled, so that the middle moves to the middle of the side.
     float fixedPlace(float scale) const { return 0.5f + (0.5f - middle) / (scale * (1.0f - 1.0f / scale)); }
 };
 

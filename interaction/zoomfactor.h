@@ -4,8 +4,8 @@
 
 namespace vxinteraction {
 
-/// What a zoom multiplies the view with: twice for every step of `speed` pixels, below 1 for pixels below 0.
-/// @return 0, infinity or no number where such a zoom does not exist
+/// The scale factor of a zoom: 2 for every step of `speed` pixels, below 1 for pixels below 0.
+/// @return 0, infinity or NaN if there is no such zoom
 inline float zoomFactor(float pixels, float speed)
 {
     return static_cast<float>(std::exp2(static_cast<double>(pixels) / static_cast<double>(speed)));

@@ -15,7 +15,7 @@ using namespace vxgraphics3d;
 
 namespace {
 
-/// Java 0 is the polar and 1 the one-dimensional mode; anything else is the ordinary one.
+/// Java 0 is the polar and 1 the one-dimensional mode; anything else is the plane mode.
 constexpr ConversionTable<2> c_useModes{
     {{{Camera2d::ModePolar, 0}, {Camera2d::ModeOneDimensional, 1}}}, Camera2d::ModeOrdinary, 2};
 

@@ -13,11 +13,11 @@ using namespace vxgraphics3d;
 
 namespace {
 
-/// To Java everything is perspective, 0, but the orthographic projection.
+/// For Java every projection is perspective, 0, except the orthographic one.
 constexpr ConversionTable<1> c_projectionTypes{
     {{{Camera3d::ProjectionOrthographic, 1}}}, Camera3d::ProjectionPerspective, 0};
 
-/// The direction that the camera was placed with, whatever is uncommitted.
+/// The committed direction, without uncommitted changes.
 Vector3f committedDirection(const Camera3d& camera)
 {
     return camera.getForward() * camera.getLookAtLength();

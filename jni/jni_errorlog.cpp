@@ -18,7 +18,7 @@ VX_NATIVE(void, ErrorLog, nFlushAfterEachMessage)(JNIEnv* env, jclass, jboolean 
 VX_NATIVE(void, ErrorLog, nSetReportLevel)(JNIEnv* env, jclass, jint level)
 {
     native(env, "nSetReportLevel", [&] {
-        // Every number that is no level silences the log.
+        // Any number that is not a level silences the log.
         const bool isLevel =
             level >= static_cast<int>(ErrorLog::Level::error) && level <= static_cast<int>(ErrorLog::Level::debug);
         ErrorLog::getInstance()->setReportLevel(isLevel ? static_cast<ErrorLog::Level>(level) : ErrorLog::Level::none);

@@ -16,7 +16,7 @@ using namespace vxgraphics3d;
 
 namespace {
 
-/// The kinds of item that Java can switch on and off.
+/// The kinds of items that Java can switch on and off.
 constexpr unsigned c_javaRenderMask = 0x021fffff;
 
 /// A number from 0 to the last one; anything else is reported and becomes 0.
@@ -210,7 +210,7 @@ VX_NATIVE(void, Canvas3dSettings, setAxisOrientationIndicator)
     native(env, "setAxisOrientationIndicator", [&] {
         using Indicator = AxisOrientationIndicator;
         Indicator& indicator = *peer<Canvas3dSettings>(env, self).getAxisOrientationIndicatorPtr();
-        // All labels are taken before anything changes: one of them may be refused.
+        // All labels are read before anything changes, because one of them may be refused.
         const std::string labels[] = {fromJava<std::string>(env, labelX), fromJava<std::string>(env, labelY),
                                       fromJava<std::string>(env, labelZ)};
         const jint colors[] = {colorX, colorY, colorZ};

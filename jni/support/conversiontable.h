@@ -5,13 +5,13 @@
 
 namespace vxgraphics3d {
 
-/// A pair of numbers that stand for the same thing on the two sides of the boundary.
+/// A pair of numbers with the same meaning on the two sides of the boundary.
 struct NumberPair {
     int cpp;
     int java;
 };
 
-/// Numbers of an enumeration on both sides of the boundary, with what anything else becomes.
+/// Numbers of an enumeration on both sides of the boundary, with a fallback for anything else.
 template <std::size_t count>
 struct ConversionTable {
     std::array<NumberPair, count> pairs;

@@ -14,8 +14,8 @@
 
 namespace vxgraphics3d {
 
-// The numbers by which Java knows the enumerations of the library. Java numbers that stand for nothing become the
-// fallback of their table without a word.
+// The Java numbers of the library's enumerations. Java numbers without a meaning silently become the fallback of their
+// table.
 
 /// Groups 1, objects 2, plot groups 3; the root and anything else 0.
 int cppSceneGraphNodeTypeToJava(SceneGraphNode::NodeType type);
@@ -40,7 +40,7 @@ int cppRenderModeToJava(Canvas3dSettings::RenderMode mode);
 Canvas3dSettings::RenderMode javaRenderModeToCpp(int mode);
 /// Java 1 is plain text, Java 2 is markup; anything else is plain text.
 TextFormat javaTextFormatToCpp(int format);
-/// The kinds of plots that Java tells apart: surface 2, arrows 3, edges 4, iso surfaces 5, slices 6, tubes 7 and
+/// The kinds of plots that Java distinguishes: surface 2, arrows 3, edges 4, iso surfaces 5, slices 6, tubes 7 and
 /// spheres 10, all in 3D, and the surface in 2D 8; any other -1.
 int cppPlotTypeToJava(SceneGraphPlot::PlotType type);
 
@@ -49,11 +49,11 @@ int cppAntialiasingTypeToJava(int type);
 
 /// The low three bits.
 int javaMouseKeyMaskToCpp(int mask);
-/// Java 0 and 10 are no action, which is 10, and so is anything else. Java counts the other actions in another order,
-/// in which orbiting has no number: 1 orbit roll, 2 turn, 3 roll, 4 and 6 move and dolly the scene, 5 and 7 the camera,
-/// 8 pan, 9 zoom.
+/// Java 0 and 10 mean no action, which is 10, as does anything else. Java numbers the other actions in another order,
+/// which has no number for orbiting: 1 orbit roll, 2 turn, 3 roll, 4 and 6 move and dolly the scene, 5 and 7 the
+/// camera, 8 pan, 9 zoom.
 Canvas3dGlobalSettings::CameraMouseAction javaCameraMouseActionToCpp(int action);
-/// Java reads the number that native code has, which is not the one that it sets.
+/// Java reads the native number, which differs from the one that it sets.
 VX_API int cppCameraMouseActionToJava(Canvas3dGlobalSettings::CameraMouseAction action);
 /// 0 to 7 are the same on both sides; anything else 0.
 VX_API int cppPostMouseActionToJava(MouseActionHandler::PostMouseActions actions);
@@ -61,7 +61,7 @@ VX_API int cppPostMouseActionToJava(MouseActionHandler::PostMouseActions actions
 /// 0 to 2 are the same on both sides; anything else 0.
 int cppRenderQualityToJava(RenderQuality quality);
 RenderQuality javaRenderQualityToCpp(int quality);
-/// Java has 2 and 3 exchanged: 2 fits and 3 fills; anything that is not 0 to 5 becomes 0.
+/// Java has 2 and 3 exchanged: 2 fits and 3 fills; anything other than 0 to 5 becomes 0.
 int cppResizeBehaviourToJava(Canvas3dGlobalSettings::ResizeBehaviour behaviour);
 Canvas3dGlobalSettings::ResizeBehaviour javaResizeBehaviourToCpp(int behaviour);
 /// 0 and 1 are the same on both sides; anything else 0.

@@ -24,8 +24,8 @@ using vxbase::toJava;
 using vxbase::toJavaNew;
 using vxbase::trueFalse;
 
-/// The entry line of a native: written when it is made, so before anything of the native can fail, and the place that
-/// a failure is reported with. Made from a text, or from a text and its arguments in braces.
+/// The entry line of a native, which is logged on construction, before anything in the native can fail, and the source
+/// location for reporting failures. Made from a text, or from a text and its arguments in braces.
 class NativeEntry {
 public:
     template <class... Args>
@@ -43,19 +43,19 @@ private:
     int m_line;
 };
 
-/// A message on a number from Java that stands for nothing and is tolerated.
+/// A message about a number from Java that has no meaning and is tolerated.
 inline void logNativeError(vxbase::LogText<> text)
 {
     detail::logLine<ErrorLog::Level::error, c_nativeLogSubId>(text);
 }
 
-/// A message on an oddity in a call from Java.
+/// A message about an unusual call from Java.
 inline void logNativeWarning(vxbase::LogText<> text)
 {
     detail::logLine<ErrorLog::Level::warning, c_nativeLogSubId>(text);
 }
 
-/// The frame of every native: logs the entry, runs the body, and turns whatever it throws into a Java exception.
+/// The frame of every native: logs the entry, runs the body, and turns any exception into a Java exception.
 /// @return what the body returns, or the zero of that type if it threw
 template <class Operation>
 auto native(JNIEnv* env, const NativeEntry& entry, Operation&& operation)

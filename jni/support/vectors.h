@@ -9,7 +9,7 @@ namespace vxgraphics3d {
 
 /// Writes the components of a vector to the first three elements of a Java array.
 /// @return 1
-/// @throws std::out_of_range if the array is shorter; it then stays as it is
+/// @throws std::out_of_range if the array is shorter; it is then unchanged
 inline jint fillArray(JNIEnv* env, jfloatArray out, const Vector3f& vector)
 {
     vxbase::jfloatArrayRH::atLeast(env, out, 3);

@@ -52,7 +52,7 @@ TEST(SerialStream, writesTheSameBytesOnEveryMachine)
                                        17));
 }
 
-TEST(SerialStream, aReadOfAnotherTypeThrowsAndTakesNothing)
+TEST(SerialStream, readingAnotherTypeThrowsAndConsumesNothing)
 {
     OSerialStream out;
     out << 3 << true;
@@ -73,7 +73,7 @@ TEST(SerialStream, anUnsignedNumberIsReadAsIntOnlyIfItFits)
     EXPECT_THROW(in.readInt(), std::out_of_range);
 }
 
-TEST(SerialStream, dataCutOffAnywhereThrow)
+TEST(SerialStream, truncatedDataThrow)
 {
     OSerialStream out(OSerialStream::Comments::written);
     out.comment("version");
@@ -86,7 +86,7 @@ TEST(SerialStream, dataCutOffAnywhereThrow)
     EXPECT_EQ(reader(all).readInt(), 5);
 }
 
-TEST(SerialStream, commentsChangeNothingForTheReader)
+TEST(SerialStream, readersIgnoreComments)
 {
     OSerialStream plain;
     OSerialStream commented(OSerialStream::Comments::written);
@@ -109,7 +109,7 @@ TEST(SerialStream, commentsChangeNothingForTheReader)
     }
 }
 
-TEST(SerialStream, requireNumbersRefusesCountsThatTheRestCannotHold)
+TEST(SerialStream, requireNumbersRefusesCountsBeyondTheRemainingBytes)
 {
     OSerialStream out;
     out << 1 << 2.0f << 3.0f;
@@ -130,7 +130,7 @@ public:
     int m_value = 0;
 };
 
-TEST(Serializable, knowsItsTypeByNameAndTravelsThroughAStream)
+TEST(Serializable, checksItsTypeByNameAndSurvivesARoundTrip)
 {
     Sample sample;
     sample.m_value = 42;
@@ -145,7 +145,7 @@ TEST(Serializable, knowsItsTypeByNameAndTravelsThroughAStream)
     EXPECT_FALSE(copy.isOfType("sample"));
 }
 
-TEST(Numeric, tellsFiniteValuesFromTheRest)
+TEST(Numeric, distinguishesFiniteFromOtherValues)
 {
     EXPECT_TRUE(vxIsNaNorInf(vxGetInf()));
     EXPECT_TRUE(vxIsNaNorInf(-vxGetInf()));

@@ -19,7 +19,7 @@ TEST(UString, defaultAndNullAreEmpty)
     EXPECT_TRUE(UString("").empty());
 }
 
-TEST(UString, utf8ComesInAndGoesOutUnchanged)
+TEST(UString, utf8SurvivesARoundTrip)
 {
     struct Case {
         std::string utf8;
@@ -59,7 +59,7 @@ TEST(UString, eachIllFormedPartBecomesOneReplacementCharacter)
     }
 }
 
-TEST(UString, loneSurrogatesStayInsideAndLeaveAsReplacement)
+TEST(UString, unpairedSurrogatesAreKeptAndBecomeReplacementsInUtf8)
 {
     const char16_t lone[] = {0xD83D, u'a', 0xDE00, 0xDC00, 0xD800, 0xD83D};
     UString text(lone, 6);
@@ -81,7 +81,7 @@ TEST(UString, appendWritesOneOrTwoUnits)
     EXPECT_EQ(units(text), std::u16string(expected, 10));
 }
 
-TEST(UString, nextGivesWholeCharactersAndZeroAtTheEnd)
+TEST(UString, nextReturnsWholeCharactersAndZeroAtTheEnd)
 {
     const UString text("a\xF0\x9F\x98\x80z");
     UString::const_iterator it(text);

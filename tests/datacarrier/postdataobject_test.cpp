@@ -45,7 +45,7 @@ TEST(PostDataObject, aNewRecordFillsNoRole)
     }
 }
 
-TEST(PostDataObject, limitsOfARoleGoOverAllGroups)
+TEST(PostDataObject, limitsOfARoleCoverAllGroups)
 {
     const PostDataObject record = twoGroups();
     EXPECT_EQ(record.getDataMin(PostDataObject::ColorData), -3);
@@ -54,7 +54,7 @@ TEST(PostDataObject, limitsOfARoleGoOverAllGroups)
     EXPECT_EQ(record.getDataMax(PostDataObject::IsoLevelData), 6);
 }
 
-TEST(PostDataView, handsOutWhatARecordHolds)
+TEST(PostDataView, returnsTheContentsOfARecord)
 {
     const PostDataObject record = twoGroups();
     const PostDataView view(record, "Plot");
@@ -75,7 +75,7 @@ TEST(PostDataView, handsOutWhatARecordHolds)
     EXPECT_EQ(view.bounds(2)[1][1], 2);
 }
 
-TEST(PostDataView, namesThePlotAndWhatIsWrong)
+TEST(PostDataView, messagesNameThePlotAndTheFault)
 {
     struct Case {
         std::function<void(PostDataObject&)> spoil;

@@ -41,7 +41,7 @@ void expectFollows(TestView& view, Action action, const Vector3f& point)
     EXPECT_FALSE(interaction.isDragging());
 }
 
-TEST(CameraInteraction, panTakesThePictureWithThePointer)
+TEST(CameraInteraction, panMovesThePictureWithThePointer)
 {
     forRandomViews({Perspective, Orthographic, Planar}, [](TestView& view) {
         const Vector3f point = view.camera().getRotationPoint() + view.vector(1.0f);
@@ -49,7 +49,7 @@ TEST(CameraInteraction, panTakesThePictureWithThePointer)
     });
 }
 
-TEST(CameraInteraction, movesTakeTheRotationPointWithThePointer)
+TEST(CameraInteraction, movesKeepTheRotationPointUnderThePointer)
 {
     forRandomViews({Perspective, Orthographic}, [](TestView& view) {
         const Vector3f point = view.camera().getRotationPoint();
@@ -60,7 +60,7 @@ TEST(CameraInteraction, movesTakeTheRotationPointWithThePointer)
     });
 }
 
-TEST(CameraInteraction, zoomHoldsThePlaceOfThePress)
+TEST(CameraInteraction, zoomKeepsThePositionOfThePressFixed)
 {
     forRandomViews({Perspective, Orthographic, Planar}, [](TestView& view) {
         if (!canZoom(view)) {
@@ -112,7 +112,7 @@ TEST(CameraInteraction, wheelZoomsAboutThePointerAndBack)
     });
 }
 
-TEST(CameraInteraction, orbitTurnsTheNearSideWithThePointer)
+TEST(CameraInteraction, orbitMovesTheNearSideWithThePointer)
 {
     const ProcessDefaults defaults;
     for (const Kind kind : {Perspective, Orthographic}) {
@@ -136,7 +136,7 @@ TEST(CameraInteraction, orbitTurnsTheNearSideWithThePointer)
     }
 }
 
-TEST(CameraInteraction, rollsTurnThePictureByTheAngleOfThePointer)
+TEST(CameraInteraction, rollsRotateThePictureByTheAngleOfThePointer)
 {
     const ProcessDefaults defaults;
     for (const Kind kind : {Perspective, Orthographic}) {
@@ -165,7 +165,7 @@ TEST(CameraInteraction, rollsTurnThePictureByTheAngleOfThePointer)
     }
 }
 
-TEST(CameraInteraction, orbitRollKeepsARotationPointBesideTheLineOfSight)
+TEST(CameraInteraction, orbitRollKeepsARotationPointOffTheLineOfSight)
 {
     forRandomViews({Perspective, Orthographic}, [](TestView& view) {
         CameraInteraction interaction = view.interaction(Action::ActionOrbitRoll);
@@ -178,7 +178,7 @@ TEST(CameraInteraction, orbitRollKeepsARotationPointBesideTheLineOfSight)
     });
 }
 
-TEST(CameraInteraction, turnTakesWhatLiesAheadWithThePointer)
+TEST(CameraInteraction, turnKeepsThePointAheadUnderThePointer)
 {
     forRandomViews({Perspective}, [](TestView& view) {
         Camera3d& camera = view.camera3d();
@@ -225,7 +225,7 @@ TEST(CameraInteraction, dolliesMoveForwardsByTheSizeOfTheScene)
     EXPECT_NEAR(camera.getPosition().z, 10.0f + step, 1e-5f);
 }
 
-TEST(CameraInteraction, movesAlsoWithTheRotationPointBehindTheEye)
+TEST(CameraInteraction, movesEvenWithTheRotationPointBehindTheEye)
 {
     const ProcessDefaults defaults;
     for (const Action action : {Action::ActionMove, Action::ActionSceneMove}) {
@@ -239,7 +239,7 @@ TEST(CameraInteraction, movesAlsoWithTheRotationPointBehindTheEye)
     }
 }
 
-TEST(CameraInteraction, manyEventsGiveTheBitsOfOneAndCancelThoseBeforeIt)
+TEST(CameraInteraction, manyEventsEqualOneExactlyAndCancelRestoresThePicture)
 {
     forRandomViews({Perspective, Orthographic, Planar}, [](TestView& view) {
         const auto before = view.picture();
@@ -271,7 +271,7 @@ TEST(CameraInteraction, manyEventsGiveTheBitsOfOneAndCancelThoseBeforeIt)
     });
 }
 
-TEST(CameraInteraction, theWayOfThePointerCountsForNothingAtTheLimitOfMagnification)
+TEST(CameraInteraction, thePathOfThePointerHasNoEffectAtTheLimitOfMagnification)
 {
     const ProcessDefaults defaults;
     TestView flat;
@@ -292,7 +292,7 @@ TEST(CameraInteraction, theWayOfThePointerCountsForNothingAtTheLimitOfMagnificat
     }
 }
 
-TEST(CameraInteraction, theTableOfActionsDecidesWithButtonAndKeys)
+TEST(CameraInteraction, theTableOfActionsSelectsByButtonAndKeys)
 {
     const ProcessDefaults defaults;
     constexpr int shift = CameraInteraction::KeyShift;
@@ -342,7 +342,7 @@ TEST(CameraInteraction, aClickCountsNoChange)
     EXPECT_EQ(view.camera3d().getChangeId(), changes);
 }
 
-TEST(CameraInteraction, onlyTheRenderAreaTakesThePointer)
+TEST(CameraInteraction, onlyTheRenderAreaAcceptsThePointer)
 {
     const ProcessDefaults defaults;
     TestView view = frontView(Perspective);
@@ -407,7 +407,7 @@ TEST(CameraInteraction, aDragStaysWithItsCameraAndItsPress)
     EXPECT_EQ(view.camera2d().getActualMinX(), 0.0f);
 }
 
-TEST(CameraInteraction, whatIsNotFiniteNeverReachesTheCamera)
+TEST(CameraInteraction, nonFiniteValuesNeverReachTheCamera)
 {
     const ProcessDefaults defaults;
     TestView view = frontView(Perspective);
@@ -435,7 +435,7 @@ TEST(CameraInteraction, whatIsNotFiniteNeverReachesTheCamera)
     EXPECT_EQ(view.picture(), before);
 }
 
-TEST(CameraInteraction, zoomToRectangleShowsTheWholeOfItInTheMiddle)
+TEST(CameraInteraction, zoomToRectangleShowsAllOfItInTheMiddle)
 {
     forRandomViews({Perspective, Orthographic, Planar}, [](TestView& view) {
         if (!canZoom(view)) {
@@ -460,7 +460,7 @@ TEST(CameraInteraction, zoomToRectangleShowsTheWholeOfItInTheMiddle)
     });
 }
 
-TEST(CameraInteraction, zoomToRectangleTakesOnlyWhatLiesInTheRenderArea)
+TEST(CameraInteraction, zoomToRectangleUsesOnlyThePartInTheRenderArea)
 {
     forRandomViews({Perspective, Orthographic, Planar}, [](TestView& view) {
         CameraInteraction interaction = view.interaction();
@@ -477,7 +477,7 @@ TEST(CameraInteraction, zoomToRectangleTakesOnlyWhatLiesInTheRenderArea)
     });
 }
 
-TEST(CameraInteraction, leavesTheCameraAloneWhenItIsDestroyed)
+TEST(CameraInteraction, leavesTheCameraUnchangedWhenDestroyed)
 {
     const ProcessDefaults defaults;
     TestView view = frontView(Perspective);

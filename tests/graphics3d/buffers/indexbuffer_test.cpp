@@ -47,7 +47,7 @@ protected:
 };
 INSTANTIATE_TEST_SUITE_P(Widths, IndexBufferWidths, testing::Values(c_narrow, c_wide));
 
-TEST(IndexBuffer, countsOfIndicesFollowTheType)
+TEST(IndexBuffer, indexCountsDependOnTheType)
 {
     const int perElem[] = {2, 1, 3, 4, 0};
     const int perSegment[] = {0, 1, 0, 0, 0};
@@ -72,7 +72,7 @@ TEST_P(IndexBufferWidths, onlyTheArrayOfTheVertexBuffersWidthExists)
     EXPECT_EQ(buffer.getIndices16() != nullptr, GetParam() == c_narrow);
 }
 
-TEST_F(IndexBufferTest, theWidthIsChosenAnewAtEachAllocation)
+TEST_F(IndexBufferTest, eachAllocationChoosesTheWidthAgain)
 {
     IndexBufferLines buffer(vertices);
     vertices.allocate(c_wide);
@@ -155,7 +155,7 @@ TEST_P(IndexBufferWidths, linesAreReadAcrossSegments)
     EXPECT_EQ(buffer.getSegmentStarts(), (Ints{0, 2, 8}));
 }
 
-TEST_F(IndexBufferTest, bulkAppendsRefuseWhatHasNoRoom)
+TEST_F(IndexBufferTest, bulkAppendsBeyondTheCapacityAreRefused)
 {
     const int four[] = {1, 2, 3, 4};
     IndexBufferTriangles triangles(vertices);
@@ -173,7 +173,7 @@ TEST_F(IndexBufferTest, bulkAppendsRefuseWhatHasNoRoom)
     EXPECT_THROW(lines.appendLines(four, four, 2), std::out_of_range);
 }
 
-TEST_P(IndexBufferWidths, importTakesWhatWasAppendedNotWhatWasAllocated)
+TEST_P(IndexBufferWidths, importCopiesOnlyTheAppendedElements)
 {
     IndexBufferLineStrips source(vertices);
     source.internalAllocate(7, 3);
@@ -233,7 +233,7 @@ TEST_F(IndexBufferTest, importRefusesOtherTypesAndWidths)
     EXPECT_EQ(wide.getNumElements(), 2);
 }
 
-TEST_F(IndexBufferTest, deallocateForgetsAllAndAllowsANewStart)
+TEST_F(IndexBufferTest, deallocateDropsEverythingAndAllowsReuse)
 {
     IndexBufferLines buffer(vertices);
     buffer.internalAllocate(1, 1);
@@ -247,7 +247,7 @@ TEST_F(IndexBufferTest, deallocateForgetsAllAndAllowsANewStart)
     EXPECT_EQ(buffer.getSegmentStarts(), Ints{0});
 }
 
-TEST_F(IndexBufferTest, moreIndicesThanAnIntCountsAreRefusedBeforeAnyChange)
+TEST_F(IndexBufferTest, indexCountsBeyondAnIntAreRefusedBeforeAnyChange)
 {
     IndexBufferTriangles buffer(vertices);
     buffer.internalAllocate(1, 1);

@@ -39,7 +39,7 @@ std::vector<float> floatsOfRecord(const VertexBuffer& buffer, int index)
     return values;
 }
 
-TEST(VertexBuffer, appendsWriteTheRecordThatTheLayoutTells)
+TEST(VertexBuffer, appendsWriteTheRecordThatTheLayoutSpecifies)
 {
     const Vector3f p(1.0f, 2.0f, 3.0f);
     const Vector3f n(4.0f, 5.0f, 6.0f);
@@ -114,7 +114,7 @@ TEST(VertexBufferColor, storesLowBytesAndATruncatedAlpha)
     EXPECT_EQ(buffer.getCoord(3), Vector3f(7.0f, 8.0f, 9.0f));
 }
 
-TEST(VertexBuffer, allocateTellsNoneZeroAndSomeApart)
+TEST(VertexBuffer, allocateDistinguishesNegativeZeroAndPositiveCounts)
 {
     VertexBufferCoords buffer;
     EXPECT_EQ(buffer.getCapacity(), -1);
@@ -143,7 +143,7 @@ class VertexBufferBlocks : public testing::Test {};
 using BlockBuffers = testing::Types<VertexBufferCoords, VertexBufferNormal>;
 TYPED_TEST_SUITE(VertexBufferBlocks, BlockBuffers);
 
-TYPED_TEST(VertexBufferBlocks, appendVerticesFillsTheRoomAndRefusesMore)
+TYPED_TEST(VertexBufferBlocks, appendVerticesFillsTheCapacityAndRefusesMore)
 {
     CapturedLog log(ErrorLog::Level::error);
     typename TypeParam::Vertex two[2] = {};
@@ -163,7 +163,7 @@ TYPED_TEST(VertexBufferBlocks, appendVerticesFillsTheRoomAndRefusesMore)
     EXPECT_EQ(log.messages(), std::vector<std::string>(3, "Appended to many vertices."));
 }
 
-TEST(VertexBuffer, appendUnwrittenHandsOutTheNextRecords)
+TEST(VertexBuffer, appendUnwrittenReturnsTheNextRecords)
 {
     VertexBufferTex buffer;
     buffer.allocate(3);
@@ -178,7 +178,7 @@ TEST(VertexBuffer, appendUnwrittenHandsOutTheNextRecords)
     EXPECT_EQ(buffer.getNumberOfVertices(), 3);
 }
 
-TEST(VertexBufferTexModifiable, importTakesPositionsOfAnyLayoutEachTimeAnew)
+TEST(VertexBufferTexModifiable, importReplacesTheRecordsByPositionsOfAnyLayout)
 {
     VertexBufferNormal source;
     source.allocate(4);

@@ -48,7 +48,7 @@ TEST(AxisOrientationIndicator, startsHiddenInRedGreenAndBlue)
     EXPECT_EQ(indicator.getColor(Indicator::AxisY), (Color{0, 255, 0, 255}));
 }
 
-TEST(AxisOrientationIndicator, everySetterCountsAlsoForThePresentValue)
+TEST(AxisOrientationIndicator, everySetterCountsEvenForTheCurrentValue)
 {
     Indicator indicator;
     indicator.show(false);
@@ -60,7 +60,7 @@ TEST(AxisOrientationIndicator, everySetterCountsAlsoForThePresentValue)
     expectSameSettings(indicator, Indicator());
 }
 
-TEST(AxisOrientationIndicator, importTakesAllSettingsAndCountsOnce)
+TEST(AxisOrientationIndicator, importCopiesAllSettingsAndCountsOnce)
 {
     const Indicator source = changedIndicator();
     Indicator target;
@@ -83,7 +83,7 @@ TEST(AxisOrientationIndicator, aCopyStartsItsOwnCount)
     expectSameSettings(copy, source);
 }
 
-TEST(AxisOrientationIndicator, refusesAnAxisThatIsNone)
+TEST(AxisOrientationIndicator, refusesInvalidAxes)
 {
     Indicator indicator;
     const auto none = static_cast<Indicator::Axis>(3);

@@ -157,7 +157,7 @@ TEST(Camera2d, aNewAreaAdaptsTheLimitsByTheBehaviour)
     }
 }
 
-TEST(Camera2d, passingTheSquareGoesThroughIt)
+TEST(Camera2d, changesBetweenWideAndTallAreasPassThroughTheSquare)
 {
     // From 200 by 100 to 100 by 400: behaviour 2 first shrinks the width to that of the square, 3 grows the height.
     struct Case {
@@ -178,7 +178,7 @@ TEST(Camera2d, passingTheSquareGoesThroughIt)
     }
 }
 
-TEST(Camera2d, theTwoCamerasReadBehaviours2And3TheOtherWayRound)
+TEST(Camera2d, theTwoCamerasSwapTheMeaningOfBehaviours2And3)
 {
     for (const int behaviour : {2, 3}) {
         Camera3d three;
@@ -206,7 +206,7 @@ TEST(Camera2d, theAreaIsNeverSmallerThanAPixelNorItsOriginBeyondTheCanvas)
     EXPECT_EQ(camera.screenToWorld(51, 40, 0.0f), Vector3f(1.0f, 0.0f, 0.0f));
 }
 
-TEST(Camera2d, setViewLimitsDecidesByWhichRangesAreGiven)
+TEST(Camera2d, setViewLimitsDependsOnWhichRangesAreEmpty)
 {
     struct Case {
         Limits limits;
@@ -263,7 +263,7 @@ TEST(Camera2d, theWholeRequestedRectangleIsVisible)
     });
 }
 
-TEST(Camera2d, limitsOfOneAxisLetTheOtherFollowOrStay)
+TEST(Camera2d, theOtherAxisFollowsTheLimitsOfOneAxisOrStays)
 {
     Camera2d camera = cameraOf(200, 100, 5);
     camera.setViewLimits(0.0f, 4.0f, 0.0f, 2.0f);
@@ -332,7 +332,7 @@ TEST(Camera2d, theOneDimensionalModeAlwaysShowsMinusOneToOneInY)
     EXPECT_EQ(camera.getActualMaxX(), 6.0f);
 }
 
-TEST(Camera2d, zoomHoldsItsPoint)
+TEST(Camera2d, zoomKeepsItsCentreFixed)
 {
     forRandomViews([](Camera2d& camera, RandomViews& random) {
         const float cx = random.uniform(0.0f, 1.0f);
@@ -353,7 +353,7 @@ TEST(Camera2d, zoomHoldsItsPoint)
     });
 }
 
-TEST(Camera2d, theRatioIsPreservedByTheLargerFactor)
+TEST(Camera2d, theLargerFactorPreservesTheRatio)
 {
     Camera2d camera = cameraOf(100, 100, 5);
     camera.setViewLimits(0.0f, 4.0f, 0.0f, 4.0f);
@@ -386,7 +386,7 @@ TEST(Camera2d, mergingAZoomKeepsHalfTheRange)
     EXPECT_EQ(camera.getProjectionTransformRH().get(1, 1), 4.0f);
 }
 
-TEST(Camera2d, magnificationStopsWhereFloatsCannotTellTheEndsApart)
+TEST(Camera2d, magnificationStopsWhereFloatsCannotDistinguishTheEnds)
 {
     // A range of 2 at 1000 is 2 / 2002, just below 0.0011920929; one of 4 is above.
     Camera2d camera = cameraOf(100, 100, 3);
@@ -403,7 +403,7 @@ TEST(Camera2d, magnificationStopsWhereFloatsCannotTellTheEndsApart)
     EXPECT_EQ(displayed(camera), before);
 }
 
-TEST(Camera2d, turningAndMovingDoNothing)
+TEST(Camera2d, rotationsAndTranslationsDoNothing)
 {
     Camera2d camera = cameraOf(100, 100, 3);
     const std::vector<Matrixf> before = displayedMatrices(camera);
@@ -466,7 +466,7 @@ TEST(Camera2d, mergeAndDiscardKeepThePictureAndTheBase)
     });
 }
 
-TEST(Camera2d, aPixelGoesToTheWorldAndBack)
+TEST(Camera2d, pixelsSurviveARoundTripThroughTheWorld)
 {
     forRandomViews([](Camera2d& camera, RandomViews& random) {
         camera.setRenderArea(4000, 4000, random.integer(0, 99), random.integer(0, 99), random.integer(1, 2000),
@@ -490,7 +490,7 @@ TEST(Camera2d, aPixelGoesToTheWorldAndBack)
     });
 }
 
-TEST(Camera2d, jitterMovesByPartsOfPixelsUntilThePictureIsComputedAgain)
+TEST(Camera2d, jitterShiftsByFractionsOfPixelsUntilTheNextProjection)
 {
     Camera2d camera = cameraOf(200, 100, 3);
     camera.setViewLimits(0.0f, 4.0f, 0.0f, 2.0f);
@@ -576,7 +576,7 @@ TEST(Camera2d, theViewOfABoxIsFlat)
     EXPECT_FALSE(camera.getViewBoundingBox(BoundingBox()).isValid());
 }
 
-TEST(Camera2d, importTakesTheBaseAndKeepsTheArea)
+TEST(Camera2d, importCopiesTheBaseAndKeepsTheArea)
 {
     Camera2d source = cameraOf(200, 100, 3);
     source.setPreserveAspectRatio(false);

@@ -67,7 +67,7 @@ TEST(Camera3d, aNewCameraHasItsDefaultsAndIdentityViews)
     EXPECT_NEAR(camera.getActualHorizontalFOV(), 0.34906585f, 1e-7f);
 }
 
-TEST(Camera3d, lookAtMakesOrthonormalAxesAndRemembersTheLength)
+TEST(Camera3d, lookAtComputesOrthonormalAxesAndStoresTheLength)
 {
     Camera3d camera;
     camera.lookAt({1.0f, 2.0f, 3.0f}, {0.0f, 4.0f, 0.0f}, {0.0f, 5.0f, 2.0f});
@@ -83,7 +83,7 @@ TEST(Camera3d, lookAtMakesOrthonormalAxesAndRemembersTheLength)
     EXPECT_EQ(camera.getRight(), Vector3f(0.0f, -1.0f, 0.0f));
 }
 
-TEST(Camera3d, countsChangesAsTold)
+TEST(Camera3d, countsChangesAsDocumented)
 {
     struct Case {
         const char* name;
@@ -220,7 +220,7 @@ TEST(Camera3d, eachResizeBehaviourHasItsAngleOfView)
     }
 }
 
-TEST(Camera3d, theGlobalBehaviourHoldsUntilItIsOverridden)
+TEST(Camera3d, theGlobalBehaviourAppliesUntilItIsOverridden)
 {
     Camera3d camera;
     camera.setProjectionType(Camera3d::ProjectionOrthographic);
@@ -233,7 +233,7 @@ TEST(Camera3d, theGlobalBehaviourHoldsUntilItIsOverridden)
     EXPECT_EQ(camera.getNearHeight(), 4.0f);
 }
 
-TEST(Camera3d, valuesOfTheOtherProjectionLeaveThePictureAlone)
+TEST(Camera3d, valuesOfTheOtherProjectionDoNotChangeTheView)
 {
     Camera3d camera = frontCamera();
     const std::vector<Matrixf> before = displayedMatrices(camera);
@@ -271,7 +271,7 @@ TEST(Camera3d, changingTheProjectionKeepsTheSizeAtTheRotationPoint)
     });
 }
 
-TEST(Camera3d, aPixelGoesToTheWorldAndBack)
+TEST(Camera3d, pixelsSurviveARoundTripThroughTheWorld)
 {
     forRandomCameras([](Camera3d& camera, RandomCameras& random) {
         const int x = camera.getRenderAreaLeft() + random.integer(0, camera.getRenderAreaWidth());
@@ -292,7 +292,7 @@ TEST(Camera3d, aPixelGoesToTheWorldAndBack)
     });
 }
 
-TEST(Camera3d, aWorldPointGoesToTheScreenAsByTheFullMatrices)
+TEST(Camera3d, worldToScreenAgreesWithTheFullMatrices)
 {
     forRandomCameras([](Camera3d& camera, RandomCameras& random) {
         const Vector3f point = camera.getRotationPoint() + random.vector(2.0f);
@@ -404,7 +404,7 @@ TEST(Camera3d, theNearPlaneKeepsAThousandthOfTheRadius)
     EXPECT_EQ(camera.getFarClippingPlane(), 1.0f);
 }
 
-TEST(Camera3d, aSceneLargerThanFloatsLeavesThePlanes)
+TEST(Camera3d, aSceneBeyondTheRangeOfFloatsLeavesThePlanesUnchanged)
 {
     Camera3d camera = frontCamera();
     const float half = 1.6e38f;
@@ -439,7 +439,7 @@ TEST(Camera3d, axisScalesStretchTheSceneToACube)
     EXPECT_FALSE(camera.getViewBoundingBox(BoundingBox()).isValid());
 }
 
-TEST(Camera3d, depthOrderPutsTheFarthestAxisFirstAndEqualOnesStay)
+TEST(Camera3d, depthOrderPutsTheFarthestAxisFirstAndKeepsEqualOnes)
 {
     struct Case {
         Vector3f direction; ///< of the line of sight; an axis along it ends far away
@@ -512,7 +512,7 @@ TEST(Camera3d, moveToABoxOfOnePointLooksAtIt)
     }
 }
 
-TEST(Camera3d, moveToBoundingBoxFitsTheSphereWhereTheSettingsSaySo)
+TEST(Camera3d, moveToBoundingBoxFitsTheSphereIfTheSettingsSaySo)
 {
     Canvas3dGlobalSettings& settings = *Canvas3dGlobalSettings::getInstance();
     settings.setZoomToExtentBehaviour(Canvas3dGlobalSettings::ZoomToExtentSphere);
@@ -534,7 +534,7 @@ TEST(Camera3d, moveToBoundingBoxFitsTheSphereWhereTheSettingsSaySo)
     settings.setZoomToExtentBehaviour(Canvas3dGlobalSettings::ZoomToExtentTight);
 }
 
-TEST(Camera3d, pixelsGoThroughTheDeepestClippingRangeAndBack)
+TEST(Camera3d, pixelsSurviveARoundTripThroughTheDeepestClippingRange)
 {
     // The near plane keeps a thousandth of the radius, so with the eye on the sphere the far one is at 2000 times it.
     Camera3d camera;
@@ -549,7 +549,7 @@ TEST(Camera3d, pixelsGoThroughTheDeepestClippingRangeAndBack)
     }
 }
 
-TEST(Camera3d, degenerateInputGivesNumbersOrNotButNeverFails)
+TEST(Camera3d, degenerateInputNeverFails)
 {
     Camera3d camera = frontCamera();
     camera.setRenderArea(0, 0, 0, 0, 0, 0);

@@ -64,7 +64,7 @@ TEST(Camera3dDrag, aMergeChangesNoDisplayedMatrix)
     });
 }
 
-TEST(Camera3dDrag, discardReturnsToTheBitsOfTheBase)
+TEST(Camera3dDrag, discardRestoresTheBaseExactly)
 {
     forRandomCameras([](Camera3d& camera, RandomCameras&) {
         if (camera.getOwnResizeBehaviour() == Resize::ResizeKeep) {
@@ -93,7 +93,7 @@ TEST(Camera3dDrag, anOrbitKeepsTheRotationPointOnItsPixel)
     });
 }
 
-TEST(Camera3dDrag, orbitTurnsAboutTheAxesOfTheView)
+TEST(Camera3dDrag, orbitRotatesAboutTheAxesOfTheView)
 {
     const float quarter = 1.5707964f;
     struct Case {
@@ -118,7 +118,7 @@ TEST(Camera3dDrag, orbitTurnsAboutTheAxesOfTheView)
     }
 }
 
-TEST(Camera3dDrag, orbitByNothingTakesAnUncommittedMoveBack)
+TEST(Camera3dDrag, orbitByZeroRevertsAnUncommittedMove)
 {
     Camera3d camera = frontCamera();
     camera.setAdditionalTranslation(1.0f, 2.0f, 3.0f);
@@ -149,7 +149,7 @@ TEST(Camera3dDrag, dollyMovesAlongTheLineToTheRotationPoint)
     EXPECT_EQ(camera.getActualPosition(), camera.getPosition());
 }
 
-TEST(Camera3dDrag, zoomHoldsThePointThatItIsAbout)
+TEST(Camera3dDrag, zoomKeepsItsCentreFixed)
 {
     forRandomCameras([](Camera3d& camera, RandomCameras& random) {
         const float cx = random.uniform(0.1f, 0.9f);
@@ -185,7 +185,7 @@ TEST(Camera3dDrag, zoomToTheCentreHalvesTheViewAndLeavesNoOffset)
     }
 }
 
-TEST(Camera3dDrag, magnificationStopsWhereTheViewIsTinyAgainstTheClippingRange)
+TEST(Camera3dDrag, magnificationStopsWhereTheViewIsTinyRelativeToTheClippingRange)
 {
     // 8 - 4 times 1e-5 is 4e-5.
     for (const auto type : {Camera3d::ProjectionPerspective, Camera3d::ProjectionOrthographic}) {

@@ -27,7 +27,7 @@ protected:
 
 using CameraMathematics = WorkedCamera;
 
-TEST_F(CameraMathematics, viewMatrixHoldsTheAxesAsRows)
+TEST_F(CameraMathematics, viewMatrixContainsTheAxesAsRows)
 {
     EXPECT_EQ(camera.getViewTransform(), Matrixf(0.0f, 1.0f, 0.0f, -2.0f, //
                                                  0.0f, 0.0f, 1.0f, -3.0f, //
@@ -113,7 +113,7 @@ TEST_F(CameraMathematics, orthographicPixelsGiveWorldPointsBehindTheEye)
     EXPECT_EQ(camera.screenToWorld(310, 170, 1.0f), Vector3f(10.0f, 3.0f, 3.5f));
 }
 
-TEST_F(CameraMathematics, axisScalesActBeforeTheView)
+TEST_F(CameraMathematics, axisScalesApplyBeforeTheView)
 {
     camera.setAxisViewScales(2.0f, 4.0f, 0.5f);
     EXPECT_EQ(camera.worldToScreenRH({1.0f, 0.75f, 7.0f}), Vector3f(300.0f, 150.0f, -1.0f));

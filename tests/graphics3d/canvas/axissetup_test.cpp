@@ -41,7 +41,7 @@ TEST(AxisSetup, theTypeDecidesTheKind)
     EXPECT_EQ(setup.getAxisKind(), 0);
 }
 
-TEST(AxisSetup, countsAChangeWhereSomethingChangesAndWhereTheSetterAlwaysCounts)
+TEST(AxisSetup, countsAChangeIfTheValueDiffersOrTheSetterAlwaysCounts)
 {
     struct Case {
         const char* name;
@@ -73,7 +73,7 @@ TEST(AxisSetup, countsAChangeWhereSomethingChangesAndWhereTheSetterAlwaysCounts)
     }
 }
 
-TEST(AxisSetup, titlesAreKeptInMarkup)
+TEST(AxisSetup, titlesAreStoredAsMarkup)
 {
     AxisSetup setup;
     setup.setXAxisTitle("a{b}");
@@ -100,7 +100,7 @@ TEST(AxisSetup, aTitleCanBeMadeOfThePresentOne)
               "\\\\end\\{center\\}=0}\\end{center}");
 }
 
-TEST(AxisSetup, copiesTakeEveryValueAndNoChangeNumber)
+TEST(AxisSetup, copiesHaveEveryValueExceptTheChangeNumber)
 {
     AxisSetup source;
     source.setAxisType(1);

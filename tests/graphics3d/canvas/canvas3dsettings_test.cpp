@@ -56,7 +56,7 @@ TEST(Canvas3dSettings, startsWithItsDefaults)
     EXPECT_EQ(grid.getLabelColor(), c_black);
 }
 
-TEST(Canvas3dSettings, takesTheFontsOfItsTextsFromTheProcess)
+TEST(Canvas3dSettings, takesItsFontsFromTheGlobalSettings)
 {
     Canvas3dGlobalSettings& process = *Canvas3dGlobalSettings::getInstance();
     std::array<FontSetting, c_numTextItems> before;
@@ -79,7 +79,7 @@ TEST(Canvas3dSettings, takesTheFontsOfItsTextsFromTheProcess)
     EXPECT_THROW(settings.getBackground(static_cast<Settings::RenderMode>(2)), std::out_of_range);
 }
 
-TEST(Canvas3dSettings, countsChangesOfModeAndShaderAlways)
+TEST(Canvas3dSettings, alwaysCountsChangesOfModeAndShader)
 {
     struct Case {
         const char* name;
@@ -157,7 +157,7 @@ void expectEqualValues(const Settings& actual, const Settings& expected)
     EXPECT_FALSE(actual.getBackground(Settings::RenderMode3d).isBackgroundShaded());
 }
 
-TEST(Canvas3dSettings, aCopyHasEverythingAndOwnsWhatItHas)
+TEST(Canvas3dSettings, aCopyIsCompleteAndIndependent)
 {
     Settings source;
     fill(source);
@@ -172,7 +172,7 @@ TEST(Canvas3dSettings, aCopyHasEverythingAndOwnsWhatItHas)
     EXPECT_NE(copy.getAxisSetupPtr(), source.getAxisSetupPtr());
 }
 
-TEST(Canvas3dSettings, importTakesTheValuesAndKeepsTheObjects)
+TEST(Canvas3dSettings, importCopiesTheValuesAndKeepsTheObjects)
 {
     Settings source;
     fill(source);
@@ -202,7 +202,7 @@ TEST(Canvas3dSettings, importTakesTheValuesAndKeepsTheObjects)
     EXPECT_EQ(axes->getChangeId(), 2);
 }
 
-TEST(Canvas3dSettings, importingACameraKeepsTheCameraOfTheCanvas)
+TEST(Canvas3dSettings, importingACameraKeepsTheCameraObject)
 {
     Settings settings;
     const auto camera = settings.getCamera3dPtr();
@@ -217,7 +217,7 @@ TEST(Canvas3dSettings, importingACameraKeepsTheCameraOfTheCanvas)
     EXPECT_FALSE(settings.getCamera2d()->isPreserveAspectRatio());
 }
 
-TEST(Canvas3dSettings, theRenderModeDecidesWhichCameraActs)
+TEST(Canvas3dSettings, theRenderModeSelectsTheCurrentCamera)
 {
     Settings settings;
     const Settings& constant = settings;
@@ -235,7 +235,7 @@ TEST(Canvas3dSettings, theRenderModeDecidesWhichCameraActs)
     EXPECT_EQ(log.messages(), std::vector<std::string>(3, "Unknown render mode."));
 }
 
-TEST(Canvas3dBackgroundSettings, twoEqualColoursAreNoShading)
+TEST(Canvas3dBackgroundSettings, twoEqualColoursMeanNoShading)
 {
     Background background;
     background.setShadedBackground(c_red, c_red);

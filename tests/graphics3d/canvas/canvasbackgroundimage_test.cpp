@@ -48,7 +48,7 @@ TEST(CanvasBackgroundImage, startsWithoutLevels)
     EXPECT_THROW(background.getImage(-1), std::out_of_range);
 }
 
-TEST(CanvasBackgroundImage, aPictureLiesInTheTopLeftCornerOfAPowerOfTwo)
+TEST(CanvasBackgroundImage, aPictureIsInTheTopLeftCornerOfAPowerOfTwo)
 {
     Image source = plain(3, 2);
     const std::array<std::uint32_t, 6> words = {0x010203ff, 0x111213ff, 0x212223ff, 0x313233ff, 0x414243ff, 0x515253ff};
@@ -92,7 +92,7 @@ TEST(CanvasBackgroundImage, resetReleasesTheLevelsAndKeepsTheNumbers)
     EXPECT_EQ(background.getWidthFraction(), 0.75f);
 }
 
-TEST(CanvasBackgroundImage, aPictureTooLongForAChainLeavesThePresentOne)
+TEST(CanvasBackgroundImage, aPictureTooLongForAChainLeavesTheCurrentOne)
 {
     CanvasBackgroundImage background;
     background.setImage(plain(3, 2));

@@ -92,7 +92,7 @@ TEST(HardcopySettings, eachSetterReachesItsOwnField)
     EXPECT_EQ(settings.getFileCreator(), "creator");
 }
 
-TEST(HardcopySettings, setBackground_ignoresTheHighByte)
+TEST(HardcopySettings, setBackgroundIgnoresTheHighByte)
 {
     HardcopySettings settings;
     settings.setBackground(0x12345678, static_cast<int>(0xff000001u));
@@ -100,7 +100,7 @@ TEST(HardcopySettings, setBackground_ignoresTheHighByte)
     EXPECT_EQ(settings.getBottomColor(), (Color{0, 0, 1, 255}));
 }
 
-TEST(HardcopySettings, aFontSizeCountsFromOneUp)
+TEST(HardcopySettings, fontSizesAreValidFromOne)
 {
     HardcopySettings settings;
     settings.setFontSize(TextItem::TextTitle, 1);
@@ -116,7 +116,7 @@ TEST(HardcopySettings, aFontSizeCountsFromOneUp)
     }
 }
 
-TEST(HardcopySettings, resolutionIsThatOfTheScreenAtTheTimeOfMaking)
+TEST(HardcopySettings, resolutionIsThatOfTheScreenAtConstruction)
 {
     const WithResolution resolution(96);
     const HardcopySettings settings;

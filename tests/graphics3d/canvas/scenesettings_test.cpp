@@ -25,7 +25,7 @@ TEST(SceneSettings, startWithTheirDefaults)
     EXPECT_TRUE(settings.getLight()->isLightUsed());
 }
 
-TEST(SceneSettings, takeTheFontsOfLabelsAndTitleFromTheProcess)
+TEST(SceneSettings, takeTheirFontsFromTheGlobalSettings)
 {
     Canvas3dGlobalSettings& process = *Canvas3dGlobalSettings::getInstance();
     const int labelBefore = process.font(TextItem::TextLabel).getSize();
@@ -78,7 +78,7 @@ TEST(SceneSettings, areOpaqueFromOneUp)
     }
 }
 
-TEST(SceneSettings, thoseOfAnotherViewStartEqualAndGoTheirOwnWay)
+TEST(SceneSettings, thoseOfAnotherViewStartEqualAndAreIndependent)
 {
     TestSetup setup;
     TestSetup other;

@@ -33,7 +33,7 @@ TEST(BoundingBox, anEmptyBoxEqualsNothing)
     EXPECT_FALSE(other == c_box);
 }
 
-TEST(BoundingBox, initTakesOnlyValidBoxes)
+TEST(BoundingBox, initCopiesOnlyValidBoxes)
 {
     BoundingBox box = c_box;
     box.init(BoundingBox());
@@ -62,7 +62,7 @@ TEST(BoundingBox, mergeCoversBothAndIgnoresEmptyBoxes)
     EXPECT_FALSE(empty.isValid());
 }
 
-TEST(BoundingBox, limitsThatAreNoNumbersWidenNothing)
+TEST(BoundingBox, nanLimitsExtendNothing)
 {
     const float none = std::numeric_limits<float>::quiet_NaN();
     BoundingBox box = c_box;
@@ -72,7 +72,7 @@ TEST(BoundingBox, limitsThatAreNoNumbersWidenNothing)
     EXPECT_EQ(box, BoundingBox(-1.0f, 3.0f, 0.0f, 6.0f, 0.0f, 8.0f));
 }
 
-TEST(BoundingBox, mergeRoundsOnItsWayThroughTheLimits)
+TEST(BoundingBox, mergeRoundsTheLimits)
 {
     // The limits come back as centre 8388608 minus and plus half size 8388607.5: the minimum has moved from 1 to 0.5.
     BoundingBox box(1.0f, 16777216.0f, 0.0f, 1.0f, 0.0f, 1.0f);
@@ -90,7 +90,7 @@ TEST(BoundingBox, expandWithPointNeverStartsABox)
     EXPECT_EQ(box, BoundingBox(-1.0f, 5.0f, 2.0f, 4.0f, -2.0f, 8.0f));
 }
 
-TEST(BoundingBox, changesOfSizeAndPlaceLeaveAnEmptyBoxAlone)
+TEST(BoundingBox, changesOfSizeAndPositionLeaveAnEmptyBoxUnchanged)
 {
     BoundingBox box = c_box;
     box.expand(1.0f, 2.0f, 3.0f);

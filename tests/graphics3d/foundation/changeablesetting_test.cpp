@@ -24,7 +24,7 @@ TEST(ChangeableSetting, anObserverStartsUnequalAndIsUpToDateAfterReset)
     EXPECT_TRUE(setting.isChanged(last));
 }
 
-TEST(ChangeableSetting, theNumberDoesNotTravelWithTheValue)
+TEST(ChangeableSetting, theNumberIsNotCopiedWithTheValue)
 {
     Setting source;
     source.change();

@@ -5,7 +5,7 @@
 namespace vxgraphics3d {
 namespace {
 
-TEST(Color, goesThroughOneNumberWithoutAlpha)
+TEST(Color, convertsToANumberAndBackWithoutAlpha)
 {
     EXPECT_EQ(Color::fromRgb(0x123456), (Color{0x12, 0x34, 0x56, 255}));
     EXPECT_EQ(Color::fromRgb(-1), (Color{255, 255, 255, 255}));

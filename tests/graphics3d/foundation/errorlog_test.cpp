@@ -34,7 +34,7 @@ TEST(ErrorLogDeathTest, isSilentUntilALevelIsSetAndThenWritesOnStandardError)
     EXPECT_EXIT(useNewLog(), testing::ExitedWithCode(0), "^error\tgraphics:0\theard\terrorlog_test.cpp;[0-9]+\n$");
 }
 
-TEST(ErrorLog, writesLevelModuleTextAndPlaceWithTabs)
+TEST(ErrorLog, writesLevelModuleTextAndLocationWithTabs)
 {
     CapturedLog log(Level::info);
     ErrorLog::getInstance()->log(Level::info, ErrorLog::ModuleID::graphics, 8, "camera.cpp", 12, "zoom(%f)", 0.5);
@@ -63,7 +63,7 @@ TEST(ErrorLog, namesTheCallersFileAndLine)
               "warning\tgraphics:0\todd 3 of shape, 0.500000\terrorlog_test.cpp;" + std::to_string(line) + "\n");
 }
 
-TEST(ErrorLog, passesMessagesUpToTheLevelInForce)
+TEST(ErrorLog, passesMessagesUpToTheCurrentLevel)
 {
     CapturedLog log(Level::warning);
     logInfo("not this");
@@ -72,7 +72,7 @@ TEST(ErrorLog, passesMessagesUpToTheLevelInForce)
     EXPECT_EQ(log.messages(), (std::vector<std::string>{"this", "and this"}));
 }
 
-TEST(ErrorLog, switchingOffAndOnRestoresTheLevelAskedFor)
+TEST(ErrorLog, switchingOffAndOnRestoresTheRequestedLevel)
 {
     CapturedLog captured(Level::info);
     ErrorLog* log = ErrorLog::getInstance();
@@ -83,7 +83,7 @@ TEST(ErrorLog, switchingOffAndOnRestoresTheLevelAskedFor)
     EXPECT_EQ(log->getReportLevel(), Level::info);
 }
 
-TEST(ErrorLog, moduleMaskHoldsMessagesBackAndIgnoresUnknownModules)
+TEST(ErrorLog, moduleMaskSuppressesMessagesAndIgnoresUnknownModules)
 {
     CapturedLog captured(Level::info);
     ErrorLog* log = ErrorLog::getInstance();

@@ -20,7 +20,7 @@ Image wrap(int width, int height, Words& words)
     return {width, height, Image::Rgba, 1.0f, words.data()};
 }
 
-TEST(Image, bothFormatsHaveFourBytesAPixel)
+TEST(Image, bothFormatsHaveFourBytesPerPixel)
 {
     EXPECT_EQ(Image::getBytesPerPixel(Image::Rgba), 4);
     EXPECT_EQ(Image::getBytesPerPixel(Image::RendererDefined), 4);
@@ -98,7 +98,7 @@ TEST(Image, fillCopiesTheCommonPartOnly)
     EXPECT_EQ(wide, (Words{1, 2, 9, 3, 4, 9}));
 }
 
-TEST(Image, downsamplingWeighsColorsByAlpha)
+TEST(Image, downsamplingWeightsColorsByAlpha)
 {
     struct Case {
         int width;
@@ -137,7 +137,7 @@ TEST(Image, downsamplingWeighsColorsByAlpha)
     }
 }
 
-TEST(Image, downsamplingNothingGivesAClearImage)
+TEST(Image, downsamplingAnImageWithoutWordsGivesZeros)
 {
     EXPECT_EQ(wordsOf(*Image::createDownsampled(Image(3, 2, Image::RendererDefined, 1, nullptr))), (Words{0, 0}));
     const auto one = Image::createDownsampled(Image(0, 0, Image::RendererDefined, 0, nullptr));

@@ -33,7 +33,7 @@ TEST(Matrixf, takesRowsAndStoresColumns)
     EXPECT_EQ(m, c_counted);
 }
 
-TEST(Matrixf, translationStandsInTheLastColumn)
+TEST(Matrixf, translationIsInTheLastColumn)
 {
     Matrixf m = c_counted;
     m.initTranslation(7.0f, 8.0f, 9.0f);
@@ -85,7 +85,7 @@ TEST(Matrixf, rotationsAreRightHanded)
                c_counted * Matrixf(c_identity).rotate(1.0f, 2.0f, 3.0f, 0.7f), 0.0f);
 }
 
-TEST(Matrixf, rotateTurnsAboutAnAxisOfAnyLength)
+TEST(Matrixf, rotateAcceptsAnAxisOfAnyLength)
 {
     // A third of a turn about the space diagonal takes x to y, y to z and z to x.
     const Matrixf m = Matrixf(c_identity).rotate(3.0f, 3.0f, 3.0f, 2.0943951f);
@@ -114,7 +114,7 @@ TEST(Matrixf, invertGivesTheInverse)
                                       0.0f, 0.0f, 0.0f, 1.0f));
 }
 
-TEST(Matrixf, aSingularMatrixStaysAsItIs)
+TEST(Matrixf, aSingularMatrixIsUnchanged)
 {
     EXPECT_EQ(Matrixf(Matrixf::MatrixZero).invert(), Matrixf(Matrixf::MatrixZero));
     EXPECT_EQ(Matrixf(c_counted).invert(), c_counted);

@@ -40,7 +40,7 @@ TEST(Vector3f, arithmeticIsComponentWise)
     EXPECT_EQ(Vector3f(2.0f, -3.0f, 6.0f).length(), 7.0f);
 }
 
-TEST(Vector3f, normalizeLeavesAVectorWithoutAFiniteLength)
+TEST(Vector3f, normalizeLeavesAVectorWithoutAFiniteLengthUnchanged)
 {
     Vector3f v(0.0f, 3.0f, 4.0f);
     EXPECT_EQ(v.normalize(), Vector3f(0.0f, 0.6f, 0.8f));

@@ -57,7 +57,7 @@ TEST(SceneLight, startsWithItsDefaults)
     EXPECT_EQ(light.getChangeId(), 4);
 }
 
-TEST(SceneLight, neverUsesAnIdAgainAndRefusesMissingOnes)
+TEST(SceneLight, neverReusesIdsAndRefusesMissingOnes)
 {
     const auto owner = SceneLight::create();
     SceneLight& light = *owner;
@@ -72,7 +72,7 @@ TEST(SceneLight, neverUsesAnIdAgainAndRefusesMissingOnes)
     EXPECT_EQ(light.getChangeId(), before);
 }
 
-TEST(SceneLight, aNinthLightIsRefusedUntilOneGoesOut)
+TEST(SceneLight, aNinthLightIsRefusedUntilAnotherIsSwitchedOff)
 {
     const auto owner = SceneLight::create();
     SceneLight& light = *owner;
@@ -91,7 +91,7 @@ TEST(SceneLight, aNinthLightIsRefusedUntilOneGoesOut)
     EXPECT_EQ(light.getChangeId(), before + 2);
 }
 
-TEST(SceneLight, removingCountsEachShiningLightAndOnceMore)
+TEST(SceneLight, removingCountsEachActiveLightAndOnceMore)
 {
     const auto owner = SceneLight::create();
     SceneLight& light = *owner;
@@ -129,7 +129,7 @@ TEST(SceneLight, aSourceOutlivesItsSceneLight)
     EXPECT_EQ(source->getName(), "alone");
 }
 
-TEST(SceneLight, ambientScaleSharesTheAmbientIntensityAmongWhatShines)
+TEST(SceneLight, ambientScaleDividesTheAmbientIntensityAmongActiveLights)
 {
     const auto owner = SceneLight::create();
     SceneLight& light = *owner;
@@ -191,7 +191,7 @@ TEST(SceneLight, countsChangesOfValuesOnceAndOfSourcesAlways)
     }
 }
 
-TEST(LightSource, sphericalInputTurnsAroundZAndDownFromZ)
+TEST(LightSource, sphericalInputRotatesAroundZAndDownFromZ)
 {
     const auto owner = SceneLight::create();
     SceneLight& light = *owner;
@@ -212,7 +212,7 @@ TEST(LightSource, sphericalInputTurnsAroundZAndDownFromZ)
     EXPECT_EQ(spot.getAtDirection(), Vector3f(0.0f, 0.0f, 1.0f));
 }
 
-TEST(LightSource, lockingMovesIntoTheCameraAndReleasingBack)
+TEST(LightSource, lockingTransformsToCameraSpaceAndReleasingBack)
 {
     Camera3d camera;
     // From above: right is x, up is y turned to -z, so world z is the camera's y.

@@ -34,7 +34,7 @@ MarkingType rowOf(int number)
 
 } // namespace
 
-TEST(MarkingModeSetup, getMarkingType_firstRuleThatAppliesWins)
+TEST(MarkingModeSetup, getMarkingTypeFirstRuleThatAppliesWins)
 {
     struct {
         int flags;
@@ -94,7 +94,7 @@ TEST(MarkingSetups, everyDefault)
     }
 }
 
-TEST(MarkingSetups, setMarkingSetup_storesEachValueInItsPlaceAndShowsAHiddenRow)
+TEST(MarkingSetups, setMarkingSetupStoresEachValueAndShowsAHiddenRow)
 {
     MarkingSetups setups;
     setups.setMarkingSetupHidden(MarkingSetups::MarkingMode1, RowPrimary);
@@ -122,7 +122,7 @@ TEST(MarkingSetups, setMarkingSetup_storesEachValueInItsPlaceAndShowsAHiddenRow)
     }
 }
 
-TEST(MarkingSetups, setMarkingSetup_takesTheColoursOfTheRowItself)
+TEST(MarkingSetups, setMarkingSetupTakesTheColoursOfTheRowItself)
 {
     MarkingSetups setups;
     setups.setMarkingSetup(MarkingSetups::MarkingMode1, RowPrimary, {1, 0, 0, 0}, {2, 0, 0, 0}, 1.0f, {3, 0, 0, 0},
@@ -136,7 +136,7 @@ TEST(MarkingSetups, setMarkingSetup_takesTheColoursOfTheRowItself)
     EXPECT_EQ(row.getLabelColor().red, 3);
 }
 
-TEST(MarkingSetups, setMarkingModeSetup_replacesOneMode)
+TEST(MarkingSetups, setMarkingModeSetupReplacesOneMode)
 {
     MarkingSetups setups;
     setups.setMarkingModeSetup(MarkingSetups::MarkingMode0, MarkingModeSetup());
@@ -150,7 +150,7 @@ TEST(MarkingSetups, setMarkingModeSetup_replacesOneMode)
     }
 }
 
-TEST(MarkingSetups, modesAndRowsThatAreNotThereAreRefused)
+TEST(MarkingSetups, missingModesAndRowsAreRefused)
 {
     MarkingSetups setups;
     for (const int number : {-1, 10, 1 << 30}) {

@@ -34,7 +34,7 @@ TEST(PickedObjectCollection, keepsEntriesInTheOrderOfTheirCallsWithTheTypesOfThe
     EXPECT_EQ(collection.getNumberOfPickedObjects(), 0);
 }
 
-TEST(PickedObjectCollection, anIndexOutsideIsRefused)
+TEST(PickedObjectCollection, indicesOutOfRangeAreRefused)
 {
     PickedObjectCollection collection;
     collection.addPickedPlot(1);
@@ -42,7 +42,7 @@ TEST(PickedObjectCollection, anIndexOutsideIsRefused)
     EXPECT_THROW(collection.getPickedObject(-1), std::out_of_range);
 }
 
-TEST(PickedObject, settingAWholeObjectForgetsThePart)
+TEST(PickedObject, settingAWholeObjectClearsThePart)
 {
     PickedObject object;
     EXPECT_EQ(object, PickedObject(PickedObject::PickedNone, -1, PartTypeNone, -1));

@@ -23,7 +23,7 @@ SelectionFrustrum prism(float x0, float y0, float x1, float y1)
             {x0, y0, -1.0f}, {x0, y1, -1.0f}, {x1, y1, -1.0f}, {x1, y0, -1.0f}};
 }
 
-TEST(SelectionFrustrum, holdsWhatLiesStrictlyWithinItsSides)
+TEST(SelectionFrustrum, containsPointsStrictlyWithinItsSides)
 {
     const SelectionFrustrum frustrum = prism(0.0f, 2.0f, 4.0f, 0.0f);
     EXPECT_TRUE(frustrum.isInside(1.0f, 1.0f, 0.0f));
@@ -48,7 +48,7 @@ TEST(SelectionFrustrum, facesOutwardWithOnePairOfCornersSwapped)
     EXPECT_FALSE(prism(1.0f, 2.0f, 1.0f, 0.0f).isInside(middle)) << "no width";
 }
 
-TEST(SelectionFrustrum, tellsHowABoxLies)
+TEST(SelectionFrustrum, classifiesBoxes)
 {
     const SelectionFrustrum frustrum = prism(0.0f, 2.0f, 4.0f, 0.0f);
     const auto lies = [&](float x0, float x1, float y0, float y1) {
@@ -138,7 +138,7 @@ void expectFrustrumsHoldWhatTheyShow(const ICameraTransforms& camera, const Vect
     EXPECT_GT(left, 200);
 }
 
-TEST(SelectionFrustrum, ofA3dCameraHoldsWhatTheRectangleShows)
+TEST(SelectionFrustrum, ofA3dCameraContainsWhatTheRectangleShows)
 {
     const BoundingBox scene(-3.0f, 3.0f, -3.0f, 3.0f, -3.0f, 3.0f);
     for (const auto type : {Camera3d::ProjectionPerspective, Camera3d::ProjectionOrthographic}) {
@@ -161,7 +161,7 @@ TEST(SelectionFrustrum, ofA3dCameraHoldsWhatTheRectangleShows)
     }
 }
 
-TEST(SelectionFrustrum, ofA2dCameraHoldsWhatTheRectangleShowsAtAnyDepth)
+TEST(SelectionFrustrum, ofA2dCameraContainsWhatTheRectangleShowsAtAnyDepth)
 {
     Camera2d camera;
     camera.setRenderArea(500, 300, 10, 20, 400, 200);
@@ -170,7 +170,7 @@ TEST(SelectionFrustrum, ofA2dCameraHoldsWhatTheRectangleShowsAtAnyDepth)
     EXPECT_FALSE(SelectionFrustrum(camera, 50, 100, 50, 60).isInside(camera.screenToWorld(50, 80, 0.0f))) << "no width";
 }
 
-TEST(SelectionFrustrum, ofAnyCameraHoldsWhatTheRectangleShows)
+TEST(SelectionFrustrum, ofAnyCameraContainsWhatTheRectangleShows)
 {
     int held = 0;
     forRandomCameras([&](const Camera3d& camera, RandomCameras& random) {
@@ -228,7 +228,7 @@ void expectPixelsHoldTheirPoints(const ICameraTransforms& camera)
     }
 }
 
-TEST(SelectionFrustrum, ofOnePixelHoldsWhatThatPixelShowsAlsoInAnAreaOfOnePixel)
+TEST(SelectionFrustrum, ofOnePixelContainsWhatThatPixelShowsEvenInAnAreaOfOnePixel)
 {
     for (const auto& [width, height] : {std::pair(400, 200), std::pair(1, 1), std::pair(1, 300)}) {
         SCOPED_TRACE(std::to_string(width) + " by " + std::to_string(height));

@@ -41,7 +41,7 @@ Floats restrictionFloats(const ColorScale& scale)
     return {scale.getRestrictionTexMin(), scale.getRestrictionTexMax()};
 }
 
-TEST(ColorScale, setLegendLimits_placesTheDataOnTheLegend)
+TEST(ColorScale, setLegendLimitsPlacesTheDataOnTheLegend)
 {
     struct Case {
         double dataMin, dataMax, legendMin, legendMax;
@@ -62,7 +62,7 @@ TEST(ColorScale, setLegendLimits_placesTheDataOnTheLegend)
     }
 }
 
-TEST(ColorScale, setAutoLegendLimits_resetsTheFloatsAndKeepsTheReportedLimits)
+TEST(ColorScale, setAutoLegendLimitsResetsTheFloatsAndKeepsTheReportedLimits)
 {
     for (const bool constant : {false, true}) {
         ColorScale scale = scaleOf(2.0, constant ? 2.0 : 4.0);
@@ -74,7 +74,7 @@ TEST(ColorScale, setAutoLegendLimits_resetsTheFloatsAndKeepsTheReportedLimits)
     }
 }
 
-TEST(ColorScale, setSymmetric_appliesTheRequestedLimitsEitherWay)
+TEST(ColorScale, setSymmetricAppliesTheRequestedLimitsEitherWay)
 {
     ColorScale scale = scaleOf(0.0, 1.0);
     scale.setLegendLimits(-2.0, 1.0);
@@ -91,7 +91,7 @@ TEST(ColorScale, setSymmetric_appliesTheRequestedLimitsEitherWay)
     EXPECT_EQ(legendFloats(scale), (Floats{static_cast<float>(1.0 / 3.0), 1.0f, 0.0f, 1.0f}));
 }
 
-TEST(ColorScale, setRestriction_storesClampedLimits)
+TEST(ColorScale, setRestrictionStoresClampedLimits)
 {
     struct Case {
         double dataMax, min, max;
@@ -114,7 +114,7 @@ TEST(ColorScale, setRestriction_storesClampedLimits)
     }
 }
 
-TEST(ColorScale, resetRestriction_writesThePlainRangeUnderAutomaticLimits)
+TEST(ColorScale, resetRestrictionWritesThePlainRangeUnderAutomaticLimits)
 {
     ColorScale scale;
     scale.setSymmetric(true);

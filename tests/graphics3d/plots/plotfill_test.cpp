@@ -35,7 +35,7 @@ PostRecord twoGroups()
     return record.limits(1, 1, 10.0, 90.0);
 }
 
-TEST(PlotFill, appendPoints_combinesPositionsNormalsAndColoursOfOneGroup)
+TEST(PlotFill, appendPointsCombinesPositionsNormalsAndColoursOfOneGroup)
 {
     const PostRecord record = twoGroups();
     const PostDataView view(record, "Plot");
@@ -65,7 +65,7 @@ TEST(PlotFill, appendPoints_combinesPositionsNormalsAndColoursOfOneGroup)
     }
 }
 
-TEST(PlotFill, allocateVertices_takesMissingAxesAsZero)
+TEST(PlotFill, allocateVerticesTakesMissingAxesAsZero)
 {
     for (const auto& [coordinates, position] : {std::pair{Record::DoubleArrays{{1.0}}, Vector3f(1.0f, 0.0f, 0.0f)},
                                                 {{{1.0}, {2.0}}, Vector3f(1.0f, 2.0f, 0.0f)},
@@ -80,7 +80,7 @@ TEST(PlotFill, allocateVertices_takesMissingAxesAsZero)
     }
 }
 
-TEST(PlotFill, fillLines_takesTheEndsOfElementsOrBoundaries)
+TEST(PlotFill, fillLinesTakesTheEndsOfElementsOrBoundaries)
 {
     PostRecord record = twoGroups();
     record.record().m_lineElements = {nullptr, boost::make_shared<Record::IntArrays>(Record::IntArrays{{1}, {1}})};
@@ -125,7 +125,7 @@ TEST(HeightMap, givesHeightsTheMeanWidthOfThePlot)
     }
 }
 
-TEST(PlotInput, boxOf_takesTheFirstAxesAndFillsOthersWithZero)
+TEST(PlotInput, boxOfTakesTheFirstAxesAndFillsOthersWithZero)
 {
     EXPECT_EQ(limitsOf(boxOf({{1.0, 2.0}}, 3)), (Floats{1, 2, 0, 0, 0, 0}));
     EXPECT_EQ(limitsOf(boxOf({{1.0, 2.0}, {3.0, 5.0}, {-4.0, 8.0}}, 2)), (Floats{1, 2, 3, 5, 0, 0}));

@@ -86,7 +86,7 @@ std::vector<float> limitsOf(const BoundingBox& box)
 using Doubles = std::vector<double>;
 using Floats = std::vector<float>;
 
-TEST(SceneGraphPlot, logsItsLife)
+TEST(SceneGraphPlot, logsItsLifeCycle)
 {
     CapturedLog log(ErrorLog::Level::info);
     boost::make_shared<FakePlot>(7);
@@ -114,7 +114,7 @@ TEST(SceneGraphPlot, startsWhiteWithoutTableAndWithARangeFromZeroToOne)
     EXPECT_FALSE(plot.getBoundingBox().isValid());
 }
 
-TEST(SceneGraphPlot, fillPlot_takesTheRangeFromColourElseIsoElseNothing)
+TEST(SceneGraphPlot, fillPlotTakesTheRangeFromColourElseIsoElseNothing)
 {
     PostRecord both = PostRecord().role(0, 1).role(19, 0);
     both.group({{0.0}}, {}, {{0.0}, {0.0}}).limits(0, 0, 100.0, 200.0).limits(0, 1, 2.0, 5.0);
@@ -141,7 +141,7 @@ TEST(SceneGraphPlot, fillPlot_takesTheRangeFromColourElseIsoElseNothing)
     }
 }
 
-TEST(SceneGraphPlot, fillPlot_setsEverythingBeforeTheBuffersAndCountsGeometryAfterThem)
+TEST(SceneGraphPlot, fillPlotSetsEverythingBeforeTheBuffersAndCountsGeometryAfterThem)
 {
     FakePlot plot(1);
     plot.fillPlot(rangeRecord(0.0, 1.0));
@@ -163,7 +163,7 @@ TEST(SceneGraphPlot, fillPlot_setsEverythingBeforeTheBuffersAndCountsGeometryAft
     EXPECT_EQ(restriction(plot), (Doubles{-2.0, 8.0}));
 }
 
-TEST(SceneGraphPlot, fillPlot_keepsSymmetryDirectionTableHeightScaleAndOffset)
+TEST(SceneGraphPlot, fillPlotKeepsSymmetryDirectionTableHeightScaleAndOffset)
 {
     FakePlot plot(1);
     plot.setSymmetricColorTable(true);
@@ -180,7 +180,7 @@ TEST(SceneGraphPlot, fillPlot_keepsSymmetryDirectionTableHeightScaleAndOffset)
     EXPECT_EQ(plot.getPlotPlaneOffset(), 4.0f);
 }
 
-TEST(SceneGraphPlot, fillPlot_reportsLimitsThatAreNotFiniteAndGoesOn)
+TEST(SceneGraphPlot, fillPlotReportsLimitsThatAreNotFiniteAndContinues)
 {
     CapturedLog log(ErrorLog::Level::error);
     FakePlot plot(1);
@@ -195,7 +195,7 @@ TEST(SceneGraphPlot, fillPlot_reportsLimitsThatAreNotFiniteAndGoesOn)
     EXPECT_EQ(fills, 3);
 }
 
-TEST(SceneGraphPlot, fillPlot_refusesAPoorRecordBeforeAnythingChanges)
+TEST(SceneGraphPlot, fillPlotRefusesAnIncompleteRecordBeforeAnythingChanges)
 {
     FakePlot plot(1);
     plot.fillPlot(rangeRecord(1.0, 2.0));
@@ -209,7 +209,7 @@ TEST(SceneGraphPlot, fillPlot_refusesAPoorRecordBeforeAnythingChanges)
     EXPECT_EQ(plot.getValueSource(), Source::colorData);
 }
 
-TEST(SceneGraphPlot, fillPlot_countsGeometryWhenTheBuffersFail)
+TEST(SceneGraphPlot, fillPlotCountsGeometryWhenTheBuffersFail)
 {
     FakePlot plot(1);
     const Moved moved(plot);
@@ -244,7 +244,7 @@ TEST(SceneGraphPlot, legendAndRestrictionCountWhatARendererMustReadAgain)
     EXPECT_EQ(moved.now(), (Numbers{2, 2, 7}));
 }
 
-TEST(SceneGraphPlot, setColorTable_makesATableOnceForAName)
+TEST(SceneGraphPlot, setColorTableCreatesATableOncePerName)
 {
     CapturedLog log(ErrorLog::Level::info);
     FakePlot first(1);
@@ -263,7 +263,7 @@ TEST(SceneGraphPlot, setColorTable_makesATableOnceForAName)
     EXPECT_EQ(log.messages()[2], "Setting color table to plot test once for plot 1");
 }
 
-TEST(SceneGraphPlot, setColorTable_refusesRowsThatMakeNoTableAndRegistersNothing)
+TEST(SceneGraphPlot, setColorTableRefusesInvalidRowsAndRegistersNothing)
 {
     FakePlot plot(1);
     plot.setColorTable("plot test present", {{1, 1, 1}}, true);
@@ -277,7 +277,7 @@ TEST(SceneGraphPlot, setColorTable_refusesRowsThatMakeNoTableAndRegistersNothing
     EXPECT_EQ(moved.now(), (Numbers{0, 0, 0}));
 }
 
-TEST(SceneGraphPlot, setColor_dropsTheTableAndADeletedTableIsGone)
+TEST(SceneGraphPlot, setColorDropsTheTableAndADeletedTableIsGone)
 {
     FakePlot plot(1);
     plot.setColorTable("plot test gone", {{1, 1, 1}}, true);
@@ -294,7 +294,7 @@ TEST(SceneGraphPlot, setColor_dropsTheTableAndADeletedTableIsGone)
     EXPECT_EQ(moved.now(), (Numbers{0, 1, 0}));
 }
 
-TEST(SceneGraphPlot, setShininess_clampsToTheSpecularRange)
+TEST(SceneGraphPlot, setShininessClampsToTheSpecularRange)
 {
     FakePlot plot(1);
     const Moved moved(plot);
@@ -310,7 +310,7 @@ TEST(SceneGraphPlot, setShininess_clampsToTheSpecularRange)
     EXPECT_EQ(moved.now(), (Numbers{0, 0, 0}));
 }
 
-TEST(SceneGraphPlot, setHeightScale_growsTheBoxAboutThePlotPlane)
+TEST(SceneGraphPlot, setHeightScaleGrowsTheBoxAboutThePlotPlane)
 {
     FakePlot plot(1);
     plot.setPlotPlaneOffset(1.0f);
@@ -327,7 +327,7 @@ TEST(SceneGraphPlot, setHeightScale_growsTheBoxAboutThePlotPlane)
     EXPECT_EQ(moved.now(), (Numbers{0, 0, 0}));
 }
 
-TEST(SceneGraphPlot, setBoundingBox_takesTheBoundsOfARecord)
+TEST(SceneGraphPlot, setBoundingBoxTakesTheBoundsOfARecord)
 {
     FakePlot plot(1);
     PostRecord record = rangeRecord(0.0, 1.0);
@@ -335,7 +335,7 @@ TEST(SceneGraphPlot, setBoundingBox_takesTheBoundsOfARecord)
     EXPECT_EQ(plot.getBoundingBox(), BoundingBox(1.0f, 2.0f, 3.0f, 5.0f, 0.0f, 0.0f));
 }
 
-TEST(SceneGraphPlot, setPlotPlaneOffset_movesTheBoxByTheDifference)
+TEST(SceneGraphPlot, setPlotPlaneOffsetMovesTheBoxByTheDifference)
 {
     FakePlot plot(1);
     plot.setBoundingBox(BoundingBox(0.0f, 1.0f, 0.0f, 1.0f, 2.0f, 4.0f));
@@ -365,7 +365,7 @@ TEST(SceneGraphPlot, anInactivePlotKeepsAndMovesItsOwnBox)
     EXPECT_EQ(limitsOf(plot.getBoundingBox()), (Floats{0, 1, 0, 1, 1, 7}));
 }
 
-TEST(SceneGraphPlot, setTitle_escapesPlainTextAndTellsTheGroup)
+TEST(SceneGraphPlot, setTitleEscapesPlainTextAndNotifiesTheGroup)
 {
     const auto group = SceneGraphPlotGroup::create();
     const auto plot = boost::make_shared<FakePlot>(1);
@@ -382,7 +382,7 @@ TEST(SceneGraphPlot, setTitle_escapesPlainTextAndTellsTheGroup)
     group->removeAllPlots();
 }
 
-TEST(SceneGraphPlot, setActive_renewsTheGroupsBoxAndCountsATitleThatComesOrGoes)
+TEST(SceneGraphPlot, setActiveUpdatesTheGroupsBoxAndCountsATitleThatAppearsOrDisappears)
 {
     const auto group = SceneGraphPlotGroup::create();
     const auto plot = boost::make_shared<FakePlot>(1);
@@ -402,7 +402,7 @@ TEST(SceneGraphPlot, setActive_renewsTheGroupsBoxAndCountsATitleThatComesOrGoes)
     group->removeAllPlots();
 }
 
-TEST(SceneGraphPlot, aGroupThatHasDiedCountsAsNone)
+TEST(SceneGraphPlot, aDestroyedGroupCountsAsNone)
 {
     const auto plot = boost::make_shared<FakePlot>(1);
     SceneGraphPlotGroup::create()->addPlot(plot);

@@ -97,7 +97,7 @@ TEST(SceneGraphPlotGroup, startsEmpty)
     EXPECT_EQ(group->getTitleChangeId(), 1);
 }
 
-TEST(SceneGraphPlotGroup, addPlot_givesHandlesLastInFirstOut)
+TEST(SceneGraphPlotGroup, addPlotGivesHandlesLastInFirstOut)
 {
     Scene scene({1, 2});
     EXPECT_EQ(scene.plots[0]->getTextureHandles(), (Handles{1, 2}));
@@ -112,7 +112,7 @@ TEST(SceneGraphPlotGroup, addPlot_givesHandlesLastInFirstOut)
     EXPECT_EQ(next->getPlotGroup(), scene.group);
 }
 
-TEST(SceneGraphPlotGroup, addPlot_countsATitleChangeAndAChangeOfStructure)
+TEST(SceneGraphPlotGroup, addPlotCountsATitleChangeAndAChangeOfStructure)
 {
     Scene scene;
     const int title = scene.group->getTitleChangeId();
@@ -126,7 +126,7 @@ TEST(SceneGraphPlotGroup, addPlot_countsATitleChangeAndAChangeOfStructure)
     EXPECT_EQ(scene.group->getChangeId(), own);
 }
 
-TEST(SceneGraphPlotGroup, addPlot_refusesThe129thPlotAndStaysAsItWas)
+TEST(SceneGraphPlotGroup, addPlotRefusesThe129thPlotAndLeavesTheGroupUnchanged)
 {
     Scene scene;
     for (int id = 1; id <= 128; ++id) {
@@ -143,7 +143,7 @@ TEST(SceneGraphPlotGroup, addPlot_refusesThe129thPlotAndStaysAsItWas)
     EXPECT_EQ(scene.group->getTitleChangeId(), title);
 }
 
-TEST(SceneGraphTexturePlot, keepsTheHandlesThatItGotFromAStackThatRanDry)
+TEST(SceneGraphTexturePlot, keepsTheHandlesFromAStackThatRanOut)
 {
     TextureHandleStack stack;
     while (stack.getNumAvailable() > 1) {
@@ -155,7 +155,7 @@ TEST(SceneGraphTexturePlot, keepsTheHandlesThatItGotFromAStackThatRanDry)
     EXPECT_EQ(stack.getNumAvailable(), 0);
 }
 
-TEST(SceneGraphPlotGroup, addPlot_replacesAPlotOfTheSameIdWithoutACallToIt)
+TEST(SceneGraphPlotGroup, addPlotReplacesAPlotOfTheSameIdWithoutNotifyingIt)
 {
     Scene scene({5});
     const auto other = boost::make_shared<FakePlot>(5);
@@ -166,7 +166,7 @@ TEST(SceneGraphPlotGroup, addPlot_replacesAPlotOfTheSameIdWithoutACallToIt)
     EXPECT_EQ(other->getTextureHandles(), (Handles{3, 4}));
 }
 
-TEST(SceneGraphPlotGroup, addPlot_twiceTakesHandlesTwice)
+TEST(SceneGraphPlotGroup, addPlotTwiceTakesHandlesTwice)
 {
     Scene scene({5});
     scene.group->addPlot(scene.plots[0]);
@@ -174,7 +174,7 @@ TEST(SceneGraphPlotGroup, addPlot_twiceTakesHandlesTwice)
     EXPECT_EQ(scene.group->getTextureHandles().getNumAvailable(), 252);
 }
 
-TEST(SceneGraphPlotGroup, addPlot_ofNothingIsRefusedBeforeItIsLogged)
+TEST(SceneGraphPlotGroup, addPlotRefusesNullBeforeLogging)
 {
     Scene scene;
     CapturedLog log(ErrorLog::Level::info);
@@ -182,7 +182,7 @@ TEST(SceneGraphPlotGroup, addPlot_ofNothingIsRefusedBeforeItIsLogged)
     EXPECT_EQ(log.text(), "");
 }
 
-TEST(SceneGraphPlotGroup, removal_logsAndCountsOnlyWhatLeaves)
+TEST(SceneGraphPlotGroup, removalLogsAndCountsOnlyWhatLeaves)
 {
     Scene scene({1, 2});
     const std::string node = std::to_string(scene.group->getNodeId());
@@ -205,7 +205,7 @@ TEST(SceneGraphPlotGroup, removal_logsAndCountsOnlyWhatLeaves)
     EXPECT_EQ(scene.group->getTextureHandles().getNumAvailable(), 256);
 }
 
-TEST(SceneGraphPlotGroup, itsDeathLeavesPlotsWithHandlesThatTheyReport)
+TEST(SceneGraphPlotGroup, itsDestructionLeavesPlotsWithHandlesThatTheyReport)
 {
     auto plot = boost::make_shared<FakePlot>(1);
     SceneGraphPlotGroup::create()->addPlot(plot);
@@ -226,7 +226,7 @@ TEST(SceneGraphPlotGroup, lookupsOfAMissingPlotThrow)
     EXPECT_THROW(scene.group->plotPtr(5), std::out_of_range);
 }
 
-TEST(SceneGraphPlotGroup, plotsStandByRisingId)
+TEST(SceneGraphPlotGroup, plotsAreOrderedById)
 {
     Scene scene({3, -1, 2});
     std::vector<int> ids;
@@ -236,7 +236,7 @@ TEST(SceneGraphPlotGroup, plotsStandByRisingId)
     EXPECT_EQ(ids, (std::vector<int>{-1, 2, 3}));
 }
 
-TEST(SceneGraphPlotGroup, getTotalTitle_joinsTheTitlesOfGroupAndActivePlotsInTheirOwnFormats)
+TEST(SceneGraphPlotGroup, getTotalTitleJoinsTheTitlesOfGroupAndActivePlotsInTheirOwnFormats)
 {
     Scene scene({1, 2, 3, 4});
     scene.plots[0]->setTitle(TextFormat::markup, "a^2");
@@ -255,7 +255,7 @@ TEST(SceneGraphPlotGroup, getTotalTitle_joinsTheTitlesOfGroupAndActivePlotsInThe
     EXPECT_EQ(totalTitle(*scene.group), "");
 }
 
-TEST(SceneGraphPlotGroup, setTitle_countsATitleChangeEvenIfItIsTheSame)
+TEST(SceneGraphPlotGroup, setTitleCountsATitleChangeEvenIfItIsTheSame)
 {
     Scene scene;
     const int start = scene.group->getTitleChangeId();
@@ -264,7 +264,7 @@ TEST(SceneGraphPlotGroup, setTitle_countsATitleChangeEvenIfItIsTheSame)
     EXPECT_EQ(scene.group->getTitleChangeId(), start + 2);
 }
 
-TEST(SceneGraphPlotGroup, getNumberOfColorLegends_needsEveryCondition)
+TEST(SceneGraphPlotGroup, getNumberOfColorLegendsNeedsEveryCondition)
 {
     Scene scene({1});
     FakePlot& plot = *scene.plots[0];
@@ -300,7 +300,7 @@ TEST(SceneGraphPlotGroup, boxCoversActivePlotsAndReachesTheRoot)
     EXPECT_EQ(maxX(scene.root->getBoundingBox()), -1.0f);
 }
 
-TEST(SceneGraphPlotGroup, getMarkedBoundingBox_takesAllPlotsOrTheGraphsWithLogarithmicAxes)
+TEST(SceneGraphPlotGroup, getMarkedBoundingBoxTakesAllPlotsOrTheGraphsWithLogarithmicAxes)
 {
     Scene scene({1, 3});
     scene.plots[0]->setBoundingBox(boxTo(50.0f));
@@ -316,7 +316,7 @@ TEST(SceneGraphPlotGroup, getMarkedBoundingBox_takesAllPlotsOrTheGraphsWithLogar
     EXPECT_EQ(maxX(box), 7.0f);
 }
 
-TEST(SceneGraphPlotGroup, getLineLegend_asksTheGraphsByRisingId)
+TEST(SceneGraphPlotGroup, getLineLegendAsksTheGraphsInTheOrderOfTheirIds)
 {
     Scene scene({1});
     scene.group->addPlot(boost::make_shared<FakeGraph>(9));

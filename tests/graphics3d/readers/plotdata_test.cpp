@@ -27,7 +27,7 @@ using Record = vxdatacarrier::PostDataObject;
 const std::string c_dataFolder = VX_DATA_FOLDER "/";
 const std::string c_docsFolder = VX_TEST_FOLDER "/../docs/";
 
-TEST(PlotData, hasTheSizesAndLimitsThatItsPageTells)
+TEST(PlotData, hasTheSizesAndLimitsOfItsPage)
 {
     struct Limits {
         double min, max;

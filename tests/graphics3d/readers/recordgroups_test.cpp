@@ -14,7 +14,7 @@ namespace {
 
 using Record = vxdatacarrier::PostDataObject;
 
-TEST(RecordGroups, leaveTheRecordAsItWasWhateverAllocationFails)
+TEST(RecordGroups, leaveTheRecordUnchangedWhicheverAllocationFails)
 {
     const std::string points = "% Coordinates\n0 0 0\n1 0 0\n0 1 0\n0 0 1\n1 0 1\n0 1 1\n% Elements (triangular)\n";
     const std::string levels = "% Data\n1\n1\n1\n2\n2\n2\n";

@@ -201,7 +201,7 @@ TEST(ScenePlotFileReader, cannotOpenAFileWithoutReadPermission)
     EXPECT_EQ(error.take(), "Could not open file " + path + "\n");
 }
 
-TEST(ScenePlotFileReader, refusesWhatIsNoRegularFileWithoutWaitingForIt)
+TEST(ScenePlotFileReader, refusesIrregularFilesWithoutBlocking)
 {
     const std::string silentPipe = std::filesystem::temp_directory_path() / ("pipe" + std::to_string(getpid()));
     ASSERT_EQ(mkfifo(silentPipe.c_str(), S_IRUSR | S_IWUSR), 0);
@@ -260,7 +260,7 @@ TEST(ScenePlotFileReader, fillsHeightFromZOfASurface2d)
     EXPECT_TRUE(record.m_normals.empty());
 }
 
-TEST(ScenePlotFileReader, weighsTheUnitNormalsOfAllTrianglesEqually)
+TEST(ScenePlotFileReader, weightsTheUnitNormalsOfAllTrianglesEqually)
 {
     // A large triangle in the plane z = 0, a small one in the plane x = 0, a flat one that has no normal, and a point
     // of no triangle.
@@ -273,7 +273,7 @@ TEST(ScenePlotFileReader, weighsTheUnitNormalsOfAllTrianglesEqually)
               (Record::FloatArrays{{half.x, 0, half.x, 1, 0}, {0, 0, 0, 0, 0}, {half.z, 1, half.z, 0, 0}}));
 }
 
-TEST(ScenePlotFileReader, countsQuadsWithoutKeepingThem)
+TEST(ScenePlotFileReader, countsQuadsWithoutStoringThem)
 {
     Record record;
     const TemporaryFile file("% Coordinates\n0 0 0\n1 0 0\n1 1 0\n0 1 0\n% Elements (rectangular)\n1 2 3 4\n"
@@ -283,7 +283,7 @@ TEST(ScenePlotFileReader, countsQuadsWithoutKeepingThem)
     EXPECT_EQ(record.m_coordinates.at(0)->at(0).size(), 4u);
 }
 
-TEST(ScenePlotFileReader, readsWhatDoesNotMatter)
+TEST(ScenePlotFileReader, ignoresInsignificantText)
 {
     // Blank rows between sections, text behind tags and numbers, other blanks, line ends of other systems, a section
     // that is not asked for, a tag that repeats itself, and no line end at the end.
@@ -305,7 +305,7 @@ TEST(ScenePlotFileReader, readsWhatDoesNotMatter)
     EXPECT_EQ(*odd.m_data.at(0), *plain.m_data.at(0));
 }
 
-TEST(ScenePlotFileReader, readsAPointUnderACommaLocale)
+TEST(ScenePlotFileReader, readsDecimalPointsUnderACommaLocale)
 {
     if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) {
         GTEST_SKIP() << "the locale de_DE.UTF-8 is not installed";
@@ -319,7 +319,7 @@ TEST(ScenePlotFileReader, readsAPointUnderACommaLocale)
     EXPECT_EQ(outcome.record.m_data.at(0)->at(0), (std::vector<double>{0, 0.5, 1}));
 }
 
-TEST(ScenePlotFileReader, makesAGroupOfEachLevelOfAnIsoSurface)
+TEST(ScenePlotFileReader, createsAGroupPerLevelOfAnIsoSurface)
 {
     Record record;
     const TemporaryFile file("% Coordinates\n0 0 0\n1 0 0\n0 1 0\n0 0 1\n1 0 1\n0 1 1\n1 1 1\n% Elements (triangular)\n"
@@ -339,7 +339,7 @@ TEST(ScenePlotFileReader, makesAGroupOfEachLevelOfAnIsoSurface)
     EXPECT_EQ(*record.m_bounds, (Record::DoubleArrays{{0, 1}, {0, 1}, {0, 1}}));
 }
 
-TEST(ScenePlotFileReader, keepsTheGroupsBeforeAWrongElementRow)
+TEST(ScenePlotFileReader, keepsTheGroupsBeforeAFaultyElementRow)
 {
     const std::string points = "% Coordinates\n0 0 0\n1 0 0\n0 1 0\n0 0 1\n1 0 1\n0 1 1\n";
     const std::string levels = "% Data\n1\n1\n1\n2\n2\n2\n";
@@ -523,7 +523,7 @@ TEST(ScenePlotFileReader, readsGroupsIntoBuffersRelativeToTheirFirstPoint)
     EXPECT_EQ(normals[0], (std::vector<float>{-1, -1, -1}));
 }
 
-TEST(ScenePlotFileReader, movesBehindTheTagOfTheQuads)
+TEST(ScenePlotFileReader, skipsTheTagOfTheQuads)
 {
     const TemporaryFile file("% Coordinates\n0 0 0\n1 0 0\n\n% Elements (rectangular)\n1 2 1 2\n");
     ScenePlotFileReader reader(file.path());
@@ -537,7 +537,7 @@ TEST(ScenePlotFileReader, movesBehindTheTagOfTheQuads)
     EXPECT_EQ(error.take(), "Expected tag \"Elements (rectangular)\" at row 6");
 }
 
-TEST(ScenePlotFileReader, tellsThatAFileShrankWhileItWasRead)
+TEST(ScenePlotFileReader, reportsAFileThatShrankWhileItWasRead)
 {
     const std::string head = "% Coordinates\n0 0 0\n1 0 0\n0 1 0\n% Elements (triangular)\n";
     const struct {

@@ -92,7 +92,7 @@ TEST(TextNumbers, readRandomPiecesLikeTheLibrary)
     }
 }
 
-TEST(TextNumbers, readAPointUnderACommaLocale)
+TEST(TextNumbers, readDecimalPointsUnderACommaLocale)
 {
     if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) {
         GTEST_SKIP() << "the locale de_DE.UTF-8 is not installed";

@@ -84,7 +84,7 @@ TEST(TextRows, areTheSameWhereverABlockEnds)
     }
 }
 
-TEST(TextRows, takePlainRowsOfNumbersAndLeaveTheOthers)
+TEST(TextRows, readPlainRowsOfNumbersAndLeaveTheOthers)
 {
     const struct {
         std::string row;
@@ -129,7 +129,7 @@ TEST(TextRows, takePlainRowsOfNumbersAndLeaveTheOthers)
     }
 }
 
-TEST(TextRows, beginAgainAfterRewindWhereverTheyStood)
+TEST(TextRows, restartAfterRewindFromAnyPosition)
 {
     const std::string bytes = "first\n" + std::string(70000, 'x') + "\nlast";
     const File file = fileOf(bytes);
@@ -141,7 +141,7 @@ TEST(TextRows, beginAgainAfterRewindWhereverTheyStood)
     EXPECT_STREQ(rows.next(), "first\n");
 }
 
-TEST(TextRows, ofADirectoryOrOfNothingAreNone)
+TEST(TextRows, areNoneForADirectoryOrNoFile)
 {
     const File directory(std::fopen("/", "r"), std::fclose);
     ASSERT_NE(directory, nullptr);

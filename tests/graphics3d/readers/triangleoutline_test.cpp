@@ -28,7 +28,7 @@ Lines outlineOf(int numPoints, const std::vector<std::vector<int>>& triangles)
     return linesOf(lines);
 }
 
-TEST(TriangleOutline, isOfTheEdgesThatOneTriangleUses)
+TEST(TriangleOutline, containsTheEdgesThatOneTriangleUses)
 {
     CapturedError error;
     EXPECT_EQ(outlineOf(3, {}), Lines());

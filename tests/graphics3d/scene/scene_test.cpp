@@ -21,7 +21,7 @@ class TestSetup : public IRendererSetup {};
 
 const BoundingBox c_box(0.0f, 1.0f, 0.0f, 1.0f, 0.0f, 1.0f);
 
-TEST(Scene, idsRiseByOneAndAreNeverUsedAgain)
+TEST(Scene, idsRiseByOneAndAreNeverReused)
 {
     int first = 0;
     {
@@ -90,7 +90,7 @@ TEST(Scene, settingsAndLightsOutliveTheSceneWithTheirOwners)
     EXPECT_EQ(light->createPointLight(), 1);
 }
 
-TEST(Scene, answersForItsTree)
+TEST(Scene, forwardsQueriesToItsTree)
 {
     const Scene scene;
     const auto leaf = TestLeaf::create(c_box);

@@ -61,7 +61,7 @@ protected:
     std::vector<boost::shared_ptr<TestLeaf>> leaves;
 };
 
-TEST_F(SharedLeaves, mayBeWorkedOnWhileTheGroupTheyAnswerToDies)
+TEST_F(SharedLeaves, canBeUsedWhileTheirGroupIsDestroyed)
 {
     for (int i = 0; i < 20000; ++i) {
         dropped->addChild(TestLeaf::create(boxAt(i)));
@@ -85,7 +85,7 @@ TEST_F(SharedLeaves, mayBeWorkedOnWhileTheGroupTheyAnswerToDies)
     EXPECT_EQ(root->getBoundingBox(), BoundingBox(-7.0f, 20.0f, 0.0f, 1.0f, 0.0f, 1.0f));
 }
 
-TEST_F(SharedLeaves, mayBeTakenInAndLetGoWhileTheGroupTheyAnswerToDies)
+TEST_F(SharedLeaves, canBeAddedAndRemovedWhileTheirGroupIsDestroyed)
 {
     workWhileDropping(drop(), [&] {
         for (const auto& leaf : leaves) {
@@ -98,7 +98,7 @@ TEST_F(SharedLeaves, mayBeTakenInAndLetGoWhileTheGroupTheyAnswerToDies)
     EXPECT_EQ(leaves[0]->getChildId(), 0);
 }
 
-TEST_F(SharedLeaves, mayBeWorkedOnWhileADeepTreeAboveThemDies)
+TEST_F(SharedLeaves, canBeUsedWhileADeepTreeAboveThemIsDestroyed)
 {
     for (int i = 0; i < 20000; ++i) {
         const auto above = SceneGraphGroup::create();
@@ -121,7 +121,7 @@ TEST_F(SharedLeaves, mayBeWorkedOnWhileADeepTreeAboveThemDies)
     EXPECT_EQ(leaves[0]->getParent(), nullptr);
 }
 
-TEST(SharedLights, mayBeWorkedOnWhileTheirSceneLightDies)
+TEST(SharedLights, canBeUsedWhileTheirSceneLightIsDestroyed)
 {
     auto light = SceneLight::create();
     std::vector<boost::shared_ptr<LightSource>> sources;

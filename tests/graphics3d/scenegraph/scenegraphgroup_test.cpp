@@ -63,7 +63,7 @@ TEST(SceneGraphGroup, aNewGroupIsEmpty)
     EXPECT_FALSE(group->getBoundingBox().isValid());
 }
 
-TEST(SceneGraphGroup, idsOfChildrenCountFromOneAndAreNeverUsedAgain)
+TEST(SceneGraphGroup, idsOfChildrenCountFromOneAndAreNeverReused)
 {
     const auto group = SceneGraphGroup::create();
     const auto first = TestLeaf::create();
@@ -85,7 +85,7 @@ TEST(SceneGraphGroup, idsOfChildrenCountFromOneAndAreNeverUsedAgain)
     EXPECT_EQ(third->getParent(), group);
 }
 
-TEST(SceneGraphGroup, anIdThatIsNotThereIsRefusedButRemovalIgnoresIt)
+TEST(SceneGraphGroup, missingIdsAreRefusedExceptForRemoval)
 {
     const auto group = SceneGraphGroup::create();
     const auto root = SceneGraphRoot::create();
@@ -101,7 +101,7 @@ TEST(SceneGraphGroup, anIdThatIsNotThereIsRefusedButRemovalIgnoresIt)
     EXPECT_EQ(root->getTreeStructureChangeId(), structure);
 }
 
-TEST(SceneGraphGroup, logsItsLifeAndItsChildrenInOrder)
+TEST(SceneGraphGroup, logsItsLifeCycleAndItsChildrenInOrder)
 {
     CapturedLog log(ErrorLog::Level::info);
     const auto leaf = TestLeaf::create();
@@ -126,7 +126,7 @@ TEST(SceneGraphGroup, logsItsLifeAndItsChildrenInOrder)
             "Removing all children from group (node " + id + ").", "Destroying SceneGraphGroup (node " + id + ")"}));
 }
 
-TEST(SceneGraphGroup, comingsAndGoingsAreCountedAtTheRoot)
+TEST(SceneGraphGroup, additionsAndRemovalsAreCountedAtTheRoot)
 {
     const auto root = SceneGraphRoot::create();
     const auto group = SceneGraphGroup::create();
@@ -160,7 +160,7 @@ TEST(SceneGraphGroup, comingsAndGoingsAreCountedAtTheRoot)
     EXPECT_FALSE(root->getBoundingBox().isValid());
 }
 
-TEST(SceneGraphGroup, refusesWhatWouldStandBelowItselfBeforeAnythingChanges)
+TEST(SceneGraphGroup, refusesCyclesBeforeAnythingChanges)
 {
     const auto top = SceneGraphGroup::create();
     const auto middle = SceneGraphGroup::create();
@@ -189,7 +189,7 @@ TEST(SceneGraphGroup, refusesWhatWouldStandBelowItselfBeforeAnythingChanges)
     EXPECT_EQ(leaf->getChildId(), 1);
 }
 
-TEST(SceneGraphGroup, refusesACycleThroughAParentThatTheNodeDoesNotAnswerTo)
+TEST(SceneGraphGroup, refusesACycleThroughAParentThatTheNodeDoesNotReportTo)
 {
     const auto first = SceneGraphGroup::create();
     const auto second = SceneGraphGroup::create();
@@ -206,7 +206,7 @@ TEST(SceneGraphGroup, refusesACycleThroughAParentThatTheNodeDoesNotAnswerTo)
     EXPECT_TRUE(shared->addChild(first));
 }
 
-TEST(SceneGraphGroup, aNodeMayStandUnderTwoParentsAndAnswersToTheLater)
+TEST(SceneGraphGroup, aNodeMayHaveTwoParentsAndReportsToTheLaterOne)
 {
     const auto first = SceneGraphGroup::create();
     const auto second = SceneGraphGroup::create();
@@ -282,7 +282,7 @@ public:
     void updateNodeSnapVertices() override { throw std::bad_alloc(); }
 };
 
-TEST(SceneGraphGroup, aChildThatCameHalfwayCountsWithTheNextOne)
+TEST(SceneGraphGroup, aHalfAddedChildCountsWithTheNextOne)
 {
     const auto root = SceneGraphRoot::create();
     const auto group = SceneGraphGroup::create();
@@ -372,7 +372,7 @@ TEST_F(PickedTree, groupsAreVisitedInIdOrderAndCutOffByTheirBoxes)
     EXPECT_EQ(pick(*root).size(), 3u);
 }
 
-TEST_F(PickedTree, aLeafRightUnderTheRootIsAskedWithoutATest)
+TEST_F(PickedTree, aLeafDirectlyBelowTheRootIsNotTested)
 {
     const auto group = SceneGraphGroup::create();
     const auto leaf = add(*group, 50.0f);
@@ -383,7 +383,7 @@ TEST_F(PickedTree, aLeafRightUnderTheRootIsAskedWithoutATest)
     EXPECT_EQ(pick(*group), Picks());
 }
 
-TEST(SceneGraphGroup, treesDeeperThanTheStackWorkAndDie)
+TEST(SceneGraphGroup, treesDeeperThanTheStackWorkAndAreDestroyed)
 {
     constexpr int depth = 200000;
     const auto leaf = TestLeaf::create(c_unitBox);
@@ -425,7 +425,7 @@ public:
     }
 };
 
-TEST(SceneGraphGroup, aChildThatDiesWithItsGroupHasNoParentAnyMore)
+TEST(SceneGraphGroup, aChildDestroyedWithItsGroupHasNoParent)
 {
     CapturedLog log(ErrorLog::Level::info);
     auto group = SceneGraphGroup::create();

@@ -27,7 +27,7 @@ protected:
     boost::shared_ptr<TestLeaf> leaf = TestLeaf::create(c_unitBox);
 };
 
-TEST(SceneGraphNode, idsRiseByOneAndAreNeverUsedAgain)
+TEST(SceneGraphNode, idsRiseByOneAndAreNeverReused)
 {
     const int first = TestLeaf::create()->getNodeId();
     EXPECT_EQ(SceneGraphGroup::create()->getNodeId(), first + 1);
@@ -71,7 +71,7 @@ TEST_F(SmallTree, aChangeOfALeafRaisesEveryCounterAboveOnce)
     EXPECT_EQ(root->getTreeStructureChangeId(), structure);
 }
 
-TEST_F(SmallTree, removeParentIsCountedByTheNodeAloneAndReachesNoParent)
+TEST_F(SmallTree, removeParentIsCountedByTheNodeOnly)
 {
     const int leafChanges = leaf->getChangeId();
     const int belowGroup = group->getChildrenChangeId();
@@ -81,7 +81,7 @@ TEST_F(SmallTree, removeParentIsCountedByTheNodeAloneAndReachesNoParent)
     EXPECT_EQ(leaf->getChildId(), 0);
 }
 
-TEST_F(SmallTree, hidingANodeShrinksTheBoxesAboveAndMovesNoNumber)
+TEST_F(SmallTree, hidingANodeShrinksTheBoxesAboveAndChangesNoNumber)
 {
     const auto other = TestLeaf::create(c_farBox);
     group->addChild(other);
@@ -102,7 +102,7 @@ TEST_F(SmallTree, hidingANodeShrinksTheBoxesAboveAndMovesNoNumber)
     EXPECT_TRUE(std::equal(std::begin(changes), std::end(changes), std::begin(after)));
 }
 
-TEST_F(SmallTree, aNewBoxTravelsUpAsFarAsItChangesSomething)
+TEST_F(SmallTree, aNewBoxIsPropagatedAsFarAsItChangesSomething)
 {
     leaf->setBoundingBox(c_farBox);
     EXPECT_EQ(group->getBoundingBox(), c_farBox);
@@ -123,7 +123,7 @@ TEST_F(SmallTree, aNewBoxTravelsUpAsFarAsItChangesSomething)
     EXPECT_FALSE(root->getBoundingBox().isValid());
 }
 
-TEST_F(SmallTree, anInactiveGroupKeepsItsChildrensBoxesFromTheRoot)
+TEST_F(SmallTree, anInactiveGroupHidesItsChildrensBoxesFromTheRoot)
 {
     group->setActive(false);
     EXPECT_FALSE(root->getBoundingBox().isValid());
@@ -133,7 +133,7 @@ TEST_F(SmallTree, anInactiveGroupKeepsItsChildrensBoxesFromTheRoot)
     EXPECT_EQ(root->getBoundingBox(), c_farBox);
 }
 
-TEST_F(SmallTree, aParentThatHasDiedCountsAsNone)
+TEST_F(SmallTree, aDestroyedParentCountsAsNone)
 {
     root->removeChild(0);
     group.reset();
@@ -148,7 +148,7 @@ TEST_F(SmallTree, aParentThatHasDiedCountsAsNone)
     EXPECT_EQ(next->getBoundingBox(), c_farBox);
 }
 
-TEST(SceneGraphObject, settersCountAlsoWithoutAChangeAndShininessIsLimited)
+TEST(SceneGraphObject, settersCountEvenWithoutAChangeAndShininessIsClamped)
 {
     const auto object = TestLeaf::create();
     EXPECT_EQ(object->getShininess(), 64.0f);

@@ -35,7 +35,7 @@ private:
     Plots() : SceneGraphNode(NodePlotGroup) {}
 };
 
-TEST(SceneGraphRoot, withoutPlotsThereIsNothingToTell)
+TEST(SceneGraphRoot, withoutPlotsTitleAndLegendsAreEmpty)
 {
     const auto root = SceneGraphRoot::create();
     const auto group = SceneGraphGroup::create();
@@ -77,7 +77,7 @@ TEST(SceneGraphRoot, titleAndLegendsAreThoseOfThePlotsBelowIt)
     EXPECT_TRUE(root->isTitleChanged(last));
 }
 
-TEST(SceneGraphRoot, holdsOneChildUnderTheIdZero)
+TEST(SceneGraphRoot, hasOneChildUnderTheIdZero)
 {
     const auto root = SceneGraphRoot::create();
     EXPECT_EQ(root->getNoOfChildren(), 0);
@@ -143,7 +143,7 @@ protected:
     const Vector3f there{7.0f, 8.0f, 9.0f};
 };
 
-TEST_F(SnappingTree, snapVerticesComeAndGoWithTheirNode)
+TEST_F(SnappingTree, snapVerticesAreAddedAndRemovedWithTheirNode)
 {
     const auto leaf = TestLeaf::create();
     leaf->snapTo({here});
@@ -157,7 +157,7 @@ TEST_F(SnappingTree, snapVerticesComeAndGoWithTheirNode)
     EXPECT_FALSE(snaps(there));
 }
 
-TEST_F(SnappingTree, aGroupBringsAndTakesItsDirectChildrenOnly)
+TEST_F(SnappingTree, aGroupAddsAndRemovesItsDirectChildrenOnly)
 {
     const auto outer = SceneGraphGroup::create();
     const auto inner = SceneGraphGroup::create();

@@ -146,7 +146,7 @@ TEST(SnapVertexIndex, withoutVerticesNothingIsFound)
     EXPECT_EQ(coordinate[2], 9.0);
 }
 
-TEST(SnapVertexIndex, theNewestOfEqualCoordinatesStandsFirst)
+TEST(SnapVertexIndex, theNewestOfEqualCoordinatesComesFirst)
 {
     SnapVertexIndex index;
     index.add({vertexAt(1.0, 5.0, 0.0, 1, 0), vertexAt(0.0, 5.0, 0.0, 1, 1), vertexAt(1.0, 5.0, 0.0, 1, 2)});
@@ -174,7 +174,7 @@ TEST(SnapVertexIndex, removalTakesTheFirstRunFromTheVerticesAndAllFromTheOrders)
     EXPECT_TRUE(index.getVertices().empty());
 }
 
-TEST(SnapVertexIndex, aWalkStopsAtTheFirstNearerVertexAndTheNextSearchGoesOnFromThere)
+TEST(SnapVertexIndex, aSearchStopsAtTheFirstNearerVertexAndTheNextContinuesThere)
 {
     SnapVertexIndex index;
     index.add({vertexAt(0.0, 0.0, 0.0, 1, 0), vertexAt(1.0, 9.0, 0.0, 1, 1), vertexAt(2.0, 1.0, 0.0, 1, 2),
@@ -201,7 +201,7 @@ TEST(SnapVertexIndex, distancesAreMeasuredInFloat)
     EXPECT_EQ(coordinate[0], 1.0 + 0x1p-30);
 }
 
-TEST(SnapVertexIndex, behavesAsPlainListsUnderRandomWork)
+TEST(SnapVertexIndex, behavesLikeSimpleListsUnderRandomOperations)
 {
     std::mt19937 random(3);
     const auto number = [&](unsigned below) { return static_cast<int>(random() % below); };
@@ -244,7 +244,7 @@ TEST(SnapVertexIndex, behavesAsPlainListsUnderRandomWork)
     }
 }
 
-TEST(SnapVertexIndex, aCoordinateThatIsNoNumberDoesNotDisturbTheOthers)
+TEST(SnapVertexIndex, aNanCoordinateDoesNotAffectTheOthers)
 {
     SnapVertexIndex index;
     const double none = std::nan("");

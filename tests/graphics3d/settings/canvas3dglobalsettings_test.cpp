@@ -74,7 +74,7 @@ TEST(Canvas3dGlobalSettings, everyDefault)
     EXPECT_EQ(&settings.getMarkingSetups(), settings.getMarkingSetupsPtr().get());
 }
 
-TEST(Canvas3dGlobalSettings, onlyFourSettersCountAndTheyCountAlways)
+TEST(Canvas3dGlobalSettings, onlyFourSettersCountAndTheyAlwaysDo)
 {
     FreshSettings settings;
     settings.setOnScreenResolution(96);
@@ -122,7 +122,7 @@ TEST(Canvas3dGlobalSettings, onlyFourSettersCountAndTheyCountAlways)
     EXPECT_EQ(settings.getChangeId(), 5);
 }
 
-TEST(Canvas3dGlobalSettings, setAntiAliasing_takesTheFirstSettingThatTheRendererOffers)
+TEST(Canvas3dGlobalSettings, setAntiAliasingTakesTheFirstSettingThatTheRendererOffers)
 {
     struct {
         boost::shared_ptr<RendererInfo> renderer;
@@ -145,7 +145,7 @@ TEST(Canvas3dGlobalSettings, setAntiAliasing_takesTheFirstSettingThatTheRenderer
     }
 }
 
-TEST(Canvas3dGlobalSettings, setDefaultCameraMouseActions_replacesTheWholeTable)
+TEST(Canvas3dGlobalSettings, setDefaultCameraMouseActionsReplacesTheWholeTable)
 {
     constexpr int wanted[3][8] = {
         {0, 1, 4, 5, 10, 10, 10, 10},
@@ -180,7 +180,7 @@ TEST(Canvas3dGlobalSettings, mouseTableRefusesOtherButtonsAndFoldsMasksOnlyWhenR
     EXPECT_EQ(settings.getCameraMouseAction(4, 0), Settings::ActionNone);
 }
 
-TEST(Canvas3dGlobalSettings, isButtonForMouseAction_looksAtAllMasksButTheLast)
+TEST(Canvas3dGlobalSettings, isButtonForMouseActionChecksAllMasksExceptTheLast)
 {
     FreshSettings settings;
     settings.setCameraMouseAction(2, 6, Settings::ActionRoll);
@@ -192,7 +192,7 @@ TEST(Canvas3dGlobalSettings, isButtonForMouseAction_looksAtAllMasksButTheLast)
     EXPECT_FALSE(settings.isButtonForMouseAction(4, Settings::ActionNone));
 }
 
-TEST(Canvas3dGlobalSettings, textItemsThatAreNotThereAreRefused)
+TEST(Canvas3dGlobalSettings, missingTextItemsAreRefused)
 {
     FreshSettings settings;
     for (const int item : {-1, 7}) {
@@ -201,12 +201,12 @@ TEST(Canvas3dGlobalSettings, textItemsThatAreNotThereAreRefused)
     }
 }
 
-TEST(Canvas3dGlobalSettings, getInstance_isOneObject)
+TEST(Canvas3dGlobalSettings, getInstanceIsOneObject)
 {
     EXPECT_EQ(Settings::getInstance(), Settings::getInstance());
 }
 
-TEST(FontSetting, countsWhatChangesItAndEveryAssignment)
+TEST(FontSetting, countsRealChangesAndEveryAssignment)
 {
     FontSetting font;
     EXPECT_EQ(font.getChangeCount(), 1);

@@ -80,7 +80,7 @@ TEST(RendererInfo, numbersWithoutANameReadAsZero)
     }
 }
 
-TEST(RendererInfo, indicesAreHeldAgainstTheirCount)
+TEST(RendererInfo, indicesAreCheckedAgainstTheirCount)
 {
     Capabilities info;
     info.m_missingRequirements = {"no context", "no shaders"};
@@ -105,7 +105,7 @@ TEST(RendererInfo, indicesAreHeldAgainstTheirCount)
     EXPECT_THROW(info.getMultisampleSetting(10), std::out_of_range);
 }
 
-TEST(RendererInfo, getMonitorInfoPtr_sharesTheMonitorAndNeedsAnOwner)
+TEST(RendererInfo, getMonitorInfoPtrSharesTheMonitorAndNeedsAnOwner)
 {
     boost::shared_ptr<RendererInfo::MonitorInfo> kept;
     RendererInfo::MonitorInfo unowned;
@@ -121,7 +121,7 @@ TEST(RendererInfo, getMonitorInfoPtr_sharesTheMonitorAndNeedsAnOwner)
     EXPECT_EQ(kept.use_count(), 1);
 }
 
-TEST(RendererInfo, extensionsAreAskedOfTheRenderersOwnRecord)
+TEST(RendererInfo, extensionsComeFromTheRenderersOwnRecord)
 {
     const Capabilities info;
     const RendererInfo& asked = info;

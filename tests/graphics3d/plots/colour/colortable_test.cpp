@@ -32,7 +32,7 @@ std::vector<std::pair<int, unsigned>> runs(const ColorTable& table)
     return result;
 }
 
-TEST(ColorTable, discreteBandsAreAsWideAsTold)
+TEST(ColorTable, discreteBandsHaveTheGivenWidths)
 {
     struct Case {
         Colors colors;
@@ -55,7 +55,7 @@ TEST(ColorTable, discreteBandsAreAsWideAsTold)
     }
 }
 
-TEST(ColorTable, continuousRunsTruncateAndStopShortOfTheLastColor)
+TEST(ColorTable, continuousGradientsTruncateAndStopShortOfTheLastColor)
 {
     const ColorTable gray("t", ColorTable::Continuous, {{c_black, 1}, {c_white, -5}});
     EXPECT_EQ(gray.getRgba()[0], 0x000000FFu);
@@ -83,7 +83,7 @@ TEST(ColorTable, bothByteOrdersHoldTheSameOpaqueTexels)
     EXPECT_EQ(table.getArgb()[0], 0xFF010203u);
 }
 
-TEST(ColorTable, logsWhatItCalculates)
+TEST(ColorTable, logsItsCalculations)
 {
     CapturedLog log(ErrorLog::Level::info);
     const ColorTable discrete("t", ColorTable::Discrete, {{c_red, 1}});
@@ -111,7 +111,7 @@ TEST(ColorTable, updateKeepsTheIdAndCounts)
     EXPECT_EQ(ColorTable("v", ColorTable::Discrete, {{c_red, 1}}).getId(), id + 1);
 }
 
-TEST(ColorTable, colorsThatMakeNoTableAreRefusedAndTakeNoId)
+TEST(ColorTable, invalidColorsAreRefusedAndUseNoId)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
@@ -162,7 +162,7 @@ TEST_F(ColorTableHandlerTest, addKeepsTheTableOfATakenName)
     EXPECT_FALSE(handler.isColorTable("three"));
 }
 
-TEST_F(ColorTableHandlerTest, aDeletedTableLivesOnOnlyWithItsHolders)
+TEST_F(ColorTableHandlerTest, aDeletedTableIsKeptOnlyByItsHolders)
 {
     handler.addColorTable("one", ColorTable::Discrete, red);
     const boost::shared_ptr<ColorTable> held = handler.getColorTable("one");

@@ -88,7 +88,7 @@ PostRecord spatialSquare()
                {{0.1f, 0.2f, 0.3f, 0.4f}, {0.5f, 0.6f, 0.7f, 0.8f}, {1.0f, 1.1f, 1.2f, 1.3f}});
 }
 
-TEST(SceneGraphPlotSurface2d, fill_liesFlatWithTextureCoordinatesFromZeroToOne)
+TEST(SceneGraphPlotSurface2d, fillIsFlatWithTextureCoordinatesFromZeroToOne)
 {
     SceneGraphPlotSurface2d plot(1);
     EXPECT_FALSE(plot.isValid());
@@ -103,7 +103,7 @@ TEST(SceneGraphPlotSurface2d, fill_liesFlatWithTextureCoordinatesFromZeroToOne)
     EXPECT_TRUE(plot.isValid());
 }
 
-TEST(SceneGraphPlotSurface2d, fill_usesTheLimitsOfGroupZeroAndMapsConstantDataToZero)
+TEST(SceneGraphPlotSurface2d, fillUsesTheLimitsOfGroupZeroAndMapsConstantDataToZero)
 {
     PostRecord record = flatTriangle();
     record.group({{0.0}, {0.0}}, {}, {{1000.0}}); // widens the range of the plot, not the texture coordinates
@@ -119,7 +119,7 @@ TEST(SceneGraphPlotSurface2d, fill_usesTheLimitsOfGroupZeroAndMapsConstantDataTo
     }
 }
 
-TEST(SceneGraphPlotSurface2d, raisedFill_scalesHeightsToTheMeanWidth)
+TEST(SceneGraphPlotSurface2d, raisedFillScalesHeightsToTheMeanWidth)
 {
     SceneGraphPlotSurface2d plot(1);
     plot.fillPlot(raisedTriangle({1.0, 1.0, 1.0})); // heights 0 to 1 become 0 to 3, the mean of 4 and 2
@@ -138,7 +138,7 @@ TEST(SceneGraphPlotSurface2d, raisedFill_scalesHeightsToTheMeanWidth)
     EXPECT_EQ(limitsOf(plot.getBoundingBox()), (std::vector<float>{0, 4, 0, 2, -3, 0}));
 }
 
-TEST(SceneGraphPlotSurface2d, heightData_staysKnownAfterAFlatFill)
+TEST(SceneGraphPlotSurface2d, heightDataIsStillReportedAfterAFlatFill)
 {
     SceneGraphPlotSurface2d plot(1);
     plot.fillPlot(raisedTriangle({1.0, 2.0, 3.0}));
@@ -147,7 +147,7 @@ TEST(SceneGraphPlotSurface2d, heightData_staysKnownAfterAFlatFill)
     EXPECT_EQ(verticesOf(plot)[2][2], 0.0f);
 }
 
-TEST(SceneGraphPlotSurface2d, raisedFill_weighsNormalsWithTheAreaOfTriangles)
+TEST(SceneGraphPlotSurface2d, raisedFillWeightsNormalsByTheAreaOfTriangles)
 {
     // A roof over the y axis: a flat triangle on the left, a slope of 45 degrees and twice the area on the right, and
     // a point that no triangle uses. The scale of heights is 1: bounds of 2 by 2, heights from -2 to 0.
@@ -169,7 +169,7 @@ TEST(SceneGraphPlotSurface2d, raisedFill_weighsNormalsWithTheAreaOfTriangles)
     }
 }
 
-TEST(SceneGraphPlotSurface2d, raisedFill_takesDifferencesInDouble)
+TEST(SceneGraphPlotSurface2d, raisedFillComputesDifferencesInDouble)
 {
     // Far from the origin floats see no triangle at all.
     const double far = 1.0e9;
@@ -184,7 +184,7 @@ TEST(SceneGraphPlotSurface2d, raisedFill_takesDifferencesInDouble)
     EXPECT_EQ(verticesOf(plot)[0][5], 1.0f);
 }
 
-TEST(SceneGraphPlotSurface3d, fill_takesPositionsNormalsAndColoursOfTheRecord)
+TEST(SceneGraphPlotSurface3d, fillTakesPositionsNormalsAndColoursOfTheRecord)
 {
     SceneGraphPlotSurface3d plot(1);
     plot.fillPlot(spatialSquare());
@@ -196,7 +196,7 @@ TEST(SceneGraphPlotSurface3d, fill_takesPositionsNormalsAndColoursOfTheRecord)
     EXPECT_EQ(limitsOf(plot.getBoundingBox()), (std::vector<float>{0, 1, 0, 2, 3, 4}));
 }
 
-TEST(SceneGraphPlotSurface3d, fill_laysTwoDimensionalDataFlatAndNeedsNoNormals)
+TEST(SceneGraphPlotSurface3d, fillDrawsTwoDimensionalDataFlatWithoutNormals)
 {
     SceneGraphPlotSurface3d plot(1);
     PostRecord record = spatialSquare().kind(Record::Surface2d);
@@ -209,7 +209,7 @@ TEST(SceneGraphPlotSurface3d, fill_laysTwoDimensionalDataFlatAndNeedsNoNormals)
     EXPECT_FALSE(plot.hasHeightData());
 }
 
-TEST(SceneGraphPlotDomain3d, fill_isThatOfASurfaceInSpaceWhateverTheKind)
+TEST(SceneGraphPlotDomain3d, fillEqualsThatOfASurfaceInSpaceForEveryKind)
 {
     SceneGraphPlotSurface3d surface(1);
     surface.fillPlot(spatialSquare());
@@ -220,7 +220,7 @@ TEST(SceneGraphPlotDomain3d, fill_isThatOfASurfaceInSpaceWhateverTheKind)
     EXPECT_EQ(limitsOf(domain.getBoundingBox()), limitsOf(surface.getBoundingBox()));
 }
 
-TEST(SurfacePlots, fill_choosesTheWidthOfIndicesByTheNumberOfPoints)
+TEST(SurfacePlots, fillChoosesTheWidthOfIndicesByTheNumberOfPoints)
 {
     for (const std::size_t count : {std::size_t{65535}, std::size_t{65536}}) {
         const Doubles zeros(count, 0.0);
@@ -234,7 +234,7 @@ TEST(SurfacePlots, fill_choosesTheWidthOfIndicesByTheNumberOfPoints)
     }
 }
 
-TEST(SurfacePlots, countersMoveByKind)
+TEST(SurfacePlots, countersChangeByKind)
 {
     SceneGraphPlotSurface2d flat(1);
     SceneGraphPlotSurface3d surface(2);
@@ -251,7 +251,7 @@ TEST(SurfacePlots, countersMoveByKind)
     }
 }
 
-TEST(SurfacePlots, resetPlotData_freesBuffersAndKeepsRangeAndLegend)
+TEST(SurfacePlots, resetPlotDataFreesBuffersAndKeepsRangeAndLegend)
 {
     SceneGraphPlotSurface3d plot(1);
     plot.fillPlot(spatialSquare());
@@ -310,7 +310,7 @@ void expectToSurviveFailures(const PostRecord& first, const PostRecord& second)
     EXPECT_GE(failures, 3); // vertices, indices, segments
 }
 
-TEST(SurfacePlots, fill_thatRunsOutOfMemoryLeavesNoBuffersAndAPlotThatFillsAgain)
+TEST(SurfacePlots, fillThatRunsOutOfMemoryLeavesNoBuffersAndCanBeRepeated)
 {
     PostRecord triangleInSpace = spatialSquare();
     triangleInSpace.record().m_elements[0] = boost::make_shared<Record::IntArrays>(Record::IntArrays{{0}, {1}, {2}});
@@ -374,7 +374,7 @@ const std::vector<Flaw> c_commonFlaws{
     {"bounds", [](Record& r) { r.m_bounds.reset(); }},
 };
 
-TEST(SurfacePlots, fill_refusesARecordThatLacksSomethingAndNamesIt)
+TEST(SurfacePlots, fillRefusesARecordThatLacksSomethingAndNamesIt)
 {
     expectRefusals<SceneGraphPlotSurface2d>(flatTriangle(), "SceneGraphPlotSurface2d", c_commonFlaws);
     expectRefusals<SceneGraphPlotSurface2d>(raisedTriangle({1.0, 2.0, 3.0}), "SceneGraphPlotSurface2d",
@@ -392,7 +392,7 @@ TEST(SurfacePlots, fill_refusesARecordThatLacksSomethingAndNamesIt)
     expectRefusals<SceneGraphPlotDomain3d>(spatialSquare(), "SceneGraphPlotDomain3d", spatial);
 }
 
-TEST(SurfacePlots, raisedFill_matchesAPlainComputationOnARandomSurface)
+TEST(SurfacePlots, raisedFillMatchesAPlainComputationOnARandomSurface)
 {
     constexpr int c_side = 300; // 90000 points: indices of 32 bits
     std::mt19937 random(5);

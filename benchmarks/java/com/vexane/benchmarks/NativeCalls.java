@@ -7,8 +7,8 @@ import java.util.Arrays;
 import java.util.Locale;
 
 /**
- * What a call from Java into the library costs beside an empty native that takes a peer: the frame's own share is the
- * difference. The log is silent.
+ * The cost of a call from Java into the library, compared with an empty native that takes a peer: the difference is the
+ * cost of the native frame. The log is silent.
  */
 public final class NativeCalls {
     private static final int CALLS = 1_000_000;
@@ -18,9 +18,9 @@ public final class NativeCalls {
 
     private static native int empty(NativePeer peer);
 
-    /** A loop of its own for each native, so that the compiler sees one call in it. */
+    /** A separate loop for each native, so that the compiler sees only one call in it. */
     private interface Loop {
-        /** @return the sum of the results, so that no call can be left out */
+        /** @return the sum of the results, so that no call can be optimised away */
         int run(int times);
     }
 

@@ -1,4 +1,4 @@
-/** Turns mouse events into the movement of cameras, for views of any renderer. */
+/** Converts mouse events into movements of cameras, for views of any renderer. */
 module com.vexane.interaction {
     requires transitive com.vexane.graphics3d;
 

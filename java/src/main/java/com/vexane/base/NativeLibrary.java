@@ -13,15 +13,15 @@ import java.util.Objects;
 import java.util.Set;
 
 /**
- * Finds and loads the native libraries. The first use of a peer does so by itself; call {@link #load(Path)} before it
- * to name the folder.
+ * Finds and loads the native libraries. The first use of a peer does so automatically; call {@link #load(Path)} before
+ * it to specify the folder.
  *
- * <p>Places are tried in this order: the folder given to {@link #load(Path)}; the folder that the system property
- * {@value #FOLDER_PROPERTY} names; the jar that holds the classes; the folders of {@code java.library.path}. The
- * first place that has the library decides; if it cannot be loaded from there, that is the failure reported.
+ * <p>Locations are tried in this order: the folder given to {@link #load(Path)}; the folder that the system property
+ * {@value #FOLDER_PROPERTY} specifies; the jar that contains the classes; the folders of {@code java.library.path}. The
+ * first location that has the library decides; if it cannot be loaded from there, that failure is reported.
  */
 public final class NativeLibrary {
-    /** System property that names the folder with the native libraries. */
+    /** System property that specifies the folder with the native libraries. */
     public static final String FOLDER_PROPERTY = "com.vexane.library.path";
 
     private static final String[] OWN = {"vxutil", "vxgraphics3d"};
@@ -36,8 +36,8 @@ public final class NativeLibrary {
     /**
      * Loads the libraries from a folder. Does nothing if they are loaded already.
      *
-     * @param folder the folder that holds them
-     * @throws UnsatisfiedLinkError if they are not there or cannot be loaded; the message names what was tried
+     * @param folder the folder that contains them
+     * @throws UnsatisfiedLinkError if they are not there or cannot be loaded; the message lists every location tried
      */
     public static synchronized void load(Path folder) {
         givenFolder = Objects.requireNonNull(folder, "folder");
@@ -45,9 +45,9 @@ public final class NativeLibrary {
     }
 
     /**
-     * Loads the model library if that has not been done: what a class with natives but without peers calls first.
+     * Loads the model library if it is not loaded yet; a class with natives but without peers calls this first.
      *
-     * @throws UnsatisfiedLinkError if it is found nowhere or cannot be loaded; the message lists every place tried
+     * @throws UnsatisfiedLinkError if it is not found or cannot be loaded; the message lists every location tried
      */
     public static void ensureLoaded() {
         if (!ownLoaded) {
@@ -61,11 +61,11 @@ public final class NativeLibrary {
     }
 
     /**
-     * Loads further libraries that build on the model library, from the same places.
+     * Loads further libraries that build on the model library, from the same locations.
      *
-     * @param anchor a class in the jar that may hold the libraries
-     * @param names their plain names, those that others need first
-     * @throws UnsatisfiedLinkError if one is found nowhere or cannot be loaded; the message lists every place tried
+     * @param anchor a class in the jar that may contain the libraries
+     * @param names their names without prefix and suffix, dependencies first
+     * @throws UnsatisfiedLinkError if one is not found or cannot be loaded; the message lists every location tried
      */
     public static synchronized void require(Class<?> anchor, String... names) {
         if (anchor != NativeLibrary.class) {
@@ -120,7 +120,7 @@ public final class NativeLibrary {
                 "Could not find " + fileName + ". Tried, in this order:\n  " + String.join("\n  ", tried));
     }
 
-    /** All libraries are unpacked into one folder, where they find each other. */
+    /** All libraries are unpacked into one folder, so that they find each other. */
     private static Path unpack(InputStream packed, String fileName) throws IOException {
         if (unpackFolder == null) {
             unpackFolder = Files.createTempDirectory("vexane");

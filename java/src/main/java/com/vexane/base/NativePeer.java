@@ -21,13 +21,16 @@ import java.util.TreeMap;
  * time. The page {@code docs/threads.md} describes what that covers.
  */
 public abstract class NativePeer implements AutoCloseable {
-    /** The collector adds the registrations of lost peers here. */
+    /** The collector enqueues the registrations of lost peers here. */
     private static final ReferenceQueue<NativePeer> LOST = new ReferenceQueue<>();
 
-    /** Lost peers whose release failed before it began, at the end of the stack; a list, guarded by the ring's lock. */
+    /**
+     * Lost peers whose release failed before it began, because the stack was exhausted; a list, guarded by the ring's
+     * lock.
+     */
     private static volatile Registration postponed;
 
-    /** Address of the native handle, 0 while there is none. Native code alone reads and writes it. */
+    /** Address of the native handle, 0 while there is none. Only native code reads and writes it. */
     private long handle;
 
     /** What remains of this peer when it is lost; null once it has been closed. Native code reads it. */
@@ -37,7 +40,7 @@ public abstract class NativePeer implements AutoCloseable {
     protected NativePeer() {
         NativeLibrary.ensureLoaded();
         releaseAllLost();
-        // Registered before it has a handle, so that native code only stores numbers, which cannot fail half-way.
+        // Registered before it has a handle, so that native code only stores numbers, which cannot fail halfway.
         registration = new Registration(this);
         registration.enter();
     }
@@ -135,8 +138,8 @@ public abstract class NativePeer implements AutoCloseable {
     }
 
     /**
-     * What is known of a peer after it has been lost. A ring of all registrations keeps them alive. It is changed by
-     * field assignments only: a call in between could fail at the end of the stack and leave the ring broken.
+     * What remains of a peer after it has been lost. A ring of all registrations keeps them alive. It is changed by
+     * field assignments only: a call in between could fail when the stack is exhausted and leave the ring broken.
      */
     private static final class Registration extends PhantomReference<NativePeer> {
         /** Start and end of the ring, and its lock. */

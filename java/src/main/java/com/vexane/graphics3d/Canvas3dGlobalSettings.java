@@ -12,7 +12,7 @@ import java.util.Objects;
  * marked parts are in {@link MarkingSetups}.
  */
 public final class Canvas3dGlobalSettings {
-    /** How much a renderer spends on a picture. */
+    /** How much effort a renderer spends on a picture. */
     public enum RenderQuality implements NativeEnum {
         /** As little as it can. */
         FAST(0),
@@ -79,7 +79,7 @@ public final class Canvas3dGlobalSettings {
 
         private final int number;
 
-        /** The number to set the action with, which is another one than the number to read; -1 if it cannot be set. */
+        /** The number that sets the action, which differs from the number that is read; -1 if it cannot be set. */
         private final int settable;
 
         CameraMouseAction(int number, int settable) {
@@ -87,7 +87,7 @@ public final class Canvas3dGlobalSettings {
             this.settable = settable;
         }
 
-        /** {@return the number that native code stores and returns; the native that sets an action takes another} */
+        /** {@return the number that native code stores and returns; setting an action uses a different one} */
         @Override
         public int number() {
             return number;

@@ -5,8 +5,7 @@ import com.vexane.base.NativePeer;
 import java.util.Objects;
 
 /**
- * What belongs to one view: whether it shows the 3D or the 2D mode, a camera for each, backgrounds, grid box, axes,
- * fonts, and what the mouse does.
+ * The settings of one view: 3D or 2D mode, a camera for each, backgrounds, grid box, axes, fonts, and the mouse mode.
  *
  * <p>The settings of a view belong to its renderer and are reached by {@link #connect}; settings made by the
  * constructor belong to no view. The parts of the settings have peers of their own: {@link Camera3d},

@@ -7,7 +7,8 @@ import java.nio.file.Path;
  * The log of the native library: one line per message, silent until a level is set.
  *
  * <p>A line has the name of the level, the module, the message, and source file and line, separated by tabs. The log
- * belongs to the process and goes to standard error until a file is set. All threads may log; each line is written whole.
+ * belongs to the process and goes to standard error until a file is set. All threads may log; each line is written
+ * whole.
  */
 public final class ErrorLog {
     /** The levels of messages. The log writes those of its level and of all levels listed before it. */
@@ -16,7 +17,7 @@ public final class ErrorLog {
         NONE(0),
         /** Bad input that makes the library skip a step. */
         ERROR(1),
-        /** Oddities that were handled. */
+        /** Unusual situations that were handled. */
         WARNING(2),
         /** Life cycle and progress of the model's objects. */
         INFO(3),
@@ -52,7 +53,7 @@ public final class ErrorLog {
     }
 
     /**
-     * Sets whether every line is written at once, which is slow but loses nothing if the process dies.
+     * Sets whether every line is written at once, which is slow but loses nothing if the process crashes.
      *
      * @param flush true to write every line at once
      */

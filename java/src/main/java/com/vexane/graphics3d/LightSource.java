@@ -4,7 +4,7 @@ import com.vexane.base.NativePeer;
 import java.util.Objects;
 
 /**
- * A light of a scene: colour, intensities and whether it shines. The subclasses add where it comes from.
+ * A light of a scene: colour, intensities and whether it is on. The subclasses add position and direction.
  *
  * <p>Lights are made and removed by their {@link SceneLight}. A peer keeps its light alive after the light has been
  * removed or the scene is gone; such a light can still be changed, but lights nothing.
@@ -18,7 +18,7 @@ public abstract sealed class LightSource extends NativePeer
     public enum Type implements NativeEnum {
         /** Light from one direction everywhere: a {@link DirectionLightSource}. */
         DIRECTION(1),
-        /** Light from a point to all sides: a {@link PointLightSource}. */
+        /** Light from a point in all directions: a {@link PointLightSource}. */
         POINT(2),
         /** Light from a point within a cone: a {@link SpotLightSource}. */
         SPOT(3);
@@ -62,17 +62,17 @@ public abstract sealed class LightSource extends NativePeer
         setName(this, Objects.requireNonNull(name, "name"));
     }
 
-    /** {@return whether the light shines, initially false} */
+    /** {@return whether the light is on, initially false} */
     public boolean isActive() {
         return isActive(this);
     }
 
     /**
-     * Switches the light on or off. At most eight lights of a scene shine at the same time; a ninth one stays off,
+     * Switches the light on or off. At most eight lights of a scene can be on at the same time; a ninth one stays off,
      * without an error.
      *
      * @param active true to switch it on
-     * @return whether the light shines now
+     * @return whether the light is on now
      */
     public boolean setActive(boolean active) {
         setActive(this, active);

@@ -1,13 +1,13 @@
 package com.vexane.graphics3d;
 
 /**
- * An enumeration whose constants native code knows by number.
+ * An enumeration whose constants have numbers in native code.
  *
  * <p>The numbers are part of the native interface. They are unique in their enumeration, may have gaps, and are not
  * always those of the C++ enumeration: natives translate. Natives take and return numbers, all other methods constants.
  */
 public interface NativeEnum {
-    /** {@return the number by which native code knows this constant} */
+    /** {@return the number of this constant in native code} */
     int number();
 
     /**

@@ -2,7 +2,7 @@ package com.vexane.graphics3d;
 
 import com.vexane.base.NativeException;
 
-/** Light from one point to all sides, as from a lamp. */
+/** Light from one point in all directions, as from a lamp. */
 public final class PointLightSource extends LightSource {
     private PointLightSource() {}
 

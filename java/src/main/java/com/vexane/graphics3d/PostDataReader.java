@@ -28,10 +28,10 @@ public final class PostDataReader {
      *
      * @param record the peer of a record
      * @param file the file
-     * @return true if the file was read. False if the record is of another kind, or if the file is invalid,
-     *     cannot be opened or is no regular file; the log then has the reason, and so has standard error except for
-     *     numbers that are missing in a row.
-     *     The record is unchanged, except for the groups of an iso surface that precede an invalid row
+     * @return true if the file was read. False if the record is of another kind, or if the file is invalid, cannot be
+     *     opened or is not a regular file; the log then has the reason, and so has standard error, except for numbers
+     *     that are missing in a row. The record is unchanged, except for the groups of an iso surface that precede an
+     *     invalid row
      * @throws NullPointerException if an argument is null
      * @throws IllegalStateException if the record is closed
      * @throws NativeException if the peer is not a record, or memory runs out; the record is unchanged

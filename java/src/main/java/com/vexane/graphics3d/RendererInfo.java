@@ -6,7 +6,7 @@ import java.util.List;
 import java.util.Objects;
 
 /**
- * What the renderer of this process can do, and which of its requirements are not met.
+ * The capabilities of the renderer of this process, and which of its requirements are not met.
  *
  * <p>A renderer has a subclass of its own and connects the peer to its native object; until then the peer is closed.
  */
@@ -62,7 +62,7 @@ public class RendererInfo extends NativePeer {
         return getMultisampleSetting(this, Objects.checkIndex(index, getNumberOfMultisampleSettings()));
     }
 
-    /** {@return the number of lights that can shine at once} */
+    /** {@return the number of lights that can be on at once} */
     public int getNumberOfLights() {
         return getNumberOfLights(this);
     }
@@ -87,7 +87,10 @@ public class RendererInfo extends NativePeer {
         cleanupNative(this);
     }
 
-    /** What the video card of one monitor can do. It stays valid after the peer of the renderer's record is closed. */
+    /**
+     * The capabilities of the video card of one monitor. It stays valid after the peer of the renderer's record is
+     * closed.
+     */
     public static final class MonitorInfo extends NativePeer {
         private MonitorInfo() {}
 
@@ -109,7 +112,7 @@ public class RendererInfo extends NativePeer {
             return info;
         }
 
-        /** {@return the name by which the system knows the monitor; may be empty} */
+        /** {@return the name of the monitor in the operating system; may be empty} */
         public String getDeviceID() {
             return getDeviceID(this);
         }
@@ -135,7 +138,7 @@ public class RendererInfo extends NativePeer {
             return joined == null ? List.of() : List.of(joined.split(",", -1));
         }
 
-        /** {@return the number of lights that can shine at once} */
+        /** {@return the number of lights that can be on at once} */
         public int getMaxNumberOfLights() {
             return getMaxNumberOfLights(this);
         }

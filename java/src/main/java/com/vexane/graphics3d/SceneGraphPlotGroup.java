@@ -4,7 +4,7 @@ import com.vexane.base.NativeException;
 import java.util.Objects;
 
 /**
- * A node of the scene tree with plots.
+ * A node of the scene tree that contains plots.
  *
  * <p>A group has 256 texture handles, of which most plots take two and a mesh plot four while they are in the group, so
  * it has space for 128 plots of the usual kind. The title of the group is shown above its plots, together with theirs.

@@ -1,6 +1,6 @@
 package com.vexane.graphics3d;
 
-/** The root of the tree of a scene. Every scene has one root, which it makes itself. */
+/** The root of the tree of a scene. Every scene has one root, which it creates itself. */
 public final class SceneGraphRoot extends SceneGraphSingleChildParent {
     private SceneGraphRoot() {}
 

@@ -7,7 +7,7 @@ import java.util.NoSuchElementException;
  * The light of a scene: its light sources, and the ambient light and intensity that apply to all of them. Every view of
  * the scene chooses through {@link SceneSettingsLight} which light it uses.
  *
- * <p>Light sources have ids from 1, which are never reused. At most eight shine at the same time. Calls take time
+ * <p>Light sources have ids from 1, which are never reused. At most eight can be on at the same time. Calls take time
  * logarithmic in the number of sources, except where stated otherwise.
  */
 public final class SceneLight extends NativePeer {
@@ -28,7 +28,7 @@ public final class SceneLight extends NativePeer {
     }
 
     /**
-     * Makes a light from one direction. It does not shine yet, and its intensity is 0.
+     * Makes a light from one direction. It is switched off, and its intensity is 0.
      *
      * @return the id of the light source, for {@link DirectionLightSource#connect}
      */
@@ -37,7 +37,7 @@ public final class SceneLight extends NativePeer {
     }
 
     /**
-     * Makes a light from one point. It does not shine yet, and its intensity is 0.
+     * Makes a light from one point. It is switched off, and its intensity is 0.
      *
      * @return the id of the light source, for {@link PointLightSource#connect}
      */
@@ -46,7 +46,7 @@ public final class SceneLight extends NativePeer {
     }
 
     /**
-     * Makes a light from one point within a cone. It does not shine yet, and its intensity is 0.
+     * Makes a light from one point within a cone. It is switched off, and its intensity is 0.
      *
      * @return the id of the light source, for {@link SpotLightSource#connect}
      */
@@ -91,13 +91,13 @@ public final class SceneLight extends NativePeer {
         return NativeEnum.of(LightSource.Type.class, getLightSourceType(this, lightId));
     }
 
-    /** {@return the factor on the intensity of every light source, initially 1} */
+    /** {@return the factor for the intensity of every light source, initially 1} */
     public float getTotalLightSourceIntensity() {
         return getTotalLightSourceIntensity(this);
     }
 
     /**
-     * Sets the factor on the intensity of every light source.
+     * Sets the factor for the intensity of every light source.
      *
      * @param intensity the factor; not checked
      */
@@ -105,13 +105,13 @@ public final class SceneLight extends NativePeer {
         setTotalLightSourceIntensity(this, intensity);
     }
 
-    /** {@return the factor on all ambient light, initially 1} */
+    /** {@return the factor for all ambient light, initially 1} */
     public float getAmbientIntensity() {
         return getAmbientIntensity(this);
     }
 
     /**
-     * Sets the factor on all ambient light.
+     * Sets the factor for all ambient light.
      *
      * @param intensity the factor; not checked
      */

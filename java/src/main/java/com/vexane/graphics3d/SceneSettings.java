@@ -144,7 +144,7 @@ public final class SceneSettings extends NativePeer {
         setGlobalOpacity(this, opacity);
     }
 
-    /** {@return whether nothing shines through the scene, that is, whether the opacity is 1 or more} */
+    /** {@return whether the scene is opaque, that is, whether its opacity is 1 or more} */
     public boolean isGlobalOpaque() {
         return isGlobalOpaque(this);
     }

@@ -50,7 +50,7 @@ public final class SpotLightSource extends LightSource {
     }
 
     /**
-     * Turns the light. The direction is in the same coordinates as the position.
+     * Sets the direction of the light. The direction is in the same coordinates as the position.
      *
      * @param x the first component
      * @param y the second component

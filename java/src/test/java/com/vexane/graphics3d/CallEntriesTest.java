@@ -6,14 +6,14 @@ import java.io.IOException;
 import java.util.List;
 import org.junit.jupiter.api.Test;
 
-/** What calls write into the log when they come in: their name, and for some what they were called with. */
+/** The log entries of calls: their name, and for some their arguments. */
 class CallEntriesTest {
     private static List<String> entriesOf(Runnable calls) throws IOException {
         return CapturedLog.messagesOf(ErrorLog.Level.CALLS, calls);
     }
 
     @Test
-    void camerasWriteTheNumbersOfWhatMovesThem() throws IOException {
+    void camerasLogTheirArguments() throws IOException {
         try (Camera2d flat = new Camera2d();
                 Camera3d solid = new Camera3d()) {
             assertEquals(
@@ -53,7 +53,7 @@ class CallEntriesTest {
     }
 
     @Test
-    void otherCallsWriteTheirName() throws IOException {
+    void otherCallsLogTheirName() throws IOException {
         try (TestRenderer.Info info = new TestRenderer.Info();
                 CanvasPickSettings picks = new CanvasPickSettings()) {
             assertEquals(
@@ -72,7 +72,7 @@ class CallEntriesTest {
     }
 
     @Test
-    void illegalPickTargetsAreReportedAndLeaveTheTarget() throws IOException {
+    void illegalPickTargetsAreReportedAndIgnored() throws IOException {
         try (CanvasPickSettings picks = new CanvasPickSettings()) {
             Natives.call(CanvasPickSettings.class, "setPickTarget", picks, 6);
             List<String> lines = CapturedLog.linesOf(ErrorLog.Level.WARNING, () -> {

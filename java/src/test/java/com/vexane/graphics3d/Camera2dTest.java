@@ -11,14 +11,14 @@ import com.vexane.graphics3d.Camera2d.UseMode;
 import java.util.List;
 import org.junit.jupiter.api.Test;
 
-/** The canvas of a camera of its own is square, 100 by 100 pixels. */
+/** The canvas of a standalone camera is square, 100 by 100 pixels. */
 class Camera2dTest {
     private static float[] limits(float... limits) {
         return limits;
     }
 
     @Test
-    void limitsComeBackAdaptedToTheCanvas() {
+    void limitsAreReportedAdaptedToTheCanvas() {
         try (Camera2d camera = new Camera2d()) {
             assertArrayEquals(limits(0, 1, 0, 1), camera.getViewLimits());
             assertTrue(camera.setViewLimits(0, 4, 1, 3));
@@ -33,7 +33,7 @@ class Camera2dTest {
     }
 
     @Test
-    void oneAxisLetsTheOtherFollowOrStay() {
+    void theOtherAxisFollowsOrStays() {
         try (Camera2d camera = new Camera2d()) {
             assertTrue(camera.isPreserveAspectRatio());
             assertTrue(camera.setViewLimitsX(2, 4));
@@ -78,7 +78,7 @@ class Camera2dTest {
 
     @Test
     void fitAndFillReachTheCameraExchanged() {
-        // With the y axis stretched, a merge adapts the limits anew: to this camera FIT fills and FILL fits.
+        // With the y axis stretched, a merge adapts the limits again: for this camera FIT fills and FILL fits.
         for (ResizeBehaviour behaviour : List.of(ResizeBehaviour.FIT, ResizeBehaviour.FILL)) {
             try (Camera2d camera = new Camera2d()) {
                 camera.setOverrideResizeBehaviour(true, behaviour);
@@ -107,7 +107,7 @@ class Camera2dTest {
     }
 
     @Test
-    void badArgumentsAreRefusedAndNumbersThatMakeNoPictureHarmNothing() {
+    void badArgumentsAreRefusedAndMeaninglessNumbersAreHarmless() {
         Camera2d closed = new Camera2d();
         closed.close();
         assertThrows(NativeException.class, closed::getViewLimits);

@@ -18,7 +18,7 @@ class Camera3dTest {
     }
 
     @Test
-    void positionComesBackWithTheLengthOfItsDirection() {
+    void positionIsReadBackWithTheLengthOfItsDirection() {
         try (Camera3d camera = new Camera3d()) {
             camera.setPosition(1, 2, 3, 0, 4, 0, 0, 5, 2);
             assertArrayEquals(new float[] {1, 2, 3},
@@ -30,7 +30,7 @@ class Camera3dTest {
     }
 
     @Test
-    void everyReadableValueComesBack() {
+    void everyReadableValueIsReadBack() {
         try (Camera3d camera = new Camera3d()) {
             assertEquals(20, camera.getFieldOfView(), 1e-5);
             camera.setFieldOfView(45);
@@ -64,7 +64,7 @@ class Camera3dTest {
             assertEquals(ProjectionType.PERSPECTIVE, camera.getProjectionType());
             camera.setProjectionType(ProjectionType.ORTHOGRAPHIC);
             assertEquals(ProjectionType.ORTHOGRAPHIC, camera.getProjectionType());
-            // What is seen under 45 degrees on each side at the rotation point, ten units away.
+            // What is visible at 45 degrees to each side at the rotation point, ten units away.
             assertEquals(20, camera.getOrthographicSize(), 1e-5);
             Natives.call(Camera3d.class, "setProjectionType", camera, 7);
             assertEquals(ProjectionType.PERSPECTIVE, camera.getProjectionType());
@@ -72,7 +72,7 @@ class Camera3dTest {
     }
 
     @Test
-    void zoomHalvesTheExtentsAndLeavesTheMiddle() {
+    void zoomHalvesTheExtentsAndKeepsTheCentre() {
         try (Camera3d camera = new Camera3d()) {
             camera.setOrthographicSize(8);
             camera.setProjectionType(ProjectionType.ORTHOGRAPHIC);
@@ -113,7 +113,7 @@ class Camera3dTest {
     }
 
     @Test
-    void numbersThatMakeNoPictureHarmNothing() {
+    void meaninglessNumbersAreHarmless() {
         float[] numbers = {0, -1, Float.NaN, Float.POSITIVE_INFINITY, -Float.MAX_VALUE, Float.MIN_VALUE};
         List<Consumer<Camera3d>> projections = List.of(c -> c.setProjectionType(ProjectionType.ORTHOGRAPHIC),
                 c -> c.setProjectionType(ProjectionType.PERSPECTIVE));

@@ -21,7 +21,7 @@ class Canvas3dGlobalSettingsTest {
         Canvas3dGlobalSettings.resetCameraMouseActions();
     }
 
-    /** Sets a value, reads it back, and restores what was there. */
+    /** Sets a value, reads it back, and restores the previous value. */
     private static <T> void roundTrip(Supplier<T> get, Consumer<T> set, T value) {
         T before = get.get();
         set.accept(value);
@@ -35,7 +35,7 @@ class Canvas3dGlobalSettingsTest {
     }
 
     @Test
-    void everyValueComesBack() {
+    void everyValueIsReadBack() {
         roundTrip(Canvas3dGlobalSettings::getOnScreenResolution, Canvas3dGlobalSettings::setOnScreenResolution, 96);
         roundTrip(Canvas3dGlobalSettings::isOpenGlDisplayListsUsed,
                 Canvas3dGlobalSettings::setUseOpenGlDisplayLists, false);
@@ -74,7 +74,7 @@ class Canvas3dGlobalSettingsTest {
     }
 
     @Test
-    void startValuesThatJavaKnowsByNameAreThose() {
+    void initialValuesAreTheNamedConstants() {
         assertEquals(ResizeBehaviour.FIT, Canvas3dGlobalSettings.getResizeBehaviour());
         assertEquals(ZoomToExtentBehaviour.TIGHT, Canvas3dGlobalSettings.getZoomToExtentBehaviour());
         assertEquals(RenderQuality.NORMAL, Canvas3dGlobalSettings.getOnScreenRenderQuality());
@@ -102,7 +102,7 @@ class Canvas3dGlobalSettingsTest {
     }
 
     @Test
-    void everyActionThatCanBeSetComesBack() {
+    void everySettableActionIsReadBack() {
         for (CameraMouseAction action : CameraMouseAction.values()) {
             if (action != CameraMouseAction.ORBIT) {
                 Canvas3dGlobalSettings.setCameraMouseAction(2, 5, action);
@@ -146,7 +146,7 @@ class Canvas3dGlobalSettingsTest {
 
     @Test
     void antialiasingNeedsARendererThatOffersIt() {
-        // A renderer that was used before this test has announced itself.
+        // A renderer used by an earlier test has registered itself.
         TestRenderer.Info.withdraw();
         Canvas3dGlobalSettings.setAntiAliasing(true);
         assertFalse(Canvas3dGlobalSettings.isAntiAliasing());
@@ -177,7 +177,7 @@ class Canvas3dGlobalSettingsTest {
     }
 
     @Test
-    void textItemsThatAreNotThereAreInternalErrors() {
+    void missingTextItemsAreInternalErrors() {
         for (int item : new int[] {-1, 7, Integer.MAX_VALUE}) {
             NativeException e = assertThrows(NativeException.class, () -> call("nGetFontName", item));
             assertEquals("There is no text item " + item + ".", e.getDetail());

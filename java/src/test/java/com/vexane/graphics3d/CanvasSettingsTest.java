@@ -22,7 +22,7 @@ import org.junit.jupiter.api.Test;
 
 class CanvasSettingsTest {
     @Test
-    void everyValueComesBack() {
+    void everyValueIsReadBack() {
         try (Canvas3dSettings settings = new Canvas3dSettings()) {
             assertEquals(RenderMode.VIEW_3D, settings.getRenderMode());
             assertEquals(MouseMode.DEFAULT, settings.getMouseMode());
@@ -147,7 +147,7 @@ class CanvasSettingsTest {
     }
 
     @Test
-    void aCopyGoesItsOwnWay() {
+    void aCopyIsIndependent() {
         try (Canvas3dSettings source = new Canvas3dSettings();
                 Camera2d camera = Camera2d.connect(source);
                 AxisSetup axes = AxisSetup.connect(source);
@@ -218,7 +218,7 @@ class CanvasSettingsTest {
     }
 
     @Test
-    void gridBoxSettingsComeBack() {
+    void gridBoxSettingsAreReadBack() {
         try (Canvas3dSettings settings = new Canvas3dSettings();
                 GridBoxSettings grid = GridBoxSettings.connect(settings)) {
             assertTrue(grid.isGridShown());
@@ -234,7 +234,7 @@ class CanvasSettingsTest {
     }
 
     @Test
-    void axisSetupComesBack() {
+    void axisSetupIsReadBack() {
         try (Canvas3dSettings settings = new Canvas3dSettings();
                 AxisSetup axes = AxisSetup.connect(settings)) {
             assertEquals(LegendLayoutStrategy.DEFAULT, axes.getLegendLayoutStrategy());
@@ -274,7 +274,7 @@ class CanvasSettingsTest {
     }
 
     @Test
-    void itemsThatACanvasHasNotAreRefused() {
+    void missingItemsAreRefused() {
         try (Canvas3dSettings settings = new Canvas3dSettings()) {
             int before = settings.getFontSize(Text.AXIS_TITLE);
             for (int item : new int[] {-1, 5, 6, Integer.MAX_VALUE, Integer.MIN_VALUE}) {
@@ -297,7 +297,7 @@ class CanvasSettingsTest {
     }
 
     @Test
-    void settingsOfASceneComeBackAndTellTheRenderer() {
+    void settingsOfASceneAreReadBackAndReportedToTheRenderer() {
         try (TestRenderer view = new TestRenderer();
                 Scene scene = new Scene()) {
             assertThrows(NativeException.class, () -> SceneSettings.connect(view), "the view shows no scene");
@@ -334,7 +334,7 @@ class CanvasSettingsTest {
     }
 
     @Test
-    void lightSwitchesComeBack() {
+    void lightSwitchesAreReadBack() {
         try (TestRenderer view = new TestRenderer();
                 Scene scene = new Scene()) {
             view.show(scene);

@@ -5,11 +5,11 @@ import java.nio.file.Files;
 import java.nio.file.Path;
 import java.util.List;
 
-/** What the library writes into its log, which is silent before and after. */
+/** What the library writes to its log, which is silent before and after. */
 final class CapturedLog {
     private CapturedLog() {}
 
-    /** The lines that some calls write at a level. */
+    /** The lines that the given calls write at a level. */
     static List<String> linesOf(ErrorLog.Level level, Runnable calls) throws IOException {
         Path file = Files.createTempFile("log", ".txt");
         try {

@@ -9,7 +9,7 @@ import java.nio.file.Path;
 import java.util.ArrayList;
 import java.util.List;
 
-/** A virtual machine of its own: for tests that need a fresh process, or that would end theirs if they failed. */
+/** A separate virtual machine: for tests that need a fresh process, or that would crash theirs if they failed. */
 record ChildVm(int exitStatus, String output) {
     /** Runs a main class in a folder and waits for its end. */
     static ChildVm run(Path folder, List<String> options, Class<?> main, String... arguments)
@@ -24,7 +24,7 @@ record ChildVm(int exitStatus, String output) {
         return new ChildVm(process.waitFor(), output);
     }
 
-    /** The same with the native libraries of this process, and with assertions. The program has to end well. */
+    /** The same with the native libraries of this process, and with assertions. The program must exit with status 0. */
     static String runWell(Path folder, List<String> options, Class<?> main, String... arguments)
             throws IOException, InterruptedException {
         List<String> all = new ArrayList<>(List.of("-ea", "-XX:-CreateCoredumpOnCrash",

@@ -33,7 +33,7 @@ class ErrorLogTest {
     }
 
     @Test
-    void everyNumberThatIsNoLevelSilencesTheLog() throws IOException {
+    void everyInvalidLevelSilencesTheLog() throws IOException {
         for (int number : new int[] {0, 6, -1, Integer.MIN_VALUE, Integer.MAX_VALUE}) {
             assertEquals(List.of("nSetReportLevel"), CapturedLog.messagesOf(ErrorLog.Level.DEBUG, () -> {
                 Natives.call(ErrorLog.class, "nSetReportLevel", number);
@@ -43,7 +43,7 @@ class ErrorLogTest {
     }
 
     @Test
-    void aNullFileIsRefusedAndTheLogGoesOn() throws IOException {
+    void aNullFileIsRefusedAndTheLogContinues() throws IOException {
         assertEquals(List.of("nSetActive"), CapturedLog.messagesOf(ErrorLog.Level.CALLS, () -> {
             assertThrows(NullPointerException.class, () -> ErrorLog.setOutputFile(null));
             ErrorLog.setActive(true);

@@ -10,7 +10,7 @@ import org.junit.jupiter.api.Test;
 
 class HardcopySettingsTest {
     @Test
-    void everyReadableValueComesBack() {
+    void everyReadableValueIsReadBack() {
         try (HardcopySettings settings = new HardcopySettings()) {
             assertEquals("", settings.getFileTitle());
             settings.setFileTitle("Spannung \u03c3");
@@ -47,7 +47,7 @@ class HardcopySettingsTest {
     }
 
     @Test
-    void resolutionIsThatOfTheScreenAtTheTimeOfMaking() {
+    void resolutionIsThatOfTheScreenAtConstruction() {
         int before = Canvas3dGlobalSettings.getOnScreenResolution();
         Canvas3dGlobalSettings.setOnScreenResolution(96);
         try (HardcopySettings settings = new HardcopySettings()) {
@@ -57,7 +57,7 @@ class HardcopySettingsTest {
     }
 
     @Test
-    void badArgumentsAreRefusedAndNothingIsTouched() {
+    void badArgumentsAreRefusedAndNothingChanges() {
         try (HardcopySettings settings = new HardcopySettings()) {
             for (int item : new int[] {-1, 7, Integer.MAX_VALUE}) {
                 assertThrows(NativeException.class,

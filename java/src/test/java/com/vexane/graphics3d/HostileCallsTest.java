@@ -29,27 +29,26 @@ import org.junit.jupiter.params.ParameterizedTest;
 import org.junit.jupiter.params.provider.ValueSource;
 
 /**
- * Calls every native that there is, as the checked list names them and as the companions declare them, with everything
- * that is wrong, in a virtual machine of its own. A new native is called by being in the list; a class that is new
- * needs a line in {@link PeerRecipes}.
+ * Calls every native, from the checked list and from the companions' classes, with all kinds of invalid arguments, in a
+ * separate virtual machine. A new native only needs to be in the list; a new class needs a line in {@link PeerRecipes}.
  *
- * <p>A call has one of two outcomes: it ends, or it is refused with a {@link NativeException} that has a known key and
- * says in words what is wrong. Any other exception, or the end of the process, is a fault. What is wrong about a peer
- * has to be refused, with the words for it.
+ * <p>A call has one of two outcomes: it returns, or it is refused with a {@link NativeException} that has a known key
+ * and a message. Any other exception, or the end of the process, is a fault. An invalid peer must be refused with the
+ * expected message.
  */
 class HostileCallsTest {
     private static final int LEAST_CALLS = 20_000;
 
     @ParameterizedTest
     @ValueSource(booleans = {false, true})
-    void everyNativeEndsOrRefuses(boolean isChecked, @TempDir Path folder) throws Exception {
+    void everyNativeReturnsOrRefuses(boolean isChecked, @TempDir Path folder) throws Exception {
         List<String> options = isChecked ? List.of("-Xcheck:jni") : List.of();
         String output = ChildVm.runWell(folder, options, Caller.class, System.getProperty("com.vexane.test.natives"));
         int calls = Integer.parseInt(output.strip().replaceFirst("(?s).*\\n", ""));
         assertTrue(calls >= LEAST_CALLS, output);
     }
 
-    /** The program: prints how many calls it made. Its arguments: the list of natives. */
+    /** The program: prints the number of calls. Its argument is the list of natives. */
     static final class Caller {
         private static final Set<String> KEYS = Set.of("Internal_error_graphics3d");
         private static final int RANDOM_CALLS = 12;
@@ -65,7 +64,7 @@ class HostileCallsTest {
             Path log = Path.of("calls.txt");
             ErrorLog.setOutputFile(log);
             ErrorLog.setReportLevel(ErrorLog.Level.CALLS);
-            // Those of the log change where entries go, so they are called last.
+            // Those of the log change the destination of log entries, so they are called last.
             Predicate<Method> isOfLog = method -> method.getDeclaringClass() == ErrorLog.class;
             for (boolean isFilled : new boolean[] {false, true}) {
                 caller.callAll(natives.stream().filter(isOfLog.negate()).toList(), isFilled);
@@ -82,7 +81,7 @@ class HostileCallsTest {
             System.out.println(caller.numCalls);
         }
 
-        // --- which natives there are ---------------------------------------------------------------------------------
+        // --- the list of natives -------------------------------------------------------------------------------------
 
         private static List<Method> listed(Path list) throws Exception {
             List<Method> natives = new ArrayList<>();
@@ -125,7 +124,7 @@ class HostileCallsTest {
 
         // --- one call ------------------------------------------------------------------------------------------------
 
-        /** @return the words of the refusal, or null if the call ended */
+        /** @return the message of the refusal, or null if the call returned */
         private String call(Method method, Object... arguments) {
             ++numCalls;
             method.setAccessible(true);
@@ -185,7 +184,7 @@ class HostileCallsTest {
             }
         }
 
-        /** Connects the parts to a scene with plots; everything has to be usable for that. */
+        /** Connects the parts to a scene with plots, which requires everything to be usable. */
         private void fill(PeerRecipes peers) {
             SceneGraphRoot root = peers.first(SceneGraphRoot.class);
             SceneGraphPlotGroup group = (SceneGraphPlotGroup) peers.another(SceneGraphPlotGroup.class);
@@ -222,7 +221,7 @@ class HostileCallsTest {
             return method.getName().equals("cleanupNative");
         }
 
-        /** Whether a native gives a peer its object, so that it takes one that has none. */
+        /** Whether a native gives a peer its object, and so accepts a peer without one. */
         private static boolean isMaker(Method method) {
             return method.getName().matches("(create|connect|clone)Native|connectInfo");
         }
@@ -242,7 +241,7 @@ class HostileCallsTest {
             return isInternal(type) ? null : HostileValues.harmless(type);
         }
 
-        /** Whether only peers themselves pass values of a type: what remains of a lost one. */
+        /** Whether values of a type are passed by peers only: the registration of a lost one. */
         private static boolean isInternal(Class<?> type) {
             return type.getPackageName().equals("com.vexane.base") && !NativePeer.class.isAssignableFrom(type);
         }
@@ -281,12 +280,12 @@ class HostileCallsTest {
                 arguments[at] = peer;
                 callRefused(words, method, arguments);
             });
-            // Null stands for nothing in some.
+            // Some natives accept null.
             arguments[at] = null;
             call(method, arguments);
         }
 
-        /** A peer of each kind that natives refuse, with the words for it. */
+        /** A peer of each kind that natives refuse, with the expected message. */
         private static Map<Object, String> wrongPeers(Class<?> type, PeerRecipes closed, PeerRecipes foreign) {
             Map<Object, String> wrong = new HashMap<>();
             wrong.put(null, "The peer is null.");
@@ -297,7 +296,7 @@ class HostileCallsTest {
             return wrong;
         }
 
-        /** With values at random, on each peer whose class has the native. */
+        /** With random values, on each peer whose class has the native. */
         private void callAtRandom(Method method, PeerRecipes sound) {
             if (isMaker(method)) {
                 try (NativePeer self = sound.lone(PeerRecipes.recipeFor(method.getParameterTypes()[0]))) {

@@ -6,7 +6,7 @@ import java.nio.DoubleBuffer;
 import java.util.Map;
 import java.util.Random;
 
-/** What no program should pass to a native: for each type of a parameter that is no peer, values at its limits. */
+/** Values that no program should pass to a native: for each parameter type that is not a peer, values at its limits. */
 final class HostileValues {
     private static final Object[] TEXTS = {null, "", "a", "%s%n{}\\", "\0\ud800\u20ac", "x".repeat(100_000)};
     private static final double[] NO_NUMBERS = {Double.NaN, 1.0, -1e300};
@@ -44,7 +44,7 @@ final class HostileValues {
 
     private final Random random = new Random(17);
 
-    /** One of several values. */
+    /** A random one of several values. */
     Object oneOf(Object[] values) {
         return values[random.nextInt(values.length)];
     }
@@ -58,7 +58,7 @@ final class HostileValues {
         return oneOf(values);
     }
 
-    /** A value of a type that does no harm; 1 where it is a number. */
+    /** A harmless value of a type; 1 for numbers. */
     static Object harmless(Class<?> type) {
         if (type == boolean.class) {
             return true;

@@ -8,7 +8,7 @@ import org.junit.jupiter.api.extension.AfterEachCallback;
 import org.junit.jupiter.api.extension.BeforeEachCallback;
 import org.junit.jupiter.api.extension.ExtensionContext;
 
-/** Fails every test that leaves a peer open. Found by JUnit through the service file beside the tests. */
+/** Fails every test that leaves a peer open. JUnit finds it through the service file next to the tests. */
 public final class LeakCheck implements BeforeEachCallback, AfterEachCallback {
     private static final ExtensionContext.Namespace NAMESPACE = ExtensionContext.Namespace.create(LeakCheck.class);
 

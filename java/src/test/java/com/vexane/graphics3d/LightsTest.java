@@ -29,7 +29,7 @@ class LightsTest {
     }
 
     @Test
-    void everyValueOfTheSceneLightComesBack() {
+    void everyValueOfTheSceneLightIsReadBack() {
         assertEquals(1.0f, light.getTotalLightSourceIntensity());
         assertEquals(1.0f, light.getAmbientIntensity());
         assertEquals(0xffffff, light.getGlobalAmbientColor());
@@ -45,7 +45,7 @@ class LightsTest {
     }
 
     @Test
-    void everyValueOfALightSourceComesBack() {
+    void everyValueOfALightSourceIsReadBack() {
         try (DirectionLightSource source = DirectionLightSource.connect(light, light.createDirectionLight())) {
             assertEquals(1, source.getId());
             assertEquals(LightSource.Type.DIRECTION, source.getType());
@@ -75,7 +75,7 @@ class LightsTest {
     }
 
     @Test
-    void placesAndDirectionsComeBack() {
+    void positionsAndDirectionsAreReadBack() {
         try (DirectionLightSource direction = DirectionLightSource.connect(light, light.createDirectionLight());
                 PointLightSource point = PointLightSource.connect(light, light.createPointLight());
                 SpotLightSource spot = SpotLightSource.connect(light, light.createSpotLight())) {
@@ -149,7 +149,7 @@ class LightsTest {
     }
 
     @Test
-    void idsAreNeverUsedAgainAndMissingOnesAreRefused() {
+    void idsAreNeverReusedAndMissingOnesAreRefused() {
         assertEquals(1, light.createSpotLight());
         assertTrue(light.lightSourceExists(1));
         assertEquals(LightSource.Type.SPOT, light.getLightSourceType(1));
@@ -191,7 +191,7 @@ class LightsTest {
     }
 
     @Test
-    void badArgumentsAreRefusedAndNothingIsTouched() {
+    void badArgumentsAreRefusedAndNothingChanges() {
         try (SpotLightSource spot = SpotLightSource.connect(light, light.createSpotLight())) {
             assertThrows(NullPointerException.class, () -> spot.setName(null));
             assertThrows(NativeException.class, () -> Natives.call(LightSource.class, "setName", spot, null));

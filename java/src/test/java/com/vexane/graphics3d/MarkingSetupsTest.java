@@ -23,7 +23,7 @@ class MarkingSetupsTest {
     }
 
     @Test
-    void allPeersStandForTheSameTables() {
+    void allPeersReferToTheSameTables() {
         Marking marking = new Marking(0x12345678, 0xff0000ff, 2.5f, 0x010203, 3.5f, -1, -4);
         try (MarkingSetups one = MarkingSetups.connect();
                 MarkingSetups other = MarkingSetups.connect()) {
@@ -38,7 +38,7 @@ class MarkingSetupsTest {
     }
 
     @Test
-    void aHiddenRowHoldsZerosUntilItIsSetAgain() {
+    void aHiddenRowContainsZerosUntilItIsSetAgain() {
         try (MarkingSetups setups = MarkingSetups.connect()) {
             setups.setMarkingHidden(Mode.FIRST, Row.PRIMARY);
             assertEquals(new Marking(0, 0, 0.0f, 0, 0.0f, 0, 0), setups.getMarking(Mode.FIRST, Row.PRIMARY));
@@ -48,7 +48,7 @@ class MarkingSetupsTest {
     }
 
     @Test
-    void numbersThatAreNoModeOrRowMeanTheFirst() {
+    void invalidModesAndRowsMeanTheFirst() {
         try (MarkingSetups setups = MarkingSetups.connect()) {
             Natives.call(MarkingSetups.class, "setMarking", setups, 7, 1, 1, 2, 3.0f, 4, 5.0f, 6, 7);
             assertEquals(new Marking(1, 2, 3.0f, 4, 5.0f, 6, 7), setups.getMarking(Mode.FIRST, Row.PRIMARY));

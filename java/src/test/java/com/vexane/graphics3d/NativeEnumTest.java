@@ -14,7 +14,7 @@ class NativeEnumTest {
     }
 
     @Test
-    void aNumberGivesItsConstantAlsoWhereNumbersStartLateOrHaveGaps() {
+    void aNumberGivesItsConstantEvenIfNumbersStartLateOrHaveGaps() {
         assertFound(SceneGraphPlot.Kind.class);
         assertFound(LightSource.Type.class);
         assertFound(CanvasPickSettings.Mask.class);

@@ -9,7 +9,7 @@ import java.util.List;
 import org.junit.jupiter.api.BeforeAll;
 import org.junit.jupiter.api.Test;
 
-/** What Java sees of the failures of natives. */
+/** How failures of natives appear in Java. */
 class NativeExceptionTest {
     @BeforeAll
     static void load() {
@@ -25,7 +25,7 @@ class NativeExceptionTest {
     }
 
     @Test
-    void eachKindOfFailureHasItsKeyItsWordsAndItsPlace() {
+    void eachKindOfFailureHasItsKeyDetailAndLocation() {
         assertEquals(List.of("Some_key", "why", "place.cpp", 17, "Some_key: why (place.cpp:17)"),
                 partsOf(failureOf(0)));
         int line = failureOf(1).getNativeLine();
@@ -41,7 +41,7 @@ class NativeExceptionTest {
     }
 
     @Test
-    void aNativeThatFailsGivesTheZeroOfItsType() {
+    void aFailingNativeReturnsTheZeroOfItsType() {
         for (int kind = 0; kind < 4; ++kind) {
             assertTrue(TestRenderer.isZeroAfterFailure(kind), "kind " + kind);
         }

@@ -15,12 +15,12 @@ import org.junit.jupiter.api.io.TempDir;
 class NativeLibraryTest {
     @TempDir Path folder;
 
-    /** A library is loaded once in a process. */
+    /** A process loads a library only once. */
     private String runWithout(String... options) throws IOException, InterruptedException {
         return ChildVm.run(folder, List.of(options), Main.class).output();
     }
 
-    /** Uses the library twice, as a program does that goes on after a failure. */
+    /** Uses the library twice, like a program that continues after a failure. */
     static final class Main {
         public static void main(String[] args) {
             for (int i = 0; i < 2; ++i) {
@@ -35,7 +35,7 @@ class NativeLibraryTest {
     }
 
     @Test
-    void aMissingLibraryIsReportedWithEveryPlaceTriedEachTime() throws Exception {
+    void aMissingLibraryIsReportedWithEveryLocationTriedEachTime() throws Exception {
         String output = runWithout("-D" + NativeLibrary.FOLDER_PROPERTY + "=" + folder, "-Djava.library.path=/nowhere");
         String once = "Could not find libvxutil.so. Tried, in this order:\n"
                 + "  property com.vexane.library.path: " + folder.toAbsolutePath() + "/libvxutil.so\n"
@@ -45,7 +45,7 @@ class NativeLibraryTest {
     }
 
     @Test
-    void aFileThatIsNoLibraryIsRefused() throws Exception {
+    void aFileThatIsNotALibraryIsRefused() throws Exception {
         Files.writeString(folder.resolve("libvxutil.so"), "not a library");
         String output = runWithout("-D" + NativeLibrary.FOLDER_PROPERTY + "=" + folder);
         assertTrue(output.contains("libvxutil.so"), output);

@@ -6,12 +6,12 @@ import java.lang.reflect.Method;
 import java.lang.reflect.Modifier;
 import java.util.Arrays;
 
-/** Calls private natives with what their public methods would not let through, as a program with bad intent could. */
+/** Calls private natives with arguments that their public methods would refuse, as a malicious program could. */
 final class Natives {
     private Natives() {}
 
     /**
-     * Calls the one native of a class that has that name and number of arguments.
+     * Calls the only native of a class with that name and number of arguments.
      *
      * @throws RuntimeException what the native throws
      */

@@ -13,7 +13,7 @@ import java.util.List;
 import java.util.Map;
 import java.util.function.Function;
 
-/** How a peer of each class is made: the one place that a new class has to be added to for tests of all natives. */
+/** How to make a peer of each class: a new class is added here only, for tests of all natives. */
 final class PeerRecipes implements AutoCloseable {
     private static final Map<Class<?>, Function<PeerRecipes, NativePeer>> RECIPES = new LinkedHashMap<>();
 
@@ -78,7 +78,7 @@ final class PeerRecipes implements AutoCloseable {
                 }
             });
         } catch (ClassNotFoundException e) {
-            // Then none of its natives is there to be called.
+            // Then none of its natives can be called.
         }
     }
 
@@ -91,19 +91,19 @@ final class PeerRecipes implements AutoCloseable {
         return all;
     }
 
-    /** A peer of a class that has a recipe, to be closed by the caller; owners are those made before. */
+    /** A peer of a class that has a recipe, to be closed by the caller; owners are the peers made before. */
     NativePeer lone(Class<?> type) {
         return RECIPES.get(type).apply(this);
     }
 
-    /** One more peer of a class that has a recipe. */
+    /** Another peer of a class that has a recipe. */
     NativePeer another(Class<?> type) {
         NativePeer peer = lone(type);
         made.add(peer);
         return peer;
     }
 
-    /** The peers made so far that are of a class. */
+    /** The peers of a class made so far. */
     List<NativePeer> allOf(Class<?> type) {
         return made.stream().filter(type::isInstance).toList();
     }

@@ -11,12 +11,14 @@ import java.util.concurrent.atomic.AtomicBoolean;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.api.io.TempDir;
 
-/** What peers do at the limits of the virtual machine, each in a process of its own, which a fault would end. */
+/**
+ * How peers behave at the limits of the virtual machine, each in a separate process, because a fault would crash it.
+ */
 class PeerSafetyTest {
     @TempDir
     private Path folder;
 
-    /** Has the collector find lost peers until all are released. */
+    /** Runs the collector until all lost peers are released. */
     private static void awaitRelease() throws InterruptedException {
         for (int i = 0; i < 500 && !NativePeer.countOpen().isEmpty(); ++i) {
             System.gc();
@@ -27,8 +29,8 @@ class PeerSafetyTest {
     }
 
     /**
-     * Loses groups of a scene of which half of the leaves go on in another group, while a second thread, which has only
-     * scenes of its own, makes peers and thereby releases what was lost.
+     * Loses groups of a scene, half of whose leaves remain in another group, while a second thread, which uses only its
+     * own scenes, creates peers and thereby releases the lost ones.
      */
     static final class LosesGroups {
         private static final int LEAVES = 10_000;
@@ -88,7 +90,7 @@ class PeerSafetyTest {
         ChildVm.runWell(folder, List.of("-Xmx256m"), LosesGroups.class);
     }
 
-    /** Opens a peer at each depth of a recursion to the end of the stack, and closes them on the way back. */
+    /** Opens a peer at each depth of a recursion until the stack is exhausted, and closes them on the way back. */
     static final class EndsTheStack implements Runnable {
         private static final int ROUNDS = 150;
         private final SceneGraphGroup[] made = new SceneGraphGroup[100_000];
@@ -119,7 +121,7 @@ class PeerSafetyTest {
             boolean someWereLeft = false;
             for (int round = 0; round < ROUNDS; ++round) {
                 EndsTheStack deep = new EndsTheStack();
-                // Another size each time, so that the end falls on another instruction.
+                // A different size each time, so that the stack ends at a different instruction.
                 Thread thread = new Thread(null, deep, "deep", 200_000 + 1400L * round);
                 thread.start();
                 thread.join();
@@ -138,7 +140,7 @@ class PeerSafetyTest {
     }
 
     @Test
-    void theEndOfTheStackLeavesPeersOpenOrClosed() throws Exception {
+    void stackOverflowsLeavePeersOpenOrClosed() throws Exception {
         ChildVm.runWell(folder, List.of("-Xmx256m"), EndsTheStack.class);
         ChildVm.runWell(folder, List.of("-Xmx256m", "-Xint"), EndsTheStack.class);
     }

@@ -48,7 +48,7 @@ class PickingTest {
     }
 
     @Test
-    void anEmptyCollectionHasNoResultToGive() {
+    void anEmptyCollectionHasNoResults() {
         PickedObjectCollection picked = new PickedObjectCollection();
         assertEquals(0, picked.size());
         assertEquals(0, picked.stream().count());

@@ -10,7 +10,7 @@ import com.vexane.base.NativeException;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.api.function.Executable;
 
-/** Plots and plot groups without data: what is set, who holds what, and what is refused. */
+/** Plots and plot groups without data: setters, ownership and refusals. */
 class PlotGroupTest {
     private static final double[][] GREY = {{0, 0, 0}, {1, 1, 1}};
 
@@ -19,7 +19,7 @@ class PlotGroupTest {
     }
 
     @Test
-    void aPlotKeepsWhatWasSet() {
+    void aPlotKeepsItsSettings() {
         try (SceneGraphPlot plot = new SceneGraphPlotSurface3d(-4)) {
             assertEquals(-4, plot.getId());
             assertEquals(SceneGraphPlot.Kind.SURFACE_3D, plot.getKind());
@@ -86,7 +86,7 @@ class PlotGroupTest {
     }
 
     @Test
-    void plotsComeAndGo() {
+    void plotsAreAddedAndRemoved() {
         try (SceneGraphPlotGroup group = new SceneGraphPlotGroup();
                 SceneGraphPlot plot = new SceneGraphPlotSurface2d(5);
                 SceneGraphPlot other = new SceneGraphPlotSurface3d(7)) {
@@ -106,7 +106,7 @@ class PlotGroupTest {
     }
 
     @Test
-    void aGroupHoldsItsPlotsBeyondTheirPeers() {
+    void aGroupKeepsItsPlotsAliveBeyondTheirPeers() {
         try (SceneGraphPlotGroup group = new SceneGraphPlotGroup()) {
             try (SceneGraphPlot plot = new SceneGraphPlotSurface2d(5)) {
                 plot.setColor(0xABCDEF);
@@ -121,7 +121,7 @@ class PlotGroupTest {
     }
 
     @Test
-    void aPlotBeyondTheTextureHandlesStaysOutside() {
+    void aPlotBeyondTheTextureHandlesIsNotAdded() {
         try (SceneGraphPlotGroup group = new SceneGraphPlotGroup()) {
             for (int id = 1; id <= 129; ++id) {
                 try (SceneGraphPlot plot = new SceneGraphPlotSurface2d(id)) {
@@ -135,7 +135,7 @@ class PlotGroupTest {
     }
 
     @Test
-    void aSecondPeerStandsForTheSameGroup() {
+    void aSecondPeerRefersToTheSameGroup() {
         try (Scene scene = new Scene();
                 SceneGraphRoot root = SceneGraphRoot.connect(scene);
                 SceneGraphPlotGroup group = new SceneGraphPlotGroup();
@@ -151,7 +151,7 @@ class PlotGroupTest {
     }
 
     @Test
-    void connectingToWhatIsNotThereIsRefused() {
+    void connectingToAMissingObjectIsRefused() {
         try (SceneGraphGroup parent = new SceneGraphGroup();
                 SceneGraphGroup child = new SceneGraphGroup();
                 SceneGraphPlotGroup group = new SceneGraphPlotGroup();

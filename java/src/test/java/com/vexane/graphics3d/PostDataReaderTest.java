@@ -35,7 +35,7 @@ class PostDataReaderTest {
     }
 
     @Test
-    void theKindOfTheRecordSaysHowAFileIsRead() throws IOException {
+    void theKindOfTheRecordDecidesHowAFileIsRead() throws IOException {
         Path file = fileOf("plot.txt", TRIANGLE + "% Data\n2\n4\n6\n");
         try (PostDataObject record = emptyRecord(PlotKind.SURFACE_2D)) {
             assertTrue(PostDataReader.readPostData(record, file));
@@ -64,7 +64,7 @@ class PostDataReaderTest {
     }
 
     @Test
-    void aWrongFileLeavesTheRecordEmpty() throws IOException {
+    void anInvalidFileLeavesTheRecordEmpty() throws IOException {
         try (PostDataObject record = emptyRecord(PlotKind.SURFACE_3D)) {
             assertFalse(PostDataReader.readPostData(record, folder.resolve("missing.txt")));
             assertFalse(PostDataReader.readPostData(record, folder));
@@ -75,7 +75,7 @@ class PostDataReaderTest {
     }
 
     @Test
-    void isothermsComeInFiveGroups() {
+    void isothermsHaveFiveGroups() {
         Path data = Path.of(System.getProperty("com.vexane.test.data"));
         try (PostDataObject record = emptyRecord(PlotKind.ISO_SURFACE)) {
             assertTrue(PostDataReader.readPostData(record, data.resolve("ocean_isotherms.txt")));
@@ -87,7 +87,7 @@ class PostDataReaderTest {
     }
 
     @Test
-    void fileNamesMayHoldAnyCharacter() throws IOException {
+    void fileNamesMayContainAnyCharacter() throws IOException {
         assumeTrue("UTF-8".equals(System.getProperty("sun.jnu.encoding")));
         Path file = fileOf("H\u00f6he \u6d77 \ud83c\udf0d.txt", TRIANGLE + "% Data\n2\n4\n6\n");
         try (PostDataObject record = emptyRecord(PlotKind.SURFACE_3D)) {

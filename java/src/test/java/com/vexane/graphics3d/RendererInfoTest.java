@@ -48,7 +48,7 @@ class RendererInfoTest {
     }
 
     @Test
-    void extensionsComeSorted() {
+    void extensionsAreSorted() {
         List<List<String>> wanted = List.of(List.of("a", "b", "c"), List.of("only"), List.of());
         try (RendererInfo info = new TestRenderer.Info()) {
             for (int i = 0; i < wanted.size(); ++i) {

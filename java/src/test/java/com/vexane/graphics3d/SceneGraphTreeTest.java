@@ -14,7 +14,7 @@ import java.util.List;
 import java.util.Random;
 import org.junit.jupiter.api.Test;
 
-/** Flows through scene, root and groups as a program makes them. */
+/** Complete sequences of calls on scene, root and groups, as in a program. */
 class SceneGraphTreeTest {
     private static String detailOf(NativeException e) {
         assertEquals("Internal_error_graphics3d", e.getKey());
@@ -68,7 +68,7 @@ class SceneGraphTreeTest {
     }
 
     @Test
-    void aSecondPeerStandsForTheSameNode() {
+    void aSecondPeerRefersToTheSameNode() {
         try (Scene scene = new Scene();
                 SceneGraphRoot root = SceneGraphRoot.connect(scene);
                 SceneGraphRoot sameRoot = SceneGraphRoot.connect(scene)) {
@@ -90,7 +90,7 @@ class SceneGraphTreeTest {
     }
 
     @Test
-    void connectingToAChildThatIsNotThereFailsAndLeavesNoPeer() {
+    void connectingToAMissingChildFailsAndLeavesNoPeer() {
         try (Scene scene = new Scene();
                 SceneGraphRoot root = SceneGraphRoot.connect(scene);
                 SceneGraphGroup group = new SceneGraphGroup();
@@ -103,13 +103,13 @@ class SceneGraphTreeTest {
             assertThrows(NativeException.class, () -> group.getChildObjectType(-1));
             assertThrows(NativeException.class, root::getChildType);
             assertThrows(NativeException.class, root::getChildObjectType);
-            // A group is no object.
+            // A group is not an object.
             assertThrows(NativeException.class, () -> group.getChildObjectType(1));
         }
     }
 
     @Test
-    void aGroupCannotComeToStandBelowItself() {
+    void aGroupCannotBecomeItsOwnDescendant() {
         try (Scene scene = new Scene();
                 SceneGraphRoot root = SceneGraphRoot.connect(scene);
                 SceneGraphGroup top = new SceneGraphGroup();
@@ -157,14 +157,14 @@ class SceneGraphTreeTest {
     }
 
     @Test
-    void aPeerIsAskedAsEachOfItsClassesInTurnAndNeverAsAnother() {
+    void aPeerIsAcceptedAsEachOfItsClassesButNoOther() {
         try (SceneGraphGroup group = new SceneGraphGroup(); SceneGraphPlotGroup plots = new SceneGraphPlotGroup()) {
             group.addChild(plots);
             for (int i = 0; i < 2; ++i) {
                 assertEquals(1, group.getNoOfChildren());
                 SceneGraphPlotGroup.connect(group, 1).close();
                 assertEquals(-1, group.getChildId());
-                // A plot group is a node, but no parent of nodes.
+                // A plot group is a node, but not a parent of nodes.
                 assertEquals("Argument \"owner\": expected class SceneGraphParent, found class SceneGraphPlotGroup.",
                         detailOf(assertThrows(NativeException.class,
                                 () -> Natives.call(SceneGraphPlotGroup.class, "connectNative", plots, plots, 1))));
@@ -212,7 +212,7 @@ class SceneGraphTreeTest {
     }
 
     @Test
-    void aTreeDeeperThanTheStackIsBuiltAndTakenApart() {
+    void aTreeDeeperThanTheStackIsBuiltAndDestroyed() {
         SceneGraphGroup below = new SceneGraphGroup();
         for (int i = 0; i < 100_000; ++i) {
             SceneGraphGroup above = new SceneGraphGroup();

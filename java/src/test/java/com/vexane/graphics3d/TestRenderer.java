@@ -3,7 +3,7 @@ package com.vexane.graphics3d;
 import com.vexane.base.NativeLibrary;
 import com.vexane.base.NativePeer;
 
-/** One view of a renderer that draws nothing, for what peers get from a renderer. */
+/** One view of a renderer that draws nothing, for peers that connect to a renderer. */
 public final class TestRenderer extends NativePeer {
     static {
         NativeLibrary.require(TestRenderer.class, "vxtestrenderer");
@@ -24,12 +24,12 @@ public final class TestRenderer extends NativePeer {
         show(this, scene);
     }
 
-    /** Sets the mode of the view as a renderer does, which may know more modes. */
+    /** Sets the mode of the view as a renderer does, which may have more modes. */
     void setRenderMode(int mode) {
         setRenderMode(this, mode);
     }
 
-    /** The bits of what has changed in the settings of the scene that the view shows. */
+    /** The change bits of the settings of the scene that the view shows. */
     int getChangedFlags() {
         return getChangedFlags(this);
     }
@@ -40,7 +40,7 @@ public final class TestRenderer extends NativePeer {
             connectInfo(this);
         }
 
-        /** Makes this record the one that the settings of the process ask. */
+        /** Makes this record the one in the settings of the process. */
         void announce() {
             TestRenderer.announce(this);
         }
@@ -58,7 +58,7 @@ public final class TestRenderer extends NativePeer {
         }
     }
 
-    /** Gives a peer without object one that no native knows. */
+    /** Gives a peer without an object an object that no native knows. */
     static void connectForeignTo(NativePeer peer) {
         connectForeign(peer);
     }
@@ -88,9 +88,9 @@ public final class TestRenderer extends NativePeer {
 
     private static native void announce(RendererInfo infoOrNull);
 
-    /** Fails natively: 0 by an exception with a key, 1 for want of memory, 2 by another exception, 3 by a number. */
+    /** Fails natively: 0 by an exception with a key, 1 for lack of memory, 2 by another exception, 3 by a number. */
     static native void fail(int kind);
 
-    /** Whether natives of all types give zero and leave a Java exception behind when they fail. */
+    /** Whether natives of all types return zero and leave a Java exception pending when they fail. */
     static native boolean isZeroAfterFailure(int kind);
 }

@@ -6,7 +6,7 @@ import com.vexane.graphics3d.Canvas3dGlobalSettings.CameraMouseAction;
 import com.vexane.graphics3d.Canvas3dGlobalSettings;
 
 /**
- * Turns what the mouse does over a view into the movement of its camera.
+ * Converts mouse actions over a view into movements of its camera.
  *
  * <p>A press begins a drag with the current camera of the view and the action that
  * {@link Canvas3dGlobalSettings#getCameraMouseAction} returns for the button and the keys; call
@@ -30,8 +30,9 @@ import com.vexane.graphics3d.Canvas3dGlobalSettings;
  * }</pre>
  *
  * <p>Pointer positions are pixels of the picture as in mouse events: from the top left corner, also outside the
- * picture. The interaction keeps the settings of the view alive. Closing it during a drag cancels the drag; if it
- * is dropped without being closed, the camera stays as the drag shows it. All calls take constant time. As for all peers, they must come from one thread at a time, never while the view is drawn.
+ * picture. The interaction keeps the settings of the view alive. Closing it during a drag cancels the drag; if it is
+ * dropped without being closed, the camera stays as the drag shows it. All calls take constant time. As for all peers,
+ * they must come from one thread at a time, never while the view is drawn.
  */
 public final class CameraInteraction extends NativePeer {
     /** The bit of the Shift key in a set of keys. */

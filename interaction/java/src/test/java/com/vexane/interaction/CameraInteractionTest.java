@@ -19,7 +19,7 @@ import org.junit.jupiter.api.AfterEach;
 import org.junit.jupiter.api.BeforeEach;
 import org.junit.jupiter.api.Test;
 
-/** The cameras here draw to 100 by 100 pixels, as cameras do that no renderer has told otherwise. */
+/** The cameras here draw to 100 by 100 pixels, the size of a camera that no renderer has resized. */
 class CameraInteractionTest {
     private static final int HEIGHT = 100;
 
@@ -54,7 +54,7 @@ class CameraInteractionTest {
             assertEquals(CameraMouseAction.ORBIT_ROLL, interaction.getAction());
             assertTrue(interaction.drag(50, 10));
             interaction.release();
-            // A quarter to the left turns the picture, so the camera tips to the right.
+            // Orbiting to the left rotates the up direction, so the camera tips to the right.
             assertEquals(1.0f, camera.getUpDirectionX(), 0.05f);
             assertFalse(interaction.isDragging());
             assertFalse(interaction.drag(60, 60));
@@ -77,7 +77,7 @@ class CameraInteractionTest {
             assertTrue(interaction.zoomToRectangle(70, 20, 20, 70));
             assertLimits(camera, 20.5f, 70.5f, 29.5f, 79.5f);
             assertFalse(interaction.zoomToRectangle(20, 20, 21, 90));
-            // The camera of a 2D view does not turn.
+            // The camera of a 2D view does not rotate.
             assertFalse(interaction.press(1, 0, 50, 50));
         }
     }
@@ -112,7 +112,7 @@ class CameraInteractionTest {
     }
 
     @Test
-    void refusesWhatThereIsNot() {
+    void refusesInvalidArguments() {
         try (TestRenderer view = new TestRenderer();
                 Scene scene = new Scene();
                 CameraInteraction interaction = CameraInteraction.connect(view, HEIGHT)) {

@@ -42,7 +42,7 @@ public enum DataRole {
     /** The levels of iso surfaces and contours: one value per point, or one for the whole group. */
     ISO_LEVEL(19);
 
-    /** How many numbers a record has for roles; some have no meaning to any plot. */
+    /** The number of role slots in a record; some have no meaning to any plot. */
     static final int COUNT = 22;
 
     private static final DataRole[] BY_NUMBER = new DataRole[COUNT];
@@ -59,7 +59,7 @@ public enum DataRole {
         this.number = number;
     }
 
-    /** {@return the number by which native code knows the role, 0 to 21} */
+    /** {@return the number of the role in native code, 0 to 21} */
     public int number() {
         return number;
     }

@@ -31,7 +31,7 @@ public enum PlotKind {
         this.number = number;
     }
 
-    /** {@return the number by which native code knows the kind, different for each kind} */
+    /** {@return the number of the kind in native code, different for each kind} */
     public int number() {
         return number;
     }

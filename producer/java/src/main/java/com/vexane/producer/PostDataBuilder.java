@@ -31,7 +31,7 @@ public final class PostDataBuilder {
     /**
      * Starts a record without groups and roles.
      *
-     * @param kind what the data are
+     * @param kind the kind of the data
      * @throws NullPointerException if the kind is null
      */
     public PostDataBuilder(PlotKind kind) {
@@ -100,8 +100,8 @@ public final class PostDataBuilder {
      *     first group, or not one value or normal per point; a single value for the whole group is accepted where
      *     {@link DataRole#ISO_LEVEL} is the only role of the array; or if normals are to be computed and there are no
      *     triangles in space
-     * @throws IndexOutOfBoundsException if a role has an array that the groups do not have
-     * @throws com.vexane.base.NativeException if an element has a point that its group does not have
+     * @throws IndexOutOfBoundsException if a role refers to an array that the groups do not have
+     * @throws com.vexane.base.NativeException if an element refers to a point that its group does not have
      */
     public PostDataObject build() {
         if (groups.isEmpty()) {

@@ -31,7 +31,7 @@ public final class PostDataGroup {
     Object[] normals = {};
     boolean computesNormals;
     final List<Object> data = new ArrayList<>();
-    /** Minimum and maximum of each data array; NaN where they are to be computed. */
+    /** Minimum and maximum of each data array; NaN if they are to be computed. */
     final List<double[]> limits = new ArrayList<>();
 
     /** Makes an empty group, which needs at least coordinates. */

@@ -72,7 +72,7 @@ public final class PostDataObject extends NativePeer {
      * @param roles the index of the array of each role
      * @return the record, to be closed by the caller
      * @throws IllegalArgumentException if there is no file reader for the kind
-     * @throws IndexOutOfBoundsException if a role has an array that the record does not get
+     * @throws IndexOutOfBoundsException if a role refers to an array that the record does not get
      */
     public static PostDataObject forFile(PlotKind kind, Map<DataRole, Integer> roles) {
         int arrays = switch (Objects.requireNonNull(kind, "kind")) {
@@ -89,14 +89,14 @@ public final class PostDataObject extends NativePeer {
         return new PostDataObject(kind, roles);
     }
 
-    /** Copies a group, whose arrays fit together, into the record. */
+    /** Copies a group, whose arrays have been checked, into the record. */
     void addGroup(PostDataGroup group) {
         double[] limits = group.limits.stream().flatMapToDouble(Arrays::stream).toArray();
         addGroup(this, group.coordinates, group.elements, group.data.toArray(), limits, group.normals,
                 group.computesNormals, group.lineElements);
     }
 
-    /** Sets the bounds, or computes them from the points where none are given. */
+    /** Sets the bounds, or computes them from the points if none are given. */
     void setBounds(double[][] bounds) {
         if (bounds != null) {
             setBounds(this, bounds);
@@ -105,7 +105,7 @@ public final class PostDataObject extends NativePeer {
         }
     }
 
-    /** {@return what the data are} */
+    /** {@return the kind of the data} */
     public PlotKind getPlotKind() {
         return PlotKind.of(getPlotKind(this));
     }

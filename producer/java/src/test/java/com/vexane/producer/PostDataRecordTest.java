@@ -19,7 +19,7 @@ import java.util.OptionalInt;
 import java.util.stream.IntStream;
 import org.junit.jupiter.api.Test;
 
-/** What a builder is given comes back from the record, and what it computes is right. */
+/** A builder's input is read back from the record, and computed values are right. */
 class PostDataRecordTest {
     private static final double INFINITY = Double.POSITIVE_INFINITY;
 
@@ -53,7 +53,7 @@ class PostDataRecordTest {
     }
 
     @Test
-    void arraysComeBackInEveryField() {
+    void arraysAreReadBackFromEveryField() {
         PostDataGroup square = new PostDataGroup()
                 .coordinates(new double[] {0, 1, 1, 0}, new double[] {0, 0, 2, 2}, new double[] {5, 5, 5, 6})
                 .elements(new int[] {0, 0}, new int[] {1, 2}, new int[] {2, 3})
@@ -94,12 +94,12 @@ class PostDataRecordTest {
     }
 
     @Test
-    void buffersComeBackInEveryFieldFromPositionToLimit() {
-        // Values that do not count stand before the position and behind the limit.
+    void buffersAreReadBackFromPositionToLimitInEveryField() {
+        // Values to be ignored are before the position and after the limit.
         DoubleBuffer xy = doubles(99, 0, 1, 1, 0, 0, 0, 2, 2, 99);
         DoubleBuffer z = doubles(5, 5, 5, 6);
         IntBuffer corners = ints(9, 0, 0, 1, 2, 2, 3, 9);
-        // The fifth byte is where no double may start.
+        // No double may start at the fifth byte.
         ByteBuffer odd = bytes(5 + 4 * 8).position(5).slice().order(ByteOrder.nativeOrder());
         DoubleBuffer unaligned = odd.asDoubleBuffer().put(new double[] {1, 2, 3, 4}).flip();
         PostDataGroup square = new PostDataGroup()
@@ -147,7 +147,7 @@ class PostDataRecordTest {
             {INFINITY, -INFINITY, nan, nan},
             {INFINITY, -INFINITY, INFINITY, -INFINITY},
             {-Double.MAX_VALUE, Double.MAX_VALUE, Double.MAX_VALUE, nan, -Double.MAX_VALUE},
-            // The extremes stand in the first and the last of eight values that are compared at once, and behind them.
+            // The extremes are in the first and the last of eight values that are compared at once, and after them.
             {-7, 70, -7, 1, 2, 3, 4, 5, 6, 70, 8},
             {-7, 70, 1, 1, 2, 3, 4, 5, 6, 7, 70, nan, -7},
         };
@@ -193,7 +193,7 @@ class PostDataRecordTest {
     }
 
     @Test
-    void aBuilderReadsItsArraysAnewEachTime() {
+    void aBuilderReadsItsArraysAgainEachTime() {
         double[] values = {1, 2};
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL)
                 .addGroup(new PostDataGroup().coordinates(new double[2]).data(values));
@@ -207,7 +207,7 @@ class PostDataRecordTest {
     }
 
     @Test
-    void largeArraysComeBackWhole() {
+    void largeArraysAreReadBackCompletely() {
         int count = 3_000_000;
         double[] x = IntStream.range(0, count).mapToDouble(i -> i * 0.5).toArray();
         int[] from = IntStream.range(0, count - 1).toArray();
@@ -252,7 +252,7 @@ class PostDataRecordTest {
     }
 
     @Test
-    void principalRolesStandByComponent() {
+    void principalRolesAreOrderedByComponent() {
         assertEquals(8, DataRole.principalLength(1).number());
         assertEquals(10, DataRole.principalDirection(0, 0).number());
         assertEquals(12, DataRole.principalDirection(2, 0).number());

@@ -25,8 +25,8 @@ import org.junit.jupiter.params.provider.Arguments;
 import org.junit.jupiter.params.provider.MethodSource;
 
 /**
- * Every input that does not fit is refused with a message that names it, and no record is left open: the leak check
- * that runs around each test would find it.
+ * Every inconsistent input is refused with a message that names it, and no record remains open: the leak check around
+ * each test would find it.
  */
 class PostDataRefusalTest {
     private static final double[] TWO = {1, 2};
@@ -82,7 +82,7 @@ class PostDataRefusalTest {
 
     @ParameterizedTest
     @MethodSource("groupCalls")
-    void aGroupRefusesWhatCannotBeRightByItself(Class<? extends RuntimeException> type, String message, Executable call) {
+    void aGroupRefusesInvalidArguments(Class<? extends RuntimeException> type, String message, Executable call) {
         assertRefused(type, message, call);
     }
 
@@ -121,7 +121,7 @@ class PostDataRefusalTest {
     }
 
     @Test
-    void elementsThatNamePointsOutsideTheGroupAreRefused() {
+    void elementsThatReferToPointsOutsideTheGroupAreRefused() {
         Map<String, UnaryOperator<PostDataGroup>> cases = Map.of(
                 "group 1: elements[1][2] is point 2, but the group has 2 points",
                 group -> group.elements(new int[] {0, 1, 1}, new int[] {0, 1, 2}),
@@ -138,7 +138,7 @@ class PostDataRefusalTest {
     }
 
     @Test
-    void rolesThatNameNoArrayAreRefused() {
+    void rolesWithoutAnArrayAreRefused() {
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL).addGroup(twoPoints());
         assertRefused(IndexOutOfBoundsException.class, "There is no data[-1] for DataRole.HEIGHT",
                 () -> builder.role(DataRole.HEIGHT, -1));
@@ -147,7 +147,7 @@ class PostDataRefusalTest {
     }
 
     @Test
-    void oneValueForAGroupIsRefusedWhereMoreThanTheLevelReadsIt() {
+    void oneValueForAGroupIsRefusedIfMoreThanTheLevelUsesIt() {
         PostDataGroup group = new PostDataGroup().coordinates(TWO).data(new double[] {5});
         PostDataBuilder builder = new PostDataBuilder(PlotKind.ISO_SURFACE).addGroup(group);
         String message = "group 0: data[0] has 1 values for 2 points";
@@ -159,7 +159,7 @@ class PostDataRefusalTest {
     }
 
     @Test
-    void boundsThatAreNoRangesAreRefused() {
+    void boundsThatAreNotRangesAreRefused() {
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL).addGroup(twoPoints());
         assertRefused(IllegalArgumentException.class, "bounds: 0 axes, not 1 to 3", builder::bounds);
         assertRefused(IllegalArgumentException.class, "bounds[1] is no range: [2.0, 1.0]",

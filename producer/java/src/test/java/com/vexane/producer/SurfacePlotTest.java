@@ -12,7 +12,7 @@ import com.vexane.graphics3d.SceneGraphPlotSurface3d;
 import java.util.List;
 import org.junit.jupiter.api.Test;
 
-/** The road of a surface plot: records from Java arrays, fills, and what the plot then says of its values. */
+/** A surface plot from start to end: records from Java arrays, fills, and the values that the plot then reports. */
 class SurfacePlotTest {
     private static PostDataGroup flatGroup(double... values) {
         return new PostDataGroup().coordinates(new double[] {0, 1, 0}, new double[] {0, 0, 1})
@@ -81,7 +81,7 @@ class SurfacePlotTest {
     }
 
     @Test
-    void aRecordThatLacksSomethingIsRefusedAndThePlotStaysAsItWas() {
+    void anIncompleteRecordIsRefusedAndThePlotIsUnchanged() {
         try (SceneGraphPlot plot = new SceneGraphPlotSurface3d(1);
                 PostDataObject good = spatialRecord(true);
                 PostDataObject withoutNormals = spatialRecord(false);
