@@ -1,4 +1,4 @@
-// A renderer in words: walks the tree of a scene and prints what it would load and draw.
+// A renderer that prints text: walks the tree of a scene and prints what it would load and draw.
 #include "graphics3d/buffers/vertexlayout.h"
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/foundation/lastchangeid.h"
@@ -22,7 +22,7 @@ public:
         camera.setRenderArea(400, 200, 0, 0, 400, 200);
         camera.setBoundingBox(scene.getBoundingBox());
         std::puts("frame");
-        // A list of open nodes instead of calls: groups may be nested deeper than the stack.
+        // A list of nodes to visit instead of recursion: groups may be nested deeper than the stack.
         std::vector<const SceneGraphNode*> open;
         if (scene.getRoot()->doesChildExist(0)) {
             open.push_back(scene.getRoot()->getChild(0));

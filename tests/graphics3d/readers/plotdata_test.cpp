@@ -108,7 +108,7 @@ TEST(PlotData, samplesOfThePageBehaveAsDocumented)
     std::ostringstream text;
     text << stream.rdbuf();
     const std::string page = text.str();
-    // A sample, and the message that it gives if it is a wrong one.
+    // A sample, and its message if it is invalid.
     const std::regex sample(R"(<!-- from docs/samples/(\S+) -->\s```\n[^`]*```\n(\nMessage: `(.*)`\n)?)");
     int numSamples = 0;
     for (std::sregex_iterator match(page.begin(), page.end(), sample), end; match != end; ++match) {
