@@ -9,8 +9,8 @@
 
 namespace vxbase {
 
-/// An argument refers to an object of the wrong class:
-/// `Argument "child": expected class SceneGraphNode, found class Scene.`
+/// An argument refers to an object of the wrong class. The text names the argument, and the classes expected and found:
+/// "Argument \"child\": expected class SceneGraphNode, found class Scene."
 ///
 /// Class names are those of C++ without namespaces, which match the Java peers where there is one.
 class VX_API WrongClass : public std::bad_cast {

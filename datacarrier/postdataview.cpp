@@ -11,7 +11,7 @@ namespace {
 
 std::string roleText(const PostDataRole& role)
 {
-    return "role " + std::to_string(role.number) + " (" + role.name + ")";
+    return std::string(role.name) + " (role " + std::to_string(role.number) + ")";
 }
 
 std::string groupText(int group)
@@ -40,6 +40,10 @@ const PostDataView::DoubleArrays& PostDataView::coordinates(int group, int minAx
 
 const PostDataView::FloatArrays& PostDataView::normals(int group) const
 {
+    const auto at = static_cast<std::size_t>(group);
+    if (at >= m_record.m_normals.size() || !m_record.m_normals[at] || m_record.m_normals[at]->empty()) {
+        fail("normals" + groupText(group) + " are missing; the producer's computeNormals computes them from triangles");
+    }
     const FloatArrays& arrays = equalArrays(entry(m_record.m_normals, group, "normals"), group, 3, "normals");
     if (arrays.front().size() != coordinates(group, 1).front().size()) {
         fail("normals" + groupText(group) + " have " + countText(arrays.front().size(), group));
@@ -71,7 +75,7 @@ const std::vector<double>& PostDataView::levelData(int group, const PostDataRole
     const std::size_t index = filledIndex(role);
     const DoubleArrays& arrays = entry(m_record.m_data, group, "data");
     if (index >= arrays.size()) {
-        fail(roleText(role) + groupText(group) + " names data array " + std::to_string(index) + " of " +
+        fail(roleText(role) + groupText(group) + " is data array " + std::to_string(index) + " of " +
              std::to_string(arrays.size()));
     }
     return arrays[index];
@@ -165,7 +169,7 @@ double PostDataView::limit(const std::vector<boost::shared_ptr<std::vector<doubl
     const std::size_t index = filledIndex(role);
     const std::vector<double>& values = entry(limits, group, field);
     if (index >= values.size()) {
-        fail(roleText(role) + groupText(group) + " names entry " + std::to_string(index) + " of " +
+        fail(roleText(role) + groupText(group) + " is entry " + std::to_string(index) + " of " +
              std::to_string(values.size()) + " " + field);
     }
     return values[index];

@@ -16,9 +16,9 @@ struct PostDataRole {
 };
 
 /// The roles with the same meaning for every plot.
-inline constexpr PostDataRole c_colorData{PostDataObject::ColorData, "colour data"};
-inline constexpr PostDataRole c_heightData{PostDataObject::HeightData, "height data"};
-inline constexpr PostDataRole c_isoLevelData{PostDataObject::IsoLevelData, "iso level data"};
+inline constexpr PostDataRole c_colorData{PostDataObject::ColorData, "DataRole.COLOR"};
+inline constexpr PostDataRole c_heightData{PostDataObject::HeightData, "DataRole.HEIGHT"};
+inline constexpr PostDataRole c_isoLevelData{PostDataObject::IsoLevelData, "DataRole.ISO_LEVEL"};
 
 /// How a plot reads a record: each access first checks that the data are present and have the right shape, and throws
 /// std::invalid_argument with a text that names the plot and the role or field. A view is made for each fill; the

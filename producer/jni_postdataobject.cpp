@@ -2,7 +2,9 @@
 #include "base/java/nativeframe.h"
 #include "base/java/peerhandle.h"
 #include "datacarrier/postdataobject.h"
+#include "graphics3d/readers/postdatareader.h"
 #include "producer/javavalues.h"
+#include "producer/recordgroups.h"
 #include "producer/recordlimits.h"
 
 #include <boost/make_shared.hpp>
@@ -37,54 +39,6 @@ const Arrays& entry(const std::vector<boost::shared_ptr<Arrays>>& groups, jint g
     return at < groups.size() && groups[at] ? *groups[at] : none;
 }
 
-/// Lets each vector take one more entry.
-template <class... Vectors>
-void makeSpace(Vectors&... vectors)
-{
-    (vectors.reserve(std::max(vectors.capacity(), vectors.size() == vectors.capacity() ? 2 * vectors.size() + 1 : 0)),
-     ...);
-}
-
-/// Copies a group and tests its indices before the record is touched.
-void addGroup(JNIEnv* env, PostDataObject& record, jobjectArray coordinates, jobjectArray elements, jobjectArray data,
-              const std::vector<double>& limits, jobjectArray normals, jobjectArray lineElements)
-{
-    const std::size_t group = record.m_coordinates.size();
-    const auto points = shared(copyRows<double>(env, coordinates, "coordinates"));
-    if (points->empty()) {
-        throw std::invalid_argument("coordinates has no rows.");
-    }
-    const auto corners = shared(copyRows<int>(env, elements, "elements"));
-    const auto ends = shared(copyRows<int>(env, lineElements, "lineElements"));
-    const std::size_t numPoints = points->front().size();
-    requireInside(*corners, numPoints, "elements", group);
-    requireInside(*ends, numPoints, "lineElements", group);
-    const auto values = shared(copyRows<double>(env, data, "data"));
-    if (limits.size() != 2 * values->size()) {
-        throw std::invalid_argument("limits has " + std::to_string(limits.size()) + " entries for " +
-                                    std::to_string(values->size()) + " data arrays.");
-    }
-    const auto minima = shared(std::vector<double>(values->size()));
-    const auto maxima = shared(std::vector<double>(values->size()));
-    for (std::size_t i = 0; i < values->size(); ++i) {
-        const ValueRange given = {limits[2 * i], limits[2 * i + 1]};
-        const ValueRange range = std::isnan(given.min) ? finiteRange((*values)[i]) : given;
-        (*minima)[i] = range.min;
-        (*maxima)[i] = range.max;
-    }
-    const auto directions = shared(copyRows<float>(env, normals, "normals"));
-    // From here on nothing can fail, so the record gets all of the group or nothing.
-    makeSpace(record.m_coordinates, record.m_elements, record.m_data, record.m_dataMax, record.m_dataMin,
-              record.m_normals, record.m_lineElements);
-    record.m_coordinates.push_back(points);
-    record.m_elements.push_back(corners);
-    record.m_data.push_back(values);
-    record.m_dataMax.push_back(maxima);
-    record.m_dataMin.push_back(minima);
-    record.m_normals.push_back(directions);
-    record.m_lineElements.push_back(ends);
-}
-
 } // namespace
 
 VX_NATIVE(void, PostDataObject, createNative)(JNIEnv* env, jclass, jobject self, jint plotKind, jintArray dataIndex)
@@ -105,12 +59,40 @@ VX_NATIVE(void, PostDataObject, cleanupNative)(JNIEnv* env, jclass, jobject self
 
 VX_NATIVE(void, PostDataObject, addGroup)
 (JNIEnv* env, jclass, jobject self, jobjectArray coordinates, jobjectArray elements, jobjectArray data,
- jdoubleArray limits, jobjectArray normals, jobjectArray lineElements)
+ jdoubleArray limits, jobjectArray normals, jboolean computeNormals, jobjectArray lineElements)
 {
     guarded(env, [&] {
         auto& record = peer<PostDataObject>(env, self);
-        addGroup(env, record, coordinates, elements, data, fromJava<std::vector<double>>(env, limits), normals,
-                 lineElements);
+        PostDataGroup group = {copyRows<double>(env, coordinates, "coordinates"),
+                               copyRows<int>(env, elements, "elements"),
+                               copyRows<double>(env, data, "data"),
+                               copyRows<int>(env, lineElements, "lineElements"),
+                               copyRows<float>(env, normals, "normals"),
+                               computeNormals != JNI_FALSE};
+        const auto ends = fromJava<std::vector<double>>(env, limits);
+        if (ends.size() != 2 * group.data.size()) {
+            throw std::invalid_argument("limits has " + std::to_string(ends.size()) + " entries for " +
+                                        std::to_string(group.data.size()) + " data arrays.");
+        }
+        for (std::size_t i = 0; i < ends.size(); i += 2) {
+            // Java marks limits that are to be computed by NaN, a group by an empty range.
+            group.limits.push_back(std::isnan(ends[i]) ? ValueRange() : ValueRange{ends[i], ends[i + 1]});
+        }
+        append(record, std::move(group));
+    });
+}
+
+VX_NATIVE(jstring, PostDataObject, read)(JNIEnv* env, jclass, jobject self, jstring file, jintArray row)
+{
+    return guarded(env, [&]() -> jstring {
+        auto& record = peer<PostDataObject>(env, self);
+        jintArrayRH::atLeast(env, row, 1);
+        vxgraphics3d::ReaderError error;
+        if (vxgraphics3d::readPostData(record, fromJava<std::string>(env, file), error)) {
+            return nullptr;
+        }
+        *jintArrayRH(env, row).get() = error.row;
+        return toJavaNew(env, error.message);
     });
 }
 

@@ -74,9 +74,9 @@ void requireInside(const vxdatacarrier::PostDataObject::IntArrays& corners, std:
             const auto found =
                 std::find_if(indices.begin(), indices.end(), [&](int index) { return number(index) >= numPoints; });
             throw std::out_of_range("group " + std::to_string(group) + ": " + field + "[" + std::to_string(corner) +
-                                    "] names point " + std::to_string(*found) + " at entry " +
-                                    std::to_string(found - indices.begin()) + ", the group has " +
-                                    std::to_string(numPoints) + " points");
+                                    "][" + std::to_string(found - indices.begin()) + "] is point " +
+                                    std::to_string(*found) + ", but the group has " + std::to_string(numPoints) +
+                                    " points");
         }
     }
 }

@@ -104,11 +104,14 @@ void Camera3d::import(const Camera3d& other)
 
 void Camera3d::lookAt(const Vector3f& position, const Vector3f& direction, const Vector3f& upHint)
 {
+    // The arguments may be vectors of this camera.
     const float length = direction.length();
-    m_forward = direction.normalized();
-    m_right = m_forward.cross(upHint).normalized();
-    m_up = m_right.cross(m_forward);
+    const Vector3f forward = direction.normalized();
+    const Vector3f right = forward.cross(upHint).normalized();
     m_position = position;
+    m_forward = forward;
+    m_right = right;
+    m_up = right.cross(forward);
     calculateRotationMatrix(m_right, m_up, m_forward);
     m_actualPosition = m_position;
     calculateViewMatrix();

@@ -46,12 +46,14 @@ void AxisSetup::setExtraY(std::vector<double> positions)
 
 void AxisSetup::setTitle(vxbase::UString& title, const vxbase::UString& text)
 {
-    title.clear();
+    // The text may be the present title.
+    vxbase::UString markup;
     if (!text.empty()) {
         vxbase::UString escaped;
         TextUtil::escapeBracesAndBackslash(text, escaped);
-        title.append("\\begin{center}\\unicode{").append(escaped).append("}\\end{center}");
+        markup.append("\\begin{center}\\unicode{").append(escaped).append("}\\end{center}");
     }
+    title = std::move(markup);
     m_changeId.raise();
 }
 

@@ -2,6 +2,7 @@
 
 #include "graphics3d/canvas/canvasbackgroundimage.h"
 
+#include <tuple>
 #include <utility>
 
 namespace vxgraphics3d {
@@ -49,8 +50,8 @@ void Canvas3dBackgroundSettings::setShadedBackground(const Color& top, const Col
         return;
     }
     m_shaded = true;
-    m_topColor = top;
-    m_bottomColor = bottom;
+    // Both may be colours of these settings.
+    std::tie(m_topColor, m_bottomColor) = std::make_tuple(top, bottom);
     countChange();
 }
 

@@ -26,14 +26,16 @@ public:
     void init(const Color& sheet, const Color& line, const Color& point, float lineWidth, float pointSize,
               const Color& label, int polygonLayer)
     {
-        m_visible = true;
-        m_sheetColor = sheet;
-        m_lineColor = line;
-        m_pointColor = point;
-        m_lineWidth = lineWidth;
-        m_pointSize = pointSize;
-        m_labelColor = label;
-        m_polygonLayer = polygonLayer;
+        // The colours may be those of this row.
+        Marking row;
+        row.m_sheetColor = sheet;
+        row.m_lineColor = line;
+        row.m_pointColor = point;
+        row.m_lineWidth = lineWidth;
+        row.m_pointSize = pointSize;
+        row.m_labelColor = label;
+        row.m_polygonLayer = polygonLayer;
+        *this = row;
     }
     /// Makes the row hidden. Its colours and sizes are lost: only a full `init` brings it back.
     void initHidden()

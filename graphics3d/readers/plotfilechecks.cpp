@@ -1,7 +1,7 @@
 #include "graphics3d/readers/plotfilechecks.h"
 
 #include "graphics3d/readers/plotfilecontents.h"
-#include "graphics3d/readers/readererror.h"
+#include "graphics3d/readers/readerreports.h"
 
 namespace vxgraphics3d {
 
@@ -10,7 +10,7 @@ namespace {
 bool hasPoints(const PlotFileContents& contents)
 {
     if (contents.numPoints() == 0) {
-        reportError("No coordinates in file.");
+        reportError(c_wholeFile, "No coordinates in file.");
         return false;
     }
     return true;
@@ -24,11 +24,11 @@ bool hasSurface(const PlotFileContents& contents)
         return false;
     }
     if (contents.numPoints() != contents.count(PlotSection::data)) {
-        reportError("Coordinates do not match Data.");
+        reportError(c_wholeFile, "Coordinates do not match Data.");
         return false;
     }
     if (contents.count(PlotSection::triangles) == 0 && contents.count(PlotSection::quads) == 0) {
-        reportError("No triangles or quads in file.");
+        reportError(c_wholeFile, "No triangles or quads in file.");
         return false;
     }
     logInfo("File contains %d coordinates with data, %d triangles and %d quads [%f, %f]", contents.numPoints(),
@@ -43,11 +43,11 @@ bool hasArrows(const PlotFileContents& contents)
         return false;
     }
     if (contents.numPoints() != contents.count(PlotSection::vectors)) {
-        reportError("Coordinates do not match Vector Data.");
+        reportError(c_wholeFile, "Coordinates do not match Vector Data.");
         return false;
     }
     if (contents.count(PlotSection::data) != 0 && contents.numPoints() != contents.count(PlotSection::data)) {
-        reportError("Coordinates do not match Data.");
+        reportError(c_wholeFile, "Coordinates do not match Data.");
         return false;
     }
     logInfo("File contains %d coordinates with vectordata. [%f, %f]", contents.numPoints(), contents.vectors.limits.min,
@@ -61,11 +61,11 @@ bool hasEdges(const PlotFileContents& contents)
         return false;
     }
     if (contents.numPoints() != contents.count(PlotSection::data)) {
-        reportError("Coordinates do not match Data.");
+        reportError(c_wholeFile, "Coordinates do not match Data.");
         return false;
     }
     if (contents.count(PlotSection::lines) == 0) {
-        reportError("No lines in file.");
+        reportError(c_wholeFile, "No lines in file.");
         return false;
     }
     logInfo("File contains %d coordinates with data, %d lines [%f, %f]", contents.numPoints(),
@@ -79,11 +79,11 @@ bool hasDomainMesh(const PlotFileContents& contents)
         return false;
     }
     if (contents.count(PlotSection::tetrahedra) == 0) {
-        reportError("No tetrahedral in file.");
+        reportError(c_wholeFile, "No tetrahedral in file.");
         return false;
     }
     if (contents.count(PlotSection::tetrahedra) != contents.count(PlotSection::tetrahedralData)) {
-        reportError("Tetrahedrals do not match tetrahedral Data.");
+        reportError(c_wholeFile, "Tetrahedrals do not match tetrahedral Data.");
         return false;
     }
     logInfo("File contains %d coordinates and %d tetrahedral [%f, %f]", contents.numPoints(),

@@ -13,7 +13,7 @@ bool expectTag(TextFile& file, PlotSection section)
     }
     const std::string_view tag = c_plotTags[static_cast<std::size_t>(section)];
     if (row == nullptr || !isTagRow(row, tag)) {
-        reportError("Expected tag \"%s\" at row %d", tag.data(), file.rowNumber());
+        reportError(file.rowNumber(), "Expected tag \"%s\" at row %d", tag.data(), file.rowNumber());
         return false;
     }
     return true;
@@ -37,7 +37,7 @@ bool readPoints(TextFile& file, int numPoints, PlotPoints& points)
         }
         const char* row = file.nextRow();
         if (row == nullptr) {
-            reportError("End of file when reading coordinates, file %s", file.name().c_str());
+            reportError(file.rowNumber(), "End of file when reading coordinates, file %s", file.name().c_str());
             return false;
         }
         Vector3f point;
@@ -57,7 +57,7 @@ int nextElements(TextFile& file, int* corners, int numCorners, int maxElements, 
     }
     const char* row = file.nextRow();
     if (row == nullptr) {
-        reportError("End of file when reading %s elements, file %s", kind, file.name().c_str());
+        reportError(file.rowNumber(), "End of file when reading %s elements, file %s", kind, file.name().c_str());
         return 0;
     }
     return getIndices(corners, numCorners, row, file.rowNumber()) ? 1 : 0;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "graphics3d/readers/plotfilecontents.h"
-#include "graphics3d/readers/readererror.h"
+#include "graphics3d/readers/readerreports.h"
 #include "graphics3d/readers/textfile.h"
 
 #include <algorithm>
@@ -52,7 +52,8 @@ bool readElements(TextFile& file, PlotSection section, int count, const PointGro
         for (int i = 0; i < numElements; ++i) {
             const int* const element = corners + i * numCorners;
             if (!group.contains(element, numCorners)) {
-                reportError("Index out of group range when reading %s elements, file %s", kind, file.name().c_str());
+                reportError(file.rowNumber() - numElements + 1 + i,
+                            "Index out of group range when reading %s elements, file %s", kind, file.name().c_str());
                 return false;
             }
             take(element);

@@ -1,7 +1,7 @@
 #include "graphics3d/readers/plotfilescan.h"
 
 #include "graphics3d/readers/plotfilecontents.h"
-#include "graphics3d/readers/readererror.h"
+#include "graphics3d/readers/readerreports.h"
 #include "graphics3d/readers/rowvalues.h"
 #include "graphics3d/readers/textfile.h"
 
@@ -77,7 +77,7 @@ private:
     void countRows(int numRows);
     bool takeCoordinates(const char* row);
     bool takeElements(const int* corners, int numElements);
-    bool takeData(double value);
+    bool takeData(const double* values, int numRows);
     bool takeVector(const char* row);
     bool takeTetrahedralData(double value);
 
@@ -122,7 +122,7 @@ bool Pass::run()
 bool Pass::enterSection(const char* row)
 {
     auto section = static_cast<std::size_t>(m_section);
-    if (!findTag(c_plotTags, section, row, m_file.name())) {
+    if (!findTag(c_plotTags, section, row, m_file.rowNumber(), m_file.name())) {
         return false;
     }
     if (static_cast<PlotSection>(section) != m_section) {
@@ -151,7 +151,7 @@ bool Pass::takePlainRows()
         double values[c_maxRows];
         while (const int numRows = m_file.nextPlainReals(values, 1, c_maxRows)) {
             countRows(numRows);
-            if (!std::all_of(values, values + numRows, [this](double value) { return takeData(value); })) {
+            if (!takeData(values, numRows)) {
                 return false;
             }
         }
@@ -178,7 +178,8 @@ bool Pass::takeRow(const char* row)
         return takeVector(row);
     }
     double value = 0.0;
-    return getReal(value, row) && (m_section == PlotSection::data ? takeData(value) : takeTetrahedralData(value));
+    return getReal(value, row, m_file.rowNumber()) &&
+           (m_section == PlotSection::data ? takeData(&value, 1) : takeTetrahedralData(value));
 }
 
 void Pass::countRows(int numRows)
@@ -216,15 +217,14 @@ bool Pass::takeElements(const int* corners, int numElements)
 {
     const ElementSection& section = ElementSection::of(m_section);
     std::vector<PointGroup>& groups = m_contents.groups;
-    for (const int* const end = corners + numElements * section.numCorners; corners != end;
-         corners += section.numCorners) {
+    for (int i = 0; i < numElements; ++i, corners += section.numCorners) {
         // Elements come in the order of the groups, so the search never goes back.
         while (m_elementGroup < groups.size() && corners[0] > groups[m_elementGroup].last) {
             ++m_elementGroup;
         }
         PointGroup* const group = m_elementGroup < groups.size() ? &groups[m_elementGroup] : nullptr;
         if (group == nullptr || !group->contains(corners, section.numCorners)) {
-            reportError("%s", section.outsideGroups);
+            reportError(m_file.rowNumber() - numElements + 1 + i, "%s", section.outsideGroups);
             return false;
         }
         ++(group->*section.count);
@@ -232,24 +232,27 @@ bool Pass::takeElements(const int* corners, int numElements)
     return true;
 }
 
-bool Pass::takeData(double value)
+bool Pass::takeData(const double* values, int numRows)
 {
     const int numPoints = m_contents.numPoints();
-    if (m_contents.data.isFull(numPoints)) {
-        reportError("Data do not match Coordinates.");
-        return false;
-    }
-    const auto stored = static_cast<float>(value);
-    m_contents.data.append(stored, stored, numPoints);
-    if (groupsByData()) {
-        if (m_open.isOpen && std::abs(value - m_open.value) > 1e-5 * std::abs(value + m_open.value)) {
-            m_open.close(m_contents.groups);
+    for (int i = 0; i < numRows; ++i) {
+        if (m_contents.data.isFull(numPoints)) {
+            reportError(m_file.rowNumber() - numRows + 1 + i, "Data do not match Coordinates.");
+            return false;
         }
-        // A repeated tag between two equal values has also closed the group.
-        if (!m_open.isOpen) {
-            m_open.open(value);
+        const double value = values[i];
+        const auto stored = static_cast<float>(value);
+        m_contents.data.append(stored, stored, numPoints);
+        if (groupsByData()) {
+            if (m_open.isOpen && std::abs(value - m_open.value) > 1e-5 * std::abs(value + m_open.value)) {
+                m_open.close(m_contents.groups);
+            }
+            // A repeated tag between two equal values has also closed the group.
+            if (!m_open.isOpen) {
+                m_open.open(value);
+            }
+            ++m_open.numPoints;
         }
-        ++m_open.numPoints;
     }
     return true;
 }
@@ -258,7 +261,7 @@ bool Pass::takeVector(const char* row)
 {
     const int numPoints = m_contents.numPoints();
     if (m_contents.vectors.isFull(numPoints)) {
-        reportError("Vector data do not match Coordinates.");
+        reportError(m_file.rowNumber(), "Vector data do not match Coordinates.");
         return false;
     }
     Vector3f vector;
@@ -273,7 +276,7 @@ bool Pass::takeTetrahedralData(double value)
 {
     const int numTetrahedra = m_contents.count(PlotSection::tetrahedra);
     if (m_contents.tetrahedralData.isFull(numTetrahedra)) {
-        reportError("Data do not match Tetrahedrals.");
+        reportError(m_file.rowNumber(), "Data do not match Tetrahedrals.");
         return false;
     }
     const auto stored = static_cast<float>(value);

@@ -1,7 +1,10 @@
 #include "graphics3d/readers/postdatareader.h"
 
 #include "datacarrier/postdataobject.h"
+#include "graphics3d/readers/readerreports.h"
 #include "graphics3d/readers/sceneplotfilereader.h"
+
+#include <utility>
 
 namespace vxgraphics3d {
 
@@ -18,6 +21,17 @@ bool readPostData(vxdatacarrier::PostDataObject& record, const std::string& file
     default:
         return false;
     }
+}
+
+bool readPostData(vxdatacarrier::PostDataObject& record, const std::string& fileName, ReaderError& error)
+{
+    ReaderError reported = {"No file holds data of plot kind " + std::to_string(record.m_plotKind)};
+    const ReaderErrorKeeper keeper(reported);
+    if (readPostData(record, fileName)) {
+        return true;
+    }
+    error = std::move(reported);
+    return false;
 }
 
 } // namespace vxgraphics3d

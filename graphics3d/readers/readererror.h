@@ -1,44 +1,16 @@
 #pragma once
 
-#include "base/logtext.h"
-#include "graphics3d/foundation/errorlog.h"
-
-#include <type_traits>
+#include <string>
 
 namespace vxgraphics3d {
 
-namespace detail {
+/// The row of an error that refers to a file as a whole.
+inline constexpr int c_wholeFile = 0;
 
-/// Writes a message and an ending to standard error and flushes it.
-void printError(const char* ending, const char* format, ...) __attribute__((format(printf, 2, 3)));
-
-template <class... Args>
-void reportWithEnding(const char* ending, const vxbase::LogText<Args...>& text, Args... args)
-{
-    logError<Args...>(text, args...);
-// The text was checked against its arguments at compile time.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wformat-security"
-#pragma GCC diagnostic ignored "-Wformat-nonliteral"
-    printError(ending, text.text, vxbase::printable(args)...);
-#pragma GCC diagnostic pop
-}
-
-} // namespace detail
-
-/// Reports a file that cannot be read: an error in the log, and the same text, without line end, on standard
-/// error. File and line in the log are the caller's.
-template <class... Args>
-void reportError(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
-{
-    detail::reportWithEnding<Args...>("", text, args...);
-}
-
-/// The same with a line end on standard error.
-template <class... Args>
-void reportErrorLine(vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
-{
-    detail::reportWithEnding<Args...>("\n", text, args...);
-}
+/// What is wrong with a file that a reader has refused.
+struct ReaderError {
+    std::string message;   ///< as in the log
+    int row = c_wholeFile; ///< the row to which it refers, from 1
+};
 
 } // namespace vxgraphics3d

@@ -1,7 +1,6 @@
 #include "graphics3d/readers/rowvalues.h"
 
-#include "graphics3d/foundation/errorlog.h"
-#include "graphics3d/readers/readererror.h"
+#include "graphics3d/readers/readerreports.h"
 #include "graphics3d/readers/textnumbers.h"
 
 #include <algorithm>
@@ -35,7 +34,8 @@ std::string textOf(const char* row)
     return std::string(text);
 }
 
-bool findTag(std::span<const std::string_view> tags, std::size_t& section, const char* row, const std::string& fileName)
+bool findTag(std::span<const std::string_view> tags, std::size_t& section, const char* row, int rowNumber,
+             const std::string& fileName)
 {
     for (std::size_t candidate = section; candidate < tags.size(); ++candidate) {
         if (isTagRow(row, tags[candidate])) {
@@ -43,15 +43,15 @@ bool findTag(std::span<const std::string_view> tags, std::size_t& section, const
             return true;
         }
     }
-    reportError("Unknown tag in %s: %s", fileName.c_str(), textOf(row).c_str());
+    reportError(rowNumber, "Unknown tag in %s: %s", fileName.c_str(), textOf(row).c_str());
     return false;
 }
 
-bool getReal(double& value, const char* row)
+bool getReal(double& value, const char* row, int rowNumber)
 {
     const char* at = row;
     if (!readReal(at, value)) {
-        logError("Illegal data: \"%s\"", textOf(row).c_str());
+        reportQuietly(rowNumber, "Illegal data: \"%s\"", textOf(row).c_str());
         return false;
     }
     return true;
@@ -63,7 +63,7 @@ bool getVector3f(Vector3f& vector, const char* row, int rowNumber)
     double values[3];
     for (int i = 0; i < 3; ++i) {
         if (!readReal(at, values[i])) {
-            logError("Illegal data at row %d, value %d: \"%s\"", rowNumber, i + 1, textOf(row).c_str());
+            reportQuietly(rowNumber, "Illegal data at row %d, value %d: \"%s\"", rowNumber, i + 1, textOf(row).c_str());
             return false;
         }
     }
@@ -77,7 +77,8 @@ bool getIndices(int* indices, int count, const char* row, int rowNumber)
     for (int i = 0; i < count; ++i) {
         long number = 0;
         if (!readInteger(at, number)) {
-            logError("Illegal index data at row %d: (vertex %d): \"%s\"", rowNumber, i + 1, textOf(row).c_str());
+            reportQuietly(rowNumber, "Illegal index data at row %d: (vertex %d): \"%s\"", rowNumber, i + 1,
+                          textOf(row).c_str());
             return false;
         }
         indices[i] = static_cast<int>(std::clamp<long>(number, INT_MIN + 1L, INT_MAX + 1L) - 1);

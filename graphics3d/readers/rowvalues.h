@@ -9,7 +9,7 @@
 
 namespace vxgraphics3d {
 
-// The contents of one row of a text format.
+// What one row of a text format holds. Row numbers, from 1, are those that reports name.
 
 /// Whether a row contains no character above the blank.
 bool isEmptyRow(const char* row);
@@ -20,21 +20,20 @@ bool isTagRow(const char* row, std::string_view tag);
 /// A row without its line end, as messages show it.
 std::string textOf(const char* row);
 
-/// Finds the section that a tag row begins. Sections have a fixed order, so the search goes forward from the current
-/// one, which is searched first. A row without such a tag is reported.
-/// @param section the current section; becomes the one found
-bool findTag(std::span<const std::string_view> tags, std::size_t& section, const char* row,
+/// Finds the section that a tag row begins. Sections keep their order, so the search goes forward from the present one,
+/// which is searched first. A row without such a tag is reported.
+/// @param section the present section; becomes the one found
+bool findTag(std::span<const std::string_view> tags, std::size_t& section, const char* row, int rowNumber,
              const std::string& fileName);
 
-/// Reads a real. A missing one is logged.
-bool getReal(double& value, const char* row);
+/// Reads a real. A missing one is reported.
+bool getReal(double& value, const char* row, int rowNumber);
 
-/// Reads three reals. A missing one is logged with the row's number.
+/// Reads three reals. A missing one is reported with the row's number.
 bool getVector3f(Vector3f& vector, const char* row, int rowNumber);
 
-/// Reads `count` integers and subtracts 1 from each, as files count from 1 and memory from 0. A missing one is logged
-/// with the row's number. One that does not fit into an int becomes the nearest limit of int, which is not the index of
-/// a point.
+/// Reads `count` integers and subtracts 1 from each, as files count from 1 and memory from 0. A missing one is reported
+/// with the row's number. One that no int holds becomes the nearest limit of int, which is no point's index.
 bool getIndices(int* indices, int count, const char* row, int rowNumber);
 
 } // namespace vxgraphics3d

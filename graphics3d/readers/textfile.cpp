@@ -1,6 +1,6 @@
 #include "graphics3d/readers/textfile.h"
 
-#include "graphics3d/readers/readererror.h"
+#include "graphics3d/readers/readerreports.h"
 
 #include <algorithm>
 #include <fcntl.h>
@@ -36,7 +36,7 @@ std::FILE* openRegularFile(const std::string& name)
 TextFile::TextFile(std::string name) : m_name(std::move(name)), m_file(openRegularFile(m_name)), m_rows(m_file.get())
 {
     if (!m_file) {
-        reportErrorLine("Could not open file %s", m_name.c_str());
+        reportErrorLine(c_wholeFile, "Could not open file %s", m_name.c_str());
     }
 }
 
@@ -48,7 +48,7 @@ const char* TextFile::nextRow()
     }
     ++m_rowNumber;
     if (hasTooManyRows()) {
-        reportError("Too many rows in file %s", m_name.c_str());
+        reportError(m_rowNumber, "Too many rows in file %s", m_name.c_str());
         return nullptr;
     }
     return row;

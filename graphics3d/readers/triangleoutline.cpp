@@ -1,7 +1,7 @@
 #include "graphics3d/readers/triangleoutline.h"
 
 #include "graphics3d/buffers/indexbufferlines.h"
-#include "graphics3d/readers/readererror.h"
+#include "graphics3d/readers/readerreports.h"
 
 #include <algorithm>
 
@@ -44,7 +44,7 @@ void TriangleOutline::toggleEdge(int low, int high)
             return;
         }
     }
-    reportError("To many lines connected to one vertex.");
+    reportError(c_wholeFile, "To many lines connected to one vertex.");
 }
 
 void TriangleOutline::writeTo(IndexBufferLines& lines) const

@@ -4,11 +4,13 @@
 #include "graphics3d/canvas/axissetup.h"
 #include "renderer/axes/axisscale.h"
 #include "renderer/axes/labelplacer.h"
+#include "renderer/axes/roundview.h"
 #include "renderer/axes/ticks.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -34,6 +36,12 @@ bool isPolar(const Axes2dInput& input)
     return input.camera.getCameraMode() == Camera2d::ModePolar;
 }
 
+/// Whether the axes are polar in a view that has limits in x and y.
+bool isRound(const Axes2dInput& input)
+{
+    return input.setup.isPolar() && input.camera.getCameraMode() == Camera2d::ModeOrdinary;
+}
+
 /// How far the parts of the axes reach out from the area, the same for margins and labels.
 struct Room {
     /// Of the widest tick label.
@@ -50,7 +58,7 @@ struct Room {
         const auto heightOf = [&](const char* markup) { return sizeOfMarkup(markup, metrics.ticks).height; };
         lineHeight = heightOf("0");
         labelHeight = std::max(lineHeight, heightOf("10^{0}"));
-        if (isPolar(input)) {
+        if (isPolar(input) || isRound(input)) {
             labelWidth = sizeOfMarkup(std::string("330") + c_degree, metrics.ticks).width;
         } else {
             labelWidth = std::max(sizeOfMarkup(widestLabel(input.digits), metrics.ticks).width,
@@ -77,6 +85,7 @@ class Layouter {
 public:
     Layouter(const Axes2dInput& input, const PixelArea& area, const AxisMetrics& metrics)
         : m_input(input),
+          m_area(area),
           m_setup(input.setup),
           m_metrics(metrics),
           m_room(input, metrics),
@@ -89,7 +98,12 @@ public:
 
     Axes2dLayout layout()
     {
-        isPolar(m_input) ? layoutPolar() : layoutStraight();
+        if (isPolar(m_input)) {
+            layoutPolar();
+        } else {
+            addFrame();
+            isRound(m_input) ? layoutRound() : layoutStraight();
+        }
         m_layout.labels = m_labels.takeLabels();
         return std::move(m_layout);
     }
@@ -140,11 +154,15 @@ private:
         m_labels.place(label);
     }
 
+    void addFrame()
+    {
+        m_layout.frame = {line(m_left, m_top, m_right, m_top), line(m_right, m_top, m_right, m_bottom),
+                          line(m_right, m_bottom, m_left, m_bottom), line(m_left, m_bottom, m_left, m_top)};
+    }
+
     void layoutStraight()
     {
         const Camera2d& camera = m_input.camera;
-        m_layout.frame = {line(m_left, m_top, m_right, m_top), line(m_right, m_top, m_right, m_bottom),
-                          line(m_right, m_bottom, m_left, m_bottom), line(m_left, m_bottom, m_left, m_top)};
         const auto toDouble = [](float value) { return static_cast<double>(value); };
         const AxisScale x =
             scaleOf(toDouble(camera.getActualMinX()), toDouble(camera.getActualMaxX()), toDouble(m_right - m_left),
@@ -288,7 +306,7 @@ private:
         Vector3f from = at(part, 0.0);
         for (int i = 1; i <= corners; ++i) {
             const Vector3f to = at(part, 360.0 * (i % corners) / corners);
-            lines.push_back({from, to, isMinor});
+            lines.push_back({from, to, isMinor, true});
             from = to;
         }
     }
@@ -315,7 +333,86 @@ private:
         }
     }
 
+    // --- circles and rays about the origin of a view in x and y
+
+    void layoutRound()
+    {
+        const RoundView view(m_input.camera, m_area);
+        // Upwards from an origin in sight, else through the middle of the view.
+        const double labelled = view.showsOrigin() ? 90.0 : 0.5 * (view.firstDegrees() + view.lastDegrees());
+        const bool isSteep = std::abs(std::sin(labelled * std::numbers::pi / 180.0)) > 0.7;
+        const double length = (view.farthest() - view.nearest()) * view.pixelsPerUnit();
+        const AxisScale scale = scaleOf(view.nearest(), view.farthest(), length, false, m_setup.getYAxisSpacing(),
+                                        m_setup.getExtraY(), isSteep ? &LabelSize::height : &LabelSize::width);
+        const AxisTicks ticks = makeAxisTicks(scale);
+        addTitles(0, ticks.exponent);
+        const int step = degreesBetweenRays(view);
+        for (double degrees = std::ceil(view.firstDegrees() / step) * step; degrees < view.lastDegrees();
+             degrees += step) {
+            if (const std::optional<Pixel> end = view.exit(degrees)) {
+                addRay(view.at(view.nearest(), degrees), *end, (static_cast<int>(degrees) + 360) % 360);
+            }
+        }
+        for (const AxisTick& tick : ticks.ticks) {
+            if (!(tick.position > 0.0)) {
+                continue;
+            }
+            addArc(view, tick);
+            const Vector3f at = pointOf(view.at(tick.position, labelled));
+            if (at.x >= m_left && at.x <= m_right && at.y >= m_top && at.y <= m_bottom) {
+                place({.markup = tick.label, .x = at.x + c_gap * m_room.em, .y = at.y, .alignX = 0.0f, .alignY = 0.0f});
+            }
+        }
+    }
+
+    static Vector3f pointOf(const Pixel& pixel) { return {pixel.x, pixel.y, 0.0}; }
+
+    int degreesBetweenRays(const RoundView& view) const
+    {
+        const double radius =
+            view.showsOrigin() ? 0.5 * std::min(m_area.width, m_area.height) : view.farthest() * view.pixelsPerUnit();
+        int step = 90;
+        for (const int finer : {45, 30, 15, 5, 1}) {
+            const bool hasSpace =
+                radius * finer * std::numbers::pi / 180.0 >= static_cast<double>(c_spokeDistance * m_room.em);
+            step = hasSpace && (finer >= 15 || !view.showsOrigin()) ? finer : step;
+        }
+        return step;
+    }
+
+    /// A line of equal angle, with its label outside of the frame.
+    void addRay(const Pixel& from, const Pixel& to, int degrees)
+    {
+        const Vector3f end = pointOf(to);
+        m_layout.grid.push_back({pointOf(from), end, false});
+        const auto isAt = [](float position, float border) { return std::abs(position - border) < 0.5f; };
+        const float gap = c_gap * m_room.em;
+        AxisLabel label = {.markup = std::to_string(degrees) + c_degree, .x = end.x, .y = end.y};
+        if (isAt(end.x, m_right) || isAt(end.x, m_left)) {
+            label.alignX = isAt(end.x, m_right) ? 0.0f : 1.0f;
+            label.x += isAt(end.x, m_right) ? gap : -gap;
+        } else {
+            label.alignY = isAt(end.y, m_bottom) ? 0.0f : 1.0f;
+            label.y += isAt(end.y, m_bottom) ? gap : -gap;
+        }
+        place(label);
+    }
+
+    /// The part of a circle about the origin that may be in sight.
+    void addArc(const RoundView& view, const AxisTick& tick)
+    {
+        const double span = view.lastDegrees() - view.firstDegrees();
+        const double radius = tick.position * view.pixelsPerUnit();
+        const int corners = std::clamp(static_cast<int>(5.0 * std::sqrt(radius) * span / 360.0), 24, 720);
+        for (int i = 0; i < corners; ++i) {
+            m_layout.grid.push_back({pointOf(view.at(tick.position, view.firstDegrees() + span * i / corners)),
+                                     pointOf(view.at(tick.position, view.firstDegrees() + span * (i + 1) / corners)),
+                                     tick.isMinor});
+        }
+    }
+
     const Axes2dInput& m_input;
+    PixelArea m_area;
     const AxisSetup& m_setup;
     AxisMetrics m_metrics;
     Room m_room;
@@ -339,7 +436,7 @@ AxisMargins axes2dMargins(const Axes2dInput& input, const AxisMetrics& metrics)
     margins.bottom = room.belowLabels() + std::max(room.xTitle.height, room.labelHeight) + gap;
     margins.left =
         room.besideLabels() + (room.yTitle.height > 0.0f ? std::max(room.yTitle.height, room.labelHeight) + gap : 0.0f);
-    if (isPolar(input)) {
+    if (isPolar(input) || isRound(input)) {
         margins.right = gap + room.labelWidth + gap;
         margins.top = gap + room.lineHeight + gap;
     } else {

@@ -26,7 +26,8 @@ struct Axes2dLayout {
 /// What the axes of a 2D view are laid out from.
 ///
 /// The camera says how the area is filled: in polar mode a round view whose centre is the inner radial limit, at equal
-/// scales, so its area has to be a square. Angles are in degrees, counted from the right against the clock.
+/// scales, so its area has to be a square. Where the setup alone is polar, the view keeps its limits in x and y and has
+/// circles and rays about the origin. Angles are in degrees, counted from the right against the clock.
 struct Axes2dInput {
     const vxgraphics3d::Camera2d& camera;
     const vxgraphics3d::AxisSetup& setup;

@@ -17,6 +17,8 @@ struct AxisLine {
     vxgraphics3d::Vector3f to;
     /// Stands between labelled values; drawn fainter.
     bool isMinor = false;
+    /// A piece of a circle.
+    bool isArc = false;
 };
 
 /// A text beside an axis: the number at a tick, or a title.

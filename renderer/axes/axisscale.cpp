@@ -12,6 +12,10 @@ namespace {
 constexpr int c_mostTicks = 100;
 /// So many wanted ticks give one for certain.
 constexpr int c_fewestTicks = 3;
+/// Without two labels an axis has no scale.
+constexpr std::size_t c_fewestLabels = 2;
+/// Finer ticks, which come closer to the ends, for scales on which coarse ones leave fewer labels.
+constexpr int c_finerTicks[] = {5, 10, 20};
 /// Lines are at least so many pixels apart.
 constexpr double c_closestLines = 4.0;
 /// Below so many decades a logarithmic scale shows numbers instead of powers.
@@ -38,7 +42,7 @@ public:
     explicit ScaleFiller(const AxisScale& scale)
         : m_scale(scale),
           m_pixels(scale.length / (scale.high - scale.low)),
-          m_count(std::clamp(static_cast<int>(scale.length / scale.tickDistance), c_fewestTicks, c_mostTicks))
+          m_wanted(std::clamp(static_cast<int>(scale.length / scale.tickDistance), c_fewestTicks, c_mostTicks))
     {}
 
     AxisTicks fill()
@@ -54,20 +58,50 @@ public:
     }
 
 private:
-    /// Whether the labels have room beside each other.
-    bool fits(const std::vector<AxisTick>& ticks) const
+    /// What a label covers, in pixels.
+    struct Interval {
+        double low;
+        double high;
+    };
+
+    Interval intervalOf(const AxisTick& tick) const
     {
-        double end = -HUGE_VAL;
+        const double half = 0.5 * m_scale.labelLength(tick.label);
+        return {tick.position * m_pixels - half, tick.position * m_pixels + half};
+    }
+
+    /// Every how manyth label of some ticks is kept, and from which one on.
+    struct Thinning {
+        std::size_t step = 0;
+        std::size_t first = 0;
+        std::size_t numLabels = 0;
+
+        /// Whether at least two labels are left.
+        bool isScale() const { return step > 0; }
+        bool keepsAll() const { return step == 1; }
+    };
+
+    /// As many labels as have space beside each other.
+    Thinning thinningOf(const std::vector<AxisTick>& ticks) const
+    {
+        std::vector<Interval> labels;
         for (const AxisTick& tick : ticks) {
             if (!tick.label.empty()) {
-                const double half = 0.5 * m_scale.labelLength(tick.label);
-                if (tick.position * m_pixels - half < end) {
-                    return false;
-                }
-                end = tick.position * m_pixels + half;
+                labels.push_back(intervalOf(tick));
             }
         }
-        return true;
+        for (std::size_t step = 1; step < labels.size(); ++step) {
+            for (std::size_t first = 0; first < step && first + step < labels.size(); ++first) {
+                bool fits = true;
+                for (std::size_t i = first + step; i < labels.size() && fits; i += step) {
+                    fits = labels[i - step].high <= labels[i].low;
+                }
+                if (fits) {
+                    return {step, first, labels.size()};
+                }
+            }
+        }
+        return {0, 0, labels.size()};
     }
 
     bool isInside(double position) const
@@ -76,17 +110,54 @@ private:
         return position >= m_scale.low - slack && position <= m_scale.high + slack;
     }
 
-    /// Takes over ticks as the result, unless there are none.
-    /// @return whether no better ones need be looked for, because these have room
+    /// Takes over ticks as the result, with as many of their labels as fit, unless fewer than two do and the ticks
+    /// taken before, which are finer, have more.
+    /// @return whether no coarser ones need be tried, because all labels fit and they are enough
     bool take(std::vector<AxisTick> ticks, int exponent = 0)
     {
-        const bool hasLabel =
-            std::any_of(ticks.begin(), ticks.end(), [](const AxisTick& tick) { return !tick.label.empty(); });
-        if (!hasLabel && !m_result.ticks.empty()) {
-            return true;
+        const Thinning thinning = thinningOf(ticks);
+        if (thinning.isScale()) {
+            std::size_t index = 0;
+            for (AxisTick& tick : ticks) {
+                if (!tick.label.empty() && index++ % thinning.step != thinning.first) {
+                    tick.label.clear();
+                }
+            }
+        } else if (m_isScale || (thinning.numLabels == 0 && !m_result.ticks.empty())) {
+            return false;
         }
         m_result = {std::move(ticks), exponent};
-        return fits(m_result.ticks);
+        m_isScale = thinning.isScale();
+        return thinning.keepsAll();
+    }
+
+    /// Takes over ticks that are finer than all before if only they leave the labels that a scale needs.
+    void takeFiner(std::vector<AxisTick> ticks, int exponent = 0)
+    {
+        if (!m_isScale && thinningOf(ticks).isScale()) {
+            take(std::move(ticks), exponent);
+        }
+    }
+
+    /// Takes over the coarsest ticks that a scale can do with.
+    /// @param make the ticks for a wanted number of them
+    template <class Make>
+    void takeBest(const Make& make)
+    {
+        for (int count = m_wanted; count > 0; count = count * 3 / 4) {
+            const auto& [ticks, exponent] = make(count);
+            if (take(ticks, exponent)) {
+                return;
+            }
+        }
+        for (const int count : c_finerTicks) {
+            if (!m_isScale) {
+                const auto& [ticks, exponent] = make(count);
+                takeFiner(ticks, exponent);
+                // Lines that close would only hide the scene.
+                std::erase_if(m_result.ticks, [this](const AxisTick& t) { return m_isScale && t.label.empty(); });
+            }
+        }
     }
 
     static std::vector<AxisTick> ticksOf(const Ticks& ticks)
@@ -100,36 +171,36 @@ private:
 
     void fillLinear()
     {
-        for (int count = m_count; count > 0; count = count * 3 / 4) {
+        takeBest([this](int count) {
             const Ticks ticks = makeTicks(m_scale.low, m_scale.high, count, m_scale.digits);
-            if (take(ticksOf(ticks), ticks.exponent)) {
-                return;
-            }
-        }
+            return AxisTicks{ticksOf(ticks), ticks.exponent};
+        });
     }
 
-    /// @return whether the spacing leads to any line
+    /// @return whether the spacing leads to enough lines for a scale
     bool fillMultiples()
     {
         const double lines = (m_scale.high - m_scale.low) / m_scale.spacing;
         const auto thinning = static_cast<double>(roundFactor(lines * c_closestLines / m_scale.length));
         const double spacing = m_scale.spacing * thinning;
         const Ticks ticks = makeMultiples(m_scale.low, m_scale.high, spacing, m_scale.digits);
-        if (ticks.ticks.empty()) {
-            return std::isfinite(lines) && lines < 1.0;
+        if (ticks.ticks.size() < c_fewestLabels) {
+            return false;
         }
         const std::vector<AxisTick> all = ticksOf(ticks);
-        for (std::int64_t factor = 1;; factor = roundFactor(static_cast<double>(factor) + 0.5)) {
-            m_result = {all, ticks.exponent};
-            for (AxisTick& tick : m_result.ticks) {
+        for (std::int64_t factor = 1; factor <= static_cast<std::int64_t>(all.size());
+             factor = roundFactor(static_cast<double>(factor) + 0.5)) {
+            std::vector<AxisTick> some = all;
+            for (AxisTick& tick : some) {
                 if (std::llround(tick.position / spacing) % factor != 0) {
                     tick.label.clear();
                 }
             }
-            if (factor > static_cast<std::int64_t>(all.size()) || fits(m_result.ticks)) {
-                return true;
+            if (take(std::move(some), ticks.exponent)) {
+                break;
             }
         }
+        return true;
     }
 
     void fillLogarithmic()
@@ -140,14 +211,15 @@ private:
             return;
         }
         fillDecades();
+        if (decades < c_fewDecades && largest < c_largestLog) {
+            takeFiner(numbers());
+        }
     }
 
     /// 1, 2 and 5 times powers of ten.
-    /// @return whether there are at least three, and room for them
-    bool fillNumbers()
+    std::vector<AxisTick> numbers() const
     {
         std::vector<AxisTick> ticks;
-        int numLabels = 0;
         const auto first = static_cast<int>(std::floor(m_scale.low));
         for (int decade = first; decade <= static_cast<int>(std::ceil(m_scale.high)); ++decade) {
             for (int mantissa = 1; mantissa < 10; ++mantissa) {
@@ -155,15 +227,18 @@ private:
                 const bool isLabelled = mantissa == 1 || mantissa == 2 || mantissa == 5;
                 if (isInside(position) && (isLabelled || hasRoomForMinorLines())) {
                     ticks.push_back({position, isLabelled ? logLabel(mantissa, decade) : "", !isLabelled});
-                    numLabels += isLabelled ? 1 : 0;
                 }
             }
         }
-        if (numLabels < 3 || !fits(ticks)) {
-            return false;
-        }
-        m_result.ticks = std::move(ticks);
-        return true;
+        return ticks;
+    }
+
+    /// @return whether there are at least three numbers, and space for them
+    bool fillNumbers()
+    {
+        std::vector<AxisTick> ticks = numbers();
+        const Thinning thinning = thinningOf(ticks);
+        return thinning.numLabels >= 3 && thinning.keepsAll() && take(std::move(ticks));
     }
 
     /// Round values as on a linear scale.
@@ -173,17 +248,15 @@ private:
         if (m_scale.high - m_scale.low >= 1.0) {
             return false;
         }
-        for (int count = m_count; count > 0; count = count * 3 / 4) {
+        takeBest([this](int count) {
             const Ticks values =
                 makeTicks(std::pow(10.0, m_scale.low), std::pow(10.0, m_scale.high), count, m_scale.digits);
-            std::vector<AxisTick> ticks = ticksOf(values);
-            for (AxisTick& tick : ticks) {
+            AxisTicks result = {ticksOf(values), values.exponent};
+            for (AxisTick& tick : result.ticks) {
                 tick.position = std::log10(tick.position);
             }
-            if (take(std::move(ticks), values.exponent)) {
-                break;
-            }
-        }
+            return result;
+        });
         return !m_result.ticks.empty();
     }
 
@@ -197,9 +270,11 @@ private:
         // A third of the range holds one of its multiples for certain.
         double labelled = std::min(factor(0.6 * m_scale.tickDistance),
                                    static_cast<double>(roundFactor((m_scale.high - m_scale.low) / 3.0)));
-        while (!take(decades(closest, labelled))) {
+        // Multiples of more than the range are never two.
+        while (!take(decades(closest, labelled)) && labelled <= m_scale.high - m_scale.low) {
             labelled = static_cast<double>(roundFactor(labelled + 0.5));
         }
+        takeFiner(decades(closest, closest));
         if (closest == 1.0 && hasRoomForMinorLines()) {
             addMinorLines();
         }
@@ -265,18 +340,12 @@ private:
     /// Takes the labels away that still overlap, those of extra places last.
     void thinOut()
     {
-        struct Interval {
-            double low;
-            double high;
-        };
         std::vector<Interval> taken;
         const auto keep = [&](AxisTick& tick) {
             if (tick.label.empty()) {
                 return;
             }
-            const double half = 0.5 * m_scale.labelLength(tick.label);
-            const double middle = tick.position * m_pixels;
-            const Interval place = {middle - half, middle + half};
+            const Interval place = intervalOf(tick);
             const auto overlaps = [&](const Interval& other) {
                 return place.low < other.high && other.low < place.high;
             };
@@ -301,8 +370,11 @@ private:
     const AxisScale& m_scale;
     /// Per unit of the scale.
     double m_pixels;
-    int m_count;
+    /// Number of ticks that suits the length.
+    int m_wanted;
     AxisTicks m_result;
+    /// Whether the result has at least two labels that fit.
+    bool m_isScale = false;
     std::vector<AxisTick> m_extra;
 };
 

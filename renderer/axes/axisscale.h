@@ -45,10 +45,11 @@ struct AxisTicks {
 /// Ticks whose labels have room beside each other.
 ///
 /// Linear scales take multiples of 1, 2 or 5 times a power of ten, or of the spacing; where that gives more than one
-/// line every four pixels, of a whole multiple of it. Logarithmic scales take decades, every second, fifth and so on
-/// where there are many, with minor lines between them; where few decades are in sight they take plain numbers. Extra
-/// places come first where labels would overlap. Ends that are not finite or not in rising order, and a scale without
-/// length, give none.
+/// line every four pixels, of a whole multiple of it. A spacing of which fewer than two multiples are in sight is not
+/// used. Logarithmic scales take decades, every second, fifth and so on where there are many, with minor lines between
+/// them; where few decades are in sight they take plain numbers. At least two ticks are labelled wherever two labels
+/// have space. Extra places come first where labels would overlap. Ends that are not finite or not in rising order, and
+/// a scale without length, give none.
 AxisTicks makeAxisTicks(const AxisScale& scale);
 
 } // namespace vxrenderer

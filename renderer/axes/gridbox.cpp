@@ -23,6 +23,8 @@ constexpr double c_tickDistance = 2.2;
 /// Axes that look shorter are not labelled.
 constexpr double c_shortestAxis = 1.5;
 constexpr int c_mostTicks = 100;
+/// Finer ticks, which come closer to the ends, for axes on which coarse ones leave fewer labels.
+constexpr int c_finerTicks[] = {5, 10, 20};
 /// Sine of the angle below which a face is seen edge-on.
 constexpr double c_edgeOn = 1e-4;
 
@@ -73,15 +75,28 @@ struct Edge {
     Range visible;
 };
 
-/// An axis with its ticks.
-struct Axis {
+/// Where an axis has its ticks, and those that are labelled along its edge.
+struct AxisTickSet {
     std::vector<double> ticks;
-    std::optional<Edge> edge;
-    std::vector<AxisLabel> labels;
-    std::vector<Pixel> places;
+    struct Label {
+        AxisLabel label;
+        Pixel place;
+        double tick;
+    };
+    std::vector<Label> labels;
+    /// Every how manyth label was kept so that they have space beside each other; 0 if no two of them have.
+    std::size_t step = 0;
     /// How far the labels reach out from the edge.
     double reach = 0.0;
     std::string power;
+
+    /// Without two labels an axis has no scale.
+    bool isScale() const { return step > 0; }
+};
+
+/// An axis with its ticks.
+struct Axis : AxisTickSet {
+    std::optional<Edge> edge;
 };
 
 class Layouter {
@@ -223,7 +238,8 @@ private:
         return longest;
     }
 
-    /// Chooses ticks whose labels have room beside each other, and lays the labels out.
+    /// Chooses ticks whose labels have space beside each other, at least two of them if two fit, and lays the labels
+    /// out.
     void addTicks(std::size_t index)
     {
         if (isFlat(index)) {
@@ -236,46 +252,83 @@ private:
         const double wanted = length / (c_tickDistance * m_em);
         for (int count = std::clamp(static_cast<int>(std::min(wanted, 1e6)), 1, c_mostTicks); count > 0;
              count = count * 3 / 4) {
-            const Ticks ticks = makeTicks(m_low[index], m_high[index], count, m_input.digits);
-            axis.ticks.clear();
-            axis.labels.clear();
-            axis.places.clear();
-            axis.reach = 0.0;
-            axis.power = ticks.exponent == 0 ? "" : "\\times" + powerText(ticks.exponent);
-            LabelPlacer placer(m_metrics);
-            bool isFree = true;
-            for (const Ticks::Tick& tick : ticks.ticks) {
-                axis.ticks.push_back(std::clamp(tick.value, m_low[index], m_high[index]));
-                isFree &= !axis.edge || addLabel(axis, index, tick, placer);
+            AxisTickSet set = tickSet(index, count);
+            const bool isBest = !axis.edge || set.step == 1;
+            if (set.isScale() || !axis.isScale()) {
+                static_cast<AxisTickSet&>(axis) = std::move(set);
             }
-            if (isFree) {
+            if (isBest) {
                 return;
+            }
+        }
+        for (const int count : c_finerTicks) {
+            if (AxisTickSet set = tickSet(index, count); !axis.isScale() && set.isScale()) {
+                // Lines that close would only hide the scene.
+                set.ticks.clear();
+                for (const AxisTickSet::Label& label : set.labels) {
+                    set.ticks.push_back(label.tick);
+                }
+                static_cast<AxisTickSet&>(axis) = std::move(set);
             }
         }
     }
 
-    /// @return whether the label has room beside the ones before
-    bool addLabel(Axis& axis, std::size_t index, const Ticks::Tick& tick, LabelPlacer& placer) const
+    /// About so many ticks of an axis, with as many of their labels as have space beside each other.
+    AxisTickSet tickSet(std::size_t index, int aboutCount) const
     {
-        const Edge& edge = *axis.edge;
+        const Ticks ticks = makeTicks(m_low[index], m_high[index], aboutCount, m_input.digits);
+        AxisTickSet set;
+        set.power = ticks.exponent == 0 ? "" : "\\times" + powerText(ticks.exponent);
+        for (const Ticks::Tick& tick : ticks.ticks) {
+            set.ticks.push_back(std::clamp(tick.value, m_low[index], m_high[index]));
+            if (m_axes[index].edge) {
+                addLabel(set, index, tick);
+            }
+        }
+        thinOut(set);
+        return set;
+    }
+
+    /// Leaves every second, third ... label where those between have no space; all of them if no two fit.
+    void thinOut(AxisTickSet& set) const
+    {
+        for (std::size_t step = 1; step < set.labels.size(); ++step) {
+            for (std::size_t first = 0; first < step && first + step < set.labels.size(); ++first) {
+                std::vector<AxisTickSet::Label> kept;
+                LabelPlacer placer(m_metrics);
+                bool fits = true;
+                for (std::size_t i = first; i < set.labels.size() && fits; i += step) {
+                    fits = placer.place(set.labels[i].label);
+                    kept.push_back(set.labels[i]);
+                }
+                if (fits) {
+                    set.labels = std::move(kept);
+                    set.step = step;
+                    return;
+                }
+            }
+        }
+    }
+
+    void addLabel(AxisTickSet& set, std::size_t index, const Ticks::Tick& tick) const
+    {
+        const Edge& edge = *m_axes[index].edge;
         Point point = edge.start;
         point[index] = std::clamp(tick.value, m_low[index], m_high[index]);
         const std::optional<Pixel> place = m_projector.pixelOf(point);
         if (!place) {
-            return true;
+            return;
         }
         const Pixel along = edge.to - edge.from;
         const double part = (*place - edge.from).dot(along) / along.dot(along);
         if (part < edge.visible.from - 1e-6 || part > edge.visible.to + 1e-6) {
-            return true;
+            return;
         }
         AxisLabel label;
         label.markup = tick.label;
         const double begin = (c_tickLength + c_gap) * m_em;
-        axis.reach = std::max(axis.reach, begin + moveOut(label, *place, edge.outward, begin));
-        axis.labels.push_back(label);
-        axis.places.push_back(*place);
-        return placer.place(label);
+        set.reach = std::max(set.reach, begin + moveOut(label, *place, edge.outward, begin));
+        set.labels.push_back({label, *place, point[index]});
     }
 
     /// Moves a label to where its rectangle just touches a line beside an edge.
@@ -358,11 +411,11 @@ private:
         }
         for (const auto& [length, index] : order) {
             const Axis& axis = m_axes[index];
-            for (std::size_t i = 0; i < axis.labels.size(); ++i) {
-                const Pixel end = axis.places[i] + axis.edge->outward * (c_tickLength * m_em);
+            for (const AxisTickSet::Label& label : axis.labels) {
+                const Pixel end = label.place + axis.edge->outward * (c_tickLength * m_em);
                 m_layout.ticks.push_back(
-                    {Vector3f(axis.places[i].x, axis.places[i].y, 0.0), Vector3f(end.x, end.y, 0.0), false});
-                m_labels.place(axis.labels[i]);
+                    {Vector3f(label.place.x, label.place.y, 0.0), Vector3f(end.x, end.y, 0.0), false});
+                m_labels.place(label.label);
             }
         }
     }

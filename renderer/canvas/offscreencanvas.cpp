@@ -5,6 +5,7 @@
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/foundation/errorlog.h"
 #include "graphics3d/picking/canvaspicksettings.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
@@ -55,9 +56,22 @@ void showTheSame(Camera3d& copy, const Camera3d& camera)
     }
 }
 
+/// Whether a range of the view, from border to border, contains that of another view but for rounding.
+bool contains(float min, float max, float otherMin, float otherMax)
+{
+    const float slack = 1e-4f * (otherMax - otherMin);
+    return min <= otherMin + slack && max >= otherMax - slack;
+}
+
+/// The same for a flat view, which besides never shows less: an area of another shape may cut limits off.
 void showTheSame(Camera2d& copy, const Camera2d& camera)
 {
-    if (keepsPixels(camera) && camera.getCameraMode() != Camera2d::ModePolar) {
+    const bool showsAll =
+        contains(copy.getActualMinX(), copy.getActualMaxX(), camera.getActualMinX(), camera.getActualMaxX()) &&
+        contains(copy.getActualMinY(), copy.getActualMaxY(), camera.getActualMinY(), camera.getActualMaxY());
+    if ((keepsPixels(camera) || !showsAll) && camera.getCameraMode() != Camera2d::ModePolar) {
+        // What is displayed becomes the base, without a drag that is still going on.
+        copy.discardAdditionalTransformation();
         copy.setViewLimits(camera.getActualMinX(), camera.getActualMaxX(), camera.getActualMinY(),
                            camera.getActualMaxY());
     }
@@ -188,6 +202,19 @@ Appearance OffscreenCanvas::appearance() const
     return Appearance::onScreen(*m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
 }
 
+ICameraTransforms& OffscreenCanvas::camera()
+{
+    const Canvas3dSettings::RenderMode mode = m_settings->getRenderMode();
+    if (mode != m_lastRenderMode && (mode < 0 || mode >= Canvas3dSettings::c_numRenderModes)) {
+        logError("There is no render mode %d: the 3D view is drawn.", static_cast<int>(mode));
+    }
+    m_lastRenderMode = mode;
+    if (renderModeOf(*m_settings) == Canvas3dSettings::RenderMode2d) {
+        return *m_settings->camera2d();
+    }
+    return *m_settings->camera3d();
+}
+
 Frame OffscreenCanvas::frameOf(ICameraTransforms& camera, const Appearance& appearance) const
 {
     return {*m_settings, m_sceneView ? m_sceneView->getScene().get() : nullptr,
@@ -202,12 +229,11 @@ void OffscreenCanvas::zoomExtents()
     }
     const BoundingBox box = m_sceneView->getScene()->getBoundingBox();
     const Appearance look = appearance();
-    const SceneArea area =
-        m_renderer->layOut(frameOf(m_settings->cameraTransforms(), look), getWidth(), getHeight()).area;
+    const SceneArea area = m_renderer->layOut(frameOf(camera(), look), getWidth(), getHeight()).area;
     if (area.whole.isEmpty()) {
         return;
     }
-    if (m_settings->getRenderMode() == Canvas3dSettings::RenderMode2d) {
+    if (renderModeOf(*m_settings) == Canvas3dSettings::RenderMode2d) {
         m_settings->camera2d()->moveToBoundingBox(box, Canvas3dGlobalSettings::getInstance()->getZoomToExtentMargin());
     } else {
         Camera3d& camera = *m_settings->camera3d();
@@ -228,7 +254,7 @@ void OffscreenCanvas::draw(Quality quality)
     m_drawnTarget = nullptr;
     const Target& target = quality == Quality::draft ? draftTarget() : *m_target;
     const Appearance look = appearance();
-    const Frame frame = frameOf(m_settings->cameraTransforms(), look);
+    const Frame frame = frameOf(camera(), look);
     m_renderer->draw(frame, m_renderer->layOut(frame, getWidth(), getHeight()), target);
     m_view = m_renderer->getView();
     if (m_sceneView) {
@@ -280,7 +306,7 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
         SceneRenderer::placeScene(frame, layout);
         m_renderer->draw(frame, layout, target);
     };
-    if (m_settings->getRenderMode() == Canvas3dSettings::RenderMode2d) {
+    if (renderModeOf(*m_settings) == Canvas3dSettings::RenderMode2d) {
         drawWithCopy(*m_settings->getCamera2d());
     } else {
         drawWithCopy(*m_settings->getCamera3d());

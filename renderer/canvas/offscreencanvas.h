@@ -99,6 +99,8 @@ public:
     std::string getDriver() const;
 
 private:
+    /// The camera of the render mode. A mode that does not exist is reported once.
+    vxgraphics3d::ICameraTransforms& camera();
     Frame frameOf(vxgraphics3d::ICameraTransforms& camera, const Appearance& appearance) const;
     Appearance appearance() const;
     void dropDisposedScene();
@@ -121,6 +123,8 @@ private:
     boost::shared_ptr<vxgraphics3d::ContextData> m_contextData;
     std::unique_ptr<SceneView> m_sceneView;
     View m_view;
+    /// The mode of the last picture, by which a mode that does not exist is reported once.
+    int m_lastRenderMode = 0;
 };
 
 } // namespace vxrenderer

@@ -3,6 +3,7 @@
 #include "base/ustring.h"
 #include "graphics3d/cameras/axisorientationindicator.h"
 #include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/canvas/axissetup.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/foundation/boundingbox.h"
@@ -14,7 +15,9 @@
 #include "renderer/frame/frame.h"
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/overlaypainter.h"
+#include "renderer/text/titlemarkup.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vxrenderer {
@@ -43,10 +46,11 @@ Axes2dInput axes2dInput(const Frame& frame, int width, int height)
 GridBoxInput gridBoxInput(const Frame& frame)
 {
     const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
+    const auto nameOf = [&](AxisOrientationIndicator::Axis axis) { return plainText(indicator.getLabel(axis)); };
     return {frame.scene->getBoundingBox(),
             frame.camera,
-            {indicator.getLabel(AxisOrientationIndicator::AxisX), indicator.getLabel(AxisOrientationIndicator::AxisY),
-             indicator.getLabel(AxisOrientationIndicator::AxisZ)},
+            {nameOf(AxisOrientationIndicator::AxisX), nameOf(AxisOrientationIndicator::AxisY),
+             nameOf(AxisOrientationIndicator::AxisZ)},
             Canvas3dGlobalSettings::getInstance()->getGridbox3dTickPrecision()};
 }
 
@@ -65,6 +69,19 @@ void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int wi
         Color faint = color;
         faint.alpha = isMinor ? color.alpha * c_minorAlpha / 255 : color.alpha;
         painter.draw(segments, {toClip, width, height, lineWidth}, faint);
+    }
+}
+
+/// Moves a line along a side of the picture onto whole pixels, over two of which it would be spread in half its colour:
+/// one of odd width to the middles of pixels, one of even width to their borders. Pieces of circles stay together.
+void snapToPixels(AxisLine& line, float lineWidth)
+{
+    if (line.isArc || (line.from.x != line.to.x && line.from.y != line.to.y)) {
+        return;
+    }
+    const bool isOdd = std::max(std::lround(lineWidth), 1L) % 2 != 0;
+    for (float* coordinate : {&line.from.x, &line.from.y, &line.to.x, &line.to.y}) {
+        *coordinate = isOdd ? std::floor(*coordinate) + 0.5f : std::round(*coordinate);
     }
 }
 
@@ -96,9 +113,9 @@ AxesPainter::AxesPainter(const Frame& frame, const View& view, int width, int he
       m_view(view),
       m_scale(frame.appearance.scale),
       m_gridColor(frame.canvas.getGridBoxSettingsPtr()->getGridColor()),
-      m_labelColor(frame.canvas.getGridBoxSettingsPtr()->getLabelColor()),
+      m_labelColor(frame.appearance.readable(frame.canvas.getGridBoxSettingsPtr()->getLabelColor())),
       m_haloColor(frame.appearance.backdrop.top),
-      m_hasHalo(frame.isPolar())
+      m_hasHalo(frame.isFlat() && (frame.isPolar() || frame.canvas.getAxisSetupPtr()->isPolar()))
 {
     if (view.isFlat) {
         layOutAxes2d(frame, view, fonts);
@@ -110,8 +127,10 @@ AxesPainter::AxesPainter(const Frame& frame, const View& view, int width, int he
 void AxesPainter::layOutGridBox(const Frame& frame, const View& view, const AxisFonts& fonts)
 {
     GridBoxLayout layout = layoutGridBox(gridBoxInput(frame), view.area, fonts.metrics());
-    m_behind = std::move(layout.grid);
-    append(m_behind, layout.edges);
+    m_behind = std::move(layout.edges);
+    if (frame.appearance.showGrid) {
+        m_behind.insert(m_behind.begin(), layout.grid.begin(), layout.grid.end());
+    }
     m_around = std::move(layout.ticks);
     m_labels = std::move(layout.labels);
 }
@@ -119,10 +138,17 @@ void AxesPainter::layOutGridBox(const Frame& frame, const View& view, const Axis
 void AxesPainter::layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts)
 {
     Axes2dLayout layout = layoutAxes2d(axes2dInput(frame, m_width, m_height), view.area, fonts.metrics());
-    m_behind = std::move(layout.grid);
+    if (frame.appearance.showGrid) {
+        m_behind = std::move(layout.grid);
+    }
     m_around = std::move(layout.frame);
     append(m_around, layout.ticks);
     m_labels = std::move(layout.labels);
+    for (std::vector<AxisLine>* lines : {&m_behind, &m_around}) {
+        for (AxisLine& line : *lines) {
+            snapToPixels(line, c_lineWidth * m_scale);
+        }
+    }
 }
 
 void AxesPainter::drawBehind(const LinePainter& painter) const

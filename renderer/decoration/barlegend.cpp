@@ -92,7 +92,7 @@ void BarLegend::draw(OverlayPainter& painter, ColorTextures& textures, const Leg
     headTop += m_power.height;
     painter.drawText(m_largest, style.tickFonts, left, headTop, style.color);
     painter.drawText(m_smallest, style.tickFonts, left, top + m_height - m_smallest.height, style.color);
-    if (barBottom - barTop < 3.0f) {
+    if (barBottom - barTop < 3.0f * style.lineWidth) {
         return;
     }
     const boost::shared_ptr<vxgraphics3d::ColorTable> table = m_item.plot->getColorTable();
@@ -100,16 +100,16 @@ void BarLegend::draw(OverlayPainter& painter, ColorTextures& textures, const Leg
         textures.bind(m_item.group, m_item.plot->getColorTableTextureHandle(0), *table);
         painter.fillWithColorTable({left, barTop, right, barBottom}, m_scale.lowerColor, m_scale.upperColor);
     }
-    painter.strokeRect({left, barTop, right, barBottom}, c_frame);
+    painter.strokeRect({left, barTop, right, barBottom}, style.lineWidth, c_frame);
 
     for (const Label& label : m_labels) {
         // The ends of the bar are the middles of the lines of its frame.
-        const double lowest = static_cast<double>(barBottom) - 1.0;
+        const double lowest = static_cast<double>(barBottom - style.lineWidth);
         const double highest = static_cast<double>(barTop);
         const auto y = static_cast<float>(std::round(lowest + label.height * (highest - lowest)));
-        painter.fillRect({right, y, right + std::round(c_tickLength * em), y + 1.0f}, c_frame);
+        painter.fillRect({right, y, right + std::round(c_tickLength * em), y + style.lineWidth}, c_frame);
         painter.drawText(label.text, style.tickFonts, right + (c_tickLength + c_labelGap) * em,
-                         y + 0.5f - 0.5f * label.text.height, style.color);
+                         y + 0.5f * style.lineWidth - 0.5f * label.text.height, style.color);
     }
 }
 

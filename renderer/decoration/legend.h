@@ -16,6 +16,8 @@ struct LegendStyle {
     FontSet& titleFonts;
     FontSet& tickFonts;
     vxgraphics3d::Color color;
+    /// Of the frames of bars and of their ticks, in whole pixels.
+    float lineWidth = 1.0f;
     /// Whether the smallest and the largest value of the data appear below and above the bar.
     bool showMinMax = false;
     bool showTitle = true;

@@ -1,6 +1,7 @@
 #include "renderer/decoration/lightmarkers.h"
 
 #include "graphics3d/foundation/boundingbox.h"
+#include "graphics3d/foundation/matrixf.h"
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/pointlightsource.h"
 #include "graphics3d/lights/scenelight.h"
@@ -20,8 +21,13 @@ using namespace vxgraphics3d;
 constexpr float c_starSize = 0.06f;
 constexpr float c_coneLength = 0.4f;
 constexpr float c_arrowStart = 1.5f;
-constexpr float c_arrowEnd = 1.1f;
+constexpr float c_arrowLength = 0.4f;
 constexpr float c_arrowHead = 0.08f;
+/// An arrow comes nearer to the middle of the scene in these steps, and not nearer than this, to lie within the view.
+constexpr float c_arrowStep = 0.05f;
+constexpr float c_nearestArrowStart = 0.5f;
+/// Part of the view from its middle to its borders that counts as in sight.
+constexpr float c_visiblePart = 0.97f;
 constexpr int c_coneSides = 24;
 constexpr float c_degree = std::numbers::pi_v<float> / 180.0f;
 
@@ -42,10 +48,33 @@ void addStar(std::vector<LineSegment>& lines, const Vector3f& place, float size)
     }
 }
 
-void addArrow(std::vector<LineSegment>& lines, const Vector3f& center, const Vector3f& from, float radius)
+/// Whether a point in coordinates of the eye is in sight.
+bool isInView(const Matrixf& projection, const Vector3f& eye)
 {
-    const Vector3f start = center + from * (c_arrowStart * radius);
-    const Vector3f end = center + from * (c_arrowEnd * radius);
+    const float w = projection.get(4, 3) * eye.z + projection.get(4, 4);
+    const Vector3f clip = projection * eye;
+    return w > 0.0f && std::abs(clip.x) <= c_visiblePart && std::abs(clip.y) <= c_visiblePart &&
+           std::abs(clip.z) <= 1.0f;
+}
+
+/// How far from the middle of the scene the arrow of a direction light starts, in radii: outside of the scene if the
+/// view reaches that far.
+float arrowStart(const Matrixf& projection, const Vector3f& center, const Vector3f& from, float radius)
+{
+    for (float start = c_arrowStart; start > c_nearestArrowStart; start -= c_arrowStep) {
+        if (isInView(projection, center + from * (start * radius))) {
+            return start;
+        }
+    }
+    return c_nearestArrowStart;
+}
+
+void addArrow(std::vector<LineSegment>& lines, const Matrixf& projection, const Vector3f& center, const Vector3f& from,
+              float radius)
+{
+    const float distance = arrowStart(projection, center, from, radius);
+    const Vector3f start = center + from * (distance * radius);
+    const Vector3f end = center + from * ((distance - c_arrowLength) * radius);
     const Sides sides(from);
     lines.push_back({start, end});
     for (const Vector3f& side : {sides.first, -sides.first, sides.second, -sides.second}) {
@@ -88,7 +117,8 @@ std::vector<LightMarker> lightMarkers(const SceneLight& light, const BoundingBox
         switch (source->getType()) {
         case LightSource::LightDirection: {
             const auto& sun = static_cast<const DirectionLightSource&>(*source);
-            addArrow(marker.lines, eye.toEye(box.getCenter()), eye.direction(sun), radius);
+            addArrow(marker.lines, camera.getProjectionTransformRH(), eye.toEye(box.getCenter()), eye.direction(sun),
+                     radius);
             break;
         }
         case LightSource::LightPoint: {

@@ -49,7 +49,7 @@ void TriadPainter::drawAxes(const LinePainter& painter, int width, int height) c
 void TriadPainter::drawLetters(OverlayPainter& painter, FontSet& letters) const
 {
     for (const Triad::Axis& axis : m_triad.axes) {
-        const TextLayout text = layoutTitle(parseTitle(vxbase::UString(m_letters[axis.index])), letters,
+        const TextLayout text = layoutTitle(parseTitle(vxbase::UString(plainText(m_letters[axis.index]))), letters,
                                             {AxisLabel::c_noLimit, AxisLabel::c_noLimit});
         painter.drawText(text, letters, axis.letterX - 0.5f * text.width, axis.letterY - 0.5f * text.height,
                          m_letterColor);

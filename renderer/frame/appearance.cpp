@@ -7,6 +7,7 @@
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/lights/scenesettingslight.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "renderer/frame/frame.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,6 +18,20 @@ namespace {
 using namespace vxgraphics3d;
 
 constexpr float c_pointsPerInch = 72.0f;
+// Of 255.
+constexpr float c_darkLuminance = 110.0f;
+constexpr float c_leastContrast = 60.0f;
+
+float luminance(const Color& color)
+{
+    return 0.299f * static_cast<float>(color.red) + 0.587f * static_cast<float>(color.green) +
+           0.114f * static_cast<float>(color.blue);
+}
+
+float luminance(const Appearance::Backdrop& backdrop)
+{
+    return 0.5f * (luminance(backdrop.top) + luminance(backdrop.bottom));
+}
 
 int pixelsOf(int points, float pixelsPerInch)
 {
@@ -58,7 +73,7 @@ Appearance::Backdrop backdropOf(const Canvas3dSettings& canvas)
     if (!isDrawn(canvas, RenderBackground)) {
         return {};
     }
-    const Canvas3dBackgroundSettings& settings = canvas.getBackground(canvas.getRenderMode());
+    const Canvas3dBackgroundSettings& settings = canvas.getBackground(renderModeOf(canvas));
     return {settings.getTopBackgroundColor(),
             settings.isBackgroundShaded() ? settings.getBottomBackgroundColor() : settings.getTopBackgroundColor(),
             settings.getImage(), settings.getHorizontalPosition(), settings.getVerticalPosition()};
@@ -68,12 +83,12 @@ Appearance::Backdrop backdropOf(const Canvas3dSettings& canvas)
 
 Color Appearance::textColor() const
 {
-    const auto luminance = [](const Color& color) {
-        return 0.299f * static_cast<float>(color.red) + 0.587f * static_cast<float>(color.green) +
-               0.114f * static_cast<float>(color.blue);
-    };
-    const bool isDark = 0.5f * (luminance(backdrop.top) + luminance(backdrop.bottom)) < 110.0f;
-    return Color::fromRgb(isDark ? 0xffffff : 0x000000);
+    return Color::fromRgb(luminance(backdrop) < c_darkLuminance ? 0xffffff : 0x000000);
+}
+
+Color Appearance::readable(const Color& wanted) const
+{
+    return std::abs(luminance(wanted) - luminance(backdrop)) < c_leastContrast ? textColor() : wanted;
 }
 
 Appearance Appearance::onScreen(const Canvas3dSettings& canvas, const SceneSettings* scene)
@@ -94,7 +109,8 @@ Appearance Appearance::onScreen(const Canvas3dSettings& canvas, const SceneSetti
         appearance.opacity = std::clamp(scene->getGlobalOpacity(), 0.0f, 1.0f);
         appearance.showLightMarkers = scene->getLight()->isRenderLightMarkers() && isDrawn(canvas, RenderLightMarkers);
     }
-    appearance.showAxes = canvas.getGridBoxSettingsPtr()->isGridShown() && isDrawn(canvas, RenderAxes);
+    appearance.showAxes = isDrawn(canvas, RenderAxes);
+    appearance.showGrid = canvas.getGridBoxSettingsPtr()->isGridShown();
     appearance.showAxisOrientation =
         canvas.getAxisOrientationIndicatorPtr()->isShown() && isDrawn(canvas, RenderAxisOrientation);
     return appearance;

@@ -62,6 +62,8 @@ struct Appearance {
     bool showLegends = false;
     bool showMinMax = false;
     bool showAxes = false;
+    /// Whether axes have lines across the scene as well.
+    bool showGrid = false;
     bool showAxisOrientation = false;
     bool showLightMarkers = false;
     /// What the whole scene lets through, from 0, invisible, to 1, opaque.
@@ -72,6 +74,9 @@ struct Appearance {
     float millimetres(float length) const { return length * pixelsPerInch / 25.4f; }
     /// Black or white, whichever can be read on the background.
     vxgraphics3d::Color textColor() const;
+    /// A colour chosen by the user, or `textColor` where it could not be told from the background: that of an export is
+    /// not the one that the colour was chosen for.
+    vxgraphics3d::Color readable(const vxgraphics3d::Color& wanted) const;
 
     /// The picture on the screen.
     /// @param scene the settings of the scene in this view, or null without a scene

@@ -12,6 +12,14 @@ class SceneSettings;
 
 namespace vxrenderer {
 
+/// What a canvas shows: a mode that does not exist counts as the 3D view.
+inline vxgraphics3d::Canvas3dSettings::RenderMode renderModeOf(const vxgraphics3d::Canvas3dSettings& canvas)
+{
+    using vxgraphics3d::Canvas3dSettings;
+    const bool isFlat = canvas.getRenderMode() == Canvas3dSettings::RenderMode2d;
+    return isFlat ? Canvas3dSettings::RenderMode2d : Canvas3dSettings::RenderMode3d;
+}
+
 /// Everything that one picture is drawn from.
 struct Frame {
     const vxgraphics3d::Canvas3dSettings& canvas;
@@ -23,7 +31,7 @@ struct Frame {
     const Appearance& appearance;
 
     /// Whether it is a 2D view.
-    bool isFlat() const { return canvas.getRenderMode() == vxgraphics3d::Canvas3dSettings::RenderMode2d; }
+    bool isFlat() const { return renderModeOf(canvas) == vxgraphics3d::Canvas3dSettings::RenderMode2d; }
     /// The camera of a 2D view.
     const vxgraphics3d::Camera2d& camera2d() const { return static_cast<const vxgraphics3d::Camera2d&>(camera); }
     /// Whether the view shows angles and radii.

@@ -9,6 +9,13 @@ class ICameraTransforms;
 
 namespace vxrenderer {
 
+/// What brings a point of clip space nearer to the eye and leaves it at its place in the picture: z and w grow by these
+/// for each unit of w, and the place is then taken by the former w.
+struct DepthShift {
+    float z = 0.0f;
+    float w = 0.0f;
+};
+
 /// How a camera sees the scene in one frame, in the form that shaders take it.
 struct View {
     PixelArea area;
@@ -18,6 +25,14 @@ struct View {
     vxgraphics3d::Matrixf projection{vxgraphics3d::Matrixf::MatrixIdentity};
     bool isPerspective = false;
     bool isFlat = false;
+
+    /// How far lines of a width in pixels are drawn before their points, to be seen whole on faces through them.
+    ///
+    /// A line keeps the depth of its middle across its width, and a steep face comes before that at one side of it. The
+    /// distance is six times the half width, or three pixels, in the scale of the picture: enough for faces up to 80
+    /// degrees, and too little to show a line that is visibly behind something. All faces of a flat view have one
+    /// depth.
+    DepthShift aboveFaces(float lineWidth) const;
 
     /// The present view of a camera that draws to an area.
     /// @param isFlat whether it is the camera of a 2D view

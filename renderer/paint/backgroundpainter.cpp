@@ -137,7 +137,12 @@ void BackgroundPainter::drawImage(const Appearance::Backdrop& backdrop, int widt
     // An image counts no changes, so the one that was loaded for the last frame may be another one.
     load(image);
 
-    const auto sideOf = [&](int size, float part) { return std::round(static_cast<float>(size) * part) * scale; };
+    // Half as many pixels come with half the scale and take the same space. An image without a scale counts as one of
+    // screen size.
+    const float density = pixels.getScale() > 0.0f && std::isfinite(pixels.getScale()) ? pixels.getScale() : 1.0f;
+    const auto sideOf = [&](int size, float part) {
+        return std::round(static_cast<float>(size) * part) * scale / density;
+    };
     const float imageWidth = sideOf(pixels.getWidth(), image.getWidthFraction());
     const float imageHeight = sideOf(pixels.getHeight(), image.getHeightFraction());
     const auto startOf = [](float room, float size, int position) {

@@ -18,6 +18,8 @@ layout(std140) uniform Line {
     float lineWidth;
     // How far the ends reach beyond the points, in units of half the width.
     float reach;
+    // What is added to z and w for each unit of w to bring a point nearer to the eye.
+    vec2 towardsEye;
 };
 layout(location = 0) in vec3 from;
 layout(location = 1) in vec3 to;
@@ -55,6 +57,8 @@ void main()
     offset += reach * (isEnd ? along : -along);
     u = isEnd ? places.y : places.x;
     place.xy += lineWidth * offset / viewport * place.w;
+    // The near plane cuts lines off only where it cuts off what they lie on.
+    place.z = max((place.z + towardsEye.x * place.w) / (1.0 + towardsEye.y), -place.w);
     gl_Position = place;
 }
 )";
@@ -82,6 +86,8 @@ struct LinePainter::LineBlock {
     std::array<float, 2> viewport;
     float lineWidth;
     float reach;
+    std::array<float, 2> towardsEye;
+    std::array<float, 2> unused{};
 };
 
 LinePainter::LinePainter()
@@ -109,6 +115,7 @@ void LinePainter::setUp(const Frame& frame, const Material& material, bool isClo
     block.viewport = {static_cast<float>(frame.width), static_cast<float>(frame.height)};
     block.lineWidth = frame.lineWidth;
     block.reach = isClosed ? 1.0f : 0.0f;
+    block.towardsEye = {frame.towardsEye.z, frame.towardsEye.w};
     m_program.use();
     m_line.set(block);
     m_material.set(material);

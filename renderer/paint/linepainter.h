@@ -2,6 +2,7 @@
 
 #include "graphics3d/foundation/matrixf.h"
 #include "graphics3d/foundation/vector3f.h"
+#include "renderer/frame/view.h"
 #include "renderer/gl/globject.h"
 #include "renderer/gl/glprogram.h"
 #include "renderer/paint/material.h"
@@ -33,6 +34,8 @@ public:
         /// In pixels. The ends of opaque lines reach half of it beyond the points, so that joints are closed; those of
         /// translucent lines do not, so that joints are not blended twice.
         float lineWidth;
+        /// By how much lines are nearer to the eye than their points.
+        DepthShift towardsEye{};
     };
 
     LinePainter();

@@ -34,6 +34,25 @@ Matrixf normalMatrixOf(const Matrixf& matrix)
     return transposed;
 }
 
+/// Whether a matrix turns a right hand into a left one, as the negative scale of an axis does.
+bool isMirrored(const Matrixf& matrix)
+{
+    const auto at = [&matrix](int i, int j) { return static_cast<double>(matrix.get(i, j)); };
+    return at(1, 1) * (at(2, 2) * at(3, 3) - at(2, 3) * at(3, 2)) -
+               at(1, 2) * (at(2, 1) * at(3, 3) - at(2, 3) * at(3, 1)) +
+               at(1, 3) * (at(2, 1) * at(3, 2) - at(2, 2) * at(3, 1)) <
+           0.0;
+}
+
+/// Steps to which the driver rounds positions, from the middle of a viewport to its sides.
+std::array<float, 2> roundingOf(const PixelArea& viewport)
+{
+    GLint bits = 0;
+    glGetIntegerv(GL_SUBPIXEL_BITS, &bits);
+    const float steps = 0.5f * static_cast<float>(1 << bits);
+    return {steps * static_cast<float>(viewport.width), steps * static_cast<float>(viewport.height)};
+}
+
 /// What the light of a frame asks of a shader.
 MeshShader lightShaderOf(const View& view, const Lighting& light)
 {
@@ -54,9 +73,6 @@ MeshShader lightShaderOf(const View& view, const Lighting& light)
 template <class Draw>
 void drawFaces(bool isTranslucent, Draw&& draw)
 {
-    // Faces lie a little deeper than lines at the same position.
-    glEnable(GL_POLYGON_OFFSET_FILL);
-    glPolygonOffset(1.0f, 1.0f);
     if (isTranslucent) {
         glEnable(GL_CULL_FACE);
         for (const GLenum culled : {GLenum{GL_FRONT}, GLenum{GL_BACK}}) {
@@ -67,7 +83,6 @@ void drawFaces(bool isTranslucent, Draw&& draw)
     } else {
         draw();
     }
-    glDisable(GL_POLYGON_OFFSET_FILL);
 }
 
 } // namespace
@@ -77,8 +92,10 @@ struct MeshPainter::ViewBlock {
     static constexpr GLuint c_binding = 0;
 
     std::array<float, 16> projection;
+    /// Steps to which the driver rounds positions, from the middle of the view to its sides.
+    std::array<float, 2> grid;
     std::int32_t isPerspective;
-    std::array<std::int32_t, 3> unused{};
+    std::int32_t unused = 0;
 };
 
 struct MeshPainter::LightBlock {
@@ -102,7 +119,7 @@ struct MeshPainter::ModelBlock {
 
 void MeshPainter::begin(const View& view, const Lighting& light)
 {
-    m_view.set({elementsOf(view.projection), view.isPerspective ? 1 : 0});
+    m_view.set({elementsOf(view.projection), roundingOf(view.area), view.isPerspective ? 1 : 0});
     m_light.set({light.ambient, light.places, light.diffuse, light.specular, light.cones});
     m_lightShader = lightShaderOf(view, light);
 }
@@ -121,26 +138,29 @@ const GlProgram& MeshPainter::program(const MeshShader& shader)
     return known->second;
 }
 
-void MeshPainter::setUp(bool isInstanced, const Matrixf& toEye, const Material& material)
+void MeshPainter::setUp(const Mesh& mesh, bool isInstanced, const Matrixf& toEye, const Material& material)
 {
     MeshShader shader = m_lightShader;
     shader.isInstanced = isInstanced;
     shader.isRestricted = material.isRestricted();
+    shader.lacksNormals = shader.isLit && !mesh.hasNormals();
     program(shader).use();
     m_model.set({elementsOf(toEye), elementsOf(normalMatrixOf(toEye))});
     m_material.set(material);
+    // Corners that run counter-clockwise in the scene run the other way in its mirror image.
+    glFrontFace(isMirrored(toEye) ? GL_CW : GL_CCW);
 }
 
 void MeshPainter::draw(const Mesh& mesh, const Matrixf& toEye, const Material& material)
 {
-    setUp(false, toEye, material);
+    setUp(mesh, false, toEye, material);
     drawFaces(material.isTranslucent(), [&] { mesh.draw(); });
 }
 
 void MeshPainter::draw(const Mesh& mesh, const InstanceBuffer& instances, const Matrixf& toEye,
                        const Material& material)
 {
-    setUp(true, toEye, material);
+    setUp(mesh, true, toEye, material);
     drawFaces(material.isTranslucent(), [&] { mesh.draw(instances); });
 }
 

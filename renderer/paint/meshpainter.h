@@ -38,7 +38,7 @@ private:
     struct ModelBlock;
 
     const GlProgram& program(const MeshShader& shader);
-    void setUp(bool isInstanced, const vxgraphics3d::Matrixf& toEye, const Material& material);
+    void setUp(const Mesh& mesh, bool isInstanced, const vxgraphics3d::Matrixf& toEye, const Material& material);
 
     /// Made when they are used for the first time.
     std::map<MeshShader, GlProgram> m_programs;

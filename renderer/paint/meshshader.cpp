@@ -5,11 +5,13 @@
 namespace vxrenderer {
 namespace {
 
-// With several samples a pixel, values at the border of a triangle are taken outside of it. u is `centroid` so that it
-// stays within the triangle: the restriction would punch holes along all edges otherwise.
+// With several samples per pixel, values at the border of a triangle are taken outside of it unless they are
+// `centroid`: the restriction would punch holes along all edges, and normals would turn over along outlines. The slope
+// of a triangle is the difference between pixels, whose distance is fixed only at their centres.
 constexpr const char* c_vertexBlocks = R"(
 layout(std140) uniform View {
     mat4 projection;
+    vec2 grid;
     bool isPerspective;
 };
 layout(std140) uniform Model {
@@ -19,8 +21,25 @@ layout(std140) uniform Model {
 layout(location = 0) in vec3 position;
 layout(location = 1) in vec3 normal;
 centroid out float u;
-out vec3 eyePosition;
-out vec3 eyeNormal;
+centroid out vec3 eyePosition;
+centroid out vec3 eyeNormal;
+out vec3 slopePosition;
+
+// Graphics hardware rounds corners to parts of a pixel before it finds out which samples a triangle covers, yet takes its
+// depths from the corners as they were: next to an outline the back of a surface would come before its front. Rounding
+// corners here keeps both together.
+vec4 clipPlace(vec4 eye)
+{
+    vec4 place = projection * eye;
+    vec2 steps = grid / place.w;
+    return vec4(place.w > 0.0 ? round(place.xy * steps) / steps : place.xy, place.zw);
+}
+
+// What is not finite is as good as absent.
+vec3 usable(vec3 v)
+{
+    return any(isnan(v)) || any(isinf(v)) ? vec3(0.0) : v;
+}
 )";
 
 constexpr const char* c_singleMain = R"(
@@ -30,9 +49,10 @@ void main()
 {
     vec4 eye = modelView * vec4(position, 1.0);
     eyePosition = eye.xyz;
-    eyeNormal = mat3(normalMatrix) * normal;
+    slopePosition = eye.xyz;
+    eyeNormal = mat3(normalMatrix) * usable(normal);
     u = texturePlace.x;
-    gl_Position = projection * eye;
+    gl_Position = clipPlace(eye);
 }
 )";
 
@@ -49,9 +69,10 @@ void main()
     mat3 turn = mat3(x, cross(z, x), z);
     vec4 eye = modelView * vec4(instancePosition + size * (turn * position), 1.0);
     eyePosition = eye.xyz;
-    eyeNormal = mat3(normalMatrix) * (turn * normal);
+    slopePosition = eye.xyz;
+    eyeNormal = mat3(normalMatrix) * (turn * usable(normal));
     u = instanceU;
-    gl_Position = projection * eye;
+    gl_Position = clipPlace(eye);
 }
 )";
 
@@ -60,6 +81,7 @@ const int c_maxLights = 8;
 
 layout(std140) uniform View {
     mat4 projection;
+    vec2 grid;
     bool isPerspective;
 };
 layout(std140) uniform Light {
@@ -70,16 +92,27 @@ layout(std140) uniform Light {
     vec4 lightCones[c_maxLights];
 };
 centroid in float u;
-in vec3 eyePosition;
-in vec3 eyeNormal;
+centroid in vec3 eyePosition;
+centroid in vec3 eyeNormal;
+in vec3 slopePosition;
 out vec4 result;
+
+// The normal on the side that is seen. Along an outline it may point away from the eye, as it belongs to a surface that
+// bends away within the triangle: the triangle knows its side, the angle between normal and eye does not.
+vec3 seenNormal()
+{
+    vec3 n = gl_FrontFacing ? eyeNormal : -eyeNormal;
+    if (c_lacksNormals) {
+        vec3 slope = cross(dFdx(slopePosition), dFdy(slopePosition));
+        n = dot(n, n) > 0.0 ? n : slope;
+    }
+    return normalize(n);
+}
 
 vec3 lit(vec3 color)
 {
     vec3 toEye = isPerspective ? normalize(-eyePosition) : vec3(0.0, 0.0, 1.0);
-    // Vertices without a normal are lit by the slope of the triangle. Surfaces are seen from both sides.
-    vec3 n = normalize(dot(eyeNormal, eyeNormal) > 0.0 ? eyeNormal : cross(dFdx(eyePosition), dFdy(eyePosition)));
-    n = dot(n, toEye) < 0.0 ? -n : n;
+    vec3 n = seenNormal();
     vec3 received = ambient.rgb;
     vec3 reflected = vec3(0.0);
     for (int i = 0; i < c_numLights; ++i) {
@@ -125,9 +158,10 @@ std::string MeshShader::vertexSource() const
 
 std::string MeshShader::fragmentSource() const
 {
-    return constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("hasPositions", hasPositions) +
-           constant("hasCones", hasCones) + constant("hasHighlights", hasHighlights) +
-           "const int c_numLights = " + std::to_string(numLights) + ";\n" + Material::c_source + c_fragmentMain;
+    return constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
+           constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
+           constant("hasHighlights", hasHighlights) + "const int c_numLights = " + std::to_string(numLights) + ";\n" +
+           Material::c_source + c_fragmentMain;
 }
 
 } // namespace vxrenderer

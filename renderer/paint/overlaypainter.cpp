@@ -128,12 +128,12 @@ void OverlayPainter::fillRect(const PixelRect& rect, const Color& color)
     drawQuads(c_plainMode, color);
 }
 
-void OverlayPainter::strokeRect(const PixelRect& rect, const Color& color)
+void OverlayPainter::strokeRect(const PixelRect& rect, float width, const Color& color)
 {
-    addQuad({rect.left, rect.top, rect.right, rect.top + 1.0f}, {});
-    addQuad({rect.left, rect.bottom - 1.0f, rect.right, rect.bottom}, {});
-    addQuad({rect.left, rect.top, rect.left + 1.0f, rect.bottom}, {});
-    addQuad({rect.right - 1.0f, rect.top, rect.right, rect.bottom}, {});
+    addQuad({rect.left, rect.top, rect.right, rect.top + width}, {});
+    addQuad({rect.left, rect.bottom - width, rect.right, rect.bottom}, {});
+    addQuad({rect.left, rect.top, rect.left + width, rect.bottom}, {});
+    addQuad({rect.right - width, rect.top, rect.right, rect.bottom}, {});
     drawQuads(c_plainMode, color);
 }
 

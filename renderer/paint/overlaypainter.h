@@ -32,8 +32,9 @@ public:
     void begin(int width, int height);
 
     void fillRect(const PixelRect& rect, const vxgraphics3d::Color& color);
-    /// A border of one pixel along the inner side of a rectangle.
-    void strokeRect(const PixelRect& rect, const vxgraphics3d::Color& color);
+    /// A border along the inner side of a rectangle.
+    /// @param width of the border, in pixels
+    void strokeRect(const PixelRect& rect, float width, const vxgraphics3d::Color& color);
     /// The colours of the one-dimensional texture bound to unit 0, from the bottom of the rectangle to its top.
     void fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor);
     /// A text with its top left corner at a place; characters stand on whole pixels.

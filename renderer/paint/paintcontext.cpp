@@ -32,7 +32,9 @@ void PaintContext::drawInstances(const Mesh* mesh, const InstanceBuffer* instanc
 void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width) const
 {
     if (mesh != nullptr) {
-        lines.draw(*mesh, {view.projection * look.toEye, view.area.width, view.area.height, width * scale},
+        lines.draw(*mesh,
+                   {view.projection * look.toEye, view.area.width, view.area.height, width * scale,
+                    view.aboveFaces(width * scale)},
                    faded(look.material, opacity));
     }
 }

@@ -44,6 +44,7 @@ LegendStyle legendStyleOf(const Frame& frame, FontSet& titles, FontSet& ticks)
     return {.titleFonts = titles,
             .tickFonts = ticks,
             .color = frame.appearance.textColor(),
+            .lineWidth = std::max(1.0f, std::round(frame.appearance.scale)),
             .showMinMax = frame.appearance.showMinMax,
             .tickDigits = settings.getLegendTickPrecision(),
             .minMaxDigits = settings.getLegendMinMaxPrecision()};
@@ -113,6 +114,7 @@ FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, c
     layout.legendTop = top;
     layout.legendLeft = fullWidth - margin - std::ceil(legendWidth);
     const float right = layout.legends.empty() ? fullWidth - margin : layout.legendLeft - margin;
+    layout.titleLeft = 0.5f * (fullWidth - layout.title.width);
     layout.space = {static_cast<int>(margin), static_cast<int>(top), static_cast<int>(right - margin),
                     static_cast<int>(fullHeight - top - margin)};
     return layout;

@@ -31,6 +31,8 @@ struct FrameLayout {
     LegendStyle legendStyle;
 
     TextLayout title{};
+    /// Over the middle of the scene, as far as the picture leaves space.
+    float titleLeft = 0.0f;
     float titleTop = 0.0f;
     std::vector<std::unique_ptr<Legend>> legends{};
     float legendTop = 0.0f;

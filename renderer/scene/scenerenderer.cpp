@@ -82,6 +82,10 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     layout.area = divideSpace(frame, layout.space, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
+        const float middle = static_cast<float>(area.x) + 0.5f * static_cast<float>(area.width);
+        const float rightmost = static_cast<float>(layout.width - layout.space.x) - layout.title.width;
+        layout.titleLeft =
+            std::max(std::min(middle - 0.5f * layout.title.width, rightmost), static_cast<float>(layout.space.x));
         frame.camera.setRenderArea(layout.width, layout.height, area.x, layout.height - area.y - area.height,
                                    area.width, area.height);
         frame.camera.setBoundingBox(frame.scene->getBoundingBox());
@@ -177,9 +181,9 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
 {
     const BoundingBox& box = frame.scene->getBoundingBox();
     for (const LightMarker& marker : lightMarkers(*frame.scene->getSceneLight(), box, frame.camera)) {
-        const float width = marker.isSelected ? c_selectedMarkerWidth : c_markerWidth;
+        const float width = (marker.isSelected ? c_selectedMarkerWidth : c_markerWidth) * frame.appearance.scale;
         m_lines.draw(marker.lines,
-                     {m_view.projection, m_view.area.width, m_view.area.height, width * frame.appearance.scale},
+                     {m_view.projection, m_view.area.width, m_view.area.height, width, m_view.aboveFaces(width)},
                      marker.color);
     }
 }
@@ -187,8 +191,7 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
 void SceneRenderer::drawDecoration(const FrameLayout& layout)
 {
     m_overlay.begin(layout.width, layout.height);
-    const float titleLeft = 0.5f * (static_cast<float>(layout.width) - layout.title.width);
-    m_overlay.drawText(layout.title, layout.titleFonts, titleLeft, layout.titleTop, layout.legendStyle.color);
+    m_overlay.drawText(layout.title, layout.titleFonts, layout.titleLeft, layout.titleTop, layout.legendStyle.color);
 
     float headHeight = 0.0f;
     for (const auto& legend : layout.legends) {

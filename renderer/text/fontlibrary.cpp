@@ -1,11 +1,14 @@
 #include "renderer/text/fontlibrary.h"
 
+#include "graphics3d/foundation/errorlog.h"
+
 #include <ft2build.h>
 #include FT_FREETYPE_H
 
 #include <algorithm>
 #include <array>
 #include <stdexcept>
+#include <string_view>
 
 namespace vxrenderer {
 namespace {
@@ -13,6 +16,28 @@ namespace {
 constexpr std::array c_folders = {"/usr/share/fonts/truetype/dejavu", "/usr/share/fonts/dejavu",
                                   "/usr/share/fonts/dejavu-sans-fonts", "/usr/share/fonts/TTF",
                                   "/usr/local/share/fonts/dejavu"};
+
+struct Alias {
+    std::string_view name;
+    FontFace::Family family;
+};
+
+/// Names of families in lower case without blanks and hyphens, those of one family together and its usual one first.
+constexpr Alias c_aliases[] = {{"sans", FontFace::Family::sans},
+                               {"", FontFace::Family::sans},
+                               {"default", FontFace::Family::sans},
+                               {"sansserif", FontFace::Family::sans},
+                               {"dialog", FontFace::Family::sans},
+                               {"serif", FontFace::Family::serif},
+                               {"mono", FontFace::Family::mono},
+                               {"sansmono", FontFace::Family::mono},
+                               {"monospace", FontFace::Family::mono},
+                               {"monospaced", FontFace::Family::mono},
+                               {"dialoginput", FontFace::Family::mono},
+                               {"condensed", FontFace::Family::condensed},
+                               {"sanscondensed", FontFace::Family::condensed},
+                               {"mathematics", FontFace::Family::mathematics},
+                               {"mathtexgyre", FontFace::Family::mathematics}};
 
 const char* fileOf(const FontFace& face)
 {
@@ -39,7 +64,7 @@ FontLibrary::FontLibrary()
     m_library.reset(library, FT_Done_FreeType);
 }
 
-FontFace::Family FontLibrary::familyByName(const std::string& name)
+std::optional<FontFace> FontLibrary::faceByName(const std::string& name)
 {
     std::string key;
     for (const char c : name) {
@@ -47,19 +72,54 @@ FontFace::Family FontLibrary::familyByName(const std::string& name)
             key.push_back(c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c);
         }
     }
+    FontFace face;
+    const auto take = [&key](std::string_view word) {
+        const std::size_t at = key.find(word);
+        if (at != std::string::npos) {
+            key.erase(at, word.size());
+        }
+        return at != std::string::npos;
+    };
+    face.bold = take("bold");
+    face.italic = take("italic") || take("oblique");
     if (key.starts_with("dejavu")) {
         key.erase(0, 6);
     }
-    if (key == "serif") {
-        return FontFace::Family::serif;
+    for (const auto& [alias, family] : c_aliases) {
+        if (key == alias) {
+            face.family = family;
+            return face;
+        }
     }
-    if (key == "sansmono" || key == "mono" || key == "monospaced" || key == "monospace") {
-        return FontFace::Family::mono;
+    return std::nullopt;
+}
+
+FontFace FontLibrary::choose(const std::string& name)
+{
+    const std::optional<FontFace> known = faceByName(name);
+    if (known && find({known->family})) {
+        return *known;
     }
-    if (key == "sanscondensed" || key == "condensed") {
-        return FontFace::Family::condensed;
+    if (m_missingNames.insert(name).second) {
+        vxgraphics3d::logWarning("The font \"%s\" is %s: the sans font is used. There are %s, each also with bold and "
+                                 "italic.",
+                                 name.c_str(), known ? "not installed" : "not known", installedFamilies().c_str());
     }
-    return FontFace::Family::sans;
+    return {FontFace::Family::sans, known && known->bold, known && known->italic};
+}
+
+std::string FontLibrary::installedFamilies()
+{
+    std::string names;
+    FontFace::Family last{};
+    for (const auto& [alias, family] : c_aliases) {
+        // The first alias of each family is its name.
+        if ((names.empty() || family != last) && find({family})) {
+            names += (names.empty() ? "" : ", ") + std::string(alias);
+            last = family;
+        }
+    }
+    return names;
 }
 
 FontLibrary::Face FontLibrary::find(const FontFace& face)

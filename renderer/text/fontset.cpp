@@ -14,7 +14,7 @@ constexpr Font::Glyph c_nothing = {};
 
 FontSet::FontSet(FontLibrary& library, const std::string& name, int pixelSize)
     : m_library(library),
-      m_family(FontLibrary::familyByName(name)),
+      m_face(library.choose(name)),
       m_pixelSize(std::clamp(pixelSize, c_smallestSize, c_largestSize))
 {}
 
@@ -30,13 +30,17 @@ Font& FontSet::font(const FontFace& face, int scriptLevel)
 
 Font& FontSet::fontOf(const TextStyle& style)
 {
-    return font({m_family, style.bold, style.italic}, style.scriptLevel);
+    return font(faceOf(m_face.family, style), style.scriptLevel);
+}
+
+FontFace FontSet::faceOf(FontFace::Family family, const TextStyle& style) const
+{
+    return {family, m_face.bold || style.bold, m_face.italic || style.italic};
 }
 
 FontSet::Found FontSet::find(char32_t character, const TextStyle& style)
 {
-    const std::array faces = {FontFace{m_family, style.bold, style.italic},
-                              FontFace{FontFace::Family::sans, style.bold, style.italic},
+    const std::array faces = {faceOf(m_face.family, style), faceOf(FontFace::Family::sans, style),
                               FontFace{FontFace::Family::mathematics, false, false}};
     for (const char32_t wanted : {character, c_replacement}) {
         for (const FontFace& face : faces) {

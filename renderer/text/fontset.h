@@ -10,7 +10,8 @@
 
 namespace vxrenderer {
 
-/// The fonts of one text setting: a family at one size, with its bold, italic and smaller variants.
+/// The fonts of one text setting: a face at one size, with its bold, italic and smaller variants. In a bold or italic
+/// face all text is so.
 ///
 /// A character that the family lacks is taken from the sans face, then from the mathematics face; one that all of them
 /// lack is shown as the replacement character.
@@ -26,6 +27,7 @@ public:
         const Font::Glyph* glyph;
     };
 
+    /// @param name see `FontLibrary::choose`
     FontSet(FontLibrary& library, const std::string& name, int pixelSize);
 
     /// The glyph of a character in a style.
@@ -40,9 +42,11 @@ public:
 private:
     Font& font(const FontFace& face, int scriptLevel);
     Font& fontOf(const TextStyle& style);
+    /// The face of a style, in a family.
+    FontFace faceOf(FontFace::Family family, const TextStyle& style) const;
 
     FontLibrary& m_library;
-    FontFace::Family m_family;
+    FontFace m_face;
     int m_pixelSize;
     std::map<std::pair<FontFace, int>, std::unique_ptr<Font>> m_fonts;
 };

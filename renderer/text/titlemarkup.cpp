@@ -307,4 +307,19 @@ std::vector<TitleItem> parseTitle(const vxbase::UString& markup)
     return Parser(markup).parse();
 }
 
+std::string plainText(std::string_view text)
+{
+    if (text.empty()) {
+        return {};
+    }
+    std::string markup = "\\unicode{";
+    for (const char c : text) {
+        if (c == '\\' || c == '{' || c == '}') {
+            markup += '\\';
+        }
+        markup += c;
+    }
+    return markup + '}';
+}
+
 } // namespace vxrenderer

@@ -2,6 +2,8 @@
 
 #include "renderer/text/textstyle.h"
 
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace vxbase {
@@ -53,5 +55,8 @@ struct TitleItem {
 /// Every text gives a result: an unknown command and a closing brace without an opening one are shown as they stand,
 /// and open groups end with the text.
 std::vector<TitleItem> parseTitle(const vxbase::UString& markup);
+
+/// The markup that shows a plain text, given as UTF-8, as it is. It is empty for an empty text.
+std::string plainText(std::string_view text);
 
 } // namespace vxrenderer

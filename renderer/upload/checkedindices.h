@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstddef>
-
 namespace vxgraphics3d {
 class IndexBuffer;
 class VertexBuffer;
@@ -21,14 +19,7 @@ public:
     CheckedIndices(const vxgraphics3d::IndexBuffer& indices, const vxgraphics3d::VertexBuffer& vertices);
 
     int size() const { return m_size; }
-    bool areWide() const { return m_wide != nullptr; }
-    /// The array and its bytes.
-    const void* data() const { return areWide() ? static_cast<const void*>(m_wide) : m_narrow; }
-    std::ptrdiff_t bytes() const
-    {
-        return m_size * static_cast<std::ptrdiff_t>(areWide() ? sizeof *m_wide : sizeof *m_narrow);
-    }
-    unsigned operator[](int position) const { return areWide() ? m_wide[position] : m_narrow[position]; }
+    unsigned operator[](int position) const { return m_wide != nullptr ? m_wide[position] : m_narrow[position]; }
 
 private:
     const unsigned short* m_narrow = nullptr;

@@ -5,6 +5,7 @@
 #include "graphics3d/buffers/vertexlayout.h"
 #include "renderer/upload/checkedindices.h"
 
+#include <cmath>
 #include <cstring>
 #include <stdexcept>
 #include <string>
@@ -66,10 +67,16 @@ void LineMesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
     };
     std::vector<Piece> pieces;
     pieces.reserve(static_cast<std::size_t>(checked.size()));
+    const auto isFinite = [](const vxgraphics3d::Vector3f& point, float u) {
+        return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z) && std::isfinite(u);
+    };
     forEachPiece(indices, [&](int from, int to) {
-        Piece& piece = pieces.emplace_back();
+        Piece piece;
         read(from, piece.from, piece.uFrom);
         read(to, piece.to, piece.uTo);
+        if (isFinite(piece.from, piece.uFrom) && isFinite(piece.to, piece.uTo)) {
+            pieces.push_back(piece);
+        }
     });
     glBindBuffer(GL_ARRAY_BUFFER, m_pieces.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(pieces.size() * sizeof(Piece)), pieces.data(),

@@ -29,7 +29,8 @@ public:
 
     LineMesh();
 
-    /// Copies the pieces of single lines or line strips, whose vertices need a position only.
+    /// Copies the pieces of single lines or line strips, whose vertices need a position only, without pieces that have
+    /// something not finite.
     /// @throws std::invalid_argument for vertices of an unknown type, or indices that form no lines
     /// @throws std::out_of_range if an index points beyond the vertices
     /// @throws std::runtime_error if the driver has no memory for it

@@ -4,6 +4,7 @@
 #include "graphics3d/buffers/vertexbuffer.h"
 #include "graphics3d/buffers/vertexlayout.h"
 #include "renderer/upload/checkedindices.h"
+#include "renderer/upload/drawntriangles.h"
 #include "renderer/upload/instancebuffer.h"
 
 #include <cstddef>
@@ -39,7 +40,7 @@ void Mesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
                                     " cannot be drawn as triangles.");
     }
     const VertexLayout& layout = requireLayout(vertices);
-    const CheckedIndices checked(indices, vertices);
+    const DrawnTriangles triangles(CheckedIndices(indices, vertices), vertices, layout);
 
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_vertices.name());
@@ -52,27 +53,27 @@ void Mesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
     describe(Attribute::secondTexture, layout.secondTexture, 2, GL_FLOAT, layout);
     describe(Attribute::triple, layout.triple, 3, GL_FLOAT, layout);
     glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, m_indices.name());
-    glBufferData(GL_ELEMENT_ARRAY_BUFFER, checked.bytes(), checked.data(), GL_STATIC_DRAW);
+    glBufferData(GL_ELEMENT_ARRAY_BUFFER, triangles.bytes(), triangles.data(), GL_STATIC_DRAW);
     glBindVertexArray(0);
     if (glGetError() == GL_OUT_OF_MEMORY) {
         throw std::runtime_error("The driver has no memory for a mesh.");
     }
-    m_indexType = checked.areWide() ? GL_UNSIGNED_INT : GL_UNSIGNED_SHORT;
-    m_numIndices = checked.size();
+    m_numIndices = triangles.size();
+    m_hasNormals = triangles.haveNormals();
 }
 
 void Mesh::draw() const
 {
     // Segments follow each other without gaps, and triangles do not mind their borders.
     glBindVertexArray(m_array.name());
-    glDrawElements(GL_TRIANGLES, m_numIndices, m_indexType, nullptr);
+    glDrawElements(GL_TRIANGLES, m_numIndices, GL_UNSIGNED_INT, nullptr);
 }
 
 void Mesh::draw(const InstanceBuffer& instances) const
 {
     glBindVertexArray(m_array.name());
     instances.bind();
-    glDrawElementsInstanced(GL_TRIANGLES, m_numIndices, m_indexType, nullptr, instances.size());
+    glDrawElementsInstanced(GL_TRIANGLES, m_numIndices, GL_UNSIGNED_INT, nullptr, instances.size());
     InstanceBuffer::release();
 }
 

@@ -27,11 +27,15 @@ enum class Attribute : GLuint {
 /// Triangles on the graphics hardware: a vertex buffer and an index buffer.
 class Mesh {
 public:
-    /// Copies both buffers, as far as they have been filled. The layout of the vertices follows from their type.
+    /// Copies both buffers, as far as they have been filled, without triangles that have something not finite. The
+    /// layout of the vertices follows from their type.
     /// @throws std::invalid_argument for vertices of an unknown type, or indices that form no triangles
     /// @throws std::out_of_range if an index points beyond the vertices
     /// @throws std::runtime_error if the driver has no memory for it
     void load(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
+
+    /// Whether all vertices that are drawn have a normal. Others are lit by the slope of their triangle.
+    bool hasNormals() const { return m_hasNormals; }
 
     /// Draws all segments with the program in use.
     void draw() const;
@@ -42,8 +46,8 @@ private:
     GlVertexArray m_array;
     GlBuffer m_vertices;
     GlBuffer m_indices;
-    GLenum m_indexType = GL_UNSIGNED_SHORT;
     GLsizei m_numIndices = 0;
+    bool m_hasNormals = false;
 };
 
 } // namespace vxrenderer

@@ -1,6 +1,7 @@
 #include "renderer/upload/uploadcache.h"
 
 #include "graphics3d/foundation/errorlog.h"
+#include "renderer/upload/contentdigest.h"
 
 #include <stdexcept>
 
@@ -9,14 +10,19 @@ namespace vxrenderer {
 using vxgraphics3d::IndexBuffer;
 using vxgraphics3d::VertexBuffer;
 
-template <class Upload, class Load>
+template <class Upload, class DigestOf, class Load>
 const Upload* UploadCache::get(Entries<Upload>& entries, const boost::shared_ptr<const void>& owner, int number,
-                               int changeId, Load&& load)
+                               int changeId, DigestOf&& digestOf, Load&& load)
 {
     Entry<Upload>& entry = entries[{owner.get(), number}];
     const bool isChanged = entry.lastChangeId.take(changeId);
     if (entry.owner.expired() || isChanged) {
         entry.owner = owner;
+        const std::optional<std::uint64_t> digest = digestOf();
+        if (digest && digest == entry.digest) {
+            return entry.isDrawable ? &entry.upload : nullptr;
+        }
+        entry.digest.reset();
         entry.isDrawable = false;
         try {
             load(entry.upload);
@@ -25,6 +31,7 @@ const Upload* UploadCache::get(Entries<Upload>& entries, const boost::shared_ptr
         } catch (const std::logic_error& fault) {
             vxgraphics3d::logError("A mesh is not drawn: %s", fault.what());
         }
+        entry.digest = digest;
     }
     return entry.isDrawable ? &entry.upload : nullptr;
 }
@@ -32,19 +39,25 @@ const Upload* UploadCache::get(Entries<Upload>& entries, const boost::shared_ptr
 const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
                               const VertexBuffer& vertices, const IndexBuffer& indices)
 {
-    return get(m_meshes, owner, number, changeId, [&](Mesh& mesh) { mesh.load(vertices, indices); });
+    return get(
+        m_meshes, owner, number, changeId, [&] { return contentDigest(vertices, indices); },
+        [&](Mesh& mesh) { mesh.load(vertices, indices); });
 }
 
 const LineMesh* UploadCache::lines(const boost::shared_ptr<const void>& owner, int number, int changeId,
                                    const VertexBuffer& vertices, const IndexBuffer& indices)
 {
-    return get(m_lines, owner, number, changeId, [&](LineMesh& lines) { lines.load(vertices, indices); });
+    return get(
+        m_lines, owner, number, changeId, [&] { return contentDigest(vertices, indices); },
+        [&](LineMesh& lines) { lines.load(vertices, indices); });
 }
 
 const InstanceBuffer* UploadCache::instances(const boost::shared_ptr<const void>& owner, int number, int changeId,
                                              const std::function<std::vector<Instance>()>& make)
 {
-    return get(m_instances, owner, number, changeId, [&](InstanceBuffer& instances) { instances.load(make()); });
+    return get(
+        m_instances, owner, number, changeId, [] { return std::nullopt; },
+        [&](InstanceBuffer& instances) { instances.load(make()); });
 }
 
 void UploadCache::dropLost()

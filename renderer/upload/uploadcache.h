@@ -9,8 +9,10 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/weak_ptr.hpp>
 
+#include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -23,8 +25,10 @@ namespace vxrenderer {
 /// weakly: the cache keeps no plot alive, and does not take a new object at an old address for the old one. What is
 /// given out lives until `dropLost`.
 ///
-/// Each upload is repeated when `changeId`, the change number that counts the changes of its data, differs from the one
-/// seen last. Data that cannot be drawn are reported once for each change and give null.
+/// Data are looked at again when `changeId`, the change number that counts their changes, differs from the one seen
+/// last. Numbers also move for other reasons, as that of a plot's geometry does when a value restriction is switched
+/// on: buffers whose content is the same are not loaded again. Data that cannot be drawn are reported once for each
+/// change and give null.
 class UploadCache {
 public:
     explicit UploadCache(UploadCounts& counts) : m_counts(counts) {}
@@ -48,15 +52,18 @@ private:
     struct Entry {
         boost::weak_ptr<const void> owner;
         vxgraphics3d::LastChangeId lastChangeId;
+        /// Of what was loaded; empty where contents are not compared.
+        std::optional<std::uint64_t> digest;
         bool isDrawable = false;
         Upload upload;
     };
     template <class Upload>
     using Entries = std::map<std::pair<const void*, int>, Entry<Upload>>;
 
-    template <class Upload, class Load>
+    /// @param digestOf gives the digest of the data, or nothing where contents are not compared
+    template <class Upload, class DigestOf, class Load>
     const Upload* get(Entries<Upload>& entries, const boost::shared_ptr<const void>& owner, int number, int changeId,
-                      Load&& load);
+                      DigestOf&& digestOf, Load&& load);
 
     UploadCounts& m_counts;
     Entries<Mesh> m_meshes;

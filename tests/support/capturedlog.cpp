@@ -21,10 +21,10 @@ CapturedLog::~CapturedLog()
     log->setTargetToStdErr();
 }
 
-std::vector<std::string> CapturedLog::messages() const
+std::vector<std::string> CapturedLog::messagesIn(const std::string& text)
 {
     std::vector<std::string> result;
-    std::istringstream lines(text());
+    std::istringstream lines(text);
     for (std::string line; std::getline(lines, line);) {
         const std::size_t begin = line.find('\t', line.find('\t') + 1) + 1;
         result.push_back(line.substr(begin, line.rfind('\t') - begin));

@@ -20,7 +20,9 @@ public:
     /// All that has been written so far.
     std::string text() const { return m_file.read(); }
     /// The message field of each line written so far.
-    std::vector<std::string> messages() const;
+    std::vector<std::string> messages() const { return messagesIn(text()); }
+    /// The message field of each line of a text that a log has written.
+    static std::vector<std::string> messagesIn(const std::string& text);
 
 private:
     TemporaryFile m_file;

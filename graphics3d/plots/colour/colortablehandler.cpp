@@ -44,7 +44,7 @@ bool ColorTableHandler::addColorTable(const std::string& name, ColorTable::Type 
 bool ColorTableHandler::updateColorTable(const std::string& name, ColorTable::Type type,
                                          const ColorTable::Colors& colors)
 {
-    ColorTable& table = known(name);
+    ColorTable& table = *known(name)->second;
     if (isProtected(table)) {
         return false;
     }
@@ -64,24 +64,26 @@ bool ColorTableHandler::deleteColorTable(const std::string& name)
 
 bool ColorTableHandler::renameColorTable(const std::string& oldName, const std::string& newName)
 {
-    ColorTable& table = known(oldName);
-    if (isProtected(table)) {
+    const auto found = known(oldName);
+    if (isProtected(*found->second)) {
         return false;
     }
-    table.rename(newName);
-    auto node = m_colorTables.extract(oldName);
-    node.key() = newName;
+    // The old name may be the table's own, which changes here.
+    std::string key = newName;
+    found->second->rename(key);
+    auto node = m_colorTables.extract(found);
+    node.key() = std::move(key);
     m_colorTables.insert(std::move(node));
     return true;
 }
 
-ColorTable& ColorTableHandler::known(const std::string& name) const
+ColorTableHandler::ColorTables::const_iterator ColorTableHandler::known(const std::string& name) const
 {
     const auto found = m_colorTables.find(name);
     if (found == m_colorTables.end()) {
         throw std::out_of_range("There is no color table \"" + name + "\".");
     }
-    return *found->second;
+    return found;
 }
 
 } // namespace vxgraphics3d

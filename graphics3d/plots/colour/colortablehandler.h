@@ -43,14 +43,16 @@ public:
     void setLastProtectedId(int id) { m_lastProtectedId = id; }
 
 private:
+    using ColorTables = std::map<std::string, boost::shared_ptr<ColorTable>>;
+
     ColorTableHandler() = default;
 
-    ColorTable& known(const std::string& name) const;
+    ColorTables::const_iterator known(const std::string& name) const;
     bool isProtected(const ColorTable& table) const { return table.getId() <= m_lastProtectedId; }
 
     static boost::shared_ptr<ColorTableHandler> m_instance;
 
-    std::map<std::string, boost::shared_ptr<ColorTable>> m_colorTables;
+    ColorTables m_colorTables;
     int m_lastProtectedId = -1;
 };
 

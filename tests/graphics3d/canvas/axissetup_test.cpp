@@ -86,6 +86,20 @@ TEST(AxisSetup, titlesAreStoredAsMarkup)
     EXPECT_EQ(setup.getSymmetryAxisTitle().toUtf8(), "");
 }
 
+TEST(AxisSetup, aTitleCanBeMadeOfThePresentOne)
+{
+    AxisSetup setup;
+    setup.setXAxisTitle("x");
+    setup.setXAxisTitle(setup.getXAxisTitle());
+    EXPECT_EQ(setup.getXAxisTitle().toUtf8(),
+              "\\begin{center}\\unicode{\\\\begin\\{center\\}\\\\unicode\\{x\\}\\\\end\\{center\\}}\\end{center}");
+    setup.setSymmetryAxis("r");
+    setup.setSymmetryAxis(setup.getSymmetryAxisTitle());
+    EXPECT_EQ(setup.getSymmetryAxisTitle().toUtf8(),
+              "\\begin{center}\\unicode{\\\\begin\\{center\\}\\\\unicode\\{r=0\\}"
+              "\\\\end\\{center\\}=0}\\end{center}");
+}
+
 TEST(AxisSetup, copiesHaveEveryValueExceptTheChangeNumber)
 {
     AxisSetup source;

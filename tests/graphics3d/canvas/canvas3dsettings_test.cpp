@@ -249,6 +249,10 @@ TEST(Canvas3dBackgroundSettings, twoEqualColoursMeanNoShading)
     EXPECT_EQ(background.getBottomBackgroundColor(), c_blue);
     background.setBackgroundColor(c_blue);
     EXPECT_EQ(background.getChangeId(), 5) << "every call counts";
+    background.setShadedBackground(c_red, c_blue);
+    background.setShadedBackground(background.getBottomBackgroundColor(), background.getTopBackgroundColor());
+    EXPECT_EQ(background.getTopBackgroundColor(), c_blue);
+    EXPECT_EQ(background.getBottomBackgroundColor(), c_red) << "the colours can be exchanged";
 }
 
 TEST(Canvas3dBackgroundSettings, withoutAnImageThePositionIsTheCentre)

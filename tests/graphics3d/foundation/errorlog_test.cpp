@@ -1,5 +1,6 @@
 #include "graphics3d/foundation/errorlog.h"
 
+#include "tests/support/capturederror.h"
 #include "tests/support/capturedlog.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +9,7 @@
 #include <atomic>
 #include <chrono>
 #include <clocale>
-#include <cstdio>
+#include <cstdlib>
 #include <sstream>
 #include <thread>
 #include <vector>
@@ -18,11 +19,19 @@ namespace {
 
 using Level = ErrorLog::Level;
 
-TEST(ErrorLog, isSilentUntilALevelIsSet)
+/// In a process of its own, in which no log has been set up.
+TEST(ErrorLogDeathTest, isSilentUntilALevelIsSetAndThenWritesOnStandardError)
 {
-    CapturedLog log(Level::none);
-    logError("text");
-    EXPECT_EQ(log.text(), "");
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    const auto useNewLog = [] {
+        logError("unheard");
+        ErrorLog::getInstance()->setActive(true);
+        logError("unheard as well");
+        ErrorLog::getInstance()->setReportLevel(Level::error);
+        logError("heard");
+        std::exit(0);
+    };
+    EXPECT_EXIT(useNewLog(), testing::ExitedWithCode(0), "^error\tgraphics:0\theard\terrorlog_test.cpp;[0-9]+\n$");
 }
 
 TEST(ErrorLog, writesLevelModuleTextAndLocationWithTabs)
@@ -177,15 +186,18 @@ TEST(ErrorLog, linesAreWholeAndNoneIsLostWhileTheFileChanges)
 TEST(ErrorLog, standardStreamsAreNotClosedByTheNextTarget)
 {
     CapturedLog captured(Level::info);
+    CapturedError error;
     ErrorLog* log = ErrorLog::getInstance();
     testing::internal::CaptureStdout();
     EXPECT_TRUE(log->setTargetToStdOut());
     logInfo("one");
     EXPECT_TRUE(log->setTargetToStdErr());
-    EXPECT_GE(std::puts("still open"), 0);
+    logInfo("two");
+    EXPECT_TRUE(log->setTargetToStdOut());
+    logInfo("three");
     const std::string out = testing::internal::GetCapturedStdout();
-    EXPECT_NE(out.find("\tone\t"), std::string::npos);
-    EXPECT_NE(out.find("still open"), std::string::npos);
+    EXPECT_EQ(CapturedLog::messagesIn(out), (std::vector<std::string>{"one", "three"}));
+    EXPECT_EQ(CapturedLog::messagesIn(error.take()), std::vector<std::string>{"two"});
     EXPECT_EQ(captured.text(), "");
 }
 

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <sstream>
+#include <utility>
 
 namespace vxgraphics3d {
 namespace {
@@ -127,9 +129,17 @@ TEST(Matrixf, isWrittenRowByRow)
     std::ostringstream stream;
     stream << c_counted;
     EXPECT_EQ(stream.str(), "[1 2 3 4] [5 6 7 8] [9 10 11 12] [13 14 15 16]");
+    // Only infinite numbers are short enough for the field width of the constant form.
+    Matrixf m = c_counted;
+    m.set(2, 3, std::numeric_limits<float>::infinity());
     testing::internal::CaptureStdout();
-    c_counted.print();
-    EXPECT_EQ(testing::internal::GetCapturedStdout().substr(0, 36), "1.000000 2.000000 3.000000 4.000000\n");
+    m.print();
+    std::as_const(m).print();
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "1.000000 2.000000 3.000000 4.000000\n5.000000 6.000000 inf 8.000000\n"
+              "9.000000 10.000000 11.000000 12.000000\n13.000000 14.000000 15.000000 16.000000\n"
+              "1.000000 2.000000 3.000000 4.000000\n5.000000 6.000000      inf 8.000000\n"
+              "9.000000 10.000000 11.000000 12.000000\n13.000000 14.000000 15.000000 16.000000\n");
 }
 
 } // namespace

@@ -218,6 +218,8 @@ TEST(LightSource, lockingTransformsToCameraSpaceAndReleasingBack)
     // From above: right is x, up is y rotated to -z, so world z is the camera's y.
     camera.lookAt(Vector3f(0.0f, -5.0f, 0.0f), Vector3f(0.0f, 1.0f, 0.0f), Vector3f(0.0f, 0.0f, 1.0f));
     camera.setRotationPoint(Vector3f(1.0f, 0.0f, 0.0f));
+    // Lights are placed in the world before it is stretched.
+    camera.setAxisViewScales(2.0f, 3.0f, 0.5f);
     const auto owner = SceneLight::create();
     SceneLight& light = *owner;
     auto& direction = sourceOf<DirectionLightSource>(light, light.createDirectionLight());

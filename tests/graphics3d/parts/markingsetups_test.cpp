@@ -122,6 +122,20 @@ TEST(MarkingSetups, setMarkingSetupStoresEachValueAndShowsAHiddenRow)
     }
 }
 
+TEST(MarkingSetups, setMarkingSetupTakesTheColoursOfTheRowItself)
+{
+    MarkingSetups setups;
+    setups.setMarkingSetup(MarkingSetups::MarkingMode1, RowPrimary, {1, 0, 0, 0}, {2, 0, 0, 0}, 1.0f, {3, 0, 0, 0},
+                           1.0f, {4, 0, 0, 0}, 0);
+    const Marking& row = setups.getMarking(MarkingSetups::MarkingMode1, RowPrimary);
+    setups.setMarkingSetup(MarkingSetups::MarkingMode1, RowPrimary, row.getLabelColor(), row.getSheetColor(), 1.0f,
+                           row.getLineColor(), 1.0f, row.getPointColor(), 0);
+    EXPECT_EQ(row.getSheetColor().red, 4);
+    EXPECT_EQ(row.getLineColor().red, 1);
+    EXPECT_EQ(row.getPointColor().red, 2);
+    EXPECT_EQ(row.getLabelColor().red, 3);
+}
+
 TEST(MarkingSetups, setMarkingModeSetupReplacesOneMode)
 {
     MarkingSetups setups;

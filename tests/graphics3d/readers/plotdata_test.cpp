@@ -4,13 +4,19 @@
 #include "graphics3d/readers/postdatareader.h"
 #include "tests/support/capturederror.h"
 #include "tests/support/capturedlog.h"
+#include "tests/support/temporaryfile.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <filesystem>
 #include <fstream>
+#include <future>
+#include <limits>
 #include <regex>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -102,31 +108,174 @@ TEST(PlotData, hasTheSizesAndLimitsOfItsPage)
     }
 }
 
-TEST(PlotData, samplesOfThePageBehaveAsDocumented)
+/// The page on the format.
+std::string readPage()
 {
     std::ifstream stream(c_docsFolder + "plot-data-format.md");
     std::ostringstream text;
     text << stream.rdbuf();
-    const std::string page = text.str();
-    // A sample, and its message if it is invalid.
-    const std::regex sample(R"(<!-- from docs/samples/(\S+) -->\s```\n[^`]*```\n(\nMessage: `(.*)`\n)?)");
-    int numSamples = 0;
-    for (std::sregex_iterator match(page.begin(), page.end(), sample), end; match != end; ++match) {
-        const std::string name = match->str(1);
-        const std::string path = c_docsFolder + "samples/" + name;
-        std::string message = match->str(3);
+    return text.str();
+}
+
+/// All that a regular expression matches, and nothing that lies between.
+std::vector<std::smatch> matchesOf(const std::regex& pattern, const std::string& text)
+{
+    return {std::sregex_iterator(text.begin(), text.end(), pattern), std::sregex_iterator()};
+}
+
+/// A record of the kind that a sample is for.
+Record recordFor(const std::string& sample)
+{
+    Record record;
+    record.m_plotKind = sample.rfind("plot-levels", 0) == 0 ? Record::IsoSurface : Record::Surface3d;
+    return record;
+}
+
+TEST(PlotData, eachInvalidSampleGivesTheMessageAndTheRowThatThePageStates)
+{
+    const std::string page = readPage();
+    const std::regex tableRow(R"(\| `(.*)` \| (\d+|none) \| .* \| \[`.*`\]\(samples/(.*)\) \|)");
+    const std::vector<std::smatch> rows = matchesOf(tableRow, page);
+    EXPECT_EQ(rows.size(), 27u);
+    for (const std::smatch& row : rows) {
+        const std::string path = c_docsFolder + "samples/" + row.str(3);
+        std::string message = row.str(1);
         if (const std::size_t at = message.find("FILE"); at != std::string::npos) {
             message.replace(at, 4, path);
         }
         const CapturedLog log(ErrorLog::Level::error);
-        CapturedError error;
-        Record record;
-        record.m_plotKind = name.rfind("plot-levels", 0) == 0 ? Record::IsoSurface : Record::Surface3d;
-        EXPECT_EQ(readPostData(record, path), message.empty()) << name;
-        EXPECT_EQ(log.messages(), message.empty() ? std::vector<std::string>() : std::vector{message}) << name;
-        ++numSamples;
+        CapturedError standardError;
+        Record record = recordFor(row.str(3));
+        ReaderError error;
+        EXPECT_FALSE(readPostData(record, path, error)) << path;
+        EXPECT_EQ(log.messages(), std::vector{message}) << path;
+        EXPECT_EQ(error.message, message) << path;
+        EXPECT_EQ(error.row == 0 ? "none" : std::to_string(error.row), row.str(2)) << path;
+        EXPECT_EQ(standardError.take().substr(0, message.size()), message.rfind("Illegal", 0) == 0 ? "" : message)
+            << path;
     }
-    EXPECT_EQ(numSamples, 9);
+}
+
+TEST(PlotData, everySampleIsOnThePageAndThoseShownThereAreValid)
+{
+    const std::string page = readPage();
+    int numShown = 0;
+    for (const auto& file : std::filesystem::directory_iterator(c_docsFolder + "samples")) {
+        const std::string name = file.path().filename();
+        if (page.find("<!-- from docs/samples/" + name + " -->") != std::string::npos) {
+            Record record = recordFor(name);
+            EXPECT_TRUE(readPostData(record, file.path())) << name;
+            ++numShown;
+        } else if (name.rfind("plot-", 0) == 0) {
+            EXPECT_NE(page.find("(samples/" + name + ")"), std::string::npos) << name;
+        }
+    }
+    EXPECT_EQ(numShown, 3);
+}
+
+TEST(PlotData, treatsValuesThatAreNotFiniteAsThePageStates)
+{
+    // NaN is written as -1, which is no scaled value and no component of these normals.
+    const auto marked = [](const auto& values) {
+        std::vector<double> result;
+        for (const double value : values) {
+            result.push_back(std::isnan(value) ? -1.0 : value);
+        }
+        return result;
+    };
+    const auto read = [](Record::PlotKind kind, const std::string& coordinates, const std::string& data) {
+        const TemporaryFile file("% Coordinates\n" + coordinates + "% Elements (triangular)\n1 2 3\n1 3 4\n% Data\n" +
+                                 data);
+        Record record;
+        record.m_plotKind = kind;
+        EXPECT_TRUE(readPostData(record, file.path()));
+        return record;
+    };
+    using Values = std::vector<double>;
+    const std::string square = "0 0 0\n1 0 0\n1 1 0\n0 1 0\n";
+    const struct {
+        Record::PlotKind kind;
+        const char* data;
+        Values scaled;
+    } cases[] = {
+        {Record::Surface3d, "2\nnan\n4\n6\n", {0, -1, 0.5, 1}},
+        {Record::Surface3d, "2\n-NaN(x)\n4\n6\n", {0, -1, 0.5, 1}},
+        {Record::Surface3d, "2\ninf\n4\n6\n", {0, -1, 0, 0}},
+        {Record::Surface3d, "2\n1e39\n4\n6\n", {0, -1, 0, 0}},
+        {Record::Surface3d, "2\n-Infinity\n4\n6\n", {-1, -1, -1, -1}},
+        {Record::IsoSurface, "2\n2\nnan\n2\n", {0, 0, -1, 0}},
+        {Record::IsoSurface, "2\n2\ninf\n2\n", {0, 0, -1, 0}},
+        {Record::IsoSurface, "nan\n2\n4\n6\n", {-1, 0, 0.5, 1}},
+    };
+    for (const auto& [kind, data, scaled] : cases) {
+        const Record record = read(kind, square, data);
+        ASSERT_EQ(record.m_data.size(), 1u) << data;
+        EXPECT_EQ(marked(record.m_data[0]->back()), scaled) << data;
+    }
+    const Record hole = read(Record::Surface3d, square, "2\nnan\n4\n6\n");
+    EXPECT_EQ(*hole.m_dataMin[0], Values{0});
+    EXPECT_EQ(*hole.m_dataMax[0], Values{1});
+
+    const Record nan = read(Record::Surface3d, "0 0 0\nnan 0 0\n1 1 0\n0 1 0\n", "1\n2\n3\n4\n");
+    EXPECT_EQ(*nan.m_bounds, (Record::DoubleArrays{{0, 1}, {0, 1}, {0, 0}}));
+    EXPECT_EQ(marked(nan.m_normals[0]->at(2)), (Values{-1, -1, -1, 1}));
+    const Record infinite = read(Record::Surface3d, "0 0 0\ninf 0 0\n1 1 0\n0 1 0\n", "1\n2\n3\n4\n");
+    EXPECT_EQ(infinite.m_bounds->at(0), (Values{0, std::numeric_limits<double>::infinity()}));
+    EXPECT_EQ(marked(infinite.m_normals[0]->at(2)), (Values{-1, -1, -1, 1}));
+}
+
+TEST(PlotData, keepsTheErrorsOfEachThreadApart)
+{
+    const auto messageOf = [](const std::string& sample) {
+        Record record = recordFor(sample);
+        ReaderError error;
+        readPostData(record, c_docsFolder + "samples/" + sample, error);
+        return error.message;
+    };
+    CapturedError standardError;
+    auto elsewhere = std::async(std::launch::async, [&] {
+        for (int i = 0; i < 200; ++i) {
+            EXPECT_EQ(messageOf("plot-count.txt"), "Coordinates do not match Data.");
+        }
+    });
+    for (int i = 0; i < 200; ++i) {
+        EXPECT_EQ(messageOf("plot-value.txt"), "Illegal data: \"high\"");
+    }
+    elsewhere.get();
+}
+
+TEST(PlotData, namesTheRowOfAnErrorAmongManyRows)
+{
+    std::string text = "% Coordinates\n";
+    for (int i = 0; i < 300; ++i) {
+        text += "0 0 0\n";
+    }
+    std::string triangles = "% Elements (triangular)\n";
+    for (int i = 0; i < 300; ++i) {
+        triangles += i == 200 ? "1 2 301\n" : "1 2 3\n";
+    }
+    std::string data = "% Data\n";
+    for (int i = 0; i < 305; ++i) {
+        data += "1\n";
+    }
+    CapturedError standardError;
+    for (const auto& [file, row] : {std::pair(text + triangles, 503), std::pair(text + data, 603)}) {
+        const TemporaryFile target(file);
+        Record record = recordFor("");
+        ReaderError error;
+        EXPECT_FALSE(readPostData(record, target.path(), error));
+        EXPECT_EQ(error.row, row) << error.message;
+    }
+}
+
+TEST(PlotData, saysThatNoFileHoldsDataOfAnotherKind)
+{
+    Record record;
+    record.m_plotKind = Record::Mesh3d;
+    ReaderError error;
+    EXPECT_FALSE(readPostData(record, c_docsFolder + "samples/plot-square.txt", error));
+    EXPECT_EQ(error.message, "No file holds data of plot kind 12");
+    EXPECT_EQ(error.row, 0);
 }
 
 } // namespace

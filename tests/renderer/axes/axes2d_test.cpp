@@ -158,6 +158,39 @@ TEST_F(Axes2d, aPolarViewHasCirclesAndSpokes)
     EXPECT_EQ(radii.size(), 68u);
 }
 
+TEST_F(Axes2d, aPolarSetupHasCirclesAndRaysAboutTheOrigin)
+{
+    setup.setAxisType(AxisSetup::AxisPolar);
+    show(-4.0f, 4.0f, -2.0f, 2.0f);
+    Axes2dLayout layout = this->layout();
+    EXPECT_EQ(layout.frame.size(), 4u) << "the frame of the area";
+    EXPECT_TRUE(layout.ticks.empty());
+    // 50 pixels per unit, the origin at (320, 150).
+    const Vector3f center(320.0f, 150.0f, 0.0f);
+    EXPECT_EQ(told(layout, false), "180\xC2\xB0 225\xC2\xB0 270\xC2\xB0 315\xC2\xB0 0\xC2\xB0 45\xC2\xB0 90\xC2\xB0 "
+                                   "135\xC2\xB0 1 2");
+    expectLine(layout.grid[4], center, {520.0f, 150.0f, 0.0f});
+    expectLine(layout.grid[5], center, {420.0f, 50.0f, 0.0f});
+    expectLabel(layout.labels[4], 523.0f, 150.0f, 0.0f, 0.5f);
+    expectLabel(layout.labels[5], 420.0f, 47.0f, 0.5f, 1.0f);
+    expectLabel(layout.labels[8], 323.0f, 100.0f, 0.0f, 0.0f);
+    for (std::size_t i = 8; i < layout.grid.size(); ++i) {
+        const double radius = static_cast<double>((layout.grid[i].from - center).length()) / 50.0;
+        EXPECT_NEAR(radius, std::round(radius), 1e-4);
+    }
+    EXPECT_EQ(axes2dMargins(input(), metrics).right, 46.0f) << "330 degrees, with gaps";
+
+    // Far from the origin: a narrow sector.
+    show(100.0f, 104.0f, -1.0f, 1.0f);
+    layout = this->layout();
+    EXPECT_EQ(told(layout, false), "0\xC2\xB0 100 101 102 103");
+    for (const AxisLine& line : layout.grid) {
+        EXPECT_LT((line.from - line.to).length(), 500.0f);
+    }
+    camera.setCameraMode(Camera2d::ModeOneDimensional);
+    EXPECT_FALSE(this->layout().ticks.empty()) << "a height that means nothing has no radii";
+}
+
 TEST_F(Axes2d, marginsFollowTheTitles)
 {
     const AxisMargins margins = axes2dMargins(input(), metrics);

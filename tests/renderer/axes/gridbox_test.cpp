@@ -115,6 +115,16 @@ TEST(GridBox, isLabelledAlongTheLowestAndTheLeftmostEdge)
     EXPECT_TRUE(startsAt({-1.0f, -1.0f, 0.0f})) << "z at the left";
 }
 
+TEST(GridBox, shortAxesKeepTwoLabels)
+{
+    Camera3d camera;
+    lookParallel(camera, {0.0f, 0.0f, 10.0f}, {0.0f, 1.0f, 0.0f});
+    camera.setOrthographicHeight(1200.0f);
+    // 60 pixels by 40: coarse ticks would leave 0 alone on both axes.
+    const GridBoxLayout layout = layoutOf({-60.0f, 60.0f, -40.0f, 40.0f, 0.0f, 0.0f}, camera);
+    EXPECT_EQ(told(layout, false), "-50 0 50 -40 -20 0 20 40");
+}
+
 TEST(GridBox, isJudgedAsItIsSeenStretched)
 {
     Camera3d camera;

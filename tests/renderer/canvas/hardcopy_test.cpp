@@ -1,9 +1,11 @@
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/matrixf.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/canvas/offscreencanvas.h"
 #include "renderer/frame/appearance.h"
 #include "tests/renderer/support/pngfile.h"
@@ -12,7 +14,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 namespace vxrenderer {
@@ -163,6 +167,106 @@ TEST(Hardcopy, showsNoMoreOfTheSceneWhereAPixelKeepsItsSize)
         EXPECT_GT(growth, 16.0) << isFlat;
         EXPECT_LT(growth, 24.0) << isFlat;
     }
+}
+
+/// The corners of what has a colour in a file, and whether there is any.
+struct Extent {
+    int left = 1 << 20;
+    int top = 1 << 20;
+    int right = -1;
+    int bottom = -1;
+
+    Extent(const PngFile& file, const Rgb& color)
+    {
+        for (int y = 0; y < file.height; ++y) {
+            for (int x = 0; x < file.width; ++x) {
+                if (std::equal(color.begin(), color.end(), file.pixels.begin() + 3 * (y * file.width + x))) {
+                    left = std::min(left, x);
+                    top = std::min(top, y);
+                    right = std::max(right, x);
+                    bottom = std::max(bottom, y);
+                }
+            }
+        }
+    }
+};
+
+TEST(Hardcopy, showsAllOfTheFlatDataThatTheScreenShowsInAnyShape)
+{
+    using Settings = vxgraphics3d::Canvas3dGlobalSettings;
+    OffscreenCanvas canvas(160, 120, 1);
+    TestScene scene;
+    // A square with a border of another colour.
+    GridRecord record;
+    record.cells = 10;
+    record.value = [](double x, double y) { return std::max(std::abs(x - 0.5), std::abs(y - 0.5)); };
+    scene.add<SceneGraphPlotSurface2d>(1, record, {0x0000ff, 0x0000ff, 0x0000ff, 0xff0000});
+    showFlat(canvas, scene);
+    auto& camera = *canvas.getCanvas3dSettings()->camera2d();
+    for (const bool preserves : {true, false}) {
+        camera.setPreserveAspectRatio(preserves);
+        for (const auto behaviour : {Settings::ResizeWidth, Settings::ResizeHeight, Settings::ResizeFill,
+                                     Settings::ResizeFit, Settings::ResizePixels, Settings::ResizeKeep}) {
+            camera.setOverrideResizeBehaviour(true, behaviour);
+            drawn(canvas);
+            // The first one has the shape of the screen, but no legend and no axes.
+            for (const auto& [width, height] : {std::pair(160, 120), std::pair(400, 100), std::pair(100, 400)}) {
+                const PngFile file(canvas.encodeHardcopy(HardcopySettings(), width, height));
+                const Extent border(file, {255, 0, 0});
+                const Extent inside(file, {0, 0, 255});
+                EXPECT_TRUE(border.left < inside.left && border.top < inside.top && border.right > inside.right &&
+                            border.bottom > inside.bottom)
+                    << "behaviour " << behaviour << ", " << width << " by " << height << ", " << preserves;
+                if (preserves && behaviour != Settings::ResizeKeep) {
+                    EXPECT_NEAR(border.right - border.left, border.bottom - border.top, 1.0) << behaviour;
+                }
+            }
+        }
+    }
+}
+
+TEST(Hardcopy, framesOfLegendsGrowWithTheResolution)
+{
+    OffscreenCanvas canvas(200, 200, 1);
+    TestScene scene;
+    scene.add<SceneGraphPlotSurface2d>(1, {}, {0x0000ff, 0xff0000});
+    showFlat(canvas, scene);
+    canvas.zoomExtents();
+    HardcopySettings settings;
+    settings.setLegendsShown(true);
+    for (const int scale : {1, 3}) {
+        settings.setDpi(scale * vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getOnScreenResolution());
+        const PngFile file(canvas.encodeHardcopy(settings, 200 * scale, 200 * scale));
+        // Pixels of the frame in the row through the middle: two sides.
+        int numFrame = 0;
+        for (int x = 0; x < file.width; ++x) {
+            numFrame += file.pixels[static_cast<std::size_t>(3 * ((90 * scale) * file.width + x))] == 70 ? 1 : 0;
+        }
+        EXPECT_EQ(numFrame, 2 * scale);
+    }
+}
+
+TEST(Hardcopy, textOfAxesCanBeReadOnItsBackground)
+{
+    OffscreenCanvas canvas(200, 200, 1);
+    TestScene scene;
+    scene.addSquare(1, 0xff0000);
+    showFlat(canvas, scene);
+    const auto view = canvas.getCanvas3dSettings();
+    view->setRenderMask(RenderPlots | RenderAxes | RenderBackground);
+    view->background(Canvas3dSettings::RenderMode2d).setBackgroundColor(vxgraphics3d::Color::fromRgb(0));
+    // The labels are black, as in new settings.
+    const Picture picture = drawn(canvas);
+    int numWhite = 0;
+    for (int y = 0; y < 200; ++y) {
+        numWhite += static_cast<int>(picture.at(canvas.getView().area.x - 1, y) == c_white);
+    }
+    EXPECT_GT(numWhite, 3) << "ticks left of the frame";
+    view->getGridBoxSettingsPtr()->setLabelColor(vxgraphics3d::Color::fromRgb(0xffffff));
+    HardcopySettings settings;
+    settings.setAxisShown(true);
+    const Extent black(PngFile(canvas.encodeHardcopy(settings, 200, 200)), {0, 0, 0});
+    EXPECT_GT(black.right - black.left, 100) << "the frame on the white of the export";
 }
 
 } // namespace

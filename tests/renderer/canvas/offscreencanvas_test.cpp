@@ -1,5 +1,7 @@
 #include "renderer/canvas/offscreencanvas.h"
 
+#include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/scenelight.h"
 #include "graphics3d/plots/colour/colortable.h"
@@ -133,6 +135,15 @@ TEST_F(OffscreenCanvasTest, changesOfLegendRestrictionAndHeightUploadNothing)
     plot->setColor({9, 8, 7, 255});
     EXPECT_EQ(colorAt(drawn(m_canvas), {0.5f, 0.5f, 1.0f}), (Rgb{9, 8, 7}));
     EXPECT_EQ(m_canvas.getUploadCounts(), before);
+
+    // Switching a restriction moves the number of the geometry, and so does filling in the same data.
+    plot->setValueRestrictions(0.3, 2.0);
+    EXPECT_EQ(colorAt(drawn(m_canvas), {0.2f, 0.4f, 0.0f}), c_white);
+    plot->resetValueRestrictions();
+    EXPECT_EQ(colorAt(drawn(m_canvas), {0.2f, 0.4f, 0.0f}), (Rgb{9, 8, 7}));
+    plot->fillPlot(GridRecord().make());
+    drawn(m_canvas);
+    EXPECT_EQ(m_canvas.getUploadCounts(), before);
 }
 
 TEST_F(OffscreenCanvasTest, uploadsWhatAFillChangedAndNothingElse)
@@ -153,6 +164,17 @@ TEST_F(OffscreenCanvasTest, uploadsWhatAFillChangedAndNothingElse)
     drawn(m_canvas);
     EXPECT_EQ(m_canvas.getUploadCounts().meshes, 3);
     EXPECT_EQ(m_canvas.getUploadCounts().colorTables, 3);
+
+    // One value, or one corner, of many.
+    auto changed = record.make();
+    (*changed.m_data[0])[0].back() = 0.75;
+    second->fillPlot(changed);
+    drawn(m_canvas);
+    EXPECT_EQ(m_canvas.getUploadCounts().meshes, 4);
+    (*changed.m_elements[0])[2].back() = 0;
+    second->fillPlot(changed);
+    drawn(m_canvas);
+    EXPECT_EQ(m_canvas.getUploadCounts().meshes, 5);
 }
 
 TEST_F(OffscreenCanvasTest, restrictionHidesWhatLiesOutsideAndPunchesNoHoles)
@@ -419,6 +441,25 @@ TEST(OffscreenCanvas, anyNumberOfThemDrawSideBySide)
     two.setScene(scene.scene);
     EXPECT_EQ(drawn(one).bytes, drawn(two).bytes);
     EXPECT_EQ(drawn(one).bytes, drawn(two).bytes);
+}
+
+TEST_F(OffscreenCanvasTest, anUnknownRenderModeIsDrawnAs3dAndReportedOnce)
+{
+    m_scene.addSquare(1, 0x00ff00);
+    lookFrom(m_canvas, 30.0, 30.0);
+    drawn(m_canvas);
+    const Picture expected = drawnAsIs(m_canvas);
+    const vxgraphics3d::CapturedLog log(vxgraphics3d::ErrorLog::Level::error);
+    for (const int mode : {7, -1}) {
+        m_canvas.getCanvas3dSettings()->setRenderMode(static_cast<vxgraphics3d::Canvas3dSettings::RenderMode>(mode));
+        for (int i = 0; i < 2; ++i) {
+            EXPECT_TRUE(drawnAsIs(m_canvas).bytes == expected.bytes);
+            EXPECT_FALSE(m_canvas.encodeHardcopy(vxgraphics3d::HardcopySettings(), 20, 20).empty());
+        }
+    }
+    EXPECT_EQ(log.messages(), (std::vector<std::string>{"There is no render mode 7: the 3D view is drawn.",
+                                                        "There is no render mode -1: the 3D view is drawn."}));
+    EXPECT_NO_THROW(m_canvas.zoomExtents());
 }
 
 } // namespace

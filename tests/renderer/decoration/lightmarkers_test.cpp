@@ -89,6 +89,34 @@ TEST(LightMarkers, standWhereTheirLightsShineFrom)
               1.0f);
 }
 
+TEST(LightMarkers, arrowsLieWithinAFittedView)
+{
+    OffscreenCanvas canvas(200, 200, 1);
+    TestScene scene;
+    scene.addSquare(1, 0xffffff);
+    showFromAbove(canvas, scene);
+    canvas.getCanvas3dSettings()->addRenderMask(RenderLightMarkers);
+    canvas.getSceneSettings()->getLight()->setRenderLightMarkers(true);
+    auto& sun =
+        add<vxgraphics3d::DirectionLightSource>(*scene.scene->getSceneLight(), &SceneLight::createDirectionLight);
+    for (const auto projection : {Camera3d::ProjectionOrthographic, Camera3d::ProjectionPerspective}) {
+        canvas.getCanvas3dSettings()->camera3d()->setProjectionType(projection);
+        for (const Vector3f& from : {Vector3f(1.0f, 0.0f, 0.1f), Vector3f(-1.0f, 1.0f, 0.1f),
+                                     Vector3f(0.1f, 0.2f, 1.0f), Vector3f(0.0f, -1.0f, 0.5f)}) {
+            sun.setFromDirection(true, from);
+            const int numDrawn = drawn(canvas).countDrawn(0, 0, 200, 200);
+            EXPECT_GT(numDrawn, 8) << from;
+            // Whole arrows: where the view reaches far, as many lines are seen.
+            const auto markers = lightMarkers(*scene.scene->getSceneLight(), scene.scene->getBoundingBox(),
+                                              *canvas.getCanvas3dSettings()->camera3d());
+            for (const LineSegment& line : markers[0].lines) {
+                const Vector3f clip = canvas.getView().projection * line.from;
+                EXPECT_TRUE(std::abs(clip.x) <= 1.0f && std::abs(clip.y) <= 1.0f && std::abs(clip.z) <= 1.0f) << from;
+            }
+        }
+    }
+}
+
 TEST(LightMarkers, showIfTheViewAndTheLightWantIt)
 {
     OffscreenCanvas canvas(200, 200, 1);

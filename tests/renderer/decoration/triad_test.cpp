@@ -105,5 +105,24 @@ TEST(Triad, showsIn3dViewsThatAskForIt)
     EXPECT_EQ(rows, 3);
 }
 
+TEST(Triad, lettersAndNamesOfAxesAreNoMarkup)
+{
+    OffscreenCanvas canvas(300, 300, 1);
+    TestScene scene;
+    scene.addSquare(1, 0xffffff);
+    showFromAbove(canvas, scene);
+    const auto settings = canvas.getCanvas3dSettings();
+    auto& indicator = *settings->getAxisOrientationIndicatorPtr();
+    indicator.show(true);
+    for (const unsigned decoration : {RenderAxisOrientation, RenderAxes}) {
+        settings->setRenderMask(RenderPlots | RenderBackground | decoration);
+        const auto count = [&](const char* label) {
+            indicator.setLabel(vxgraphics3d::AxisOrientationIndicator::AxisX, label);
+            return drawn(canvas).countDrawn(0, 0, 300, 300);
+        };
+        EXPECT_GT(count("{}"), count("") + 10) << "in markup an empty group";
+    }
+}
+
 } // namespace
 } // namespace vxrenderer

@@ -92,9 +92,13 @@ TEST_F(AppearanceTest, everyDecorationHasItsSettingAndItsBit)
     m_scene.setShowTitle(false);
     EXPECT_EQ(shown(onScreen()), all & ~RenderTitle);
     m_scene.setShowLegends(false);
-    m_canvas.getGridBoxSettingsPtr()->setShowGrid(false);
     m_canvas.getAxisOrientationIndicatorPtr()->show(false);
     m_scene.getLight()->setRenderLightMarkers(false);
+    EXPECT_EQ(shown(onScreen()), unsigned{RenderAxes});
+    m_canvas.getGridBoxSettingsPtr()->setShowGrid(false);
+    EXPECT_EQ(shown(onScreen()), unsigned{RenderAxes}) << "without grid";
+    EXPECT_FALSE(onScreen().showGrid);
+    m_canvas.removeRenderMask(RenderAxes);
     EXPECT_EQ(shown(onScreen()), 0u);
     m_hardcopy.setTitleShown(true);
     EXPECT_EQ(shown(ofHardcopy()), unsigned{RenderTitle});
@@ -117,6 +121,20 @@ TEST_F(AppearanceTest, hardcopiesStandOnTheirColorsOrOnThoseOfTheScreen)
     EXPECT_EQ(ofHardcopy().opacity, 1.0f);
     m_scene.setGlobalOpacity(-1.0f);
     EXPECT_EQ(ofHardcopy().opacity, 0.0f);
+}
+
+TEST_F(AppearanceTest, colorsThatCannotBeReadGiveWay)
+{
+    const auto gray = [](int level) { return Color{level, level, level, 255}; };
+    const struct {
+        int top, bottom, wanted, expected;
+    } cases[] = {{255, 255, 0, 0},  {255, 255, 128, 128}, {255, 255, 230, 0}, {0, 0, 0, 255},    {0, 0, 128, 128},
+                 {40, 40, 80, 255}, {255, 0, 200, 200},   {255, 0, 130, 0},   {128, 128, 128, 0}};
+    for (const auto& c : cases) {
+        m_hardcopy.setBackground(c.top * 0x10101, c.bottom * 0x10101);
+        EXPECT_EQ(ofHardcopy().readable(gray(c.wanted)), gray(c.expected))
+            << c.top << ' ' << c.bottom << ' ' << c.wanted;
+    }
 }
 
 } // namespace

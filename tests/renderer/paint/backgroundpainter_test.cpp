@@ -12,6 +12,7 @@
 
 #include <boost/make_shared.hpp>
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -29,9 +30,10 @@ constexpr Rgb c_green = {0, 255, 0};
 constexpr Rgb c_blue = {0, 0, 255};
 
 /// Fills an image with pixels 0xAARRGGBB, row by row.
-void setPixels(CanvasBackgroundImage& image, int width, int height, const std::vector<std::uint32_t>& pixels)
+void setPixels(CanvasBackgroundImage& image, int width, int height, const std::vector<std::uint32_t>& pixels,
+               float scale = 1.0f)
 {
-    Image source(width, height, Image::Format{}, 1.0f);
+    Image source(width, height, Image::Format{}, scale);
     for (std::size_t i = 0; i < pixels.size(); ++i) {
         source.data()[i] = Image::wordFromArgb(static_cast<std::int32_t>(pixels[i]));
     }
@@ -172,6 +174,20 @@ TEST_F(BackgroundTest, anImageGrowsWithTheResolutionOfAnExport)
         rows.insert(rows.end(), {255, std::uint8_t(isRed ? 0 : 255), std::uint8_t(isRed ? 0 : 255)});
     }
     EXPECT_EQ(file.pixels, rows);
+}
+
+TEST_F(BackgroundTest, theScaleOfAnImageIsItsPixelsForEachOfTheScreen)
+{
+    const std::vector<std::uint32_t> red(16, 0xffff0000);
+    show(0, 0);
+    const struct {
+        float scale;
+        int side;
+    } cases[] = {{1.0f, 4}, {2.0f, 2}, {0.5f, 8}, {0.0f, 4}, {-1.0f, 4}, {std::nanf(""), 4}};
+    for (const auto& c : cases) {
+        setPixels(*m_image, 4, 4, red, c.scale);
+        EXPECT_EQ(drawnAsIs(m_canvas).countDrawn(0, 0, 10, 8), c.side * c.side) << c.scale;
+    }
 }
 
 } // namespace

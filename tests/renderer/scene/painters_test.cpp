@@ -24,14 +24,17 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
+#include <limits>
 #include <set>
 
 namespace vxrenderer {
 namespace {
 
 using vxgraphics3d::BoundingBox;
+using vxgraphics3d::Camera3d;
 using vxgraphics3d::Color;
 using vxgraphics3d::FakePlot;
 using vxgraphics3d::SceneGraphObject;
@@ -254,20 +257,50 @@ TEST_F(PaintersTest, translucentLinesAreBlendedOnceAlsoWherePiecesMeet)
     EXPECT_EQ(column(shown, 0.5f).size(), 9u);
 }
 
-TEST_F(PaintersTest, linesLieOverFacesAtTheSamePlace)
+TEST_F(PaintersTest, linesAreSeenWholeOnFacesThroughThemAndHiddenByFacesInFront)
 {
     const Path<vxgraphics3d::IndexBufferLineStrips> strip;
     const Square square(2.0f);
+    float slope = 0.0f;
+    float width = 1.0f;
+    float inFront = 0.0f;
     drawPlotsBy([&](const PlotItem& item, const PaintContext& context) {
-        const Look look = *lookOf(item, context);
+        Look look = *lookOf(item, context);
         context.drawLines(context.uploads.lines(item.plot, 0, 1, strip.vertices, strip.lines),
-                          {look.toEye, Material::of(Color::fromRgb(0xff0000))}, 3.0f);
+                          {look.toEye, Material::of(Color::fromRgb(0xff0000))}, width);
+        look.toEye.translate(0.0f, 0.5f, inFront).rotateX(slope);
         context.drawMesh(context.uploads.mesh(item.plot, 0, 1, square.vertices, square.triangles), look);
     });
-    picture();
+    const auto reds = [&] { return std::ranges::count(column(picture(), 0.25f), c_red); };
+    for (const auto type : {Camera3d::ProjectionOrthographic, Camera3d::ProjectionPerspective}) {
+        m_settings->camera3d()->setProjectionType(type);
+        picture();
+        for (width = 1.0f; width <= 7.0f; width += 2.0f) {
+            inFront = 0.0f;
+            for (slope = -1.3f; slope <= 1.3f; slope += 0.65f) {
+                EXPECT_EQ(reds(), static_cast<int>(width)) << slope;
+            }
+            slope = 0.0f;
+            inFront = 0.04f * width;
+            EXPECT_EQ(reds(), 0) << width;
+        }
+    }
+}
+
+TEST_F(PaintersTest, piecesOfLinesWithSomethingNotFiniteAreNotDrawn)
+{
+    Path<vxgraphics3d::IndexBufferLineStrips> strip;
+    strip.vertices.allocate(3);
+    strip.vertices.appendVertex(0.0f, 0.5f, 0.0f, std::numeric_limits<float>::quiet_NaN());
+    strip.vertices.appendVertex(0.5f, 0.5f, 0.0f, 0.5f);
+    strip.vertices.appendVertex(1.0f, 0.5f, 0.0f, 1.0f);
+    drawPlotsBy([&](const PlotItem& item, const PaintContext& context) {
+        context.drawLines(context.uploads.lines(item.plot, 0, 1, strip.vertices, strip.lines), *lookOf(item, context),
+                          5.0f);
+    });
     const Picture shown = picture();
-    EXPECT_EQ(colorAt(shown, {0.25f, 0.5f, 0.0f}), c_red);
-    EXPECT_EQ(colorAt(shown, {0.25f, 0.4f, 0.0f}), c_blue);
+    EXPECT_TRUE(column(shown, 0.25f).empty());
+    EXPECT_EQ(column(shown, 0.75f), std::vector<Rgb>(5, c_red));
 }
 
 TEST_F(PaintersTest, aMeshIsDrawnOncePerInstanceInItsSizeDirectionAndColor)

@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -31,7 +32,7 @@ protected:
     SceneRendererTest()
     {
         showFlat(m_canvas, m_scene);
-        m_canvas.getCanvas3dSettings()->getGridBoxSettingsPtr()->setShowGrid(false);
+        m_canvas.getCanvas3dSettings()->removeRenderMask(RenderAxes);
         m_canvas.getSceneSettings()->setShowMinMax(false);
     }
 
@@ -156,6 +157,54 @@ TEST_F(SceneRendererTest, showsALegendForEachPlotThatHasOne)
     second->setColor({255, 255, 255, 255});
     drawn(m_canvas);
     EXPECT_EQ(m_canvas.getView().area.width, one);
+}
+
+TEST_F(SceneRendererTest, theTitleIsOverTheMiddleOfTheScene)
+{
+    m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors)->setTitle(TextFormat::plain, "HHHH");
+    const Picture picture = drawn(m_canvas);
+    const PixelArea& area = m_canvas.getView().area;
+    int left = 400;
+    int right = 0;
+    for (int x = 0; x < 400; ++x) {
+        if (picture.countDrawn(x, 0, x + 1, area.y) > 0) {
+            left = std::min(left, x);
+            right = x + 1;
+        }
+    }
+    EXPECT_NEAR(left + right, 2 * area.x + area.width, 4);
+    EXPECT_GT(400 - area.width, 60) << "beside a legend";
+}
+
+TEST_F(SceneRendererTest, withoutAGridTheAxesRemain)
+{
+    m_scene.add<SceneGraphPlotSurface2d>(1, {}, {0xff0000});
+    const auto settings = m_canvas.getCanvas3dSettings();
+    settings->setRenderMask(RenderPlots | RenderAxes | RenderBackground);
+    const auto count = [&](bool isGridShown) {
+        settings->getGridBoxSettingsPtr()->setShowGrid(isGridShown);
+        const Picture picture = drawn(m_canvas);
+        const PixelArea& area = m_canvas.getView().area;
+        int numLines = 0;
+        for (int x = area.x + 1; x < area.x + area.width - 1; ++x) {
+            // Over the data and beside them, in the row of no line of equal y.
+            const Rgb pixel = picture.at(x, area.y + area.height / 2 + 5);
+            numLines += pixel != c_white && pixel != c_red ? 1 : 0;
+        }
+        const int numAround = picture.countDrawn(0, area.y, area.x, 300);
+        return std::pair(numLines, numAround);
+    };
+    const auto with = count(true);
+    const auto without = count(false);
+    EXPECT_LE(without.first, 2) << "the sides of the square";
+    EXPECT_GT(with.first, 4);
+    EXPECT_EQ(without.second, with.second);
+    EXPECT_GT(without.second, 50) << "labels and ticks";
+    lookFrom(m_canvas, 30.0, 30.0);
+    settings->getGridBoxSettingsPtr()->setShowGrid(false);
+    const int box = drawn(m_canvas).countDrawn(0, 0, 400, 300);
+    settings->removeRenderMask(RenderAxes);
+    EXPECT_GT(box, drawnAsIs(m_canvas).countDrawn(0, 0, 400, 300) + 300);
 }
 
 TEST_F(SceneRendererTest, theTitleFollowsItsChanges)

@@ -1,5 +1,7 @@
 #include "renderer/text/fontset.h"
 
+#include "tests/support/capturedlog.h"
+
 #include <gtest/gtest.h>
 
 #include <numeric>
@@ -11,14 +13,51 @@ TEST(FontSet, takesItsFacesFromTheFamilyAskedFor)
 {
     const struct {
         const char* name;
-        FontFace::Family family;
-    } cases[] = {{"default", FontFace::Family::sans},          {"", FontFace::Family::sans},
-                 {"No Such Font", FontFace::Family::sans},     {"DejaVu Serif", FontFace::Family::serif},
-                 {"Serif", FontFace::Family::serif},           {"Monospaced", FontFace::Family::mono},
-                 {"DejaVu Sans Mono", FontFace::Family::mono}, {"DejaVu Sans Condensed", FontFace::Family::condensed}};
+        FontFace face;
+    } cases[] = {{"default", {}},
+                 {"", {}},
+                 {"SansSerif", {}},
+                 {"DejaVu Serif", {FontFace::Family::serif}},
+                 {"Serif", {FontFace::Family::serif}},
+                 {"Monospaced", {FontFace::Family::mono}},
+                 {"DejaVu Sans Mono", {FontFace::Family::mono}},
+                 {"DejaVu Sans Condensed", {FontFace::Family::condensed}},
+                 {"Bold", {FontFace::Family::sans, true, false}},
+                 {"serif italic", {FontFace::Family::serif, false, true}},
+                 {"DejaVuSansMono-BoldOblique", {FontFace::Family::mono, true, true}}};
     for (const auto& c : cases) {
-        EXPECT_EQ(FontLibrary::familyByName(c.name), c.family) << c.name;
+        EXPECT_EQ(FontLibrary::faceByName(c.name), c.face) << c.name;
     }
+    EXPECT_FALSE(FontLibrary::faceByName("No Such Font"));
+}
+
+TEST(FontSet, aBoldNameMakesAllTextBold)
+{
+    FontLibrary library;
+    FontSet bold(library, "sans bold", 24);
+    FontSet plain(library, "sans", 24);
+    TextStyle marked;
+    marked.bold = true;
+    EXPECT_EQ(bold.advance(U'm', {}), plain.advance(U'm', marked));
+    EXPECT_NE(bold.advance(U'm', {}), plain.advance(U'm', {}));
+    FontSet oblique(library, "sans oblique", 24);
+    TextStyle slanted;
+    slanted.italic = true;
+    EXPECT_EQ(oblique.find(U'l', {}).glyph->width, plain.find(U'l', slanted).glyph->width);
+    EXPECT_GT(oblique.find(U'l', {}).glyph->width, plain.find(U'l', {}).glyph->width);
+}
+
+TEST(FontSet, aMissingFontIsReportedOnceWithThoseThereAre)
+{
+    const vxgraphics3d::CapturedLog log(vxgraphics3d::ErrorLog::Level::warning);
+    FontLibrary library;
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(library.choose("Papyrus bold"), (FontFace{FontFace::Family::sans, false, false}));
+        EXPECT_EQ(library.choose("serif bold"), (FontFace{FontFace::Family::serif, true, false}));
+    }
+    EXPECT_EQ(log.messages(), (std::vector<std::string>{
+                                  "The font \"Papyrus bold\" is not known: the sans font is used. There are sans, "
+                                  "serif, mono, condensed, mathematics, each also with bold and italic."}));
 }
 
 TEST(FontSet, scalesWithTheSizeAndTheScriptLevel)

@@ -143,6 +143,19 @@ TEST(TitleMarkup, scriptsShrinkAndRiseByTheirDepth)
     EXPECT_LT(styleOf(U'1').rise, 0.0f);
 }
 
+TEST(TitleMarkup, aPlainTextIsShownAsItIs)
+{
+    for (const std::string text : {"x^2", "a_b {c} \\alpha", "}{\\", "\\unicode{x}"}) {
+        std::string shown;
+        for (const TitleItem& item : parseTitle(vxbase::UString(plainText(text)))) {
+            EXPECT_EQ(item.style, TextStyle()) << text;
+            shown += static_cast<char>(item.character);
+        }
+        EXPECT_EQ(shown, text);
+    }
+    EXPECT_EQ(plainText(""), "");
+}
+
 TEST(TitleMarkup, survivesAnyNestingAndAnyBytes)
 {
     std::string deep;

@@ -182,8 +182,13 @@ TEST_F(ColorTableHandlerTest, renameMovesTheTableUnlessTheNameIsTaken)
     EXPECT_FALSE(handler.isColorTable("one"));
     EXPECT_EQ(handler.getColorTable("three"), one);
     EXPECT_EQ(one->getName(), "three");
-    EXPECT_TRUE(handler.renameColorTable("three", "three"));
+    EXPECT_TRUE(handler.renameColorTable(one->getName(), one->getName()));
     EXPECT_EQ(handler.getColorTable("three"), one);
+    EXPECT_TRUE(handler.renameColorTable(one->getName(), "one"));
+    EXPECT_FALSE(handler.isColorTable("three"));
+    EXPECT_EQ(handler.getColorTable("one"), one);
+    EXPECT_EQ(one->getName(), "one");
+    EXPECT_TRUE(handler.renameColorTable("one", "three"));
     EXPECT_TRUE(handler.renameColorTable("three", "two"));
     EXPECT_EQ(handler.getColorTable("two"), two);
     EXPECT_FALSE(handler.isColorTable("three"));

@@ -8,7 +8,8 @@ import java.util.Objects;
 /**
  * Reads text files into the records of which plots are made.
  *
- * <p>The page on the plot data format describes the files and the messages about invalid ones.
+ * <p>The page on the plot data format describes the files and the messages about invalid ones. The producer's {@code
+ * PostDataObject.read} reads a file into a new record and throws an exception with the message.
  */
 public final class PostDataReader {
     private PostDataReader() {}

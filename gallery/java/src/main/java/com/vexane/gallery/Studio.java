@@ -6,7 +6,6 @@ import com.vexane.graphics3d.Camera3d;
 import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.DirectionLightSource;
 import com.vexane.graphics3d.GridBoxSettings;
-import com.vexane.graphics3d.PostDataReader;
 import com.vexane.graphics3d.Scene;
 import com.vexane.graphics3d.SceneGraphPlot;
 import com.vexane.graphics3d.SceneGraphPlotGroup;
@@ -33,6 +32,8 @@ import java.util.Map;
 public final class Studio implements AutoCloseable {
     private static final int SAMPLES = 4;
     private static final int TITLE_SIZE = 15;
+    /** The bit of axes in the render mask. */
+    private static final int RENDER_AXES = 2;
 
     private final Path root;
     private final Path output;
@@ -95,7 +96,7 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Reads a file of sample data by the library's reader.
+     * Reads a file of sample data.
      *
      * @param file its name
      * @param kind the kind of plot that the data are for
@@ -104,12 +105,7 @@ public final class Studio implements AutoCloseable {
      * @throws IOException if the file cannot be read
      */
     public PostDataObject read(String file, PlotKind kind, Map<DataRole, Integer> roles) throws IOException {
-        PostDataObject record = PostDataObject.forFile(kind, roles);
-        if (!PostDataReader.readPostData(record, data(file))) {
-            record.close();
-            throw new IOException(file + " cannot be read; the log says why.");
-        }
-        return record;
+        return PostDataObject.read(kind, roles, data(file));
     }
 
     /**
@@ -167,6 +163,29 @@ public final class Studio implements AutoCloseable {
     public Studio flat() {
         canvas.setRenderMode(Canvas3dSettings.RenderMode.VIEW_2D);
         renderer.zoomExtents();
+        return this;
+    }
+
+    /**
+     * Shows the scene without axes.
+     *
+     * @return this studio
+     */
+    public Studio hideAxes() {
+        canvas.removeRenderMask(RENDER_AXES);
+        return this;
+    }
+
+    /**
+     * Names the axes of the flat view.
+     *
+     * @param x what the x axis shows, with its unit
+     * @param y what the y axis shows, with its unit
+     * @return this studio
+     */
+    public Studio nameAxes(String x, String y) {
+        axes.setXAxisTitle(x);
+        axes.setYAxisTitle(y);
         return this;
     }
 

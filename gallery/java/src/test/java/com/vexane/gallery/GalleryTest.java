@@ -43,7 +43,7 @@ class GalleryTest {
     }
 
     /** How many pixels differ in two pictures of equal size. */
-    private static int countChanges(Path one, Path other) throws IOException {
+    static int countChanges(Path one, Path other) throws IOException {
         int[] before = pixels(one);
         int[] after = pixels(other);
         assertEquals(before.length, after.length);

@@ -10,7 +10,7 @@ public enum PlotKind {
     ISO_SURFACE(6),
     /** A field on triangles in the plane. */
     SURFACE_2D(8),
-    /** A field on triangles in space. */
+    /** A field on triangles in space. Its plots need normals, see {@link PostDataGroup#computeNormals}. */
     SURFACE_3D(9),
     /** A mesh in three dimensions; meshes of any other kind are in the plane. */
     MESH_3D(12),

@@ -13,7 +13,7 @@ import java.util.Objects;
  * <pre>{@code
  * try (PostDataObject record = new PostDataBuilder(PlotKind.SURFACE_3D)
  *         .role(DataRole.COLOR, 0)
- *         .addGroup(new PostDataGroup().coordinates(x, y, z).normals(nx, ny, nz).elements(a, b, c).data(stress))
+ *         .addGroup(new PostDataGroup().coordinates(x, y, z).elements(a, b, c).computeNormals().data(stress))
  *         .build()) {
  *     plot.fillPlot(record);
  * }
@@ -49,7 +49,7 @@ public final class PostDataBuilder {
     public PostDataBuilder role(DataRole role, int array) {
         Objects.requireNonNull(role, "role");
         if (array < 0) {
-            throw new IndexOutOfBoundsException("role " + role + ": there is no data[" + array + "]");
+            throw new IndexOutOfBoundsException("There is no data[" + array + "] for DataRole." + role);
         }
         roles.put(role, array);
         return this;
@@ -98,7 +98,8 @@ public final class PostDataBuilder {
      * @throws IllegalStateException if there is no group, or a group has no coordinates
      * @throws IllegalArgumentException if arrays do not fit together: another number of axes or data arrays than in the
      *     first group, or not one value or normal per point; a single value for the whole group is accepted where
-     *     {@link DataRole#ISO_LEVEL} is the only role of the array
+     *     {@link DataRole#ISO_LEVEL} is the only role of the array; or if normals are to be computed and there are no
+     *     triangles in space
      * @throws IndexOutOfBoundsException if a role refers to an array that the groups do not have
      * @throws com.vexane.base.NativeException if an element refers to a point that its group does not have
      */
@@ -137,8 +138,8 @@ public final class PostDataBuilder {
         }
         roles.forEach((role, array) -> {
             if (array >= group.data.size()) {
-                throw new IndexOutOfBoundsException(
-                        place + "role " + role + " names data[" + array + "] of " + group.data.size());
+                throw new IndexOutOfBoundsException(place + "there is no data[" + array + "] for DataRole." + role
+                        + "; number of data arrays: " + group.data.size());
             }
         });
         int points = Values.count(group.coordinates[0]);
@@ -149,9 +150,19 @@ public final class PostDataBuilder {
                         place + "data[" + i + "] has " + count + " values for " + points + " points");
             }
         }
+        if (group.computesNormals) {
+            requireTriangles(group, place);
+        }
         if (group.normals.length > 0 && Values.count(group.normals[0]) != points) {
             throw new IllegalArgumentException(place + "normals have " + Values.count(group.normals[0]) + " entries for "
                     + points + " points");
+        }
+    }
+
+    private static void requireTriangles(PostDataGroup group, String place) {
+        if (group.coordinates.length != 3 || group.elements.length != 3) {
+            throw new IllegalArgumentException(place + "computeNormals needs triangles in space; there are "
+                    + group.coordinates.length + " axes and " + group.elements.length + " corners");
         }
     }
 

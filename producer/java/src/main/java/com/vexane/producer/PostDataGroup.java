@@ -15,6 +15,10 @@ import java.util.List;
  * references: {@link PostDataBuilder#build} reads the values once, when it copies them. The file of a mapped buffer must
  * not become shorter before that: reading memory beyond its end terminates the process, which no check can prevent.
  *
+ * <p>A triangle is drawn only if the coordinates and the values of all its corners are finite. So a NaN among the data
+ * cuts a hole: the triangles at that point are not drawn, and the limits, and with them the colours of all other points,
+ * do not change.
+ *
  * <p>Every method returns the group itself, and refuses an invalid argument with a message that names the array: {@link
  * NullPointerException} for a missing array, {@link IllegalArgumentException} for a wrong number of arrays, unequal
  * lengths, or a buffer that is not direct or has another byte order. Whether arrays fit together, such as values and
@@ -25,6 +29,7 @@ public final class PostDataGroup {
     Object[] elements = {};
     Object[] lineElements = {};
     Object[] normals = {};
+    boolean computesNormals;
     final List<Object> data = new ArrayList<>();
     /** Minimum and maximum of each data array; NaN if they are to be computed. */
     final List<double[]> limits = new ArrayList<>();
@@ -141,6 +146,7 @@ public final class PostDataGroup {
      */
     public PostDataGroup normals(float[] x, float[] y, float[] z) {
         normals = Values.rows("normals", 3, 3, new Object[] {x, y, z});
+        computesNormals = false;
         return this;
     }
 
@@ -154,6 +160,27 @@ public final class PostDataGroup {
      */
     public PostDataGroup normals(FloatBuffer x, FloatBuffer y, FloatBuffer z) {
         normals = Values.rows("normals", 3, 3, new Object[] {x, y, z});
+        computesNormals = false;
+        return this;
+    }
+
+    /**
+     * Has the normals of all points computed from the triangles, as a reader of files does: at each point the sum of
+     * the unit normals of its triangles, each with equal weight, brought to unit length. The normal of a triangle points
+     * to the side from which its corners run counter-clockwise. Surfaces in space need normals.
+     *
+     * <p>They are computed in single precision, in which plots draw the points. A triangle that has no normal counts for
+     * nothing: one without area, or with a corner that is not finite. A point without any other triangle gets the normal
+     * (0, 0, 0).
+     *
+     * <p>The group needs three axes and triangles, in any order of calls, or {@link PostDataBuilder#build} refuses it.
+     * The last call of this method and {@link #normals(float[], float[], float[])} decides.
+     *
+     * @return this group
+     */
+    public PostDataGroup computeNormals() {
+        normals = new Object[0];
+        computesNormals = true;
         return this;
     }
 
@@ -162,6 +189,9 @@ public final class PostDataGroup {
      * that a hole marked by NaN or an infinite outlier does not spoil the colours of all other values. An array without
      * finite values has plus infinity as its minimum and minus infinity as its maximum, which do not affect the limits
      * of other groups.
+     *
+     * <p>NaN marks a hole: plots do not draw triangles with a value that is not finite, see the description of this
+     * class.
      *
      * @param values one value per point, or a single one for the level of the whole group
      * @return this group

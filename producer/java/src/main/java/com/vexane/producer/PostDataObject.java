@@ -2,14 +2,15 @@ package com.vexane.producer;
 
 import com.vexane.base.NativeLibrary;
 import com.vexane.base.NativePeer;
+import java.nio.file.Path;
 import java.util.Arrays;
 import java.util.Map;
 import java.util.Objects;
 import java.util.OptionalInt;
 
 /**
- * A record of post-processing results, from which a plot is filled. {@link PostDataBuilder} makes one from arrays;
- * {@link #forFile} makes an empty one for a file reader to fill.
+ * A record of post-processing results, from which a plot is filled. {@link PostDataBuilder} makes one from arrays, {@link
+ * #read} from a file.
  *
  * <p>A plot copies what it needs, so the record may be closed as soon as the plot is filled. All methods that return
  * values return copies.
@@ -24,8 +25,8 @@ public final class PostDataObject extends NativePeer {
     }
 
     /**
-     * Makes an empty record that a file reader can fill. The kind decides how the file is read and which data arrays
-     * the record gets:
+     * Reads a plot file into a new record. The page on the plot data format describes the files. The kind decides how
+     * the file is read and which data arrays the record gets:
      *
      * <ul>
      * <li>{@link PlotKind#SURFACE_2D}: array 0 is the data of the file, array 1 the third coordinate
@@ -33,7 +34,41 @@ public final class PostDataObject extends NativePeer {
      * <li>{@link PlotKind#ISO_SURFACE}: array 0 is the level of each group, array 1 the data of the file
      * </ul>
      *
+     * <p>The data of the file are scaled to the range from 0 to 1.
+     *
      * @param kind one of these kinds
+     * @param roles the index of the array of each role
+     * @param file the file
+     * @return the record, to be closed by the caller
+     * @throws PlotFileException if the file cannot be opened, is no regular file, or is invalid; the exception has the
+     *     reason and, if there is one, the row
+     * @throws IllegalArgumentException if there is no file reader for the kind
+     * @throws IndexOutOfBoundsException if a role has an array that the record does not get
+     * @throws com.vexane.base.NativeException if memory runs out
+     */
+    public static PostDataObject read(PlotKind kind, Map<DataRole, Integer> roles, Path file) throws PlotFileException {
+        Objects.requireNonNull(file, "file");
+        PostDataObject record = forFile(kind, roles);
+        int[] row = new int[1];
+        String reason;
+        try {
+            reason = read(record, file.toString(), row);
+        } catch (Throwable failure) {
+            record.close();
+            throw failure;
+        }
+        if (reason != null) {
+            record.close();
+            throw new PlotFileException(reason, file, row[0]);
+        }
+        return record;
+    }
+
+    /**
+     * Makes an empty record for {@link com.vexane.graphics3d.PostDataReader}. Usually {@link #read} is the better
+     * choice: it says what is wrong with a file.
+     *
+     * @param kind a kind that {@link #read} accepts
      * @param roles the index of the array of each role
      * @return the record, to be closed by the caller
      * @throws IllegalArgumentException if there is no file reader for the kind
@@ -43,11 +78,12 @@ public final class PostDataObject extends NativePeer {
         int arrays = switch (Objects.requireNonNull(kind, "kind")) {
             case SURFACE_3D -> 1;
             case SURFACE_2D, ISO_SURFACE -> 2;
-            default -> throw new IllegalArgumentException("No file holds data of kind " + kind);
+            default -> throw new IllegalArgumentException("No file holds data of PlotKind." + kind);
         };
         roles.forEach((role, array) -> {
             if (array < 0 || array >= arrays) {
-                throw new IndexOutOfBoundsException("role " + role + " names data[" + array + "] of " + arrays);
+                throw new IndexOutOfBoundsException(
+                        "There is no data[" + array + "] for DataRole." + role + "; number of data arrays: " + arrays);
             }
         });
         return new PostDataObject(kind, roles);
@@ -57,7 +93,7 @@ public final class PostDataObject extends NativePeer {
     void addGroup(PostDataGroup group) {
         double[] limits = group.limits.stream().flatMapToDouble(Arrays::stream).toArray();
         addGroup(this, group.coordinates, group.elements, group.data.toArray(), limits, group.normals,
-                group.lineElements);
+                group.computesNormals, group.lineElements);
     }
 
     /** Sets the bounds, or computes them from the points if none are given. */
@@ -175,7 +211,10 @@ public final class PostDataObject extends NativePeer {
     private static native void cleanupNative(PostDataObject peer);
 
     private static native void addGroup(PostDataObject peer, Object[] coordinates, Object[] elements, Object[] data,
-            double[] limits, Object[] normals, Object[] lineElements);
+            double[] limits, Object[] normals, boolean computeNormals, Object[] lineElements);
+
+    /** Returns what is wrong and stores the row, or 0, in an array of one entry; null if the file was read. */
+    private static native String read(PostDataObject peer, String file, int[] row);
 
     private static native void setBounds(PostDataObject peer, double[][] bounds);
 

@@ -5,7 +5,8 @@
  *   <li>A {@link PostDataGroup} refers to the arrays of one part of a record: points, elements, normals and data.
  *   <li>A {@link PostDataBuilder} collects groups, the {@link PlotKind} and the {@link DataRole} of each data array,
  *       checks that they fit together, and makes the record.
- *   <li>A {@link PostDataObject} is the record. It fills plots, or is filled by a file reader.
+ *   <li>A {@link PostDataObject} is the record, from which plots are filled. It can also be read from a file; a
+ *       {@link PlotFileException} says what is wrong with one.
  * </ul>
  *
  * <pre>{@code

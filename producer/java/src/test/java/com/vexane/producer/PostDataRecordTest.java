@@ -6,11 +6,13 @@ import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.vexane.base.NativeException;
+import java.io.IOException;
 import java.nio.ByteBuffer;
 import java.nio.ByteOrder;
 import java.nio.DoubleBuffer;
 import java.nio.FloatBuffer;
 import java.nio.IntBuffer;
+import java.nio.file.Path;
 import java.util.Arrays;
 import java.util.Map;
 import java.util.OptionalInt;
@@ -215,6 +217,24 @@ class PostDataRecordTest {
             assertArrayEquals(x, record.getCoordinates(0)[0]);
             assertArrayEquals(new int[][] {from, to}, record.getElements(0));
             assertArrayEquals(new double[] {(count - 1) * 0.5}, record.getDataMax(0));
+        }
+    }
+
+    @Test
+    void computedNormalsAreThoseOfTheFileReader() throws IOException {
+        Path bracket = Path.of(System.getProperty("com.vexane.test.data"), "bracket_stress_3d.txt");
+        try (PostDataObject read = PostDataObject.read(PlotKind.SURFACE_3D, Map.of(DataRole.COLOR, 0), bracket)) {
+            PostDataGroup group = new PostDataGroup()
+                    .coordinates(read.getCoordinates(0))
+                    .normals(new float[9396], new float[9396], new float[9396])
+                    .computeNormals()
+                    .elements(read.getElements(0));
+            try (PostDataObject record = recordOf(group)) {
+                assertArrayEquals(read.getNormals(0), record.getNormals(0));
+            }
+            try (PostDataObject record = recordOf(group.normals(new float[9396], new float[9396], new float[9396]))) {
+                assertArrayEquals(new float[3][9396], record.getNormals(0));
+            }
         }
     }
 

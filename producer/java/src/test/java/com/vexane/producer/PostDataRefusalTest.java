@@ -5,16 +5,21 @@ import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.params.provider.Arguments.arguments;
 
 import com.vexane.base.NativeException;
+import java.io.IOException;
 import java.nio.ByteBuffer;
 import java.nio.ByteOrder;
 import java.nio.DoubleBuffer;
 import java.nio.FloatBuffer;
 import java.nio.IntBuffer;
+import java.nio.file.Files;
+import java.nio.file.Path;
 import java.util.Map;
+import java.util.OptionalInt;
 import java.util.function.UnaryOperator;
 import java.util.stream.Stream;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.api.function.Executable;
+import org.junit.jupiter.api.io.TempDir;
 import org.junit.jupiter.params.ParameterizedTest;
 import org.junit.jupiter.params.provider.Arguments;
 import org.junit.jupiter.params.provider.MethodSource;
@@ -91,6 +96,8 @@ class PostDataRefusalTest {
                 unfit(illegal, "group 1: 2 data arrays, group 0 has 1", group -> group.data(TWO)),
                 unfit(illegal, "group 1: data[0] has 2 values for 3 points",
                         group -> group.coordinates(new double[3], new double[3])),
+                unfit(illegal, "group 1: computeNormals needs triangles in space; there are 2 axes and 0 corners",
+                        PostDataGroup::computeNormals),
                 unfit(illegal, "group 1: normals have 1 entries for 2 points",
                         group -> group.normals(new float[1], new float[1], new float[1])));
     }
@@ -116,11 +123,11 @@ class PostDataRefusalTest {
     @Test
     void elementsThatReferToPointsOutsideTheGroupAreRefused() {
         Map<String, UnaryOperator<PostDataGroup>> cases = Map.of(
-                "group 1: elements[1] names point 2 at entry 2, the group has 2 points",
+                "group 1: elements[1][2] is point 2, but the group has 2 points",
                 group -> group.elements(new int[] {0, 1, 1}, new int[] {0, 1, 2}),
-                "group 1: elements[0] names point -1 at entry 1, the group has 2 points",
+                "group 1: elements[0][1] is point -1, but the group has 2 points",
                 group -> group.elements(new int[] {0, -1, 7}),
-                "group 1: lineElements[0] names point 2147483647 at entry 0, the group has 2 points",
+                "group 1: lineElements[0][0] is point 2147483647, but the group has 2 points",
                 group -> group.lineElements(new int[] {Integer.MAX_VALUE}, new int[] {0}));
         cases.forEach((message, change) -> {
             PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL)
@@ -133,10 +140,10 @@ class PostDataRefusalTest {
     @Test
     void rolesWithoutAnArrayAreRefused() {
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL).addGroup(twoPoints());
-        assertRefused(IndexOutOfBoundsException.class, "role HEIGHT: there is no data[-1]",
+        assertRefused(IndexOutOfBoundsException.class, "There is no data[-1] for DataRole.HEIGHT",
                 () -> builder.role(DataRole.HEIGHT, -1));
         builder.role(DataRole.HEIGHT, 1);
-        assertRefused(IndexOutOfBoundsException.class, "group 0: role HEIGHT names data[1] of 1", builder::build);
+        assertRefused(IndexOutOfBoundsException.class, "group 0: there is no data[1] for DataRole.HEIGHT; number of data arrays: 1", builder::build);
     }
 
     @Test
@@ -174,10 +181,31 @@ class PostDataRefusalTest {
     }
 
     @Test
+    void anInvalidFileIsRefusedWithReasonFileAndRow(@TempDir Path folder) throws IOException {
+        Path file = folder.resolve("plot.txt");
+        Map<DataRole, Integer> roles = Map.of(DataRole.COLOR, 0);
+        assertInvalid("Could not open file " + file, OptionalInt.empty(), " (" + file + ")", file);
+        Files.writeString(file, "% Coordinates\n0 0 0\n1 0,5 0\n");
+        assertInvalid("Coordinates do not match Data.", OptionalInt.empty(), " (" + file + ")", file);
+        Files.writeString(file, "% Coordinates\n0 0 0\n% Data\n\u00fc\n");
+        assertInvalid("Illegal data: \"\u00fc\"", OptionalInt.of(4), " (" + file + ", row 4)", file);
+        assertThrows(NullPointerException.class, () -> PostDataObject.read(PlotKind.SURFACE_3D, roles, null));
+    }
+
+    private static void assertInvalid(String reason, OptionalInt row, String place, Path file) {
+        PlotFileException e = assertThrows(PlotFileException.class,
+                () -> PostDataObject.read(PlotKind.SURFACE_3D, Map.of(DataRole.COLOR, 0), file));
+        assertEquals(reason, e.getReason());
+        assertEquals(row, e.getRow());
+        assertEquals(file, e.getFile());
+        assertEquals(reason + place, e.getMessage());
+    }
+
+    @Test
     void filesOfAnotherKindOrWithoutTheArrayAreRefused() {
-        assertRefused(IllegalArgumentException.class, "No file holds data of kind MESH_3D",
+        assertRefused(IllegalArgumentException.class, "No file holds data of PlotKind.MESH_3D",
                 () -> PostDataObject.forFile(PlotKind.MESH_3D, Map.of()));
-        assertRefused(IndexOutOfBoundsException.class, "role COLOR names data[1] of 1",
+        assertRefused(IndexOutOfBoundsException.class, "There is no data[1] for DataRole.COLOR; number of data arrays: 1",
                 () -> PostDataObject.forFile(PlotKind.SURFACE_3D, Map.of(DataRole.COLOR, 1)));
     }
 }

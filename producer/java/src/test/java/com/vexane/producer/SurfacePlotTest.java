@@ -2,7 +2,6 @@ package com.vexane.producer;
 
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertThrows;
-import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.vexane.base.NativeException;
 import com.vexane.graphics3d.SceneGraphPlot;
@@ -92,8 +91,10 @@ class SurfacePlotTest {
             for (PostDataObject poor : List.of(withoutNormals, withoutColor)) {
                 NativeException e = assertThrows(NativeException.class, () -> plot.fillPlot(poor));
                 assertEquals("Internal_error_graphics3d", e.getKey());
-                String lacking = poor == withoutNormals ? "normals" : "role 0";
-                assertTrue(e.getDetail().startsWith("SceneGraphPlotSurface3d: " + lacking), e.getDetail());
+                String lacking = poor == withoutNormals
+                        ? "normals of group 0 are missing; the producer's computeNormals computes them from triangles."
+                        : "DataRole.COLOR (role 0) is not filled.";
+                assertEquals("SceneGraphPlotSurface3d: " + lacking, e.getDetail());
             }
             assertEquals(-1, plot.getValueMin());
             assertEquals(3, plot.getLegendMax());

@@ -20,7 +20,7 @@ public final class EarthRelief implements Picture {
             plot.setColorTable("relief", studio.colors("relief"), true);
             plot.setSymmetricColorTable(true);
             plot.fillPlot(record);
-            studio.grid().setShowGrid(false);
+            studio.hideAxes();
             studio.show(plot, "Height in m");
             studio.view(75, 20).save("Asia and the Indian Ocean.");
             studio.view(-75, 5).save("The Americas.");

@@ -58,7 +58,7 @@ public final class LightsLockedAndFree implements Picture {
             spot.setSelected(true);
             switches.setRenderLightMarkers(true);
             studio.canvas().setBackgroundColor(Canvas3dSettings.RenderMode.VIEW_3D, 0x404448);
-            studio.grid().setShowGrid(false);
+            studio.hideAxes();
             studio.view(-35, 25);
             studio.camera3d().zoomCenter(0.6f);
             studio.save("Three kinds of light with their markers; the spot is selected.");

@@ -45,8 +45,7 @@ public final class LogarithmicAxes implements Picture {
             plot.setLegendLimits(-40, 40);
             studio.axes().setXAxisLog(true);
             studio.axes().setYAxisLog(true);
-            studio.axes().setXAxisTitle("Frequency in Hz");
-            studio.axes().setYAxisTitle("Quality factor");
+            studio.nameAxes("Frequency in Hz", "Quality factor");
             studio.show(plot, "Gain in dB");
             studio.camera2d().setPreserveAspectRatio(false);
             studio.flat();

@@ -47,6 +47,7 @@ public final class PolarView implements Picture {
             plot.setColorTable("magma", studio.colors("magma"), true);
             plot.fillPlot(record);
             plot.setLegendLimits(-40, 15);
+            studio.nameAxes("", "Distance in wavelengths");
             studio.axes().setAxisType(AxisSetup.AxisType.POLAR);
             studio.show(plot, "Pressure level in dB").flat();
             studio.camera2d().setUseMode(Camera2d.UseMode.POLAR);

@@ -40,7 +40,7 @@ public final class ResizeBehaviours implements Picture {
             Sheet sheet = new Sheet(SHAPES.length);
             for (ResizeBehaviour behaviour : ResizeBehaviour.values()) {
                 plot.setTitle(TextFormat.PLAIN, behaviour.toString());
-                studio.camera3d().setOverrideResizeBehaviour(true, ResizeBehaviour.FIT);
+                studio.camera3d().setOverrideResizeBehaviour(true, ResizeBehaviour.HEIGHT);
                 studio.renderer().resize(SHAPES[0][0], SHAPES[0][1]);
                 studio.view(-35, 25);
                 studio.camera3d().setViewingScale(HEIGHT_OF_SCENE / studio.camera3d().getOrthographicSize());

@@ -29,6 +29,7 @@ public final class SeaTemperature implements Picture {
                         new PostDataBuilder(PlotKind.SURFACE_2D).role(DataRole.COLOR, 0).addGroup(sea).build()) {
             plot.setColorTable("inferno", studio.colors("inferno"), true);
             plot.fillPlot(record);
+            studio.nameAxes("Longitude in degrees", "Latitude in degrees");
             studio.show(plot, "Temperature in \\degree C").flat().save();
         }
     }

@@ -33,6 +33,7 @@ public final class TerrainColors implements Picture {
                         .build()) {
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(record);
+            studio.nameAxes("x in km", "y in km");
             studio.show(plot, "Height over " + Math.round(mean) + " m").flat();
             studio.save("As filled: the legend runs over the data, so grey is not the mean.");
 

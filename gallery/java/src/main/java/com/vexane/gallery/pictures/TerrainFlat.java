@@ -21,6 +21,7 @@ public final class TerrainFlat implements Picture {
                 PostDataObject record = studio.read("terrain_2d.txt", PlotKind.SURFACE_2D, Map.of(DataRole.COLOR, 0))) {
             plot.setColorTable("magma", studio.colors("magma"), true);
             plot.fillPlot(record);
+            studio.nameAxes("x in km", "y in km");
             studio.show(plot, "Slope, 1 being the steepest").flat().save();
         }
     }

@@ -1,0 +1,44 @@
+package com.vexane.producer;
+
+import java.io.IOException;
+import java.nio.file.Path;
+import java.util.OptionalInt;
+
+/**
+ * A plot file that cannot be opened or is invalid. The page on the plot data format lists the reasons with a sample of
+ * each.
+ */
+public class PlotFileException extends IOException {
+    private static final long serialVersionUID = 1;
+
+    /** What is wrong. */
+    private final String reason;
+
+    /** The path, as it was given. */
+    private final String file;
+
+    /** The row, from 1, or 0. */
+    private final int row;
+
+    PlotFileException(String reason, Path file, int row) {
+        super(reason + " (" + file + (row == 0 ? "" : ", row " + row) + ")");
+        this.reason = reason;
+        this.file = file.toString();
+        this.row = row;
+    }
+
+    /** {@return what is wrong, as it is in the log} {@link #getMessage()} adds file and row. */
+    public String getReason() {
+        return reason;
+    }
+
+    /** {@return the file, by the path that was given} */
+    public Path getFile() {
+        return Path.of(file);
+    }
+
+    /** {@return the row that is wrong, counted from 1; empty if the reason refers to the file as a whole} */
+    public OptionalInt getRow() {
+        return row == 0 ? OptionalInt.empty() : OptionalInt.of(row);
+    }
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+
+namespace vxgraphics3d {
+class IndexBuffer;
+class VertexBuffer;
+} // namespace vxgraphics3d
+
+namespace vxrenderer {
+
+/// A number for everything that is drawn of a vertex buffer and an index buffer, by which the renderer recognises
+/// buffers that have not changed. It takes one pass over their memory.
+///
+/// Contents that differ in a single word of 8 bytes never have the same digest; others do by chance alone, once in
+/// 2^64.
+std::uint64_t contentDigest(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
+
+} // namespace vxrenderer
