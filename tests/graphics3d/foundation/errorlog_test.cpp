@@ -19,7 +19,7 @@ namespace {
 
 using Level = ErrorLog::Level;
 
-/// In a process of its own, in which no log has been set up.
+/// In a separate process, in which no log has been set up.
 TEST(ErrorLogDeathTest, isSilentUntilALevelIsSetAndThenWritesOnStandardError)
 {
     testing::FLAGS_gtest_death_test_style = "threadsafe";

@@ -165,7 +165,7 @@ public final class PostDataGroup {
     }
 
     /**
-     * Has the normals of all points computed from the triangles, as a reader of files does: at each point the sum of
+     * Computes the normals of all points from the triangles, as the file readers do: at each point the sum of
      * the unit normals of its triangles, each with equal weight, brought to unit length. The normal of a triangle points
      * to the side from which its corners run counter-clockwise. Surfaces in space need normals.
      *
