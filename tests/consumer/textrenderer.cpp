@@ -61,8 +61,7 @@ private:
         }
     }
 
-    /// The geometry uploaded last, by plot. Weak pointers distinguish a new plot at an old address from the previous
-    /// one.
+    /// The geometry uploaded last, by plot. Weak pointers distinguish a new plot from an earlier one at its address.
     std::map<boost::weak_ptr<const SceneGraphPlot>, LastChangeId> m_uploaded;
 };
 

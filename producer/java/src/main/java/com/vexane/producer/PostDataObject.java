@@ -40,8 +40,8 @@ public final class PostDataObject extends NativePeer {
      * @param roles the index of the array of each role
      * @param file the file
      * @return the record, to be closed by the caller
-     * @throws PlotFileException if the file cannot be opened, is not a regular file, or is invalid; the exception has the
-     *     reason and, if there is one, the row
+     * @throws PlotFileException if the file cannot be opened, is not a regular file, or is invalid; the exception has
+     *     the reason and, if there is one, the row
      * @throws IllegalArgumentException if there is no file reader for the kind
      * @throws IndexOutOfBoundsException if a role refers to an array that the record does not get
      * @throws com.vexane.base.NativeException if memory runs out
