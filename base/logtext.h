@@ -100,7 +100,7 @@ struct LogText {
         : text(format), file(fileNameOf(path)), line(place)
     {
         if (!detail::fitsArguments<Args...>(format)) {
-            throw "the conversions of a log text do not fit its arguments";
+            throw "the conversions of a log text do not match its arguments";
         }
     }
 };

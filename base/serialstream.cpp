@@ -101,7 +101,7 @@ void ISerialStream::requireNumbers(std::int64_t count) const
 {
     const std::size_t room = (m_size - m_position) / (1 + c_wordSize);
     if (count < 0 || static_cast<std::uint64_t>(count) > room) {
-        throw std::out_of_range(place(m_position) + "there is no room for " + std::to_string(count) + " numbers.");
+        throw std::out_of_range(place(m_position) + "the rest is too short for " + std::to_string(count) + " numbers.");
     }
 }
 

@@ -1,4 +1,4 @@
-# Compiler settings that hold for every target.
+# Compiler settings for every target.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -7,12 +7,12 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-# All shared objects lie side by side, and each finds its neighbours there.
+# All shared objects are in one folder, where they find each other.
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 set(CMAKE_INSTALL_RPATH $ORIGIN)
 
-# A compiler cache, where there is one, is shared by all checkouts: paths count from the root of each.
+# A compiler cache, if there is one, is shared by all checkouts: paths are relative to the root of each.
 find_program(VX_CCACHE ccache)
 if(PROJECT_IS_TOP_LEVEL AND VX_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
@@ -29,7 +29,7 @@ target_include_directories(vx_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(vx_options INTERFACE
   # The same bytes on every machine: no fused multiply-add, no excess precision.
   -ffp-contract=off
-  # gcc 12 drops the rounding to float where it narrows and widens two adjacent doubles at once (compiler_test.cpp).
+  # gcc 12 drops the rounding to float when it narrows and widens two adjacent doubles at once (compiler_test.cpp).
   $<$<CXX_COMPILER_ID:GNU>:-fno-tree-slp-vectorize>
   -fno-strict-aliasing
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual
@@ -47,7 +47,7 @@ else()
 endif()
 target_link_options(vx_options INTERFACE -Wl,--as-needed)
 
-# Sources of a folder, searched again at every build.
+# The sources of a folder, collected again at every build.
 function(vx_glob result)
   file(GLOB_RECURSE files CONFIGURE_DEPENDS ${ARGN})
   set(${result} ${files} PARENT_SCOPE)

@@ -1,7 +1,7 @@
 # Java compiler, JNI headers, and the function that builds one jar.
 #
 # FindJNI asks for a window toolkit that a headless JDK does not have, and nothing of the virtual machine is linked:
-# the headers beside javac are all that is needed.
+# only the headers of the JDK are needed.
 
 find_package(Java 17 REQUIRED COMPONENTS Development)
 file(REAL_PATH ${Java_JAVAC_EXECUTABLE} VX_JAVAC)
@@ -13,8 +13,8 @@ target_include_directories(vx_jni_headers SYSTEM INTERFACE ${VX_JAVA_HOME}/inclu
 
 # vx_java_module(NAME name SOURCES folder [NEEDS module-target...] [NATIVE_HEADERS])
 # Compiles the Java sources below a folder into ${PROJECT_BINARY_DIR}/java/<name>/classes. With NATIVE_HEADERS the JNI
-# headers of the natives land in ${PROJECT_BINARY_DIR}/java/<name>/include, and the interface library vx_<name>_headers
-# carries them: a native whose signature differs from the Java method does not compile.
+# headers of the natives are written to ${PROJECT_BINARY_DIR}/java/<name>/include, and the interface library vx_<name>_headers
+# provides them: a native whose signature differs from the Java method does not compile.
 function(vx_java_module)
   cmake_parse_arguments(arg "NATIVE_HEADERS" "NAME;SOURCES" "NEEDS" ${ARGN})
   set(root ${PROJECT_BINARY_DIR}/java/${arg_NAME})
@@ -53,8 +53,8 @@ endfunction()
 
 # vx_java_jar(NAME module LIBRARIES target...)
 # Packs the classes of a module and native libraries into ${PROJECT_BINARY_DIR}/jars/vexane-<name>.jar, where the loader
-# finds the libraries under their plain names. It loads each after those that it needs, so the system matches what a
-# library needs with the sonames of the loaded ones and looks for no file.
+# finds the libraries by their file names. It loads each library after its dependencies, so the system finds these by the
+# sonames of the loaded libraries and does not search for files.
 function(vx_java_jar)
   cmake_parse_arguments(arg "" "NAME" "LIBRARIES" ${ARGN})
   set(jar ${PROJECT_BINARY_DIR}/jars/vexane-${arg_NAME}.jar)
@@ -79,9 +79,9 @@ function(vx_java_jar)
 endfunction()
 
 # vx_java_tests(SOURCES folder... NEEDS module... )
-# Compiles the JUnit tests of all modules, on the class path so that tests reach what packages hide, into
+# Compiles the JUnit tests of all modules, on the class path so that tests can access package-private members, into
 # ${PROJECT_BINARY_DIR}/java/tests/classes, and writes the class path that runs them to ${PROJECT_BINARY_DIR}/java/tests/path.
-# The JNI headers of natives that the tests bring themselves are carried by the interface library vx_java_test_headers.
+# The interface library vx_java_test_headers provides the JNI headers of the tests' own natives.
 function(vx_java_tests)
   cmake_parse_arguments(arg "" "" "SOURCES;NEEDS" ${ARGN})
   set(junit)

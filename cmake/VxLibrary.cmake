@@ -1,10 +1,10 @@
-# The libraries that users get: what they export, and what is installed so that others can build on them.
+# The libraries for users: their exports, and the files that are installed for building on them.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 # vx_public_headers(result ROOMS room... [HEADERS file...])
-# The headers of some rooms that users get: those that mark something with VX_API, those named, and those of the same
-# rooms that these include. Computed at every configuration.
+# The headers of the given rooms that are installed: those that mark something with VX_API, those listed, and those of
+# the same rooms that these include. Computed at every configuration.
 function(vx_public_headers result)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "ROOMS;HEADERS")
   list(TRANSFORM arg_ROOMS REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/\\1/*.h" OUTPUT_VARIABLE patterns)
@@ -33,8 +33,8 @@ endfunction()
 # vx_library(name DESCRIPTION text SOURCES file... ROOMS room... NAMESPACES namespace... PACKAGE java-package
 #            [HEADERS file...] [NEEDS name...])
 # The shared library vx<name>, which users link as vexane::<name>, and its pkg-config file. It exports the natives of a
-# package below com.vexane and what the namespaces mark with VX_API. ROOMS hold its headers; HEADERS adds public ones
-# in which there is nothing to mark.
+# package below com.vexane and everything in the namespaces that is marked with VX_API. ROOMS contain its headers; HEADERS
+# adds public ones in which there is nothing to mark.
 function(vx_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION;PACKAGE" "SOURCES;ROOMS;NAMESPACES;HEADERS;NEEDS")
   set(target vx${name})
@@ -87,7 +87,7 @@ function(vx_companion name)
   vx_java_jar(NAME ${name} LIBRARIES vx${name})
 endfunction()
 
-# The CMake package through which users find all libraries.
+# The CMake package by which users find all libraries.
 function(vx_install_package)
   set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/vexane-graphics3d)
   set(files ${PROJECT_BINARY_DIR}/vexane-graphics3d-config)

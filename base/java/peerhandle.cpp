@@ -81,7 +81,7 @@ void requirePeer(JNIEnv* env, jobject object, const char* argument)
         throwNoHandle(true, argument);
     }
     if (env->IsInstanceOf(object, javaClasses().peer) == JNI_FALSE) {
-        throw std::invalid_argument(std::string("Argument \"") + argument + "\" is no peer.");
+        throw std::invalid_argument(std::string("Argument \"") + argument + "\" is not a peer.");
     }
 }
 
@@ -91,7 +91,7 @@ void attachHandle(JNIEnv* env, jobject self, std::unique_ptr<PeerHandle> handle)
         throw std::invalid_argument("There is no object to connect the peer to.");
     }
     if (getWsPtrOrNull(env, self) != nullptr) {
-        throw std::logic_error("The peer is connected already.");
+        throw std::logic_error("The peer is already connected.");
     }
     setWsPtr(env, self, handle.get());
     static_cast<void>(handle.release());

@@ -46,7 +46,7 @@ void AxisSetup::setExtraY(std::vector<double> positions)
 
 void AxisSetup::setTitle(vxbase::UString& title, const vxbase::UString& text)
 {
-    // The text may be the present title.
+    // The text may be the current title.
     vxbase::UString markup;
     if (!text.empty()) {
         vxbase::UString escaped;

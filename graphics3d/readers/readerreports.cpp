@@ -11,7 +11,7 @@ namespace {
 
 thread_local ReaderError* t_kept = nullptr;
 
-/// @param args used up
+/// @param args consumed by the call
 std::string textOf(const char* format, va_list args)
 {
     va_list again;

@@ -8,8 +8,8 @@
 
 namespace vxgraphics3d {
 
-/// Keeps the last error that readers report on this thread, as long as it lives. Where one lives within another, the
-/// inner one keeps the errors.
+/// Stores the last error that readers report on this thread during its lifetime. If keepers are nested, the innermost
+/// one stores the errors.
 class ReaderErrorKeeper {
 public:
     explicit ReaderErrorKeeper(ReaderError& error);
@@ -25,14 +25,14 @@ namespace detail {
 
 enum class Echo { none, text, line };
 
-/// Hands a message to the thread's keeper, if there is one, and writes it to standard error, which it flushes.
+/// Passes a message to the thread's keeper, if there is one, and writes it to standard error, which it flushes.
 void passOn(Echo echo, int row, const char* format, ...) __attribute__((format(printf, 3, 4)));
 
 template <class... Args>
 void report(Echo echo, int row, const vxbase::LogText<Args...>& text, Args... args)
 {
     logError<Args...>(text, args...);
-// The text was checked against its arguments when it was compiled.
+// The text was checked against its arguments at compile time.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-security"
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
@@ -42,8 +42,8 @@ void report(Echo echo, int row, const vxbase::LogText<Args...>& text, Args... ar
 
 } // namespace detail
 
-// Each of these reports what is wrong with a file: as an error in the log and to the `ReaderErrorKeeper` of the thread.
-// File and line in the log are the caller's. The row is that of a `ReaderError`.
+// Each of these reports a fault of a file: as an error in the log and to the `ReaderErrorKeeper` of the thread. File
+// and line in the log are the caller's. The row is that of a `ReaderError`.
 
 /// Writes the same text, without line end, to standard error as well.
 template <class... Args>

@@ -9,7 +9,7 @@
 
 namespace vxgraphics3d {
 
-// What one row of a text format holds. Row numbers, from 1, are those that reports name.
+// The contents of one row of a text format. Row numbers, from 1, are those in reports.
 
 /// Whether a row contains no character above the blank.
 bool isEmptyRow(const char* row);
@@ -17,12 +17,12 @@ bool isEmptyRow(const char* row);
 /// Whether a row begins a section: "%", then any one character, then the tag. Anything after the tag is ignored.
 bool isTagRow(const char* row, std::string_view tag);
 
-/// A row without its line end, as messages show it.
+/// A row without its line end, for messages.
 std::string textOf(const char* row);
 
-/// Finds the section that a tag row begins. Sections keep their order, so the search goes forward from the present one,
-/// which is searched first. A row without such a tag is reported.
-/// @param section the present section; becomes the one found
+/// Finds the section that a tag row begins. Sections have a fixed order, so the search goes forward from the current
+/// one, which is searched first. A row without such a tag is reported.
+/// @param section the current section; becomes the one found
 bool findTag(std::span<const std::string_view> tags, std::size_t& section, const char* row, int rowNumber,
              const std::string& fileName);
 
@@ -33,7 +33,8 @@ bool getReal(double& value, const char* row, int rowNumber);
 bool getVector3f(Vector3f& vector, const char* row, int rowNumber);
 
 /// Reads `count` integers and subtracts 1 from each, as files count from 1 and memory from 0. A missing one is reported
-/// with the row's number. One that no int holds becomes the nearest limit of int, which is no point's index.
+/// with the row's number. One that does not fit into an int becomes the nearest limit of int, which is not the index of
+/// a point.
 bool getIndices(int* indices, int count, const char* row, int rowNumber);
 
 } // namespace vxgraphics3d

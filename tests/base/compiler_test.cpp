@@ -1,4 +1,4 @@
-// What the compiler's settings must make sure of.
+// What the compiler settings must guarantee.
 
 #include <gtest/gtest.h>
 

@@ -12,7 +12,7 @@
 
 #include <vector>
 
-/// A record of two triangles over a rectangle of 2 by 1 units, with one value at each corner.
+/// A record of two triangles that form a rectangle of 2 by 1 units, with one value at each corner.
 inline vxdatacarrier::PostDataObject makeRecord(const std::vector<double>& values)
 {
     using Record = vxdatacarrier::PostDataObject;

@@ -1,4 +1,4 @@
-// A renderer in words: walks a scene and prints what it would upload and draw.
+// A text renderer: walks a scene and prints what it would upload and draw.
 #include "graphics3d/buffers/vertexlayout.h"
 #include "graphics3d/foundation/lastchangeid.h"
 #include "graphics3d/plots/scalar/scenegraphplotdomain3d.h"
@@ -61,7 +61,7 @@ private:
         }
     }
 
-    /// The geometry uploaded last, by plot. Weak pointers tell a new plot at an old address from the earlier one.
+    /// The geometry uploaded last, by plot. Weak pointers distinguish a new plot from an earlier one at its address.
     std::map<boost::weak_ptr<const SceneGraphPlot>, LastChangeId> m_uploaded;
 };
 

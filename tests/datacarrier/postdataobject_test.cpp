@@ -16,7 +16,7 @@ using Doubles = PostDataObject::DoubleArrays;
 using Floats = PostDataObject::FloatArrays;
 using Ints = PostDataObject::IntArrays;
 
-/// Two groups of 3 and 2 points in the plane; colour data in array 1, iso levels, one value a group, in array 0.
+/// Two groups of 3 and 2 points in the plane; colour data in array 1, iso levels, one value per group, in array 0.
 PostDataObject twoGroups()
 {
     PostDataObject record;

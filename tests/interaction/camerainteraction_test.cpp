@@ -14,7 +14,7 @@ namespace vxinteraction {
 namespace {
 
 constexpr float c_nan = std::numeric_limits<float>::quiet_NaN();
-/// Pixels that single precision may be off, in areas of up to a thousand.
+/// The error of single precision in pixels, for areas of up to a thousand.
 constexpr float c_pixelError = 0.05f;
 
 void expectAt(const AreaPoint& place, float x, float y, float error = c_pixelError)
@@ -55,7 +55,7 @@ TEST(CameraInteraction, movesKeepTheRotationPointUnderThePointer)
         const Vector3f point = view.camera().getRotationPoint();
         expectFollows(view, Action::ActionSceneMove, point);
         expectFollows(view, Action::ActionMove, point);
-        // The second drag began where the first has left the rotation point: far from the line of sight.
+        // The second drag begins where the first left the rotation point: far from the line of sight.
         expectFollows(view, Action::ActionSceneMove, point);
     });
 }
@@ -70,7 +70,7 @@ TEST(CameraInteraction, zoomKeepsThePositionOfThePressFixed)
         const Vector3f point = view.camera().getRotationPoint() + view.vector(1.0f);
         const TestView::Pixel start = view.anyPixel();
         const AreaPoint before = view.project(point);
-        // Up by the zoom speed doubles the picture; down halves it.
+        // Moving up by the zoom speed doubles the picture; moving down halves it.
         for (const float larger : {2.0f, 0.5f}) {
             ASSERT_TRUE(interaction.press(1, 0, start.x, start.y));
             EXPECT_TRUE(interaction.drag(start.x + 17, start.y + (larger > 1.0f ? -200 : 200)));
@@ -79,7 +79,7 @@ TEST(CameraInteraction, zoomKeepsThePositionOfThePressFixed)
             expectAt(view.project(point), x, y, 0.2f);
             interaction.release();
             expectAt(view.project(point), x, y, 0.2f);
-            // Back again, which also shows that zooms in and out undo each other.
+            // Back again, which also shows that zooming in and out cancel each other.
             ASSERT_TRUE(interaction.press(1, 0, start.x, start.y));
             interaction.drag(start.x, start.y + (larger > 1.0f ? 200 : -200));
             interaction.release();
@@ -98,7 +98,7 @@ TEST(CameraInteraction, wheelZoomsAboutThePointerAndBack)
         const Vector3f point = view.camera().getRotationPoint() + view.vector(1.0f);
         const TestView::Pixel pointer = view.anyPixel();
         const AreaPoint before = view.project(point);
-        // Four notches are one step: they double the picture, away from the user.
+        // Four notches are one step: away from the user, they double the picture.
         EXPECT_TRUE(interaction.wheel(-4.0, pointer.x, pointer.y));
         expectAt(view.project(point), 2.0f * before.x - pointer.middle.x, 2.0f * before.y - pointer.middle.y, 0.2f);
         for (int i = 0; i < 4; ++i) {
@@ -131,7 +131,7 @@ TEST(CameraInteraction, orbitMovesTheNearSideWithThePointer)
         EXPECT_LT(view.project(nearSide).y, 90.0f);
         EXPECT_NEAR(view.project(nearSide).x, 200.0f, c_pixelError);
         EXPECT_NEAR(view.camera3d().getActualPosition().y, 10.0f * std::sin(0.2f), 1e-5f);
-        // The rotation point stays.
+        // The rotation point stays where it is.
         expectAt(view.project({0.0f, 0.0f, 0.0f}), 200.0f, 100.0f);
     }
 }
@@ -147,8 +147,8 @@ TEST(CameraInteraction, rollsRotateThePictureByTheAngleOfThePointer)
                 view.camera3d().lookAt({0.0f, 0.0f, eye}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
                 view.camera3d().setRelativeViewOffset(0.25f, -0.25f);
                 CameraInteraction interaction = view.interaction(action);
-                // What lies ahead is at (300, 50) from below. The pointer goes a quarter round it, from the right to
-                // the top, and so does a point of the scene.
+                // The point straight ahead is at (300, 50) from below. The pointer moves a quarter of a circle about
+                // it, from the right to the top, and so does a point of the scene.
                 const Vector3f ahead(0.0f, 0.0f, eye - 10.0f);
                 const Vector3f beside(0.5f, 0.0f, eye - 10.0f);
                 expectAt(view.project(beside), 350.0f, 50.0f);
@@ -234,7 +234,7 @@ TEST(CameraInteraction, movesEvenWithTheRotationPointBehindTheEye)
         CameraInteraction interaction = view.interaction(action);
         ASSERT_TRUE(interaction.press(1, 0, 200, 100));
         ASSERT_TRUE(interaction.drag(220, 110));
-        // As far ahead as the rotation point is behind, a unit has 100 pixels.
+        // At the distance of the rotation point, but ahead, a unit has 100 pixels.
         expectAt(view.project({0.0f, 0.0f, -20.0f}), 220.0f, 90.0f);
     }
 }
@@ -427,7 +427,7 @@ TEST(CameraInteraction, nonFiniteValuesNeverReachTheCamera)
     CameraInteraction interaction = view.interaction();
     EXPECT_FALSE(interaction.wheel(std::numeric_limits<double>::quiet_NaN(), 200, 100));
     EXPECT_FALSE(interaction.wheel(1e300, 200, 100));
-    // An eye in the rotation point has no line to move across.
+    // An eye at the rotation point has no line to move across.
     view.camera3d().setRotationPoint({0.0f, 0.0f, 10.0f});
     CameraInteraction move = view.interaction(Action::ActionSceneMove);
     ASSERT_TRUE(move.press(1, 0, 200, 100));
@@ -466,7 +466,7 @@ TEST(CameraInteraction, zoomToRectangleUsesOnlyThePartInTheRenderArea)
         CameraInteraction interaction = view.interaction();
         const Vector3f point = view.camera().getRotationPoint() + view.vector(1.0f);
         const AreaPoint before = view.project(point);
-        // All columns of the lower part, so that nothing is scaled and the part comes to the middle.
+        // All columns of the lower part, so that nothing is scaled and the part moves to the middle.
         const TestView::Pixel top = view.pixel(0, 99);
         EXPECT_TRUE(interaction.zoomToRectangle(-5000, 5000, 5000, top.y));
         const auto height = static_cast<float>(view.camera().getRenderAreaHeight());

@@ -33,7 +33,7 @@ inline Canvas3dGlobalSettings& process()
     return *Canvas3dGlobalSettings::getInstance();
 }
 
-/// The default actions and speeds while it lives.
+/// The default actions and speeds during its lifetime.
 class ProcessDefaults {
 public:
     ProcessDefaults() { set(true); }
@@ -52,7 +52,7 @@ private:
     }
 };
 
-/// A view with its camera, of which the first button does one action without keys.
+/// A view with its camera, in which the first button without keys has one action.
 struct TestView : vxgraphics3d::RandomNumbers {
     boost::shared_ptr<Canvas3dSettings> settings = boost::make_shared<Canvas3dSettings>();
     int canvasHeight = 100;
@@ -64,7 +64,7 @@ struct TestView : vxgraphics3d::RandomNumbers {
     ICameraTransforms& camera() { return settings->cameraTransforms(); }
     bool isPlanar() const { return settings->getRenderMode() == Canvas3dSettings::RenderMode2d; }
 
-    /// A place in the picture, in pixels from the lower left corner of the render area.
+    /// A position in the picture, in pixels from the lower left corner of the render area.
     AreaPoint project(const Vector3f& point)
     {
         const Vector3f screen = camera().worldToScreenRH(point);
@@ -74,7 +74,7 @@ struct TestView : vxgraphics3d::RandomNumbers {
         return {screen.x - left, screen.y - bottom};
     }
 
-    /// A pixel of the render area, as mouse events give it, and its middle in the area.
+    /// A pixel of the render area, as in mouse events, and its middle in the area.
     struct Pixel {
         int x;
         int y;
@@ -91,7 +91,7 @@ struct TestView : vxgraphics3d::RandomNumbers {
         return pixel(integer(0, camera().getRenderAreaWidth() - 1), integer(0, camera().getRenderAreaHeight() - 1));
     }
 
-    /// All that is displayed, and that a drag may change.
+    /// Everything displayed that a drag may change.
     std::vector<Matrixf> picture()
     {
         return {camera().getViewTransform(), camera().getInvViewTransform(), camera().getRotationTransform(),
@@ -107,7 +107,7 @@ struct TestView : vxgraphics3d::RandomNumbers {
 
 enum Kind { Perspective, Orthographic, Planar };
 
-/// A view whose render area is a part of the canvas, whose camera looks near its rotation point but not at it.
+/// A view whose render area is a part of the canvas, and whose camera looks near its rotation point but not at it.
 inline TestView randomView(unsigned seed, Kind kind)
 {
     TestView view(seed);
@@ -148,7 +148,7 @@ inline TestView randomView(unsigned seed, Kind kind)
     return view;
 }
 
-/// Whether the camera of a view lets its picture be scaled.
+/// Whether the camera of a view can scale its picture.
 inline bool canZoom(TestView& view)
 {
     return !view.camera3d().isOverrideResizeBehaviour();
@@ -170,7 +170,7 @@ void forRandomViews(std::initializer_list<Kind> kinds, Check check)
     }
 }
 
-/// Looks along negative z at the rotation point in the origin, from a distance of 10, through 400 by 200 pixels: the
+/// Looks along negative z at the rotation point at the origin, from a distance of 10, through 400 by 200 pixels: the
 /// height of 2 fills the picture, so a unit at the rotation point has 100 pixels.
 inline TestView frontView(Kind kind)
 {

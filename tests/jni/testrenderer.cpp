@@ -24,7 +24,7 @@ using namespace vxgraphics3d;
 
 namespace {
 
-/// Settings refer to it for as long as they live.
+/// Settings refer to it during their lifetime.
 class TestSetup : public IRendererSetup {
 } testSetup;
 
@@ -70,7 +70,7 @@ struct TestMonitor : RendererInfo::MonitorInfo {
     }
 };
 
-/// Monitor 0 has three extensions, 1 has one, 2 none; 3 is an empty place and nobody owns 4.
+/// Monitor 0 has three extensions, 1 has one, 2 none; 3 is null and 4 has no owner.
 struct TestInfo : RendererInfo {
     TestInfo()
     {
@@ -98,7 +98,7 @@ private:
 /// An object that no native knows.
 struct Foreign {};
 
-/// Throws one of the four kinds of failure that a native tells apart.
+/// Throws one of the four kinds of failure that a native distinguishes.
 [[noreturn]] void throwKind(int kind)
 {
     switch (kind) {

@@ -21,7 +21,7 @@ using Doubles = Record::DoubleArrays;
 
 constexpr double c_nan = std::numeric_limits<double>::quiet_NaN();
 
-/// Two triangles over a square in space, one of them with a hole in its data.
+/// Two triangles that form a square in space, one of them with a hole in its data.
 PostDataGroup square()
 {
     return {.coordinates = {{0, 2, 2, 0}, {0, 0, 1, 1}, {5, 5, 5, 5}},
@@ -31,7 +31,7 @@ PostDataGroup square()
             .limits = {{}, {0, 10}}};
 }
 
-TEST(PostDataBuilder, makesARecordWithLimitsBoundsAndNormalsThatAPlotTakes)
+TEST(PostDataBuilder, buildsARecordWithLimitsBoundsAndNormalsForAPlot)
 {
     PostDataBuilder builder(Record::Surface3d);
     const Record record = builder.role(Record::ColorData, 0).addGroup(square()).build();
@@ -49,10 +49,10 @@ TEST(PostDataBuilder, makesARecordWithLimitsBoundsAndNormalsThatAPlotTakes)
     plot.fillPlot(record);
     EXPECT_TRUE(plot.isValid());
     EXPECT_EQ(plot.getLegendMax(), 4);
-    EXPECT_THROW(builder.build(), std::invalid_argument); // it has handed its groups over
+    EXPECT_THROW(builder.build(), std::invalid_argument); // its groups were moved into the record
 }
 
-TEST(PostDataBuilder, takesOneValueForTheLevelOfAGroup)
+TEST(PostDataBuilder, acceptsOneValueForTheLevelOfAGroup)
 {
     const auto level = [](double value) {
         return PostDataGroup{.coordinates = {{0, 1, 0}, {0, 0, 1}}, .data = {{value}}};
@@ -63,7 +63,7 @@ TEST(PostDataBuilder, takesOneValueForTheLevelOfAGroup)
     EXPECT_THROW(builder.role(Record::ColorData, 0).addGroup(level(3)).build(), std::invalid_argument);
 }
 
-TEST(PostDataBuilder, refusesWhatDoesNotFitAndKeepsTheGroupsBefore)
+TEST(PostDataBuilder, refusesInconsistentGroupsAndKeepsTheEarlierOnes)
 {
     using Change = std::function<void(PostDataGroup&)>;
     const std::pair<Change, std::string> cases[] = {
@@ -114,10 +114,10 @@ TEST(PostDataBuilder, refusesRolesWithoutData)
     EXPECT_THROW(PostDataBuilder(0).addGroup(shorter).build(), std::invalid_argument);
 }
 
-TEST(RecordNormals, sumUnitNormalsAndSkipTrianglesWithout)
+TEST(RecordNormals, sumUnitNormalsAndSkipTrianglesWithoutOne)
 {
     // A large triangle in the plane z = 0, a small one in the plane x = 0, one without area, one with a corner that is
-    // not finite, one too large for single precision, and a point of no triangle.
+    // not finite, one too large for single precision, and a point without a triangle.
     const Doubles points = {{0, 9, 0, 0, 5, c_nan, 1e30}, {0, 0, 9, 0, 5, 0, 0}, {0, 0, 0, 1, 5, 0, 0}};
     const Record::IntArrays triangles = {{0, 0, 0, 0, 0}, {1, 2, 1, 5, 6}, {2, 3, 1, 1, 2}};
     const float half = 1 / std::sqrt(2.0f);

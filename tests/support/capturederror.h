@@ -6,7 +6,7 @@
 
 namespace vxgraphics3d {
 
-/// While it lives, what the process writes on standard error goes into a file of its own.
+/// During its lifetime, everything that the process writes to standard error goes into a separate file.
 class CapturedError {
 public:
     CapturedError();
@@ -14,7 +14,7 @@ public:
     CapturedError(const CapturedError&) = delete;
     CapturedError& operator=(const CapturedError&) = delete;
 
-    /// What was written since the last call.
+    /// Everything written since the last call.
     std::string take();
 
 private:

@@ -8,7 +8,8 @@
 
 namespace vxgraphics3d {
 
-/// While it lives, the log writes at a level into a file of its own; afterwards the log is silent on standard error.
+/// During its lifetime, the log writes at a level into a separate file; afterwards the log is silent, on standard
+/// error.
 class CapturedLog {
 public:
     explicit CapturedLog(ErrorLog::Level level);

@@ -7,7 +7,7 @@ namespace {
 
 thread_local long allocationsBeforeFailure = -1;
 
-/// Allocates through the operator that this program replaces, so that sanitizers still see which one it was.
+/// Allocates through the operator that this program replaces, so that sanitizers still know which one it was.
 template <const char* symbol>
 void* allocate(std::size_t size)
 {

@@ -4,8 +4,8 @@
 
 namespace vxgraphics3d {
 
-/// While it lives, one allocation by `new` throws: the n-th that this thread makes, counted from 0. The program's
-/// operators are replaced for this, and merely pass on all others.
+/// During its lifetime, one allocation by `new` throws: the n-th of this thread, counted from 0. The program's
+/// operators are replaced for this, and forward all other allocations.
 class FailingAllocation {
 public:
     explicit FailingAllocation(long n);
@@ -14,8 +14,8 @@ public:
     FailingAllocation& operator=(const FailingAllocation&) = delete;
 };
 
-/// Makes a call again and again, with a failure of its first allocation, its second, and so on, until it has no more.
-/// @param afterFailure is called after each `std::bad_alloc` that came out
+/// Repeats a call with a failure of its first allocation, its second, and so on, until it succeeds.
+/// @param afterFailure is called after each `std::bad_alloc` that the call throws
 /// @return the number of failures
 template <class Call, class AfterFailure>
 long failEachAllocation(Call call, AfterFailure afterFailure)

@@ -6,7 +6,7 @@
 
 namespace vxgraphics3d {
 
-/// A plot without buffers, for tests of what all plots share.
+/// A plot without buffers, for tests of the common part of all plots.
 class FakePlot : public SceneGraphSingleTexturePlot {
 public:
     explicit FakePlot(int id, PlotType type = PlotType::surface3d) : SceneGraphSingleTexturePlot(type, id) {}

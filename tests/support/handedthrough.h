@@ -4,8 +4,8 @@
 
 namespace vxgraphics3d {
 
-/// A reference for an argument that the code under test only hands on: no object stands behind it, and nothing may
-/// look. The type need not be complete.
+/// A reference for an argument that the code under test only passes on: it refers to no object and must not be
+/// accessed. The type need not be complete.
 template <class T>
 T& handedThrough()
 {

@@ -16,7 +16,7 @@ namespace {
 using Record = vxdatacarrier::PostDataObject;
 using Plot = ReferencePlotReader::Plot;
 
-/// Equal to the bit, so that -0 is not 0 and not-a-number equals itself.
+/// Bitwise equal, so that -0 differs from 0 and NaN equals itself.
 template <class T>
 bool same(const T& a, const T& b)
 {

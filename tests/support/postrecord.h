@@ -10,7 +10,7 @@
 
 namespace vxgraphics3d {
 
-/// Builds a record group by group. Limits are taken from the data, normals are left out unless given.
+/// Builds a record group by group. Limits are computed from the data; normals are omitted unless given.
 class PostRecord {
 public:
     using Record = vxdatacarrier::PostDataObject;
@@ -49,7 +49,7 @@ public:
         }
         return *this;
     }
-    /// Sets the limits of one data array of a group, whatever its data are.
+    /// Sets the limits of one data array of a group, independent of its data.
     PostRecord& limits(int group, int array, double min, double max)
     {
         (*m_record.m_dataMin[static_cast<std::size_t>(group)])[static_cast<std::size_t>(array)] = min;

@@ -6,7 +6,7 @@
 
 namespace vxgraphics3d {
 
-/// Numbers for tests that take many: the same ones in every run and with every standard library.
+/// Random numbers for tests: the same ones in every run and with every standard library.
 class RandomNumbers {
 public:
     explicit RandomNumbers(unsigned seed) : m_generator(seed) {}
@@ -15,12 +15,12 @@ public:
     {
         return low + (high - low) * (static_cast<float>(m_generator() >> 8) / 16777216.0f);
     }
-    /// From low to high, both included.
+    /// From low to high, both inclusive.
     int integer(int low, int high)
     {
         return low + static_cast<int>(m_generator() % static_cast<unsigned>(high - low + 1));
     }
-    /// Each coordinate lies between -size and size.
+    /// Each coordinate is between -size and size.
     Vector3f vector(float size)
     {
         const float x = uniform(-size, size);

@@ -143,7 +143,7 @@ bool ReferencePlotReader::indices(int* values, int count)
             return false;
         }
         at = end;
-        // What no int holds is no index of a point either.
+        // A number that does not fit into an int is not the index of a point either.
         values[i] = value < 0 || value > INT_MAX ? -1 : static_cast<int>(value) - 1;
     }
     return true;

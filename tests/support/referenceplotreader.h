@@ -13,8 +13,8 @@ class PostDataObject;
 
 namespace vxgraphics3d {
 
-/// The plot file reader once more, as plainly as can be: a row at a time through `fgets`, each number through the C
-/// library. Tests hold the real reader's results and messages against it, and the benchmark its speed.
+/// A second plot file reader, as simple as possible: one row at a time through `fgets`, each number through the C
+/// library. Tests compare the real reader's results and messages with it, and the benchmark its speed.
 class ReferencePlotReader {
 public:
     struct Group {
@@ -33,9 +33,9 @@ public:
     bool scan(int criteria);
 
     const std::vector<Group>& groups() const { return m_groups; }
-    /// The log's messages up to now.
+    /// The messages for the log so far.
     const std::vector<std::string>& messages() const { return m_messages; }
-    /// What stands on standard error by now.
+    /// The text for standard error so far.
     const std::string& standardError() const { return m_standardError; }
 
 private:

@@ -5,7 +5,7 @@
 
 namespace vxgraphics3d {
 
-/// A file in memory that lives as long as this object, for code that reads or writes files by their names.
+/// A file in memory during the lifetime of this object, for code that reads or writes files by name.
 class TemporaryFile {
 public:
     explicit TemporaryFile(std::string_view content = {});

@@ -22,7 +22,7 @@ inline Camera3d frontCamera()
     return camera;
 }
 
-/// Everything that a renderer takes of what a camera shows.
+/// All matrices that a renderer reads from a camera.
 inline std::vector<Matrixf> displayedMatrices(const Camera3d& camera)
 {
     return {camera.getViewTransform(),           camera.getInvViewTransform(),      camera.getRotationTransform(),
@@ -30,7 +30,7 @@ inline std::vector<Matrixf> displayedMatrices(const Camera3d& camera)
             camera.getInvProjectionTransformRH()};
 }
 
-/// The greatest difference of the elements of two matrices, against the greatest element.
+/// The largest difference of the elements of two matrices, relative to the largest element.
 inline float relativeDifference(const Matrixf& a, const Matrixf& b)
 {
     float difference = 0.0f;
@@ -80,7 +80,7 @@ public:
     }
 };
 
-/// Checks 300 random cameras, up to the first that fails.
+/// Checks 300 random cameras, until the first failure.
 template <class Check>
 void forRandomCameras(Check check)
 {

@@ -7,7 +7,7 @@
 
 namespace vxgraphics3d {
 
-/// A leaf that writes down the picks that reach it, and whose box is what is marked of it.
+/// A leaf that records the picks that reach it, and whose marked box is its own box.
 class TestLeaf : public SceneGraphObject {
 public:
     static boost::shared_ptr<TestLeaf> create(const BoundingBox& box = {}, ObjectType type = ObjectSolid)
@@ -29,7 +29,7 @@ public:
         updateNodeSnapVertices();
     }
 
-    /// Sends the picks of several leaves into one list of (node id, inside).
+    /// Records the picks of several leaves in one list of (node id, inside).
     void recordPicksIn(std::vector<std::pair<int, bool>>& picks) { m_picks = &picks; }
 
     void getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&,

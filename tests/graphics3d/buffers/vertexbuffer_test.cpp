@@ -17,7 +17,7 @@
 namespace vxgraphics3d {
 namespace {
 
-/// What the renderer sees: the float at a byte of the array.
+/// The float at a byte offset of the array, as a renderer sees it.
 float floatAt(const VertexBuffer& buffer, std::ptrdiff_t byte)
 {
     float value;

@@ -232,7 +232,7 @@ TEST(Camera2d, setViewLimitsDependsOnWhichRangesAreEmpty)
         const auto [x0, x1, y0, y1] = row.limits;
         EXPECT_EQ(camera.setViewLimits(x0, x1, y0, y1, row.preserve), row.accepted) << x0 << ' ' << y0;
         EXPECT_EQ(displayed(camera), row.shown) << x0 << ' ' << y0 << ' ' << row.preserve;
-        // Accepted limits without a ratio to preserve stretch the axes: 8 and 1 units on 200 and 100 pixels.
+        // Accepted limits without a ratio to preserve stretch the axes: 8 and 1 units to 200 and 100 pixels.
         const bool stretched = row.accepted && !row.preserve;
         EXPECT_EQ(camera.getAxisViewScaleX(), 1.0f);
         EXPECT_EQ(camera.getAxisViewScaleY(), stretched ? 4.0f : 1.0f);
@@ -254,7 +254,7 @@ TEST(Camera2d, theWholeRequestedRectangleIsVisible)
         EXPECT_GE(camera.getActualMaxX(), x + width - rounding);
         EXPECT_LE(camera.getActualMinY(), y + rounding);
         EXPECT_GE(camera.getActualMaxY(), y + height - rounding);
-        // And a unit of y is as long on the screen as the axis scales ask for.
+        // And the length of a unit of y on the screen is that of the axis scales.
         const float unitX =
             static_cast<float>(camera.getRenderAreaWidth()) / (camera.getActualMaxX() - camera.getActualMinX());
         const float unitY =
@@ -323,7 +323,7 @@ TEST(Camera2d, theOneDimensionalModeAlwaysShowsMinusOneToOneInY)
         EXPECT_EQ(camera.getActualMinY(), -1.0f);
         EXPECT_EQ(camera.getActualMaxY(), 1.0f);
     }
-    // A wide area leaves the x range, whatever the behaviour.
+    // A wide area does not change the x range, whatever the behaviour.
     Camera2d camera = cameraOf(100, 100, 1);
     camera.setCameraMode(Camera2d::ModeOneDimensional);
     camera.setViewLimits(2.0f, 6.0f, 0.0f, 4.0f);
@@ -445,7 +445,7 @@ TEST(Camera2d, aDragInManyStepsEqualsItsLastStep)
 TEST(Camera2d, mergeAndDiscardKeepThePictureAndTheBase)
 {
     forRandomViews([](Camera2d& camera, RandomViews&) {
-        // The fixed pixel scale has its own say on what limits fit the area.
+        // The fixed pixel scale determines the limits by itself.
         if (camera.getOwnResizeBehaviour() == Resize::ResizePixels) {
             return;
         }
@@ -476,7 +476,7 @@ TEST(Camera2d, pixelsSurviveARoundTripThroughTheWorld)
         const int y = random.integer(0, 2000);
         const float depth = random.uniform(-1.0f, 1.0f);
         const Vector3f screen = camera.worldToScreenRH(camera.screenToWorld(x, y, depth));
-        // A tenth of a pixel, or what a float holds of the limits.
+        // A tenth of a pixel, or the float precision of the limits.
         const float unit = std::max(
             static_cast<float>(camera.getRenderAreaWidth()) / (camera.getActualMaxX() - camera.getActualMinX()),
             static_cast<float>(camera.getRenderAreaHeight()) / (camera.getActualMaxY() - camera.getActualMinY()));
@@ -591,7 +591,7 @@ TEST(Camera2d, importCopiesTheBaseAndKeepsTheArea)
     EXPECT_EQ(target.getRenderAreaHeight(), 30);
     EXPECT_EQ(base(target), base(source));
     EXPECT_EQ(displayed(target), base(source));                      // Not the displayed limits of the source,
-    EXPECT_EQ(displayedMatrices(target), displayedMatrices(source)); // whose matrices come along as they are.
+    EXPECT_EQ(displayedMatrices(target), displayedMatrices(source)); // whose matrices are copied unchanged.
     EXPECT_EQ(target.getPolarMin(), 3.0f);
     EXPECT_EQ(target.getActualPolarMax(), source.getActualPolarMax());
     EXPECT_EQ(target.getActualPolarRadius(), source.getActualPolarRadius());
@@ -601,7 +601,7 @@ TEST(Camera2d, importCopiesTheBaseAndKeepsTheArea)
     EXPECT_EQ(target.getViewingScaleX(), source.getViewingScaleX());
     EXPECT_EQ(target.getSceneBox(), source.getSceneBox());
     EXPECT_FALSE(target.isPreserveAspectRatio());
-    // The zoom did not come along.
+    // The zoom was not copied.
     target.setCameraMode(Camera2d::ModeOrdinary);
     target.setAdditionalRelativeViewOffset(0.0f, 0.0f);
     EXPECT_EQ(displayed(target), base(source));

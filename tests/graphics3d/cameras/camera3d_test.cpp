@@ -164,7 +164,7 @@ TEST(Camera3d, importKeepsTheTargetsAreaAndDollySpeed)
     EXPECT_EQ(target.getViewTransform(), source.getViewTransform());
     EXPECT_EQ(target.getPosition(), source.getPosition());
     EXPECT_EQ(target.getHorizontalFOV(), source.getHorizontalFOV());
-    // The projection is that of its own area.
+    // The projection is that of the target's own area.
     EXPECT_EQ(target.getNearHeight(), target.getNearWidth() * 0.5f);
 }
 
@@ -176,7 +176,7 @@ TEST(Camera3d, eachResizeBehaviourGivesItsViewRectangle)
         float height;
         float steepWidth; ///< of the view of a base 2 by 8
         float steepHeight;
-        float size;      ///< what `getOrthographicSize` says of the first
+        float size;      ///< what `getOrthographicSize` returns for the first
         float steepSize; ///< and of the second
     };
     const Case cases[] = {
@@ -204,7 +204,7 @@ TEST(Camera3d, eachResizeBehaviourGivesItsViewRectangle)
 
 TEST(Camera3d, eachResizeBehaviourHasItsAngleOfView)
 {
-    // An area as wide as high, angles of 30 and 45 degrees: the base view is higher than wide.
+    // A square area, angles of 30 and 45 degrees: the base view is higher than wide.
     constexpr float angles[] = {30.0f, 45.0f, 30.0f, 45.0f, 0.0f, 0.0f};
     for (int behaviour = 0; behaviour < 6; ++behaviour) {
         Camera3d camera;
@@ -226,7 +226,7 @@ TEST(Camera3d, theGlobalBehaviourAppliesUntilItIsOverridden)
     camera.setProjectionType(Camera3d::ProjectionOrthographic);
     camera.setRenderArea(200, 200, 0, 0, 200, 100);
     camera.setOrthographicSize(8.0f);
-    EXPECT_EQ(camera.getNearHeight(), 8.0f); // The global one keeps the whole base view visible.
+    EXPECT_EQ(camera.getNearHeight(), 8.0f); // The global behaviour keeps the whole base view visible.
     camera.setOverrideResizeBehaviour(true, Resize::ResizeFill);
     EXPECT_EQ(camera.getNearHeight(), 8.0f);
     camera.setRenderArea(200, 200, 0, 0, 200, 100);
@@ -250,7 +250,7 @@ TEST(Camera3d, valuesOfTheOtherProjectionDoNotChangeTheView)
 TEST(Camera3d, changingTheProjectionKeepsTheSizeAtTheRotationPoint)
 {
     forRandomCameras([](Camera3d& camera, RandomCameras&) {
-        // The picture is computed from the base values in all behaviours but the one that keeps its size.
+        // The view is computed from the base values in all behaviours except the one that keeps its size.
         if (camera.getOwnResizeBehaviour() == Resize::ResizeKeep) {
             return;
         }
@@ -284,7 +284,7 @@ TEST(Camera3d, pixelsSurviveARoundTripThroughTheWorld)
         if (camera.isPerspectiveProjection()) {
             EXPECT_NEAR(screen.z, depth, 1e-3f);
         } else {
-            // The world point lies near plus far behind the one that was seen.
+            // The world point is closer to the viewer than the visible one, by the sum of near and far distance.
             const float n = camera.getNearClippingPlane();
             const float f = camera.getFarClippingPlane();
             EXPECT_NEAR(screen.z, depth - 2.0f * (n + f) / (f - n), 1e-3f);
@@ -318,8 +318,8 @@ TEST(Camera3d, worldToPixelScaleIsTheLengthOfADiagonalStepOfTheView)
     Camera3d camera = frontCamera();
     camera.setOverrideResizeBehaviour(true, Resize::ResizePixels);
     camera.setViewingScale(25.0f);
-    // At the near plane a unit is 25 pixels wide and, in the twice as wide area, as high; at 6 units a pixel is 1.5 as
-    // large.
+    // At the near plane a unit is 25 pixels wide and, as the area is twice as wide, also high; at 6 units a pixel is
+    // 1.5 times as large.
     camera.setRenderArea(200, 200, 0, 0, 200, 100);
     EXPECT_NEAR(camera.worldToPixelScale({0.0f, 0.0f, 2.0f}), 25.0f * std::sqrt(2.0f), 1e-4f);
     EXPECT_NEAR(camera.worldToPixelScale({0.0f, 0.0f, 0.0f}), 25.0f / 1.5f * std::sqrt(2.0f), 1e-4f);
@@ -340,7 +340,7 @@ TEST(Camera3d, renderAreaIsLoggedAndAJitterEndsWithIt)
         const Vector3f point(0.25f, 0.5f, 1.0f);
         const Vector3f before = camera.worldToScreenRH(point);
         camera.jitterPerspective(0.25f, -0.5f);
-        // A jitter moves the image by parts of pixels, and the inverse with it.
+        // A jitter moves the image by fractions of pixels, and its inverse as well.
         EXPECT_NEAR(camera.worldToScreenRH(point).x - before.x, 0.25f, 1e-3f);
         EXPECT_NEAR(camera.worldToScreenRH(point).y - before.y, -0.5f, 1e-3f);
         EXPECT_NEAR(camera.worldToScreenLH(point).x - before.x, 0.25f, 1e-3f);
@@ -398,7 +398,7 @@ TEST(Camera3d, theNearPlaneKeepsAThousandthOfTheRadius)
     camera.setBoundingBox(BoundingBox(-2e7f, 2e7f, 0.0f, 0.0f, 0.0f, 0.0f));
     EXPECT_FLOAT_EQ(camera.getNearClippingPlane(), 3e4f);
     EXPECT_EQ(camera.getFarClippingPlane(), 3e7f);
-    // One point at the rotation point counts as a sphere of radius 1.
+    // A single point at the rotation point counts as a sphere of radius 1.
     camera.setBoundingBox(BoundingBox(0.0f, 0.0f, 0.0f, 0.0f, 0.0f, 0.0f));
     EXPECT_EQ(camera.getNearClippingPlane(), 0.001f);
     EXPECT_EQ(camera.getFarClippingPlane(), 1.0f);
@@ -428,7 +428,7 @@ TEST(Camera3d, axisScalesStretchTheSceneToACube)
     EXPECT_EQ(camera.getAxisViewScaleTransform() * Vector3f(1.0f, 1.0f, 1.0f), Vector3f(1.0f, 4.0f, 1.0f));
     EXPECT_EQ(camera.getInvAxisViewScaleTransform() * Vector3f(1.0f, 1.0f, 1.0f), Vector3f(1.0f, 0.25f, 1.0f));
     EXPECT_EQ(camera.getRotationPoint(), Vector3f(1.0f, 1.0f, 1.0f));
-    // The scaled point (1, 4, 1) is what the camera turns about.
+    // The camera rotates about the scaled point (1, 4, 1).
     camera.lookAt({1.0f, 4.0f, 9.0f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
     camera.setAdditionalSceneTranslation(0.0f, 0.0f, 8.0f);
     EXPECT_EQ(camera.getActualPosition(), Vector3f(1.0f, 4.0f, 1.0f));
@@ -453,7 +453,7 @@ TEST(Camera3d, depthOrderPutsTheFarthestAxisFirstAndKeepsEqualOnes)
         Camera3d camera;
         camera.lookAt({0.0f, 0.0f, 0.0f}, row.direction, {0.3f, 0.7f, -0.9f});
         EXPECT_EQ(camera.getDepthOrder(), row.order) << row.direction;
-        // Along z alone the other two axes are equally deep and keep their places.
+        // Along z the other two axes are equally deep and keep their order.
         const bool yBeforeX = row.order[1] == 1 ? row.order[2] == 0 : row.order[0] == 1;
         camera.lookAt({0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 1.0f}, {0.0f, 1.0f, 0.0f});
         EXPECT_EQ(camera.getDepthOrder(), (yBeforeX ? std::array{2, 1, 0} : std::array{2, 0, 1})) << row.direction;
@@ -501,7 +501,7 @@ TEST(Camera3d, moveToABoxOfOnePointLooksAtIt)
         camera.moveToBoundingBox(point, point, 0.5f);
         EXPECT_EQ(camera.getPosition(), Vector3f(1.0f, 2.0f, 4.0f));
         EXPECT_EQ(camera.getDollySpeedScale(), 0.0f);
-        // A quarter of the distance on each side, drawn in to a twentieth of it with the margin.
+        // A quarter of the distance on each side, reduced to a twentieth of it by the margin.
         const float half = camera.isPerspectiveProjection()
                                ? camera.getNearWidth() / camera.getNearClippingPlane() * 0.5f
                                : camera.getNearWidth() * 0.5f;
@@ -520,7 +520,8 @@ TEST(Camera3d, moveToBoundingBoxFitsTheSphereIfTheSettingsSaySo)
     const BoundingBox focus(-1.0f, 1.0f, -2.0f, 2.0f, -2.0f, 2.0f);
     const BoundingBox scene(-2.0f, 2.0f, -4.0f, 4.0f, -4.0f, 4.0f);
     camera.moveToBoundingBox(focus, scene, 1.0f);
-    // A radius of 6 with the margin, seen from ten times as far; around the focus its own radius of 3 on each side.
+    // A radius of 6 with the margin, seen from ten times that distance; around the focus its own radius of 3 on each
+    // side.
     EXPECT_NEAR(camera.getPosition().z, 63.0f, 1e-4f);
     const float radius = std::sqrt(4.0f * 4.0f + 5.0f * 5.0f + 5.0f * 5.0f);
     EXPECT_NEAR(std::tan(camera.getActualHorizontalFOV()), radius * 1.05f / 63.0f, 1e-6f);
@@ -536,7 +537,7 @@ TEST(Camera3d, moveToBoundingBoxFitsTheSphereIfTheSettingsSaySo)
 
 TEST(Camera3d, pixelsSurviveARoundTripThroughTheDeepestClippingRange)
 {
-    // The near plane keeps a thousandth of the radius, so with the eye on the sphere the far one is at 2000 times it.
+    // The near plane is at a thousandth of the radius, so with the eye on the sphere the far one is at 2000 times that.
     Camera3d camera;
     camera.lookAt({0.0f, 0.0f, 1.5e6f}, {0.0f, 0.0f, -1.0f}, {0.0f, 1.0f, 0.0f});
     camera.setBoundingBox(BoundingBox(-1e6f, 1e6f, 0.0f, 0.0f, 0.0f, 0.0f));
@@ -566,7 +567,7 @@ TEST(Camera3d, degenerateInputNeverFails)
     camera.setAdditionalSceneTranslation(1.0f, 1.0f, 1.0f);
     EXPECT_EQ(camera.getForward(), Vector3f());
 
-    // Good values bring it back.
+    // Valid values restore it.
     camera.import(frontCamera());
     camera.setRenderArea(100, 100, 0, 0, 1, 1);
     const Vector3f screen = camera.worldToScreenRH({0.0f, 0.0f, 0.0f});

@@ -53,8 +53,8 @@ TEST(Camera3dDrag, aMergeChangesNoDisplayedMatrix)
             camera.mergeAdditionalTransformation();
             EXPECT_EQ(displayedMatrices(camera), displayed);
             EXPECT_EQ(camera.getPosition(), camera.getActualPosition());
-            // The base alone gives the same picture again, within rounding; where the size is not the base's to give,
-            // it falls back to the scale of 1.
+            // The base alone gives the same picture again, within rounding; where the base does not determine the size,
+            // it returns to the scale of 1.
             const bool fixedPixels = camera.getOwnResizeBehaviour() == Resize::ResizePixels;
             camera.discardAdditionalTransformation();
             for (std::size_t i = 0; i < displayed.size() && !fixedPixels; ++i) {
@@ -112,7 +112,7 @@ TEST(Camera3dDrag, orbitRotatesAboutTheAxesOfTheView)
         EXPECT_LT((camera.getActualPosition() - row.position).length(), 1e-5f) << camera.getActualPosition();
         EXPECT_LT((camera.getUpDirection() - row.up).length(), 1e-6f) << camera.getUpDirection();
         EXPECT_LT((camera.getLookAtDirection() + row.position / 6.0f).length(), 1e-6f);
-        // The committed state waits for the merge.
+        // The committed state changes only with the merge.
         EXPECT_EQ(camera.getForward(), Vector3f(0.0f, 0.0f, -1.0f));
         EXPECT_EQ(camera.getPosition(), Vector3f(0.0f, 0.0f, 6.0f));
     }
@@ -132,7 +132,7 @@ TEST(Camera3dDrag, turningAppliesYawThenPitchThenRollAndStaysInPlace)
     const float quarter = 1.5707964f;
     Camera3d camera = frontCamera();
     camera.setAdditionalRotation(quarter, quarter, 0.0f);
-    // Pitch acts first on the axes: forward goes to up, which the yaw leaves.
+    // Pitch is applied first: forward becomes up, which the yaw does not change.
     EXPECT_LT((camera.getLookAtDirection() - Vector3f(0.0f, 1.0f, 0.0f)).length(), 1e-6f);
     EXPECT_LT((camera.getUpDirection() - Vector3f(1.0f, 0.0f, 0.0f)).length(), 1e-6f);
     EXPECT_EQ(camera.getActualPosition(), Vector3f(0.0f, 0.0f, 6.0f));
@@ -142,7 +142,7 @@ TEST(Camera3dDrag, dollyMovesAlongTheLineToTheRotationPoint)
 {
     Camera3d camera = frontCamera();
     camera.setRotationPoint({0.0f, 8.0f, 0.0f});
-    // The line of sight to the point is (0, 0.8, -0.6); across it lie (1, 0, 0) and (0, 0.6, 0.8).
+    // The line of sight to the point is (0, 0.8, -0.6); (1, 0, 0) and (0, 0.6, 0.8) are perpendicular to it.
     camera.setAdditionalSceneTranslation(2.0f, 5.0f, 10.0f);
     EXPECT_LT((camera.getActualPosition() - Vector3f(2.0f, 11.0f, 4.0f)).length(), 1e-5f);
     camera.setAdditionalSceneTranslation(0.0f, 0.0f, 0.0f);
@@ -194,7 +194,7 @@ TEST(Camera3dDrag, magnificationStopsWhereTheViewIsTinyRelativeToTheClippingRang
         camera.setProjectionType(type);
         camera.setFOV(45.0f);
         camera.setOrthographicSize(6.0f);
-        // In perspective the half extent at the rotation point counts, six units away.
+        // In perspective the half extent at the rotation point matters, six units away.
         camera.setAdditionalScale(0.5f, 0.5f, 0.9e-5f);
         EXPECT_EQ(camera.getNearWidth() < 8.0f, true);
         camera.mergeAdditionalTransformation();
@@ -216,7 +216,7 @@ TEST(Camera3dDrag, magnificationStopsWhereTheViewIsTinyRelativeToTheClippingRang
 TEST(Camera3dDrag, panSpeedIsTheSizeOfAPixelAtTheRotationPoint)
 {
     forRandomCameras([](Camera3d& camera, RandomCameras&) {
-        // The eye looks at the rotation point, so a step to the right is a step across the line of sight.
+        // The eye looks at the rotation point, so a step to the right is perpendicular to the line of sight.
         camera.resetAxisViewScales();
         camera.setRelativeViewOffset(0.0f, 0.0f);
         camera.lookAt(camera.getRotationPoint() - camera.getForward() * 12.0f, camera.getForward(), camera.getUp());

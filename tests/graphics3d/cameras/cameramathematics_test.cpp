@@ -1,4 +1,5 @@
-// The worked numbers of docs/camera-mathematics.md. They are powers of two and their sums, so floats hold them exactly.
+// The worked numbers of docs/camera-mathematics.md. They are powers of two and their sums, so floats represent them
+// exactly.
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/camera3d.h"
 
@@ -8,7 +9,7 @@ namespace vxgraphics3d {
 namespace {
 
 /// Looks along negative x from (6, 2, 3) with z up; a view of 4 by 2 units, clipped at 4 and 8, on 400 by 200 pixels
-/// whose corner lies at pixel (10, 20).
+/// whose corner is at pixel (10, 20).
 class WorkedCamera : public testing::Test {
 protected:
     WorkedCamera()
@@ -37,7 +38,7 @@ TEST_F(CameraMathematics, viewMatrixContainsTheAxesAsRows)
                                                     1.0f, 0.0f, 0.0f, 2.0f, //
                                                     0.0f, 1.0f, 0.0f, 3.0f, //
                                                     0.0f, 0.0f, 0.0f, 1.0f));
-    // Column-major: the translation stands in elements 12 to 14.
+    // Column-major: the translation is in elements 12 to 14.
     EXPECT_EQ(camera.getViewTransform().data()[12], -2.0f);
     EXPECT_EQ(camera.getViewTransform().data()[13], -3.0f);
     EXPECT_EQ(camera.getViewTransform().data()[14], -6.0f);

@@ -86,7 +86,7 @@ TEST(AxisSetup, titlesAreStoredAsMarkup)
     EXPECT_EQ(setup.getSymmetryAxisTitle().toUtf8(), "");
 }
 
-TEST(AxisSetup, aTitleCanBeMadeOfThePresentOne)
+TEST(AxisSetup, aTitleCanBeMadeFromTheCurrentOne)
 {
     AxisSetup setup;
     setup.setXAxisTitle("x");

@@ -11,7 +11,7 @@
 namespace vxgraphics3d {
 namespace {
 
-/// The sizes of all levels that hold an image.
+/// The sizes of all levels that have an image.
 std::vector<std::pair<int, int>> sizes(const CanvasBackgroundImage& background)
 {
     std::vector<std::pair<int, int>> result;

@@ -10,7 +10,7 @@ using namespace vxgraphics3d;
 
 namespace {
 
-/// Gives the screen of the process another resolution for one test.
+/// Gives the screen another resolution for one test.
 class WithResolution {
 public:
     explicit WithResolution(int dpi) : m_previous(Canvas3dGlobalSettings::getInstance()->getOnScreenResolution())

@@ -18,7 +18,7 @@ TEST(BoundingBox, keepsCentreAndHalfSizes)
     EXPECT_EQ(BoundingBox(-1.0, 3.0, 2.0, 4.0, 0.0, 8.0), c_box);
     EXPECT_EQ(BoundingBox({{-1.0, 3.0}, {2.0, 4.0}, {0.0, 8.0}}), c_box);
     EXPECT_THROW(BoundingBox({{-1.0, 3.0}, {2.0}, {0.0, 8.0}}), std::out_of_range);
-    // Doubles narrow before the centre is formed: 1 + 2^-30 is 1 in float.
+    // Doubles are narrowed before the centre is computed: 1 + 2^-30 is 1 in float.
     EXPECT_EQ(BoundingBox(1.0 + 0x1p-30, 1.0 + 0x1p-30, 0.0, 0.0, 0.0, 0.0).getCenter().x, 1.0f);
 }
 
@@ -74,7 +74,7 @@ TEST(BoundingBox, nanLimitsExtendNothing)
 
 TEST(BoundingBox, mergeRoundsTheLimits)
 {
-    // The limits come back as centre 8388608 minus and plus half size 8388607.5: the minimum has moved from 1 to 0.5.
+    // The limits become centre 8388608 minus and plus half size 8388607.5: the minimum has moved from 1 to 0.5.
     BoundingBox box(1.0f, 16777216.0f, 0.0f, 1.0f, 0.0f, 1.0f);
     box.merge(box);
     EXPECT_EQ(box, BoundingBox(0.5f, 16777216.0f, 0.0f, 1.0f, 0.0f, 1.0f));

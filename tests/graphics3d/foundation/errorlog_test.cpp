@@ -19,7 +19,7 @@ namespace {
 
 using Level = ErrorLog::Level;
 
-/// In a process of its own, in which no log has been set up.
+/// In a separate process, in which no log has been set up.
 TEST(ErrorLogDeathTest, isSilentUntilALevelIsSetAndThenWritesOnStandardError)
 {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
@@ -109,7 +109,7 @@ TEST(ErrorLog, aTargetThatDoesNotOpenLeavesTheLogOffUntilTheNextTarget)
     EXPECT_FALSE(log->isActive());
     log->setActive(true);
     EXPECT_FALSE(log->isActive());
-    // Level none passes even a silent log: nothing may be written to a target that is not there.
+    // Level none passes even when the log is silent: nothing may be written to a missing target.
     log->log(Level::none, ErrorLog::ModuleID::graphics, 0, "f", 1, "text");
     log->setTargetToStdErr();
     EXPECT_EQ(log->getReportLevel(), Level::info);
@@ -168,7 +168,7 @@ TEST(ErrorLog, linesAreWholeAndNoneIsLostWhileTheFileChanges)
     second.join();
     log->setTargetToStdErr();
     int numFound = 0;
-    // Head, one letter repeated, and the place, each once.
+    // Head, one letter repeated, and the location, each once.
     const auto isWhole = [](const std::string& line) {
         const std::size_t begin = line.rfind("info\tgraphics:0\t", 0) == 0 ? line.find('\t', 5) + 1 : line.size();
         const std::size_t end = std::min(line.find_first_not_of(line.substr(begin, 1), begin), line.size());

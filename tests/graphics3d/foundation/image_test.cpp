@@ -14,7 +14,7 @@ Words wordsOf(const Image& image)
     return {image.getData(), image.getData() + image.getWidth() * image.getHeight()};
 }
 
-/// Wraps words that the caller keeps.
+/// Wraps words that the caller owns.
 Image wrap(int width, int height, Words& words)
 {
     return {width, height, Image::Rgba, 1.0f, words.data()};

@@ -53,7 +53,7 @@ TEST(Matrixf, operatorsMultiplyOnTheRight)
     EXPECT_EQ((Matrixf(c_counted) *= c_counted),
               Matrixf(90.0f, 100.0f, 110.0f, 120.0f, 202.0f, 228.0f, 254.0f, 280.0f, 314.0f, 356.0f, 398.0f, 440.0f,
                       426.0f, 484.0f, 542.0f, 600.0f));
-    // The translation acts on the point first.
+    // The translation is applied to the point first.
     EXPECT_EQ(scaling * translation * Vector3f(1.0f, 1.0f, 1.0f), Vector3f(4.0f, 9.0f, 16.0f));
 }
 
@@ -87,7 +87,7 @@ TEST(Matrixf, rotationsAreRightHanded)
 
 TEST(Matrixf, rotateAcceptsAnAxisOfAnyLength)
 {
-    // A third of a turn about the space diagonal takes x to y, y to z and z to x.
+    // A third of a rotation about the space diagonal takes x to y, y to z and z to x.
     const Matrixf m = Matrixf(c_identity).rotate(3.0f, 3.0f, 3.0f, 2.0943951f);
     const Vector3f image = m * Vector3f(1.0f, 2.0f, 3.0f);
     EXPECT_NEAR(image.x, 3.0f, 1e-6f);

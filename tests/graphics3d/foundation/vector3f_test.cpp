@@ -55,7 +55,7 @@ TEST(Vector3f, normalizeLeavesAVectorWithoutAFiniteLengthUnchanged)
 TEST(Vector3f, normalizedOfAVectorOfLengthZeroIsZero)
 {
     EXPECT_EQ(Vector3f().normalized(), Vector3f());
-    // The square of 1e-30 underflows, so the length is 0: the copy is zero, in place nothing changes.
+    // The square of 1e-30 underflows, so the length is 0: the copy is zero, but normalising in place changes nothing.
     EXPECT_EQ(Vector3f(1e-30f, 0.0f, 0.0f).normalized(), Vector3f());
     Vector3f tiny(1e-30f, 0.0f, 0.0f);
     EXPECT_EQ(tiny.normalize(), Vector3f(1e-30f, 0.0f, 0.0f));

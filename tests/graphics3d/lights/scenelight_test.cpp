@@ -215,7 +215,7 @@ TEST(LightSource, sphericalInputRotatesAroundZAndDownFromZ)
 TEST(LightSource, lockingTransformsToCameraSpaceAndReleasingBack)
 {
     Camera3d camera;
-    // From above: right is x, up is y turned to -z, so world z is the camera's y.
+    // From above: right is x, up is y rotated to -z, so world z is the camera's y.
     camera.lookAt(Vector3f(0.0f, -5.0f, 0.0f), Vector3f(0.0f, 1.0f, 0.0f), Vector3f(0.0f, 0.0f, 1.0f));
     camera.setRotationPoint(Vector3f(1.0f, 0.0f, 0.0f));
     // Lights are placed in the world before it is stretched.

@@ -16,7 +16,7 @@
 namespace vxgraphics3d {
 namespace {
 
-/// The prism over a rectangle that a view down the z axis sees: near end at z = 1, far end at z = -1.
+/// The prism over a rectangle as seen along the z axis: near end at z = 1, far end at z = -1.
 SelectionFrustrum prism(float x0, float y0, float x1, float y1)
 {
     return {{x0, y0, 1.0f},  {x0, y1, 1.0f},  {x1, y1, 1.0f},  {x1, y0, 1.0f},
@@ -92,9 +92,9 @@ TEST(SelectionFrustrum, encloseAnswersNeverContradictThePointsOfABox)
     }
 }
 
-/// The points that a frustum of a camera's rectangle holds are those whose picture lies in the rectangle and that are
-/// in front of the camera. Points closer to the rim than floats can tell are left out.
-/// @param origin where the camera's `worldToScreenRH` counts from
+/// The points inside a frustum of a camera's rectangle are those whose picture is in the rectangle and that are in
+/// front of the camera. Points closer to the border than the float precision are left out.
+/// @param origin the origin of the camera's `worldToScreenRH`
 /// @param inFront whether a point is in front of the camera
 template <class InFront>
 void expectFrustrumsHoldWhatTheyShow(const ICameraTransforms& camera, const Vector3f& origin, InFront inFront)
@@ -121,7 +121,7 @@ void expectFrustrumsHoldWhatTheyShow(const ICameraTransforms& camera, const Vect
         for (int i = 0; i < 200; ++i) {
             const Vector3f point(place(random), place(random), place(random));
             const Vector3f pixel = camera.worldToScreenRH(point) + origin;
-            // How far the picture of the point lies within the rectangle, negative outside.
+            // How far the picture of the point is inside the rectangle, negative outside.
             const float depth = std::min({pixel.x - static_cast<float>(x0), static_cast<float>(x1) - pixel.x,
                                           pixel.y - static_cast<float>(y0), static_cast<float>(y1) - pixel.y});
             if (std::fabs(depth) < rim) {
@@ -196,7 +196,8 @@ TEST(SelectionFrustrum, ofAnyCameraContainsWhatTheRectangleShows)
     EXPECT_GT(held, 500);
 }
 
-/// Places of world points in a pixel, as fractions of its side from the lower left corner: well inside or well outside.
+/// Positions of world points in a pixel, as fractions of its side from the lower left corner: clearly inside or
+/// outside.
 struct Place {
     float x;
     float y;

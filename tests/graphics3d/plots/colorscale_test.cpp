@@ -51,7 +51,7 @@ TEST(ColorScale, setLegendLimitsPlacesTheDataOnTheLegend)
          {Case{0.0, 10.0, -10.0, 30.0, {0.25f, 0.5f, 0.0f, 1.0f}}, Case{0.0, 10.0, 4.0, 5.0, {-4.0f, 6.0f, 0.0f, 1.0f}},
           Case{0.0, 10.0, 10.0, 0.0, {1.0f, 0.0f, 0.0f, 1.0f}}, Case{0.0, 10.0, 3.0, 3.0, {0.5f, 0.5f, 0.5f, 0.5f}},
           Case{5.0, 5.0, 0.0, 10.0, {0.5f, 0.5f, 0.0f, 1.0f}}, Case{5.0, 5.0, 5.0, 5.0, {0.5f, 0.5f, 0.5f, 0.5f}},
-          // Floats cannot tell these values apart, so the arithmetic must be in double.
+          // Floats cannot distinguish these values, so the arithmetic must be in double.
           Case{1.0e9, 1.0e9 + 3.0, 1.0e9 - 1.0, 1.0e9 + 7.0, {0.125f, 0.5f, 0.0f, 1.0f}}}) {
         ColorScale scale = scaleOf(c.dataMin, c.dataMax);
         EXPECT_TRUE(scale.hasAutoLegendLimits());
@@ -86,7 +86,7 @@ TEST(ColorScale, setSymmetricAppliesTheRequestedLimitsEitherWay)
     EXPECT_EQ(legend(scale), (Doubles{-2.0, 1.0}));
 
     scale.setSymmetric(true);
-    scale.setValues(-1.0, 3.0); // symmetry outlives the data
+    scale.setValues(-1.0, 3.0); // symmetry is kept for new data
     EXPECT_EQ(legend(scale), (Doubles{-3.0, 3.0}));
     EXPECT_EQ(legendFloats(scale), (Floats{static_cast<float>(1.0 / 3.0), 1.0f, 0.0f, 1.0f}));
 }

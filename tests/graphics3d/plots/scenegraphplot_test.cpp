@@ -25,7 +25,7 @@ using Source = SceneGraphPlot::ValueSource;
 
 constexpr double c_infinity = std::numeric_limits<double>::infinity();
 
-/// How far the three change numbers of a plot have moved since this was made.
+/// How far the three change numbers of a plot have changed since construction.
 class Moved {
 public:
     explicit Moved(const SceneGraphPlot& plot) : m_plot(plot), m_start(numbers()) {}

@@ -33,14 +33,14 @@ public:
     }
     void getLineLegendData(std::vector<LineLegend>& result) const override { s_asked.push_back({&result, getId()}); }
 
-    /// Which graphs were asked for their legend, and with what list.
+    /// The graphs that were asked for their legend, and with which list.
     inline static std::vector<std::pair<const void*, int>> s_asked;
 
 private:
     mutable BoundingBox m_logBox;
 };
 
-/// A group under a root, with as many plots as ids.
+/// A group under a root, with one plot per id.
 struct Scene {
     explicit Scene(std::vector<int> ids = {})
     {
@@ -321,7 +321,7 @@ TEST(SceneGraphPlotGroup, getLineLegendAsksTheGraphsInTheOrderOfTheirIds)
     Scene scene({1});
     scene.group->addPlot(boost::make_shared<FakeGraph>(9));
     scene.group->addPlot(boost::make_shared<FakeGraph>(4));
-    // The list is only handed on here: its entries are the graphs' own matter.
+    // The list is only passed on here: the graphs fill its entries.
     std::vector<int> storage;
     FakeGraph::s_asked.clear();
     scene.root->getLineLegend(reinterpret_cast<std::vector<LineLegend>&>(storage));

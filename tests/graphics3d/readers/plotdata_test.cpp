@@ -117,7 +117,7 @@ std::string readPage()
     return text.str();
 }
 
-/// All that a regular expression matches, and nothing that lies between.
+/// All matches of a regular expression.
 std::vector<std::smatch> matchesOf(const std::regex& pattern, const std::string& text)
 {
     return {std::sregex_iterator(text.begin(), text.end(), pattern), std::sregex_iterator()};
@@ -175,7 +175,7 @@ TEST(PlotData, everySampleIsOnThePageAndThoseShownThereAreValid)
 
 TEST(PlotData, treatsValuesThatAreNotFiniteAsThePageStates)
 {
-    // NaN is written as -1, which is no scaled value and no component of these normals.
+    // NaN is written as -1, which is neither a scaled value nor a component of these normals.
     const auto marked = [](const auto& values) {
         std::vector<double> result;
         for (const double value : values) {
@@ -224,7 +224,7 @@ TEST(PlotData, treatsValuesThatAreNotFiniteAsThePageStates)
     EXPECT_EQ(marked(infinite.m_normals[0]->at(2)), (Values{-1, -1, -1, 1}));
 }
 
-TEST(PlotData, keepsTheErrorsOfEachThreadApart)
+TEST(PlotData, separatesTheErrorsOfThreads)
 {
     const auto messageOf = [](const std::string& sample) {
         Record record = recordFor(sample);
@@ -268,7 +268,7 @@ TEST(PlotData, namesTheRowOfAnErrorAmongManyRows)
     }
 }
 
-TEST(PlotData, saysThatNoFileHoldsDataOfAnotherKind)
+TEST(PlotData, reportsThatNoFileContainsDataOfAnotherKind)
 {
     Record record;
     record.m_plotKind = Record::Mesh3d;

@@ -27,7 +27,7 @@ TEST(RecordGroups, leaveTheRecordUnchangedWhicheverAllocationFails)
         {ScenePlotFileReader::readSurfacePlot2d, "1 2 3\n", true, 1},
         {ScenePlotFileReader::readSurfacePlot3d, "1 2 3\n4 5 6\n", true, 1},
         {ScenePlotFileReader::readIsoSurfacePlot3dData, "1 2 3\n4 5 6\n", true, 2},
-        // The group before a wrong row.
+        // The group before a faulty row.
         {ScenePlotFileReader::readIsoSurfacePlot3dData, "1 2 3\n\n4 5 6\n", false, 1},
     };
     for (const auto& [read, elements, isRead, numGroups] : cases) {
@@ -39,7 +39,7 @@ TEST(RecordGroups, leaveTheRecordUnchangedWhicheverAllocationFails)
         const long numFailures = failEachAllocation([&] { result = read(record, file.path()); },
                                                     [&] {
                                                         ASSERT_EQ(differenceOf(record, before), "") << elements;
-                                                        // Without the capacity that the failed call has reserved.
+                                                        // Without the capacity reserved by the failed call.
                                                         record = Record(before);
                                                     });
         EXPECT_GT(numFailures, 20);

@@ -1,4 +1,4 @@
-// The reader against its plain counterpart, on inputs that no one wrote by hand.
+// Compares the reader with the reference reader, on generated inputs.
 
 #include "datacarrier/postdataobject.h"
 #include "graphics3d/readers/sceneplotfilereader.h"
@@ -76,7 +76,7 @@ private:
             elements("% Elements (tetrahedral)", 4);
         }
         rows.emplace_back("% Data");
-        // Few levels, so that the elements have a chance to lie within one.
+        // Few levels, so that some elements are within one.
         const std::size_t numLevels = pick(3) + 1;
         for (std::size_t i = 0; i < numPoints; ++i) {
             rows.push_back(pick(8) == 0 ? number() : std::to_string(i * numLevels / numPoints));
@@ -143,7 +143,7 @@ TEST(ScenePlotFileReaderReference, agreesOnResultsAndMessagesForChangedFiles)
         file.write(text);
         ASSERT_EQ(differenceFromReference(file.path(), takeError, numGood), "") << "file " << i << ":\n" << text;
     }
-    // Neither all good nor all bad, or the files would show little.
+    // Neither all valid nor all invalid, or the files would show little.
     EXPECT_GT(numGood, c_numFiles / 4);
     EXPECT_LT(numGood, c_numFiles * 2);
 }
@@ -157,7 +157,7 @@ TEST(ScenePlotFileReaderReference, agreesOnFilesOfManyBlocks)
         int numGood = 0;
         file.write(gridPlotText(60, 40, digits));
         ASSERT_EQ(differenceFromReference(file.path(), takeError, numGood), "") << digits << " digits";
-        EXPECT_EQ(numGood, 2); // its iso levels are single points
+        EXPECT_EQ(numGood, 2); // each of its iso levels is a single point
     }
 }
 

@@ -36,7 +36,7 @@ using Record = vxdatacarrier::PostDataObject;
 using Read = bool (*)(Record&, std::string);
 using Strings = std::vector<std::string>;
 
-/// A read with its messages, in which the file is called FILE.
+/// A read with its messages, in which the file name is replaced by FILE.
 struct Outcome {
     bool good = false;
     Record record;
@@ -95,7 +95,7 @@ TEST(ScenePlotFileReader, refusesAFileWithOneMessageThatNamesTheFault)
         {read3d, points + "% Elements (tetrahedral)\n1 2 3 3\n% Tetrahedral Data\n1\n2\n", both,
          "Data do not match Tetrahedrals."},
         {read3d, points + "% Tetrahedral Data\nnone\n", logOnly, "Illegal data: \"none\""},
-        // Tags only come in their order, spelled as they are, from the third column on.
+        // Tags are recognised only in order, exactly as spelled, from the third column on.
         {read3d, points + c_data + "% Elements (triangular)\n1 2 3\n", both,
          "Unknown tag in FILE: % Elements (triangular)"},
         {read3d, "% a comment\n" + c_triangle + c_data, both, "Unknown tag in FILE: % a comment"},
@@ -103,7 +103,7 @@ TEST(ScenePlotFileReader, refusesAFileWithOneMessageThatNamesTheFault)
         {read3d, "% coordinates\r\n", both, "Unknown tag in FILE: % coordinates"},
         {read3d, "% Coordinate\n", both, "Unknown tag in FILE: % Coordinate"},
         {read3d, "%", both, "Unknown tag in FILE: %"},
-        // Elements lie within their group.
+        // The corners of an element are in the same group.
         {read3d, points + "% Elements (triangular)\n1 2 4\n", both, "Triangle index do not match Coordinate groups."},
         {read3d, points + "% Elements (triangular)\n4 1 2\n", both, "Triangle index do not match Coordinate groups."},
         {read3d, points + "% Elements (triangular)\n0 1 2\n", both, "Triangle index do not match Coordinate groups."},
@@ -121,7 +121,7 @@ TEST(ScenePlotFileReader, refusesAFileWithOneMessageThatNamesTheFault)
          "Triangle index do not match Coordinate groups."},
         {readIso, twoLevels + "% Elements (triangular)\n4 5 6\n1 2 3\n% Data\n1\n1\n1\n2\n2\n2\n", both,
          "Triangle index do not match Coordinate groups."},
-        // Numbers that are not there.
+        // Missing numbers.
         {read3d, points + "% Elements (triangular)\n1 2 3\n\n1 2\n", logOnly,
          "Illegal index data at row 8: (vertex 3): \"1 2\""},
         {read3d, points + "% Elements (triangular)\n1,2,3\n", logOnly,
@@ -129,12 +129,12 @@ TEST(ScenePlotFileReader, refusesAFileWithOneMessageThatNamesTheFault)
         {read3d, points + "% Data\n1\r\nx\r\n", logOnly, "Illegal data: \"x\""},
         {read3d, "% Coordinates\n0 0 0\n1 0\n0 1 0\n% Elements (triangular)\n1 2 3\n" + c_data, logOnly,
          "Illegal data at row 3, value 3: \"1 0\""},
-        // An empty row within a section is counted out by the scan and missed by the reading.
+        // The scan does not count an empty row within a section, but the last pass fails at it.
         {read3d, "% Coordinates\n0 0 0\n \n1 0 0\n0 1 0\n% Elements (triangular)\n1 2 3\n" + c_data, logOnly,
          "Illegal data at row 3, value 1: \" \""},
         {read3d, points + "% Elements (triangular)\n\n1 2 3\n" + c_data, logOnly,
          "Illegal index data at row 6: (vertex 1): \"\""},
-        // A second tag within a section is counted out as well.
+        // The scan does not count a second tag within a section either.
         {read3d, points + "% Elements (triangular)\n% Elements (triangular)\n1 2 3\n" + c_data, logOnly,
          "Illegal index data at row 6: (vertex 1): \"% Elements (triangular)\""},
         {read3d, points + "% Coordinates\n% Elements (triangular)\n1 2 3\n" + c_data, both,
@@ -182,7 +182,7 @@ TEST(ScenePlotFileReader, endsAMessageOnAMissingFileWithALineEnd)
 TEST(ScenePlotFileReader, cannotOpenAFileWithoutReadPermission)
 {
     constexpr uid_t nobody = 65534;
-    const bool isSuperuser = geteuid() == 0; // who may read everything
+    const bool isSuperuser = geteuid() == 0; // superusers may read everything
     std::string path = std::filesystem::temp_directory_path() / "plotXXXXXX";
     const int file = mkstemp(path.data());
     ASSERT_NE(file, -1);
@@ -212,7 +212,7 @@ TEST(ScenePlotFileReader, refusesIrregularFilesWithoutBlocking)
         auto read = std::async(std::launch::async, ScenePlotFileReader::readSurfacePlot3d, std::ref(record), path);
         if (read.wait_for(std::chrono::seconds(10)) != std::future_status::ready) {
             ADD_FAILURE() << "waits for " << path;
-            // A writer that comes and goes wakes the reader of a pipe.
+            // A writer that opens and closes the pipe wakes its reader.
             close(open(silentPipe.c_str(), O_WRONLY | O_NONBLOCK));
         }
         EXPECT_FALSE(read.get());
@@ -262,8 +262,8 @@ TEST(ScenePlotFileReader, fillsHeightFromZOfASurface2d)
 
 TEST(ScenePlotFileReader, weightsTheUnitNormalsOfAllTrianglesEqually)
 {
-    // A large triangle in the plane z = 0, a small one in the plane x = 0, a flat one that has no normal, and a point
-    // of no triangle.
+    // A large triangle in the plane z = 0, a small one in the plane x = 0, a degenerate one without a normal, and a
+    // point without a triangle.
     Record record;
     const TemporaryFile file("% Coordinates\n0 0 0\n9 0 0\n0 9 0\n0 0 1\n5 5 5\n% Elements (triangular)\n1 2 3\n1 3 4\n"
                              "1 2 2\n% Data\n1\n1\n1\n1\n1\n");
@@ -285,8 +285,8 @@ TEST(ScenePlotFileReader, countsQuadsWithoutStoringThem)
 
 TEST(ScenePlotFileReader, ignoresInsignificantText)
 {
-    // Blank rows between sections, text behind tags and numbers, other blanks, line ends of other systems, a section
-    // that is not asked for, a tag that repeats itself, and no line end at the end.
+    // Blank rows between sections, text after tags and numbers, other blanks, line ends of other systems, a section
+    // that is not used, a repeated tag, and no line end at the end.
     Record plain;
     Record odd;
     const TemporaryFile plainFile(c_triangle + c_data);
@@ -295,7 +295,7 @@ TEST(ScenePlotFileReader, ignoresInsignificantText)
         "% Elements (triangular)#\n1.2.3\n1 2 3 4\n% Elements (lines)\n\n1 3\n% Data\n\n2e0\n% Data\n"
         "0x4\n6\n% Vector data\n1 2 3");
     ASSERT_TRUE(ScenePlotFileReader::readSurfacePlot3d(plain, plainFile.path()));
-    EXPECT_FALSE(ScenePlotFileReader::readSurfacePlot3d(odd, oddFile.path())); // 1.2.3 is no row of integers
+    EXPECT_FALSE(ScenePlotFileReader::readSurfacePlot3d(odd, oddFile.path())); // 1.2.3 is not a row of integers
     oddFile.write("\n \r\n%:Coordinates and more\r\n0 0 0\t\r\n 1\t0\v0 and more\n0+1-0\n\n"
                   "% Elements (triangular)#\n+1 2 3 4\n\x1f\n% Elements (lines)\n\n1 3\n% Data\n\n2e0\n% Data\n"
                   "0x4\n6\n% Vector data\n1 2 3");
@@ -381,14 +381,14 @@ TEST(ScenePlotFileReader, groupsPointsByTheChosenCriterion)
         {Criteria::y, points, {{0, 2}, {3, 4}}},
         {Criteria::z, points, {{0, 0}, {1, 4}}},
         {Criteria::none, points + "% Data\n", {{0, 4}}},
-        // The one group ends at the tag behind the coordinates.
+        // The single group ends at the tag after the coordinates.
         {Criteria::none, points, {}},
-        // Coordinates are told apart as floats: 1 + 1e-9 is 1.
+        // Coordinates are compared as floats: 1 + 1e-9 is 1.
         {Criteria::x, "% Coordinates\n1 0 0\n1.000000001 0 0\n1.0000002 0 0\n", {{0, 1}, {2, 2}}},
         {Criteria::x, "% Coordinates\n1 0 0\n% Coordinates\n1 0 0\n", {{0, 0}, {1, 1}}},
         {Criteria::data, dataFile("1\n1\n2\n2\n2\n"), {{0, 1}, {2, 4}}},
         {Criteria::data, dataFile("1\n1.1\n"), {{0, 0}, {1, 1}}},
-        // Held against the value that opened the group, not against the one before.
+        // Compared with the value that opened the group, not with the previous one.
         {Criteria::data, dataFile("1\n1.000015\n1.00003\n"), {{0, 1}, {2, 2}}},
         {Criteria::data, dataFile("-1\n1\n0\n0\n"), {{0, 0}, {1, 1}, {2, 3}}},
         {Criteria::data, dataFile("1\n% Data\n1\n"), {{0, 0}, {1, 1}}},

@@ -18,7 +18,7 @@ namespace {
 
 const locale_t c_cLocale = newlocale(LC_ALL_MASK, "C", nullptr);
 
-/// Holds readReal and readInteger against the library's own functions: value to the bit, and place of the end.
+/// Compares readReal and readInteger with the library's own functions: the bits of the value, and the end position.
 ::testing::AssertionResult readsLikeTheLibrary(const std::string& text)
 {
     char* end = nullptr;

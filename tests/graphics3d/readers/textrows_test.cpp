@@ -116,7 +116,7 @@ TEST(TextRows, readPlainRowsOfNumbersAndLeaveTheOthers)
         TextRows rows(file.get());
         int integers[9];
         double reals[9];
-        // The short way leaves everything as it is for the long one, and may follow it at any row.
+        // The fast path leaves everything unchanged for the slow one, and may follow it at any row.
         EXPECT_EQ(rows.nextPlainIntegers(integers, 3, 3), 0);
         rows.next();
         EXPECT_EQ(rows.nextPlainIntegers(integers, 3, 1), isPlainIntegers ? 1 : 0) << row;

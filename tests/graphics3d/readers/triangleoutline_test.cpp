@@ -33,18 +33,18 @@ TEST(TriangleOutline, containsTheEdgesThatOneTriangleUses)
     CapturedError error;
     EXPECT_EQ(outlineOf(3, {}), Lines());
     EXPECT_EQ(outlineOf(4, {{0, 1, 2}, {0, 2, 3}}), (Lines{{0, 1}, {0, 3}, {1, 2}, {2, 3}}));
-    // The corners of a tetrahedron have no outline; an edge of three triangles has.
+    // A tetrahedron has no outline; an edge of three triangles is part of one.
     EXPECT_EQ(outlineOf(4, {{0, 1, 2}, {0, 1, 3}, {0, 2, 3}, {1, 2, 3}}), Lines());
     EXPECT_EQ(outlineOf(5, {{0, 1, 2}, {1, 0, 3}, {0, 1, 4}}),
               (Lines{{0, 2}, {0, 3}, {0, 1}, {0, 4}, {1, 2}, {1, 3}, {1, 4}}));
-    // A flat triangle's edge from a point to itself goes as any other.
+    // A degenerate triangle's edge from a point to itself is treated as any other.
     EXPECT_EQ(outlineOf(2, {{1, 0, 0}}), (Lines{{0, 0}}));
     EXPECT_EQ(error.take(), "");
 }
 
 TEST(TriangleOutline, dropsEdgesBeyondTenNeighboursOfOnePoint)
 {
-    // Six triangles that meet in point 0 alone give it twelve neighbours.
+    // Six triangles that meet only in point 0 give it twelve neighbours.
     std::vector<std::vector<int>> corners;
     for (int i = 1; i < 13; i += 2) {
         corners.push_back({0, i, i + 1});

@@ -1,5 +1,5 @@
-// What Java forgets is released on some thread, while another one works on a scene that shares nodes or lights with it.
-// Meant for a run under a thread sanitizer too, which reports every destructor that touches what it does not own.
+// Objects dropped by Java are released on some thread, while another one works on a scene that shares nodes or lights
+// with them. Also meant for a run under a thread sanitizer, which reports destructors that access what they do not own.
 
 #include "graphics3d/lights/pointlightsource.h"
 #include "graphics3d/lights/scenelight.h"
@@ -25,7 +25,7 @@ BoundingBox boxAt(int i)
     return {x, x + 1.0f, 0.0f, 1.0f, 0.0f, 1.0f};
 }
 
-/// Lets go of the last owner on a thread of its own, while this one works.
+/// Releases the last owner on a separate thread, while this one works.
 void workWhileDropping(boost::shared_ptr<void> owner, const std::function<void()>& work)
 {
     std::atomic<bool> isWorking = false;
@@ -39,7 +39,7 @@ void workWhileDropping(boost::shared_ptr<void> owner, const std::function<void()
     thread.join();
 }
 
-/// A scene that shares leaves with a group in which they were put later, so that they answer to that one.
+/// A scene that shares leaves with a group to which they were added later, so that they report to that group.
 class SharedLeaves : public testing::Test {
 protected:
     SharedLeaves()
@@ -52,7 +52,7 @@ protected:
         }
     }
 
-    /// Hands the group over, so that only the caller owns it.
+    /// Passes on the group, so that only the caller owns it.
     boost::shared_ptr<void> drop() { return std::move(dropped); }
 
     boost::shared_ptr<SceneGraphRoot> root = SceneGraphRoot::create();
@@ -76,7 +76,7 @@ TEST_F(SharedLeaves, canBeUsedWhileTheirGroupIsDestroyed)
         }
     });
     EXPECT_EQ(leaves[0]->getParent(), nullptr);
-    // Taken in again they answer to the group of the scene, and the other holds them no more.
+    // Added again, they report to the group of the scene, and the other no longer holds them.
     for (const auto& leaf : leaves) {
         group->addChild(leaf);
         EXPECT_EQ(leaf.use_count(), 3);
@@ -106,7 +106,7 @@ TEST_F(SharedLeaves, canBeUsedWhileADeepTreeAboveThemIsDestroyed)
         dropped = above;
     }
     workWhileDropping(drop(), [&] {
-        // A second deep tree dies here meanwhile, by the same loop.
+        // Meanwhile a second deep tree is destroyed here, by the same loop.
         auto chain = SceneGraphGroup::create();
         for (int i = 0; i < 20000; ++i) {
             const auto above = SceneGraphGroup::create();

@@ -33,7 +33,7 @@ BoundingBox boxAt(float x)
     return {x, x + 1.0f, 0.0f, 1.0f, 0.0f, 1.0f};
 }
 
-/// The box over the children as it is told: all of them merged in the order of their ids.
+/// The box of the children as documented: all of them merged in the order of their ids.
 BoundingBox mergedOneByOne(const SceneGraphGroup& group)
 {
     BoundingBox box;
@@ -182,7 +182,7 @@ TEST(SceneGraphGroup, refusesCyclesBeforeAnythingChanges)
     EXPECT_EQ(root->getTreeStructureChangeId(), structure);
     EXPECT_EQ(bottom->getNoOfChildren(), 0);
     EXPECT_EQ(root->getChild(0), top.get());
-    // The first id is still free, and a node from elsewhere in the tree is welcome.
+    // The first id is still free, and a node from elsewhere in the tree is accepted.
     top->addChild(bottom);
     const auto leaf = TestLeaf::create();
     bottom->addChild(leaf);
@@ -198,7 +198,7 @@ TEST(SceneGraphGroup, refusesACycleThroughAParentThatTheNodeDoesNotReportTo)
     second->addChild(shared);
     EXPECT_EQ(shared->getParent(), second);
     EXPECT_THROW(shared->addChild(first), std::invalid_argument);
-    // Removal from the second parent leaves the node with nobody to answer to, though the first still holds it.
+    // Removal from the second parent leaves the node without a parent to report to, though the first still holds it.
     second->removeChild(1);
     EXPECT_EQ(shared->getParent(), nullptr);
     EXPECT_THROW(shared->addChild(first), std::invalid_argument);
@@ -216,7 +216,7 @@ TEST(SceneGraphGroup, aNodeMayHaveTwoParentsAndReportsToTheLaterOne)
     leaf->setBoundingBox(boxAt(4.0f));
     EXPECT_EQ(second->getBoundingBox(), boxAt(4.0f));
     EXPECT_EQ(first->getBoundingBox(), boxAt(0.0f));
-    // The next child makes the first parent look at all its children again.
+    // The next child makes the first parent check all its children again.
     first->addChild(TestLeaf::create(boxAt(5.0f)));
     EXPECT_EQ(first->getBoundingBox(), BoundingBox(4.0f, 6.0f, 0.0f, 1.0f, 0.0f, 1.0f));
 }
@@ -235,7 +235,7 @@ TEST(SceneGraphGroup, itsBoxIsAlwaysTheMergeOfAllChildrenToTheLastBit)
     const auto group = SceneGraphGroup::create();
     const auto rival = SceneGraphGroup::create();
     std::vector<boost::shared_ptr<TestLeaf>> leaves;
-    // A change of a leaf that answers to the rival stays unseen until the group looks at its children again.
+    // A change of a leaf that reports to the rival is not seen until the group checks its children again.
     bool isCurrent = true;
     for (int round = 0; round < 3000; ++round) {
         const auto some = [&] { return leaves[random() % leaves.size()]; };
@@ -275,7 +275,7 @@ TEST(SceneGraphGroup, itsBoxIsAlwaysTheMergeOfAllChildrenToTheLastBit)
     }
 }
 
-/// A leaf for whose snap vertices there is no memory.
+/// A leaf that runs out of memory for its snap vertices.
 class LeafWithoutMemory final : public TestLeaf {
 public:
     static boost::shared_ptr<LeafWithoutMemory> create() { return own(new LeafWithoutMemory); }
@@ -413,7 +413,7 @@ TEST(SceneGraphGroup, treesDeeperThanTheStackWorkAndAreDestroyed)
     EXPECT_TRUE(last.expired());
 }
 
-/// A leaf that leaves its parent when it dies, as an object might that cleans up behind itself.
+/// A leaf that leaves its parent in its destructor, as an object that cleans up after itself might.
 class LeavingLeaf final : public TestLeaf {
 public:
     static boost::shared_ptr<LeavingLeaf> create() { return own(new LeavingLeaf); }

@@ -107,14 +107,14 @@ TEST_F(SmallTree, aNewBoxIsPropagatedAsFarAsItChangesSomething)
     leaf->setBoundingBox(c_farBox);
     EXPECT_EQ(group->getBoundingBox(), c_farBox);
     EXPECT_EQ(root->getBoundingBox(), c_farBox);
-    // A box that was set by hand stays where nothing changes below it.
+    // A box set by hand stays if nothing changes below it.
     root->setBoundingBox(c_unitBox);
     leaf->setBoundingBox(c_farBox);
     EXPECT_EQ(root->getBoundingBox(), c_unitBox);
     const auto within = TestLeaf::create(c_farBox);
     group->addChild(within);
     EXPECT_EQ(root->getBoundingBox(), c_unitBox);
-    // Empty boxes are never equal, so an empty box goes all the way again.
+    // Empty boxes are never equal, so an empty box is propagated all the way again.
     leaf->setBoundingBox(BoundingBox());
     within->setBoundingBox(BoundingBox());
     EXPECT_FALSE(root->getBoundingBox().isValid());

@@ -14,7 +14,7 @@
 namespace vxgraphics3d {
 namespace {
 
-/// Stands in for the node that holds plots.
+/// Replaces the node that holds plots.
 class Plots : public SceneGraphNode, public ILegendSource {
 public:
     static boost::shared_ptr<Plots> create() { return own(new Plots); }
@@ -52,7 +52,7 @@ TEST(SceneGraphRoot, withoutPlotsTitleAndLegendsAreEmpty)
         EXPECT_EQ(title, vxbase::UString("before"));
         EXPECT_FALSE(root->isTitleChanged(last));
         EXPECT_EQ(last.changeId, 0);
-        // Plots below a group are not the root's.
+        // Plots below a group do not belong to the root.
         root->setChild(group);
     }
 }
@@ -112,7 +112,7 @@ TEST(SceneGraphRoot, everyCallThatMayChangeTheChildCountsAsAChangeOfStructure)
     EXPECT_EQ(root->getTreeStructureChangeId(), 2);
     EXPECT_EQ(root->getChildrenChangeId(), 3);
     EXPECT_EQ(root->getBoundingBox(), box);
-    // The same child again: it goes and comes.
+    // The same child again: it is removed and added.
     root->setChild(leaf);
     EXPECT_EQ(leaf->getParent(), root);
     EXPECT_EQ(root->getTreeStructureChangeId(), 3);
@@ -125,7 +125,7 @@ TEST(SceneGraphRoot, everyCallThatMayChangeTheChildCountsAsAChangeOfStructure)
     EXPECT_FALSE(root->isTreeStructureChanged(5));
 }
 
-/// A root with a group below it, and what it snaps to.
+/// A root with a group below it, and its snap vertices.
 class SnappingTree : public testing::Test {
 protected:
     SnappingTree() { root->setChild(group); }

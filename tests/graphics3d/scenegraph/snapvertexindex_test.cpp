@@ -14,7 +14,7 @@ SnapVertex vertexAt(double x, double y, double z, int nodeId, int index = 0)
     return {x, y, z, nodeId, 0, index};
 }
 
-/// The index as plain sorted lists: a walk for every insertion, a scan for every removal.
+/// The index as simple sorted lists: a search for every insertion, a scan for every removal.
 class PlainLists {
 public:
     void add(const std::vector<SnapVertex>& vertices)
@@ -139,7 +139,7 @@ TEST(SnapVertexIndex, withoutVerticesNothingIsFound)
     EXPECT_EQ(index.getClosestSnapCoordinate({}, coordinate, 2.5, {}), 2.5);
     index.add({vertexAt(100.0, 0.0, 0.0, 1)});
     EXPECT_EQ(index.getClosestSnapCoordinate({}, coordinate, 2.5, {}), 2.5);
-    // As near as the limit is not nearer.
+    // A vertex at the limit is not nearer.
     index.add({vertexAt(0.0, 2.5, 0.0, 1)});
     EXPECT_EQ(index.getClosestSnapCoordinate({}, coordinate, 2.5, {}), 2.5);
     EXPECT_EQ(coordinate[0], 7.0);
@@ -183,10 +183,10 @@ TEST(SnapVertexIndex, aSearchStopsAtTheFirstNearerVertexAndTheNextContinuesThere
     const Vector3f up(1.0f, 1.0f, 0.0f);
     EXPECT_EQ(index.getClosestSnapCoordinate({3.0f, 8.0f, 0.0f}, coordinate, 100.0, up), 0.0);
     EXPECT_EQ(coordinate[1], 8.0);
-    // Both cursors stand high now: with a direction that leads away from vertex 0 it is not found.
+    // Both cursors are at high coordinates now: a search in a direction away from vertex 0 does not find it.
     EXPECT_EQ(index.getClosestSnapCoordinate({0.0f, 0.0f, 0.0f}, coordinate, 0.5, up), 0.5);
     EXPECT_EQ(index.getClosestSnapCoordinate({0.0f, 0.0f, 0.0f}, coordinate, 0.5, {-1.0f, 1.0f, 0.0f}), 0.0);
-    // Any change sends the cursors back to the lowest coordinates.
+    // Any change moves the cursors back to the lowest coordinates.
     EXPECT_EQ(index.getClosestSnapCoordinate({3.0f, 8.0f, 0.0f}, coordinate, 100.0, up), 0.0);
     index.add({vertexAt(50.0, 50.0, 0.0, 2, 4)});
     EXPECT_EQ(index.getClosestSnapCoordinate({0.0f, 0.0f, 0.0f}, coordinate, 0.5, up), 0.0);
@@ -214,7 +214,7 @@ TEST(SnapVertexIndex, behavesLikeSimpleListsUnderRandomOperations)
             std::vector<SnapVertex> vertices;
             const int nodeId = number(12);
             for (int i = number(6); i > 0; --i) {
-                // Few different coordinates, so that many are equal; now and then a vertex of another node.
+                // Few different coordinates, so that many are equal; occasionally a vertex of another node.
                 vertices.push_back(
                     vertexAt(number(8), number(8), number(8), number(9) == 0 ? number(12) : nodeId, nextIndex++));
             }

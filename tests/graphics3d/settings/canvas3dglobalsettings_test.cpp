@@ -15,7 +15,7 @@ namespace {
 
 using Settings = Canvas3dGlobalSettings;
 
-/// Settings as the process starts with them, whatever other tests do to those of the process.
+/// Settings as in a new process, independent of other tests.
 struct FreshSettings : Settings {};
 
 struct Multisampling : RendererInfo {

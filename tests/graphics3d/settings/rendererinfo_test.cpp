@@ -10,7 +10,7 @@ using namespace vxgraphics3d;
 
 namespace {
 
-/// A record that the test writes as a renderer would.
+/// A record that the test fills as a renderer would.
 struct Capabilities : RendererInfo {
     using RendererInfo::m_antialiasingType;
     using RendererInfo::m_colorFormat;
@@ -99,7 +99,7 @@ TEST(RendererInfo, indicesAreCheckedAgainstTheirCount)
         EXPECT_THROW(info.getMonitorInfo(index), std::out_of_range) << index;
         EXPECT_THROW(info.getMonitorInfoPtr(index), std::out_of_range) << index;
     }
-    // A count beyond what the record holds does not reach past it.
+    // A count beyond the capacity does not lead to accesses beyond it.
     info.m_numberOfMultisampleSettings = 100;
     EXPECT_EQ(info.getMultisampleSetting(9), 0);
     EXPECT_THROW(info.getMultisampleSetting(10), std::out_of_range);

@@ -7,7 +7,7 @@
 namespace vxgraphics3d {
 namespace {
 
-/// What a conversion gives for the numbers from -1 up.
+/// The results of a conversion for the numbers from -1 up.
 template <class To, class From>
 std::vector<int> row(To (*convert)(From), int count)
 {

@@ -19,7 +19,7 @@ constexpr Color c_blue{0, 0, 255};
 constexpr Color c_black{0, 0, 0};
 constexpr Color c_white{255, 255, 255};
 
-/// The texels as runs of one colour: how many of which.
+/// The texels as runs of one colour: length and colour.
 std::vector<std::pair<int, unsigned>> runs(const ColorTable& table)
 {
     std::vector<std::pair<int, unsigned>> result;
@@ -44,7 +44,7 @@ TEST(ColorTable, discreteBandsHaveTheGivenWidths)
         // 1024 / 3 = 341.33 and 682.67 round to 341 and 683.
         {{{c_red, 1}, {c_green, 1}, {c_blue, 1}}, {{341, 0xFF0000FF}, {342, 0x00FF00FF}, {341, 0x0000FFFF}}},
         {{{c_red, 1}, {c_green, 0}, {c_blue, 1}}, {{512, 0xFF0000FF}, {512, 0x0000FFFF}}},
-        // 0.4 of a texel vanishes in front, and half a texel becomes a whole one.
+        // The first 0.4 of a texel vanishes, and half a texel becomes a whole one.
         {{{c_red, 0.4}, {c_green, 1023.6}}, {{1024, 0x00FF00FF}}},
         {{{c_red, 0.5}, {c_green, 1023.5}}, {{1, 0xFF0000FF}, {1023, 0x00FF00FF}}},
         {{{c_blue, 1e-300}}, {{1024, 0x0000FFFF}}},

@@ -57,7 +57,7 @@ std::vector<float> limitsOf(const BoundingBox& box)
     return {min.x, max.x, min.y, max.y, min.z, max.z};
 }
 
-/// A triangle in the plane, seen from above counter-clockwise, with values 0, 5 and 10 as data array 0.
+/// A triangle in the plane, counter-clockwise from above, with values 0, 5 and 10 as data array 0.
 PostRecord flatTriangle()
 {
     return PostRecord()
@@ -134,7 +134,7 @@ TEST(SceneGraphPlotSurface2d, raisedFillScalesHeightsToTheMeanWidth)
 
     plot.setHeightScale(2.0f);
     plot.fillPlot(raisedTriangle({0.0, -2.0, 0.0}));
-    EXPECT_EQ(verticesOf(plot)[1][2], -3.0f); // the plot's own factor is the renderer's
+    EXPECT_EQ(verticesOf(plot)[1][2], -3.0f); // the renderer applies the plot's own factor
     EXPECT_EQ(limitsOf(plot.getBoundingBox()), (std::vector<float>{0, 4, 0, 2, -3, 0}));
 }
 
@@ -171,7 +171,7 @@ TEST(SceneGraphPlotSurface2d, raisedFillWeightsNormalsByTheAreaOfTriangles)
 
 TEST(SceneGraphPlotSurface2d, raisedFillComputesDifferencesInDouble)
 {
-    // Far from the origin floats see no triangle at all.
+    // Far from the origin a float computation finds no triangle at all.
     const double far = 1.0e9;
     const PostRecord record =
         PostRecord()
@@ -202,7 +202,7 @@ TEST(SceneGraphPlotSurface3d, fillDrawsTwoDimensionalDataFlatWithoutNormals)
     PostRecord record = spatialSquare().kind(Record::Surface2d);
     record.record().m_normals.clear();
     record.record().m_coordinates[0]->pop_back();
-    record.record().m_dataIndex[c_height] = 0; // heights are not for this plot
+    record.record().m_dataIndex[c_height] = 0; // this plot ignores heights
     plot.fillPlot(record);
     EXPECT_EQ(verticesOf(plot)[2], (Vertex{1, 2, 0, 0, 0, 1, 0.5f, 0}));
     EXPECT_EQ(trianglesOf(plot).size(), 2u);
@@ -320,7 +320,7 @@ TEST(SurfacePlots, fillThatRunsOutOfMemoryLeavesNoBuffersAndCanBeRepeated)
     expectToSurviveFailures<SceneGraphPlotDomain3d>(triangleInSpace, spatialSquare());
 }
 
-/// What a record lacks, and a part of the message that says so.
+/// Something that a record lacks, and a part of the expected message.
 struct Flaw {
     const char* message;
     void (*apply)(Record& record);
@@ -335,7 +335,7 @@ void expectRefusals(const PostRecord& good, const char* name, const std::vector<
         const std::vector<Vertex> before = verticesOf(plot);
         const int geometry = plot.getGeometryChangeId();
         PostRecord record = good;
-        // The copy shares its arrays with the good record.
+        // The copy shares its arrays with the valid record.
         for (auto& arrays : record.record().m_coordinates) {
             arrays = boost::make_shared<Record::DoubleArrays>(*arrays);
         }

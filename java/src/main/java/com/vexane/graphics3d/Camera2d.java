@@ -7,7 +7,7 @@ import java.util.Objects;
  * The camera of a 2D view: the rectangle of the plane that it shows, adapted to the shape of the canvas.
  *
  * <p>Limits that are set are adapted to the canvas, so {@link #getViewLimits()} may report more than was requested. All
- * calls take constant time. Values are not checked: a scale of 0 or a NaN is no error, but leaves the picture empty
+ * calls take constant time. Values are not checked: a scale of 0 or a NaN is not an error, but leaves the picture empty
  * until valid values are set.
  *
  * <p>Under {@link ResizeBehaviour#PIXELS} the size of the canvas decides how much is shown: limits that are set, and

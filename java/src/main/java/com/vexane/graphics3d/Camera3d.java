@@ -8,7 +8,7 @@ import java.util.Objects;
  *
  * <p>Positions and directions are in the world as stretched by the axis scales; without axis scales that is the world
  * itself. All calls take constant time. Values are not checked: a direction of length 0, or a factor or size of 0, is
- * no error, but leaves the picture empty until valid values are set.
+ * not an error, but leaves the picture empty until valid values are set.
  *
  * <p>Interaction changes what is displayed and commits it at its end. Position, direction and up direction are the
  * committed ones; the view offset is the displayed one.

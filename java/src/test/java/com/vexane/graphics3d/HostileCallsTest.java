@@ -269,8 +269,8 @@ class HostileCallsTest {
             Map<Object, String> wrong = wrongPeers(type, closed, foreign);
             wrong.remove(null);
             if (declared == Object.class) {
-                wrong.put("text", "is no peer.");
-                wrong.put(new int[3], "is no peer.");
+                wrong.put("text", "is not a peer.");
+                wrong.put(new int[3], "is not a peer.");
             }
             if (declared == Object.class || declared == NativePeer.class) {
                 wrong.put(sound.first(HardcopySettings.class), "found class HardcopySettings.");

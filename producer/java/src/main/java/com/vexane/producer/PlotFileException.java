@@ -11,13 +11,13 @@ import java.util.OptionalInt;
 public class PlotFileException extends IOException {
     private static final long serialVersionUID = 1;
 
-    /** What is wrong. */
+    /** The reason. */
     private final String reason;
 
     /** The path, as it was given. */
     private final String file;
 
-    /** The row, from 1, or 0. */
+    /** The row, from 1, or 0 for the file as a whole. */
     private final int row;
 
     PlotFileException(String reason, Path file, int row) {
@@ -27,7 +27,7 @@ public class PlotFileException extends IOException {
         this.row = row;
     }
 
-    /** {@return what is wrong, as it is in the log} {@link #getMessage()} adds file and row. */
+    /** {@return the reason, as in the log} {@link #getMessage()} adds file and row. */
     public String getReason() {
         return reason;
     }
@@ -37,7 +37,7 @@ public class PlotFileException extends IOException {
         return Path.of(file);
     }
 
-    /** {@return the row that is wrong, counted from 1; empty if the reason refers to the file as a whole} */
+    /** {@return the invalid row, counted from 1; empty if the reason refers to the file as a whole} */
     public OptionalInt getRow() {
         return row == 0 ? OptionalInt.empty() : OptionalInt.of(row);
     }

@@ -83,7 +83,7 @@ public final class PostDataBuilder {
         for (int i = 0; i < axes.length; ++i) {
             double[] range = Objects.requireNonNull(axes[i], "bounds[" + i + "]").clone();
             if (range.length != 2 || !(range[0] <= range[1]) || !Double.isFinite(range[1] - range[0])) {
-                throw new IllegalArgumentException("bounds[" + i + "] is no range: " + Arrays.toString(range));
+                throw new IllegalArgumentException("bounds[" + i + "] is not a range: " + Arrays.toString(range));
             }
             copy[i] = range;
         }

@@ -165,16 +165,16 @@ public final class PostDataGroup {
     }
 
     /**
-     * Has the normals of all points computed from the triangles, as a reader of files does: at each point the sum of
-     * the unit normals of its triangles, each with equal weight, brought to unit length. The normal of a triangle points
-     * to the side from which its corners run counter-clockwise. Surfaces in space need normals.
+     * Computes the normals of all points from the triangles, as the file readers do: at each point the normalised sum of
+     * the unit normals of its triangles, with equal weights. The normal of a triangle points to the side from which its
+     * corners are in counter-clockwise order. Surfaces in space need normals.
      *
-     * <p>They are computed in single precision, in which plots draw the points. A triangle that has no normal counts for
-     * nothing: one without area, or with a corner that is not finite. A point without any other triangle gets the normal
+     * <p>They are computed in single precision, in which plots draw the points. A triangle without a normal is ignored:
+     * one without area, or with a corner that is not finite. A point without any other triangle gets the normal
      * (0, 0, 0).
      *
-     * <p>The group needs three axes and triangles, in any order of calls, or {@link PostDataBuilder#build} refuses it.
-     * The last call of this method and {@link #normals(float[], float[], float[])} decides.
+     * <p>The group needs three axes and triangles, set in any order; otherwise {@link PostDataBuilder#build} refuses it.
+     * The last call of this method or {@link #normals(float[], float[], float[])} takes effect.
      *
      * @return this group
      */

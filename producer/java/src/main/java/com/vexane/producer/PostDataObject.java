@@ -40,10 +40,10 @@ public final class PostDataObject extends NativePeer {
      * @param roles the index of the array of each role
      * @param file the file
      * @return the record, to be closed by the caller
-     * @throws PlotFileException if the file cannot be opened, is no regular file, or is invalid; the exception has the
-     *     reason and, if there is one, the row
+     * @throws PlotFileException if the file cannot be opened, is not a regular file, or is invalid; the exception has
+     *     the reason and, if there is one, the row
      * @throws IllegalArgumentException if there is no file reader for the kind
-     * @throws IndexOutOfBoundsException if a role has an array that the record does not get
+     * @throws IndexOutOfBoundsException if a role refers to an array that the record does not get
      * @throws com.vexane.base.NativeException if memory runs out
      */
     public static PostDataObject read(PlotKind kind, Map<DataRole, Integer> roles, Path file) throws PlotFileException {
@@ -66,7 +66,7 @@ public final class PostDataObject extends NativePeer {
 
     /**
      * Makes an empty record for {@link com.vexane.graphics3d.PostDataReader}. Usually {@link #read} is the better
-     * choice: it says what is wrong with a file.
+     * choice: it reports the reason if a file is invalid.
      *
      * @param kind a kind that {@link #read} accepts
      * @param roles the index of the array of each role

@@ -6,7 +6,7 @@
  *   <li>A {@link PostDataBuilder} collects groups, the {@link PlotKind} and the {@link DataRole} of each data array,
  *       checks that they fit together, and makes the record.
  *   <li>A {@link PostDataObject} is the record, from which plots are filled. It can also be read from a file; a
- *       {@link PlotFileException} says what is wrong with one.
+ *       {@link PlotFileException} reports an invalid file.
  * </ul>
  *
  * <pre>{@code

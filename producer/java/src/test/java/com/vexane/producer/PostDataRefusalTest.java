@@ -162,15 +162,15 @@ class PostDataRefusalTest {
     void boundsThatAreNotRangesAreRefused() {
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL).addGroup(twoPoints());
         assertRefused(IllegalArgumentException.class, "bounds: 0 axes, not 1 to 3", builder::bounds);
-        assertRefused(IllegalArgumentException.class, "bounds[1] is no range: [2.0, 1.0]",
+        assertRefused(IllegalArgumentException.class, "bounds[1] is not a range: [2.0, 1.0]",
                 () -> builder.bounds(new double[] {0, 0}, new double[] {2, 1}));
-        assertRefused(IllegalArgumentException.class, "bounds[0] is no range: [0.0]",
+        assertRefused(IllegalArgumentException.class, "bounds[0] is not a range: [0.0]",
                 () -> builder.bounds(new double[] {0}));
-        assertRefused(IllegalArgumentException.class, "bounds[0] is no range: [0.0, Infinity]",
+        assertRefused(IllegalArgumentException.class, "bounds[0] is not a range: [0.0, Infinity]",
                 () -> builder.bounds(new double[] {0, Double.POSITIVE_INFINITY}));
-        assertRefused(IllegalArgumentException.class, "bounds[0] is no range: [Infinity, Infinity]",
+        assertRefused(IllegalArgumentException.class, "bounds[0] is not a range: [Infinity, Infinity]",
                 () -> builder.bounds(new double[] {Double.POSITIVE_INFINITY, Double.POSITIVE_INFINITY}));
-        assertRefused(IllegalArgumentException.class, "bounds[0] is no range: [-1.0E308, 1.0E308]",
+        assertRefused(IllegalArgumentException.class, "bounds[0] is not a range: [-1.0E308, 1.0E308]",
                 () -> builder.bounds(new double[] {-1.0e308, 1.0e308}));
     }
 
