@@ -221,7 +221,8 @@ public abstract class SceneGraphPlot extends NativePeer {
 
     /**
      * Draws the plot with a colour table. Tables are known by name in the whole process: the first call with a name
-     * makes the table from the rows, later ones find it and ignore theirs.
+     * makes the table from the rows, later ones find it and ignore theirs. So a name is bound to its first colours, and
+     * to their bands or blending, until the process ends; use another name for other colours.
      *
      * @param name the name of the table
      * @param colors one row per colour: red, green and blue from 0 to 1, and optionally the relative width of the
