@@ -35,7 +35,9 @@ public:
     // Plots
 
     /// Takes a plot in under its own id, with texture handles from the pool. A plot that stands there already is
-    /// replaced without a call to it: its handles stay with it.
+    /// replaced without a call to it: its handles stay with it. Remove a plot that is in a group before adding it
+    /// again, to this group or another: it takes new handles, and the earlier ones are lost or returned to the wrong
+    /// group.
     /// @return false if the pool ran dry: the group is then unchanged, and the plot keeps the handles it got
     /// @throws std::invalid_argument without a plot
     bool addPlot(boost::shared_ptr<SceneGraphPlot> plot);

@@ -49,8 +49,19 @@ public abstract class SceneGraphPlot extends NativePeer {
         }
     }
 
+    private PlotGroupMembers.Member member = new PlotGroupMembers.Member();
+
     /** For the classes of this package, one per kind of plot. */
     SceneGraphPlot() {}
+
+    /** Called when this peer has been connected to a plot in a group. */
+    final void takeMember(SceneGraphPlotGroup group, int plotId) {
+        member = group.members().memberOf(plotId);
+    }
+
+    final PlotGroupMembers.Member member() {
+        return member;
+    }
 
     /**
      * Fills the plot from a record. The legend limits follow the values of the record again and a value restriction is
