@@ -12,7 +12,7 @@ namespace {
 thread_local ReaderError* t_kept = nullptr;
 
 /// @param args consumed by the call
-std::string textOf(const char* format, va_list args)
+[[gnu::format(printf, 1, 0)]] std::string textOf(const char* format, va_list args)
 {
     va_list again;
     va_copy(again, args);
