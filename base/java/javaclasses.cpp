@@ -39,9 +39,10 @@ bool load(JNIEnv* env, JavaClasses& java)
         return false;
     }
     detail::g_peerHandleField = env->GetFieldID(java.peer, "handle", "J");
+    java.peerObject = env->GetFieldID(java.peer, "object", "J");
     java.peerRegistration = env->GetFieldID(java.peer, "registration", "Lcom/vexane/base/NativePeer$Registration;");
     java.registrationHandle = env->GetFieldID(registration, "handle", "J");
-    return detail::g_peerHandleField != nullptr && java.peerRegistration != nullptr &&
+    return detail::g_peerHandleField != nullptr && java.peerObject != nullptr && java.peerRegistration != nullptr &&
            java.registrationHandle != nullptr;
 }
 

@@ -7,6 +7,7 @@ namespace vxbase {
 /// The Java classes and members that native code reaches, looked up once when the virtual machine loads the library.
 struct JavaClasses {
     jclass peer = nullptr;                 ///< com.vexane.base.NativePeer
+    jfieldID peerObject = nullptr;         ///< its field `long object`
     jfieldID peerRegistration = nullptr;   ///< its field `Registration registration`
     jfieldID registrationHandle = nullptr; ///< the field `long handle` of that class
     jclass exception = nullptr;            ///< com.vexane.base.NativeException

@@ -93,6 +93,9 @@ void attachHandle(JNIEnv* env, jobject self, std::unique_ptr<PeerHandle> handle)
     if (getWsPtrOrNull(env, self) != nullptr) {
         throw std::logic_error("The peer is already connected.");
     }
+    if (self != nullptr) {
+        env->SetLongField(self, javaClasses().peerObject, toNumber(handle->object.get()));
+    }
     setWsPtr(env, self, handle.get());
     static_cast<void>(handle.release());
 }

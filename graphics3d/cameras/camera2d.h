@@ -37,6 +37,10 @@ public:
     /// Stores the stretch of the axes and nothing else; scales derived from the scene box continue to follow it.
     void setAxisViewScales(float x, float y);
 
+    // Under ResizePixels a pixel has a fixed size in the world, which setting limits determines. So the next change of
+    // the render area and the next merge of an additional transformation adapt the limits to that size about their
+    // centre: a zoom is lost when it is merged, and limits that were widened to the shape of the area change again.
+
     /// Sets the base limits so that the whole rectangle is visible, with the camera's own setting for the aspect ratio.
     /// @return whether the limits were accepted
     bool setViewLimits(float x0, float x1, float y0, float y1);

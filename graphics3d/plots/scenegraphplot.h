@@ -89,7 +89,9 @@ public:
 
     // Colour
 
-    /// Uses the colour table with that name; if there is none yet, it is created from the rows first.
+    /// Uses the colour table with that name; if there is none yet, it is created from the rows first. So a name is
+    /// bound to its first colours for the whole process: other colours need another name, or ColorTableHandler, which
+    /// can update and delete tables.
     /// @param colors one row per colour: red, green, blue from 0 to 1 and, if present, the relative width of the colour
     ///               (1 by default); ignored if the name is known
     /// @param continuous whether a new table interpolates between its colours

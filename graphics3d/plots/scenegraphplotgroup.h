@@ -35,7 +35,8 @@ public:
     // Plots
 
     /// Adds a plot under its own id, with texture handles from the pool. An existing plot with that id is replaced
-    /// without being notified: it keeps its handles.
+    /// without being notified: it keeps its handles. Remove a plot that is in a group before adding it again, to this
+    /// group or another: it takes new handles, and the earlier ones are lost or returned to the wrong group.
     /// @return false if the pool ran out: the group is then unchanged, and the plot keeps the handles it got
     /// @throws std::invalid_argument if the plot is null
     bool addPlot(boost::shared_ptr<SceneGraphPlot> plot);

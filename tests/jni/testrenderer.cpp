@@ -3,6 +3,8 @@
 #include "graphics3d/canvas/irenderersetup.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/picking/canvaspicksettings.h"
+#include "graphics3d/plots/scenegraphplot.h"
+#include "graphics3d/plots/scenegraphplotgroup.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/settings/contextdata.h"
@@ -194,6 +196,26 @@ VX_NATIVE(void, TestRenderer, announce)(JNIEnv* env, jclass, jobject infoOrNull)
     native(env, "announce", [&] {
         Canvas3dGlobalSettings::setRendererInfo(
             infoOrNull != nullptr ? share<RendererInfo>(env, infoOrNull, "infoOrNull") : nullptr);
+    });
+}
+
+VX_NATIVE(jstring, TestRenderer, describe)(JNIEnv* env, jclass, jobject self)
+{
+    return native(env, "describe", [&] {
+        const SceneGraphPlot& plot = peer<SceneGraphPlot>(env, self);
+        return toJavaNew(env, std::string(plot.isReverseColorTable() ? "reverse" : "forward") + ", scale " +
+                                  std::to_string(plot.getHeightScale()) + ", offset " +
+                                  std::to_string(plot.getPlotPlaneOffset()) +
+                                  (plot.isValid() ? ", filled" : ", empty"));
+    });
+}
+
+VX_NATIVE(jstring, TestRenderer, titleOf)(JNIEnv* env, jclass, jobject self)
+{
+    return native(env, "titleOf", [&] {
+        vxbase::UString title;
+        peer<SceneGraphPlotGroup>(env, self).getTotalTitle(title);
+        return toJavaNew(env, title.toUtf8());
     });
 }
 

@@ -641,5 +641,19 @@ TEST(Camera2d, extremeInputNeverFails)
     EXPECT_EQ(displayed(camera), (Limits{0.0f, 1.0f, 0.0f, 1.0f}));
 }
 
+TEST(Camera2d, underFixedPixelsAZoomEndsWithItsMerge)
+{
+    Camera2d camera;
+    camera.setOverrideResizeBehaviour(true, Resize::ResizePixels);
+    camera.setRenderArea(200, 100, 0, 0, 200, 100);
+    camera.setViewLimits(0.0f, 20.0f, 0.0f, 10.0f);
+    camera.setAdditionalScale(0.5f, 0.5f, 0.5f);
+    EXPECT_EQ(displayed(camera), (Limits{5.0f, 15.0f, 2.5f, 7.5f}));
+    camera.mergeAdditionalTransformation();
+    EXPECT_EQ(displayed(camera), (Limits{0.0f, 20.0f, 0.0f, 10.0f}));
+    camera.setRenderArea(400, 100, 0, 0, 400, 100);
+    EXPECT_EQ(displayed(camera), (Limits{-10.0f, 30.0f, 0.0f, 10.0f}));
+}
+
 } // namespace
 } // namespace vxgraphics3d

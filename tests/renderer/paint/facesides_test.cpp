@@ -170,6 +170,26 @@ TEST_F(FaceSidesTest, neitherTheOrderOfCornersNorTheDirectionOfNormalsNorAMirror
     EXPECT_EQ(numDifferent(pictureOf(record), expected), 0);
 }
 
+// A step up within a steep fall: the normals beside it are those of the fall.
+TEST_F(FaceSidesTest, aStepWhoseNormalsPointToItsOtherSideIsLitLikeWhatSurroundsIt)
+{
+    GridRecord fall = grid(8);
+    fall.height = [](double x, double) { return -5.0 * x + 6.0 * std::clamp(x - 0.5, 0.0, 0.125); };
+    PostDataObject record = fall.make();
+    std::vector<std::vector<float>>& normals = *record.m_normals[0];
+    for (std::size_t i = 0; i < normals[0].size(); ++i) {
+        normals[0][i] = 5.0f;
+        normals[1][i] = 0.001f * static_cast<float>(i % 2);
+        normals[2][i] = 1.0f;
+    }
+    const Picture shown = pictureOf(record);
+    const Rgb around = colorAt(m_canvas, shown, {0.3f, 0.5f, -1.5f});
+    for (const float y : {0.2f, 0.55f, 0.8f}) {
+        EXPECT_NEAR(colorAt(m_canvas, shown, {0.55f, y, -2.45f})[0], around[0], 1);
+    }
+    EXPECT_GT(around[0], 80);
+}
+
 TEST_F(FaceSidesTest, trianglesWithSomethingNotFiniteAreNotDrawn)
 {
     // The middle of five by five points has six triangles about it, of 32 in all.

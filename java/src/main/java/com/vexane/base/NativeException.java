@@ -3,6 +3,10 @@ package com.vexane.base;
 /**
  * A failure that native code reported. The object that was called keeps the state it had before the call, unless the
  * method says otherwise, and stays usable.
+ *
+ * <p>The message begins with the detail, which says what to correct. The key, the native source file and the line
+ * follow in parentheses; they help whoever reports a fault of the library:
+ * {@code The plot group has no plot 6. (Internal_error_graphics3d, jni_scenegraphplotsurface2d.cpp:21)}.
  */
 public class NativeException extends RuntimeException {
     private static final long serialVersionUID = 1;
@@ -28,7 +32,7 @@ public class NativeException extends RuntimeException {
      * @param line the line in it
      */
     protected NativeException(String key, String detail, String file, int line) {
-        super((detail.isEmpty() ? key : key + ": " + detail) + " (" + file + ":" + line + ")");
+        super((detail.isEmpty() ? key + " (" : detail + " (" + key + ", ") + file + ":" + line + ")");
         this.key = key;
         this.detail = detail;
         this.file = file;

@@ -33,6 +33,9 @@ public abstract class NativePeer implements AutoCloseable {
     /** Address of the native handle, 0 while there is none. Only native code reads and writes it. */
     private long handle;
 
+    /** Address of the native object, which stays here when the peer is closed. Native code alone writes it. */
+    private long object;
+
     /** What remains of this peer when it is lost; null once it has been closed. Native code reads it. */
     private Registration registration;
 
@@ -68,6 +71,15 @@ public abstract class NativePeer implements AutoCloseable {
                 own.withdraw();
             }
         }
+    }
+
+    /**
+     * {@return a number that all open peers of one native object have in common and no peer of another object has}
+     *
+     * <p>An object that is made after the peer has been closed may have the same number.
+     */
+    protected final long objectNumber() {
+        return object;
     }
 
     /** Calls the native that releases the handle of this family of peers. */

@@ -19,6 +19,7 @@
  *   <li>{@link NativeException} is the one exception that native code throws. Methods check their arguments first and
  *       throw exceptions of the Java library, such as {@link NullPointerException} for null and
  *       {@link IllegalStateException} for a closed peer.
+ *   <li>{@link NativeEnum} is what enumerations have in common whose constants native code knows by number.
  *   <li>{@link NativeLibrary} finds and loads the libraries. The first peer that is made loads them; if that fails, the
  *       message lists every location tried.
  * </ul>

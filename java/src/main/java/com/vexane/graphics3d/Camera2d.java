@@ -1,5 +1,6 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeEnum;
 import com.vexane.base.NativePeer;
 import java.util.Objects;
 
@@ -145,6 +146,10 @@ public final class Camera2d extends NativePeer {
     /**
      * Sets the limits so that all of them are visible, with the aspect ratio preserved or not as set.
      *
+     * <p>Under {@link ResizeBehaviour#PIXELS} a pixel has a fixed size in the world, which the limits determine. When
+     * the canvas changes its size, or a drag or zoom ends, the limits are adapted to that size about their centre. So
+     * limits set here last until then, and a zoom does not last.
+     *
      * @param x0 the lower limit of x
      * @param x1 the upper limit of x
      * @param y0 the lower limit of y
@@ -190,6 +195,9 @@ public final class Camera2d extends NativePeer {
     /**
      * Magnifies the picture about its centre and commits what is displayed. Magnification ends, without an error, where
      * the range of an axis is so small compared to its distance from zero that floats hardly distinguish its ends.
+     *
+     * <p>Under {@link ResizeBehaviour#PIXELS} a pixel has a fixed size in the world, so this has no effect; use
+     * {@link #setViewLimits}.
      *
      * @param factor the factor by which things become larger, above 0; below 1 they become smaller
      */

@@ -1,5 +1,6 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeEnum;
 import com.vexane.base.NativeLibrary;
 import java.nio.file.Path;
 

@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeEnum;
+
 /**
  * One result of a pick.
  *

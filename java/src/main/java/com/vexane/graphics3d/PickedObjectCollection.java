@@ -1,5 +1,6 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeEnum;
 import com.vexane.base.NativePeer;
 import java.util.Objects;
 import java.util.stream.IntStream;

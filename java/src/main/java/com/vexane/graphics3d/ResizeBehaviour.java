@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeEnum;
+
 /**
  * How a camera adapts to a canvas of another shape.
  *

@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeEnum;
+
 /** A leaf of the scene tree that shows geometry, with a colour and a shininess of its own. */
 public abstract class SceneGraphObject extends SceneGraphNode {
     /** The kinds of objects. */

@@ -1,5 +1,6 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeEnum;
 import com.vexane.base.NativeException;
 import com.vexane.base.NativePeer;
 import java.util.Objects;
@@ -48,8 +49,19 @@ public abstract class SceneGraphPlot extends NativePeer {
         }
     }
 
+    private PlotGroupMembers.Member member = new PlotGroupMembers.Member();
+
     /** For the classes of this package, one per kind of plot. */
     SceneGraphPlot() {}
+
+    /** Called when this peer has been connected to a plot in a group. */
+    final void takeMember(SceneGraphPlotGroup group, int plotId) {
+        member = group.members().memberOf(plotId);
+    }
+
+    final PlotGroupMembers.Member member() {
+        return member;
+    }
 
     /**
      * Fills the plot from a record. The legend limits follow the values of the record again and a value restriction is
@@ -220,7 +232,8 @@ public abstract class SceneGraphPlot extends NativePeer {
 
     /**
      * Draws the plot with a colour table. Tables are known by name in the whole process: the first call with a name
-     * makes the table from the rows, later ones find it and ignore theirs.
+     * makes the table from the rows, later ones find it and ignore theirs. So a name is bound to its first colours, and
+     * to their bands or blending, until the process ends; use another name for other colours.
      *
      * @param name the name of the table
      * @param colors one row per colour: red, green and blue from 0 to 1, and optionally the relative width of the

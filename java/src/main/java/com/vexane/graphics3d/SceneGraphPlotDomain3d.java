@@ -33,6 +33,7 @@ public final class SceneGraphPlotDomain3d extends SceneGraphPlot {
     public static SceneGraphPlotDomain3d connect(SceneGraphPlotGroup group, int plotId) {
         SceneGraphPlotDomain3d plot = new SceneGraphPlotDomain3d();
         connectNative(plot, requireOpen(group, "group"), plotId);
+        plot.takeMember(group, plotId);
         return plot;
     }
 

@@ -10,10 +10,14 @@ import java.util.Objects;
  * it has space for 128 plots of the usual kind. The title of the group is shown above its plots, together with theirs.
  */
 public final class SceneGraphPlotGroup extends SceneGraphNode {
+    /** Shared with the other peers of this group; null before there is a native group and after closing. */
+    private PlotGroupMembers members;
+
     /** Makes a group without plots. */
     public SceneGraphPlotGroup() {
         this(true);
         createNative(this);
+        members = PlotGroupMembers.ofNew(objectNumber());
     }
 
     private SceneGraphPlotGroup(boolean unattached) {}
@@ -31,7 +35,12 @@ public final class SceneGraphPlotGroup extends SceneGraphNode {
     public static SceneGraphPlotGroup connect(SceneGraphParent parent, int childId) {
         SceneGraphPlotGroup group = new SceneGraphPlotGroup(true);
         connectNative(group, requireOpen(parent, "parent"), childId);
+        group.members = PlotGroupMembers.of(group.objectNumber());
         return group;
+    }
+
+    PlotGroupMembers members() {
+        return members;
     }
 
     /**
@@ -39,15 +48,26 @@ public final class SceneGraphPlotGroup extends SceneGraphNode {
      * group. If the group has too few handles left, the plot is not added and the log has a warning; check with
      * {@link #doesPlotExist}.
      *
-     * <p>Remove a plot before adding it again, to this group or another: each addition takes new texture handles, and
-     * the earlier ones are lost or returned to the wrong group.
+     * <p>A plot can be in one group only. Remove it before adding it again, to this group or another: otherwise it
+     * would take new texture handles, and the earlier ones would be lost or returned to the wrong group. A plot that
+     * any peer of a group has added is refused while a peer of that group is open. When the last peer of a group is
+     * closed, its plots are no longer known, because the group may have ceased to exist; nor are plots known that
+     * native code has added.
      *
      * @param plot the plot
      * @throws NullPointerException if the plot is null
-     * @throws IllegalStateException if the plot's peer is closed
+     * @throws IllegalStateException if the plot's peer is closed, or if the plot is known to be in a group
      */
     public void addPlot(SceneGraphPlot plot) {
-        addPlot(this, requireOpen(plot, "plot"));
+        if (requireOpen(plot, "plot").member().isInGroup()) {
+            throw new IllegalStateException(
+                    "Plot " + plot.getId() + " is already in a plot group. Remove it from that group first.");
+        }
+        addPlot(this, plot);
+        int id = plot.getId();
+        if (doesPlotExist(id)) {
+            members.put(id, plot.member());
+        }
     }
 
     /**
@@ -57,11 +77,13 @@ public final class SceneGraphPlotGroup extends SceneGraphNode {
      */
     public void removePlot(int plotId) {
         removePlot(this, plotId);
+        members.remove(plotId);
     }
 
     /** Removes all plots. */
     public void removeAllPlots() {
         removeAllPlots(this);
+        members.removeAll();
     }
 
     /**
@@ -87,6 +109,15 @@ public final class SceneGraphPlotGroup extends SceneGraphNode {
      */
     public void setTitle(TextFormat format, String text) {
         setTitle(this, format.number(), Objects.requireNonNull(text, "text"));
+    }
+
+    @Override
+    protected void cleanup() {
+        super.cleanup();
+        if (members != null) {
+            members.leave();
+            members = null;
+        }
     }
 
     private static native void createNative(SceneGraphPlotGroup peer);

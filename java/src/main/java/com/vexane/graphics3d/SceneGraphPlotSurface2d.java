@@ -33,6 +33,7 @@ public final class SceneGraphPlotSurface2d extends SceneGraphPlot {
     public static SceneGraphPlotSurface2d connect(SceneGraphPlotGroup group, int plotId) {
         SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d();
         connectNative(plot, requireOpen(group, "group"), plotId);
+        plot.takeMember(group, plotId);
         return plot;
     }
 

@@ -33,6 +33,7 @@ public final class SceneGraphPlotSurface3d extends SceneGraphPlot {
     public static SceneGraphPlotSurface3d connect(SceneGraphPlotGroup group, int plotId) {
         SceneGraphPlotSurface3d plot = new SceneGraphPlotSurface3d();
         connectNative(plot, requireOpen(group, "group"), plotId);
+        plot.takeMember(group, plotId);
         return plot;
     }
 

@@ -1,5 +1,6 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeEnum;
 import com.vexane.base.NativeException;
 
 /** A node with at most one child, whose id is 0. */

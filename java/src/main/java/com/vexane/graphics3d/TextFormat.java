@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeEnum;
+
 /** How the text of a title is written. */
 public enum TextFormat implements NativeEnum {
     /** Plain text, in which braces and backslashes are ordinary characters. */

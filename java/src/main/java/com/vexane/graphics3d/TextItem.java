@@ -1,5 +1,7 @@
 package com.vexane.graphics3d;
 
+import com.vexane.base.NativeEnum;
+
 /** The kinds of text in a picture, each with a font of its own. */
 public enum TextItem implements NativeEnum {
     /** Labels of points and parts. */

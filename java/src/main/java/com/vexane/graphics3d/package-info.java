@@ -81,6 +81,6 @@
  * <h2>Values</h2>
  *
  * <p>Colours are ints {@code 0xRRGGBB}. Angles are in radians, except the angle of view, which is in degrees. Choices
- * are enumerations; each is a {@link NativeEnum}, whose number native code uses.
+ * are enumerations; each is a {@link com.vexane.base.NativeEnum}, whose number native code uses.
  */
 package com.vexane.graphics3d;

@@ -4,6 +4,7 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertSame;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 
+import com.vexane.base.NativeEnum;
 import org.junit.jupiter.api.Test;
 
 class NativeEnumTest {

@@ -26,18 +26,19 @@ class NativeExceptionTest {
 
     @Test
     void eachKindOfFailureHasItsKeyDetailAndLocation() {
-        assertEquals(List.of("Some_key", "why", "place.cpp", 17, "Some_key: why (place.cpp:17)"),
+        assertEquals(List.of("Some_key", "why", "place.cpp", 17, "why (Some_key, place.cpp:17)"),
                 partsOf(failureOf(0)));
         int line = failureOf(1).getNativeLine();
-        String place = " (testrenderer.cpp:" + line + ")";
+        String place = "testrenderer.cpp:" + line + ")";
         String memory = "Out_of_memory_graphics3d";
         String internal = "Internal_error_graphics3d";
         assertTrue(line > 1);
-        assertEquals(List.of(memory, "", "testrenderer.cpp", line, memory + place), partsOf(failureOf(1)));
+        assertEquals(List.of(memory, "", "testrenderer.cpp", line, memory + " (" + place), partsOf(failureOf(1)));
         assertEquals(
-                List.of(internal, "in words \u00e4", "testrenderer.cpp", line, internal + ": in words \u00e4" + place),
+                List.of(internal, "in words \u00e4", "testrenderer.cpp", line,
+                        "in words \u00e4 (" + internal + ", " + place),
                 partsOf(failureOf(2)));
-        assertEquals(List.of(internal, "", "testrenderer.cpp", line, internal + place), partsOf(failureOf(3)));
+        assertEquals(List.of(internal, "", "testrenderer.cpp", line, internal + " (" + place), partsOf(failureOf(3)));
     }
 
     @Test

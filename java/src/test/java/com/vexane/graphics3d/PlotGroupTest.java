@@ -7,6 +7,7 @@ import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.vexane.base.NativeException;
+import com.vexane.producer.PostDataObject;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.api.function.Executable;
 
@@ -34,11 +35,16 @@ class PlotGroupTest {
             assertTrue(plot.isShowLegend());
             plot.setShowLegend(false);
             assertFalse(plot.isShowLegend());
+            assertEquals("forward, scale 1.000000, offset 0.000000, empty", TestRenderer.describe(plot));
             plot.setReverseColorTable(true);
             plot.setHeightScale(2);
             plot.setPlotPlaneOffset(-1);
-            plot.setTitle(TextFormat.MARKUP, "p_0");
+            try (PeerRecipes peers = new PeerRecipes()) {
+                plot.fillPlot(peers.first(PostDataObject.class));
+            }
+            assertEquals("reverse, scale 2.000000, offset -1.000000, filled", TestRenderer.describe(plot));
             plot.resetPlotData();
+            assertEquals("reverse, scale 2.000000, offset -1.000000, empty", TestRenderer.describe(plot));
         }
         try (SceneGraphPlot flat = new SceneGraphPlotSurface2d(1); SceneGraphPlot domain = new SceneGraphPlotDomain3d(2)) {
             assertEquals(SceneGraphPlot.Kind.SURFACE_2D, flat.getKind());
@@ -101,7 +107,89 @@ class PlotGroupTest {
             group.removeAllPlots();
             group.removeAllPlots();
             assertEquals(0, group.getNoOfPlots());
+        }
+    }
+
+    @Test
+    void theTitleOfAGroupHasItsPartAndThoseOfItsPlots() {
+        try (SceneGraphPlotGroup group = new SceneGraphPlotGroup(); SceneGraphPlot plot = new SceneGraphPlotSurface2d(5)) {
+            group.addPlot(plot);
             group.setTitle(TextFormat.PLAIN, "{%n}");
+            plot.setTitle(TextFormat.MARKUP, "p_0");
+            assertEquals("\\begin{center} \\mbox{\\unicode{\\{%n\\}}} \\mbox{p_0} \\end{center}",
+                    TestRenderer.titleOf(group));
+            group.removeAllPlots();
+        }
+    }
+
+    private static void assertIsInAGroup(SceneGraphPlotGroup group, SceneGraphPlot plot) {
+        IllegalStateException refused = assertThrows(IllegalStateException.class, () -> group.addPlot(plot));
+        assertEquals("Plot 5 is already in a plot group. Remove it from that group first.", refused.getMessage());
+    }
+
+    @Test
+    void aPlotIsRefusedUntilItHasLeftItsGroup() {
+        try (SceneGraphPlotGroup group = new SceneGraphPlotGroup();
+                SceneGraphPlotGroup other = new SceneGraphPlotGroup();
+                SceneGraphPlot plot = new SceneGraphPlotSurface2d(5);
+                SceneGraphPlot sameId = new SceneGraphPlotSurface3d(5)) {
+            group.addPlot(plot);
+            assertIsInAGroup(group, plot);
+            other.removePlot(5);
+            assertIsInAGroup(other, plot);
+            group.removePlot(5);
+            other.addPlot(plot);
+            assertIsInAGroup(group, plot);
+            other.removeAllPlots();
+            group.addPlot(plot);
+            group.addPlot(sameId);
+            assertIsInAGroup(other, sameId);
+            other.addPlot(plot);
+            assertTrue(other.doesPlotExist(5), "a plot that was replaced is free");
+            group.removeAllPlots();
+            other.removeAllPlots();
+        }
+    }
+
+    @Test
+    void allPeersOfAPlotAndOfAGroupKnowThatThePlotIsThere() {
+        try (SceneGraphGroup parent = new SceneGraphGroup();
+                SceneGraphPlotGroup group = new SceneGraphPlotGroup();
+                SceneGraphPlotGroup other = new SceneGraphPlotGroup();
+                SceneGraphPlot plot = new SceneGraphPlotSurface2d(5)) {
+            parent.addChild(group);
+            group.addPlot(plot);
+            try (SceneGraphPlotGroup again = SceneGraphPlotGroup.connect(parent, group.getChildId());
+                    SceneGraphPlot same = SceneGraphPlotSurface2d.connect(again, 5)) {
+                assertIsInAGroup(again, plot);
+                assertIsInAGroup(other, same);
+                again.removePlot(5);
+                other.addPlot(same);
+                assertIsInAGroup(group, plot);
+            }
+            assertIsInAGroup(group, plot);
+            other.removePlot(5);
+            group.addPlot(plot);
+            group.removePlot(5);
+        }
+    }
+
+    @Test
+    void whenTheLastPeerOfAGroupIsClosedItsPlotsAreFree() {
+        try (SceneGraphGroup parent = new SceneGraphGroup();
+                SceneGraphPlotGroup other = new SceneGraphPlotGroup();
+                SceneGraphPlot plot = new SceneGraphPlotSurface2d(5)) {
+            SceneGraphPlotGroup group = new SceneGraphPlotGroup();
+            parent.addChild(group);
+            SceneGraphPlotGroup again = SceneGraphPlotGroup.connect(parent, group.getChildId());
+            group.addPlot(plot);
+            group.close();
+            assertIsInAGroup(other, plot);
+            parent.removeAllChildren();
+            again.close();
+            other.addPlot(plot);
+            assertTrue(other.doesPlotExist(5));
+            other.removeAllPlots();
         }
     }
 
@@ -122,14 +210,20 @@ class PlotGroupTest {
 
     @Test
     void aPlotBeyondTheTextureHandlesIsNotAdded() {
-        try (SceneGraphPlotGroup group = new SceneGraphPlotGroup()) {
-            for (int id = 1; id <= 129; ++id) {
+        try (SceneGraphPlotGroup group = new SceneGraphPlotGroup();
+                SceneGraphPlotGroup other = new SceneGraphPlotGroup();
+                SceneGraphPlot last = new SceneGraphPlotSurface2d(129)) {
+            for (int id = 1; id <= 128; ++id) {
                 try (SceneGraphPlot plot = new SceneGraphPlotSurface2d(id)) {
                     group.addPlot(plot);
                 }
             }
+            group.addPlot(last);
             assertEquals(128, group.getNoOfPlots());
             assertFalse(group.doesPlotExist(129));
+            other.addPlot(last);
+            assertTrue(other.doesPlotExist(129));
+            other.removeAllPlots();
             group.removeAllPlots();
         }
     }

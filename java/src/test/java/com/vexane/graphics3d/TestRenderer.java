@@ -88,6 +88,12 @@ public final class TestRenderer extends NativePeer {
 
     private static native void announce(RendererInfo infoOrNull);
 
+    /** What the natives of a plot set and none of them returns. */
+    static native String describe(SceneGraphPlot plot);
+
+    /** The title over a plot group, in markup. */
+    static native String titleOf(SceneGraphPlotGroup group);
+
     /** Fails natively: 0 by an exception with a key, 1 for lack of memory, 2 by another exception, 3 by a number. */
     static native void fail(int kind);
 

@@ -1,5 +1,6 @@
 package com.vexane.interaction;
 
+import com.vexane.base.NativeEnum;
 import com.vexane.base.NativeLibrary;
 import com.vexane.base.NativePeer;
 import com.vexane.graphics3d.Canvas3dGlobalSettings.CameraMouseAction;
@@ -173,7 +174,7 @@ public final class CameraInteraction extends NativePeer {
 
     /** {@return what the current drag does; {@link CameraMouseAction#NONE} if there is no drag} */
     public CameraMouseAction getAction() {
-        return CameraMouseAction.values()[getAction(this)];
+        return NativeEnum.of(CameraMouseAction.class, getAction(this));
     }
 
     private static void requireHeight(int canvasHeight) {

@@ -1,5 +1,6 @@
 package com.vexane.producer;
 
+import com.vexane.base.NativeEnum;
 import java.util.Objects;
 
 /**
@@ -8,7 +9,7 @@ import java.util.Objects;
  * <p>A principal plot uses the nine direction roles and the three vector roles in its own way, see
  * {@link #principalLength} and {@link #principalDirection}.
  */
-public enum DataRole {
+public enum DataRole implements NativeEnum {
     /** The values that the colour table shows. */
     COLOR(0),
     /** Heights that raise a plot in the plane, and the y values of a graph. */
@@ -45,14 +46,6 @@ public enum DataRole {
     /** The number of role slots in a record; some have no meaning to any plot. */
     static final int COUNT = 22;
 
-    private static final DataRole[] BY_NUMBER = new DataRole[COUNT];
-
-    static {
-        for (DataRole role : values()) {
-            BY_NUMBER[role.number] = role;
-        }
-    }
-
     private final int number;
 
     DataRole(int number) {
@@ -60,6 +53,7 @@ public enum DataRole {
     }
 
     /** {@return the number of the role in native code, 0 to 21} */
+    @Override
     public int number() {
         return number;
     }
@@ -71,7 +65,7 @@ public enum DataRole {
      * @throws IndexOutOfBoundsException if there is no such axis
      */
     public static DataRole principalLength(int axis) {
-        return BY_NUMBER[VECTOR_X.number + Objects.checkIndex(axis, 3)];
+        return NativeEnum.of(DataRole.class, VECTOR_X.number + Objects.checkIndex(axis, 3));
     }
 
     /**
@@ -83,6 +77,7 @@ public enum DataRole {
      */
     public static DataRole principalDirection(int axis, int component) {
         // The x components of all three axes come first, then the y components, then the z components.
-        return BY_NUMBER[FIRST_DIRECTION_X.number + 3 * Objects.checkIndex(component, 3) + Objects.checkIndex(axis, 3)];
+        return NativeEnum.of(DataRole.class,
+                FIRST_DIRECTION_X.number + 3 * Objects.checkIndex(component, 3) + Objects.checkIndex(axis, 3));
     }
 }

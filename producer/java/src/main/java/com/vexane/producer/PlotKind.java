@@ -1,7 +1,9 @@
 package com.vexane.producer;
 
+import com.vexane.base.NativeEnum;
+
 /** The kinds of data that plots and file readers distinguish. */
-public enum PlotKind {
+public enum PlotKind implements NativeEnum {
     /** Data that need no kind of their own, such as those of arrows, slices, spheres and graphs. */
     GENERAL(0),
     /** Lines in three dimensions, drawn as tubes; tubes of any other kind are in the plane. */
@@ -32,16 +34,12 @@ public enum PlotKind {
     }
 
     /** {@return the number of the kind in native code, different for each kind} */
+    @Override
     public int number() {
         return number;
     }
 
     static PlotKind of(int number) {
-        for (PlotKind kind : values()) {
-            if (kind.number == number) {
-                return kind;
-            }
-        }
-        throw new IllegalStateException("The record has the unknown plot kind " + number);
+        return NativeEnum.of(PlotKind.class, number);
     }
 }

@@ -83,14 +83,13 @@ class PlotPictureTest {
             renderer.draw();
             assertEquals(WHITE, pixelAt(renderer, 0.25, 0.5));
             assertEquals(RED, pixelAt(renderer, 0.75, 0.5));
-            // The first restriction counts as a change of geometry.
-            assertEquals(2, renderer.countUploads().meshes());
+            // The first restriction counts as a change of geometry, but the buffers are the same.
+            assertEquals(before, renderer.countUploads());
             plot.setValueRestrictions(0, 0.5);
             renderer.draw();
             assertEquals(BLUE, pixelAt(renderer, 0.25, 0.5));
             assertEquals(WHITE, pixelAt(renderer, 0.75, 0.5));
-            assertEquals(2, renderer.countUploads().meshes());
-            assertEquals(before.colorTables(), renderer.countUploads().colorTables());
+            assertEquals(before, renderer.countUploads());
         }
     }
 

@@ -1,4 +1,4 @@
-package com.vexane.graphics3d;
+package com.vexane.base;
 
 /**
  * An enumeration whose constants have numbers in native code.
