@@ -6,7 +6,7 @@ namespace vxgraphics3d {
 
 namespace {
 
-/// The plane through a near corner, the next near corner and the far corner opposite the first.
+/// The plane through a near corner, the next near corner, and the far corner that corresponds to the first.
 SelectionFrustrum::FrustrumPlane planeThrough(const Vector3f& corner, const Vector3f& next, const Vector3f& behind)
 {
     return {corner, (next - corner).cross(behind - corner)};

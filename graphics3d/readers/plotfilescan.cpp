@@ -111,7 +111,7 @@ bool Pass::run()
     if (m_file.hasTooManyRows()) {
         return false;
     }
-    // The single group of an ungrouped file is closed by the tag after the coordinates.
+    // The single group of an ungrouped file is closed at the tag after the coordinates.
     if (m_open.isOpen && m_criteria != GroupCriteria::none) {
         m_open.close(m_contents.groups);
     }

@@ -47,7 +47,8 @@ public:
     const boost::shared_ptr<SceneLight>& getSceneLight() const { return m_sceneLight; }
 
     /// Creates settings for another view, which the scene keeps until the view disconnects.
-    /// @param setup what the renderer stores for the scene in that view; must outlive the use of the settings
+    /// @param setup what the renderer stores for the scene in that view; must live as long as it is read from the
+    /// settings
     boost::shared_ptr<SceneSettings> createSceneSettings(IRendererSetup& setup);
     /// Removes the settings of a view; does nothing if they belong to another scene. The caller's reference stays
     /// valid.

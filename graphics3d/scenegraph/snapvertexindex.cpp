@@ -41,7 +41,7 @@ void SnapVertexIndex::remove(int nodeId)
     for (const Runs::iterator run : runs) {
         run->listed = false;
     }
-    // Adjacent runs become one run in the order of arrival.
+    // Runs that are adjacent in the order of arrival count as one.
     auto last = runs.begin() + 1;
     while (last != runs.end() && *last == std::next(*(last - 1))) {
         ++last;

@@ -124,7 +124,7 @@ TEST(VertexBuffer, allocateDistinguishesNegativeZeroAndPositiveCounts)
     EXPECT_EQ(buffer.getCapacity(), 0);
     EXPECT_EQ(buffer.vertexPointer(), nullptr);
     buffer.allocate(-1);
-    EXPECT_EQ(buffer.getCapacity(), 0) << "nothing was held, so nothing changes";
+    EXPECT_EQ(buffer.getCapacity(), 0) << "there was no array, so nothing changes";
     buffer.allocate(5);
     EXPECT_EQ(buffer.getCapacity(), 5);
     buffer.appendVertex(1, 2, 3);
@@ -153,7 +153,7 @@ TYPED_TEST(VertexBufferBlocks, appendVerticesFillsTheCapacityAndRefusesMore)
     EXPECT_EQ(buffer.appendVertices(two, 1), 0);
     buffer.allocate(3);
     EXPECT_EQ(buffer.appendVertices(two + 1, 1), 0);
-    EXPECT_EQ(buffer.appendVertices(two, 2), 1) << "exactly the free room";
+    EXPECT_EQ(buffer.appendVertices(two, 2), 1) << "exactly the free capacity";
     EXPECT_EQ(buffer.appendVertices(two, 1), 0);
     EXPECT_EQ(buffer.appendVertices(two, -1), 0);
     EXPECT_EQ(buffer.getNumberOfVertices(), 3);

@@ -79,7 +79,7 @@ TEST(Camera3d, lookAtComputesOrthonormalAxesAndStoresTheLength)
     EXPECT_EQ(camera.getActualPosition(), camera.getPosition());
     EXPECT_EQ(camera.getChangeId(), 2);
     camera.lookAt(camera.getForward(), camera.getRight(), camera.getUp());
-    EXPECT_EQ(camera.getPosition(), Vector3f(0.0f, 1.0f, 0.0f)) << "of the axes before the call";
+    EXPECT_EQ(camera.getPosition(), Vector3f(0.0f, 1.0f, 0.0f)) << "the forward axis before the call";
     EXPECT_EQ(camera.getRight(), Vector3f(0.0f, -1.0f, 0.0f));
 }
 

@@ -84,7 +84,7 @@ TEST(SceneLight, aNinthLightIsRefusedUntilAnotherIsSwitchedOff)
     }
     const int before = light.getChangeId();
     EXPECT_FALSE(light.lightSource(9)->setActive(true));
-    EXPECT_TRUE(light.lightSource(3)->setActive(true)) << "a shining light stays on";
+    EXPECT_TRUE(light.lightSource(3)->setActive(true)) << "an active light stays on";
     EXPECT_EQ(light.getChangeId(), before);
     EXPECT_FALSE(light.lightSource(3)->setActive(false));
     EXPECT_TRUE(light.lightSource(9)->setActive(true));
@@ -109,7 +109,7 @@ TEST(SceneLight, removingCountsEachActiveLightAndOnceMore)
     light.createSpotLight();
     before = light.getChangeId();
     light.removeLightSource(3);
-    EXPECT_EQ(light.getChangeId(), before + 1) << "it did not shine";
+    EXPECT_EQ(light.getChangeId(), before + 1) << "it was not active";
 }
 
 TEST(SceneLight, aSourceOutlivesItsSceneLight)
@@ -142,7 +142,8 @@ TEST(SceneLight, ambientScaleDividesTheAmbientIntensityAmongActiveLights)
     }
     light.lightSource(1)->setActive(true);
     light.lightSource(2)->setActive(true);
-    EXPECT_EQ(light.calculateAmbientScale(false, true), 0.6f / 0.5f) << "the spot and the dark light add nothing";
+    EXPECT_EQ(light.calculateAmbientScale(false, true), 0.6f / 0.5f)
+        << "the spotlight and the inactive light add nothing";
     EXPECT_EQ(light.calculateAmbientScale(true, true), 0.6f / 1.5f);
 }
 

@@ -29,7 +29,7 @@ TEST(PickedObjectCollection, keepsEntriesInTheOrderOfTheirCallsWithTheTypesOfThe
         EXPECT_EQ(collection.getPickedObject(i), expected[static_cast<std::size_t>(i)]) << i;
     }
     collection.addPickedPlot(1);
-    EXPECT_EQ(collection.getNumberOfPickedObjects(), 12) << "doubles stay";
+    EXPECT_EQ(collection.getNumberOfPickedObjects(), 12) << "duplicates remain";
     collection.reset();
     EXPECT_EQ(collection.getNumberOfPickedObjects(), 0);
 }

@@ -51,14 +51,14 @@ TEST(SelectionFrustrum, facesOutwardWithOnePairOfCornersSwapped)
 TEST(SelectionFrustrum, classifiesBoxes)
 {
     const SelectionFrustrum frustrum = prism(0.0f, 2.0f, 4.0f, 0.0f);
-    const auto lies = [&](float x0, float x1, float y0, float y1) {
+    const auto classify = [&](float x0, float x1, float y0, float y1) {
         return frustrum.enclosesBoundingBox(BoundingBox(x0, x1, y0, y1, -5.0f, 5.0f));
     };
-    EXPECT_EQ(lies(1, 2, 0.5f, 1.5f), SelectionFrustrum::Inside);
-    EXPECT_EQ(lies(0, 2, 0.5f, 1.5f), SelectionFrustrum::PartlyInside) << "corners on a plane are not inside";
-    EXPECT_EQ(lies(-1, 2, 0.5f, 1.5f), SelectionFrustrum::PartlyInside);
-    EXPECT_EQ(lies(-2, -1, 0.5f, 1.5f), SelectionFrustrum::Outside);
-    EXPECT_EQ(lies(-9, 9, -9, 9), SelectionFrustrum::PartlyInside) << "the frustum lies in the box";
+    EXPECT_EQ(classify(1, 2, 0.5f, 1.5f), SelectionFrustrum::Inside);
+    EXPECT_EQ(classify(0, 2, 0.5f, 1.5f), SelectionFrustrum::PartlyInside) << "corners on a plane are not inside";
+    EXPECT_EQ(classify(-1, 2, 0.5f, 1.5f), SelectionFrustrum::PartlyInside);
+    EXPECT_EQ(classify(-2, -1, 0.5f, 1.5f), SelectionFrustrum::Outside);
+    EXPECT_EQ(classify(-9, 9, -9, 9), SelectionFrustrum::PartlyInside) << "the frustum is inside the box";
     EXPECT_EQ(frustrum.enclosesBoundingBox(BoundingBox()), SelectionFrustrum::Outside);
 }
 

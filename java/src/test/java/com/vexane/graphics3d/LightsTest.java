@@ -181,7 +181,7 @@ class LightsTest {
             light.close();
             scene.close();
             source.setIntensity(3.0f);
-            assertTrue(source.setActive(true), "nobody refuses it");
+            assertTrue(source.setActive(true), "there is no scene light to refuse it");
             source.setPosition(true, 1, 1, 1);
             assertEquals(3.0f, source.getIntensity());
         }
