@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -177,10 +178,9 @@ TEST(PlotData, treatsValuesThatAreNotFiniteAsThePageStates)
 {
     // NaN is written as -1, which is neither a scaled value nor a component of these normals.
     const auto marked = [](const auto& values) {
-        std::vector<double> result;
-        for (const double value : values) {
-            result.push_back(std::isnan(value) ? -1.0 : value);
-        }
+        std::vector<double> result(values.begin(), values.end());
+        std::replace_if(
+            result.begin(), result.end(), [](double value) { return std::isnan(value); }, -1.0);
         return result;
     };
     const auto read = [](Record::PlotKind kind, const std::string& coordinates, const std::string& data) {

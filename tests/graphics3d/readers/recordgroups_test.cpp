@@ -30,27 +30,27 @@ TEST(RecordGroups, leaveTheRecordUnchangedWhicheverAllocationFails)
         // The group before a faulty row.
         {ScenePlotFileReader::readIsoSurfacePlot3dData, "1 2 3\n\n4 5 6\n", false, 1},
     };
-    for (const auto& [read, elements, isRead, numGroups] : cases) {
-        const TemporaryFile file(points + elements + levels);
+    for (const auto& c : cases) {
+        const TemporaryFile file(points + c.elements + levels);
         Record record;
-        read(record, file.path());
+        c.read(record, file.path());
         const Record before = record;
-        bool result = !isRead;
-        const long numFailures = failEachAllocation([&] { result = read(record, file.path()); },
+        bool result = !c.isRead;
+        const long numFailures = failEachAllocation([&] { result = c.read(record, file.path()); },
                                                     [&] {
-                                                        ASSERT_EQ(differenceOf(record, before), "") << elements;
+                                                        ASSERT_EQ(differenceOf(record, before), "") << c.elements;
                                                         // Without the capacity reserved by the failed call.
                                                         record = Record(before);
                                                     });
         EXPECT_GT(numFailures, 20);
-        EXPECT_EQ(result, isRead);
-        EXPECT_EQ(record.m_coordinates.size(), 2 * numGroups);
-        EXPECT_EQ(record.m_elements.size(), 2 * numGroups);
-        EXPECT_EQ(record.m_data.size(), 2 * numGroups);
-        EXPECT_EQ(record.m_dataMin.size(), 2 * numGroups);
-        EXPECT_EQ(record.m_dataMax.size(), 2 * numGroups);
-        EXPECT_EQ(record.m_normals.size(), read == ScenePlotFileReader::readSurfacePlot2d ? 0u : 2 * numGroups);
-        EXPECT_EQ(record.m_bounds != before.m_bounds, isRead);
+        EXPECT_EQ(result, c.isRead);
+        EXPECT_EQ(record.m_coordinates.size(), 2 * c.numGroups);
+        EXPECT_EQ(record.m_elements.size(), 2 * c.numGroups);
+        EXPECT_EQ(record.m_data.size(), 2 * c.numGroups);
+        EXPECT_EQ(record.m_dataMin.size(), 2 * c.numGroups);
+        EXPECT_EQ(record.m_dataMax.size(), 2 * c.numGroups);
+        EXPECT_EQ(record.m_normals.size(), c.read == ScenePlotFileReader::readSurfacePlot2d ? 0u : 2 * c.numGroups);
+        EXPECT_EQ(record.m_bounds != before.m_bounds, c.isRead);
     }
 }
 
