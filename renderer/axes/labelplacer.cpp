@@ -10,7 +10,7 @@
 namespace vxrenderer {
 namespace {
 
-/// Free space between two labels side by side, in units of the font size. Lines may touch above each other.
+/// Free space between two labels side by side, in units of the font size. Lines above each other may touch.
 constexpr float c_labelGap = 0.3f;
 
 } // namespace

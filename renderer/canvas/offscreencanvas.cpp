@@ -297,7 +297,7 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     const Target target(width, height, std::max(1, settings.getMultisampleSetting()));
     const Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
-    // A camera that takes another size may not return to its base, so a copy does.
+    // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;
         const Frame frame = frameOf(copy, look);

@@ -79,7 +79,7 @@ public:
     /// Bytes of the picture.
     std::size_t imageSize() const;
     /// Copies the picture drawn last: four bytes per pixel, red first, the top row first.
-    /// @throws std::invalid_argument if the memory does not have exactly that size
+    /// @throws std::invalid_argument if `numBytes` is not `imageSize()`
     /// @throws std::logic_error if nothing was drawn since the size was given
     void readImage(std::uint8_t* pixels, std::size_t numBytes) const;
     /// The bytes of an image file of the picture drawn last.

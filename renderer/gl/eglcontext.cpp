@@ -47,7 +47,7 @@ std::string failureText(const std::string& reasons)
 ///
 /// A driver that draws with the processor takes some 400 bytes for each triangle and frees them at the end of the
 /// frame. Getting the same pages from the system again with every frame takes up to 15 ms for 100,000 triangles. The C
-/// library keeps up to twice the largest block that the process has freed so far, up to a limit: this is
+/// library keeps up to twice the size of the largest block that the process has freed so far, up to a limit: this is
 /// that block. It costs no memory, as nothing is written to it.
 void keepFreedMemory()
 {
