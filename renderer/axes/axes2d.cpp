@@ -76,7 +76,7 @@ struct Room {
     float toLabels() const { return (c_tickLength + c_gap) * em; }
     /// The same downwards: labels below must pass under a label at the lower end of the left axis.
     float downToLabels() const { return std::max(toLabels(), 0.5f * labelHeight + 0.1f * em); }
-    /// From the area to what stands beyond its tick labels.
+    /// From the area to what is beyond its tick labels.
     float besideLabels() const { return toLabels() + labelWidth + c_gap * em; }
     float belowLabels() const { return downToLabels() + labelHeight + c_gap * em; }
 };
@@ -171,7 +171,7 @@ private:
             scaleOf(toDouble(camera.getActualMinY()), toDouble(camera.getActualMaxY()), toDouble(m_bottom - m_top),
                     m_setup.getYAxisLog(), m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
         const AxisTicks xTicks = makeAxisTicks(x);
-        // In the one-dimensional mode the height of the view means nothing.
+        // In the one-dimensional mode the height of the view has no meaning.
         const AxisTicks yTicks =
             camera.getCameraMode() == Camera2d::ModeOneDimensional ? AxisTicks() : makeAxisTicks(y);
         addTitles(xTicks.exponent, yTicks.exponent);
@@ -209,7 +209,7 @@ private:
         }
     }
 
-    /// The titles, each with the power of ten of its axis; a power without a title stands at the end of the axis.
+    /// The titles, each with the power of ten of its axis; a power without a title is at the end of the axis.
     void addTitles(int xExponent, int yExponent)
     {
         const float below = m_bottom + m_room.belowLabels();
@@ -267,7 +267,8 @@ private:
     float centerX() const { return 0.5f * (m_left + m_right); }
     float centerY() const { return 0.5f * (m_top + m_bottom); }
 
-    /// The place at a part of the outer radius and an angle in degrees; both radii differ if the area is no square.
+    /// The position at a fraction of the outer radius and an angle in degrees; the radii along x and y differ if the
+    /// area is not a square.
     Vector3f at(double part, double degrees) const
     {
         const double angle = degrees * std::numbers::pi / 180.0;
@@ -311,7 +312,7 @@ private:
         }
     }
 
-    /// The lines of equal angle, as close as their labels have room.
+    /// The lines of equal angle, as close as the space for their labels allows.
     void addSpokes(double radius)
     {
         const double room = static_cast<double>(c_spokeDistance * m_room.em);
@@ -380,7 +381,7 @@ private:
         return step;
     }
 
-    /// A line of equal angle, with its label outside of the frame.
+    /// A line of equal angle, with its label outside the frame.
     void addRay(const Pixel& from, const Pixel& to, int degrees)
     {
         const Vector3f end = pointOf(to);

@@ -27,7 +27,7 @@ struct Axes2dLayout {
 ///
 /// The camera says how the area is filled: in polar mode a round view whose centre is the inner radial limit, at equal
 /// scales, so its area has to be a square. Where the setup alone is polar, the view keeps its limits in x and y and has
-/// circles and rays about the origin. Angles are in degrees, counted from the right against the clock.
+/// circles and rays about the origin. Angles are in degrees, counted counter-clockwise from the right.
 struct Axes2dInput {
     const vxgraphics3d::Camera2d& camera;
     const vxgraphics3d::AxisSetup& setup;
@@ -38,12 +38,12 @@ struct Axes2dInput {
     int digits = 4;
 };
 
-/// The room that tick labels and titles need around the area. It follows from titles, kind of axes, digits and font
-/// alone, not from the limits in sight: limits follow the shape of the area, and both would chase each other.
+/// The space that tick labels and titles need around the area. It follows from titles, kind of axes, digits and font
+/// alone, not from the visible limits: these follow the shape of the area, so that both would depend on each other.
 AxisMargins axes2dMargins(const Axes2dInput& input, const AxisMetrics& metrics);
 
 /// The area that the axes leave to the camera in a part of the picture; in polar mode a square in the middle. It is
-/// empty if there is no room.
+/// empty if there is no space.
 PixelArea axes2dArea(const Axes2dInput& input, const PixelArea& room, const AxisMetrics& metrics);
 
 /// The axes around the area that the camera draws to. Labels that would leave the picture, and ticks of an axis without

@@ -10,15 +10,15 @@ namespace vxrenderer {
 namespace {
 
 constexpr int c_mostTicks = 100;
-/// So many wanted ticks give one for certain.
+/// Asking for this many ticks gives at least one for certain.
 constexpr int c_fewestTicks = 3;
 /// Without two labels an axis has no scale.
 constexpr std::size_t c_fewestLabels = 2;
 /// Finer ticks, which come closer to the ends, for scales on which coarse ones leave fewer labels.
 constexpr int c_finerTicks[] = {5, 10, 20};
-/// Lines are at least so many pixels apart.
+/// The smallest distance of lines in pixels.
 constexpr double c_closestLines = 4.0;
-/// Below so many decades a logarithmic scale shows numbers instead of powers.
+/// With fewer decades than this, a logarithmic scale shows numbers instead of powers.
 constexpr double c_fewDecades = 2.0;
 /// Decimal logarithms of numbers that a double holds.
 constexpr double c_largestLog = 300.0;
@@ -70,7 +70,7 @@ private:
         return {tick.position * m_pixels - half, tick.position * m_pixels + half};
     }
 
-    /// Every how manyth label of some ticks is kept, and from which one on.
+    /// Which labels of some ticks are kept: every n-th one, and from which one on.
     struct Thinning {
         std::size_t step = 0;
         std::size_t first = 0;
@@ -81,7 +81,7 @@ private:
         bool keepsAll() const { return step == 1; }
     };
 
-    /// As many labels as have space beside each other.
+    /// As many labels as have space next to each other.
     Thinning thinningOf(const std::vector<AxisTick>& ticks) const
     {
         std::vector<Interval> labels;
@@ -131,7 +131,7 @@ private:
         return thinning.keepsAll();
     }
 
-    /// Takes over ticks that are finer than all before if only they leave the labels that a scale needs.
+    /// Takes over ticks that are finer than all before if they alone leave the labels that a scale needs.
     void takeFiner(std::vector<AxisTick> ticks, int exponent = 0)
     {
         if (!m_isScale && thinningOf(ticks).isScale()) {
@@ -337,7 +337,7 @@ private:
         }
     }
 
-    /// Takes the labels away that still overlap, those of extra places last.
+    /// Removes the labels that still overlap, those of extra positions last.
     void thinOut()
     {
         std::vector<Interval> taken;

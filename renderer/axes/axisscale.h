@@ -6,15 +6,15 @@
 
 namespace vxrenderer {
 
-/// What a straight scale shows, and how much room it has.
+/// What a straight scale shows, and how much space it has.
 struct AxisScale {
-    /// The ends, as the view counts them: of a logarithmic scale the decimal logarithms.
+    /// The ends in the units of the view: decimal logarithms for a logarithmic scale.
     double low = 0.0;
     double high = 1.0;
     bool isLog = false;
-    /// Distance of lines in data units, 0 for one that suits the room. Logarithmic scales choose their own.
+    /// Distance of lines in data units, 0 for one that suits the space. Logarithmic scales choose their own.
     double spacing = 0.0;
-    /// Further places of lines, in data units also on a logarithmic scale.
+    /// Further positions of lines, in data units also on a logarithmic scale.
     std::vector<double> extra;
     /// Significant digits of a label.
     int digits = 4;
@@ -22,13 +22,13 @@ struct AxisScale {
     double length = 0.0;
     /// Distance in pixels that suits neighbouring labels well.
     double tickDistance = 70.0;
-    /// What a label takes along the scale in pixels, with the room to the next one.
+    /// What a label takes along the scale in pixels, including the gap to the next one.
     std::function<double(const std::string& markup)> labelLength;
 };
 
-/// A place on a scale where a line crosses.
+/// A position on a scale where a line crosses it.
 struct AxisTick {
-    /// As the view counts: of a logarithmic scale the decimal logarithm.
+    /// In the units of the view: the decimal logarithm for a logarithmic scale.
     double position;
     /// In title markup, empty for a line without a label.
     std::string label;
@@ -42,14 +42,14 @@ struct AxisTicks {
     int exponent = 0;
 };
 
-/// Ticks whose labels have room beside each other.
+/// Ticks whose labels have space next to each other.
 ///
 /// Linear scales take multiples of 1, 2 or 5 times a power of ten, or of the spacing; where that gives more than one
 /// line every four pixels, of a whole multiple of it. A spacing of which fewer than two multiples are in sight is not
 /// used. Logarithmic scales take decades, every second, fifth and so on where there are many, with minor lines between
 /// them; where few decades are in sight they take plain numbers. At least two ticks are labelled wherever two labels
-/// have space. Extra places come first where labels would overlap. Ends that are not finite or not in rising order, and
-/// a scale without length, give none.
+/// have space. Extra positions take precedence where labels would overlap. Ends that are not finite or not in rising
+/// order, and a scale without length, give none.
 AxisTicks makeAxisTicks(const AxisScale& scale);
 
 } // namespace vxrenderer

@@ -84,7 +84,7 @@ struct AxisTickSet {
         double tick;
     };
     std::vector<Label> labels;
-    /// Every how manyth label was kept so that they have space beside each other; 0 if no two of them have.
+    /// Every n-th label was kept so that they have space next to each other; 0 if no two of them do.
     std::size_t step = 0;
     /// How far the labels reach out from the edge.
     double reach = 0.0;
@@ -184,7 +184,7 @@ private:
                (b == Facing::edgeOn && a == Facing::behind);
     }
 
-    /// The edge that the labels of an axis stand along.
+    /// The edge that the labels of an axis are placed along.
     void findEdge(std::size_t axis)
     {
         if (!m_isWhole || isFlat(axis)) {
@@ -204,7 +204,7 @@ private:
             edge.outward = Pixel{along.y, -along.x} * (1.0 / along.length());
             edge.visible = visiblePart(edge.from, edge.to, m_area);
             turnOutward(edge);
-            // Below is best, left is next; what lies outside of the picture is worst.
+            // Below is best, left is next; what lies outside the picture is worst.
             const double preference = 0.92 * edge.outward.y - 0.4 * edge.outward.x;
             const double score = preference + 4.0 * std::min(edge.visible.length(), 0.5);
             if (score > best && edge.visible.length() * along.length() >= c_shortestAxis * m_em) {
@@ -238,7 +238,7 @@ private:
         return longest;
     }
 
-    /// Chooses ticks whose labels have space beside each other, at least two of them if two fit, and lays the labels
+    /// Chooses ticks whose labels have space next to each other, at least two of them if two fit, and lays the labels
     /// out.
     void addTicks(std::size_t index)
     {
@@ -273,7 +273,7 @@ private:
         }
     }
 
-    /// About so many ticks of an axis, with as many of their labels as have space beside each other.
+    /// About `aboutCount` ticks of an axis, with as many of their labels as have space next to each other.
     AxisTickSet tickSet(std::size_t index, int aboutCount) const
     {
         const Ticks ticks = makeTicks(m_low[index], m_high[index], aboutCount, m_input.digits);
@@ -331,7 +331,7 @@ private:
         set.labels.push_back({label, *place, point[index]});
     }
 
-    /// Moves a label to where its rectangle just touches a line beside an edge.
+    /// Moves a label to where its rectangle just touches a line next to an edge.
     /// @return the extent of the label at right angles to the edge
     double moveOut(AxisLabel& label, const Pixel& from, const Pixel& outward, double distance) const
     {
@@ -396,7 +396,7 @@ private:
         }
     }
 
-    /// Names come first, then the numbers, those of the longest axis ahead.
+    /// Names come first, then the numbers, those of the longest axis first.
     void addLabels()
     {
         std::vector<std::pair<double, std::size_t>> order;

@@ -22,7 +22,7 @@ struct GridBoxLayout {
     std::vector<AxisLine> edges;
     /// In pixels, from an edge on the outline of the box outwards.
     std::vector<AxisLine> ticks;
-    /// Outside of the outline of the box. Titles are the names of the axes.
+    /// Outside the outline of the box. Titles are the names of the axes.
     std::vector<AxisLabel> labels;
 };
 
@@ -37,7 +37,7 @@ struct GridBoxInput {
     int digits = 3;
 };
 
-/// The room that labels need around a box that fills its area. It follows from names, digits and font alone; a name
+/// The space that labels need around a box that fills its area. It follows from names, digits and font alone; a name
 /// with a power of ten may reach further.
 AxisMargins gridBoxMargins(const GridBoxInput& input, const AxisMetrics& metrics);
 

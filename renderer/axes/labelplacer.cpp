@@ -10,7 +10,7 @@
 namespace vxrenderer {
 namespace {
 
-/// Free room between two labels side by side, in units of the font size. Lines may stand on top of each other.
+/// Free space between two labels side by side, in units of the font size. Lines above each other may touch.
 constexpr float c_labelGap = 0.3f;
 
 } // namespace

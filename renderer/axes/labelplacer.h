@@ -29,12 +29,12 @@ LabelSize sizeOfMarkup(const std::string& markup, TextMetrics& metrics, float ro
 /// Where a label lies in the picture.
 LabelRect rectOf(const AxisLabel& label, const AxisMetrics& metrics);
 
-/// Collects labels that leave room between each other: whoever comes first stays.
+/// Collects labels with space between them: of two that are too close, the first one stays.
 class LabelPlacer {
 public:
     explicit LabelPlacer(const AxisMetrics& metrics) : m_metrics(metrics) {}
 
-    /// Takes a label, unless its text is empty, its place is not finite, or it would come too close to another one.
+    /// Takes a label, unless its text is empty, its position is not finite, or it would come too close to another one.
     bool place(const AxisLabel& label);
 
     const std::vector<AxisLabel>& getLabels() const { return m_labels; }

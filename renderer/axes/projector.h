@@ -18,7 +18,7 @@ using Point = std::array<double, 3>;
 
 bool isFinite(const Point& point);
 
-/// A place in the picture, or a direction, in pixels from its top left corner.
+/// A position in the picture, or a direction, in pixels from its top left corner.
 struct Pixel {
     double x;
     double y;
@@ -30,7 +30,7 @@ struct Pixel {
     double length() const { return std::hypot(x, y); }
 };
 
-/// Where the points of the world are seen in an area of the picture, as a camera stands at the moment.
+/// Where the points of the world are seen in an area of the picture, with the current state of a camera.
 class Projector {
 public:
     Projector(const vxgraphics3d::ICameraTransforms& camera, const PixelArea& area);
@@ -41,9 +41,9 @@ public:
     /// Where a point is seen; nothing for one that is not in front of the eye, or too far out to tell pixels apart.
     std::optional<Pixel> pixelOf(const Point& point) const;
 
-    /// The sine of the angle under which a face of a box is seen from outside; negative where it is seen from within.
+    /// The sine of the angle at which a face of a box is seen from outside; negative where it is seen from within.
     /// @param axis the normal of the face: 0 to 2
-    /// @param isHigh which of both faces of the axis
+    /// @param isHigh which of the two faces of the axis
     /// @param coordinate of the face, on the axis
     /// @param center of the box
     double sineOfView(std::size_t axis, bool isHigh, double coordinate, const Point& center) const;

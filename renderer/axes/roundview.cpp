@@ -56,7 +56,7 @@ std::optional<Pixel> RoundView::exit(double degrees) const
     double from = 0.0;
     double to = HUGE_VAL;
     const auto clip = [&](double start, double along, double low, double high) {
-        // A ray that runs along the border, but for rounding, stays within.
+        // A ray that runs along the border, except for rounding, stays within.
         if (std::abs(along) < 1e-9 * step.length()) {
             to = start < low || start > high ? -1.0 : to;
             return;

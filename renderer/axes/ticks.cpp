@@ -151,7 +151,7 @@ Ticks makeTicks(double end, double otherEnd, int aboutCount, int digits)
     }
     if (const std::int64_t longest = range.farthest() * step.mantissa; longest > 0) {
         const int magnitude = step.exponent + static_cast<int>(std::to_string(longest).size()) - 1;
-        // Below 1, zeros behind the point take the place of digits.
+        // Below 1, zeros after the point take the place of digits.
         const bool fits = magnitude >= 0 || -step.exponent <= digits;
         result.exponent = isOrdinary(magnitude, digits) && fits ? 0 : magnitude;
     }

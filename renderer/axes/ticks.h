@@ -40,7 +40,7 @@ inline constexpr int c_mostMultiples = 10000;
 /// A label as wide as those of `makeTicks` get as long as their digits suffice.
 std::string widestLabel(int digits);
 
-/// A number with so many significant digits at most, in title markup: `1.5`, `2.5\times10^{-7}`.
+/// A number with at most the given number of significant digits, in title markup: `1.5`, `2.5\times10^{-7}`.
 std::string numberText(double value, int digits = 6);
 
 /// A power of ten in title markup: `10^{-7}`.

@@ -39,7 +39,7 @@ std::string text(GLenum name)
     return value == nullptr ? "" : static_cast<const char*>(static_cast<const void*>(value));
 }
 
-/// The one place of what the driver says of itself.
+/// The only copy of what the driver reports about itself.
 class GlMonitorInfo : public RendererInfo::MonitorInfo {
 public:
     explicit GlMonitorInfo(const std::string& platform)
@@ -120,7 +120,7 @@ boost::shared_ptr<RendererInfo> GlRendererInfo::ofProcess()
             const EglContext::Current current(context);
             announce(context.getPlatform());
         } catch (const std::exception& e) {
-            // Asked again when it is wanted again: what was missing may have come meanwhile.
+            // Asked again when it is wanted again: what was missing may have become available meanwhile.
             boost::shared_ptr<RendererInfo> failure = ofFailure(e.what());
             Canvas3dGlobalSettings::setRendererInfo(failure);
             return failure;

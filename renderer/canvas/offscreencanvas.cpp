@@ -26,7 +26,7 @@ namespace {
 
 using namespace vxgraphics3d;
 
-/// A box is not made smaller than this part of its area to make room for labels.
+/// A box is not made smaller than this part of its area to leave space for labels.
 constexpr float c_smallestPart = 0.5f;
 
 /// How much larger a view has to be, so that what fills the area fills its inner part.
@@ -56,14 +56,14 @@ void showTheSame(Camera3d& copy, const Camera3d& camera)
     }
 }
 
-/// Whether a range of the view, from border to border, contains that of another view but for rounding.
+/// Whether a range of the view, from border to border, contains that of another view except for rounding.
 bool contains(float min, float max, float otherMin, float otherMax)
 {
     const float slack = 1e-4f * (otherMax - otherMin);
     return min <= otherMin + slack && max >= otherMax - slack;
 }
 
-/// The same for a flat view, which besides never shows less: an area of another shape may cut limits off.
+/// The same for a flat view, which in addition never shows less: an area of another shape may cut limits off.
 void showTheSame(Camera2d& copy, const Camera2d& camera)
 {
     const bool showsAll =
@@ -297,7 +297,7 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     const Target target(width, height, std::max(1, settings.getMultisampleSetting()));
     const Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
-    // A camera that takes another size may not find back to its base, so a copy does.
+    // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;
         const Frame frame = frameOf(copy, look);

@@ -31,19 +31,19 @@ class Target;
 /// How much work goes into a picture.
 enum class Quality {
     full,
-    /// For a picture that the next one replaces at once, as while the user drags the scene: one sample a pixel, so
-    /// edges are jagged. Everything is at the same place as in the full picture.
+    /// For a picture that the next one replaces at once, as while the user drags the scene: one sample per pixel, so
+    /// edges are jagged. Everything is at the same position as in the full picture.
     draft
 };
 
-/// A view of a scene that no screen shows: what a Java OffscreenRenderer stands for.
+/// A view of a scene that no screen shows: what a Java OffscreenRenderer represents.
 ///
-/// It owns the drawing context and everything that lives in it, the settings of the view with its cameras, and shares
-/// in the scene that it shows. The settings start as new ones do, but on white. Calls may come from any thread, one at
-/// a time, and never while the scene is being changed.
+/// It owns the drawing context and everything that lives in it, the settings of the view with its cameras, and a
+/// reference to the scene that it shows. The settings start as new ones do, but with a white background. Calls may come
+/// from any thread, one at a time, and never while the scene is being changed.
 class VX_API OffscreenCanvas : public vxgraphics3d::IRendererCanvas {
 public:
-    /// @param samples a pixel against jagged edges, 1 for none; reduced to what the driver has. With 0 the picture
+    /// @param samples per pixel against jagged edges, 1 for none; reduced to what the driver has. With 0 the picture
     /// follows the multisample setting of the process
     /// @throws std::invalid_argument for a size below 1 or beyond what the driver allows
     /// @throws std::runtime_error if there is no drawing context, saying what is missing, or no font
@@ -65,11 +65,11 @@ public:
     int getHeight() const;
     int getSamples() const;
 
-    /// Shows a scene, or nothing for null. The canvas drops its share when it finds the scene disposed. The scene that
-    /// it shows already keeps its settings.
+    /// Shows a scene, or nothing for null. The canvas drops its reference when it finds the scene disposed. The scene
+    /// that it shows already keeps its settings.
     void setScene(const boost::shared_ptr<vxgraphics3d::Scene>& scene);
 
-    /// Looks at the whole scene with the camera of the present mode: a 3D camera keeps its direction and turns about
+    /// Looks at the whole scene with the camera of the current mode: a 3D camera keeps its direction and turns about
     /// the middle of the scene from now on. Without a scene, or with one that is empty, nothing happens.
     void zoomExtents();
 
@@ -78,8 +78,8 @@ public:
     void draw(Quality quality = Quality::full);
     /// Bytes of the picture.
     std::size_t imageSize() const;
-    /// Copies the picture drawn last: four bytes a pixel, red first, the top row first.
-    /// @throws std::invalid_argument if there is not exactly the room for it
+    /// Copies the picture drawn last: four bytes per pixel, red first, the top row first.
+    /// @throws std::invalid_argument if `numBytes` is not `imageSize()`
     /// @throws std::logic_error if nothing was drawn since the size was given
     void readImage(std::uint8_t* pixels, std::size_t numBytes) const;
     /// The bytes of an image file of the picture drawn last.
@@ -95,7 +95,7 @@ public:
     const UploadCounts& getUploadCounts() const;
     /// How the scene was seen in the picture drawn last.
     const View& getView() const { return m_view; }
-    /// Which way to a drawing context worked, and who draws.
+    /// How the drawing context was obtained, and which driver draws.
     std::string getDriver() const;
 
 private:

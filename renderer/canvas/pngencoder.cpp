@@ -86,7 +86,7 @@ png_text textField(const char* key, const std::string& value)
     return text;
 }
 
-/// Between the jump's origin and its end stand no objects that would have to be destroyed.
+/// There are no objects between the jump's origin and its end that would have to be destroyed.
 bool encode(const Encoder& encoder, const std::uint8_t* rgba, int width, int height, const PngSettings& settings,
             png_text* texts, int numTexts)
 {

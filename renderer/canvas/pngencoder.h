@@ -6,7 +6,7 @@
 
 namespace vxrenderer {
 
-/// What is written into an image file beside its pixels. Texts are UTF-8; empty ones are left out.
+/// What is written into an image file in addition to its pixels. Texts are UTF-8; empty ones are left out.
 struct PngSettings {
     /// Pixels per inch for the physical size; 0 for none.
     int dpi = 0;
@@ -16,8 +16,8 @@ struct PngSettings {
     std::string creator;
 };
 
-/// The bytes of a PNG file with 8 bits a channel.
-/// @param rgba four bytes a pixel, the top row first
+/// The bytes of a PNG file with 8 bits per channel.
+/// @param rgba four bytes per pixel, the top row first
 /// @throws std::invalid_argument if a size is below 1, or the dpi negative or above a million
 /// @throws std::runtime_error if the encoder fails
 std::vector<std::uint8_t> encodePng(const std::uint8_t* rgba, int width, int height, const PngSettings& settings);

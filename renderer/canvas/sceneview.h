@@ -9,7 +9,8 @@ class SceneSettings;
 
 namespace vxrenderer {
 
-/// What a canvas keeps for the scene that it shows: a share of it, and the settings that the scene made for this view.
+/// What a canvas keeps for the scene that it shows: a reference to it, and the settings that the scene made for this
+/// view.
 ///
 /// Its destructor does not change the scene, since a lost canvas may be destroyed on any thread: the settings then stay
 /// with the scene. Call `disconnect` to remove them.

@@ -43,7 +43,7 @@ public:
 
     /// What lies behind the data. The viewport is the area of the scene.
     void drawBehind(const LinePainter& painter) const;
-    /// A trace of the grid over the data of a flat view, which would hide it altogether. The viewport is the area of
+    /// A trace of the grid over the data of a flat view, which would hide it completely. The viewport is the area of
     /// the scene.
     void drawOver(const LinePainter& painter) const;
     /// What lies around the data. The viewport is the whole picture.
@@ -62,7 +62,7 @@ private:
     float m_scale;
     vxgraphics3d::Color m_gridColor;
     vxgraphics3d::Color m_labelColor;
-    /// Stands around labels that may lie on the data.
+    /// Drawn around labels that may lie on the data.
     vxgraphics3d::Color m_haloColor;
     bool m_hasHalo;
     /// In world coordinates of a 3D view, in pixels of a 2D one.

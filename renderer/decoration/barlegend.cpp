@@ -24,7 +24,7 @@ constexpr Color c_frame = {70, 70, 70, 255};
 constexpr float c_barWidth = 1.3f;
 constexpr float c_tickLength = 0.3f;
 constexpr float c_labelGap = 0.3f;
-/// Below the title, which stands clear of a label at the top of the bar.
+/// Below the title, which keeps clear of a label at the top of the bar.
 constexpr float c_headGap = 0.9f;
 /// Height of the bar for each tick.
 constexpr float c_tickDistance = 2.6f;

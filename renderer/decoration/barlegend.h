@@ -8,7 +8,7 @@
 
 namespace vxrenderer {
 
-/// The legend of a continuous scale: a bar with the part of the colour table that is in use, round values beside it,
+/// The legend of a continuous scale: a bar with the part of the colour table that is in use, round values next to it,
 /// and above it the title of the plot and the power of ten that the values have to be multiplied by.
 class BarLegend : public Legend {
 public:

@@ -21,12 +21,12 @@ struct LegendStyle {
     /// Whether the smallest and the largest value of the data appear below and above the bar.
     bool showMinMax = false;
     bool showTitle = true;
-    /// Significant digits of numbers beside the bar, and of the smallest and the largest value.
+    /// Significant digits of numbers next to the bar, and of the smallest and the largest value.
     int tickDigits = 5;
     int minMaxDigits = 5;
 };
 
-/// The legend of one plot, beside the scene.
+/// The legend of one plot, next to the scene.
 ///
 /// It is laid out first, which gives the space that it takes, and drawn afterwards.
 class Legend {
@@ -35,7 +35,7 @@ public:
 
     virtual float getWidth() const = 0;
     /// Space for the lines above the colours. Legends side by side take the largest of them, so that their colours
-    /// begin at one height.
+    /// begin at the same height.
     virtual float getHeadHeight() const = 0;
 
     /// @param style the one that it was laid out with

@@ -11,7 +11,7 @@ namespace vxrenderer {
 struct LegendScale {
     double lowerValue = 0.0;
     double upperValue = 1.0;
-    /// Place in the colour table, 0 to 1, at the lower and at the upper end of the bar.
+    /// Position in the colour table, 0 to 1, at the lower and at the upper end of the bar.
     float lowerColor = 0.0f;
     float upperColor = 1.0f;
 

@@ -57,7 +57,7 @@ bool isInView(const Matrixf& projection, const Vector3f& eye)
            std::abs(clip.z) <= 1.0f;
 }
 
-/// How far from the middle of the scene the arrow of a direction light starts, in radii: outside of the scene if the
+/// How far from the middle of the scene the arrow of a direction light starts, in radii: outside the scene if the
 /// view reaches that far.
 float arrowStart(const Matrixf& projection, const Vector3f& center, const Vector3f& from, float radius)
 {

@@ -21,8 +21,8 @@ struct LightMarker {
 };
 
 /// The signs of all lights whose marker is visible: an arrow from the direction of a direction light, a star for a
-/// point light, a star and a cone for a spotlight. The arrow starts outside of the scene, or nearer to it where the
-/// view ends before. Lights that do not shine are grey.
+/// point light, a star and a cone for a spotlight. The arrow starts outside the scene, or nearer to it where the view
+/// ends earlier. Lights that do not shine are grey.
 /// @param box of the scene, which sets the size of the signs
 std::vector<LightMarker> lightMarkers(const vxgraphics3d::SceneLight& light, const vxgraphics3d::BoundingBox& box,
                                       const vxgraphics3d::ICameraTransforms& camera);

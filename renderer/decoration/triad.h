@@ -16,7 +16,7 @@ struct Triad {
     struct Axis {
         /// Shaft and arrow head.
         std::vector<LineSegment> lines;
-        /// Where the middle of the letter stands.
+        /// The middle of the letter.
         float letterX;
         float letterY;
         /// 0 to 2 for x, y and z.

@@ -38,7 +38,7 @@ int pixelsOf(int points, float pixelsPerInch)
     return std::max(1, static_cast<int>(std::lround(static_cast<float>(points) * pixelsPerInch / c_pointsPerInch)));
 }
 
-/// The settings that hold the font of a kind of text: some belong to the canvas, the others to the scene.
+/// The settings that hold the font of a kind of text: some belong to the canvas, others to the scene.
 const FontSetting& fontSetting(TextItem item, const Canvas3dSettings& canvas, const SceneSettings* scene)
 {
     switch (item) {

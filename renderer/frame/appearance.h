@@ -46,7 +46,7 @@ struct Appearance {
     struct Backdrop {
         vxgraphics3d::Color top;
         vxgraphics3d::Color bottom;
-        /// Stands over the colours, or null.
+        /// The image over the colours, or null.
         boost::shared_ptr<const vxgraphics3d::CanvasBackgroundImage> image;
         vxgraphics3d::Canvas3dBackgroundSettings::HorizontalPosition horizontal{};
         vxgraphics3d::Canvas3dBackgroundSettings::VerticalPosition vertical{};
@@ -54,7 +54,7 @@ struct Appearance {
 
     /// Pixels of the picture in an inch.
     float pixelsPerInch = 72.0f;
-    /// Size of the picture beside the one on the screen, which images and thin lines follow.
+    /// Size of the picture relative to the one on the screen, which images and thin lines follow.
     float scale = 1.0f;
     std::array<Font, vxgraphics3d::c_numTextItems> fonts;
     Backdrop backdrop;
@@ -74,8 +74,8 @@ struct Appearance {
     float millimetres(float length) const { return length * pixelsPerInch / 25.4f; }
     /// Black or white, whichever can be read on the background.
     vxgraphics3d::Color textColor() const;
-    /// A colour chosen by the user, or `textColor` where it could not be told from the background: that of an export is
-    /// not the one that the colour was chosen for.
+    /// A colour chosen by the user, or `textColor` where it could not be distinguished from the background: that of an
+    /// export is not the one that the colour was chosen for.
     vxgraphics3d::Color readable(const vxgraphics3d::Color& wanted) const;
 
     /// The picture on the screen.

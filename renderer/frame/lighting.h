@@ -21,7 +21,7 @@ struct Lighting {
     /// All ambient light together.
     Vec4 ambient{};
     std::size_t numLights = 0;
-    /// The direction to the light, of length 1 and with 0 behind it, or its place and 1.
+    /// The unit vector to the light and 0, or its position and 1.
     std::array<Vec4, c_maxLights> places{};
     std::array<Vec4, c_maxLights> diffuse{};
     std::array<Vec4, c_maxLights> specular{};

@@ -11,10 +11,11 @@ class SpotLightSource;
 
 namespace vxrenderer {
 
-/// Where lights stand for the eye of a camera, by which they shine and by which their markers are drawn.
+/// Positions and directions of lights for the eye of a camera, used for shading and for drawing their markers.
 ///
-/// A light in the world stands beside the things of the scene, also where the axes are stretched, and a spotlight goes
-/// on shining at them. A direction light comes from one side of the picture whatever the axes are: it has no place.
+/// A light in the world stays next to the things of the scene, also where the axes are stretched, and a spotlight goes
+/// on shining at them. A direction light comes from one side of the picture for any scale of the axes: it has no
+/// position.
 class LightPlaces {
 public:
     /// @param camera outlives this
@@ -22,8 +23,8 @@ public:
 
     /// A point of the world.
     vxgraphics3d::Vector3f toEye(const vxgraphics3d::Vector3f& world) const;
-    /// Where a light with this position stands. That of a light locked to the camera counts from the point which the
-    /// camera turns about.
+    /// Where a light with this position is. The position of a light locked to the camera is relative to the point that
+    /// the camera turns about.
     vxgraphics3d::Vector3f place(const vxgraphics3d::LightSource& light, const vxgraphics3d::Vector3f& position) const;
     /// The unit vector to a direction light; of length 0 for one without a direction.
     vxgraphics3d::Vector3f direction(const vxgraphics3d::DirectionLightSource& light) const;

@@ -9,8 +9,8 @@ class ICameraTransforms;
 
 namespace vxrenderer {
 
-/// What brings a point of clip space nearer to the eye and leaves it at its place in the picture: z and w grow by these
-/// for each unit of w, and the place is then taken by the former w.
+/// What brings a point of clip space nearer to the eye and leaves it at its position in the picture: z and w grow by
+/// these for each unit of w, and the position in the picture is then found with the former w.
 struct DepthShift {
     float z = 0.0f;
     float w = 0.0f;
@@ -34,7 +34,7 @@ struct View {
     /// depth.
     DepthShift aboveFaces(float lineWidth) const;
 
-    /// The present view of a camera that draws to an area.
+    /// The current view of a camera that draws to an area.
     /// @param isFlat whether it is the camera of a 2D view
     static View of(const vxgraphics3d::ICameraTransforms& camera, const PixelArea& area, bool isFlat);
 };

@@ -47,12 +47,12 @@ std::string failureText(const std::string& reasons)
 ///
 /// A driver that draws with the processor takes some 400 bytes for each triangle and frees them at the end of the
 /// frame. Getting the same pages from the system again with every frame takes up to 15 ms for 100,000 triangles. The C
-/// library keeps as much as the double of the largest block that the process has freed so far, up to a limit: this is
+/// library keeps up to twice the size of the largest block that the process has freed so far, up to a limit: this is
 /// that block. It costs no memory, as nothing is written to it.
 void keepFreedMemory()
 {
     constexpr std::size_t c_largestBlock = (std::size_t(32) << 20) - (std::size_t(64) << 10);
-    // Volatile, since a compiler may drop a pair of calls of no use.
+    // Volatile, as a compiler may remove a pair of calls without effect.
     void* volatile block = std::malloc(c_largestBlock);
     std::free(block);
 }

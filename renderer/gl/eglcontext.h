@@ -6,12 +6,12 @@ namespace vxrenderer {
 
 /// An OpenGL 3.3 core context without a window.
 ///
-/// The platform without surfaces is tried first, then every graphics device; neither needs a screen. A context belongs
-/// to one thread at a time: everything that draws holds a `Current` for its length, and no longer, so that the calls of
+/// The surfaceless platform is tried first, then every graphics device; neither needs a screen. A context belongs
+/// to one thread at a time: everything that draws holds a `Current` while it draws, and no longer, so that the calls of
 /// one renderer may come from any thread as long as they do not overlap.
 class EglContext {
 public:
-    /// Makes a context current for the length of a scope and brings back the one before.
+    /// Makes a context current within a scope and restores the previous one at its end.
     class Current {
     public:
         /// @throws std::runtime_error if the context is in use on another thread
@@ -41,7 +41,7 @@ public:
 private:
     bool create(void* display, const std::string& platform, std::string& reasons);
 
-    /// Displays are shared by the whole process and stay initialised: closing one would close it for everybody.
+    /// Displays are shared by the whole process and stay initialised: closing one would close it for all users.
     void* m_display = nullptr;
     void* m_context = nullptr;
     std::string m_platform;

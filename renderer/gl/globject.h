@@ -77,7 +77,7 @@ private:
     GLuint m_name = 0;
 };
 
-/// A place within a bound buffer, in bytes, in the form that the graphics interface takes it.
+/// An offset in a bound buffer, in bytes, in the form that the graphics interface takes.
 inline const void* offsetPointer(std::ptrdiff_t bytes)
 {
     return std::bit_cast<const void*>(bytes);

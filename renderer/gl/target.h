@@ -6,16 +6,16 @@
 
 namespace vxrenderer {
 
-/// The buffers that a picture is drawn into: one with several samples a pixel for the scene, and a plain one that the
+/// The buffers that a picture is drawn into: one with several samples per pixel for the scene, and a plain one that the
 /// scene is resolved to and that text and legends are drawn over.
 class Target {
 public:
-    /// Pixels that a picture may have at most; beyond it the buffers would take the memory of the process.
+    /// The most pixels that a picture may have; with more, the buffers would use up the memory of the process.
     static constexpr std::int64_t c_largestPixelCount = std::int64_t(1) << 26;
 
-    /// @param samples a pixel, 1 for none; more than the driver has are reduced to what it has
+    /// @param samples per pixel, 1 for none; more than the driver has are reduced to what it has
     /// @throws std::invalid_argument if a size is below 1 or above what the driver allows
-    /// @throws std::runtime_error if the driver does not give the buffers
+    /// @throws std::runtime_error if the driver cannot provide the buffers
     Target(int width, int height, int samples);
 
     int getWidth() const { return m_width; }
@@ -25,12 +25,12 @@ public:
 
     /// Lets what follows draw into the scene buffer, or ask about it.
     void bindScene() const;
-    /// Lets what follows draw into the scene buffer, whose depths are cleared and whose colours are anything.
+    /// Lets what follows draw into the scene buffer, whose depths are cleared and whose colours are undefined.
     void beginScene() const;
     /// Brings the scene into the plain buffer and lets what follows draw over it.
     void beginOverlay() const;
-    /// Copies the plain buffer out: four bytes a pixel, red first, the top row first.
-    /// @param pixels room for 4 * width * height bytes
+    /// Copies the plain buffer out: four bytes per pixel, red first, the top row first.
+    /// @param pixels space for 4 * width * height bytes
     void read(std::uint8_t* pixels) const;
 
 private:

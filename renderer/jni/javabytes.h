@@ -18,7 +18,7 @@ struct JavaBytes {
 JavaBytes directBytes(JNIEnv* env, jobject buffer);
 
 /// A Java array of these bytes.
-/// @throws vxbase::JavaExceptionPending if the virtual machine does not have the room
+/// @throws vxbase::JavaExceptionPending if the virtual machine does not have the memory
 jbyteArray toJavaNew(JNIEnv* env, const std::vector<std::uint8_t>& bytes);
 
 } // namespace vxrenderer

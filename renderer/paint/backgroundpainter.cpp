@@ -134,7 +134,7 @@ void BackgroundPainter::drawImage(const Appearance::Backdrop& backdrop, int widt
     const Image& pixels = *image.getImage(image.getMinLevel());
     glActiveTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, m_texture.name());
-    // An image counts no changes, so the one that was loaded for the last frame may be another one.
+    // An image has no change number, so the one that was loaded for the last frame may differ.
     load(image);
 
     // Half as many pixels come with half the scale and take the same space. An image without a scale counts as one of

@@ -13,7 +13,7 @@ class BackgroundPainter {
 public:
     BackgroundPainter();
 
-    /// Fills the whole picture, which is the present viewport.
+    /// Fills the whole picture, which is the current viewport.
     /// @param scale pixels of the picture that a pixel of the image takes in each direction
     void draw(const Appearance::Backdrop& backdrop, int width, int height, float scale) const;
 

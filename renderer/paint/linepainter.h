@@ -26,7 +26,7 @@ class LinePainter {
 public:
     /// Where lines go, and how wide they are.
     struct Frame {
-        /// From the points to the present viewport.
+        /// From the points to the current viewport.
         vxgraphics3d::Matrixf toClip;
         /// Size of the viewport in pixels.
         int width;

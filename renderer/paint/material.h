@@ -18,7 +18,7 @@ std::array<float, 4> channelsOf(const vxgraphics3d::Color& color);
 ///
 /// With u the texture coordinate, 0 to 1 over the range of the data, l = mix(dataTex, u) is the position on the legend
 /// and t = mix(legendTex, l), with l clamped, the position in the colour table, which is the texture of unit 0. What
-/// has a u outside of the restriction is not drawn.
+/// has a u outside the restriction is not drawn.
 struct Material {
     static constexpr const char* c_block = "Material";
     static constexpr GLuint c_binding = 2;

@@ -62,7 +62,7 @@ MeshShader lightShaderOf(const View& view, const Lighting& light)
     for (std::size_t i = 0; i < shader.numLights; ++i) {
         const Lighting::Vec4& specular = light.specular[i];
         shader.hasPositions |= light.places[i][3] > 0.0f;
-        // No light comes from outside of a cone; those that shine everywhere have a limit below all cosines.
+        // No light comes from outside a cone; those that shine everywhere have a limit below all cosines.
         shader.hasCones |= light.cones[i][3] >= -1.0f;
         shader.hasHighlights |= specular[0] > 0.0f || specular[1] > 0.0f || specular[2] > 0.0f;
     }

@@ -16,7 +16,7 @@ struct MeshShader {
     /// Whether some values are hidden.
     bool isRestricted = false;
     bool isLit = false;
-    /// Whether some vertices have no normal, so that the slope of the triangle stands in.
+    /// Whether some vertices have no normal, so that the slope of the triangle is used instead.
     bool lacksNormals = false;
     std::size_t numLights = 0;
     /// Whether a light has a position, rather than one direction everywhere.

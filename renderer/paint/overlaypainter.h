@@ -37,7 +37,7 @@ public:
     void strokeRect(const PixelRect& rect, float width, const vxgraphics3d::Color& color);
     /// The colours of the one-dimensional texture bound to unit 0, from the bottom of the rectangle to its top.
     void fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor);
-    /// A text with its top left corner at a place; characters stand on whole pixels.
+    /// A text with its top left corner at a position; characters are placed on whole pixels.
     /// @param depth from -1, at the eye, to 1: what it is compared with where a depth test is on
     void drawText(const TextLayout& text, FontSet& fonts, float left, float top, const vxgraphics3d::Color& color,
                   float depth = 0.0f);

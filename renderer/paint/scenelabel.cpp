@@ -52,7 +52,7 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
         }
         const TextLayout text = layoutOf(label.text, fonts);
         // The surface that a label lies on rises before parts of the text. It is compared where it would be if it lay
-        // nearer by its own height, so that only what lies clearly before the point hides it.
+        // nearer by its own height, so that only what lies clearly in front of the point hides it.
         const float unitsPerPixel = 2.0f * w / (view.projection.get(2, 2) * static_cast<float>(view.area.height));
         const Vector3f nearer = view.projection * (eye + Vector3f(0.0f, 0.0f, text.height * unitsPerPixel));
         const float depth = std::clamp(nearer.z, -1.0f, clip.z);

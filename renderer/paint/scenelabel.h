@@ -19,7 +19,7 @@ struct SceneLabel {
     /// Without markup.
     vxbase::UString text;
     vxgraphics3d::Color color;
-    /// Whether what lies before the point hides the text; otherwise it is seen through everything.
+    /// Whether what lies in front of the point hides the text; otherwise it is seen through everything.
     bool isHideable = true;
 };
 

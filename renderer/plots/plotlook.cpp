@@ -34,8 +34,8 @@ std::optional<Look> lookOf(const PlotItem& item, const PaintContext& context)
     material.legendTex = {plot.getLegendTexMin(), plot.getLegendTexMax()};
     material.isReversed = plot.isReverseColorTable() ? 1 : 0;
     material.shininess = plot.getShininess();
-    // An end of the restriction that lies at an end of the data hides nothing, whatever rounding makes of a coordinate
-    // between two vertices.
+    // An end of the restriction that lies at an end of the data hides nothing, however a coordinate between two
+    // vertices is rounded.
     if (plot.hasValueRestrictions() && low > 0.0f) {
         material.restriction[0] = low;
     }

@@ -7,9 +7,9 @@
 
 namespace vxrenderer {
 
-/// How the data of a plot look: where they are drawn, and the few numbers beside its buffers that turn the texture
-/// coordinate of the vertices into a colour, so that new legend limits or restrictions need no new buffers. Binds the
-/// colour table for what is drawn next.
+/// How the data of a plot look: where they are drawn, and the few numbers in addition to its buffers that turn the
+/// texture coordinate of the vertices into a colour, so that new legend limits or restrictions need no new buffers.
+/// Binds the colour table for what is drawn next.
 /// @return nothing if the plot's restriction hides all of it
 std::optional<Look> lookOf(const PlotItem& item, const PaintContext& context);
 

@@ -54,7 +54,7 @@ LegendStyle legendStyleOf(const Frame& frame, FontSet& titles, FontSet& ticks)
 float layOutLegends(FrameLayout& layout, float em, float maxWidth, float height)
 {
     const std::vector<PlotItem> plots = withLegends(layout.items);
-    // The title of a plot is part of the title of the picture. Beside a single legend that is enough.
+    // The title of a plot is part of the title of the picture. With a single legend that is enough.
     layout.legendStyle.showTitle = plots.size() > 1 || layout.title.numLines == 0;
     float width = 0.0f;
     for (const PlotItem& plot : plots) {

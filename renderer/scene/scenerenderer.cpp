@@ -25,7 +25,7 @@ using namespace vxgraphics3d;
 /// Widths of the lines of light markers, in pixels of the screen.
 constexpr float c_markerWidth = 1.5f;
 constexpr float c_selectedMarkerWidth = 3.5f;
-/// Font sets kept before those of former sizes are given up.
+/// Number of font sets kept before those of former sizes are given up.
 constexpr std::size_t c_manyFontSets = 24;
 
 /// Whether what is drawn covers what is there by its alpha, or replaces it.
@@ -48,7 +48,7 @@ SceneRenderer::SceneRenderer(PlotPainters plotPainters, ObjectPainters objectPai
 void SceneRenderer::updateTitle(const Scene& scene)
 {
     const SceneGraphRoot& root = *scene.getRoot();
-    // Another group of plots may have counted its titles up to the same number.
+    // Another group of plots may have the same change number for its titles.
     const bool isSameTree =
         m_titleRoot.lock().get() == &root && !root.isTreeStructureChanged(m_lastTreeStructure.changeId);
     if (isSameTree && !root.isTitleChanged(m_lastTitle)) {

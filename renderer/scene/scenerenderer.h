@@ -32,7 +32,7 @@ class Target;
 /// Draws a scene, with its title, legends and axes, into a target.
 ///
 /// It reads the scene again in every frame, but copies to the graphics hardware only what the change numbers say has
-/// changed. Everything but the layout happens while the context is current.
+/// changed. Everything except the layout happens while the context is current.
 class SceneRenderer {
 public:
     explicit SceneRenderer(PlotPainters plotPainters = makePlotPainters(),

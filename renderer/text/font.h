@@ -10,7 +10,7 @@ namespace vxrenderer {
 /// One face at one size: the glyphs that were asked for, drawn once into an atlas of its own.
 class Font {
 public:
-    /// Where a glyph stands in the atlas and how it lies at the pen, in pixels.
+    /// Where a glyph is in the atlas and how it is placed at the pen, in pixels.
     struct Glyph {
         /// Empty for a blank.
         int width = 0;

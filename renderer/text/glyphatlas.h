@@ -8,7 +8,7 @@
 
 namespace vxrenderer {
 
-/// A picture that holds the glyphs of one font, one byte of coverage a pixel, packed in rows.
+/// A picture that holds the glyphs of one font, one byte of coverage per pixel, packed in rows.
 ///
 /// Glyphs stay where they are; the picture grows downwards. Between neighbours lies one empty pixel.
 class GlyphAtlas {
@@ -24,7 +24,7 @@ public:
     int getWidth() const { return m_width; }
     int getHeight() const { return m_height; }
     const std::vector<std::uint8_t>& getPixels() const { return m_pixels; }
-    /// Rises with every glyph; whoever keeps a copy of the picture compares it.
+    /// Rises with every glyph; the owner of a copy of the picture compares it.
     int getChangeId() const { return m_changeId.get(); }
 
     /// Copies a glyph in.

@@ -20,7 +20,7 @@ struct Cluster {
     bool isCentered = false;
 };
 
-/// Text cut into clusters; the places of characters count from the start of their cluster and its baseline.
+/// Text cut into clusters; the positions of characters are relative to the start of their cluster and its baseline.
 struct MeasuredText {
     std::vector<PlacedCharacter> characters;
     std::vector<Cluster> clusters;
@@ -160,7 +160,7 @@ float widthOf(const std::vector<Cluster>& clusters, const Line& line)
     return width;
 }
 
-/// The next line from a cluster on; `next` becomes the start of the line behind it.
+/// The next line from a cluster on; `next` becomes the start of the line after it.
 Line breakLine(const std::vector<Cluster>& clusters, std::size_t& next, float room)
 {
     const std::size_t first = next;
@@ -191,7 +191,7 @@ std::vector<Line> breakLines(const std::vector<Cluster>& clusters, float room)
 {
     std::vector<Line> lines;
     for (std::size_t next = 0; next < clusters.size();) {
-        // Blanks that ended the line before, or that begin the text between boxes, take no room.
+        // Blanks that ended the line before, or that begin the text between boxes, take no space.
         while (next < clusters.size() && (clusters[next].type == Cluster::Type::blankBetweenBoxes ||
                                           (!lines.empty() && isBlank(clusters[next])))) {
             ++next;

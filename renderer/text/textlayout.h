@@ -7,7 +7,7 @@
 
 namespace vxrenderer {
 
-/// A character at its place: `x` to the right and `y` down to its baseline, from the top left corner of the text.
+/// A character at its position: `x` to the right and `y` down to its baseline, from the top left corner of the text.
 struct PlacedCharacter {
     char32_t character;
     TextStyle style;
@@ -23,7 +23,7 @@ struct TextLayout {
     int numLines = 0;
 };
 
-/// Room that a text may take. Lines that do not fit into the height are left out, but never the first one.
+/// Space that a text may take. Lines that do not fit into the height are left out, but never the first one.
 struct TextRoom {
     float width;
     float height;

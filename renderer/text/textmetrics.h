@@ -11,11 +11,11 @@ public:
 
     /// Size of normal text, the unit of `TextStyle::rise`.
     virtual float fontSize() const = 0;
-    /// How far the pen moves on behind a character.
+    /// How far the pen moves on after a character.
     virtual float advance(char32_t character, const TextStyle& style) = 0;
     /// What the pen moves additionally between two neighbours of one style.
     virtual float kerning(char32_t left, char32_t right, const TextStyle& style) = 0;
-    /// Room above and below the baseline that text of this style takes.
+    /// Space above and below the baseline that text of this style takes.
     virtual float ascent(const TextStyle& style) = 0;
     virtual float descent(const TextStyle& style) = 0;
 };

@@ -59,7 +59,7 @@ private:
     enum class GroupKind { braces, shownBraces, box, plainText, script, scriptOfOne };
     enum class AtEnd { no, yes };
 
-    /// What the scripts of the character before are: an index and an exponent may stand over each other.
+    /// What the scripts of the character before are: an index and an exponent may be placed over each other.
     struct Scripts {
         bool lastIsSuper = false;
         bool areStacked = false;
@@ -103,7 +103,7 @@ private:
             m_items.back().kind == Kind::beginCenter) {
             return;
         }
-        // Two boxes are two titles, which stand further apart than two words.
+        // Two boxes are two titles, which are further apart than two words.
         const bool isBetweenBoxes = m_boxEnd == m_items.size() && nextIs(U"\\mbox{");
         add(Kind::space, isBetweenBoxes ? c_emSpace : U' ');
     }
@@ -186,7 +186,7 @@ private:
             return;
         }
         const bool isSuper = mark == U'^';
-        // A second exponent of the same character comes behind the first, not over it.
+        // A second exponent of the same character comes after the first, not over it.
         const bool stacks = !m_items.empty() && m_items.back().kind == Kind::closeScripts &&
                             m_scripts.lastIsSuper != isSuper && !m_scripts.areStacked;
         if (stacks) {

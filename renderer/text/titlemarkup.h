@@ -17,15 +17,15 @@ struct TitleItem {
     enum class Kind {
         /// Draw `character`.
         character,
-        /// Blank room as wide as `character`, where a line may end; `breaks` says how readily.
+        /// Blank space as wide as `character`, where a line may end; `breaks` says how readily.
         space,
         /// A new line starts.
         newLine,
-        /// Indices and exponents of the character before begin; they all start at this place.
+        /// Indices and exponents of the character before begin; they all start at this position.
         openScripts,
-        /// Back to the place of `openScripts`, for an exponent over an index.
+        /// Back to the position of `openScripts`, for an exponent over an index.
         nextScript,
-        /// Go on behind the widest script since `openScripts`.
+        /// Go on after the widest script since `openScripts`.
         closeScripts,
         /// The lines from here on are centred.
         beginCenter,
@@ -50,9 +50,9 @@ struct TitleItem {
 /// - `\unicode{...}` holds plain text: only `\\`, `\{` and `\}` mean something, and blanks and line ends stay.
 /// - `^` and `_` raise and lower what follows, one character or a group in braces.
 /// - `\textbf{...}`, `\textit{...}`, `\mathrm{...}` change the face; `\alpha`, `\times` and the like are characters.
-/// - `\` ahead of a character that is no letter gives that character.
+/// - `\` before a character that is not a letter gives that character.
 ///
-/// Every text gives a result: an unknown command and a closing brace without an opening one are shown as they stand,
+/// Every text gives a result: an unknown command and a closing brace without an opening one are shown as they are,
 /// and open groups end with the text.
 std::vector<TitleItem> parseTitle(const vxbase::UString& markup);
 

@@ -19,8 +19,8 @@ namespace vxrenderer {
 
 /// The colour tables on the graphics hardware: one texture for each texture handle of a plot group.
 ///
-/// Plots draw handles from their group and give them back, so a texture is loaded again when the table behind its
-/// handle is another one, or has changed.
+/// Plots draw handles from their group and give them back, so a texture is loaded again when its handle belongs to
+/// another table, or has changed.
 class ColorTextures {
 public:
     explicit ColorTextures(UploadCounts& counts) : m_counts(counts) {}

@@ -14,7 +14,7 @@ namespace {
 
 using vxgraphics3d::Vector3f;
 
-/// Share of the area of a mesh whose triangles agree with their normals, or disagree, by more than the others if the
+/// Fraction of the area of a mesh whose triangles agree with their normals, or disagree, by more than the others if the
 /// corners of all of them have one order. The normals of a rough surface are averages, so that some triangles disagree.
 constexpr double c_oneOrder = 0.8;
 

@@ -16,10 +16,10 @@ class CheckedIndices;
 /// The triangles of an index buffer in the form that the graphics hardware draws them in.
 ///
 /// A triangle is left out if the position or the texture coordinate of one of its corners is not finite: it has no
-/// place or no colour. The corners of all others run counter-clockwise for an eye on the side that their normals point
-/// to, so that the hardware knows which side of a surface it shows: plots keep the order of their source, which may be
-/// either. A mesh whose triangles have one order is turned as a whole, as single normals of a rough surface may point
-/// to the wrong side of a triangle. Otherwise each triangle goes by its own normals.
+/// position or no colour. The corners of all others run counter-clockwise for an eye on the side that their normals
+/// point to, so that the hardware knows which side of a surface it shows: plots keep the order of their source, which
+/// may be either. A mesh whose triangles have one order is turned as a whole, as single normals of a rough surface may
+/// point to the wrong side of a triangle. Otherwise each triangle follows its own normals.
 class DrawnTriangles {
 public:
     DrawnTriangles(const CheckedIndices& source, const vxgraphics3d::VertexBuffer& vertices,

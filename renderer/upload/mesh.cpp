@@ -64,7 +64,7 @@ void Mesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
 
 void Mesh::draw() const
 {
-    // Segments follow each other without gaps, and triangles do not mind their borders.
+    // Segments follow each other without gaps, and triangles may cross their borders.
     glBindVertexArray(m_array.name());
     glDrawElements(GL_TRIANGLES, m_numIndices, GL_UNSIGNED_INT, nullptr);
 }

@@ -59,7 +59,7 @@ struct Axes2d : ::testing::Test {
     }
 };
 
-TEST_F(Axes2d, standLeftAndBelow)
+TEST_F(Axes2d, areLeftAndBelow)
 {
     show(0.0f, 10.0f, 0.0f, 1.0f);
     const Axes2dLayout layout = this->layout();
@@ -202,7 +202,7 @@ TEST_F(Axes2d, marginsFollowTheTitles)
     EXPECT_NEAR(axes2dMargins(input(), metrics).left, 94.8, 1e-3);
 }
 
-TEST_F(Axes2d, everyLabelHasRoomInsideTheMargins)
+TEST_F(Axes2d, everyLabelHasSpaceInsideTheMargins)
 {
     FontLibrary library;
     FontSet fonts(library, "default", 14);

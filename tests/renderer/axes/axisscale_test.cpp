@@ -34,7 +34,7 @@ std::string told(const AxisScale& scale)
     return text + (ticks.exponent == 0 ? "" : " e" + std::to_string(ticks.exponent));
 }
 
-TEST(AxisScale, linearTicksFollowTheRoom)
+TEST(AxisScale, linearTicksFollowTheSpace)
 {
     EXPECT_EQ(told(scaleOf(0.0, 10.0)), "0 1 2 3 4 5 6 7 8 9 10");
     EXPECT_EQ(told(scaleOf(0.0, 10.0, 100.0)), "0 5 10");
@@ -50,7 +50,7 @@ TEST(AxisScale, aSpacingGivesItsMultiples)
     scale.spacing = 0.1;
     scale.length = 150.0;
     EXPECT_EQ(told(scale), "0.0 | | | | 0.5 | | | | 1.0") << "labels every fifth line";
-    // 1000 lines on 150 pixels: 37 have room, so every 50th.
+    // 1000 lines on 150 pixels: 37 have space, so every 50th.
     scale.spacing = 0.001;
     EXPECT_EQ(makeAxisTicks(scale).ticks.size(), 21u);
     EXPECT_NEAR(makeAxisTicks(scale).ticks[1].position, 0.05, 1e-12);
@@ -75,7 +75,7 @@ TEST(AxisScale, twoTicksAreLabelledWhereverTheyHaveSpace)
     EXPECT_EQ(told(scaleOf(0.0, 4000.0, 20.0)), "0") << "no space for a second one";
 }
 
-TEST(AxisScale, extraPlacesComeFirst)
+TEST(AxisScale, extraPositionsTakePrecedence)
 {
     AxisScale scale = scaleOf(0.0, 10.0, 100.0);
     scale.extra = {5.5, 5.5, -1.0, 11.0, std::nan(""), 10.0};

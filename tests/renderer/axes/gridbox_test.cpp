@@ -81,7 +81,7 @@ TEST(GridBox, fromAboveIsLabelledBelowAndAtTheLeft)
     const GridBoxLayout layout = layoutOf({-2.0f, 2.0f, -1.0f, 1.0f, -1.0f, 1.0f}, camera);
     EXPECT_EQ(told(layout, true), "x y");
     EXPECT_EQ(told(layout, false), "-2.0 -1.5 -1.0 -0.5 0.0 0.5 1.0 1.5 2.0 -1.0 -0.5 0.0 0.5 1.0");
-    // The box covers 240 to 640 and 220 to 420. Ticks are 4 long, with 3 behind them and 5 ahead of the names.
+    // The box covers 240 to 640 and 220 to 420. Ticks are 4 long, with 3 after them and 5 before the names.
     ASSERT_EQ(layout.labels.size(), 16u);
     expectPlace(layout.labels[0], "x", 440.0f, 447.0f);
     expectPlace(layout.labels[1], "y", 183.0f, 320.0f);
@@ -134,7 +134,7 @@ TEST(GridBox, isJudgedAsItIsSeenStretched)
     EXPECT_EQ(layoutOf(box, camera).edges.size(), 9u);
 }
 
-TEST(GridBox, aPowerOfTenStandsAtTheName)
+TEST(GridBox, aPowerOfTenIsShownAtTheName)
 {
     Camera3d camera;
     lookParallel(camera, {0.0f, 0.0f, 10.0f}, {0.0f, 1.0f, 0.0f});
@@ -257,7 +257,7 @@ struct RandomView {
         m_isParallel = isParallel;
     }
 
-    /// Whether what lies behind a place, as the eye sees it, is outside of the box.
+    /// Whether what lies behind a position, as the eye sees it, is outside the box.
     bool isAtTheBack(const Vector3f& place) const
     {
         const Vector3f behind = place + (m_isParallel ? -eye : place - eye).normalized() * (0.002f * box.getL1Norm());

@@ -8,7 +8,7 @@
 namespace vxrenderer {
 namespace {
 
-/// Labels with blanks between them, a plain minus, and the common power of ten behind.
+/// Labels with blanks between them, a plain minus, and the common power of ten at the end.
 std::string told(const Ticks& ticks)
 {
     std::string text;

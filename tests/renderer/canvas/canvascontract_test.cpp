@@ -54,7 +54,7 @@ TEST(CanvasContract, aSceneKnowsTheSettingsOfItsViewsWhileTheyShowIt)
     EXPECT_EQ(canvas.getSceneSettings(), nullptr);
 }
 
-TEST(CanvasContract, sharesOutliveTheCanvasAndTheScene)
+TEST(CanvasContract, referencesOutliveTheCanvasAndTheScene)
 {
     auto canvas = boost::make_shared<OffscreenCanvas>(20, 20, 1);
     boost::shared_ptr<SceneSettings> settings;
@@ -78,7 +78,7 @@ TEST(CanvasContract, sharesOutliveTheCanvasAndTheScene)
     EXPECT_EQ(context->redBits, 8);
 }
 
-TEST(CanvasContract, saysWhatTheContextIsLike)
+TEST(CanvasContract, reportsThePropertiesOfTheContext)
 {
     for (const int samples : {1, 4}) {
         OffscreenCanvas canvas(20, 20, samples);
@@ -95,7 +95,7 @@ TEST(CanvasContract, saysWhatTheContextIsLike)
     }
 }
 
-TEST(CanvasContract, tellsTheProcessWhatDriversCanDo)
+TEST(CanvasContract, reportsToTheProcessWhatDriversCanDo)
 {
     const OffscreenCanvas canvas(20, 20, 1);
     const vxgraphics3d::RendererInfo& info = *Canvas3dGlobalSettings::getRendererInfo();
@@ -219,7 +219,7 @@ TEST(CanvasContract, drawsStretchedAxesWhereTheCameraSays)
         }
     }
     EXPECT_GT(drawnPixels, 3000);
-    // Also under perspective and from aside.
+    // Also under perspective and from the side.
     camera.setProjectionType(Camera3d::ProjectionPerspective);
     lookFrom(canvas, 10.0, 20.0);
     drawn(canvas);

@@ -93,7 +93,7 @@ TEST_F(OffscreenCanvasTest, showsEveryTexelWhereItsValueLies)
             const Rgb color = picture.at(x, y);
             ++compared;
             exact += color == colorOf(texel) ? 1 : 0;
-            // Rounding may move a place that lies on the border of two texels.
+            // Rounding may move a position that lies on the border of two texels.
             EXPECT_TRUE(color == colorOf(texel) || color == colorOf(std::max(texel - 1, 0)) ||
                         color == colorOf(std::min(texel + 1, 1023)))
                 << x;
@@ -262,7 +262,7 @@ TEST_F(OffscreenCanvasTest, stretchesAPlotAboutItsPlane)
     ridge.height = [](double x, double) { return 1.0 - std::abs(2.0 * x - 1.0); };
     ridge.value = ridge.height;
     const auto plot = m_scene.add<SceneGraphPlotSurface3d>(1, ridge, c_fourColors);
-    // From the front, the picture is a triangle: its tip stands where the highest point is said to be.
+    // From the front, the picture is a triangle: its tip is where the highest point is reported to be.
     lookFrom(m_canvas, -90.0, 0.0);
     const auto tip = [&](float z) {
         const Picture picture = drawn(m_canvas);
@@ -416,7 +416,7 @@ TEST(OffscreenCanvas, aDraftShowsTheSameWithOneSample)
     EXPECT_GT(drawnAsIs(canvas, Quality::draft).countDrawn(0, 0, 160, 100), 500);
 }
 
-TEST(OffscreenCanvas, refusesSizesThatAreNone)
+TEST(OffscreenCanvas, refusesInvalidSizes)
 {
     EXPECT_THROW(OffscreenCanvas(0, 100, 1), std::invalid_argument);
     EXPECT_THROW(OffscreenCanvas(100, -1, 1), std::invalid_argument);

@@ -47,7 +47,7 @@ TEST(PngEncoder, leavesOutAlphaResolutionAndTextsThatAreNotAskedFor)
     EXPECT_EQ(file.pixels, expected);
 }
 
-TEST(PngEncoder, refusesSizesAndResolutionsThatAreNone)
+TEST(PngEncoder, refusesInvalidSizesAndResolutions)
 {
     const auto pixels = pictureOf(1, 1);
     PngSettings settings;

@@ -38,7 +38,7 @@ TEST(AxesPainterTest, linesOfFlatViewsAreOnePixelWide)
             canvas.getCanvas3dSettings()->camera2d()->setCameraMode(mode);
             const Picture picture = drawn(canvas);
             const PixelArea area = canvas.getView().area;
-            // Off the middle, beside the tick labels of the round view and the lines that cross there.
+            // Off the middle, next to the tick labels of the round view and the lines that cross there.
             const int row = area.y + area.height / 2 + area.height / 23;
             const int column = area.x + area.width / 2 - area.width / 23;
             const auto inRow = [&](int x) { return picture.at(x, row); };

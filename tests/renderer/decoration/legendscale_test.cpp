@@ -27,7 +27,7 @@ std::pair<float, float> colorsOf(const vxgraphics3d::SceneGraphPlot& plot)
 using Ends = std::pair<double, double>;
 using Colors = std::pair<float, float>;
 
-TEST(LegendScale, followsLimitsInForceAndTheDataWhenTheyAreAutomatic)
+TEST(LegendScale, followsTheCurrentLimitsAndTheDataWhenTheyAreAutomatic)
 {
     TestScene scene;
     GridRecord record;

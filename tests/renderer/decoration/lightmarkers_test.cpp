@@ -33,7 +33,7 @@ Light& add(SceneLight& scene, int (SceneLight::*create)())
     return static_cast<Light&>(*light);
 }
 
-TEST(LightMarkers, standWhereTheirLightsShineFrom)
+TEST(LightMarkers, areWhereTheirLightsShineFrom)
 {
     // (x, y, z) is at (y, z, x - 10) for the eye. Stretched, the box is a cube of 2 by 2 by 2: its radius is root 3.
     Camera3d camera;

@@ -24,7 +24,8 @@ void expectNear(const Vector3f& point, float x, float y)
 TEST(Triad, showsEachAxisWhereItPointsOnTheScreen)
 {
     Camera3d camera;
-    // x towards the eye, y to the right, z upwards; where the camera stands and how axes are stretched is all one.
+    // x towards the eye, y to the right, z upwards; the position of the camera and the stretching of axes do not
+    // matter.
     camera.lookAt({10.0f, 0.0f, 0.0f}, {-1.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 1.0f});
     camera.setAxisViewScales(1.0f, 2.0f, 3.0f);
     const Triad triad = Triad::of(camera, 100.0f, 80.0f, 50.0f, 10.0f);
@@ -105,7 +106,7 @@ TEST(Triad, showsIn3dViewsThatAskForIt)
     EXPECT_EQ(rows, 3);
 }
 
-TEST(Triad, lettersAndNamesOfAxesAreNoMarkup)
+TEST(Triad, lettersAndNamesOfAxesAreNotMarkup)
 {
     OffscreenCanvas canvas(300, 300, 1);
     TestScene scene;

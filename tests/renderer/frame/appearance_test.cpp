@@ -87,7 +87,7 @@ TEST_F(AppearanceTest, everyDecorationHasItsSettingAndItsBit)
         EXPECT_EQ(shown(onScreen()), all & ~bit);
         m_canvas.addRenderMask(bit);
     }
-    // An export asks for its own decorations, whatever the screen shows.
+    // An export has its own decorations, independent of what the screen shows.
     EXPECT_EQ(shown(ofHardcopy()), unsigned{RenderLightMarkers});
     m_scene.setShowTitle(false);
     EXPECT_EQ(shown(onScreen()), all & ~RenderTitle);
@@ -108,7 +108,7 @@ TEST_F(AppearanceTest, everyDecorationHasItsSettingAndItsBit)
     EXPECT_EQ(shown(ofHardcopy()), all & ~RenderLightMarkers);
 }
 
-TEST_F(AppearanceTest, hardcopiesStandOnTheirColorsOrOnThoseOfTheScreen)
+TEST_F(AppearanceTest, hardcopiesHaveTheirBackgroundOrThatOfTheScreen)
 {
     m_canvas.background(Canvas3dSettings::RenderMode3d).setShadedBackground(Color::fromRgb(1), Color::fromRgb(2));
     m_hardcopy.setBackground(0x102030, 0x405060);
@@ -123,7 +123,7 @@ TEST_F(AppearanceTest, hardcopiesStandOnTheirColorsOrOnThoseOfTheScreen)
     EXPECT_EQ(ofHardcopy().opacity, 0.0f);
 }
 
-TEST_F(AppearanceTest, colorsThatCannotBeReadGiveWay)
+TEST_F(AppearanceTest, colorsThatCannotBeReadAreReplaced)
 {
     const auto gray = [](int level) { return Color{level, level, level, 255}; };
     const struct {

@@ -84,7 +84,7 @@ protected:
     SceneSettingsLight m_switches;
 };
 
-TEST_F(LightingTest, turnsPlacesAndDirectionsToTheEye)
+TEST_F(LightingTest, transformsPositionsAndDirectionsToTheEye)
 {
     constexpr float spread = std::numbers::pi_v<float> / 1.5f;
     addSun(m_light, 1.0f, {3.0f, 0.0f, 4.0f});
@@ -124,7 +124,7 @@ TEST_F(LightingTest, lightsInTheWorldFollowTheScalesOfTheAxes)
     expectNear(lights.places[3], {1.0f, 6.0f, -7.0f, 1.0f});
 }
 
-TEST_F(LightingTest, sharesTheAmbientLightOutAmongScenesAndSources)
+TEST_F(LightingTest, dividesTheAmbientLightAmongScenesAndSources)
 {
     m_light.setAmbientIntensity(0.6f);
     m_light.setGlobalAmbientColor(Color::fromRgb(0xff0000));
@@ -134,7 +134,7 @@ TEST_F(LightingTest, sharesTheAmbientLightOutAmongScenesAndSources)
     // Spotlights have no part in it, nor the intensity of all sources.
     addSpot(m_light, 1.0f, {}, {0.0f, 0.0f, 1.0f}, 1.0f).setAmbientIntensity(1.0f);
     m_light.setTotalLightSourceIntensity(0.25f);
-    // 1 for the scene and 4 * 0.5 for the sun make 3: 0.6 / 3 a part.
+    // 1 for the scene and 4 * 0.5 for the sun make 3: 0.6 / 3 per part.
     expectNear(lighting().ambient, {0.2f, 0.4f, 0.0f, 0.0f});
     m_switches.setAmbientLight(false);
     expectNear(lighting().ambient, {0.6f, 0.0f, 0.0f, 0.0f});
@@ -167,7 +167,7 @@ TEST_F(LightingTest, takesTheFirstEightThatShine)
         addLamp(m_light, 1.0f, {static_cast<float>(i), 0.0f, 0.0f});
     }
     m_light.lightSource(1)->setActive(false);
-    // Whatever has set its flag, a ninth has no place in the shader.
+    // Even with its flag set, a ninth light has no slot in the shader.
     m_light.lightSource(9)->setActiveFlag(true);
     m_light.lightSource(10)->setActiveFlag(true);
     const Lighting lights = lighting();
@@ -241,7 +241,7 @@ TEST_F(LitSquareTest, shinesOnlyWhereLightFalls)
     EXPECT_EQ(middle(), (Rgb{50, 25, 10}));
 }
 
-TEST_F(LitSquareTest, aPointLightCountsByTheAngleAtEachPlace)
+TEST_F(LitSquareTest, aPointLightCountsByTheAngleAtEachPosition)
 {
     addLamp(m_light, 0.75f, {0.5f, 0.5f, 0.4f});
     const struct {
@@ -253,7 +253,7 @@ TEST_F(LitSquareTest, aPointLightCountsByTheAngleAtEachPlace)
         for (const auto& place : places) {
             const Rgb color = at(place.x, 0.5f);
             for (std::size_t i = 0; i < 3; ++i) {
-                // A pixel lies up to half of its width beside the place.
+                // A pixel lies up to half of its width from the position.
                 EXPECT_NEAR(color[i], c_bare[i] * place.part, 1.0) << place.x;
             }
         }
@@ -311,7 +311,7 @@ TEST_F(LitSquareTest, lockingALightToTheCameraChangesNoPixel)
         expectSame();
         light.releaseFromCamera(camera());
         expectSame();
-        // Locked, it goes with the camera: let go elsewhere, it stands elsewhere.
+        // Locked, it goes with the camera: unlocked elsewhere, it is elsewhere.
         light.lockToCamera(camera());
         camera().setAdditionalSceneRotation(0.0f, 0.4f, 0.0f);
         light.releaseFromCamera(camera());

@@ -89,7 +89,7 @@ TEST_F(BackgroundTest, runsFromTopToBottom)
     }
 }
 
-TEST_F(BackgroundTest, anImageStandsAtEachOfItsNinePlaces)
+TEST_F(BackgroundTest, anImageIsShownAtEachOfItsNinePositions)
 {
     setPixels(*m_image, 3, 2, {0xffff0000, 0xff00ff00, 0xff0000ff, 0xff0000ff, 0xff00ff00, 0xffff0000});
     const int lefts[] = {0, 4, 7};

@@ -170,7 +170,7 @@ TEST_F(FaceSidesTest, neitherTheOrderOfCornersNorTheDirectionOfNormalsNorAMirror
     EXPECT_EQ(numDifferent(pictureOf(record), expected), 0);
 }
 
-// A step up within a steep fall: the normals beside it are those of the fall.
+// A step up within a steep fall: the normals next to it are those of the fall.
 TEST_F(FaceSidesTest, aStepWhoseNormalsPointToItsOtherSideIsLitLikeWhatSurroundsIt)
 {
     GridRecord fall = grid(8);

@@ -21,7 +21,7 @@ using vxgraphics3d::SceneLight;
 using vxgraphics3d::SpotLightSource;
 using vxgraphics3d::Vector3f;
 
-/// Waves seen from above, under lights that each picture has its own.
+/// Waves seen from above, each picture with its own lights.
 class MeshShaderTest : public ::testing::Test {
 protected:
     MeshShaderTest()
@@ -61,7 +61,7 @@ protected:
     SceneLight& m_light = *m_scene.scene->getSceneLight();
 };
 
-// The shader is another one for each number of lights.
+// The shader differs for each number of lights.
 TEST_F(MeshShaderTest, lightsShineAsOneThatIsAsBrightAsAllOfThem)
 {
     turnOn(m_light.createDirectionLight(), 0.6f);

@@ -360,7 +360,7 @@ TEST_F(PaintersTest, aMeshIsDrawnOncePerInstanceInItsSizeDirectionAndColor)
     EXPECT_EQ(colorAt(shown, {0.8f, 0.75f, 0.0f}), c_white);
 }
 
-TEST_F(PaintersTest, labelsAreHiddenAsAWholeByWhatLiesBeforeTheirPointOrNotAtAll)
+TEST_F(PaintersTest, labelsAreHiddenAsAWholeByWhatLiesInFrontOfTheirPointOrNotAtAll)
 {
     const Square square(2.0f);
     float faceHeight = -0.9f;
@@ -395,7 +395,7 @@ TEST_F(PaintersTest, labelsAreHiddenAsAWholeByWhatLiesBeforeTheirPointOrNotAtAll
     EXPECT_EQ(reds(), whole) << "the face that the label lies on rises before its upper half";
 }
 
-TEST_F(PaintersTest, objectsAreDrawnBesidePlotsUnderActiveNodesAndByTheirMask)
+TEST_F(PaintersTest, objectsAreDrawnWithPlotsUnderActiveNodesAndByTheirMask)
 {
     const Square square(2.0f);
     const auto root = vxgraphics3d::SceneGraphGroup::create();

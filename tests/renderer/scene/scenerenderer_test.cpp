@@ -71,7 +71,7 @@ TEST_F(SceneRendererTest, theSceneKeepsClearOfTitleAndLegends)
     const PixelArea alone = m_canvas.getView().area;
     EXPECT_LT(withLegend.y, withBoth.y);
     EXPECT_LT(withLegend.width, alone.width);
-    // What is drawn beside the scene is what was asked for, and nothing else.
+    // What is drawn next to the scene is what was asked for, and nothing else.
     EXPECT_EQ(bare.countDrawn(0, 0, 400, alone.y), 0);
     EXPECT_EQ(bare.countDrawn(alone.x + alone.width, 0, 400, 300), 0);
     m_canvas.getSceneSettings()->setShowTitle(true);
@@ -116,7 +116,7 @@ TEST_F(SceneRendererTest, constantDataShowOneColorAndOneLabel)
     EXPECT_EQ(picture.countDrawn(right, middle + 10, 400, 300), 0);
 }
 
-TEST_F(SceneRendererTest, ticksStandAtTheHeightOfTheirValues)
+TEST_F(SceneRendererTest, ticksAreAtTheHeightOfTheirValues)
 {
     m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
     const Picture picture = drawn(m_canvas);
@@ -187,7 +187,7 @@ TEST_F(SceneRendererTest, withoutAGridTheAxesRemain)
         const PixelArea& area = m_canvas.getView().area;
         int numLines = 0;
         for (int x = area.x + 1; x < area.x + area.width - 1; ++x) {
-            // Over the data and beside them, in the row of no line of equal y.
+            // Over the data and next to them, in a row without a line of equal y.
             const Rgb pixel = picture.at(x, area.y + area.height / 2 + 5);
             numLines += pixel != c_white && pixel != c_red ? 1 : 0;
         }
@@ -253,7 +253,7 @@ TEST_F(SceneRendererTest, longTitlesAndSmallPicturesStayReadable)
     }
 }
 
-/// Numbers of the process, put back at the end.
+/// Numbers of the process, restored at the end.
 class Precisions {
 public:
     Precisions(int tick, int minMax) { set(tick, minMax); }
@@ -271,7 +271,7 @@ private:
     int m_minMax = vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getLegendMinMaxPrecision();
 };
 
-TEST_F(SceneRendererTest, marksOfTheExtremesStandAboveAndBelowTheBar)
+TEST_F(SceneRendererTest, marksOfTheExtremesAreAboveAndBelowTheBar)
 {
     m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors);
     // Colours of the column of the bar: nothing above its frame without marks.

@@ -27,7 +27,7 @@ struct GridRecord {
     Function value = [](double x, double) { return x; };
     /// Third coordinate; absent for a flat surface without normals.
     Function height;
-    /// Turns all normals round.
+    /// Reverses all normals.
     bool areNormalsDown = false;
 
     vxdatacarrier::PostDataObject make() const;
@@ -42,9 +42,9 @@ struct Picture {
     int height = 0;
     std::vector<std::uint8_t> bytes;
 
-    /// The pixel at a place from the top left corner.
+    /// The pixel at a position from the top left corner.
     Rgb at(int x, int y) const;
-    /// Number of pixels of another colour than white in a rectangle.
+    /// Number of pixels in a rectangle that are not white.
     int countDrawn(int left, int top, int right, int bottom) const;
 };
 
@@ -55,13 +55,13 @@ Picture drawn(OffscreenCanvas& canvas);
 /// The same with the camera as it is.
 Picture drawnAsIs(OffscreenCanvas& canvas, Quality quality = Quality::full);
 
-/// Where a point of the scene stands in the picture drawn last, in pixels from the top left corner.
+/// Where a point of the scene is in the picture drawn last, in pixels from the top left corner.
 std::array<double, 2> pixelOf(const OffscreenCanvas& canvas, const vxgraphics3d::Vector3f& point);
 
 /// The same in a view of a scene.
 std::array<double, 2> pixelOf(const View& view, const vxgraphics3d::Vector3f& point);
 
-/// The colour where a point of the scene stands in the picture drawn last.
+/// The colour where a point of the scene is in the picture drawn last.
 Rgb colorAt(const OffscreenCanvas& canvas, const Picture& picture, const vxgraphics3d::Vector3f& point);
 
 /// A scene with one group of plots.
@@ -89,13 +89,13 @@ private:
                    const std::vector<int>& colors);
 };
 
-/// Lets a canvas show nothing of its scene but the plots.
+/// Lets a canvas show nothing of its scene except the plots.
 void showPlotsAlone(OffscreenCanvas& canvas);
 /// Lets a canvas show a scene flat, from above.
 void showFlat(OffscreenCanvas& canvas, const TestScene& scene);
 /// Turns a canvas to a 3D view from a direction, given by its azimuth and elevation in degrees.
 void lookFrom(OffscreenCanvas& canvas, double azimuth, double elevation);
-/// Lets a canvas show nothing but the plots of a scene, from above and without perspective: x to the right, y upwards.
+/// Lets a canvas show only the plots of a scene, from above and without perspective: x to the right, y upwards.
 void showFromAbove(OffscreenCanvas& canvas, const TestScene& scene);
 
 } // namespace vxrenderer

@@ -47,7 +47,7 @@ TEST(FontSet, aBoldNameMakesAllTextBold)
     EXPECT_GT(oblique.find(U'l', {}).glyph->width, plain.find(U'l', {}).glyph->width);
 }
 
-TEST(FontSet, aMissingFontIsReportedOnceWithThoseThereAre)
+TEST(FontSet, aMissingFontIsReportedOnceWithTheInstalledOnes)
 {
     const vxgraphics3d::CapturedLog log(vxgraphics3d::ErrorLog::Level::warning);
     FontLibrary library;
@@ -74,7 +74,7 @@ TEST(FontSet, scalesWithTheSizeAndTheScriptLevel)
     EXPECT_EQ(FontSet(library, "default", 100000).fontSize(), static_cast<float>(FontSet::c_largestSize));
 }
 
-TEST(FontSet, drawsACharacterOnceAndTellsWhereItLies)
+TEST(FontSet, drawsACharacterOnceAndReportsWhereItLies)
 {
     FontLibrary library;
     FontSet fonts(library, "default", 24);

@@ -18,7 +18,7 @@ TextLayout layoutOf(const std::string& markup, TextRoom room = c_wide)
     return layoutTitle(parseTitle(vxbase::UString(markup)), metrics, room);
 }
 
-/// The characters of each line, lines by `/`.
+/// The characters of each line, lines separated by `/`.
 std::string linesOf(const TextLayout& layout)
 {
     std::string text;
@@ -42,7 +42,7 @@ std::vector<float> placesOf(const TextLayout& layout)
     return places;
 }
 
-TEST(TextLayout, setsCharactersBehindEachOtherOnTheBaseline)
+TEST(TextLayout, setsCharactersOneAfterAnotherOnTheBaseline)
 {
     const TextLayout layout = layoutOf("ab c");
     EXPECT_EQ(placesOf(layout), (std::vector<float>{0.0f, 10.0f, 30.0f}));
@@ -78,7 +78,7 @@ TEST(TextLayout, breaksBetweenBoxesBeforeWithinThem)
     EXPECT_EQ(linesOf(layoutOf("abc", {1.0f, 1e6f})), "a/b/c");
 }
 
-TEST(TextLayout, linesNeverTakeMoreThanTheirRoomUnlessOneCharacterDoes)
+TEST(TextLayout, linesNeverTakeMoreThanTheirSpaceUnlessOneCharacterDoes)
 {
     const std::string text = "one \\mbox{two three} four^{five} \\mbox{\\unicode{six  seven}} eight";
     for (float room = 40.0f; room < 400.0f; room += 7.0f) {
@@ -94,18 +94,18 @@ TEST(TextLayout, centersLinesWithinTheWidest)
     EXPECT_EQ(layout.height, 20.0f);
 }
 
-TEST(TextLayout, leavesOutLinesBelowItsRoomButNotTheFirst)
+TEST(TextLayout, leavesOutLinesBelowItsSpaceButNotTheFirst)
 {
     EXPECT_EQ(layoutOf("\\unicode{a\nb\nc}", {100.0f, 25.0f}).numLines, 2);
     EXPECT_EQ(layoutOf("\\unicode{a\nb\nc}", {100.0f, 1.0f}).numLines, 1);
 }
 
-TEST(TextLayout, makesRoomForHighExponents)
+TEST(TextLayout, leavesSpaceForHighExponents)
 {
     EXPECT_GT(layoutOf("x^{2^{3}}").height, layoutOf("x").height);
 }
 
-TEST(TextLayout, anEmptyTitleTakesNoRoom)
+TEST(TextLayout, anEmptyTitleTakesNoSpace)
 {
     const TextLayout layout = layoutOf("\\begin{center} \\end{center}");
     EXPECT_EQ(layout.width, 0.0f);

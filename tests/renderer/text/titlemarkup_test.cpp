@@ -12,7 +12,7 @@ namespace {
 using Kind = TitleItem::Kind;
 
 /// Items as a text: characters as they are, marks as `<...>`, a blank within a box as `.`, others as ` `, a wide one as
-/// three of them, and the style of a character behind it where it is not the normal one.
+/// three of them, and the style of a character after it where it is not the normal one.
 std::string told(const std::string& markup)
 {
     std::string text;

@@ -80,7 +80,7 @@ public final class CommonTasks implements AutoCloseable {
 
     private void showIn2d() throws IOException {
         canvas.setRenderMode(Canvas3dSettings.RenderMode.VIEW_2D);
-        camera2d.resetAxisViewScales(); // a unit is as long in x as in y
+        camera2d.resetAxisViewScales(); // a unit has the same length in x and y
         renderer.zoomExtents();
         draw("flat.png");
     }
@@ -135,7 +135,7 @@ public final class CommonTasks implements AutoCloseable {
             int dpi = 300;
             hardcopy.setDpi(dpi);
             hardcopy.setMultisampleSetting(4);
-            hardcopy.setAxisShown(true); // axes, legends, title and orientation indicator are off at first
+            hardcopy.setAxisShown(true); // axes, legends, title and orientation indicator are off initially
             hardcopy.setLegendsShown(true);
             hardcopy.setFontSize(TextItem.AXIS_TICK, 8); // points on the paper
             hardcopy.setFontSize(TextItem.LEGEND_TICK, 8);

@@ -5,7 +5,7 @@ import java.nio.file.Files;
 import java.nio.file.Path;
 import java.util.List;
 
-/** The page that shows every picture beside the code that made it. */
+/** The page that shows every picture next to the code that made it. */
 final class ContactSheet {
     private static final String HEAD = """
             <!DOCTYPE html>
@@ -34,7 +34,7 @@ final class ContactSheet {
 
     private final StringBuilder page = new StringBuilder(HEAD);
 
-    /** Adds a program: what it says of itself, its pictures, its source. */
+    /** Adds a program: its description, its pictures, its source. */
     void add(About about, List<Studio.Shot> shots, String source) {
         page.append("<section>\n<h2>").append(escaped(about.title())).append("</h2>\n<p>").append(escaped(about.text()))
                 .append("</p>\n<div>\n");

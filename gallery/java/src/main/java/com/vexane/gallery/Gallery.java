@@ -71,7 +71,7 @@ public final class Gallery {
         return picture.getClass().getSimpleName();
     }
 
-    /** Draws the named pictures, or all if no name is given, and returns where they lie. */
+    /** Draws the named pictures, or all if no name is given, and returns their files. */
     static List<Path> draw(Path root, Path output, List<String> names, int width, int height) throws IOException {
         Files.createDirectories(output);
         ContactSheet sheet = new ContactSheet();

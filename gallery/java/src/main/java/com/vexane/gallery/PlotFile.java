@@ -148,7 +148,7 @@ public final class PlotFile {
     }
 
     /**
-     * The value that a share of the data does not exceed.
+     * The value that a fraction of the data does not exceed.
      *
      * @param share 0 to 1
      * @return a value of the data

@@ -71,7 +71,7 @@ public final class Sheet {
         ImageIO.write(sheet, "png", file.toFile());
     }
 
-    /** Where columns or rows begin, and behind them where the sheet ends. */
+    /** Where columns or rows begin, and after them where the sheet ends. */
     private static int[] starts(int[] sizes) {
         int[] starts = new int[sizes.length + 1];
         starts[0] = GAP;

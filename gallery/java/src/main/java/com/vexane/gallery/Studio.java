@@ -54,7 +54,7 @@ public final class Studio implements AutoCloseable {
     /**
      * A picture that was saved.
      *
-     * @param file where it lies
+     * @param file its path
      * @param caption what it shows beside the others of its program; may be empty
      */
     public record Shot(Path file, String caption) {}
@@ -130,7 +130,7 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Shows a plot, beside those shown before.
+     * Shows a plot, in addition to those shown before.
      *
      * @param plot the plot
      * @param title its title, in markup
@@ -145,7 +145,7 @@ public final class Studio implements AutoCloseable {
     /**
      * Looks at the whole scene in space.
      *
-     * @param azimuth degrees around the z axis, from the x axis on
+     * @param azimuth degrees around the z axis, from the x axis
      * @param elevation degrees above the xy plane
      * @return this studio
      */
@@ -156,7 +156,7 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Looks at the whole scene from above, as at a map: in both directions a unit is as long.
+     * Looks at the whole scene from above, as at a map: a unit has the same length in both directions.
      *
      * @return this studio
      */
@@ -262,7 +262,7 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * The light that every studio has: it is locked to the camera and comes from above its left shoulder.
+     * The light that every studio has: it is locked to the camera and comes from behind it, at the upper left.
      *
      * @return a peer
      */
@@ -291,7 +291,7 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Where the next picture of a program goes, for those that are not just drawn.
+     * The file of the next picture of a program, for pictures that are not written by {@code save}.
      *
      * @param caption what it shows
      * @return the file to write
@@ -306,7 +306,7 @@ public final class Studio implements AutoCloseable {
         return shots;
     }
 
-    /** Plots give their texture handles back when they leave the group, so they leave it here. */
+    /** Plots return their texture handles when they leave the group, so they leave it here. */
     @Override
     public void close() {
         if (!group.isClosed()) {

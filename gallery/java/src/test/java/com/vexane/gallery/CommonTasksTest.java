@@ -24,7 +24,7 @@ class CommonTasksTest {
 
     @BeforeAll
     static void doAllTasks() throws Exception {
-        Canvas3dGlobalSettings.setOnScreenResolution(72); // as at first; the gallery sets another one
+        Canvas3dGlobalSettings.setOnScreenResolution(72); // the initial value; the gallery sets another one
         CommonTasks.main(new String[] {folder.toString()});
     }
 

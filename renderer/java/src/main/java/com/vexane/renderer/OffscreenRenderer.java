@@ -191,9 +191,10 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Draws a draft of the scene as it is now, for a picture that the next one replaces at once, as while the user drags
-     * the scene: with one sample a pixel, in a third of the time where there is no graphics hardware. Edges are jagged;
-     * everything is at the same place as in the full picture, which {@link #draw()} gives when the drag is over.
+     * Draws a draft of the scene as it is now, for a picture that the next one replaces at once, as while the user
+     * drags the scene: with one sample per pixel, in a third of the time where there is no graphics hardware. Edges are
+     * jagged; everything is at the same position as in the full picture, which {@link #draw()} gives when the drag is
+     * over.
      *
      * @throws com.vexane.base.NativeException if the driver reports a fault
      */

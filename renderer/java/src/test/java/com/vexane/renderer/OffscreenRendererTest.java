@@ -107,7 +107,7 @@ class OffscreenRendererTest {
     }
 
     @Test
-    void thereIsNoImageUntilSomethingIsDrawnInThePresentSize() {
+    void thereIsNoImageUntilSomethingIsDrawnAtTheCurrentSize() {
         try (OffscreenRenderer renderer = OffscreenRenderer.create(16, 16, 1)) {
             assertThrows(NativeException.class, renderer::image);
             assertThrows(NativeException.class, () -> renderer.writePng(folder.resolve("none.png")));
@@ -193,7 +193,7 @@ class OffscreenRendererTest {
     }
 
     @Test
-    void tellsWhatTheDriverCanDo() {
+    void reportsWhatTheDriverCanDo() {
         try (RendererInfo info = OffscreenRenderer.info();
                 RendererInfo.MonitorInfo monitor = RendererInfo.MonitorInfo.connect(info, 0)) {
             assertEquals("OpenGL", info.getRendererType());
@@ -243,7 +243,7 @@ class OffscreenRendererTest {
     }
 
     @Test
-    void closedPeersAreRefusedAndClosingTwiceIsNothing() {
+    void closedPeersAreRefusedAndClosingTwiceDoesNothing() {
         Scene scene = new Scene();
         OffscreenRenderer renderer = OffscreenRenderer.create(8, 8, 1);
         renderer.setScene(scene);

@@ -19,7 +19,7 @@ import java.nio.ByteBuffer;
 import java.util.Arrays;
 import org.junit.jupiter.api.Test;
 
-/** The road of a plot from Java arrays to pixels. */
+/** The path of a plot from Java arrays to pixels. */
 class PlotPictureTest {
     private static final int BLUE = 0x0000ffff;
     private static final int RED = 0xff0000ff;
@@ -130,7 +130,7 @@ class PlotPictureTest {
     }
 
     @Test
-    void titlesAndLegendsTakeTheirRoomFromThePlot() {
+    void titlesAndLegendsTakeTheirSpaceFromThePlot() {
         try (Scene scene = new Scene();
                 SceneGraphRoot root = SceneGraphRoot.connect(scene);
                 SceneGraphPlotGroup group = new SceneGraphPlotGroup();
