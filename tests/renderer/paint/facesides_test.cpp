@@ -197,7 +197,8 @@ TEST_F(FaceSidesTest, trianglesWithSomethingNotFiniteAreNotDrawn)
     constexpr std::size_t middle = 12;
     const PostDataObject sound = grid(cells).make();
     const int all = pictureOf(sound).countDrawn(0, 0, c_size, c_size);
-    for (const double bad : {double{c_nan}, double{c_infinity}, double{-c_infinity}}) {
+    for (const double bad :
+         {static_cast<double>(c_nan), static_cast<double>(c_infinity), -static_cast<double>(c_infinity)}) {
         PostDataObject record = grid(cells).make();
         (*record.m_data[0])[0][middle] = bad;
         Picture shown = pictureOf(record);
