@@ -11,10 +11,11 @@ namespace vxrenderer {
 
 struct PaintContext;
 
-/// An object beside plots, as it appears in the scene.
+/// An object that is not a plot, as it appears in the scene.
 using ObjectItem = boost::shared_ptr<const vxgraphics3d::SceneGraphObject>;
 
-/// Draws one family of the objects beside plots. A new family is a class of its own and a line in `makeObjectPainters`.
+/// Draws one family of objects that are not plots. A new family is a class of its own and a line in
+/// `makeObjectPainters`.
 class ObjectPainter {
 public:
     virtual ~ObjectPainter() = default;

@@ -16,7 +16,7 @@ namespace {
 using vxgraphics3d::CanvasBackgroundImage;
 using vxgraphics3d::Image;
 
-// Corners are clip coordinates; the place between them runs from 0 at the top left to 1 at the bottom right.
+// Corners are clip coordinates; the position between them runs from 0 at the top left to 1 at the bottom right.
 constexpr const char* c_block = R"(
 layout(std140) uniform Background {
     vec4 corners;

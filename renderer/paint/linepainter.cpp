@@ -9,8 +9,8 @@
 namespace vxrenderer {
 namespace {
 
-// The part of a line before the near plane is cut off here: its ends are moved aside by pixels, and what lies behind
-// the eye has no place on the screen.
+// The part of a line in front of the near plane is cut off here: its ends are moved aside by pixels, and what lies
+// behind the eye has no position on the screen.
 constexpr const char* c_vertexSource = R"(
 layout(std140) uniform Line {
     mat4 toClip;

@@ -299,7 +299,7 @@ TEST_F(SceneRendererTest, bothKindsOfNumbersHaveTheirDigits)
     GridRecord record;
     record.value = [](double, double) { return 1.0 / 3.0; };
     m_scene.add<SceneGraphPlotSurface2d>(1, record, c_twoColors);
-    // What legends take: 0.33 or 0.33333 beside the bar, and with a mark before it above and below.
+    // What legends take: 0.33 or 0.33333 next to the bar, and with a mark before it above and below.
     const auto room = [&](int tick, int minMax) {
         const Precisions precisions(tick, minMax);
         drawn(m_canvas);

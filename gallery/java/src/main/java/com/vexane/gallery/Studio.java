@@ -55,7 +55,7 @@ public final class Studio implements AutoCloseable {
      * A picture that was saved.
      *
      * @param file its path
-     * @param caption what it shows beside the others of its program; may be empty
+     * @param caption what it shows, as opposed to the others of its program; may be empty
      */
     public record Shot(Path file, String caption) {}
 
