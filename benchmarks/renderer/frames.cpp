@@ -141,7 +141,7 @@ void drawBare(benchmark::State& state, int samples)
         target.read(pixels.data());
     };
     draw();
-    // White but for three channels of what was drawn.
+    // White, except for three channels of the drawn pixels.
     if (std::count(pixels.begin(), pixels.end(), std::uint8_t(255)) > 4 * c_width * c_height - 3 * c_fewPixels) {
         state.SkipWithError("hardly anything was drawn");
     }
