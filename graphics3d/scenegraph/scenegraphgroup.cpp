@@ -46,8 +46,10 @@ bool SceneGraphGroup::addChild(boost::shared_ptr<SceneGraphNode> node)
     attach(child, id);
     if (isBoxCurrent) {
         // Merging the last child into the box gives the same bits as merging all children in id order.
-        m_childBox.merge(child.getBoundingBox());
-        setBoundingBox(m_childBox);
+        BoundingBox box = m_childBox;
+        box.merge(child.getBoundingBox());
+        m_childBox = box;
+        setBoundingBox(box);
         m_hearsAllChildren = true;
     } else {
         calculateBoundingBox();

@@ -67,22 +67,6 @@ void SceneGraphNode::setActive(bool active)
     }
 }
 
-void SceneGraphNode::setBoundingBox(const BoundingBox& box)
-{
-    if (storeBoundingBox(box)) {
-        updateBoxesAbove();
-    }
-}
-
-bool SceneGraphNode::storeBoundingBox(const BoundingBox& box)
-{
-    const bool isNew = !(box == m_boundingBox);
-    if (isNew) {
-        m_boundingBox = box;
-    }
-    return isNew;
-}
-
 /// Each parent has its box calculated as in calculateBoundingBox(), but in a loop: a tree may be deeper than the stack.
 void SceneGraphNode::updateBoxesAbove()
 {

@@ -82,7 +82,12 @@ public:
     const BoundingBox& getStoredBoundingBox() const { return m_boundingBox; }
     /// Stores the box and updates the boxes above, as far up as they change. An equal box does nothing; an empty one is
     /// always propagated, since empty boxes are never equal.
-    void setBoundingBox(const BoundingBox& box);
+    void setBoundingBox(const BoundingBox& box)
+    {
+        if (storeBoundingBox(box)) {
+            updateBoxesAbove();
+        }
+    }
 
     // What each kind of node implements
 
@@ -120,7 +125,14 @@ private:
     /// Stops reporting to the parent, which may still hold the node.
     void leaveParent();
     /// @return whether the box differs from the previous one
-    bool storeBoundingBox(const BoundingBox& box);
+    bool storeBoundingBox(const BoundingBox& box)
+    {
+        const bool isNew = !(box == m_boundingBox);
+        if (isNew) {
+            m_boundingBox = box;
+        }
+        return isNew;
+    }
     /// Has the parents above merge the boxes of their children again, as far up as that changes a box.
     void updateBoxesAbove();
 
@@ -135,8 +147,8 @@ private:
     int m_childId = c_neverAttached;
     bool m_active = true;
     ChangeNumber m_changeId;
-    std::vector<SnapVertex> m_snapVertices;
     BoundingBox m_boundingBox;
+    std::vector<SnapVertex> m_snapVertices;
 };
 
 } // namespace vxgraphics3d

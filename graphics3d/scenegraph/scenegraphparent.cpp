@@ -78,6 +78,10 @@ void SceneGraphParent::markChildChanged()
 
 void SceneGraphParent::treeStructureChanged()
 {
+    // A group is usually filled before it is added to the tree.
+    if (m_parent.empty()) {
+        return;
+    }
     if (const auto root = rootAbove()) {
         root->treeStructureChanged();
     }
@@ -149,7 +153,9 @@ bool SceneGraphParent::contains(const SceneGraphParent& wanted) const
 void SceneGraphParent::attach(SceneGraphNode& node, int childId)
 {
     logInfo("Connecting node as child %d to parent (node %d)", childId, getNodeId());
-    node.leaveParent();
+    if (!node.m_parent.empty()) {
+        node.leaveParent();
+    }
     node.m_parent = boost::weak_ptr<SceneGraphParent>(m_self, this);
     node.m_childId = childId;
     if (getType() == NodeRoot || !m_parent.expired()) {
