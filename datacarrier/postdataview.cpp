@@ -51,6 +51,13 @@ const PostDataView::FloatArrays& PostDataView::normals(int group) const
     return arrays;
 }
 
+bool PostDataView::hasElements(int group) const
+{
+    const auto at = static_cast<std::size_t>(group);
+    return at < m_record.m_elements.size() && m_record.m_elements[at] && !m_record.m_elements[at]->empty() &&
+           !m_record.m_elements[at]->front().empty();
+}
+
 const PostDataView::IntArrays& PostDataView::elements(int group, int minCorners) const
 {
     return equalArrays(entry(m_record.m_elements, group, "elements"), group, minCorners, "elements");

@@ -47,6 +47,8 @@ public:
     /// At least three arrays with an entry for each point.
     const FloatArrays& normals(int group) const;
 
+    /// Whether a group has elements.
+    bool hasElements(int group) const;
     /// At least `minCorners` corner arrays, all of the same length.
     const IntArrays& elements(int group, int minCorners) const;
     /// At least two arrays, all of the same length.

@@ -20,6 +20,9 @@ public:
     {
         append(1, [=](auto* out) { put(out[0], vertex); });
     }
+    /// Opens a strip of `count` consecutive vertices. Throws std::out_of_range, and opens none, if there is not enough
+    /// space.
+    void newStripOf(int firstVertex, int count);
 };
 
 } // namespace vxgraphics3d

@@ -67,6 +67,9 @@ constexpr ConversionTable<8> c_plotTypes{
     -1,
     -1};
 
+constexpr int c_largestSymbol = 7;
+constexpr int c_largestStyle = 3;
+
 constexpr auto c_antialiasingTypes = sameNumbers<3>();
 
 using Settings = Canvas3dGlobalSettings;
@@ -160,6 +163,16 @@ TextFormat javaTextFormatToCpp(int format)
 int cppPlotTypeToJava(SceneGraphPlot::PlotType type)
 {
     return c_plotTypes.toJava(static_cast<int>(type));
+}
+
+RenderSymbol javaRenderSymbolToCpp(int symbol)
+{
+    return symbol >= 0 && symbol <= c_largestSymbol ? static_cast<RenderSymbol>(symbol) : RenderSymbol::none;
+}
+
+LineStyle javaLineStyleToCpp(int style)
+{
+    return style >= 0 && style <= c_largestStyle ? static_cast<LineStyle>(style) : LineStyle::none;
 }
 
 int cppAntialiasingTypeToJava(int type)

@@ -6,6 +6,8 @@
 #include "graphics3d/lights/lightsource.h"
 #include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/picking/pickedobject.h"
+#include "graphics3d/plots/graph/linestyle.h"
+#include "graphics3d/plots/graph/rendersymbol.h"
 #include "graphics3d/plots/scenegraphplot.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 #include "graphics3d/scenegraph/scenegraphobject.h"
@@ -43,6 +45,10 @@ TextFormat javaTextFormatToCpp(int format);
 /// The kinds of plots that Java distinguishes: surface 2, arrows 3, edges 4, iso surfaces 5, slices 6, tubes 7 and
 /// spheres 10, all in 3D, and the surface in 2D 8; any other -1.
 int cppPlotTypeToJava(SceneGraphPlot::PlotType type);
+/// The symbols -1 to 7 are the same on both sides; anything else is no symbol, -1.
+RenderSymbol javaRenderSymbolToCpp(int symbol);
+/// The styles -1 to 3 are the same on both sides; anything else is no line, -1.
+LineStyle javaLineStyleToCpp(int style);
 
 /// 0 to 2 are the same on both sides; anything else 0.
 int cppAntialiasingTypeToJava(int type);

@@ -3,6 +3,8 @@
 #include "graphics3d/canvas/irenderersetup.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/picking/canvaspicksettings.h"
+#include "graphics3d/plots/graph/graphline.h"
+#include "graphics3d/plots/graph/scenegraphplotgraph.h"
 #include "graphics3d/plots/scenegraphplot.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
 #include "graphics3d/scene/scene.h"
@@ -207,6 +209,24 @@ VX_NATIVE(jstring, TestRenderer, describe)(JNIEnv* env, jclass, jobject self)
                                   std::to_string(plot.getHeightScale()) + ", offset " +
                                   std::to_string(plot.getPlotPlaneOffset()) +
                                   (plot.isValid() ? ", filled" : ", empty"));
+    });
+}
+
+VX_NATIVE(jstring, TestRenderer, describeGraph)(JNIEnv* env, jclass, jobject self)
+{
+    return native(env, "describeGraph", [&] {
+        const SceneGraphPlotGraph& plot = peer<SceneGraphPlotGraph>(env, self);
+        std::string text = "width " + std::to_string(static_cast<int>(plot.getLineWidth()));
+        text += plot.isShowLegends() ? ", legends" : "";
+        text += plot.isShowUnitCircle() ? ", unit circle" : "";
+        text += plot.isMarkersInterpolation() ? "" : ", at points";
+        for (const auto& line : plot.getLines()) {
+            text += "; " + std::to_string(static_cast<int>(line->m_marker)) + " " +
+                    std::to_string(static_cast<int>(line->m_lineStyle)) + " " +
+                    std::to_string(plot.getColorOf(*line).toRgb()) + " " + std::to_string(line->m_numMarkers) + " " +
+                    line->m_legendDescription.toUtf8();
+        }
+        return toJavaNew(env, text);
     });
 }
 

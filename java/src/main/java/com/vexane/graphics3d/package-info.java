@@ -27,6 +27,7 @@
  *       {@link SceneGraphObject} shows geometry, and a {@link SceneGraphPlotGroup} has plots.
  *   <li>A {@link SceneGraphPlot} shows the values of one record with a colour table, a legend and a title:
  *       {@link SceneGraphPlotSurface2d}, {@link SceneGraphPlotSurface3d} and {@link SceneGraphPlotDomain3d}.
+ *       A {@link SceneGraphPlotGraph} shows lines with a {@link RenderSymbol} and a {@link LineStyle} each.
  *       {@link PostDataReader} reads records from files.
  *   <li>The {@link SceneLight} of a scene makes and removes its light sources, which are
  *       {@linkplain DirectionLightSource directional lights}, {@linkplain PointLightSource point lights} and

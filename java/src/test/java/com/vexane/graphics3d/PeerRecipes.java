@@ -60,6 +60,7 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphPlotSurface2d.class, made -> new SceneGraphPlotSurface2d(1));
         recipe(SceneGraphPlotSurface3d.class, made -> new SceneGraphPlotSurface3d(2));
         recipe(SceneGraphPlotDomain3d.class, made -> new SceneGraphPlotDomain3d(3));
+        recipe(SceneGraphPlotGraph.class, made -> new SceneGraphPlotGraph(4));
         recipe(PostDataObject.class, made -> new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0)
                 .role(DataRole.HEIGHT, 0).addGroup(new PostDataGroup()
                         .coordinates(new double[] {0, 1, 0}, new double[] {0, 0, 1}, new double[3])

@@ -88,6 +88,9 @@ public final class TestRenderer extends NativePeer {
 
     private static native void announce(RendererInfo infoOrNull);
 
+    /** The settings of a graph, then those of each line: symbol, style, colour, number of markers, description. */
+    static native String describeGraph(SceneGraphPlotGraph plot);
+
     /** What the natives of a plot set and none of them returns. */
     static native String describe(SceneGraphPlot plot);
 
