@@ -24,8 +24,13 @@ class CommonTasksTest {
 
     @BeforeAll
     static void doAllTasks() throws Exception {
+        int before = Canvas3dGlobalSettings.getOnScreenResolution();
         Canvas3dGlobalSettings.setOnScreenResolution(72); // the initial value; the gallery sets another one
-        CommonTasks.main(new String[] {folder.toString()});
+        try {
+            CommonTasks.main(new String[] {folder.toString()});
+        } finally {
+            Canvas3dGlobalSettings.setOnScreenResolution(before);
+        }
     }
 
     private static BufferedImage picture(String name) throws IOException {
