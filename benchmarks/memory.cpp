@@ -28,11 +28,11 @@ MemoryWatch::MemoryWatch()
     m_before = processMemory("VmRSS:");
 }
 
-void MemoryWatch::report(benchmark::State& state, double buffers, double told) const
+void MemoryWatch::report(benchmark::State& state, double buffers, double expected) const
 {
     state.counters["peak"] = processMemory("VmHWM:") - m_before;
     state.counters["buffers"] = buffers;
-    state.counters["told"] = told;
+    state.counters["expected"] = expected;
 }
 
 } // namespace vxgraphics3d

@@ -12,7 +12,7 @@ public:
 
     /// Reports the peak use since then, in bytes: next to the bytes of the remaining buffers, and of those and the
     /// temporary arrays.
-    void report(benchmark::State& state, double buffers, double told) const;
+    void report(benchmark::State& state, double buffers, double expected) const;
 
 private:
     double m_before;

@@ -32,7 +32,7 @@ target_compile_options(vx_options INTERFACE
   # gcc 12 drops the rounding to float when it narrows and widens two adjacent doubles at once (compiler_test.cpp).
   $<$<CXX_COMPILER_ID:GNU>:-fno-tree-slp-vectorize>
   -fno-strict-aliasing
-  # Nobody replaces a function of the libraries at load time, so calls within a library may be inlined; clang's default.
+  # No program replaces functions of the libraries at load time, so calls within a library may be inlined; clang's default.
   $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual
   -Wnon-virtual-dtor -Woverloaded-virtual -Wdouble-promotion -Wformat=2 -Wundef

@@ -2,12 +2,12 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-# vx_public_headers(result ROOMS room... [HEADERS file...])
-# The headers of the given rooms that are installed: those that mark something with VX_API, those listed, and those of
-# the same rooms that these include. Computed at every configuration.
+# vx_public_headers(result FOLDERS folder... [HEADERS file...])
+# The headers of the given folders that are installed: those that mark something with VX_API, those listed, and those of
+# the same folders that these include. Computed at every configuration.
 function(vx_public_headers result)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "ROOMS;HEADERS")
-  list(TRANSFORM arg_ROOMS REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/\\1/*.h" OUTPUT_VARIABLE patterns)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;HEADERS")
+  list(TRANSFORM arg_FOLDERS REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/\\1/*.h" OUTPUT_VARIABLE patterns)
   list(TRANSFORM arg_HEADERS PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE open)
   vx_glob(headers ${patterns})
   foreach(header ${headers})
@@ -30,13 +30,13 @@ function(vx_public_headers result)
   set(${result} ${public} PARENT_SCOPE)
 endfunction()
 
-# vx_library(name DESCRIPTION text SOURCES file... ROOMS room... NAMESPACES namespace... PACKAGE java-package
+# vx_library(name DESCRIPTION text SOURCES file... FOLDERS folder... NAMESPACES namespace... PACKAGE java-package
 #            [HEADERS file...] [NEEDS name...])
 # The shared library vx<name>, which users link as vexane::<name>, and its pkg-config file. It exports the natives of a
-# package below com.vexane and everything in the namespaces that is marked with VX_API. ROOMS contain its headers; HEADERS
+# package below com.vexane and everything in the namespaces that is marked with VX_API. FOLDERS contain its headers; HEADERS
 # adds public ones in which there is nothing to mark.
 function(vx_library name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION;PACKAGE" "SOURCES;ROOMS;NAMESPACES;HEADERS;NEEDS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION;PACKAGE" "SOURCES;FOLDERS;NAMESPACES;HEADERS;NEEDS")
   set(target vx${name})
   set(description ${arg_DESCRIPTION})
   set(package ${arg_PACKAGE})
@@ -49,7 +49,7 @@ function(vx_library name)
   target_compile_definitions(${target} PRIVATE VX_JAVA_PACKAGE=${package})
   target_link_libraries(${target} PUBLIC ${needed} PRIVATE vx_options)
 
-  vx_public_headers(headers ROOMS ${arg_ROOMS} HEADERS ${arg_HEADERS})
+  vx_public_headers(headers FOLDERS ${arg_FOLDERS} HEADERS ${arg_HEADERS})
   target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${headers})
 
   set(patterns)
@@ -81,7 +81,7 @@ endfunction()
 function(vx_companion name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION" "SOURCES")
   vx_java_module(NAME ${name} SOURCES ${CMAKE_CURRENT_SOURCE_DIR}/java/src/main/java NEEDS graphics3d NATIVE_HEADERS)
-  vx_library(${name} DESCRIPTION ${arg_DESCRIPTION} SOURCES ${arg_SOURCES} ROOMS ${name} NAMESPACES vx${name}
+  vx_library(${name} DESCRIPTION ${arg_DESCRIPTION} SOURCES ${arg_SOURCES} FOLDERS ${name} NAMESPACES vx${name}
     PACKAGE ${name} NEEDS graphics3d)
   target_link_libraries(vx${name} PRIVATE vx_${name}_headers)
   vx_java_jar(NAME ${name} LIBRARIES vx${name})

@@ -40,8 +40,8 @@ void CameraDrag::takeView(const ICameraTransforms& transforms)
                           .transformed(transforms.getAxisViewScaleTransform())
                           .transformed(transforms.getViewTransform());
 
-    // The centre of the rotation in the picture: straight ahead for a roll of the camera, the rotation point for a roll
-    // of the scene.
+    // The centre of a roll in the picture: the point straight ahead for a roll of the camera, the rotation point for a
+    // roll of the scene.
     const Vector3f axis = m_action == Action::ActionRoll ? Vector3f(0.0f, 0.0f, -1.0f) : m_rotationPoint;
     const Vector3f device = axis.transformed(projection);
     m_rollCentre = {(device.x * 0.5f + 0.5f) * m_areaWidth, (device.y * 0.5f + 0.5f) * m_areaHeight};
@@ -54,7 +54,7 @@ bool CameraDrag::moveTo(float dx, float dy)
     }
     switch (m_action) {
     case Action::ActionOrbit:
-        // The camera orbits in the opposite direction, so that the near side of the scene follows the pointer.
+        // The camera orbits against the pointer, so that the near side of the scene follows it.
         return apply(&ICameraActions::setAdditionalSceneRotation, m_orbitSpeed * dy, -m_orbitSpeed * dx, 0.0f);
     case Action::ActionTurn:
         return turnTo(dx, dy);
@@ -83,7 +83,8 @@ bool CameraDrag::turnTo(float dx, float dy)
     const float distance = m_isPerspective ? 1.0f : m_rotationPoint.length();
     const float x = dx * m_pixelWidth / distance;
     const float y = dy * m_pixelHeight / distance;
-    // The camera pitches after it has turned, so the turn is measured at the distance that remains after pitching.
+    // The camera turns to the side and then pitches by the angle of y. In the pitched direction the picture plane is at
+    // the distance sqrt(1 + y y), where the turn has to cover x.
     return apply(&ICameraActions::setAdditionalRotation, -std::atan(y), std::atan(x / std::hypot(1.0f, y)), 0.0f);
 }
 
@@ -97,7 +98,7 @@ bool CameraDrag::rollTo(float dx, float dy)
     if (m_action == Action::ActionRoll) {
         return apply(&ICameraActions::setAdditionalRotation, 0.0f, 0.0f, now - before);
     }
-    // The line to a point behind the eye points in the opposite direction.
+    // The scene turns about the line from the eye to the rotation point. If that is behind the eye, so does the line.
     const float angle = m_rotationPoint.z < 0.0f ? now - before : before - now;
     return apply(&ICameraActions::setAdditionalSceneRotation, 0.0f, 0.0f, angle);
 }
@@ -114,8 +115,8 @@ bool CameraDrag::shiftTo(float dx, float dy)
         up = right.cross(m_rotationPoint).normalized();
     }
 
-    // The position of a point in the picture is its x and y, divided by its depth in perspective. A point behind the
-    // eye has no such position; a point straight ahead at the same distance replaces it.
+    // In perspective the position of a point in the picture is its x and y divided by its depth. A point behind the eye
+    // has no position there, so a point straight ahead at the same distance is used instead.
     double depth = 1.0;
     double placeX = 0.0;
     double placeY = 0.0;

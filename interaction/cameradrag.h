@@ -36,13 +36,13 @@ public:
 
     Action getAction() const { return m_action; }
 
-    /// Moves the pointer to a position in pixels to the right of its start and above it. Nothing happens if the
-    /// settings of the process or the view give a transformation that is not finite.
+    /// Moves the pointer to a position relative to the start of the drag: `dx` pixels to the right and `dy` upwards.
+    /// Nothing happens if speeds or view give a transformation that is not finite.
     /// @return whether the camera was changed
     bool moveTo(float dx, float dy);
-    /// Keeps the displayed view. A drag that never moved leaves the camera unchanged.
+    /// Makes the displayed view the view of the camera. If the drag never moved, nothing happens.
     void merge();
-    /// Restores the view at the beginning.
+    /// Restores the view that the drag began with.
     /// @return whether there was anything to discard
     bool discard();
 
@@ -67,12 +67,12 @@ private:
     float m_zoomSpeed;
 
     bool m_isPerspective = false;
-    /// The extent of a pixel: in perspective at distance 1 from the eye, in orthographic projection at any distance.
+    /// The size of a pixel in the units of the eye: in perspective at distance 1, in orthographic projection at any.
     float m_pixelWidth = 0.0f;
     float m_pixelHeight = 0.0f;
     /// The rotation point in the coordinates of the eye.
     vxgraphics3d::Vector3f m_rotationPoint;
-    /// The fixed point of a roll.
+    /// The point of the render area about which a roll turns.
     AreaPoint m_rollCentre;
 };
 

@@ -29,7 +29,7 @@ VX_NATIVE(jint, CanvasBackgroundImage, setImage)
         if (width < 0 || height < 0 || static_cast<std::int64_t>(width) * height != source.length()) {
             return -1;
         }
-        // A picture without pixels becomes one transparent pixel, whatever its size.
+        // A picture without pixels becomes one transparent pixel; its width and height are ignored.
         const bool empty = source.length() == 0;
         Image image(empty ? 1 : width, empty ? 1 : height, Image::Rgba, scale);
         std::transform(source.get(), source.get() + source.length(), image.data(), Image::wordFromArgb);

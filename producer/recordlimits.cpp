@@ -75,8 +75,8 @@ void requireInside(const vxdatacarrier::PostDataObject::IntArrays& corners, std:
                 std::find_if(indices.begin(), indices.end(), [&](int index) { return number(index) >= numPoints; });
             throw std::out_of_range("group " + std::to_string(group) + ": " + field + "[" + std::to_string(corner) +
                                     "][" + std::to_string(found - indices.begin()) + "] is point " +
-                                    std::to_string(*found) + ", but the group has " + std::to_string(numPoints) +
-                                    " points");
+                                    std::to_string(*found) + ", but the group has " +
+                                    (numPoints == 0 ? "no points" : "points 0 to " + std::to_string(numPoints - 1)));
         }
     }
 }

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the colour tables of this folder anew.
+"""Makes the colour tables of this folder.
 
 usage: make.py MATPLOTLIB_FOLDER
 

@@ -100,8 +100,8 @@ void SnapVertexIndex::sort()
     m_upToDate = true;
 }
 
-/// The order of an axis merged with further entries, which come newest first: so a stable sort and merge put the newest
-/// before its equals.
+/// The order of an axis with further entries merged into it. These come newest first, so that the stable sort and the
+/// merge put the newest of equal coordinates first.
 std::vector<SnapVertexIndex::Entry> SnapVertexIndex::merged(Axis axis, std::vector<Entry> added) const
 {
     for (Entry& entry : added) {

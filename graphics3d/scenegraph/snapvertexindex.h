@@ -25,13 +25,14 @@ public:
 
     /// Adds copies of the vertices, each for the node that it refers to.
     void add(const std::vector<SnapVertex>& vertices);
-    /// Removes the node's vertices from the orders, and the first contiguous run of them from the vertices themselves;
-    /// the vertices of a node are added together, so the run is all of them. A node without vertices changes nothing.
+    /// Removes all vertices of the node from the sorted orders, and its first contiguous run from `getVertices`. The
+    /// vertices of a node are usually added by one call and form one run. Without vertices of the node nothing changes.
     void remove(int nodeId);
 
-    /// Looks for a vertex nearer to the point than `maxDistance`: first at the ends of the last search, then along x
-    /// and y alternately, in the directions given by the signs of the components, until neither finds a nearer one.
-    /// Each step takes the first vertex that is nearer, and the next search continues from it.
+    /// Looks for a vertex nearer to the point than `maxDistance`: first the two vertices at which the last search ended,
+    /// then along the orders of x and y in turn, until neither has a nearer one. Each step ends at the first vertex that
+    /// is nearer, and the next step along that order starts there.
+    /// @param direction a negative x or y searches that order downwards, any other value upwards
     /// @param coordinate receives x, y and z of the vertex found; unchanged if none is
     /// @return the distance of that vertex, measured in float, or `maxDistance`
     double getClosestSnapCoordinate(const Vector3f& point, double* coordinate, double maxDistance,
@@ -43,12 +44,12 @@ public:
     std::vector<SnapVertex> getOrder(Axis axis);
 
 private:
-    /// Vertices of one node that were added together. They are never moved, so entries may point at them.
+    /// Vertices of one node that were added together. They are never moved, so entries may point to them.
     struct Run {
         int nodeId;
         std::vector<SnapVertex> vertices;
-        bool listed = true;  ///< takes part in the orders
-        bool sorted = false; ///< entries point at the vertices
+        bool listed = true;  ///< belongs in the orders: its node was not removed
+        bool sorted = false; ///< is in the orders: entries point to its vertices
     };
     using Runs = std::list<Run>;
 
@@ -77,7 +78,7 @@ private:
     static void step(Order& order, const Vector3f& point, float direction, Best& best);
 
     Runs m_runs;    ///< in the order of arrival
-    Runs m_retired; ///< removed, but entries point at them until the next sort
+    Runs m_retired; ///< removed, but entries point to them until the next sort
     std::unordered_map<int, std::vector<Runs::iterator>> m_runsOfNode;
     Order m_orders[2];
     bool m_upToDate = true;

@@ -9,12 +9,14 @@
 namespace vxrenderer {
 namespace {
 
+/// Limits of the number of ticks that is asked for. `makeTicks` rounds the step, so it may give fewer, but at least one
+/// when three are asked for.
 constexpr int c_mostTicks = 100;
-/// Asking for this many ticks gives at least one for certain.
 constexpr int c_fewestTicks = 3;
-/// Without two labels an axis has no scale.
+/// With a single label an axis has no scale.
 constexpr std::size_t c_fewestLabels = 2;
-/// Finer ticks, which come closer to the ends, for scales on which coarse ones leave fewer labels.
+/// Numbers of ticks to ask for on an axis on which coarser ticks leave fewer than two labels: finer ones come closer to
+/// its ends.
 constexpr int c_finerTicks[] = {5, 10, 20};
 /// The smallest distance of lines in pixels.
 constexpr double c_closestLines = 4.0;

@@ -59,7 +59,8 @@ public:
     boost::shared_ptr<vxgraphics3d::SceneSettings> getSceneSettings() override;
     boost::shared_ptr<vxgraphics3d::ContextData> getContextData() override { return m_contextData; }
 
-    /// Gives the picture another size. What was drawn is gone. If the size is refused, the old one stays.
+    /// Gives the picture another size. The picture drawn last is lost. If the size is refused, nothing changes.
+    /// @throws std::invalid_argument for a size below 1 or beyond what the driver allows
     void resize(int width, int height);
     int getWidth() const;
     int getHeight() const;
@@ -76,14 +77,16 @@ public:
     /// Draws the picture.
     /// @throws std::runtime_error if the driver reports a fault
     void draw(Quality quality = Quality::full);
-    /// Bytes of the picture.
+    /// The size of the picture in bytes: four per pixel.
     std::size_t imageSize() const;
-    /// Copies the picture drawn last: four bytes per pixel, red first, the top row first.
-    /// @throws std::invalid_argument if `numBytes` is not `imageSize()`
-    /// @throws std::logic_error if nothing was drawn since the size was given
+    /// Copies the picture drawn last to `pixels`: rows from top to bottom, for each pixel the bytes red, green, blue and
+    /// alpha.
+    /// @param numBytes the size of the array, which must be `imageSize()`
+    /// @throws std::invalid_argument if it is another one
+    /// @throws std::logic_error if nothing was drawn since the canvas was made or resized
     void readImage(std::uint8_t* pixels, std::size_t numBytes) const;
-    /// The bytes of an image file of the picture drawn last.
-    /// @throws std::logic_error if nothing was drawn since the size was given
+    /// The picture drawn last as the bytes of a PNG file.
+    /// @throws std::logic_error if nothing was drawn since the canvas was made or resized
     std::vector<std::uint8_t> encodePng() const;
 
     /// Draws the view at another size as the settings of the export ask, and gives the bytes of an image file. The view
@@ -93,7 +96,7 @@ public:
     std::vector<std::uint8_t> encodeHardcopy(const vxgraphics3d::HardcopySettings& settings, int width, int height);
 
     const UploadCounts& getUploadCounts() const;
-    /// How the scene was seen in the picture drawn last.
+    /// The view of the scene in the picture drawn last.
     const View& getView() const { return m_view; }
     /// How the drawing context was obtained, and which driver draws.
     std::string getDriver() const;
@@ -113,9 +116,9 @@ private:
     int m_samples;
     int m_targetSamples = 0;
     std::unique_ptr<Target> m_target;
-    /// Of the same size with one sample; null until it is needed.
+    /// A target of the same size with one sample; null until it is needed.
     std::unique_ptr<Target> m_draftTarget;
-    /// Where the picture drawn last is; null if nothing was drawn since the size was given.
+    /// The target that holds the picture drawn last; null if nothing was drawn since the canvas was made or resized.
     const Target* m_drawnTarget = nullptr;
     std::unique_ptr<SceneRenderer> m_renderer;
     boost::shared_ptr<vxgraphics3d::Canvas3dSettings> m_settings;

@@ -6,7 +6,7 @@
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphgroup.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
-#include "producer/recordlimits.h"
+#include "producer/postdatabuilder.h"
 
 #include <boost/make_shared.hpp>
 
@@ -16,17 +16,12 @@
 inline vxdatacarrier::PostDataObject makeRecord(const std::vector<double>& values)
 {
     using Record = vxdatacarrier::PostDataObject;
-    const auto range = vxproducer::finiteRange(values);
-    Record record;
-    record.m_plotKind = Record::Surface2d;
-    record.m_dataIndex[Record::ColorData] = 0;
-    record.m_coordinates = {boost::make_shared<Record::DoubleArrays>(Record::DoubleArrays{{0, 2, 2, 0}, {0, 0, 1, 1}})};
-    record.m_elements = {boost::make_shared<Record::IntArrays>(Record::IntArrays{{0, 0}, {1, 2}, {2, 3}})};
-    record.m_data = {boost::make_shared<Record::DoubleArrays>(1, values)};
-    record.m_dataMin = {boost::make_shared<std::vector<double>>(1, range.min)};
-    record.m_dataMax = {boost::make_shared<std::vector<double>>(1, range.max)};
-    record.m_bounds = boost::make_shared<Record::DoubleArrays>(vxproducer::boundsOf(record));
-    return record;
+    return vxproducer::PostDataBuilder(Record::Surface2d)
+        .role(Record::ColorData, 0)
+        .addGroup({.coordinates = {{0, 2, 2, 0}, {0, 0, 1, 1}},
+                   .elements = {{0, 0}, {1, 2}, {2, 3}}, // first, second and third points of the triangles
+                   .data = {values}})
+        .build();
 }
 
 /// A scene with one plot of that record.

@@ -70,12 +70,12 @@ TEST(PostDataBuilder, refusesInconsistentGroupsAndKeepsTheEarlierOnes)
         {[](auto& g) { g.coordinates.clear(); }, "group 1: coordinates: 0 arrays, not 1 to 3"},
         {[](auto& g) { g.coordinates[2].pop_back(); }, "group 1: coordinates[2] has 3 entries, coordinates[0] has 4"},
         {[](auto& g) { g.elements.resize(5); }, "group 1: elements: 5 arrays, not 0 to 4"},
-        {[](auto& g) { g.elements[1][0] = 4; }, "group 1: elements[1][0] is point 4, but the group has 4 points"},
+        {[](auto& g) { g.elements[1][0] = 4; }, "group 1: elements[1][0] is point 4, but the group has points 0 to 3"},
         {[](auto& g) { g.lineElements = {{0}}; }, "group 1: lineElements: 1 arrays, not 2"},
         {[](auto& g) {
              g.lineElements = {{0}, {-1}};
          },
-         "group 1: lineElements[1][0] is point -1, but the group has 4 points"},
+         "group 1: lineElements[1][0] is point -1, but the group has points 0 to 3"},
         {[](auto& g) { g.normals.resize(2); }, "group 1: normals: 2 arrays, not 3"},
         {[](auto& g) { g.normals.resize(3); }, "group 1: normals have 0 entries for 4 points"},
         {[](auto& g) { g.elements.pop_back(); },

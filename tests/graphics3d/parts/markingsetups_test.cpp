@@ -60,36 +60,26 @@ TEST(MarkingModeSetup, newTableHasTenDefaultRows)
 
 TEST(MarkingSetups, everyDefault)
 {
-    // Rows 7 and 8 are hidden and row 9 is never set.
-    const Marking rows[] = {
-        row(0xd9d9d9, 0x000000, 1.0f, 0x000000, 5.0f, 0x000000, 0),
-        row(0xf28c8c, 0xff0000, 3.0f, 0xff0000, 7.0f, 0xff0000, 2),
-        row(0x8c8cf2, 0x0000ff, 3.0f, 0x0000ff, 7.0f, 0x0000ff, 1),
-        row(0x8cf28c, 0x009900, 3.0f, 0x009900, 7.0f, 0x009900, 3),
-        row(0xf28c8c, 0xff0000, 1.0f, 0xff0000, 5.0f, 0xff0000, 2),
-        row(0x8c8cf2, 0x0000ff, 1.0f, 0x0000ff, 5.0f, 0x0000ff, 1),
-        row(0x8cf28c, 0x009900, 1.0f, 0x009900, 5.0f, 0x009900, 3),
-        hiddenRow(),
-        hiddenRow(),
-        Marking(),
-    };
-    const Marking rowsOfMode2[] = {
-        row(0xd9d9d9, 0x141414, 1.5f, 0x000000, 5.0f, 0x000000, 0),
-        row(0xf28c8c, 0xff0000, 4.0f, 0xff0000, 7.0f, 0xff0000, 2),
-        row(0x8c8cf2, 0x0000ff, 4.0f, 0x0000ff, 7.0f, 0x0000ff, 1),
-        row(0x8cf28c, 0x009900, 4.0f, 0x009900, 7.0f, 0x009900, 3),
-        row(0xf28c8c, 0xff0000, 3.0f, 0xff0000, 5.0f, 0xff0000, 2),
-        row(0x8c8cf2, 0x0000ff, 3.0f, 0x0000ff, 5.0f, 0x0000ff, 1),
-        row(0x8cf28c, 0x009900, 3.0f, 0x009900, 5.0f, 0x009900, 3),
-        hiddenRow(),
-        hiddenRow(),
-        Marking(),
-    };
     const MarkingSetups setups;
     for (const Mode mode : c_modes) {
+        const bool isMode2 = mode == MarkingSetups::MarkingMode2;
+        const float primary = isMode2 ? 4.0f : 3.0f;
+        const float secondary = isMode2 ? 3.0f : 1.0f;
+        // Rows 7 and 8 are hidden and row 9 is never set.
+        const Marking rows[] = {
+            row(0xd9d9d9, isMode2 ? 0x141414 : 0x000000, isMode2 ? 1.5f : 1.0f, 0x000000, 5.0f, 0x000000, 0),
+            row(0xf28c8c, 0xff0000, primary, 0xff0000, 7.0f, 0xff0000, 2),
+            row(0x8c8cf2, 0x0000ff, primary, 0x0000ff, 7.0f, 0x0000ff, 1),
+            row(0x8cf28c, 0x009900, primary, 0x009900, 7.0f, 0x009900, 3),
+            row(0xf28c8c, 0xff0000, secondary, 0xff0000, 5.0f, 0xff0000, 2),
+            row(0x8c8cf2, 0x0000ff, secondary, 0x0000ff, 5.0f, 0x0000ff, 1),
+            row(0x8cf28c, 0x009900, secondary, 0x009900, 5.0f, 0x009900, 3),
+            hiddenRow(),
+            hiddenRow(),
+            Marking(),
+        };
         for (int number = 0; number < 10; ++number) {
-            const Marking& wanted = (mode == MarkingSetups::MarkingMode2 ? rowsOfMode2 : rows)[number];
-            EXPECT_EQ(setups.getMarking(mode, rowOf(number)), wanted) << "mode " << mode << " row " << number;
+            EXPECT_EQ(setups.getMarking(mode, rowOf(number)), rows[number]) << "mode " << mode << " row " << number;
         }
     }
 }

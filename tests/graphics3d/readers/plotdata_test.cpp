@@ -101,11 +101,11 @@ TEST(PlotData, hasTheSizesAndLimitsOfItsPage)
             expected.pop_back();
         }
         EXPECT_EQ(*record.m_bounds, expected) << file.name;
-        char told[200];
-        std::snprintf(told, sizeof told, "File contains %zu coordinates with data, %zu triangles and 0 quads [%f, %f]",
+        char message[200];
+        std::snprintf(message, sizeof message, "File contains %zu coordinates with data, %zu triangles and 0 quads [%f, %f]",
                       file.numPoints, file.numTriangles, static_cast<double>(static_cast<float>(file.data.min)),
                       static_cast<double>(static_cast<float>(file.data.max)));
-        EXPECT_EQ(log.messages().back(), told);
+        EXPECT_EQ(log.messages().back(), message);
     }
 }
 

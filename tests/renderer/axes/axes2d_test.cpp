@@ -35,7 +35,7 @@ struct Axes2d : ::testing::Test {
     Axes2dInput input() const { return {camera, setup, 600, 300}; }
     Axes2dLayout layout() { return layoutAxes2d(input(), area, metrics); }
 
-    static std::string told(const Axes2dLayout& layout, bool isTitle)
+    static std::string textOf(const Axes2dLayout& layout, bool isTitle)
     {
         std::string text;
         for (const AxisLabel& label : layout.labels) {
@@ -63,8 +63,8 @@ TEST_F(Axes2d, areLeftAndBelow)
 {
     show(0.0f, 10.0f, 0.0f, 1.0f);
     const Axes2dLayout layout = this->layout();
-    EXPECT_EQ(told(layout, false), "0 2 4 6 8 10 0.0 0.2 0.4 0.6 0.8 1.0");
-    EXPECT_EQ(told(layout, true), "");
+    EXPECT_EQ(textOf(layout, false), "0 2 4 6 8 10 0.0 0.2 0.4 0.6 0.8 1.0");
+    EXPECT_EQ(textOf(layout, true), "");
     ASSERT_EQ(layout.frame.size(), 4u);
     expectLine(layout.frame[0], {120.0f, 50.0f, 0.0f}, {520.0f, 50.0f, 0.0f});
     ASSERT_EQ(layout.grid.size(), 12u);
@@ -81,7 +81,7 @@ TEST_F(Axes2d, titlesTakeThePowersOfTen)
 {
     show(0.0f, 2e5f, 0.0f, 4e6f);
     Axes2dLayout layout = this->layout();
-    EXPECT_EQ(told(layout, true), "\\times10^{5} \\times10^{6}");
+    EXPECT_EQ(textOf(layout, true), "\\times10^{5} \\times10^{6}");
     // The script makes a line 11.8 high.
     expectLabel(layout.labels[0], 520.0f, 271.8f, 1.0f, 0.0f);
     expectLabel(layout.labels[1], 120.0f, 47.0f, 0.0f, 1.0f);
@@ -89,7 +89,7 @@ TEST_F(Axes2d, titlesTakeThePowersOfTen)
     setup.setXAxisTitle("t");
     setup.setYAxisTitle("U");
     layout = this->layout();
-    EXPECT_EQ(told(layout, true), "\\begin{center}\\unicode{t}\\end{center} (\\times10^{5}) "
+    EXPECT_EQ(textOf(layout, true), "\\begin{center}\\unicode{t}\\end{center} (\\times10^{5}) "
                                   "\\begin{center}\\unicode{U}\\end{center} (\\times10^{6})");
     expectLabel(layout.labels[0], 320.0f, 271.8f, 0.5f, 0.0f);
     // Ticks take 7 pixels, labels as wide as -0.5000 take 70, and the gap 3.
@@ -105,10 +105,10 @@ TEST_F(Axes2d, theSymmetryAxisIsNamedAboveTheFrame)
     Axes2dLayout layout = this->layout();
     ASSERT_EQ(layout.frame.size(), 5u);
     expectLine(layout.frame[4], {220.0f, 250.0f, 0.0f}, {220.0f, 50.0f, 0.0f});
-    EXPECT_EQ(told(layout, true), "\\begin{center}\\unicode{r=0}\\end{center}");
+    EXPECT_EQ(textOf(layout, true), "\\begin{center}\\unicode{r=0}\\end{center}");
     expectLabel(layout.labels[0], 220.0f, 47.0f, 0.5f, 1.0f);
     show(0.0f, 3.0f, 0.0f, 4e6f);
-    EXPECT_EQ(told(this->layout(), true), "\\times10^{6} \\begin{center}\\unicode{r=0}\\end{center}");
+    EXPECT_EQ(textOf(this->layout(), true), "\\times10^{6} \\begin{center}\\unicode{r=0}\\end{center}");
     show(1.0f, 3.0f, 0.0f, 1.0f);
     EXPECT_EQ(this->layout().frame.size(), 4u) << "out of sight";
     show(-1.0f, 3.0f, 0.0f, 1.0f);
@@ -121,13 +121,13 @@ TEST_F(Axes2d, followTheSetup)
     show(0.0f, 10.0f, 0.0f, 4.0f);
     setup.setXSpacing(2.5);
     setup.setYSpacing(1.0);
-    EXPECT_EQ(told(layout(), false), "0 2 4 6 8 10 0 1 2 3 4") << "spacings wait until they are asked for";
+    EXPECT_EQ(textOf(layout(), false), "0 2 4 6 8 10 0 1 2 3 4") << "spacings wait until they are asked for";
     setup.setAutoSpacing(false);
     setup.setExtraY({3.3});
     setup.setYAxisLog(true);
-    EXPECT_EQ(told(layout(), false), "0.0 2.5 5.0 7.5 10.0 10^{0} 3.3 10^{1} 10^{2} 10^{3} 10^{4}");
+    EXPECT_EQ(textOf(layout(), false), "0.0 2.5 5.0 7.5 10.0 10^{0} 3.3 10^{1} 10^{2} 10^{3} 10^{4}");
     camera.setCameraMode(Camera2d::ModeOneDimensional);
-    EXPECT_EQ(told(layout(), false), "0.0 2.5 5.0 7.5 10.0");
+    EXPECT_EQ(textOf(layout(), false), "0.0 2.5 5.0 7.5 10.0");
     area = {0, 0, 0, 200};
     EXPECT_TRUE(layout().frame.empty());
 }
@@ -144,7 +144,7 @@ TEST_F(Axes2d, aPolarViewHasCirclesAndSpokes)
     }
     expectLine({layout.frame.back().to, layout.frame.front().from}, {300.0f, 150.0f, 0.0f}, {300.0f, 150.0f, 0.0f});
     // At radius 1 is the middle; the spokes come first, every 45 degrees.
-    EXPECT_EQ(told(layout, false), "0\xC2\xB0 45\xC2\xB0 90\xC2\xB0 135\xC2\xB0 180\xC2\xB0 225\xC2\xB0 270\xC2\xB0 "
+    EXPECT_EQ(textOf(layout, false), "0\xC2\xB0 45\xC2\xB0 90\xC2\xB0 135\xC2\xB0 180\xC2\xB0 225\xC2\xB0 270\xC2\xB0 "
                                    "315\xC2\xB0 2 4");
     expectLine(layout.grid[2], center, {200.0f, 50.0f, 0.0f});
     expectLabel(layout.labels[0], 303.0f, 150.0f, 0.0f, 0.5f);
@@ -167,7 +167,7 @@ TEST_F(Axes2d, aPolarSetupHasCirclesAndRaysAboutTheOrigin)
     EXPECT_TRUE(layout.ticks.empty());
     // 50 pixels per unit, the origin at (320, 150).
     const Vector3f center(320.0f, 150.0f, 0.0f);
-    EXPECT_EQ(told(layout, false), "180\xC2\xB0 225\xC2\xB0 270\xC2\xB0 315\xC2\xB0 0\xC2\xB0 45\xC2\xB0 90\xC2\xB0 "
+    EXPECT_EQ(textOf(layout, false), "180\xC2\xB0 225\xC2\xB0 270\xC2\xB0 315\xC2\xB0 0\xC2\xB0 45\xC2\xB0 90\xC2\xB0 "
                                    "135\xC2\xB0 1 2");
     expectLine(layout.grid[4], center, {520.0f, 150.0f, 0.0f});
     expectLine(layout.grid[5], center, {420.0f, 50.0f, 0.0f});
@@ -183,7 +183,7 @@ TEST_F(Axes2d, aPolarSetupHasCirclesAndRaysAboutTheOrigin)
     // Far from the origin: a narrow sector.
     show(100.0f, 104.0f, -1.0f, 1.0f);
     layout = this->layout();
-    EXPECT_EQ(told(layout, false), "0\xC2\xB0 100 101 102 103");
+    EXPECT_EQ(textOf(layout, false), "0\xC2\xB0 100 101 102 103");
     for (const AxisLine& line : layout.grid) {
         EXPECT_LT((line.from - line.to).length(), 500.0f);
     }
@@ -246,7 +246,7 @@ TEST_F(Axes2d, everyLabelHasSpaceInsideTheMargins)
         const auto numTitles = static_cast<std::size_t>(
             std::count_if(layout.labels.begin(), layout.labels.end(), [](const AxisLabel& l) { return l.isTitle; }));
         if (camera.getCameraMode() == Camera2d::ModeOrdinary) {
-            ASSERT_EQ(layout.labels.size() - numTitles, layout.ticks.size()) << round << " " << told(layout, false);
+            ASSERT_EQ(layout.labels.size() - numTitles, layout.ticks.size()) << round << " " << textOf(layout, false);
             ASSERT_GE(numTitles, layout.frame.size() - 3u) << "the title of x, and of the symmetry axis";
         }
         for (const AxisLine& line : layout.grid) {

@@ -23,7 +23,7 @@ AxisScale scaleOf(double low, double high, double length = 500.0, bool isLog = f
 }
 
 /// Labels with blanks between them; lines without a label as `|`, minor ones as a point.
-std::string told(const AxisScale& scale)
+std::string textOf(const AxisScale& scale)
 {
     std::string text;
     const AxisTicks ticks = makeAxisTicks(scale);
@@ -36,53 +36,53 @@ std::string told(const AxisScale& scale)
 
 TEST(AxisScale, linearTicksFollowTheSpace)
 {
-    EXPECT_EQ(told(scaleOf(0.0, 10.0)), "0 1 2 3 4 5 6 7 8 9 10");
-    EXPECT_EQ(told(scaleOf(0.0, 10.0, 100.0)), "0 5 10");
-    EXPECT_EQ(told(scaleOf(0.0, 4000.0, 120.0)), "0 2000 4000");
-    EXPECT_EQ(told(scaleOf(0.0, 4e6, 200.0)), "0 1 2 3 4 e6");
+    EXPECT_EQ(textOf(scaleOf(0.0, 10.0)), "0 1 2 3 4 5 6 7 8 9 10");
+    EXPECT_EQ(textOf(scaleOf(0.0, 10.0, 100.0)), "0 5 10");
+    EXPECT_EQ(textOf(scaleOf(0.0, 4000.0, 120.0)), "0 2000 4000");
+    EXPECT_EQ(textOf(scaleOf(0.0, 4e6, 200.0)), "0 1 2 3 4 e6");
 }
 
 TEST(AxisScale, aSpacingGivesItsMultiples)
 {
     AxisScale scale = scaleOf(0.0, 1.0);
     scale.spacing = 0.25;
-    EXPECT_EQ(told(scale), "0.00 0.25 0.50 0.75 1.00");
+    EXPECT_EQ(textOf(scale), "0.00 0.25 0.50 0.75 1.00");
     scale.spacing = 0.1;
     scale.length = 150.0;
-    EXPECT_EQ(told(scale), "0.0 | | | | 0.5 | | | | 1.0") << "labels every fifth line";
+    EXPECT_EQ(textOf(scale), "0.0 | | | | 0.5 | | | | 1.0") << "labels every fifth line";
     // 1000 lines on 150 pixels: 37 have space, so every 50th.
     scale.spacing = 0.001;
     EXPECT_EQ(makeAxisTicks(scale).ticks.size(), 21u);
     EXPECT_NEAR(makeAxisTicks(scale).ticks[1].position, 0.05, 1e-12);
     for (const double unusable : {3.0, -1.0, std::nan(""), 1e-300}) {
         scale.spacing = unusable;
-        EXPECT_EQ(told(scale), "0.0 0.5 1.0") << unusable;
+        EXPECT_EQ(textOf(scale), "0.0 0.5 1.0") << unusable;
     }
 }
 
 TEST(AxisScale, twoTicksAreLabelledWhereverTheyHaveSpace)
 {
-    EXPECT_EQ(told(scaleOf(0.0, 4000.0, 40.0)), "0 | 4000") << "the coarsest step of one label is not enough";
-    EXPECT_EQ(told(scaleOf(-65.0, 65.0, 60.0)), "\xE2\x88\x92"
+    EXPECT_EQ(textOf(scaleOf(0.0, 4000.0, 40.0)), "0 | 4000") << "the coarsest step of one label is not enough";
+    EXPECT_EQ(textOf(scaleOf(-65.0, 65.0, 60.0)), "\xE2\x88\x92"
                                                 "50 | 50")
         << "0 would stand alone";
-    EXPECT_EQ(told(scaleOf(1.1, 1.9, 60.0)), "1.2 1.6") << "finer ticks come closer to the ends";
-    EXPECT_EQ(told(scaleOf(0.3, 1.48, 60.0, true)), "2 | 10 |") << "a single decade";
-    EXPECT_EQ(told(scaleOf(0.9, 4.1, 80.0, true)), "10^{1} | | 10^{4}") << "every second decade has no space";
+    EXPECT_EQ(textOf(scaleOf(1.1, 1.9, 60.0)), "1.2 1.6") << "finer ticks come closer to the ends";
+    EXPECT_EQ(textOf(scaleOf(0.3, 1.48, 60.0, true)), "2 | 10 |") << "a single decade";
+    EXPECT_EQ(textOf(scaleOf(0.9, 4.1, 80.0, true)), "10^{1} | | 10^{4}") << "every second decade has no space";
     AxisScale scale = scaleOf(0.0, 1.0, 60.0);
     scale.spacing = 0.125;
-    EXPECT_EQ(told(scale), "0.000 | | | | | | | 1.000");
-    EXPECT_EQ(told(scaleOf(0.0, 4000.0, 20.0)), "0") << "no space for a second one";
+    EXPECT_EQ(textOf(scale), "0.000 | | | | | | | 1.000");
+    EXPECT_EQ(textOf(scaleOf(0.0, 4000.0, 20.0)), "0") << "no space for a second one";
 }
 
 TEST(AxisScale, extraPositionsTakePrecedence)
 {
     AxisScale scale = scaleOf(0.0, 10.0, 100.0);
     scale.extra = {5.5, 5.5, -1.0, 11.0, std::nan(""), 10.0};
-    EXPECT_EQ(told(scale), "0 | 5.5 10");
+    EXPECT_EQ(textOf(scale), "0 | 5.5 10");
     scale = scaleOf(0.0, 4e6, 200.0);
     scale.extra = {2.5e6};
-    EXPECT_EQ(told(scale), "0 1 2 2.5 3 4 e6") << "in the units of the other labels";
+    EXPECT_EQ(textOf(scale), "0 1 2 2.5 3 4 e6") << "in the units of the other labels";
     scale = scaleOf(0.0, 4.0, 1000.0, true);
     scale.extra = {-1.0, 0.0, 50.0};
     const AxisTicks ticks = makeAxisTicks(scale);
@@ -98,37 +98,37 @@ TEST(AxisScale, extraPositionsTakePrecedence)
 
 TEST(AxisScale, logarithmicTicksAreDecades)
 {
-    EXPECT_EQ(told(scaleOf(-2.5, 1.2, 400.0, true)), ". . . . . . 10^{\xE2\x88\x92"
+    EXPECT_EQ(textOf(scaleOf(-2.5, 1.2, 400.0, true)), ". . . . . . 10^{\xE2\x88\x92"
                                                      "2} . . . . . . . . 10^{\xE2\x88\x92"
                                                      "1} . . . . . . . . 10^{0} . . . . . . . . 10^{1}");
-    EXPECT_EQ(told(scaleOf(0.0, 4.0, 300.0, true)), "10^{0} 10^{1} 10^{2} 10^{3} 10^{4}") << "no room for lines";
-    EXPECT_EQ(told(scaleOf(0.0, 12.0, 600.0, true)), "10^{0} . 10^{2} . 10^{4} . 10^{6} . 10^{8} . 10^{10} . 10^{12}");
-    EXPECT_EQ(told(scaleOf(0.0, 100.0, 380.0, true)), "10^{0} . . . . . . . . . 10^{20} . . . . . . . . . 10^{40} "
+    EXPECT_EQ(textOf(scaleOf(0.0, 4.0, 300.0, true)), "10^{0} 10^{1} 10^{2} 10^{3} 10^{4}") << "no room for lines";
+    EXPECT_EQ(textOf(scaleOf(0.0, 12.0, 600.0, true)), "10^{0} . 10^{2} . 10^{4} . 10^{6} . 10^{8} . 10^{10} . 10^{12}");
+    EXPECT_EQ(textOf(scaleOf(0.0, 100.0, 380.0, true)), "10^{0} . . . . . . . . . 10^{20} . . . . . . . . . 10^{40} "
                                                       ". . . . . . . . . 10^{60} . . . . . . . . . 10^{80} "
                                                       ". . . . . . . . . 10^{100}");
 }
 
 TEST(AxisScale, fewDecadesShowNumbers)
 {
-    EXPECT_EQ(told(scaleOf(0.0, 1.0, 80.0, true)), "1 2 5 10") << "80 pixels of a decade: no minor lines";
-    EXPECT_EQ(told(scaleOf(std::log10(0.3), std::log10(3.0), 100.0, true)), ". . 0.5 . . . . 1 2 .");
-    EXPECT_EQ(told(scaleOf(std::log10(3.0), std::log10(3.4), 250.0, true)), "3.0 3.1 3.2 3.3 3.4");
-    EXPECT_EQ(told(scaleOf(6.4, 6.9, 250.0, true)), "4 6 e6");
-    EXPECT_EQ(told(scaleOf(6.0, 7.0, 400.0, true)), "10^{6} 2\\times10^{6} . . 5\\times10^{6} . . . . 10^{7}");
+    EXPECT_EQ(textOf(scaleOf(0.0, 1.0, 80.0, true)), "1 2 5 10") << "80 pixels of a decade: no minor lines";
+    EXPECT_EQ(textOf(scaleOf(std::log10(0.3), std::log10(3.0), 100.0, true)), ". . 0.5 . . . . 1 2 .");
+    EXPECT_EQ(textOf(scaleOf(std::log10(3.0), std::log10(3.4), 250.0, true)), "3.0 3.1 3.2 3.3 3.4");
+    EXPECT_EQ(textOf(scaleOf(6.4, 6.9, 250.0, true)), "4 6 e6");
+    EXPECT_EQ(textOf(scaleOf(6.0, 7.0, 400.0, true)), "10^{6} 2\\times10^{6} . . 5\\times10^{6} . . . . 10^{7}");
 }
 
 TEST(AxisScale, withoutARangeThereAreNone)
 {
     constexpr double inf = std::numeric_limits<double>::infinity();
     for (const bool isLog : {false, true}) {
-        EXPECT_EQ(told(scaleOf(1.0, 1.0, 500.0, isLog)), "");
-        EXPECT_EQ(told(scaleOf(2.0, 1.0, 500.0, isLog)), "");
-        EXPECT_EQ(told(scaleOf(0.0, inf, 500.0, isLog)), "");
-        EXPECT_EQ(told(scaleOf(std::nan(""), 1.0, 500.0, isLog)), "");
-        EXPECT_EQ(told(scaleOf(0.0, 1.0, 0.0, isLog)), "");
-        EXPECT_EQ(told(scaleOf(0.0, 1.0, inf, isLog)), "");
+        EXPECT_EQ(textOf(scaleOf(1.0, 1.0, 500.0, isLog)), "");
+        EXPECT_EQ(textOf(scaleOf(2.0, 1.0, 500.0, isLog)), "");
+        EXPECT_EQ(textOf(scaleOf(0.0, inf, 500.0, isLog)), "");
+        EXPECT_EQ(textOf(scaleOf(std::nan(""), 1.0, 500.0, isLog)), "");
+        EXPECT_EQ(textOf(scaleOf(0.0, 1.0, 0.0, isLog)), "");
+        EXPECT_EQ(textOf(scaleOf(0.0, 1.0, inf, isLog)), "");
     }
-    EXPECT_EQ(told(scaleOf(0.0, 1e30, 500.0, true)), "");
+    EXPECT_EQ(textOf(scaleOf(0.0, 1e30, 500.0, true)), "");
 }
 
 TEST(AxisScale, labelsNeverOverlap)

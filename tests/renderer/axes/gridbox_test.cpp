@@ -45,7 +45,7 @@ GridBoxLayout layoutOf(const BoundingBox& box, const Camera3d& camera)
 }
 
 /// The texts of tick labels or of titles in their order, with a plain minus.
-std::string told(const GridBoxLayout& layout, bool isTitle)
+std::string textOf(const GridBoxLayout& layout, bool isTitle)
 {
     std::string text;
     for (const AxisLabel& label : layout.labels) {
@@ -79,8 +79,8 @@ TEST(GridBox, fromAboveIsLabelledBelowAndAtTheLeft)
     Camera3d camera;
     lookParallel(camera, {0.0f, 0.0f, 10.0f}, {0.0f, 1.0f, 0.0f});
     const GridBoxLayout layout = layoutOf({-2.0f, 2.0f, -1.0f, 1.0f, -1.0f, 1.0f}, camera);
-    EXPECT_EQ(told(layout, true), "x y");
-    EXPECT_EQ(told(layout, false), "-2.0 -1.5 -1.0 -0.5 0.0 0.5 1.0 1.5 2.0 -1.0 -0.5 0.0 0.5 1.0");
+    EXPECT_EQ(textOf(layout, true), "x y");
+    EXPECT_EQ(textOf(layout, false), "-2.0 -1.5 -1.0 -0.5 0.0 0.5 1.0 1.5 2.0 -1.0 -0.5 0.0 0.5 1.0");
     // The box covers 240 to 640 and 220 to 420. Ticks are 4 long, with 3 after them and 5 before the names.
     ASSERT_EQ(layout.labels.size(), 16u);
     expectPlace(layout.labels[0], "x", 440.0f, 447.0f);
@@ -122,7 +122,7 @@ TEST(GridBox, shortAxesKeepTwoLabels)
     camera.setOrthographicHeight(1200.0f);
     // 60 pixels by 40: coarse ticks would leave 0 alone on both axes.
     const GridBoxLayout layout = layoutOf({-60.0f, 60.0f, -40.0f, 40.0f, 0.0f, 0.0f}, camera);
-    EXPECT_EQ(told(layout, false), "-50 0 50 -40 -20 0 20 40");
+    EXPECT_EQ(textOf(layout, false), "-50 0 50 -40 -20 0 20 40");
 }
 
 TEST(GridBox, isJudgedAsItIsSeenStretched)
@@ -142,8 +142,8 @@ TEST(GridBox, aPowerOfTenIsShownAtTheName)
     SquareMetrics metrics;
     const BoundingBox box(0.0f, 20000.0f, 0.0f, 200.0f, 0.0f, 0.0f);
     const GridBoxLayout layout = layoutGridBox({.box = box, .camera = camera, .names = {"r", "", ""}}, c_area, metrics);
-    EXPECT_EQ(told(layout, true), "r (\\times10^{4})") << "the height of two pixels is not labelled";
-    EXPECT_EQ(told(layout, false), "0.0 0.5 1.0 1.5 2.0");
+    EXPECT_EQ(textOf(layout, true), "r (\\times10^{4})") << "the height of two pixels is not labelled";
+    EXPECT_EQ(textOf(layout, false), "0.0 0.5 1.0 1.5 2.0");
 }
 
 TEST(GridBox, keepsWhatMakesSenseOfDegenerateViews)
@@ -165,7 +165,7 @@ TEST(GridBox, keepsWhatMakesSenseOfDegenerateViews)
     };
     for (const auto& c : cases) {
         const GridBoxLayout layout = layoutOf(c.box, camera);
-        EXPECT_EQ(told(layout, true), c.titles) << c.box.getCenter();
+        EXPECT_EQ(textOf(layout, true), c.titles) << c.box.getCenter();
         EXPECT_EQ(layout.edges.size(), c.numEdges) << c.box.getCenter();
     }
     const BoundingBox cube(-1.0f, 1.0f, -1.0f, 1.0f, -1.0f, 1.0f);
@@ -193,7 +193,7 @@ TEST(GridBox, showsTheTicksInSightWhenZoomed)
         EXPECT_GE(tick.from.y, 19.0f);
         EXPECT_LE(tick.from.y, 621.0f);
     }
-    EXPECT_EQ(told(layout, true), "x y");
+    EXPECT_EQ(textOf(layout, true), "x y");
 }
 
 /// Whether a point lies within a triangle, not at its border.

@@ -9,7 +9,7 @@ namespace vxrenderer {
 namespace {
 
 /// Labels with blanks between them, a plain minus, and the common power of ten at the end.
-std::string told(const Ticks& ticks)
+std::string textOf(const Ticks& ticks)
 {
     std::string text;
     for (const Ticks::Tick& tick : ticks.ticks) {
@@ -22,9 +22,9 @@ std::string told(const Ticks& ticks)
     return ticks.exponent == 0 ? text : text + " e" + std::to_string(ticks.exponent);
 }
 
-std::string told(double low, double high, int count)
+std::string textOf(double low, double high, int count)
 {
-    return told(makeTicks(low, high, count));
+    return textOf(makeTicks(low, high, count));
 }
 
 TEST(Ticks, areRoundAndReadable)
@@ -52,7 +52,7 @@ TEST(Ticks, areRoundAndReadable)
         {1e200, 3e200, 2, "1 2 3 e200"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(told(c.low, c.high, c.count), c.expected) << c.low << " to " << c.high;
+        EXPECT_EQ(textOf(c.low, c.high, c.count), c.expected) << c.low << " to " << c.high;
     }
 }
 
@@ -75,7 +75,7 @@ TEST(Ticks, haveNoMoreDigitsThanWantedWhileTwoAreLeft)
         {0.0, 1.0, 99, "0.0 0.2 0.4 0.6 0.8 1.0"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(told(makeTicks(c.low, c.high, 5, c.digits)), c.expected) << c.low << " to " << c.high;
+        EXPECT_EQ(textOf(makeTicks(c.low, c.high, 5, c.digits)), c.expected) << c.low << " to " << c.high;
     }
 }
 
@@ -101,7 +101,7 @@ TEST(Ticks, multiplesOfAStepShowWhatItNeeds)
         {1e17, 1e17 + 64.0, 16.0, ""},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(told(makeMultiples(c.low, c.high, c.step, 3)), c.expected) << c.low << " to " << c.high;
+        EXPECT_EQ(textOf(makeMultiples(c.low, c.high, c.step, 3)), c.expected) << c.low << " to " << c.high;
     }
 }
 
@@ -127,10 +127,10 @@ TEST(Ticks, areExactDecimalsWithinTheEnds)
 
 TEST(Ticks, oneValueIsItsOwnTick)
 {
-    EXPECT_EQ(told(5.0, 5.0, 5), "5");
-    EXPECT_EQ(told(-0.125, -0.125, 5), "-0.125");
-    EXPECT_EQ(told(0.0, 0.0, 5), "0");
-    EXPECT_EQ(told(1.0, std::nextafter(1.0, 2.0), 5), "1");
+    EXPECT_EQ(textOf(5.0, 5.0, 5), "5");
+    EXPECT_EQ(textOf(-0.125, -0.125, 5), "-0.125");
+    EXPECT_EQ(textOf(0.0, 0.0, 5), "0");
+    EXPECT_EQ(textOf(1.0, std::nextafter(1.0, 2.0), 5), "1");
     EXPECT_EQ(numberText(1.5e-7), "1.5\\times10^{\xE2\x88\x92"
                                   "7}");
     EXPECT_EQ(numberText(-123456789.0), "\xE2\x88\x92"
@@ -141,10 +141,10 @@ TEST(Ticks, endsBeyondTheNumbersGiveNoneOrTheMiddle)
 {
     constexpr double inf = std::numeric_limits<double>::infinity();
     constexpr double max = std::numeric_limits<double>::max();
-    EXPECT_EQ(told(0.0, inf, 5), "");
-    EXPECT_EQ(told(std::nan(""), 1.0, 5), "");
-    EXPECT_EQ(told(-max, max, 5), "0");
-    EXPECT_EQ(told(0.0, std::numeric_limits<double>::denorm_min(), 5), "0");
+    EXPECT_EQ(textOf(0.0, inf, 5), "");
+    EXPECT_EQ(textOf(std::nan(""), 1.0, 5), "");
+    EXPECT_EQ(textOf(-max, max, 5), "0");
+    EXPECT_EQ(textOf(0.0, std::numeric_limits<double>::denorm_min(), 5), "0");
 }
 
 } // namespace

@@ -13,7 +13,7 @@ using Kind = TitleItem::Kind;
 
 /// Items as a text: characters as they are, marks as `<...>`, a blank within a box as `.`, others as ` `, a wide one as
 /// three of them, and the style of a character after it where it is not the normal one.
-std::string told(const std::string& markup)
+std::string textOf(const std::string& markup)
 {
     std::string text;
     for (const TitleItem& item : parseTitle(vxbase::UString(markup))) {
@@ -54,7 +54,7 @@ std::string told(const std::string& markup)
 
 TEST(TitleMarkup, readsTitlesAsPlotGroupsWriteThem)
 {
-    EXPECT_EQ(told("\\begin{center} \\mbox{\\unicode{Stress in  a bar}} \\mbox{T_{max}} \\end{center}"),
+    EXPECT_EQ(textOf("\\begin{center} \\mbox{\\unicode{Stress in  a bar}} \\mbox{T_{max}} \\end{center}"),
               "<center>Stress.in..a.bar   T<max> <left>");
 }
 
@@ -92,7 +92,7 @@ TEST(TitleMarkup, readsEachConstruct)
         {"{a{b}}c", "abc"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(told(c.markup), c.expected) << c.markup;
+        EXPECT_EQ(textOf(c.markup), c.expected) << c.markup;
     }
 }
 
@@ -113,15 +113,15 @@ TEST(TitleMarkup, showsWhatItDoesNotUnderstand)
         {"{x^}", "x^"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(told(c.markup), c.expected) << c.markup;
+        EXPECT_EQ(textOf(c.markup), c.expected) << c.markup;
     }
 }
 
 TEST(TitleMarkup, endsOpenGroupsWithTheText)
 {
-    EXPECT_EQ(told("\\mbox{\\unicode{x"), "x");
-    EXPECT_EQ(told("a^{b_{c"), "a<b<c>>");
-    EXPECT_EQ(told("\\foo{x"), "\\foo{x");
+    EXPECT_EQ(textOf("\\mbox{\\unicode{x"), "x");
+    EXPECT_EQ(textOf("a^{b_{c"), "a<b<c>>");
+    EXPECT_EQ(textOf("\\foo{x"), "\\foo{x");
 }
 
 TEST(TitleMarkup, scriptsShrinkAndRiseByTheirDepth)

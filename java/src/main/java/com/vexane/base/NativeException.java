@@ -5,7 +5,7 @@ package com.vexane.base;
  * method says otherwise, and stays usable.
  *
  * <p>The message begins with the detail, which says what to correct. The key, the native source file and the line
- * follow in parentheses; they help whoever reports a fault of the library:
+ * follow in parentheses; they help when a fault of the library is reported:
  * {@code The plot group has no plot 6. (Internal_error_graphics3d, jni_scenegraphplotsurface2d.cpp:21)}.
  */
 public class NativeException extends RuntimeException {

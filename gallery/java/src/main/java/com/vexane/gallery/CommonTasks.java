@@ -5,6 +5,7 @@ import com.vexane.graphics3d.Camera2d;
 import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.DirectionLightSource;
 import com.vexane.graphics3d.HardcopySettings;
+import com.vexane.graphics3d.ResizeBehaviour;
 import com.vexane.graphics3d.Scene;
 import com.vexane.graphics3d.SceneGraphPlotGroup;
 import com.vexane.graphics3d.SceneGraphPlotSurface2d;
@@ -87,9 +88,11 @@ public final class CommonTasks implements AutoCloseable {
 
     private void fillTheFrame() throws IOException {
         camera2d.setPreserveAspectRatio(false);
+        camera2d.setOverrideResizeBehaviour(true, ResizeBehaviour.KEEP); // also if the window or a legend changes
         camera2d.setViewLimits(-6, 6, -3, 3); // these limits exactly, while zoomExtents leaves a margin
         draw("filled.png");
         camera2d.setPreserveAspectRatio(true); // units of equal length again
+        camera2d.setOverrideResizeBehaviour(false, ResizeBehaviour.KEEP);
         camera2d.resetAxisViewScales();
         renderer.zoomExtents();
     }
@@ -164,6 +167,7 @@ public final class CommonTasks implements AutoCloseable {
         axes.setYAxisLog(true);
         canvas.setRenderMode(Canvas3dSettings.RenderMode.VIEW_2D);
         camera2d.setPreserveAspectRatio(false);
+        camera2d.setOverrideResizeBehaviour(true, ResizeBehaviour.KEEP); // exactly these limits, as above
         camera2d.setViewLimits(1, 5, -1, 1); // 10 to 100000, and 0.1 to 10
         draw("logarithmic.png");
     }

@@ -24,8 +24,13 @@ class CommonTasksTest {
 
     @BeforeAll
     static void doAllTasks() throws Exception {
+        int before = Canvas3dGlobalSettings.getOnScreenResolution();
         Canvas3dGlobalSettings.setOnScreenResolution(72); // the initial value; the gallery sets another one
-        CommonTasks.main(new String[] {folder.toString()});
+        try {
+            CommonTasks.main(new String[] {folder.toString()});
+        } finally {
+            Canvas3dGlobalSettings.setOnScreenResolution(before);
+        }
     }
 
     private static BufferedImage picture(String name) throws IOException {
@@ -62,7 +67,9 @@ class CommonTasksTest {
         assertEquals(2.0, flat.getWidth() / flat.getHeight(), 0.02);
         for (String name : List.of("filled.png", "logarithmic.png")) {
             Rectangle filled = Data.of(picture(name)).box();
-            assertTrue(filled.width > 600 && filled.height > 380, name + ": " + filled);
+            assertTrue(filled.width > 600, name + ": " + filled);
+            // From the upper border of the frame to the lower one, whose lines are black.
+            assertEquals(402, filled.height, 2, name + ": " + filled);
         }
     }
 

@@ -10,6 +10,7 @@ import java.nio.file.Path;
 import java.util.Arrays;
 import java.util.List;
 import java.util.stream.Collectors;
+import java.util.stream.IntStream;
 import javax.imageio.ImageIO;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.api.io.TempDir;
@@ -87,6 +88,26 @@ class GalleryTest {
             int changed = countChanges(files.get(i - 1), files.get(i));
             assertTrue(changed > 20000, files.get(i) + " differs in " + changed + " pixels only");
         }
+    }
+
+    @Test
+    void eachRowOfResizedViewsBeginsAtTheSameSize() throws IOException {
+        BufferedImage sheet = ImageIO.read(
+                Gallery.draw(ROOT, folder, List.of("ResizeBehaviours"), 400, 250).get(0).toFile());
+        int[] heights = new int[6];
+        for (int row = 0; row < heights.length; ++row) {
+            // Below the title: sheets have gaps of 8 pixels, the views of this one are 300 high.
+            int top = 8 + row * 308 + 40;
+            heights[row] = (int) IntStream.range(top, top + 260)
+                    .filter(y -> IntStream.range(8, 408).anyMatch(x -> isSaturated(sheet.getRGB(x, y)))).count();
+            assertEquals(heights[0], heights[row], 2, "row " + row);
+        }
+        assertTrue(heights[0] > 100, heights[0] + " rows of pixels show the part");
+    }
+
+    private static boolean isSaturated(int rgb) {
+        int[] channels = {rgb >> 16 & 0xff, rgb >> 8 & 0xff, rgb & 0xff};
+        return IntStream.of(channels).max().getAsInt() - IntStream.of(channels).min().getAsInt() > 60;
     }
 
     @Test

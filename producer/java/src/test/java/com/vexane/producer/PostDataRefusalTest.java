@@ -123,11 +123,11 @@ class PostDataRefusalTest {
     @Test
     void elementsThatReferToPointsOutsideTheGroupAreRefused() {
         Map<String, UnaryOperator<PostDataGroup>> cases = Map.of(
-                "group 1: elements[1][2] is point 2, but the group has 2 points",
+                "group 1: elements[1][2] is point 2, but the group has points 0 to 1",
                 group -> group.elements(new int[] {0, 1, 1}, new int[] {0, 1, 2}),
-                "group 1: elements[0][1] is point -1, but the group has 2 points",
+                "group 1: elements[0][1] is point -1, but the group has points 0 to 1",
                 group -> group.elements(new int[] {0, -1, 7}),
-                "group 1: lineElements[0][0] is point 2147483647, but the group has 2 points",
+                "group 1: lineElements[0][0] is point 2147483647, but the group has points 0 to 1",
                 group -> group.lineElements(new int[] {Integer.MAX_VALUE}, new int[] {0}));
         cases.forEach((message, change) -> {
             PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL)

@@ -36,6 +36,33 @@ class PlotPictureTest {
                 .build();
     }
 
+    /** A scene with that square, and a renderer that shows it. */
+    private static final class SquareScene implements AutoCloseable {
+        final Scene scene = new Scene();
+        final SceneGraphPlotGroup group = new SceneGraphPlotGroup();
+        final SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
+        final OffscreenRenderer renderer;
+
+        SquareScene(int side, int samples, String colorTable, double[]... colors) {
+            renderer = OffscreenRenderer.create(side, side, samples);
+            plot.setColorTable(colorTable, colors, false);
+            group.addPlot(plot);
+            try (SceneGraphRoot root = SceneGraphRoot.connect(scene); PostDataObject record = square()) {
+                root.setChild(group);
+                plot.fillPlot(record);
+            }
+            renderer.setScene(scene);
+        }
+
+        @Override
+        public void close() {
+            renderer.close();
+            plot.close();
+            group.close();
+            scene.close();
+        }
+    }
+
     /** The pixel as 0xRRGGBBAA, at fractions of the picture from its top left corner. */
     private static int pixelAt(OffscreenRenderer renderer, double x, double y) {
         ByteBuffer image = renderer.image();
@@ -55,17 +82,9 @@ class PlotPictureTest {
 
     @Test
     void legendLimitsChangeThePictureAndCostNoUpload() {
-        try (Scene scene = new Scene();
-                SceneGraphRoot root = SceneGraphRoot.connect(scene);
-                SceneGraphPlotGroup group = new SceneGraphPlotGroup();
-                SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
-                PostDataObject record = square();
-                OffscreenRenderer renderer = OffscreenRenderer.create(200, 200, 4)) {
-            plot.setColorTable("blue and red", new double[][] {{0, 0, 1}, {1, 0, 0}}, false);
-            root.setChild(group);
-            group.addPlot(plot);
-            plot.fillPlot(record);
-            renderer.setScene(scene);
+        try (SquareScene square = new SquareScene(200, 4, "blue and red", new double[][] {{0, 0, 1}, {1, 0, 0}})) {
+            SceneGraphPlotSurface2d plot = square.plot;
+            OffscreenRenderer renderer = square.renderer;
             showFlat(renderer, OffscreenRenderer.RENDER_PLOTS | OffscreenRenderer.RENDER_BACKGROUND);
 
             renderer.draw();
@@ -95,17 +114,8 @@ class PlotPictureTest {
 
     @Test
     void aDraftDiffersFromTheFullPictureInEdgesOnly() {
-        try (Scene scene = new Scene();
-                SceneGraphRoot root = SceneGraphRoot.connect(scene);
-                SceneGraphPlotGroup group = new SceneGraphPlotGroup();
-                SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
-                PostDataObject record = square();
-                OffscreenRenderer renderer = OffscreenRenderer.create(200, 200, 4)) {
-            plot.setColorTable("red", new double[][] {{1, 0, 0}}, false);
-            root.setChild(group);
-            group.addPlot(plot);
-            plot.fillPlot(record);
-            renderer.setScene(scene);
+        try (SquareScene square = new SquareScene(200, 4, "red", new double[] {1, 0, 0})) {
+            OffscreenRenderer renderer = square.renderer;
             renderer.viewFrom(20, 40);
             renderer.drawDraft();
             int red = pixelAt(renderer, 0.5, 0.5);
@@ -131,25 +141,16 @@ class PlotPictureTest {
 
     @Test
     void titlesAndLegendsTakeTheirSpaceFromThePlot() {
-        try (Scene scene = new Scene();
-                SceneGraphRoot root = SceneGraphRoot.connect(scene);
-                SceneGraphPlotGroup group = new SceneGraphPlotGroup();
-                SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
-                PostDataObject record = square();
-                OffscreenRenderer renderer = OffscreenRenderer.create(300, 300, 1)) {
-            plot.setColorTable("red", new double[][] {{1, 0, 0}}, false);
-            root.setChild(group);
-            group.addPlot(plot);
-            plot.fillPlot(record);
-            group.setTitle(TextFormat.PLAIN, "A title");
-            renderer.setScene(scene);
+        try (SquareScene square = new SquareScene(300, 1, "red", new double[] {1, 0, 0})) {
+            OffscreenRenderer renderer = square.renderer;
+            square.group.setTitle(TextFormat.PLAIN, "A title");
             int bare = OffscreenRenderer.RENDER_PLOTS | OffscreenRenderer.RENDER_BACKGROUND;
             int withLegends = bare | OffscreenRenderer.RENDER_LEGENDS;
             int withAll = countRed(renderer, withLegends | OffscreenRenderer.RENDER_TITLE);
             try (SceneSettings settings = SceneSettings.connect(renderer)) {
                 settings.setFont(SceneSettings.Text.TITLE, "Serif", 40);
                 int withLargeTitle = countRed(renderer, withLegends | OffscreenRenderer.RENDER_TITLE);
-                assertTrue(withLargeTitle < withAll, "a larger title leaves less room");
+                assertTrue(withLargeTitle < withAll, "a larger title leaves less space");
             }
             int withLegend = countRed(renderer, withLegends);
             int alone = countRed(renderer, bare);
