@@ -18,6 +18,13 @@ struct GraphLimits {
         minY = std::min(minY, y);
         maxY = std::max(maxY, y);
     }
+    void merge(const GraphLimits& other)
+    {
+        minX = std::min(minX, other.minX);
+        maxX = std::max(maxX, other.maxX);
+        minY = std::min(minY, other.minY);
+        maxY = std::max(maxY, other.maxY);
+    }
     /// The box in the plane z = 0; without points the limits are 0.
     BoundingBox box() const
     {

@@ -6,43 +6,68 @@
 
 namespace vxgraphics3d {
 
-GraphPolylines::GraphPolylines(const GraphPoints& points, GraphLimits& limits)
+GraphPolylines::GraphPolylines(const GraphPoints& points)
     : m_points(points),
-      m_neighbours(static_cast<std::size_t>(points.count), Neighbours{c_none, c_none}),
-      m_seen(static_cast<std::size_t>(points.count))
+      m_neighbours(new Neighbours[static_cast<std::size_t>(points.count)]),
+      m_seen(static_cast<std::size_t>(points.count)),
+      m_order(new int[static_cast<std::size_t>(points.count)])
 {
-    for (int edge = 0; edge < points.edges->count; ++edge) {
-        const int a = points.edges->from[edge];
-        const int b = points.edges->to[edge];
-        const auto atA = static_cast<std::size_t>(a);
-        const auto atB = static_cast<std::size_t>(b);
-        if (a != b && points.isInRange(atA) && points.isInRange(atB)) {
-            join(a, b);
-            join(b, a);
-            limits.cover(static_cast<float>(points.x[atA]), static_cast<float>(points.y[atA]));
-            limits.cover(static_cast<float>(points.x[atB]), static_cast<float>(points.y[atB]));
-        }
+    for (std::size_t i = 0; i < m_seen.size(); ++i) {
+        m_neighbours[i] = {points.isInRange(i) ? c_none : c_noPoint, c_none};
     }
-    m_starts.reserve(static_cast<std::size_t>(points.count));
+    joinEdges();
     for (int point = 0; point < points.count; ++point) {
-        if (isEnd(point) && !isSeen(point)) {
-            countPolylineFrom(point);
+        if (isEnd(point) && take(point)) {
+            addPolylineFrom(point);
         }
     }
-    for (int point = 0; point < points.count && m_numVertices < points.count; ++point) {
-        if (!isSeen(point) && m_neighbours[static_cast<std::size_t>(point)][0] != c_none) {
-            countRingFrom(point);
+    // What remains are rings.
+    for (int point = 0; point < points.count && m_numOrdered < points.count; ++point) {
+        if (neighboursOf(point)[0] >= 0 && take(point)) {
+            addRingFrom(point);
         }
     }
 }
 
-void GraphPolylines::join(int a, int b)
+bool GraphPolylines::isEnd(int point) const
 {
-    Neighbours& neighbours = m_neighbours[static_cast<std::size_t>(a)];
+    const Neighbours& neighbours = m_neighbours[static_cast<std::size_t>(point)];
+    return neighbours[0] >= 0 && neighbours[1] == c_none;
+}
+
+/// Adds a point to the order; false if it was there.
+bool GraphPolylines::take(int point)
+{
+    unsigned char& seen = m_seen[static_cast<std::size_t>(point)];
+    if (seen != 0) {
+        return false;
+    }
+    seen = 1;
+    m_order[static_cast<std::size_t>(m_numOrdered++)] = point;
+    return true;
+}
+
+void GraphPolylines::join(Neighbours& neighbours, int point)
+{
     if (neighbours[0] == c_none) {
-        neighbours[0] = b;
+        neighbours[0] = point;
     } else if (neighbours[1] == c_none) {
-        neighbours[1] = b;
+        neighbours[1] = point;
+    }
+}
+
+void GraphPolylines::joinEdges()
+{
+    const LineEnds& edges = *m_points.edges;
+    for (int edge = 0; edge < edges.count; ++edge) {
+        const int a = edges.from[edge];
+        const int b = edges.to[edge];
+        Neighbours& ofA = neighboursOf(a);
+        Neighbours& ofB = neighboursOf(b);
+        if (a != b && ofA[0] != c_noPoint && ofB[0] != c_noPoint) {
+            join(ofA, b);
+            join(ofB, a);
+        }
     }
 }
 
@@ -67,75 +92,64 @@ void GraphPolylines::walk(int start, Visit visit) const
     }
 }
 
-void GraphPolylines::countPolylineFrom(int point)
+void GraphPolylines::addPolylineFrom(int point)
 {
-    markSeen(point);
-    ++m_numVertices;
-    ++m_numPieces;
-    int farEnd = point;
+    const int first = m_numOrdered - 1;
+    int farEnd = c_none;
     walk(point, [&](int next) {
         if (isEnd(next)) {
             farEnd = next;
             return false;
         }
-        if (!isSeen(next)) {
-            markSeen(next);
-            ++m_numVertices;
-            ++m_numPieces;
-        }
+        take(next);
         return true;
     });
-    if (!isSeen(farEnd)) {
-        markSeen(farEnd);
-        ++m_numVertices;
-    }
     const double* x = m_points.x;
-    m_starts.push_back(x[static_cast<std::size_t>(farEnd)] < x[static_cast<std::size_t>(point)] ? farEnd : point);
-}
-
-void GraphPolylines::countRingFrom(int point)
-{
-    markSeen(point);
-    ++m_numVertices;
-    ++m_numPieces;
-    walk(point, [&](int next) {
-        if (!isSeen(next)) {
-            markSeen(next);
-            ++m_numVertices;
-            ++m_numPieces;
-        }
-        return next != point;
-    });
-    m_starts.push_back(point);
-}
-
-void GraphPolylines::fill(GraphLine& line)
-{
-    line.m_vertices.allocate(m_numVertices);
-    line.m_strips.internalAllocate(m_numPieces, static_cast<int>(m_starts.size()));
-    const auto append = [&](int point) {
-        markSeen(point);
-        return line.m_vertices.appendVertex(static_cast<float>(m_points.x[static_cast<std::size_t>(point)]),
-                                            static_cast<float>(m_points.y[static_cast<std::size_t>(point)]), 0.0f);
-    };
-    std::fill(m_seen.begin(), m_seen.end(), static_cast<unsigned char>(0));
-    for (const int start : m_starts) {
-        if (isSeen(start)) {
-            continue;
-        }
-        const int first = append(start);
-        line.m_strips.newStrip(first);
-        walk(start, [&](int point) {
-            if (point == start) {
-                line.m_strips.appendStrip(first);
-                return false;
-            }
-            if (!isSeen(point)) {
-                line.m_strips.appendStrip(append(point));
-            }
-            return !isEnd(point);
-        });
+    const bool reachesOtherEnd = farEnd != c_none && take(farEnd);
+    const int numPoints = m_numOrdered - first;
+    // A far end that knows the way back is reached over the same points from the other side.
+    if (reachesOtherEnd && x[static_cast<std::size_t>(farEnd)] < x[static_cast<std::size_t>(point)]) {
+        std::reverse(m_order.get() + first, m_order.get() + m_numOrdered);
     }
+    m_polylines.push_back({numPoints, farEnd == point});
+    m_numPieces += reachesOtherEnd ? numPoints - 1 : numPoints;
+}
+
+void GraphPolylines::addRingFrom(int point)
+{
+    const int first = m_numOrdered - 1;
+    bool isClosed = false;
+    walk(point, [&](int next) {
+        isClosed = next == point;
+        take(next);
+        return !isClosed && !isEnd(next);
+    });
+    const int numPoints = m_numOrdered - first;
+    m_polylines.push_back({numPoints, isClosed});
+    m_numPieces += numPoints;
+}
+
+GraphLimits GraphPolylines::fill(GraphLine& line) const
+{
+    line.m_vertices.allocate(m_numOrdered);
+    line.m_strips.internalAllocate(m_numPieces, static_cast<int>(m_polylines.size()));
+    VertexCoords* out = line.m_vertices.appendUnwritten(m_numOrdered);
+    GraphLimits limits;
+    for (int i = 0; i < m_numOrdered; ++i) {
+        const auto at = static_cast<std::size_t>(m_order[static_cast<std::size_t>(i)]);
+        *out = {static_cast<float>(m_points.x[at]), static_cast<float>(m_points.y[at]), 0.0f};
+        limits.cover(out->x, out->y);
+        ++out;
+    }
+    int first = 0;
+    for (const Polyline& polyline : m_polylines) {
+        line.m_strips.newStripOf(first, polyline.numPoints);
+        if (polyline.isClosed) {
+            line.m_strips.appendStrip(first);
+        }
+        first += polyline.numPoints;
+    }
+    return limits;
 }
 
 } // namespace vxgraphics3d
