@@ -60,6 +60,10 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphPlotSurface2d.class, made -> new SceneGraphPlotSurface2d(1));
         recipe(SceneGraphPlotSurface3d.class, made -> new SceneGraphPlotSurface3d(2));
         recipe(SceneGraphPlotDomain3d.class, made -> new SceneGraphPlotDomain3d(3));
+        recipe(SceneGraphPlotIsoSurface3d.class, made -> new SceneGraphPlotIsoSurface3d(4));
+        recipe(SceneGraphPlotContour.class, made -> new SceneGraphPlotContour(5));
+        recipe(SceneGraphPlotSlice3d.class, made -> new SceneGraphPlotSlice3d(6));
+        recipe(SceneGraphPlotMesh3d.class, made -> new SceneGraphPlotMesh3d(7, 3));
         recipe(PostDataObject.class, made -> new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0)
                 .role(DataRole.HEIGHT, 0).addGroup(new PostDataGroup()
                         .coordinates(new double[] {0, 1, 0}, new double[] {0, 0, 1}, new double[3])
