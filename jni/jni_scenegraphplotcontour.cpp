@@ -16,8 +16,7 @@ VX_NATIVE(void, SceneGraphPlotContour, createNative)(JNIEnv* env, jclass, jobjec
 VX_NATIVE(void, SceneGraphPlotContour, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint plotId)
 {
     native(env, "connectNative", [&] {
-        attach(
-            env, self,
-            castTo<SceneGraphPlotContour>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId), "plotId"));
+        attach(env, self,
+               castTo<SceneGraphPlotContour>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId), "plotId"));
     });
 }

@@ -32,16 +32,14 @@ VX_NATIVE(void, SceneGraphPlotIso, setShowLabels)(JNIEnv* env, jclass, jobject s
 
 VX_NATIVE(void, SceneGraphPlotIso, setLabels)(JNIEnv* env, jclass, jobject self, jobjectArray labels)
 {
-    native(env, "setLabels", [&] {
-        peer<SceneGraphPlotIso>(env, self).setLabels(fromJava<std::vector<std::string>>(env, labels));
-    });
+    native(env, "setLabels",
+           [&] { peer<SceneGraphPlotIso>(env, self).setLabels(fromJava<std::vector<std::string>>(env, labels)); });
 }
 
 VX_NATIVE(void, SceneGraphPlotIso, setLegendLevels)(JNIEnv* env, jclass, jobject self, jdoubleArray levels)
 {
-    native(env, "setLegendLevels", [&] {
-        peer<SceneGraphPlotIso>(env, self).setLegendLevels(fromJava<std::vector<double>>(env, levels));
-    });
+    native(env, "setLegendLevels",
+           [&] { peer<SceneGraphPlotIso>(env, self).setLegendLevels(fromJava<std::vector<double>>(env, levels)); });
 }
 
 VX_NATIVE(void, SceneGraphPlotIso, setSurfaceShownForAll)(JNIEnv* env, jclass, jobject self, jboolean shown)

@@ -13,11 +13,12 @@ VX_NATIVE(void, SceneGraphPlotIsoSurface3d, createNative)(JNIEnv* env, jclass, j
     native(env, "createNative", [&] { attach(env, self, boost::make_shared<SceneGraphPlotIsoSurface3d>(id)); });
 }
 
-VX_NATIVE(void, SceneGraphPlotIsoSurface3d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint plotId)
+VX_NATIVE(void, SceneGraphPlotIsoSurface3d, connectNative)
+(JNIEnv* env, jclass, jobject self, jobject owner, jint plotId)
 {
     native(env, "connectNative", [&] {
-        attach(
-            env, self,
-            castTo<SceneGraphPlotIsoSurface3d>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId), "plotId"));
+        attach(env, self,
+               castTo<SceneGraphPlotIsoSurface3d>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId),
+                                                  "plotId"));
     });
 }

@@ -16,8 +16,7 @@ VX_NATIVE(void, SceneGraphPlotSlice3d, createNative)(JNIEnv* env, jclass, jobjec
 VX_NATIVE(void, SceneGraphPlotSlice3d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint plotId)
 {
     native(env, "connectNative", [&] {
-        attach(
-            env, self,
-            castTo<SceneGraphPlotSlice3d>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId), "plotId"));
+        attach(env, self,
+               castTo<SceneGraphPlotSlice3d>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId), "plotId"));
     });
 }

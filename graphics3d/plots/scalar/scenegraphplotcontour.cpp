@@ -85,8 +85,11 @@ SceneGraphPlot::Fill SceneGraphPlotContour::prepareFill(const PostDataView& reco
 
 void SceneGraphPlotContour::fillPlotImpl(const Input& input)
 {
-    ContourLabels labels(*input.bounds, input.numAxes, input.margins, static_cast<int>(input.contours.size()));
+    std::optional<ContourLabels> labels;
     beginFill(input.levels, [&](IsoData& level, int group) {
+        if (!labels) { // allocates as well
+            labels.emplace(*input.bounds, input.numAxes, input.margins, static_cast<int>(input.contours.size()));
+        }
         const Input::Contours& contours = input.contours[static_cast<std::size_t>(group)];
         level.m_vertices.allocate(contours.positions.count);
         if (contours.triangles) {
@@ -101,9 +104,9 @@ void SceneGraphPlotContour::fillPlotImpl(const Input& input)
         appendPoints(level.m_vertices, contours.positions, contours.normals, contours.colors);
         if (contours.triangles) {
             appendTriangles(level.m_triangles, *contours.triangles);
-            labels.skip();
+            labels->skip();
         } else {
-            level.m_labelPosition = labels.place(contours.positions);
+            level.m_labelPosition = labels->place(contours.positions);
             appendLines(level.m_lines, contours.lines);
         }
     }

@@ -98,7 +98,7 @@ protected:
 
         BoundingBox box;
         bool hasColorData;
-        ValueScale scale; ///< of the colour data, or else of the iso level data
+        ValueScale scale;                             ///< of the colour data, or else of the iso level data
         std::vector<const std::vector<double>*> data; ///< the iso level data of each group
     };
 
