@@ -143,10 +143,11 @@ TEST(ScalarPlots, isoSurfacesMatchPlainLoops)
             EXPECT_EQ(level.m_levelData, expected.data[1]);
             EXPECT_EQ(trianglesOf(level.m_triangles), expected.triangles());
             if (!expected.corners[0].empty()) {
-                EXPECT_EQ(verticesOf(level.m_vertices),
-                          expected.vertices(
-                              true, [&](std::size_t p) { return expected.normal(p); },
-                              [&](std::size_t p) { return scale(hasColors ? expected.data[0][p] : expected.data[1][0]); }));
+                EXPECT_EQ(
+                    verticesOf(level.m_vertices),
+                    expected.vertices(
+                        true, [&](std::size_t p) { return expected.normal(p); },
+                        [&](std::size_t p) { return scale(hasColors ? expected.data[0][p] : expected.data[1][0]); }));
             }
         }
     }

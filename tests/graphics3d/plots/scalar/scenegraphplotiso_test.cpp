@@ -152,11 +152,20 @@ TEST(SceneGraphPlotIso, countersMoveForLabelsAndFillsAndNotForHiddenLevels)
 {
     SceneGraphPlotContour plot(1);
     const std::vector<std::pair<int, std::function<void()>>> steps = {
-        {2, [&] { plot.fillPlot(lines({1, 2, 3})); }},
+        {2,
+         [&] {
+             plot.fillPlot(lines({1, 2, 3}));
+         }},
         {0, [&] { plot.setSurfaceShown(1, false); }},
         {0, [&] { plot.setSurfaceShownForAll(false); }},
-        {1, [&] { plot.setLabels({"a", "b"}); }},
-        {0, [&] { plot.setLabels({"a", "b"}); }},
+        {1,
+         [&] {
+             plot.setLabels({"a", "b"});
+         }},
+        {0,
+         [&] {
+             plot.setLabels({"a", "b"});
+         }},
         {1, [&] { plot.setShowLabels(false); }},
         {0, [&] { plot.setShowLabels(false); }},
         {1, [&] { plot.setLabelColor(Color::fromRgb(0xff)); }},
@@ -199,7 +208,7 @@ TEST(SceneGraphPlotContour, elementsDecideBetweenBandsAndLines)
     record.group(square, {{0, 2}}, {{2}}); // no lines
     record.group(square, {}, {{3}});
     record.group(square, {{0}, {1}, {2}, {3}}, {{4}}); // more corners are ignored
-    record.group(square, {{0}, {1}, {2}}, {{2}}); // a band of one level
+    record.group(square, {{0}, {1}, {2}}, {{2}});      // a band of one level
     SceneGraphPlotContour plot(1);
     plot.fillPlot(record);
     EXPECT_EQ(verticesOf(plot, 0), (Vertices{{0, 0, 0, 0, 0, 1, 0.0f, 0},

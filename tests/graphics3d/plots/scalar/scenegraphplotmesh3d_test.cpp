@@ -158,7 +158,10 @@ TEST(SceneGraphPlotMesh3d, switchesMoveTheirCountersAndHidingFacesDropsTheColorT
     const std::vector<Step> steps = {
         {1, 1, [&] { plot.fillPlot(record); }},
         {0, 0, [&] { plot.resetPlotData(); }},
-        {0, 1, [&] { plot.setColorTable("mesh", {{1, 0, 0}}, false); }},
+        {0, 1,
+         [&] {
+             plot.setColorTable("mesh", {{1, 0, 0}}, false);
+         }},
         {0, 0, [&] { plot.setDisplayInterior(true); }},
         {1, 1, [&] { plot.setDisplayInterior(false); }},
         {1, 0, [&] { plot.setDisplayInterior(true); }},
