@@ -59,7 +59,7 @@ VX_NATIVE(void, PostDataObject, cleanupNative)(JNIEnv* env, jclass, jobject self
 
 VX_NATIVE(void, PostDataObject, addGroup)
 (JNIEnv* env, jclass, jobject self, jobjectArray coordinates, jobjectArray elements, jobjectArray data,
- jdoubleArray limits, jobjectArray normals, jboolean computeNormals, jobjectArray lineElements)
+ jdoubleArray limits, jobjectArray normals, jboolean computeNormals, jobjectArray lineElements, jboolean computeOutline)
 {
     guarded(env, [&] {
         auto& record = peer<PostDataObject>(env, self);
@@ -68,7 +68,8 @@ VX_NATIVE(void, PostDataObject, addGroup)
                                copyRows<double>(env, data, "data"),
                                copyRows<int>(env, lineElements, "lineElements"),
                                copyRows<float>(env, normals, "normals"),
-                               computeNormals != JNI_FALSE};
+                               computeNormals != JNI_FALSE,
+                               computeOutline != JNI_FALSE};
         const auto ends = fromJava<std::vector<double>>(env, limits);
         if (ends.size() != 2 * group.data.size()) {
             throw std::invalid_argument("limits has " + std::to_string(ends.size()) + " entries for " +

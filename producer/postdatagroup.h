@@ -28,6 +28,8 @@ struct PostDataGroup {
     Record::FloatArrays normals = {};
     /// Whether the normals are those that `normalsOf` gives, which needs triangles and three axes.
     bool computeNormals = false;
+    /// Whether the line elements are those that `outlineOf` gives, which needs triangles.
+    bool computeOutline = false;
     /// By data array. Those that are missing or empty are computed from the finite values, see `finiteRange`.
     std::vector<ValueRange> limits = {};
 };

@@ -1,6 +1,7 @@
 #include "producer/recordgroups.h"
 
 #include "producer/recordnormals.h"
+#include "producer/recordoutline.h"
 
 #include <boost/make_shared.hpp>
 
@@ -64,6 +65,10 @@ void requireFitting(const PostDataGroup& group, const PostDataObject& record)
                            std::to_string(group.coordinates.size()) + " axes and " +
                            std::to_string(group.elements.size()) + " corners");
     }
+    if (group.computeOutline && group.elements.size() != 3) {
+        refuse(number,
+               "computeOutline needs triangles; there are " + std::to_string(group.elements.size()) + " corners");
+    }
     if (number > 0 && group.coordinates.size() != record.m_coordinates[0]->size()) {
         refuse(number, "coordinates have " + std::to_string(group.coordinates.size()) +
                            " axes, those of group 0 have " + std::to_string(record.m_coordinates[0]->size()));
@@ -98,6 +103,9 @@ void append(PostDataObject& record, PostDataGroup group)
     }
     if (group.computeNormals) {
         group.normals = normalsOf(group.coordinates, group.elements);
+    }
+    if (group.computeOutline) {
+        group.lineElements = outlineOf(group.elements);
     }
     const auto coordinates = shared(std::move(group.coordinates));
     const auto elements = shared(std::move(group.elements));

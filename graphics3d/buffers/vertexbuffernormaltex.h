@@ -17,6 +17,8 @@ public:
     {
         return append({x, y, z, nx, ny, nz, u, 0.0f});
     }
+    /// Replaces the position on the colour scale of an appended record; the index is not checked.
+    void setVertexTextureUCoord(int index, float u) { record(index).u = u; }
 };
 
 } // namespace vxgraphics3d

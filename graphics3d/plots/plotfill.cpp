@@ -90,7 +90,7 @@ void fillSurface(SurfaceMesh& mesh, const PointPositions& positions, const Point
 {
     mesh.allocate(positions.count, triangles.count);
     appendPoints(mesh.vertices, positions, normals, colors);
-    mesh.indices.appendTriangles(triangles.a, triangles.b, triangles.c, triangles.count);
+    appendTriangles(mesh.indices, triangles);
 }
 
 void fillRaisedSurface(SurfaceMesh& mesh, const PointPositions& positions, const HeightMap& heights,
@@ -133,11 +133,26 @@ void fillRaisedSurface(SurfaceMesh& mesh, const PointPositions& positions, const
     });
 }
 
+void allocateElements(IndexBuffer& indices, int count)
+{
+    indices.internalAllocate(count, 1);
+    indices.newSegment();
+}
+
+void appendTriangles(IndexBufferTriangles& indices, const TriangleCorners& triangles)
+{
+    indices.appendTriangles(triangles.a, triangles.b, triangles.c, triangles.count);
+}
+
+void appendLines(IndexBufferLines& indices, const LineEnds& ends)
+{
+    indices.appendLines(ends.from, ends.to, ends.count);
+}
+
 void fillLines(IndexBufferLines& lines, const LineEnds& ends)
 {
-    lines.internalAllocate(ends.count, 1);
-    lines.newSegment();
-    lines.appendLines(ends.from, ends.to, ends.count);
+    allocateElements(lines, ends.count);
+    appendLines(lines, ends);
 }
 
 } // namespace vxgraphics3d

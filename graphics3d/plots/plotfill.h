@@ -5,6 +5,7 @@
 
 namespace vxgraphics3d {
 
+class IndexBuffer;
 class IndexBufferLines;
 class VertexBufferTex;
 
@@ -23,6 +24,12 @@ void fillSurface(SurfaceMesh& mesh, const PointPositions& positions, const Point
 /// long as twice the triangle's area, normalised; (0, 0, 0) for a point without triangles.
 void fillRaisedSurface(SurfaceMesh& mesh, const PointPositions& positions, const HeightMap& heights,
                        const PointColors& colors, const TriangleCorners& triangles);
+/// Allocates one segment for a number of elements and opens it. The vertex buffer must have been allocated.
+void allocateElements(IndexBuffer& indices, int count);
+/// Appends all triangles in their order to a buffer with space for them.
+void appendTriangles(IndexBufferTriangles& indices, const TriangleCorners& triangles);
+/// Appends all lines in their order to a buffer with space for them.
+void appendLines(IndexBufferLines& indices, const LineEnds& ends);
 /// Allocates one segment for all lines and appends them in their order. The vertex buffer must have been allocated.
 void fillLines(IndexBufferLines& lines, const LineEnds& ends);
 

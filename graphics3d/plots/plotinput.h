@@ -20,6 +20,11 @@ struct PointPositions {
     /// Fetches as many axes as the record has; missing ones are 0.
     static PointPositions ofAnyAxes(const vxdatacarrier::PostDataView& record, int group);
 
+    Vector3f at(std::size_t point) const
+    {
+        return {x[point], y != nullptr ? y[point] : 0.0, z != nullptr ? z[point] : 0.0};
+    }
+
     int count;
     const double* x;
     const double* y; ///< null for 0
@@ -45,6 +50,8 @@ struct PointColors {
     PointColors(const vxdatacarrier::PostDataView& record, int group, const vxdatacarrier::PostDataRole& role,
                 const ValueScale& valueScale);
     explicit PointColors(float u) : constant(u) {}
+
+    float at(std::size_t point) const { return values != nullptr ? scale(values[point]) : constant; }
 
     const double* values = nullptr; ///< null if all points have the constant coordinate
     ValueScale scale{0.0, 0.0};

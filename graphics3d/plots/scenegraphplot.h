@@ -202,6 +202,7 @@ protected:
     // Helpers for fills
 
     void markGeometryChanged() { m_geometryChangeId.raise(); }
+    void markColorChanged() { m_colorChangeId.raise(); }
     void setHasHeightData(bool hasHeightData) { m_hasHeightData = hasHeightData; }
 
 private:

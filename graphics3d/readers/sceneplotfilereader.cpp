@@ -4,6 +4,7 @@
 #include "graphics3d/buffers/indexbufferlines.h"
 #include "graphics3d/buffers/indexbuffertriangles.h"
 #include "graphics3d/foundation/errorlog.h"
+#include "graphics3d/plots/scalar/scenegraphplotslice3d.h"
 #include "graphics3d/readers/plotfilechecks.h"
 #include "graphics3d/readers/plotfilereading.h"
 #include "graphics3d/readers/recordgroups.h"
@@ -225,6 +226,42 @@ bool ScenePlotFileReader::readIsoSurfacePlot3dData(vxdatacarrier::PostDataObject
         groups.add(std::move(arrays));
     }
     reader.finish(record, groups, 3);
+    return true;
+}
+
+bool ScenePlotFileReader::readSlicePlot3d(SceneGraphPlotSlice3d& plot, std::string fileName)
+{
+    ScenePlotFileReader reader(std::move(fileName));
+    if (!reader.readSizesAndData(GroupCriteria::x) || !reader.verifySlicePlot3dSizes() || !reader.readCoordinates()) {
+        return false;
+    }
+    try {
+        const bool isComplete = reader.readSlices(plot);
+        plot.setFilled(isComplete ? reader.getBoundingBox() : plot.getStoredBoundingBox());
+        return isComplete;
+    } catch (...) {
+        plot.resetPlotData();
+        throw;
+    }
+}
+
+bool ScenePlotFileReader::readSlices(SceneGraphPlotSlice3d& plot)
+{
+    const int numGroups = static_cast<int>(m_contents.groups.size());
+    plot.allocate(numGroups);
+    for (int group = 0; group < numGroups; ++group) {
+        SceneGraphPlotSlice3d::Slice& slice = *plot.slice(group);
+        slice.m_vertices.allocate(groupAt(group).numPoints());
+        slice.m_triangles.internalAllocate(groupAt(group).numTriangles, 1);
+        slice.m_triangles.newSegment();
+        if (!readAndAppendTriangleElements(slice.m_triangles, group)) {
+            slice.m_triangles.deallocate();
+            slice.m_vertices.deallocate();
+            return false;
+        }
+        calculateBoundaries2d(slice.m_triangles, group, slice.m_lines);
+        appendCoordinates(slice.m_vertices, group);
+    }
     return true;
 }
 

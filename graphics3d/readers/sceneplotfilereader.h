@@ -20,6 +20,7 @@ class IndexBufferLines;
 class IndexBufferQuads;
 class IndexBufferTriangles;
 class RecordGroups;
+class SceneGraphPlotSlice3d;
 class VertexBufferNormalTex;
 class VertexBufferTex;
 
@@ -54,6 +55,12 @@ public:
     /// group's value in data array 0 and a value for each point in data array 1.
     /// @return false if the file has a fault; the groups before a faulty element row are appended
     static bool readIsoSurfacePlot3dData(vxdatacarrier::PostDataObject& record, std::string fileName);
+    /// Fills a plot with a slice for each run of points of equal x, with its outline. Texture coordinates are the
+    /// values scaled to 0 to 1; value range and legend of the plot are unchanged.
+    /// @return false if the file has a fault: the plot is unchanged or, after a faulty element row, has the slices
+    /// before it and empty ones
+    /// @throws std::bad_alloc with the plot unchanged or empty
+    static bool readSlicePlot3d(SceneGraphPlotSlice3d& plot, std::string fileName);
 
     /// Opens the file. If that fails, every step returns false without a further message.
     explicit ScenePlotFileReader(std::string fileName);
@@ -105,6 +112,7 @@ private:
     const PointGroup& groupAt(int group) const { return m_contents.groups.at(static_cast<std::size_t>(group)); }
     template <class Append>
     bool readTriangles(int group, Append append);
+    bool readSlices(SceneGraphPlotSlice3d& plot);
     void finish(vxdatacarrier::PostDataObject& record, const RecordGroups& groups, std::size_t numAxes) const;
 
     TextFile m_file;

@@ -2,6 +2,7 @@
 
 #include "graphics3d/plots/scalar/scenegraphplotsurface3d.h"
 #include "producer/recordnormals.h"
+#include "producer/recordoutline.h"
 
 #include <gtest/gtest.h>
 
@@ -81,6 +82,12 @@ TEST(PostDataBuilder, refusesInconsistentGroupsAndKeepsTheEarlierOnes)
         {[](auto& g) { g.elements.pop_back(); },
          "group 1: computeNormals needs triangles in space; there are 3 axes and 2 corners"},
         {[](auto& g) {
+             g.elements.pop_back();
+             g.computeNormals = false;
+             g.computeOutline = true;
+         },
+         "group 1: computeOutline needs triangles; there are 2 corners"},
+        {[](auto& g) {
              g.coordinates.pop_back();
              g.computeNormals = false;
          },
@@ -112,6 +119,27 @@ TEST(PostDataBuilder, refusesRolesWithoutData)
     PostDataGroup shorter = square();
     shorter.data[1].pop_back();
     EXPECT_THROW(PostDataBuilder(0).addGroup(shorter).build(), std::invalid_argument);
+}
+
+TEST(RecordOutline, isTheEdgesOfExactlyOneTriangle)
+{
+    EXPECT_EQ(outlineOf({{}, {}, {}}), (Record::IntArrays{{}, {}}));
+    EXPECT_EQ(outlineOf(square().elements), (Record::IntArrays{{0, 0, 1, 2}, {1, 3, 2, 3}}));
+    // An edge that three triangles share is inside; a point with many neighbours has no limit.
+    Record::IntArrays fan = {{0, 1, 0}, {1, 0, 1}, {2, 3, 4}};
+    EXPECT_EQ(outlineOf(fan), (Record::IntArrays{{0, 0, 0, 1, 1, 1}, {2, 3, 4, 2, 3, 4}}));
+    fan = {{}, {}, {}};
+    for (int i = 1; i < 60; i += 2) {
+        fan[0].push_back(i);
+        fan[1].push_back(0);
+        fan[2].push_back(i + 1);
+    }
+    EXPECT_EQ(outlineOf(fan)[0].size(), 90u);
+
+    PostDataGroup group = square();
+    group.computeOutline = true;
+    const Record record = PostDataBuilder(0).addGroup(group).build();
+    EXPECT_EQ(*record.m_lineElements.at(0), outlineOf(group.elements));
 }
 
 TEST(RecordNormals, sumUnitNormalsAndSkipTrianglesWithoutOne)

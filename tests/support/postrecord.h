@@ -49,6 +49,12 @@ public:
         }
         return *this;
     }
+    /// Adds the boundary lines of the group that was added last.
+    PostRecord& outline(Record::IntArrays ends)
+    {
+        m_record.m_lineElements.push_back(boost::make_shared<Record::IntArrays>(std::move(ends)));
+        return *this;
+    }
     /// Sets the limits of one data array of a group, independent of its data.
     PostRecord& limits(int group, int array, double min, double max)
     {
@@ -58,6 +64,7 @@ public:
     }
 
     Record& record() { return m_record; }
+    const Record& record() const { return m_record; }
     operator const Record&() const { return m_record; }
 
 private:

@@ -4,15 +4,16 @@
 #include "graphics3d/plots/scalar/scenegraphplotsurface2d.h"
 #include "graphics3d/plots/scalar/scenegraphplotsurface3d.h"
 #include "tests/support/failingallocation.h"
+#include "tests/support/plotbuffers.h"
 #include "tests/support/postrecord.h"
+#include "tests/support/recordflaws.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstddef>
+#include <memory>
 #include <random>
-#include <stdexcept>
-#include <string>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -24,37 +25,16 @@ using Doubles = std::vector<double>;
 constexpr int c_color = Record::ColorData;
 constexpr int c_height = Record::HeightData;
 
-/// One record of a vertex buffer, to be compared as a whole.
-using Vertex = std::vector<float>;
-
 template <class Plot>
-std::vector<Vertex> verticesOf(const Plot& plot)
+Vertices verticesOf(const Plot& plot)
 {
-    std::vector<Vertex> result;
-    for (int i = 0; i < plot.getVertices().getNumberOfVertices(); ++i) {
-        const VertexNormalTex& v = plot.getVertices().vertices()[i];
-        result.push_back({v.x, v.y, v.z, v.nx, v.ny, v.nz, v.u, v.v});
-    }
-    return result;
+    return vxgraphics3d::verticesOf(plot.getVertices());
 }
 
 template <class Plot>
-std::vector<std::vector<int>> trianglesOf(const Plot& plot)
+Triangles trianglesOf(const Plot& plot)
 {
-    std::vector<std::vector<int>> result;
-    for (int i = 0; i < plot.getTriangles().getNumElements(0); ++i) {
-        std::vector<int> corners(3);
-        plot.getTriangles().getTriangle(i, corners[0], corners[1], corners[2]);
-        result.push_back(corners);
-    }
-    return result;
-}
-
-std::vector<float> limitsOf(const BoundingBox& box)
-{
-    const Vector3f min = box.getMin();
-    const Vector3f max = box.getMax();
-    return {min.x, max.x, min.y, max.y, min.z, max.z};
+    return vxgraphics3d::trianglesOf(plot.getTriangles());
 }
 
 /// A triangle in the plane, counter-clockwise from above, with values 0, 5 and 10 as data array 0.
@@ -93,10 +73,9 @@ TEST(SceneGraphPlotSurface2d, fillIsFlatWithTextureCoordinatesFromZeroToOne)
     SceneGraphPlotSurface2d plot(1);
     EXPECT_FALSE(plot.isValid());
     plot.fillPlot(flatTriangle());
-    EXPECT_EQ(
-        verticesOf(plot),
-        (std::vector<Vertex>{{0, 0, 0, 0, 0, 1, 0.0f, 0}, {4, 0, 0, 0, 0, 1, 0.5f, 0}, {0, 2, 0, 0, 0, 1, 1.0f, 0}}));
-    EXPECT_EQ(trianglesOf(plot), (std::vector<std::vector<int>>{{0, 1, 2}}));
+    EXPECT_EQ(verticesOf(plot),
+              (Vertices{{0, 0, 0, 0, 0, 1, 0.0f, 0}, {4, 0, 0, 0, 0, 1, 0.5f, 0}, {0, 2, 0, 0, 0, 1, 1.0f, 0}}));
+    EXPECT_EQ(trianglesOf(plot), (Triangles{{0, 1, 2}}));
     EXPECT_EQ(plot.getTriangles().getSegmentStarts(), (std::vector<int>{0, 3}));
     EXPECT_EQ(limitsOf(plot.getBoundingBox()), (std::vector<float>{0, 4, 0, 2, 0, 0}));
     EXPECT_FALSE(plot.hasHeightData());
@@ -163,7 +142,7 @@ TEST(SceneGraphPlotSurface2d, raisedFillWeightsNormalsByTheAreaOfTriangles)
     const Vector3f ridge = Vector3f(4.0f, 0.0f, 6.0f).normalized();
     const Vector3f slope = Vector3f(4.0f, 0.0f, 4.0f).normalized();
     const std::vector<Vector3f> expected{ridge, ridge, {0.0f, 0.0f, 1.0f}, slope, {0.0f, 0.0f, 0.0f}};
-    const std::vector<Vertex> vertices = verticesOf(plot);
+    const Vertices vertices = verticesOf(plot);
     for (std::size_t i = 0; i < expected.size(); ++i) {
         EXPECT_EQ(Vector3f(vertices[i][3], vertices[i][4], vertices[i][5]), expected[i]) << "point " << i;
     }
@@ -188,11 +167,11 @@ TEST(SceneGraphPlotSurface3d, fillTakesPositionsNormalsAndColoursOfTheRecord)
 {
     SceneGraphPlotSurface3d plot(1);
     plot.fillPlot(spatialSquare());
-    EXPECT_EQ(verticesOf(plot), (std::vector<Vertex>{{0, 0, 3, 0.1f, 0.5f, 1.0f, 0.0f, 0},
-                                                     {1, 0, 3, 0.2f, 0.6f, 1.1f, 0.25f, 0},
-                                                     {1, 2, 4, 0.3f, 0.7f, 1.2f, 0.5f, 0},
-                                                     {0, 2, 4, 0.4f, 0.8f, 1.3f, 1.0f, 0}}));
-    EXPECT_EQ(trianglesOf(plot), (std::vector<std::vector<int>>{{0, 1, 2}, {2, 3, 0}}));
+    EXPECT_EQ(verticesOf(plot), (Vertices{{0, 0, 3, 0.1f, 0.5f, 1.0f, 0.0f, 0},
+                                          {1, 0, 3, 0.2f, 0.6f, 1.1f, 0.25f, 0},
+                                          {1, 2, 4, 0.3f, 0.7f, 1.2f, 0.5f, 0},
+                                          {0, 2, 4, 0.4f, 0.8f, 1.3f, 1.0f, 0}}));
+    EXPECT_EQ(trianglesOf(plot), (Triangles{{0, 1, 2}, {2, 3, 0}}));
     EXPECT_EQ(limitsOf(plot.getBoundingBox()), (std::vector<float>{0, 1, 0, 2, 3, 4}));
 }
 
@@ -230,7 +209,7 @@ TEST(SurfacePlots, fillChoosesTheWidthOfIndicesByTheNumberOfPoints)
         SceneGraphPlotSurface2d plot(1);
         plot.fillPlot(record);
         EXPECT_EQ(plot.getTriangles().uses32BitIndices(), count == 65536);
-        EXPECT_EQ(trianglesOf(plot), (std::vector<std::vector<int>>{{0, 1, last}}));
+        EXPECT_EQ(trianglesOf(plot), (Triangles{{0, 1, last}}));
     }
 }
 
@@ -289,7 +268,7 @@ void expectToSurviveFailures(const PostRecord& first, const PostRecord& second)
 {
     Plot plot(1);
     plot.fillPlot(first);
-    const std::vector<Vertex> expected = verticesOf(plot);
+    const Vertices expected = verticesOf(plot);
     int geometry = plot.getGeometryChangeId();
     const auto fill = [&] { plot.fillPlot(second); };
     const long failures = failEachAllocation(fill, [&] {
@@ -320,48 +299,13 @@ TEST(SurfacePlots, fillThatRunsOutOfMemoryLeavesNoBuffersAndCanBeRepeated)
     expectToSurviveFailures<SceneGraphPlotDomain3d>(triangleInSpace, spatialSquare());
 }
 
-/// Something that a record lacks, and a part of the expected message.
-struct Flaw {
-    const char* message;
-    void (*apply)(Record& record);
-};
-
 template <class Plot>
-void expectRefusals(const PostRecord& good, const char* name, const std::vector<Flaw>& flaws)
+void expectRefusals(const PostRecord& good, const char* name, const std::vector<RecordFlaw>& flaws)
 {
-    for (const Flaw& flaw : flaws) {
-        Plot plot(1);
-        plot.fillPlot(good);
-        const std::vector<Vertex> before = verticesOf(plot);
-        const int geometry = plot.getGeometryChangeId();
-        PostRecord record = good;
-        // The copy shares its arrays with the valid record.
-        for (auto& arrays : record.record().m_coordinates) {
-            arrays = boost::make_shared<Record::DoubleArrays>(*arrays);
-        }
-        for (auto& arrays : record.record().m_data) {
-            arrays = boost::make_shared<Record::DoubleArrays>(*arrays);
-        }
-        for (auto& arrays : record.record().m_elements) {
-            arrays = boost::make_shared<Record::IntArrays>(*arrays);
-        }
-        for (auto& arrays : record.record().m_normals) {
-            arrays = boost::make_shared<Record::FloatArrays>(*arrays);
-        }
-        flaw.apply(record.record());
-        try {
-            plot.fillPlot(record);
-            ADD_FAILURE() << name << " took a record with this flaw: " << flaw.message;
-        } catch (const std::invalid_argument& e) {
-            EXPECT_EQ(std::string(e.what()).find(name), 0u) << e.what();
-            EXPECT_NE(std::string(e.what()).find(flaw.message), std::string::npos) << e.what();
-        }
-        EXPECT_EQ(verticesOf(plot), before) << flaw.message;
-        EXPECT_EQ(plot.getGeometryChangeId(), geometry) << flaw.message;
-    }
+    vxgraphics3d::expectRefusals([] { return std::make_unique<Plot>(1); }, good, name, flaws, verticesOf<Plot>);
 }
 
-const std::vector<Flaw> c_commonFlaws{
+const std::vector<RecordFlaw> c_commonFlaws{
     {"no group", [](Record& r) { r.m_coordinates.clear(); }},
     {"role 0", [](Record& r) { r.m_dataIndex[c_color] = -1; }},
     {"role 0", [](Record& r) { r.m_dataIndex[c_color] = 7; }},
@@ -381,7 +325,7 @@ TEST(SurfacePlots, fillRefusesARecordThatLacksSomethingAndNamesIt)
                                             {{"role 4", [](Record& r) { r.m_dataIndex[c_height] = 2; }},
                                              {"role 4", [](Record& r) { (*r.m_data[0])[1].pop_back(); }}});
 
-    std::vector<Flaw> spatial = c_commonFlaws;
+    std::vector<RecordFlaw> spatial = c_commonFlaws;
     spatial.push_back({"coordinates", [](Record& r) { r.m_coordinates[0]->pop_back(); }});
     spatial.push_back({"normals", [](Record& r) { r.m_normals.clear(); }});
     spatial.push_back({"normals", [](Record& r) { r.m_normals[0]->pop_back(); }});
@@ -441,7 +385,7 @@ TEST(SurfacePlots, raisedFillMatchesAPlainComputationOnARandomSurface)
             sums[k] += normal;
         }
     }
-    std::vector<Vertex> expected;
+    Vertices expected;
     const double valueMin = (*r.m_dataMin[0])[1];
     const double valueScale = 1.0 / ((*r.m_dataMax[0])[1] - valueMin);
     for (std::size_t i = 0; i < x.size(); ++i) {

@@ -26,7 +26,9 @@
  *   <li>Every node is a {@link SceneGraphNode}. A {@link SceneGraphGroup} has any number of children, a
  *       {@link SceneGraphObject} shows geometry, and a {@link SceneGraphPlotGroup} has plots.
  *   <li>A {@link SceneGraphPlot} shows the values of one record with a colour table, a legend and a title:
- *       {@link SceneGraphPlotSurface2d}, {@link SceneGraphPlotSurface3d} and {@link SceneGraphPlotDomain3d}.
+ *       {@link SceneGraphPlotSurface2d}, {@link SceneGraphPlotSurface3d}, {@link SceneGraphPlotDomain3d},
+ *       {@link SceneGraphPlotSlice3d} and {@link SceneGraphPlotMesh3d}. Levels of a field are a
+ *       {@link SceneGraphPlotIso}: {@link SceneGraphPlotIsoSurface3d} or {@link SceneGraphPlotContour}.
  *       A {@link SceneGraphPlotGraph} shows lines with a {@link RenderSymbol} and a {@link LineStyle} each.
  *       {@link PostDataReader} reads records from files.
  *   <li>The {@link SceneLight} of a scene makes and removes its light sources, which are

@@ -8,7 +8,7 @@ import java.util.Random;
 
 /** Values that no program should pass to a native: for each parameter type that is not a peer, values at its limits. */
 final class HostileValues {
-    private static final Object[] TEXTS = {null, "", "a", "%s%n{}\\", "\0\ud800\u20ac", "x".repeat(100_000)};
+    private static final String[] TEXTS = {null, "", "a", "%s%n{}\\", "\0\ud800\u20ac", "x".repeat(100_000)};
     private static final double[] NO_NUMBERS = {Double.NaN, 1.0, -1e300};
     private static final ByteBuffer BYTES = ByteBuffer.allocateDirect(64).order(ByteOrder.nativeOrder());
 

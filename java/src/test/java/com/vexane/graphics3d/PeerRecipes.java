@@ -61,11 +61,16 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphPlotSurface3d.class, made -> new SceneGraphPlotSurface3d(2));
         recipe(SceneGraphPlotDomain3d.class, made -> new SceneGraphPlotDomain3d(3));
         recipe(SceneGraphPlotGraph.class, made -> new SceneGraphPlotGraph(4));
+        recipe(SceneGraphPlotIsoSurface3d.class, made -> new SceneGraphPlotIsoSurface3d(4));
+        recipe(SceneGraphPlotContour.class, made -> new SceneGraphPlotContour(5));
+        recipe(SceneGraphPlotSlice3d.class, made -> new SceneGraphPlotSlice3d(6));
+        recipe(SceneGraphPlotMesh3d.class, made -> new SceneGraphPlotMesh3d(7, 3));
         recipe(PostDataObject.class, made -> new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0)
-                .role(DataRole.HEIGHT, 0).addGroup(new PostDataGroup()
+                .role(DataRole.HEIGHT, 0).role(DataRole.ISO_LEVEL, 0).addGroup(new PostDataGroup()
                         .coordinates(new double[] {0, 1, 0}, new double[] {0, 0, 1}, new double[3])
                         .normals(new float[3], new float[3], new float[] {1, 1, 1})
-                        .elements(new int[] {0}, new int[] {1}, new int[] {2}).data(new double[] {0, 1, 2}))
+                        .elements(new int[] {0}, new int[] {1}, new int[] {2}).computeOutline()
+                        .data(new double[] {0, 1, 2}))
                 .build());
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
         try {

@@ -99,7 +99,7 @@ public final class PostDataBuilder {
      * @throws IllegalArgumentException if arrays do not fit together: another number of axes or data arrays than in the
      *     first group, or not one value or normal per point; a single value for the whole group is accepted where
      *     {@link DataRole#ISO_LEVEL} is the only role of the array; or if normals are to be computed and there are no
-     *     triangles in space
+     *     triangles in space, or an outline and there are no triangles
      * @throws IndexOutOfBoundsException if a role refers to an array that the groups do not have
      * @throws com.vexane.base.NativeException if an element refers to a point that its group does not have
      */
@@ -152,6 +152,10 @@ public final class PostDataBuilder {
         }
         if (group.computesNormals) {
             requireTriangles(group, place);
+        }
+        if (group.computesOutline && group.elements.length != 3) {
+            throw new IllegalArgumentException(
+                    place + "computeOutline needs triangles; there are " + group.elements.length + " corners");
         }
         if (group.normals.length > 0 && Values.count(group.normals[0]) != points) {
             throw new IllegalArgumentException(place + "normals have " + Values.count(group.normals[0]) + " entries for "

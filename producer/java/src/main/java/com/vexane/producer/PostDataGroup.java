@@ -30,6 +30,7 @@ public final class PostDataGroup {
     Object[] lineElements = {};
     Object[] normals = {};
     boolean computesNormals;
+    boolean computesOutline;
     final List<Object> data = new ArrayList<>();
     /** Minimum and maximum of each data array; NaN if they are to be computed. */
     final List<double[]> limits = new ArrayList<>();
@@ -121,6 +122,7 @@ public final class PostDataGroup {
      */
     public PostDataGroup lineElements(int[] from, int[] to) {
         lineElements = Values.rows("lineElements", 2, 2, new Object[] {from, to});
+        computesOutline = false;
         return this;
     }
 
@@ -133,6 +135,22 @@ public final class PostDataGroup {
      */
     public PostDataGroup lineElements(IntBuffer from, IntBuffer to) {
         lineElements = Values.rows("lineElements", 2, 2, new Object[] {from, to});
+        computesOutline = false;
+        return this;
+    }
+
+    /**
+     * Computes the lines that are drawn with triangles as their outline: the edges that exactly one triangle has. Slices
+     * need an outline.
+     *
+     * <p>The group needs triangles, set in any order; otherwise {@link PostDataBuilder#build} refuses it. The last call
+     * of this method or {@link #lineElements(int[], int[])} takes effect.
+     *
+     * @return this group
+     */
+    public PostDataGroup computeOutline() {
+        lineElements = new Object[0];
+        computesOutline = true;
         return this;
     }
 

@@ -93,7 +93,7 @@ public final class PostDataObject extends NativePeer {
     void addGroup(PostDataGroup group) {
         double[] limits = group.limits.stream().flatMapToDouble(Arrays::stream).toArray();
         addGroup(this, group.coordinates, group.elements, group.data.toArray(), limits, group.normals,
-                group.computesNormals, group.lineElements);
+                group.computesNormals, group.lineElements, group.computesOutline);
     }
 
     /** Sets the bounds, or computes them from the points if none are given. */
@@ -211,7 +211,8 @@ public final class PostDataObject extends NativePeer {
     private static native void cleanupNative(PostDataObject peer);
 
     private static native void addGroup(PostDataObject peer, Object[] coordinates, Object[] elements, Object[] data,
-            double[] limits, Object[] normals, boolean computeNormals, Object[] lineElements);
+            double[] limits, Object[] normals, boolean computeNormals, Object[] lineElements,
+            boolean computeOutline);
 
     /** Returns what is wrong and stores the row, or 0, in an array of one entry; null if the file was read. */
     private static native String read(PostDataObject peer, String file, int[] row);
