@@ -20,6 +20,7 @@ class IndexBufferLines;
 class IndexBufferQuads;
 class IndexBufferTriangles;
 class RecordGroups;
+class SceneGraphPlotArrow3d;
 class VertexBufferNormalTex;
 class VertexBufferTex;
 
@@ -54,6 +55,11 @@ public:
     /// group's value in data array 0 and a value for each point in data array 1.
     /// @return false if the file has a fault; the groups before a faulty element row are appended
     static bool readIsoSurfacePlot3dData(vxdatacarrier::PostDataObject& record, std::string fileName);
+
+    /// Fills a plot with an arrow per point. Vectors keep their lengths, and the data, scaled to 0 to 1, or 0 without
+    /// data, become coordinates in the colour table. The box is that of the points.
+    /// @return false, with the plot unchanged, if the file has a fault
+    static bool readArrowPlot3d(SceneGraphPlotArrow3d& plot, std::string fileName);
 
     /// Opens the file. If that fails, every step returns false without a further message.
     explicit ScenePlotFileReader(std::string fileName);
@@ -92,6 +98,9 @@ public:
     void appendCoordinates(VertexBufferTex& vertices, int group) const;
     /// Appends x and y of a group's points to two arrays, the scaled data to data array 0 and z to data array 1.
     void appendCoordinatesHeight(Arrays<double>& coordinates, Arrays<double>& data, int group) const;
+
+    /// Appends an arrow for each point to a plot with space for them.
+    void fillArrowPlot3d(SceneGraphPlotArrow3d& plot) const;
 
     /// Fills a line buffer with the outline of a group's triangles: the edges that exactly one triangle uses.
     void calculateBoundaries2d(const IndexBufferTriangles& triangles, int group, IndexBufferLines& lines) const;
