@@ -67,6 +67,10 @@ constexpr ConversionTable<8> c_plotTypes{
     -1,
     -1};
 
+constexpr ConversionTable<3> c_anchorPoints{{{{0, 1}, {1, 2}, {2, 3}}}, 0, 0};
+
+constexpr ConversionTable<5> c_scalingTypes{{{{0, 1}, {1, 2}, {2, 3}, {3, 4}, {4, 5}}}, 0, 0};
+
 constexpr auto c_antialiasingTypes = sameNumbers<3>();
 
 using Settings = Canvas3dGlobalSettings;
@@ -160,6 +164,16 @@ TextFormat javaTextFormatToCpp(int format)
 int cppPlotTypeToJava(SceneGraphPlot::PlotType type)
 {
     return c_plotTypes.toJava(static_cast<int>(type));
+}
+
+ArrowDescription::AnchorPoint javaAnchorPointToCpp(int anchorPoint)
+{
+    return static_cast<ArrowDescription::AnchorPoint>(c_anchorPoints.toCpp(anchorPoint));
+}
+
+ArrowDescription::ScalingType javaScalingTypeToCpp(int type)
+{
+    return static_cast<ArrowDescription::ScalingType>(c_scalingTypes.toCpp(type));
 }
 
 int cppAntialiasingTypeToJava(int type)

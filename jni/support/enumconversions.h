@@ -7,6 +7,7 @@
 #include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/picking/pickedobject.h"
 #include "graphics3d/plots/scenegraphplot.h"
+#include "graphics3d/plots/vector/arrowdescription.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 #include "graphics3d/scenegraph/scenegraphobject.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
@@ -43,6 +44,11 @@ TextFormat javaTextFormatToCpp(int format);
 /// The kinds of plots that Java distinguishes: surface 2, arrows 3, edges 4, iso surfaces 5, slices 6, tubes 7 and
 /// spheres 10, all in 3D, and the surface in 2D 8; any other -1.
 int cppPlotTypeToJava(SceneGraphPlot::PlotType type);
+
+/// Java 1 to 3 are the points 0 to 2; anything else 0.
+ArrowDescription::AnchorPoint javaAnchorPointToCpp(int anchorPoint);
+/// Java 1 to 5 are the types 0 to 4; anything else 0.
+ArrowDescription::ScalingType javaScalingTypeToCpp(int type);
 
 /// 0 to 2 are the same on both sides; anything else 0.
 int cppAntialiasingTypeToJava(int type);

@@ -26,8 +26,10 @@
  *   <li>Every node is a {@link SceneGraphNode}. A {@link SceneGraphGroup} has any number of children, a
  *       {@link SceneGraphObject} shows geometry, and a {@link SceneGraphPlotGroup} has plots.
  *   <li>A {@link SceneGraphPlot} shows the values of one record with a colour table, a legend and a title:
- *       {@link SceneGraphPlotSurface2d}, {@link SceneGraphPlotSurface3d} and {@link SceneGraphPlotDomain3d}.
- *       {@link PostDataReader} reads records from files.
+ *       {@link SceneGraphPlotSurface2d}, {@link SceneGraphPlotSurface3d} and {@link SceneGraphPlotDomain3d}; vectors as
+ *       arrows in {@link SceneGraphPlotArrow2d} and {@link SceneGraphPlotArrow3d}, principal values and axes in
+ *       {@link SceneGraphPlotPrincipal}; lines as {@link SceneGraphPlotTube2d}, {@link SceneGraphPlotTube3d} and
+ *       {@link SceneGraphPlotRibbon3d}. {@link PostDataReader} reads records from files.
  *   <li>The {@link SceneLight} of a scene makes and removes its light sources, which are
  *       {@linkplain DirectionLightSource directional lights}, {@linkplain PointLightSource point lights} and
  *       {@linkplain SpotLightSource spotlights}.
