@@ -35,7 +35,8 @@ bool load(JNIEnv* env, JavaClasses& java)
     java.peer = findClass(env, "com/vexane/base/NativePeer");
     const jclass registration = findClass(env, "com/vexane/base/NativePeer$Registration");
     java.doubleArray = findClass(env, "[D");
-    if (java.peer == nullptr || registration == nullptr || java.doubleArray == nullptr) {
+    java.floatArray = findClass(env, "[F");
+    if (java.peer == nullptr || registration == nullptr || java.doubleArray == nullptr || java.floatArray == nullptr) {
         return false;
     }
     detail::g_peerHandleField = env->GetFieldID(java.peer, "handle", "J");

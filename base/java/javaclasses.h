@@ -13,6 +13,7 @@ struct JavaClasses {
     jclass exception = nullptr;            ///< com.vexane.base.NativeException
     jmethodID exceptionInit = nullptr;     ///< its constructor (key, detail, file, line)
     jclass doubleArray = nullptr;          ///< double[]
+    jclass floatArray = nullptr;           ///< float[]
 };
 
 const JavaClasses& javaClasses();

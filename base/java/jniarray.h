@@ -16,8 +16,12 @@ namespace vxbase {
 // std::invalid_argument; a JNI call that fails becomes JavaExceptionPending.
 
 VX_API void toCpp(JNIEnv* env, const jintArray& array, std::vector<int>& result);
+VX_API void toCpp(JNIEnv* env, const jfloatArray& array, std::vector<float>& result);
 VX_API void toCpp(JNIEnv* env, const jdoubleArray& array, std::vector<double>& result);
 VX_API void toCpp(JNIEnv* env, const jobjectArray& rows, std::vector<std::vector<double>>& result);
+
+/// Refuses rows that are not float[] as well.
+VX_API void toCpp(JNIEnv* env, const jobjectArray& rows, std::vector<std::vector<float>>& result);
 
 VX_API jfloatArray toJavaNew(JNIEnv* env, const std::vector<float>& values);
 VX_API jdoubleArray toJavaNew(JNIEnv* env, const std::vector<double>& values);

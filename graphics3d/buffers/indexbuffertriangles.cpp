@@ -24,6 +24,22 @@ void IndexBufferTriangles::appendTriangles(const int* a, const int* b, const int
     });
 }
 
+void IndexBufferTriangles::appendBand(int first, int rowLength)
+{
+    const int numPairs = rowLength - 1;
+    requireRoom(2 * numPairs, 3);
+    append(6 * numPairs, [=](auto* out) {
+        for (int i = first; i < first + numPairs; ++i, out += 6) {
+            put(out[0], i);
+            put(out[1], i, rowLength);
+            put(out[2], i, rowLength + 1);
+            put(out[3], i);
+            put(out[4], i, rowLength + 1);
+            put(out[5], i, 1);
+        }
+    });
+}
+
 void IndexBufferTriangles::getTriangle(int triangle, int& a, int& b, int& c) const
 {
     a = indexAt(3 * triangle);

@@ -31,6 +31,7 @@ public:
         m_limits[1].widen(point.y);
         m_limits[2].widen(point.z);
     }
+    const Vector3f& operator[](std::size_t point) const { return m_coordinates[point]; }
     /// Adds the unit normal of a triangle to those of its three corners.
     void addNormal(const int* corners);
 

@@ -5,6 +5,7 @@
 #include "graphics3d/buffers/indexbuffertriangles.h"
 #include "graphics3d/foundation/errorlog.h"
 #include "graphics3d/plots/scalar/scenegraphplotslice3d.h"
+#include "graphics3d/plots/vector/scenegraphplotarrow3d.h"
 #include "graphics3d/readers/plotfilechecks.h"
 #include "graphics3d/readers/plotfilereading.h"
 #include "graphics3d/readers/recordgroups.h"
@@ -147,6 +148,16 @@ void ScenePlotFileReader::appendCoordinatesHeight(Arrays<double>& coordinates, A
     appendValues(data[0], m_contents.data.values, groupAt(group));
 }
 
+void ScenePlotFileReader::fillArrowPlot3d(SceneGraphPlotArrow3d& plot) const
+{
+    const std::vector<float>& values = m_contents.data.values;
+    for (std::size_t i = 0; i < m_contents.vectors.values.size(); ++i) {
+        const Vector3f& p = m_points[i];
+        const Vector3f& v = m_contents.vectors.values[i];
+        plot.appendArrow(p.x, p.y, p.z, v.x, v.y, v.z, values.empty() ? 0.0f : values[i]);
+    }
+}
+
 void ScenePlotFileReader::calculateBoundaries2d(const IndexBufferTriangles& triangles, int group,
                                                 IndexBufferLines& lines) const
 {
@@ -262,6 +273,19 @@ bool ScenePlotFileReader::readSlices(SceneGraphPlotSlice3d& plot)
         calculateBoundaries2d(slice.m_triangles, group, slice.m_lines);
         appendCoordinates(slice.m_vertices, group);
     }
+    return true;
+}
+
+bool ScenePlotFileReader::readArrowPlot3d(SceneGraphPlotArrow3d& plot, std::string fileName)
+{
+    ScenePlotFileReader reader(std::move(fileName));
+    if (!reader.readSizesAndData(GroupCriteria::none) || !reader.verifyArrowPlot3dSizes() ||
+        !reader.readCoordinates()) {
+        return false;
+    }
+    plot.allocate(reader.m_contents.numPoints());
+    reader.fillArrowPlot3d(plot);
+    plot.finishArrows(reader.getBoundingBox());
     return true;
 }
 

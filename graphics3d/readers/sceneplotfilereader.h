@@ -21,6 +21,7 @@ class IndexBufferQuads;
 class IndexBufferTriangles;
 class RecordGroups;
 class SceneGraphPlotSlice3d;
+class SceneGraphPlotArrow3d;
 class VertexBufferNormalTex;
 class VertexBufferTex;
 
@@ -62,6 +63,11 @@ public:
     /// @throws std::bad_alloc with the plot unchanged or empty
     static bool readSlicePlot3d(SceneGraphPlotSlice3d& plot, std::string fileName);
 
+    /// Fills a plot with an arrow per point. Vectors keep their lengths, and the data, scaled to 0 to 1, or 0 without
+    /// data, become coordinates in the colour table. The box is that of the points.
+    /// @return false, with the plot unchanged, if the file has a fault
+    static bool readArrowPlot3d(SceneGraphPlotArrow3d& plot, std::string fileName);
+
     /// Opens the file. If that fails, every step returns false without a further message.
     explicit ScenePlotFileReader(std::string fileName);
 
@@ -99,6 +105,9 @@ public:
     void appendCoordinates(VertexBufferTex& vertices, int group) const;
     /// Appends x and y of a group's points to two arrays, the scaled data to data array 0 and z to data array 1.
     void appendCoordinatesHeight(Arrays<double>& coordinates, Arrays<double>& data, int group) const;
+
+    /// Appends an arrow for each point to a plot with space for them.
+    void fillArrowPlot3d(SceneGraphPlotArrow3d& plot) const;
 
     /// Fills a line buffer with the outline of a group's triangles: the edges that exactly one triangle uses.
     void calculateBoundaries2d(const IndexBufferTriangles& triangles, int group, IndexBufferLines& lines) const;

@@ -70,6 +70,10 @@ constexpr ConversionTable<8> c_plotTypes{
 constexpr int c_largestSymbol = 7;
 constexpr int c_largestStyle = 3;
 
+constexpr ConversionTable<3> c_anchorPoints{{{{0, 1}, {1, 2}, {2, 3}}}, 0, 0};
+
+constexpr ConversionTable<5> c_scalingTypes{{{{0, 1}, {1, 2}, {2, 3}, {3, 4}, {4, 5}}}, 0, 0};
+
 constexpr auto c_antialiasingTypes = sameNumbers<3>();
 
 using Settings = Canvas3dGlobalSettings;
@@ -173,6 +177,16 @@ RenderSymbol javaRenderSymbolToCpp(int symbol)
 LineStyle javaLineStyleToCpp(int style)
 {
     return style >= 0 && style <= c_largestStyle ? static_cast<LineStyle>(style) : LineStyle::none;
+}
+
+ArrowDescription::AnchorPoint javaAnchorPointToCpp(int anchorPoint)
+{
+    return static_cast<ArrowDescription::AnchorPoint>(c_anchorPoints.toCpp(anchorPoint));
+}
+
+ArrowDescription::ScalingType javaScalingTypeToCpp(int type)
+{
+    return static_cast<ArrowDescription::ScalingType>(c_scalingTypes.toCpp(type));
 }
 
 int cppAntialiasingTypeToJava(int type)

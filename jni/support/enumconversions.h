@@ -9,6 +9,7 @@
 #include "graphics3d/plots/graph/linestyle.h"
 #include "graphics3d/plots/graph/rendersymbol.h"
 #include "graphics3d/plots/scenegraphplot.h"
+#include "graphics3d/plots/vector/arrowdescription.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 #include "graphics3d/scenegraph/scenegraphobject.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
@@ -49,6 +50,11 @@ int cppPlotTypeToJava(SceneGraphPlot::PlotType type);
 RenderSymbol javaRenderSymbolToCpp(int symbol);
 /// The styles -1 to 3 are the same on both sides; anything else is no line, -1.
 LineStyle javaLineStyleToCpp(int style);
+
+/// Java 1 to 3 are the points 0 to 2; anything else 0.
+ArrowDescription::AnchorPoint javaAnchorPointToCpp(int anchorPoint);
+/// Java 1 to 5 are the types 0 to 4; anything else 0.
+ArrowDescription::ScalingType javaScalingTypeToCpp(int type);
 
 /// 0 to 2 are the same on both sides; anything else 0.
 int cppAntialiasingTypeToJava(int type);

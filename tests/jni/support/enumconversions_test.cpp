@@ -47,6 +47,8 @@ TEST(EnumConversions, javaNumbersToNative)
     EXPECT_EQ(row(javaTextFormatToCpp, 6), (Row{0, 0, 0, 1, 0, 0}));
     EXPECT_EQ(row(javaRenderSymbolToCpp, 11), (Row{-1, 0, 1, 2, 3, 4, 5, 6, 7, -1, -1}));
     EXPECT_EQ(row(javaLineStyleToCpp, 7), (Row{-1, 0, 1, 2, 3, -1, -1}));
+    EXPECT_EQ(row(javaAnchorPointToCpp, 6), (Row{0, 0, 0, 1, 2, 0}));
+    EXPECT_EQ(row(javaScalingTypeToCpp, 8), (Row{0, 0, 0, 1, 2, 3, 4, 0}));
     EXPECT_EQ(row(javaMouseKeyMaskToCpp, 11), (Row{7, 0, 1, 2, 3, 4, 5, 6, 7, 0, 1}));
     EXPECT_EQ(row(javaCameraMouseActionToCpp, 13), (Row{10, 10, 1, 4, 5, 2, 6, 3, 7, 8, 9, 10, 10}));
     EXPECT_EQ(row(javaRenderQualityToCpp, 6), (Row{0, 0, 1, 2, 0, 0}));

@@ -20,7 +20,7 @@ public abstract class SceneGraphPlot extends NativePeer {
     public enum Kind implements NativeEnum {
         /** A {@link SceneGraphPlotSurface3d}. */
         SURFACE_3D(2),
-        /** Arrows in three dimensions. */
+        /** A {@link SceneGraphPlotArrow3d}. */
         ARROW_3D(3),
         /** Edges in three dimensions. */
         EDGE_3D(4),
@@ -28,7 +28,7 @@ public abstract class SceneGraphPlot extends NativePeer {
         ISO_SURFACE_3D(5),
         /** Slices. */
         SLICE_3D(6),
-        /** Tubes in three dimensions. */
+        /** A {@link SceneGraphPlotTube3d}. */
         TUBE_3D(7),
         /** A {@link SceneGraphPlotSurface2d}. */
         SURFACE_2D(8),

@@ -30,6 +30,9 @@
  *       {@link SceneGraphPlotSlice3d} and {@link SceneGraphPlotMesh3d}. Levels of a field are a
  *       {@link SceneGraphPlotIso}: {@link SceneGraphPlotIsoSurface3d} or {@link SceneGraphPlotContour}.
  *       A {@link SceneGraphPlotGraph} shows lines with a {@link RenderSymbol} and a {@link LineStyle} each.
+ *       Vectors are arrows in {@link SceneGraphPlotArrow2d} and {@link SceneGraphPlotArrow3d}, principal values and
+ *       axes are in {@link SceneGraphPlotPrincipal}; lines are {@link SceneGraphPlotTube2d},
+ *       {@link SceneGraphPlotTube3d} and {@link SceneGraphPlotRibbon3d}.
  *       {@link PostDataReader} reads records from files.
  *   <li>The {@link SceneLight} of a scene makes and removes its light sources, which are
  *       {@linkplain DirectionLightSource directional lights}, {@linkplain PointLightSource point lights} and

@@ -65,6 +65,13 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphPlotContour.class, made -> new SceneGraphPlotContour(5));
         recipe(SceneGraphPlotSlice3d.class, made -> new SceneGraphPlotSlice3d(6));
         recipe(SceneGraphPlotMesh3d.class, made -> new SceneGraphPlotMesh3d(7, 3));
+        recipe(SceneGraphPlotArrow2d.class, made -> new SceneGraphPlotArrow2d(4));
+        recipe(SceneGraphPlotArrow3d.class, made -> new SceneGraphPlotArrow3d(5));
+        recipe(SceneGraphPlotTube2d.class, made -> new SceneGraphPlotTube2d(6));
+        recipe(SceneGraphPlotTube3d.class, made -> new SceneGraphPlotTube3d(7));
+        recipe(SceneGraphPlotRibbon3d.class, made -> new SceneGraphPlotRibbon3d(8));
+        recipe(SceneGraphPlotPrincipal.class, made -> new SceneGraphPlotPrincipal(
+                3, SceneGraphPlotPrincipal.Content.PRINCIPAL_VALUES, 9));
         recipe(PostDataObject.class, made -> new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0)
                 .role(DataRole.HEIGHT, 0).role(DataRole.ISO_LEVEL, 0).addGroup(new PostDataGroup()
                         .coordinates(new double[] {0, 1, 0}, new double[] {0, 0, 1}, new double[3])

@@ -14,7 +14,7 @@ public enum DataRole implements NativeEnum {
     COLOR(0),
     /** Heights that raise a plot in the plane, and the y values of a graph. */
     HEIGHT(4),
-    /** Radii of spheres and tubes, widths of ribbons. */
+    /** Radii of spheres and tubes, distances from the line of a ribbon to its sides. */
     RADIUS(5),
     /** First component of a vector field. */
     VECTOR_X(7),
@@ -22,13 +22,13 @@ public enum DataRole implements NativeEnum {
     VECTOR_Y(8),
     /** Third component of a vector field; arrows without it are drawn in the plane. */
     VECTOR_Z(9),
-    /** First component of the first direction, along which a ribbon runs. */
+    /** First component of the first direction, in which a ribbon extends. */
     FIRST_DIRECTION_X(10),
     /** Second component of the first direction. */
     FIRST_DIRECTION_Y(11),
     /** Third component of the first direction. */
     FIRST_DIRECTION_Z(12),
-    /** First component of the second direction. */
+    /** First component of the second direction, the normal of a ribbon. */
     SECOND_DIRECTION_X(13),
     /** Second component of the second direction. */
     SECOND_DIRECTION_Y(14),

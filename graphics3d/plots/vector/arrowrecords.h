@@ -1,0 +1,102 @@
+#pragma once
+
+#include "graphics3d/plots/vector/arrowinput.h"
+#include "graphics3d/plots/vector/scenegraphplotarrow.h"
+
+#include <cstddef>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+namespace vxgraphics3d {
+
+/// An arrow plot with an array of records.
+template <class Record>
+class VX_API ArrowRecords : public SceneGraphPlotArrow {
+public:
+    using Arrow = Record;
+
+    /// Frees the records, if there are any, which counts as a change of geometry and of shape.
+    void resetPlotData() override
+    {
+        if (getCapacity() > 0) {
+            m_arrows.reset();
+            noteReset();
+        }
+    }
+
+    /// The first of `getNumArrows()` records; null before the first allocation.
+    const Arrow* getArrows() const { return m_arrows.get(); }
+
+protected:
+    using SceneGraphPlotArrow::SceneGraphPlotArrow;
+
+    /// Replaces the array by one that is not yet written; if memory runs out, there is none.
+    /// @return its first record
+    Arrow* replaceArrows(int count)
+    {
+        m_arrows.reset();
+        noteAllocated(0);
+        m_arrows.reset(new Arrow[static_cast<std::size_t>(count)]);
+        noteAllocated(count);
+        return m_arrows.get();
+    }
+    Arrow* arrows() { return m_arrows.get(); }
+
+    void allocateArrows(int count)
+    {
+        if (count < 0) {
+            throw std::invalid_argument(std::string(plotClassName(getType())) + " cannot have " +
+                                        std::to_string(count) + " arrows.");
+        }
+        resetPlotData();
+        replaceArrows(count);
+    }
+
+    /// Fills the plot with an arrow per point, scales all lengths so that the longest arrow has the target length, and
+    /// boxes them.
+    /// @param arrowAt makes the record of a point with a coordinate in the colour table
+    template <class ArrowAt>
+    void fillArrows(const ArrowInput& input, ArrowAt arrowAt)
+    {
+        const int count = input.field.points.count;
+        allocateArrows(count);
+        const double factor = appendAll(input, arrowAt);
+        if (factor > 0.0) {
+            const auto commonScale = static_cast<double>(getDescription().m_commonArrowScale);
+            if (const auto box = input.boxedField.box(factor * commonScale)) {
+                setBoundingBox(*box);
+            }
+        }
+        setScalingType(ScalingType::proportional);
+        markArrowsChanged();
+    }
+
+private:
+    /// @return the factor of all lengths; 0 if all are 0
+    template <class ArrowAt>
+    double appendAll(const ArrowInput& input, ArrowAt arrowAt)
+    {
+        const auto count = static_cast<std::size_t>(input.field.points.count);
+        Arrow* const out = m_arrows.get();
+        float maxLength = 0.0f;
+        for (std::size_t i = 0; i < count; ++i) {
+            out[i] = arrowAt(i, input.colors.values != nullptr ? input.colors.scale(input.colors.values[i]) : 0.0f);
+            maxLength = out[i].length > maxLength ? out[i].length : maxLength;
+        }
+        noteAllAppended(maxLength);
+        if (!(maxLength > 0.0f)) {
+            return 0.0;
+        }
+        const double factor = input.targetLength / static_cast<double>(maxLength);
+        setMaxLength(static_cast<float>(static_cast<double>(maxLength) * factor));
+        for (std::size_t i = 0; i < count; ++i) {
+            out[i].length = static_cast<float>(static_cast<double>(out[i].length) * factor);
+        }
+        return factor;
+    }
+
+    std::unique_ptr<Arrow[]> m_arrows;
+};
+
+} // namespace vxgraphics3d

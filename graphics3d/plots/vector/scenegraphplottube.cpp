@@ -1,0 +1,403 @@
+#include "graphics3d/plots/vector/scenegraphplottube.h"
+
+#include "datacarrier/postdataview.h"
+#include "graphics3d/foundation/matrixf.h"
+#include "graphics3d/plots/plotinput.h"
+
+#include <boost/make_shared.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+using vxdatacarrier::c_colorData;
+using vxdatacarrier::PostDataObject;
+using vxdatacarrier::PostDataRole;
+using vxdatacarrier::PostDataView;
+
+namespace vxgraphics3d {
+
+namespace {
+
+constexpr PostDataRole c_radiusData{PostDataObject::RadiusData, "DataRole.RADIUS"};
+constexpr float c_pi = 3.1415927f;
+/// The steps of a semicircle in the plane.
+constexpr int c_fanSteps = 16;
+constexpr float c_fanAngle = 0.19634955f;
+
+Vector3f positionOf(const SceneGraphPlotTube::Point& point)
+{
+    return {point.x, point.y, point.z};
+}
+
+Vector3f positionInPlane(const SceneGraphPlotTube::Point& point)
+{
+    return {point.x, point.y, 0.0f};
+}
+
+int resolutionFor(std::size_t numSegments)
+{
+    if (numSegments < SceneGraphPlotTube::c_minThreshold) {
+        return SceneGraphPlotTube::c_maxResolution;
+    }
+    if (numSegments > SceneGraphPlotTube::c_maxThreshold) {
+        return SceneGraphPlotTube::c_minResolution;
+    }
+    return SceneGraphPlotTube::c_maxResolution - static_cast<int>((16 * numSegments - 160000) / 90000);
+}
+
+/// The directions along and across a tube, carried from ring to ring with as little twist as possible.
+struct RingFrame {
+    explicit RingFrame(const Vector3f& along)
+        : direction(along.normalized()), u(direction.orthogonal()), v(u.cross(direction).normalized())
+    {}
+
+    void turnTo(const Vector3f& along)
+    {
+        const Vector3f previous = direction;
+        direction = along.normalized();
+        const float p = u.dot(direction);
+        u -= p * direction;
+        if (u.length() == 0.0f) {
+            u = p < 0.0f ? -previous : previous;
+        } else {
+            u.normalize();
+        }
+        v = u.cross(direction).normalized();
+    }
+
+    Vector3f direction;
+    Vector3f u;
+    Vector3f v;
+};
+
+/// Appends the flat band of one chain: a strip of quadrilaterals, each between a left and a right vertex.
+class Band {
+public:
+    explicit Band(SceneGraphPlotTube::Tube& tube) : m_vertices(tube.m_tubeVertices), m_triangles(tube.m_tubeTriangles)
+    {}
+
+    /// Starts with a single vertex.
+    void start(const Vector3f& point, float texCoord) { m_left = m_right = append(point, texCoord); }
+    /// Starts with a semicircle about the point, from the left around the back to the right.
+    /// @param across from the point to the left side
+    void startRound(const Vector3f& point, Vector3f across, float texCoord)
+    {
+        m_left = m_vertices.getNumberOfVertices() + 1;
+        m_right = appendFan(point, across, c_fanAngle, texCoord);
+    }
+    /// Continues to two vertices beside a point.
+    void extend(const Vector3f& point, const Vector3f& across, float texCoord)
+    {
+        const int left = append(point + across, texCoord);
+        const int right = append(point - across, texCoord);
+        connect(left, right);
+        m_left = left;
+        m_right = right;
+    }
+    /// Ends with a single vertex.
+    void end(const Vector3f& point, float texCoord)
+    {
+        m_triangles.appendTriangle(m_left, m_right, append(point, texCoord));
+    }
+    /// Ends with a semicircle about the point, from the left around the front to the right.
+    void endRound(const Vector3f& point, Vector3f across, float texCoord)
+    {
+        const int left = m_vertices.getNumberOfVertices() + 1;
+        connect(left, appendFan(point, across, -c_fanAngle, texCoord));
+    }
+
+private:
+    int append(const Vector3f& point, float texCoord)
+    {
+        return m_vertices.appendVertex(point, Vector3f(0.0f, 0.0f, 1.0f), texCoord);
+    }
+    void connect(int left, int right)
+    {
+        m_triangles.appendTriangle(m_left, m_right, right);
+        m_triangles.appendTriangle(m_left, right, left);
+    }
+    /// @return the last vertex on the rim; the first follows the centre
+    int appendFan(const Vector3f& point, Vector3f across, float angle, float texCoord)
+    {
+        const Matrixf rotation = Matrixf(Matrixf::MatrixIdentity).rotateZ(angle);
+        const int centre = append(point, texCoord);
+        int rim = append(point + across, texCoord);
+        for (int step = 0; step < c_fanSteps; ++step) {
+            const int next = append(point + across.transform(rotation), texCoord);
+            m_triangles.appendTriangle(centre, rim, next);
+            rim = next;
+        }
+        return rim;
+    }
+
+    VertexBufferNormalTex& m_vertices;
+    IndexBufferTriangles& m_triangles;
+    int m_left = 0;
+    int m_right = 0;
+};
+
+} // namespace
+
+struct SceneGraphPlotTube::Input {
+    explicit Input(const PostDataView& record)
+        : box(boxOf(record.bounds(1), 3)),
+          positions(record, 0, record.plotKind() == PostDataObject::Lines3d ? 3 : 2),
+          colors(record, 0, c_colorData, ValueScale::ofGroup(record, 0, c_colorData)),
+          radii(record.data(0, c_radiusData).data()),
+          lines(LineEnds::ofElements(record, 0))
+    {
+        if (record.hasRole(vxdatacarrier::c_heightData)) {
+            heights.emplace(record);
+            box = heights->box;
+        }
+    }
+
+    BoundingBox box;
+    PointPositions positions;
+    PointColors colors;
+    const double* radii;
+    LineEnds lines;
+    std::optional<HeightMap> heights;
+};
+
+SceneGraphPlotTube::Point::Point(double ax, double ay, double az, double aTexCoord, double aRadius)
+    : x(static_cast<float>(ax)),
+      y(static_cast<float>(ay)),
+      z(static_cast<float>(az)),
+      texCoord(static_cast<float>(aTexCoord)),
+      radius(static_cast<float>(aRadius))
+{}
+
+SceneGraphPlotTube::SceneGraphPlotTube(PlotType type, int id) : SceneGraphSingleTexturePlot(type, id) {}
+
+SceneGraphPlotTube::~SceneGraphPlotTube() = default;
+
+void SceneGraphPlotTube::resetPlotData() {}
+
+bool SceneGraphPlotTube::isValid() const
+{
+    return !m_points.empty() && !m_segments.empty();
+}
+
+SceneGraphPlot::Fill SceneGraphPlotTube::prepareFill(const PostDataView& record)
+{
+    return [this, input = Input(record)] { fillPlotImpl(input); };
+}
+
+void SceneGraphPlotTube::fillPlotImpl(const Input& input)
+{
+    const auto count = static_cast<std::size_t>(input.positions.count);
+    const PointPositions& at = input.positions;
+    m_tubes.clear();
+    m_points.clear();
+    m_segments.clear();
+    try {
+        m_points.reserve(count);
+        for (std::size_t i = 0; i < count; ++i) {
+            const double z = input.heights ? (*input.heights)(i) : at.z != nullptr ? at.z[i] : 0.0;
+            const double radius = input.radii[i] < 0.0 ? 0.0 : input.radii[i];
+            m_points.emplace_back(at.x[i], at.y[i], z, input.colors.scale(input.colors.values[i]), radius);
+        }
+        assignSegments(m_segments, input.lines);
+        if (input.heights) {
+            setHasHeightData(true);
+        }
+        computeTubes();
+    } catch (...) {
+        m_points.clear();
+        m_segments.clear();
+        throw;
+    }
+    setBoundingBox(input.box);
+}
+
+void SceneGraphPlotTube::setRadiusScaleFactor(float factor)
+{
+    if (factor == m_radiusScaleFactor) {
+        return;
+    }
+    const float previous = std::exchange(m_radiusScaleFactor, factor);
+    try {
+        computeTubes();
+    } catch (...) {
+        m_radiusScaleFactor = previous;
+        markGeometryChanged();
+        throw;
+    }
+    markGeometryChanged();
+}
+
+void SceneGraphPlotTube::computeTubes()
+{
+    m_tubes.clear();
+    try {
+        if (!hasHeightData() && getType() != PlotType::tube3d) {
+            computeTubes2D();
+        } else {
+            computeTubes3D();
+        }
+    } catch (...) {
+        m_tubes.clear();
+        throw;
+    }
+}
+
+void SceneGraphPlotTube::addRing(VertexBufferNormalTex& vertices, const Vector3f& centre, float radius, float texCoord,
+                                 const Vector3f& u, const Vector3f& v) const
+{
+    const std::size_t count = m_cosTable.size();
+    VertexNormalTex* out = vertices.appendUnwritten(static_cast<int>(count));
+    const float* cosines = m_cosTable.data();
+    const float* sines = m_sinTable.data();
+    // Copies of the arguments tell the compiler that the vertices written do not change them.
+    for (std::size_t i = 0; i < count; ++i) {
+        out[i] = [=, c = centre, uc = u, vc = v] {
+            const Vector3f n = uc * cosines[i] + vc * sines[i];
+            const Vector3f p = c + n * radius;
+            return VertexNormalTex{p.x, p.y, p.z, n.x, n.y, n.z, texCoord, 0.0f};
+        }();
+    }
+}
+
+void SceneGraphPlotTube::addCylinder(const VertexBufferNormalTex& vertices, IndexBufferTriangles& triangles) const
+{
+    triangles.appendBand(vertices.getNumberOfVertices() - 2 * m_resolution - 2, m_resolution + 1);
+}
+
+void SceneGraphPlotTube::computeTubes3D()
+{
+    m_resolution = resolutionFor(m_segments.size());
+    makeRingTables();
+    std::vector<char> isCapped(m_points.size());
+    const auto takesCap = [&](int point) {
+        char& capped = isCapped[static_cast<std::size_t>(point)];
+        return pointAt(point).radius != 0.0f && !std::exchange(capped, char{1});
+    };
+    forEachChain(m_segments, [&](std::span<const LineSegment> chain) {
+        const bool isClosed = chain.front().first == chain.back().second;
+        const bool startCap = !isClosed && takesCap(chain.front().first);
+        const bool endCap = !isClosed && takesCap(chain.back().second);
+        addTube3D(chain, startCap, endCap);
+    });
+}
+
+void SceneGraphPlotTube::makeRingTables()
+{
+    const auto count = static_cast<std::size_t>(m_resolution) + 1;
+    m_cosTable.resize(count);
+    m_sinTable.resize(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const float angle = static_cast<float>(2 * i) * c_pi / static_cast<float>(m_resolution);
+        m_cosTable[i] = std::cos(angle);
+        m_sinTable[i] = std::sin(angle);
+    }
+}
+
+void SceneGraphPlotTube::addTube3D(std::span<const LineSegment> chain, bool startCap, bool endCap)
+{
+    const auto resolution = static_cast<std::size_t>(m_resolution);
+    const int half = m_resolution / 2;
+    const std::size_t numCaps = (startCap ? 1u : 0u) + (endCap ? 1u : 0u);
+    const std::size_t numRings = chain.size() + numCaps * static_cast<std::size_t>(half) + 2;
+    Tube& tube = addTube(numRings * (resolution + 1), 2 * (numRings - 1) * resolution);
+
+    const Point& first = pointAt(chain.front().first);
+    const Point& last = pointAt(chain.back().second);
+    Vector3f centre = positionOf(first);
+    RingFrame frame(positionOf(pointAt(chain.front().second)) - centre);
+    const auto scaledRadius = [this](float radius) {
+        const float scaled = radius * m_radiusScaleFactor;
+        return scaled < 0.0f ? 0.0f : scaled;
+    };
+    const auto addJoinedRing = [&](const Vector3f& at, float radius, float texCoord) {
+        const bool isFirst = tube.m_tubeVertices.getNumberOfVertices() == 0;
+        addRing(tube.m_tubeVertices, at, radius, texCoord, frame.u, frame.v);
+        if (!isFirst) {
+            addCylinder(tube.m_tubeVertices, tube.m_tubeTriangles);
+        }
+    };
+    /// @param s from -1 at the pole of the start to 1 at that of the end
+    const auto addCapRing = [&](const Point& end, float s) {
+        const float radius = scaledRadius(end.radius);
+        addJoinedRing(centre + frame.direction * s * radius, std::sqrt(1.0f - s * s) * radius, end.texCoord);
+    };
+
+    for (int k = 0; startCap && k < half; ++k) {
+        addCapRing(first, static_cast<float>(k) / static_cast<float>(half) - 1.0f);
+    }
+    addJoinedRing(centre, scaledRadius(first.radius), first.texCoord);
+    for (const LineSegment& segment : chain) {
+        const Point& a = pointAt(segment.first);
+        const Point& b = pointAt(segment.second);
+        const Vector3f middle = (positionOf(a) + positionOf(b)) / 2.0f;
+        frame.turnTo(middle - centre);
+        centre = middle;
+        addJoinedRing(centre, scaledRadius((a.radius + b.radius) / 2.0f), (a.texCoord + b.texCoord) / 2.0f);
+    }
+    frame.turnTo(positionOf(last) - centre);
+    centre = positionOf(last);
+    addJoinedRing(centre, scaledRadius(last.radius), last.texCoord);
+    for (int k = 1; endCap && k <= half; ++k) {
+        addCapRing(last, static_cast<float>(k) / static_cast<float>(half));
+    }
+}
+
+void SceneGraphPlotTube::computeTubes2D()
+{
+    forEachChain(m_segments, [this](std::span<const LineSegment> chain) { addTube2D(chain); });
+}
+
+void SceneGraphPlotTube::addTube2D(std::span<const LineSegment> chain)
+{
+    const Point& first = pointAt(chain.front().first);
+    const Point& last = pointAt(chain.back().second);
+    const std::size_t numRound = (first.radius > 0.0f ? 1u : 0u) + (last.radius > 0.0f ? 1u : 0u);
+    Tube& tube = addTube((c_fanSteps + 1) * numRound + 2 * chain.size(), c_fanSteps * numRound + 2 * chain.size());
+    Band band(tube);
+    const auto directionOf = [this](const LineSegment& segment) {
+        return (positionInPlane(pointAt(segment.second)) - positionInPlane(pointAt(segment.first))).normalized();
+    };
+    const auto across = [this](const Vector3f& direction, const Point& point) {
+        return Vector3f(-direction.y, direction.x, 0.0f) * point.radius * m_radiusScaleFactor;
+    };
+
+    Vector3f direction = directionOf(chain.front());
+    if (first.radius > 0.0f) {
+        band.startRound(positionInPlane(first), across(direction, first), first.texCoord);
+    } else {
+        band.start(positionInPlane(first), first.texCoord);
+    }
+    for (const LineSegment& segment : chain.subspan(1)) {
+        const Point& joint = pointAt(segment.first);
+        const Vector3f next = directionOf(segment);
+        band.extend(positionInPlane(joint), across((direction + next).normalized(), joint), joint.texCoord);
+        direction = next;
+    }
+    if (last.radius > 0.0f) {
+        band.endRound(positionInPlane(last), across(direction, last), last.texCoord);
+    } else {
+        band.end(positionInPlane(last), last.texCoord);
+    }
+}
+
+SceneGraphPlotTube::Tube& SceneGraphPlotTube::addTube(std::size_t numVertices, std::size_t numTriangles)
+{
+    constexpr std::size_t c_limit = std::numeric_limits<int>::max() / 3;
+    if (std::max(numVertices, numTriangles) > c_limit) {
+        throw std::invalid_argument(std::string(plotClassName(getType())) + ": a tube of " +
+                                    std::to_string(numTriangles) + " triangles is too large.");
+    }
+    const auto tube = boost::make_shared<Tube>();
+    tube->m_tubeVertices.allocate(static_cast<int>(numVertices));
+    tube->m_tubeTriangles.internalAllocate(static_cast<int>(numTriangles), 1);
+    tube->m_tubeTriangles.newSegment();
+    m_tubes.push_back(tube);
+    return *tube;
+}
+
+} // namespace vxgraphics3d

@@ -1,0 +1,22 @@
+#include "graphics3d/plots/scenegraphplotgroup.h"
+#include "graphics3d/plots/vector/scenegraphplottube2d.h"
+#include "jni/support/native.h"
+
+#include <boost/make_shared.hpp>
+
+#include "com_vexane_graphics3d_SceneGraphPlotTube2d.h"
+
+using namespace vxgraphics3d;
+
+VX_NATIVE(void, SceneGraphPlotTube2d, createNative)(JNIEnv* env, jclass, jobject self, jint id)
+{
+    native(env, "createNative", [&] { attach(env, self, boost::make_shared<SceneGraphPlotTube2d>(id)); });
+}
+
+VX_NATIVE(void, SceneGraphPlotTube2d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint plotId)
+{
+    native(env, "connectNative", [&] {
+        attach(env, self,
+               castTo<SceneGraphPlotTube2d>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId), "plotId"));
+    });
+}
