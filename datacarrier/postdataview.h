@@ -49,6 +49,8 @@ public:
 
     /// At least `minCorners` corner arrays, all of the same length.
     const IntArrays& elements(int group, int minCorners) const;
+    /// From `minCorners` to `maxCorners` corner arrays, all of the same length.
+    const IntArrays& elements(int group, int minCorners, int maxCorners) const;
     /// At least two arrays, all of the same length.
     const IntArrays& lineElements(int group) const;
 

@@ -6,6 +6,7 @@
 #include "graphics3d/plots/valuescale.h"
 
 #include <cstddef>
+#include <vector>
 
 namespace vxgraphics3d {
 
@@ -19,6 +20,12 @@ struct PointPositions {
     PointPositions(const vxdatacarrier::PostDataView& record, int group, int numAxes);
     /// Fetches as many axes as the record has; missing ones are 0.
     static PointPositions ofAnyAxes(const vxdatacarrier::PostDataView& record, int group);
+
+    /// The position of one point; loops over all points of large plots are in plotfill.h.
+    Vector3f operator[](std::size_t i) const
+    {
+        return {x[i], y != nullptr ? y[i] : 0.0, z != nullptr ? z[i] : 0.0};
+    }
 
     int count;
     const double* x;
@@ -45,6 +52,8 @@ struct PointColors {
     PointColors(const vxdatacarrier::PostDataView& record, int group, const vxdatacarrier::PostDataRole& role,
                 const ValueScale& valueScale);
     explicit PointColors(float u) : constant(u) {}
+    /// The colour data of a group on the scale of its limits, or `u` for all points of a record without colour data.
+    static PointColors ofGroup(const vxdatacarrier::PostDataView& record, int group, float u);
 
     const double* values = nullptr; ///< null if all points have the constant coordinate
     ValueScale scale{0.0, 0.0};
@@ -71,6 +80,17 @@ struct LineEnds {
     int count;
     const int* from;
     const int* to;
+};
+
+/// The corners of elements of any kind, by corner, for their edges.
+struct ElementCorners {
+    /// Fetches elements of one to four corners.
+    ElementCorners(const vxdatacarrier::PostDataView& record, int group);
+
+    int count;
+    std::vector<const int*> corners;
+    /// Space for the edges: one per pair of corners of a triangle or tetrahedron, one per other element.
+    int numEdges;
 };
 
 /// The factor that scales the heights of the first group, extended to include 0, to the mean extent of the record's

@@ -26,7 +26,10 @@
  *   <li>Every node is a {@link SceneGraphNode}. A {@link SceneGraphGroup} has any number of children, a
  *       {@link SceneGraphObject} shows geometry, and a {@link SceneGraphPlotGroup} has plots.
  *   <li>A {@link SceneGraphPlot} shows the values of one record with a colour table, a legend and a title:
- *       {@link SceneGraphPlotSurface2d}, {@link SceneGraphPlotSurface3d} and {@link SceneGraphPlotDomain3d}.
+ *       {@link SceneGraphPlotSurface2d}, {@link SceneGraphPlotSurface3d} and {@link SceneGraphPlotDomain3d}; points as
+ *       {@link SceneGraphPlotSphere2d} and {@link SceneGraphPlotSphere3d}, edges of elements as
+ *       {@link SceneGraphPlotEdge2d} and {@link SceneGraphPlotEdge3d}, texts as {@link SceneGraphPlotPointLabel}, and
+ *       points and lines of a program as {@link SceneGraphPlotInteractive}.
  *       {@link PostDataReader} reads records from files.
  *   <li>The {@link SceneLight} of a scene makes and removes its light sources, which are
  *       {@linkplain DirectionLightSource directional lights}, {@linkplain PointLightSource point lights} and
