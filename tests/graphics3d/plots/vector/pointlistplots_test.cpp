@@ -16,14 +16,16 @@ namespace vxgraphics3d {
 namespace {
 
 using Record = vxdatacarrier::PostDataObject;
-using Points = std::vector<Vector3f>;
+using Position = std::vector<float>;
+using Points = std::vector<Position>;
 using Texts = std::vector<std::string>;
 
 Points pointsOf(const PointCollection& collection)
 {
     Points points;
     for (int i = 0; i < collection.getNumParts(); ++i) {
-        points.push_back(collection.getPart(i).getPosition());
+        const Vector3f& p = collection.getPart(i).getPosition();
+        points.push_back({p.x, p.y, p.z});
     }
     return points;
 }
@@ -88,12 +90,12 @@ TEST(SceneGraphPlotInteractive, linesAreSolidForTheirFractionAndDashedFromTheirE
     plot.setLinePoints(line);
     const Points half = pointsOf(plot.getDashPoints());
     ASSERT_EQ(half.size(), 32u);
-    EXPECT_EQ(half[1], Vector3f(15.0f, 0.0f, 30.0f));
+    EXPECT_EQ(half[1], (Position{15, 0, 30}));
     for (int k = 0; k < 15; ++k) {
         const auto first = static_cast<std::size_t>(2 + 2 * k);
-        EXPECT_NEAR(half[first].x, 30.0f - 0.3f - static_cast<float>(k), 1e-5f);
-        EXPECT_NEAR(half[first + 1].x, 30.0f - 0.7f - static_cast<float>(k), 1e-5f);
-        EXPECT_NEAR(half[first + 1].z, 2.0f * half[first + 1].x, 1e-5f);
+        EXPECT_NEAR(half[first][0], 30.0f - 0.3f - static_cast<float>(k), 1e-5f);
+        EXPECT_NEAR(half[first + 1][0], 30.0f - 0.7f - static_cast<float>(k), 1e-5f);
+        EXPECT_NEAR(half[first + 1][2], 2.0f * half[first + 1][0], 1e-5f);
     }
     plot.setSolidFraction(0.7f); // in float (1 - f) * 30 is just below 9, in double it is above
     plot.setLinePoints(line);
@@ -101,8 +103,8 @@ TEST(SceneGraphPlotInteractive, linesAreSolidForTheirFractionAndDashedFromTheirE
     plot.setSolidFraction(0.0f);
     plot.setLinePoints({{0, 1, 2, 3}, {0, 0, 0, 0}, {0, 0, 0, 0}});
     EXPECT_EQ(plot.getDashPoints().getNumParts(), 124);
-    EXPECT_EQ(pointsOf(plot.getDashPoints())[1], Vector3f(0.0f, 0.0f, 0.0f));
-    EXPECT_EQ(pointsOf(plot.getDashPoints())[62], Vector3f(2.0f, 0.0f, 0.0f));
+    EXPECT_EQ(pointsOf(plot.getDashPoints())[1], (Position{0, 0, 0}));
+    EXPECT_EQ(pointsOf(plot.getDashPoints())[62], (Position{2, 0, 0}));
     EXPECT_EQ(plot.getGeometryChangeId(), 5);
 }
 

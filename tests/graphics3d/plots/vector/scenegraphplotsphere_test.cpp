@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <map>
@@ -52,9 +53,10 @@ TEST(UnitSphere, resolutionTwoIsAnOctahedronOfRings)
 {
     const UnitSphere sphere(2);
     ASSERT_EQ(sphere.getVertices().getNumberOfVertices(), 6);
-    const Vector3f expected[] = {{0, 0, 1}, {1, 0, 0}, {0, 1, 0}, {-1, 0, 0}, {0, -1, 0}, {0, 0, -1}};
+    const float expected[6][3] = {{0, 0, 1}, {1, 0, 0}, {0, 1, 0}, {-1, 0, 0}, {0, -1, 0}, {0, 0, -1}};
     for (int i = 0; i < 6; ++i) {
-        EXPECT_LT((sphere.getVertices().getCoord(i) - expected[i]).length(), 1e-6f) << i;
+        const Vector3f point(expected[i][0], expected[i][1], expected[i][2]);
+        EXPECT_LT((sphere.getVertices().getCoord(i) - point).length(), 1e-6f) << i;
     }
     std::vector<std::vector<int>> triangles;
     for (int i = 0; i < sphere.getTriangles().getNumElements(0); ++i) {
