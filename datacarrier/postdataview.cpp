@@ -63,6 +63,16 @@ const PostDataView::IntArrays& PostDataView::elements(int group, int minCorners)
     return equalArrays(entry(m_record.m_elements, group, "elements"), group, minCorners, "elements");
 }
 
+const PostDataView::IntArrays& PostDataView::elements(int group, int minCorners, int maxCorners) const
+{
+    const IntArrays& arrays = elements(group, minCorners);
+    if (arrays.size() > static_cast<std::size_t>(maxCorners)) {
+        fail("elements" + groupText(group) + " have " + std::to_string(arrays.size()) + " arrays, more than " +
+             std::to_string(maxCorners));
+    }
+    return arrays;
+}
+
 const PostDataView::IntArrays& PostDataView::lineElements(int group) const
 {
     return equalArrays(entry(m_record.m_lineElements, group, "line elements"), group, 2, "line elements");

@@ -51,6 +51,8 @@ public:
     bool hasElements(int group) const;
     /// At least `minCorners` corner arrays, all of the same length.
     const IntArrays& elements(int group, int minCorners) const;
+    /// From `minCorners` to `maxCorners` corner arrays, all of the same length.
+    const IntArrays& elements(int group, int minCorners, int maxCorners) const;
     /// At least two arrays, all of the same length.
     const IntArrays& lineElements(int group) const;
 

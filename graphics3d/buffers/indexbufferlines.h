@@ -2,6 +2,9 @@
 
 #include "graphics3d/buffers/indexbuffer.h"
 
+#include <cstddef>
+#include <span>
+
 namespace vxgraphics3d {
 
 /// Single line pieces, two indices each.
@@ -20,8 +23,17 @@ public:
     /// appends none, if there is not enough space.
     void appendLines(const int* from, const int* to, int count, int offset = 0);
 
+    /// Appends, for each of `count` elements, a line from each corner to each later one.
+    /// @param corners one array per corner, with an index per element; none to four arrays
+    /// @throws std::out_of_range, and appends none, if there is not enough space
+    void appendEdges(std::span<const int* const> corners, int count);
+
     /// The ends of a line, counted from the start of the array across segments; the index is not checked.
     void getLine(int line, int& from, int& to) const;
+
+private:
+    template <std::size_t c_numCorners>
+    void appendEdgesOf(std::span<const int* const> corners, int count);
 };
 
 } // namespace vxgraphics3d

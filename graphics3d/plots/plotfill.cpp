@@ -70,9 +70,8 @@ void appendPoints(VertexBufferNormalTex& vertices, const PointPositions& positio
     });
 }
 
-void allocateVertices(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors)
+void appendPoints(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors)
 {
-    vertices.allocate(positions.count);
     VertexTex* out = vertices.appendUnwritten(positions.count);
     const auto count = static_cast<std::size_t>(positions.count);
     withPositions(positions, [&](auto position) {
@@ -83,6 +82,24 @@ void allocateVertices(VertexBufferTex& vertices, const PointPositions& positions
             }
         });
     });
+}
+
+void appendRaisedPoints(VertexBufferTex& vertices, const PointPositions& positions, const HeightMap& heights,
+                        const PointColors& colors)
+{
+    VertexTex* out = vertices.appendUnwritten(positions.count);
+    const auto count = static_cast<std::size_t>(positions.count);
+    withColors(colors, [=, x = positions.x, y = positions.y, z = heights](auto u) {
+        for (std::size_t i = 0; i < count; ++i) {
+            out[i] = {static_cast<float>(x[i]), static_cast<float>(y[i]), static_cast<float>(z(i)), u(i), 0.0f};
+        }
+    });
+}
+
+void allocateVertices(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors)
+{
+    vertices.allocate(positions.count);
+    appendPoints(vertices, positions, colors);
 }
 
 void fillSurface(SurfaceMesh& mesh, const PointPositions& positions, const PointNormals& normals,
@@ -153,6 +170,11 @@ void fillLines(IndexBufferLines& lines, const LineEnds& ends)
 {
     allocateElements(lines, ends.count);
     appendLines(lines, ends);
+}
+
+void appendEdges(IndexBufferLines& lines, const ElementCorners& elements)
+{
+    lines.appendEdges(elements.corners, elements.count);
 }
 
 } // namespace vxgraphics3d

@@ -14,6 +14,10 @@ class VertexBufferTex;
 /// Appends every point to a buffer that has space for them.
 void appendPoints(VertexBufferNormalTex& vertices, const PointPositions& positions, const PointNormals& normals,
                   const PointColors& colors);
+void appendPoints(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors);
+/// The same for points in the plane, raised by heights.
+void appendRaisedPoints(VertexBufferTex& vertices, const PointPositions& positions, const HeightMap& heights,
+                        const PointColors& colors);
 /// Allocates the buffer, then fills it with every point.
 void allocateVertices(VertexBufferTex& vertices, const PointPositions& positions, const PointColors& colors);
 
@@ -32,5 +36,8 @@ void appendTriangles(IndexBufferTriangles& indices, const TriangleCorners& trian
 void appendLines(IndexBufferLines& indices, const LineEnds& ends);
 /// Allocates one segment for all lines and appends them in their order. The vertex buffer must have been allocated.
 void fillLines(IndexBufferLines& lines, const LineEnds& ends);
+/// Appends a line for each pair of corners of each element, by the first corner, then by the second, to a buffer with
+/// an open segment and space for them.
+void appendEdges(IndexBufferLines& lines, const ElementCorners& elements);
 
 } // namespace vxgraphics3d

@@ -1,7 +1,11 @@
 #include "graphics3d/plots/plotinput.h"
 
 #include <algorithm>
+#include <limits>
+#include <stdexcept>
+#include <string>
 
+using vxdatacarrier::c_colorData;
 using vxdatacarrier::c_heightData;
 using vxdatacarrier::PostDataObject;
 using vxdatacarrier::PostDataRole;
@@ -38,6 +42,13 @@ PointColors::PointColors(const PostDataView& record, int group, const PostDataRo
     : values(record.data(group, role).data()), scale(valueScale)
 {}
 
+PointColors PointColors::ofGroup(const PostDataView& record, int group, float u)
+{
+    return record.hasRole(c_colorData)
+               ? PointColors(record, group, c_colorData, ValueScale::ofGroup(record, group, c_colorData))
+               : PointColors(u);
+}
+
 TriangleCorners::TriangleCorners(const PostDataView& record, int group)
 {
     const PostDataObject::IntArrays& corners = record.elements(group, 3);
@@ -57,6 +68,23 @@ LineEnds LineEnds::ofBoundary(const PostDataView& record, int group)
 {
     const PostDataObject::IntArrays& ends = record.lineElements(group);
     return {static_cast<int>(ends[0].size()), ends[0].data(), ends[1].data()};
+}
+
+ElementCorners::ElementCorners(const PostDataView& record, int group)
+{
+    const PostDataObject::IntArrays& arrays = record.elements(group, 1, 4);
+    corners.reserve(arrays.size());
+    for (const std::vector<int>& corner : arrays) {
+        corners.push_back(corner.data());
+    }
+    count = static_cast<int>(arrays[0].size());
+    const std::size_t numCorners = corners.size();
+    const int edgesEach = numCorners == 3 ? 3 : numCorners == 4 ? 6 : 1;
+    if (count > std::numeric_limits<int>::max() / edgesEach) {
+        throw std::invalid_argument("The " + std::to_string(count) + " elements of group " + std::to_string(group) +
+                                    " have more edges than a buffer can count.");
+    }
+    numEdges = edgesEach * count;
 }
 
 void computeHeightScale(const PostDataView& record, double& min, double& max, double& scale)

@@ -6,6 +6,7 @@
 #include "graphics3d/plots/valuescale.h"
 
 #include <cstddef>
+#include <vector>
 
 namespace vxgraphics3d {
 
@@ -50,6 +51,8 @@ struct PointColors {
     PointColors(const vxdatacarrier::PostDataView& record, int group, const vxdatacarrier::PostDataRole& role,
                 const ValueScale& valueScale);
     explicit PointColors(float u) : constant(u) {}
+    /// The colour data of a group on the scale of its limits, or `u` for all points of a record without colour data.
+    static PointColors ofGroup(const vxdatacarrier::PostDataView& record, int group, float u);
 
     float at(std::size_t point) const { return values != nullptr ? scale(values[point]) : constant; }
 
@@ -78,6 +81,17 @@ struct LineEnds {
     int count;
     const int* from;
     const int* to;
+};
+
+/// The corners of elements of any kind, by corner, for their edges.
+struct ElementCorners {
+    /// Fetches elements of one to four corners.
+    ElementCorners(const vxdatacarrier::PostDataView& record, int group);
+
+    int count;
+    std::vector<const int*> corners;
+    /// Space for the edges: one per pair of corners of a triangle or tetrahedron, one per other element.
+    int numEdges;
 };
 
 /// The factor that scales the heights of the first group, extended to include 0, to the mean extent of the record's

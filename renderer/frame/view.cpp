@@ -24,13 +24,17 @@ View View::of(const vxgraphics3d::ICameraTransforms& camera, const PixelArea& ar
     return view;
 }
 
+float View::pixelSize() const
+{
+    return 2.0f / (projection.get(1, 1) * static_cast<float>(area.width));
+}
+
 DepthShift View::aboveFaces(float lineWidth) const
 {
     if (isFlat) {
         return {-0.001f, 0.0f};
     }
-    // The length of a pixel, for each unit of w.
-    const float pixel = 2.0f / (projection.get(1, 1) * static_cast<float>(area.width));
+    const float pixel = pixelSize();
     const float pixels = 3.0f * std::max(lineWidth, 1.0f);
     const float distance = isPerspective ? std::min(pixels * pixel, 0.5f) : pixels * pixel;
     return {projection.get(3, 3) * distance, projection.get(4, 3) * distance};

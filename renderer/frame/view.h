@@ -26,6 +26,9 @@ struct View {
     bool isPerspective = false;
     bool isFlat = false;
 
+    /// The size of a pixel in the eye's coordinates, for each unit of w.
+    float pixelSize() const;
+
     /// How far lines of a width in pixels are drawn before their points, to be seen whole on faces through them.
     ///
     /// A line keeps the depth of its middle across its width, and a steep face comes before that at one side of it. The

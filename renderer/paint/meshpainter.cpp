@@ -4,6 +4,7 @@
 #include "renderer/frame/lighting.h"
 #include "renderer/frame/view.h"
 #include "renderer/upload/mesh.h"
+#include "renderer/upload/spherebuffer.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -95,7 +96,12 @@ struct MeshPainter::ViewBlock {
     /// Steps to which the driver rounds positions, from the middle of the view to its sides.
     std::array<float, 2> grid;
     std::int32_t isPerspective;
-    std::int32_t unused = 0;
+    std::int32_t isFlat;
+    /// The size of a pixel for each unit of w.
+    float pixel;
+    /// The part of a pixel that a sphere has to cover to be drawn there.
+    float leastCoverage;
+    std::array<float, 2> unused{};
 };
 
 struct MeshPainter::LightBlock {
@@ -115,11 +121,17 @@ struct MeshPainter::ModelBlock {
 
     std::array<float, 16> modelView;
     std::array<float, 16> normalMatrix;
+    float radiusScale = 1.0f;
+    std::array<float, 3> unused{};
 };
 
 void MeshPainter::begin(const View& view, const Lighting& light)
 {
-    m_view.set({elementsOf(view.projection), roundingOf(view.area), view.isPerspective ? 1 : 0});
+    GLint numSamples = 0;
+    glGetIntegerv(GL_SAMPLES, &numSamples);
+    m_isMultisampled = numSamples > 1;
+    m_view.set({elementsOf(view.projection), roundingOf(view.area), view.isPerspective ? 1 : 0, view.isFlat ? 1 : 0,
+                view.pixelSize(), m_isMultisampled ? 0.5f / static_cast<float>(numSamples) : 0.5f});
     m_light.set({light.ambient, light.places, light.diffuse, light.specular, light.cones});
     m_lightShader = lightShaderOf(view, light);
 }
@@ -142,10 +154,15 @@ void MeshPainter::setUp(const Mesh& mesh, bool isInstanced, const Matrixf& toEye
 {
     MeshShader shader = m_lightShader;
     shader.isInstanced = isInstanced;
-    shader.isRestricted = material.isRestricted();
     shader.lacksNormals = shader.isLit && !mesh.hasNormals();
+    use(shader, toEye, material, 1.0f);
+}
+
+void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& material, float radiusScale)
+{
+    shader.isRestricted = material.isRestricted();
     program(shader).use();
-    m_model.set({elementsOf(toEye), elementsOf(normalMatrixOf(toEye))});
+    m_model.set({elementsOf(toEye), elementsOf(normalMatrixOf(toEye)), radiusScale});
     m_material.set(material);
     // Corners that run counter-clockwise in the scene run the other way in its mirror image.
     glFrontFace(isMirrored(toEye) ? GL_CW : GL_CCW);
@@ -162,6 +179,28 @@ void MeshPainter::draw(const Mesh& mesh, const InstanceBuffer& instances, const 
 {
     setUp(mesh, true, toEye, material);
     drawFaces(material.isTranslucent(), [&] { mesh.draw(instances); });
+}
+
+void MeshPainter::draw(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye, const Material& material)
+{
+    MeshShader shader = m_lightShader;
+    shader.shape = spheres.areDiscs() ? MeshShader::Shape::discs : MeshShader::Shape::spheres;
+    use(shader, toEye, material, radiusScale);
+    // Each sample of a pixel is covered or not, so that outlines are smooth whatever is drawn first.
+    const bool coversSamples = m_isMultisampled && !material.isTranslucent();
+    if (coversSamples) {
+        glEnable(GL_SAMPLE_ALPHA_TO_COVERAGE);
+        glEnable(GL_SAMPLE_ALPHA_TO_ONE);
+    }
+    if (spheres.areDiscs()) {
+        // Discs are seen on a surface in their plane.
+        glEnable(GL_POLYGON_OFFSET_FILL);
+        glPolygonOffset(-2.0f, -2.0f);
+    }
+    spheres.draw();
+    glDisable(GL_POLYGON_OFFSET_FILL);
+    glDisable(GL_SAMPLE_ALPHA_TO_COVERAGE);
+    glDisable(GL_SAMPLE_ALPHA_TO_ONE);
 }
 
 } // namespace vxrenderer

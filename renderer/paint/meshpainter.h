@@ -15,6 +15,7 @@ namespace vxrenderer {
 
 class InstanceBuffer;
 class Mesh;
+class SphereBuffer;
 struct Lighting;
 struct View;
 
@@ -31,6 +32,10 @@ public:
     /// Draws a mesh once for each instance.
     void draw(const Mesh& mesh, const InstanceBuffer& instances, const vxgraphics3d::Matrixf& toEye,
               const Material& material);
+    /// Draws spheres or discs.
+    /// @param radiusScale multiplies their radii
+    void draw(const SphereBuffer& spheres, float radiusScale, const vxgraphics3d::Matrixf& toEye,
+              const Material& material);
 
 private:
     struct ViewBlock;
@@ -39,11 +44,13 @@ private:
 
     const GlProgram& program(const MeshShader& shader);
     void setUp(const Mesh& mesh, bool isInstanced, const vxgraphics3d::Matrixf& toEye, const Material& material);
+    void use(MeshShader shader, const vxgraphics3d::Matrixf& toEye, const Material& material, float radiusScale);
 
     /// Made when they are used for the first time.
     std::map<MeshShader, GlProgram> m_programs;
     /// What the light of this frame asks for.
     MeshShader m_lightShader;
+    bool m_isMultisampled = false;
     UniformBlock<ViewBlock> m_view;
     UniformBlock<LightBlock> m_light;
     UniformBlock<ModelBlock> m_model;

@@ -1,6 +1,7 @@
 #include "renderer/paint/meshshader.h"
 
 #include "renderer/paint/material.h"
+#include "renderer/paint/sphereshader.h"
 
 namespace vxrenderer {
 namespace {
@@ -13,6 +14,9 @@ layout(std140) uniform View {
     mat4 projection;
     vec2 grid;
     bool isPerspective;
+    bool isFlat;
+    float pixel;
+    float leastCoverage;
 };
 layout(std140) uniform Model {
     mat4 modelView;
@@ -76,13 +80,17 @@ void main()
 }
 )";
 
-constexpr const char* c_fragmentMain = R"(
+// What a surface shows of the light that it receives.
+constexpr const char* c_light = R"(
 const int c_maxLights = 8;
 
 layout(std140) uniform View {
     mat4 projection;
     vec2 grid;
     bool isPerspective;
+    bool isFlat;
+    float pixel;
+    float leastCoverage;
 };
 layout(std140) uniform Light {
     vec4 ambient;
@@ -91,33 +99,17 @@ layout(std140) uniform Light {
     vec4 lightSpecular[c_maxLights];
     vec4 lightCones[c_maxLights];
 };
-centroid in float u;
-centroid in vec3 eyePosition;
-centroid in vec3 eyeNormal;
-in vec3 slopePosition;
 out vec4 result;
 
-// The normal on the side that is seen. Along an outline it may point away from the eye, as it belongs to a surface that
-// bends away within the triangle: the triangle knows its side, the angle between normal and eye does not.
-vec3 seenNormal()
+// With n the normal on the side that is seen, at a point in the eye's coordinates.
+vec3 lit(vec3 color, vec3 n, vec3 point)
 {
-    vec3 n = gl_FrontFacing ? eyeNormal : -eyeNormal;
-    if (c_lacksNormals) {
-        vec3 slope = cross(dFdx(slopePosition), dFdy(slopePosition));
-        n = dot(n, n) > 0.0 ? n : slope;
-    }
-    return normalize(n);
-}
-
-vec3 lit(vec3 color)
-{
-    vec3 toEye = isPerspective ? normalize(-eyePosition) : vec3(0.0, 0.0, 1.0);
-    vec3 n = seenNormal();
+    vec3 toEye = isPerspective ? normalize(-point) : vec3(0.0, 0.0, 1.0);
     vec3 received = ambient.rgb;
     vec3 reflected = vec3(0.0);
     for (int i = 0; i < c_numLights; ++i) {
         vec4 place = lightPlaces[i];
-        vec3 toLight = c_hasPositions ? normalize(place.xyz - place.w * eyePosition) : place.xyz;
+        vec3 toLight = c_hasPositions ? normalize(place.xyz - place.w * point) : place.xyz;
         float falling = dot(n, toLight);
         // No light falls from behind, from nowhere or out of a cone; the comparison also fails for what is no number.
         bool isReached = falling > 0.0;
@@ -132,6 +124,25 @@ vec3 lit(vec3 color)
     }
     return min(color * received + reflected, vec3(1.0));
 }
+)";
+
+constexpr const char* c_fragmentMain = R"(
+centroid in float u;
+centroid in vec3 eyePosition;
+centroid in vec3 eyeNormal;
+in vec3 slopePosition;
+
+// The normal on the side that is seen. Along an outline it may point away from the eye, as it belongs to a surface that
+// bends away within the triangle: the triangle knows its side, the angle between normal and eye does not.
+vec3 seenNormal()
+{
+    vec3 n = gl_FrontFacing ? eyeNormal : -eyeNormal;
+    if (c_lacksNormals) {
+        vec3 slope = cross(dFdx(slopePosition), dFdy(slopePosition));
+        n = dot(n, n) > 0.0 ? n : slope;
+    }
+    return normalize(n);
+}
 
 void main()
 {
@@ -139,7 +150,7 @@ void main()
         discard;
     }
     vec3 color = materialColor(u);
-    result = vec4(c_isLit ? lit(color) : color, uniformColor.a);
+    result = vec4(c_isLit ? lit(color, seenNormal(), eyePosition) : color, uniformColor.a);
 }
 )";
 
@@ -153,6 +164,9 @@ std::string constant(const char* name, bool isOn)
 
 std::string MeshShader::vertexSource() const
 {
+    if (shape != Shape::triangles) {
+        return constant("areDiscs", shape == Shape::discs) + c_sphereVertexSource;
+    }
     return std::string(c_vertexBlocks) + (isInstanced ? c_instancedMain : c_singleMain);
 }
 
@@ -161,7 +175,8 @@ std::string MeshShader::fragmentSource() const
     return constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
            constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
            constant("hasHighlights", hasHighlights) + "const int c_numLights = " + std::to_string(numLights) + ";\n" +
-           Material::c_source + c_fragmentMain;
+           constant("areDiscs", shape == Shape::discs) + Material::c_source + c_light +
+           (shape == Shape::triangles ? c_fragmentMain : c_sphereFragmentMain);
 }
 
 } // namespace vxrenderer

@@ -12,6 +12,11 @@ namespace vxrenderer {
 /// asking there for what a scene does not have takes a third of the time of a frame. A picture is the same with all
 /// shaders that have what its scene needs.
 struct MeshShader {
+    /// Spheres and discs are found for each pixel, so that they are round in every size.
+    enum class Shape { triangles, spheres, discs };
+
+    Shape shape = Shape::triangles;
+    /// Whether triangles are drawn once per instance.
     bool isInstanced = false;
     /// Whether some values are hidden.
     bool isRestricted = false;

@@ -29,6 +29,13 @@ void PaintContext::drawInstances(const Mesh* mesh, const InstanceBuffer* instanc
     }
 }
 
+void PaintContext::drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const
+{
+    if (spheres != nullptr) {
+        meshes.draw(*spheres, radiusScale, look.toEye, faded(look.material, opacity));
+    }
+}
+
 void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width) const
 {
     if (mesh != nullptr) {

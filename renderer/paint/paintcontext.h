@@ -15,6 +15,7 @@ class LineMesh;
 class LinePainter;
 class Mesh;
 class MeshPainter;
+class SphereBuffer;
 class UploadCache;
 struct View;
 
@@ -44,6 +45,8 @@ struct PaintContext {
 
     void drawMesh(const Mesh* mesh, const Look& look) const;
     void drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const;
+    /// @param radiusScale multiplies all radii
+    void drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const;
     /// @param width in pixels of the screen
     void drawLines(const LineMesh* mesh, const Look& look, float width) const;
     /// The label is drawn over everything that it is not hidden by.

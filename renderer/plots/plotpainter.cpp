@@ -1,5 +1,8 @@
 #include "renderer/plots/plotpainter.h"
 
+#include "renderer/plots/edgepainter.h"
+#include "renderer/plots/interactivepainter.h"
+#include "renderer/plots/spherepainter.h"
 #include "renderer/plots/surfacepainter.h"
 
 namespace vxrenderer {
@@ -8,6 +11,9 @@ PlotPainters makePlotPainters()
 {
     PlotPainters painters;
     painters.push_back(std::make_unique<SurfacePainter>());
+    painters.push_back(std::make_unique<EdgePainter>());
+    painters.push_back(std::make_unique<SpherePainter>());
+    painters.push_back(std::make_unique<InteractivePainter>());
     return painters;
 }
 

@@ -81,4 +81,11 @@ std::uint64_t contentDigest(const vxgraphics3d::VertexBuffer& vertices, const vx
     return digest.value();
 }
 
+std::uint64_t contentDigest(std::span<const float> records)
+{
+    Digest digest;
+    digest.add(records.data(), static_cast<std::ptrdiff_t>(records.size_bytes()));
+    return digest.value();
+}
+
 } // namespace vxrenderer

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 namespace vxgraphics3d {
 class IndexBuffer;
@@ -15,5 +16,7 @@ namespace vxrenderer {
 /// Contents that differ in a single word of 8 bytes never have the same digest; others do by chance alone, once in
 /// 2^64.
 std::uint64_t contentDigest(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
+/// The same for records of floats.
+std::uint64_t contentDigest(std::span<const float> records);
 
 } // namespace vxrenderer

@@ -9,7 +9,7 @@
 #include <cstring>
 #include <stdexcept>
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace vxrenderer {
 namespace {
@@ -67,16 +67,23 @@ void LineMesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
     };
     std::vector<Piece> pieces;
     pieces.reserve(static_cast<std::size_t>(checked.size()));
-    const auto isFinite = [](const vxgraphics3d::Vector3f& point, float u) {
-        return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z) && std::isfinite(u);
-    };
     forEachPiece(indices, [&](int from, int to) {
         Piece piece;
         read(from, piece.from, piece.uFrom);
         read(to, piece.to, piece.uTo);
-        if (isFinite(piece.from, piece.uFrom) && isFinite(piece.to, piece.uTo)) {
-            pieces.push_back(piece);
-        }
+        pieces.push_back(piece);
+    });
+    load(std::move(pieces));
+}
+
+void LineMesh::load(std::vector<Piece> pieces)
+{
+    m_numPieces = 0;
+    const auto isFinite = [](const vxgraphics3d::Vector3f& point, float u) {
+        return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z) && std::isfinite(u);
+    };
+    std::erase_if(pieces, [&](const Piece& piece) {
+        return !isFinite(piece.from, piece.uFrom) || !isFinite(piece.to, piece.uTo);
     });
     glBindBuffer(GL_ARRAY_BUFFER, m_pieces.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(pieces.size() * sizeof(Piece)), pieces.data(),

@@ -4,6 +4,7 @@
 #include "renderer/gl/globject.h"
 
 #include <cstddef>
+#include <vector>
 
 namespace vxgraphics3d {
 class IndexBuffer;
@@ -35,6 +36,10 @@ public:
     /// @throws std::out_of_range if an index points beyond the vertices
     /// @throws std::runtime_error if the driver has no memory for it
     void load(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
+
+    /// Copies pieces, without those that have something not finite.
+    /// @throws std::runtime_error if the driver has no memory for it
+    void load(std::vector<Piece> pieces);
 
     /// Draws all pieces with the program in use, each as a strip of four vertices.
     void draw() const;

@@ -60,6 +60,22 @@ const InstanceBuffer* UploadCache::instances(const boost::shared_ptr<const void>
         [&](InstanceBuffer& instances) { instances.load(make()); });
 }
 
+const LineMesh* UploadCache::lines(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                                   const std::function<std::vector<LineMesh::Piece>()>& make)
+{
+    return get(
+        m_lines, owner, number, changeId, [] { return std::nullopt; },
+        [&](LineMesh& lines) { lines.load(make()); });
+}
+
+const SphereBuffer* UploadCache::spheres(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                                         std::span<const float> records, bool areDiscs)
+{
+    return get(
+        m_spheres, owner, number, changeId, [&] { return contentDigest(records); },
+        [&](SphereBuffer& spheres) { spheres.load(records, areDiscs); });
+}
+
 void UploadCache::dropLost()
 {
     const auto dropFrom = [](auto& entries) {
@@ -68,6 +84,7 @@ void UploadCache::dropLost()
     dropFrom(m_meshes);
     dropFrom(m_lines);
     dropFrom(m_instances);
+    dropFrom(m_spheres);
 }
 
 } // namespace vxrenderer

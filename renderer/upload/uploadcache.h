@@ -4,6 +4,7 @@
 #include "renderer/upload/instancebuffer.h"
 #include "renderer/upload/linemesh.h"
 #include "renderer/upload/mesh.h"
+#include "renderer/upload/spherebuffer.h"
 #include "renderer/upload/uploadcounts.h"
 
 #include <boost/shared_ptr.hpp>
@@ -13,6 +14,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -44,6 +46,14 @@ public:
     const InstanceBuffer* instances(const boost::shared_ptr<const void>& owner, int number, int changeId,
                                     const std::function<std::vector<Instance>()>& make);
 
+    /// Straight lines that the owner does not keep in buffers.
+    /// @param make called when they have changed
+    const LineMesh* lines(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                          const std::function<std::vector<LineMesh::Piece>()>& make);
+    /// Spheres or discs, see `SphereBuffer`.
+    const SphereBuffer* spheres(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                                std::span<const float> records, bool areDiscs);
+
     /// Frees the uploads whose owners are gone.
     void dropLost();
 
@@ -69,6 +79,7 @@ private:
     Entries<Mesh> m_meshes;
     Entries<LineMesh> m_lines;
     Entries<InstanceBuffer> m_instances;
+    Entries<SphereBuffer> m_spheres;
 };
 
 } // namespace vxrenderer

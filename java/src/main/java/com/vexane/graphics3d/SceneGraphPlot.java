@@ -22,7 +22,7 @@ public abstract class SceneGraphPlot extends NativePeer {
         SURFACE_3D(2),
         /** A {@link SceneGraphPlotArrow3d}. */
         ARROW_3D(3),
-        /** Edges in three dimensions. */
+        /** A {@link SceneGraphPlotEdge3d}. */
         EDGE_3D(4),
         /** Iso surfaces. */
         ISO_SURFACE_3D(5),
@@ -32,7 +32,7 @@ public abstract class SceneGraphPlot extends NativePeer {
         TUBE_3D(7),
         /** A {@link SceneGraphPlotSurface2d}. */
         SURFACE_2D(8),
-        /** Spheres in three dimensions. */
+        /** A {@link SceneGraphPlotSphere3d}. */
         SPHERE_3D(10),
         /** Any other plot. */
         OTHER(-1);

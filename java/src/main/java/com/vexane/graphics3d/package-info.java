@@ -33,6 +33,9 @@
  *       Vectors are arrows in {@link SceneGraphPlotArrow2d} and {@link SceneGraphPlotArrow3d}, principal values and
  *       axes are in {@link SceneGraphPlotPrincipal}; lines are {@link SceneGraphPlotTube2d},
  *       {@link SceneGraphPlotTube3d} and {@link SceneGraphPlotRibbon3d}.
+ *       Points are {@link SceneGraphPlotSphere2d} and {@link SceneGraphPlotSphere3d}, edges of elements
+ *       {@link SceneGraphPlotEdge2d} and {@link SceneGraphPlotEdge3d}, texts {@link SceneGraphPlotPointLabel}, and points
+ *       and lines of a program {@link SceneGraphPlotInteractive}.
  *       {@link PostDataReader} reads records from files.
  *   <li>The {@link SceneLight} of a scene makes and removes its light sources, which are
  *       {@linkplain DirectionLightSource directional lights}, {@linkplain PointLightSource point lights} and

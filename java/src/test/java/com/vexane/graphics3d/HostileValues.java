@@ -3,6 +3,7 @@ package com.vexane.graphics3d;
 import java.nio.ByteBuffer;
 import java.nio.ByteOrder;
 import java.nio.DoubleBuffer;
+import java.util.Arrays;
 import java.util.Map;
 import java.util.Random;
 
@@ -22,7 +23,8 @@ final class HostileValues {
             Map.entry(double.class, new Object[] {
                 Double.NaN, Double.NEGATIVE_INFINITY, -1.0, 0.0, 1e-300, 1.0, 1e300, Double.POSITIVE_INFINITY}),
             Map.entry(String.class, TEXTS),
-            Map.entry(String[].class, new Object[] {null, new String[0], new String[3], TEXTS}),
+            Map.entry(String[].class, new String[][] {
+                null, {}, new String[3], Arrays.copyOf(TEXTS, TEXTS.length, String[].class), {"a", "b"}}),
             Map.entry(int[].class, new int[][] {
                 null, {}, {0}, {-1, 0x7fffffff, 3, 4, 5, 6}, new int[100]}),
             Map.entry(float[].class, new float[][] {
@@ -30,7 +32,8 @@ final class HostileValues {
             Map.entry(double[].class, new double[][] {null, {}, NO_NUMBERS, new double[100]}),
             Map.entry(double[][].class, new double[][][] {
                 null, {}, {{1, 1}}, {null}, {NO_NUMBERS}, {{0, 0, 0, Double.NaN}}, {{0, 0, 0, -1}},
-                {{0, 0, 0, 1e-300}, {1, 1, 1, 1e300}}, {{0, 1}, {0, 1}, null}}),
+                {{0, 0, 0, 1e-300}, {1, 1, 1, 1e300}}, {{0, 1}, {0, 1}, null},
+                {{0, 1}, {0, 1}, {0}}, {{0, 1}, {0, 1}, {Double.NaN, 1e300}}}),
             Map.entry(Object[].class, new Object[][] {
                 null, {}, {null, null}, {"text"}, {new int[] {0, 1, 2}}, {new double[3], null},
                 {new double[3], new double[3], new double[3]}, {new double[3], new double[1]}, {new float[3]},

@@ -72,6 +72,12 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphPlotRibbon3d.class, made -> new SceneGraphPlotRibbon3d(8));
         recipe(SceneGraphPlotPrincipal.class, made -> new SceneGraphPlotPrincipal(
                 3, SceneGraphPlotPrincipal.Content.PRINCIPAL_VALUES, 9));
+        recipe(SceneGraphPlotSphere2d.class, made -> new SceneGraphPlotSphere2d(4));
+        recipe(SceneGraphPlotSphere3d.class, made -> new SceneGraphPlotSphere3d(5));
+        recipe(SceneGraphPlotEdge2d.class, made -> new SceneGraphPlotEdge2d(6));
+        recipe(SceneGraphPlotEdge3d.class, made -> new SceneGraphPlotEdge3d(7));
+        recipe(SceneGraphPlotPointLabel.class, made -> new SceneGraphPlotPointLabel(3, 8));
+        recipe(SceneGraphPlotInteractive.class, made -> new SceneGraphPlotInteractive(9));
         recipe(PostDataObject.class, made -> new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0)
                 .role(DataRole.HEIGHT, 0).role(DataRole.ISO_LEVEL, 0).addGroup(new PostDataGroup()
                         .coordinates(new double[] {0, 1, 0}, new double[] {0, 0, 1}, new double[3])

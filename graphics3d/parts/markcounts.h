@@ -1,0 +1,46 @@
+#pragma once
+
+#include "base/export.h"
+#include "graphics3d/parts/markflags.h"
+
+namespace vxgraphics3d {
+
+class SelectablePart;
+
+/// Sets and removes the marks of the parts of one collection, and counts the parts that have any, so that a renderer
+/// can leave out what shows marked parts. No operation looks at more than one part.
+class VX_API MarkCounts {
+public:
+    /// Sets or removes a primary, secondary or hidden mark of a part. Doing so twice changes nothing.
+    void setMark(SelectablePart& part, MarkFlags mark, bool on);
+    /// Sets or removes the unpickable mark, which does not show and is not counted.
+    static void setUnpickableMark(SelectablePart& part, bool on);
+
+    /// An adjacent part of a higher level got or lost its primary mark. The part has the adjacent mark while at least
+    /// one of them is marked.
+    void adjacentPrimaryMark(SelectablePart& part, bool on);
+    /// The same for the secondary mark.
+    void adjacentSecondaryMark(SelectablePart& part, bool on);
+    /// An adjacent part was hidden or shown. The part has the adjacent mark while all parts of its control level are
+    /// hidden.
+    /// @param level that of the other part
+    /// @param sourceFlags the other part's marks without that one
+    /// @return whether the part's adjacent mark has changed
+    bool adjacentHiddenMark(SelectablePart& part, bool on, int level, int sourceFlags);
+    /// The same for the unpickable mark, which is not counted.
+    static bool adjacentUnpickableMark(SelectablePart& part, bool on, int level, int sourceFlags);
+
+    /// The number of parts with marks that decide how they look.
+    int getNumMarked() const { return m_numMarked; }
+    /// The number of parts with a primary mark of their own.
+    int getNumPrimary() const { return m_numPrimary; }
+
+private:
+    void adjacentMark(SelectablePart& part, bool on, int& count, MarkFlags mark);
+    static bool controlMark(SelectablePart& part, bool on, int level, int sourceFlags, int& count, MarkFlags mark);
+
+    int m_numMarked = 0;
+    int m_numPrimary = 0;
+};
+
+} // namespace vxgraphics3d

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "graphics3d/foundation/changenumber.h"
+#include "graphics3d/parts/sceneobjectlabel.h"
+#include "graphics3d/parts/selectablepart.h"
+
+#include <boost/shared_ptr.hpp>
+
+namespace vxgraphics3d {
+
+/// A point of an object.
+class VX_API Point : public SelectablePart {
+public:
+    Point();
+    virtual ~Point();
+
+    /// Sets the position and drops all marks.
+    void setPosition(float x, float y, float z) { setPosition(Vector3f(x, y, z)); }
+    void setPosition(const Vector3f& position);
+    /// Labels the point with a new label; without a position it gets none and loses the one it has.
+    /// @return whether it has a label now
+    bool setLabel(const vxbase::UString& text);
+    void removeLabel();
+
+    /// Counts the positions set.
+    int getGeometryChangeId() const { return m_geometryChangeId.get(); }
+    /// Counts the labels set and removed.
+    int getLabelChangeId() const { return m_labelChangeId.get(); }
+    const Vector3f& getPosition() const { return m_position; }
+    bool hasPosition() const { return m_hasPosition; }
+    /// The label, or null.
+    const boost::shared_ptr<SceneObjectLabel>& getLabel() const { return m_label; }
+
+private:
+    ChangeNumber m_geometryChangeId;
+    ChangeNumber m_labelChangeId;
+    Vector3f m_position;
+    bool m_hasPosition = false;
+    boost::shared_ptr<SceneObjectLabel> m_label;
+};
+
+} // namespace vxgraphics3d

@@ -1,0 +1,23 @@
+#include "graphics3d/plots/vector/scenegraphplotsphere2d.h"
+#include "graphics3d/plots/scenegraphplotgroup.h"
+#include "jni/support/native.h"
+
+#include <boost/make_shared.hpp>
+
+#include "com_vexane_graphics3d_SceneGraphPlotSphere2d.h"
+
+using namespace vxgraphics3d;
+
+VX_NATIVE(void, SceneGraphPlotSphere2d, createNative)(JNIEnv* env, jclass, jobject self, jint id)
+{
+    native(env, "createNative", [&] { attach(env, self, boost::make_shared<SceneGraphPlotSphere2d>(id)); });
+}
+
+VX_NATIVE(void, SceneGraphPlotSphere2d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint plotId)
+{
+    native(env, "connectNative", [&] {
+        attach(
+            env, self,
+            castTo<SceneGraphPlotSphere2d>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId), "plotId"));
+    });
+}

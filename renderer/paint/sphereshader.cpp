@@ -1,0 +1,110 @@
+#include "renderer/paint/sphereshader.h"
+
+namespace vxrenderer {
+
+const char* const c_sphereVertexSource = R"(
+layout(std140) uniform View {
+    mat4 projection;
+    vec2 grid;
+    bool isPerspective;
+    bool isFlat;
+    // The size of a pixel for each unit of w.
+    float pixel;
+    float leastCoverage;
+};
+layout(std140) uniform Model {
+    mat4 modelView;
+    mat4 normalMatrix;
+    float radiusScale;
+};
+layout(location = 0) in vec3 center;
+// The texture coordinate and the radius.
+layout(location = 1) in vec2 data;
+flat out float u;
+flat out vec3 eyeCenter;
+flat out float eyeRadius;
+// On discs: the position in units of the radius, and the normal.
+out vec2 place;
+flat out vec3 eyeNormal;
+out vec3 eyePosition;
+
+// A triangle around the unit circle.
+const vec2 c_corners[3] = vec2[3](vec2(-1.7320508, -1.0), vec2(1.7320508, -1.0), vec2(0.0, 2.0));
+const float c_leastPixels = 0.6;
+
+void main()
+{
+    u = data.x;
+    vec3 x = modelView[0].xyz;
+    vec3 y = modelView[1].xyz;
+    vec4 eye = modelView * vec4(center, 1.0);
+    float pixelSize = pixel * (projection * eye).w;
+    float radius = data.y * radiusScale * sqrt(length(x) * length(y));
+    float away = length(eye.xyz);
+    eyeCenter = eye.xyz;
+    eyeRadius = max(radius, c_leastPixels * pixelSize);
+    eyeNormal = vec3(0.0, 0.0, 1.0);
+    // The comparisons also fail for what is no number.
+    bool isDrawn = radius > 0.0 && away + radius < 1e37 && abs(u) < 1e37 && pixelSize > 0.0;
+    if (!isDrawn || (isPerspective && !c_areDiscs && away <= eyeRadius)) {
+        place = vec2(0.0);
+        eyePosition = vec3(0.0);
+        gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
+        return;
+    }
+    vec3 side = normalize(x);
+    vec3 up = normalize(y);
+    float reach = eyeRadius;
+    if (c_areDiscs) {
+        eyeNormal = normalize(cross(side, up));
+    } else {
+        // The outline of a sphere in perspective is a little larger than its radius.
+        vec3 sight = isPerspective ? eye.xyz / away : vec3(0.0, 0.0, -1.0);
+        side = normalize(cross(sight, abs(sight.y) < 0.9 ? vec3(0.0, 1.0, 0.0) : vec3(1.0, 0.0, 0.0)));
+        up = cross(side, sight);
+        reach *= isPerspective ? away / sqrt(away * away - eyeRadius * eyeRadius) : 1.0;
+    }
+    // Half a pixel more, where the shape covers pixels in part.
+    vec2 corner = c_corners[gl_VertexID] * (reach + pixelSize);
+    place = corner / eyeRadius;
+    eyePosition = eye.xyz + corner.x * side + corner.y * up;
+    gl_Position = projection * vec4(eyePosition, 1.0);
+}
+)";
+
+const char* const c_sphereFragmentMain = R"(
+flat in float u;
+flat in vec3 eyeCenter;
+flat in float eyeRadius;
+flat in vec3 eyeNormal;
+in vec2 place;
+in vec3 eyePosition;
+
+void main()
+{
+    vec3 sight = isPerspective ? normalize(eyePosition) : vec3(0.0, 0.0, -1.0);
+    // From the centre to the nearest point of the line of sight, in units of the radius.
+    vec3 toCenter = eyeCenter - eyePosition;
+    vec3 offset = (dot(sight, toCenter) * sight - toCenter) / eyeRadius;
+    float miss = c_areDiscs ? length(place) : length(offset);
+    float coverage = clamp(0.5 + (1.0 - miss) / length(vec2(dFdx(miss), dFdy(miss))), 0.0, 1.0);
+    if (!(coverage >= leastCoverage) || (c_isRestricted && isHidden(u))) {
+        discard;
+    }
+    vec3 n = c_areDiscs ? (gl_FrontFacing ? eyeNormal : -eyeNormal)
+                        : normalize(offset - sqrt(max(1.0 - miss * miss, 0.0)) * sight);
+    vec3 point = c_areDiscs ? eyePosition : eyeCenter + eyeRadius * n;
+    // All that a flat view shows has one depth.
+    float depth = gl_FragCoord.z;
+    if (!c_areDiscs && !isFlat) {
+        vec2 zw = vec2(projection[0].z, projection[0].w) * point.x + vec2(projection[1].z, projection[1].w) * point.y +
+                  vec2(projection[2].z, projection[2].w) * point.z + vec2(projection[3].z, projection[3].w);
+        depth = clamp(0.5 + 0.5 * zw.x / zw.y, 0.0, 1.0);
+    }
+    gl_FragDepth = depth;
+    vec3 color = materialColor(u);
+    result = vec4(c_isLit ? lit(color, n, point) : color, uniformColor.a * coverage);
+}
+)";
+
+} // namespace vxrenderer
