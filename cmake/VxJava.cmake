@@ -36,7 +36,7 @@ function(vx_java_module)
   list(JOIN files "\n" argument_file)
   file(GENERATE OUTPUT ${root}/sources.txt CONTENT "${argument_file}\n")
   add_custom_command(OUTPUT ${root}/stamp
-    COMMAND ${CMAKE_COMMAND} -E rm -rf ${root}/classes
+    COMMAND ${CMAKE_COMMAND} -E rm -rf ${root}/classes ${root}/include
     COMMAND ${VX_JAVAC} ${options} -d ${root}/classes @${root}/sources.txt
     COMMAND ${CMAKE_COMMAND} -E touch ${root}/stamp
     DEPENDS ${files} ${stamps} ${root}/sources.txt
@@ -115,7 +115,7 @@ function(vx_java_tests)
   file(GENERATE OUTPUT ${root}/sources.txt CONTENT "${argument_file}\n")
   file(GENERATE OUTPUT ${root}/path CONTENT "${root}/classes:${path}\n")
   add_custom_command(OUTPUT ${root}/stamp
-    COMMAND ${CMAKE_COMMAND} -E rm -rf ${root}/classes
+    COMMAND ${CMAKE_COMMAND} -E rm -rf ${root}/classes ${root}/include
     COMMAND ${VX_JAVAC} -g --release 17 -encoding UTF-8 -Xlint:all,-processing,-path -Werror -cp ${path} -h ${root}/include
             -d ${root}/classes @${root}/sources.txt
     ${resources}

@@ -190,6 +190,22 @@ TEST_F(FaceSidesTest, aStepWhoseNormalsPointToItsOtherSideIsLitLikeWhatSurrounds
     EXPECT_GT(around[0], 80);
 }
 
+// As along the outline of a coarse mesh: the surface bends away from the eye within the last triangles that are seen.
+TEST_F(FaceSidesTest, aNormalThatBendsAwayFromTheEyeIsLitOnTheSideThatItsTriangleShows)
+{
+    constexpr int cells = 4;
+    PostDataObject record = grid(cells).make();
+    std::vector<std::vector<float>>& normals = *record.m_normals[0];
+    for (std::size_t i = cells; i < normals[0].size(); i += cells + 1) {
+        normals[0][i] = 0.5f;
+        normals[1][i] = -0.6f;
+        normals[2][i] = -0.3f;
+    }
+    const Picture shown = pictureOf(record);
+    // There the normal is (0.53, -0.63, -0.2), and light falls at the cosine 0.51: 192 (0.3 + 0.7 * 0.51).
+    EXPECT_NEAR(colorAt(m_canvas, shown, {0.97f, 0.4f, 0.0f})[0], 127, 6);
+}
+
 TEST_F(FaceSidesTest, trianglesWithSomethingNotFiniteAreNotDrawn)
 {
     // The middle of five by five points has six triangles about it, of 32 in all.

@@ -101,7 +101,8 @@ public final class SceneGraphPlotGroup extends SceneGraphNode {
     }
 
     /**
-     * Sets the group's own part of the title, which precedes those of its plots.
+     * Sets the group's own part of the title, which precedes those of its plots. A scene shows the title of a group that
+     * is the child of its root.
      *
      * @param format how the text is written
      * @param text the text; empty for no title
