@@ -61,19 +61,19 @@ struct PointColors {
     float constant = 0.0f;
 };
 
-/// The corners of triangles, three arrays by corner.
+/// The corners of triangles, three arrays by corner. A group without arrays has no triangles.
 struct TriangleCorners {
     TriangleCorners(const vxdatacarrier::PostDataView& record, int group);
 
-    int count;
-    const int* a;
-    const int* b;
-    const int* c;
+    int count = 0;
+    const int* a = nullptr;
+    const int* b = nullptr;
+    const int* c = nullptr;
 };
 
 /// The ends of lines, two arrays by end.
 struct LineEnds {
-    /// The lines between the first two corners of a group's elements.
+    /// The lines between the first two corners of a group's elements; none for a group without arrays.
     static LineEnds ofElements(const vxdatacarrier::PostDataView& record, int group);
     /// The boundary lines of a group's triangles.
     static LineEnds ofBoundary(const vxdatacarrier::PostDataView& record, int group);

@@ -42,7 +42,7 @@ bool GraphPolylines::take(int point)
     if (seen != 0) {
         return false;
     }
-    seen = 1;
+    seen = c_seen;
     m_order[static_cast<std::size_t>(m_numOrdered++)] = point;
     return true;
 }
@@ -87,6 +87,10 @@ void GraphPolylines::walk(int start, Visit visit) const
         } else if (neighbours[1] == previous) {
             next = neighbours[0];
         }
+        // Two equal edges make the same point both neighbours, but there is no way on.
+        if (next == previous) {
+            next = c_none;
+        }
         previous = current;
         current = next;
     }
@@ -119,11 +123,18 @@ void GraphPolylines::addRingFrom(int point)
 {
     const int first = m_numOrdered - 1;
     bool isClosed = false;
+    int previous = point;
     walk(point, [&](int next) {
+        // Another ring that was left open went this way to its end: no point is left there.
+        if (previous != point && isRingStart(previous) && next == neighboursOf(previous)[0]) {
+            return false;
+        }
+        previous = next;
         isClosed = next == point;
         take(next);
         return !isClosed && !isEnd(next);
     });
+    m_seen[static_cast<std::size_t>(point)] = c_ringStart;
     const int numPoints = m_numOrdered - first;
     m_polylines.push_back({numPoints, isClosed});
     m_numPieces += numPoints;

@@ -28,6 +28,8 @@ private:
     static constexpr int c_none = -1;
     /// In place of the first neighbour of a point out of range.
     static constexpr int c_noPoint = -2;
+    static constexpr unsigned char c_seen = 1;
+    static constexpr unsigned char c_ringStart = 2;
 
     using Neighbours = std::array<int, 2>;
 
@@ -38,6 +40,7 @@ private:
 
     Neighbours& neighboursOf(int point) { return m_neighbours[static_cast<std::size_t>(point)]; }
     bool isEnd(int point) const;
+    bool isRingStart(int point) const { return m_seen[static_cast<std::size_t>(point)] == c_ringStart; }
     bool take(int point);
     static void join(Neighbours& neighbours, int point);
     void joinEdges();

@@ -81,10 +81,9 @@ void SceneGraphPlotIso::setLegendLevels(const std::vector<double>& levels)
     m_valueScale = ValueScale(*low, *high);
     for (const boost::shared_ptr<IsoData>& level : m_surfaces) {
         const std::vector<double>& data = level->m_levelData;
-        const int count = data.empty() ? 0 : level->m_vertices.getNumberOfVertices();
-        for (int i = 0; i < count; ++i) {
-            const std::size_t point = std::min(static_cast<std::size_t>(i), data.size() - 1);
-            level->m_vertices.setVertexTextureUCoord(i, m_valueScale(data[point]));
+        for (int i = 0; i < level->m_vertices.getNumberOfVertices(); ++i) {
+            const std::size_t last = std::min(static_cast<std::size_t>(i) + 1, data.size());
+            level->m_vertices.setVertexTextureUCoord(i, m_valueScale(last > 0 ? data[last - 1] : 0.0));
         }
     }
     m_levelChangeId.raise();

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -61,10 +62,9 @@ protected:
     {
         const int count = input.field.points.count;
         allocateArrows(count);
-        const double factor = appendAll(input, arrowAt);
-        if (factor > 0.0) {
+        if (const auto factor = appendAll(input, arrowAt)) {
             const auto commonScale = static_cast<double>(getDescription().m_commonArrowScale);
-            if (const auto box = input.boxedField.box(factor * commonScale)) {
+            if (const auto box = input.boxedField.box(*factor * commonScale)) {
                 setBoundingBox(*box);
             }
         }
@@ -73,9 +73,9 @@ protected:
     }
 
 private:
-    /// @return the factor of all lengths; 0 if all are 0
+    /// @return the factor of all lengths; nothing if all are 0
     template <class ArrowAt>
-    double appendAll(const ArrowInput& input, ArrowAt arrowAt)
+    std::optional<double> appendAll(const ArrowInput& input, ArrowAt arrowAt)
     {
         const auto count = static_cast<std::size_t>(input.field.points.count);
         Arrow* const out = m_arrows.get();
@@ -86,7 +86,7 @@ private:
         }
         noteAllAppended(maxLength);
         if (!(maxLength > 0.0f)) {
-            return 0.0;
+            return std::nullopt;
         }
         const double factor = input.targetLength / static_cast<double>(maxLength);
         setMaxLength(static_cast<float>(static_cast<double>(maxLength) * factor));

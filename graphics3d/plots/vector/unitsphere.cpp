@@ -2,19 +2,21 @@
 
 #include <cmath>
 #include <stdexcept>
+#include <string>
 
 namespace vxgraphics3d {
 
 namespace {
 
 constexpr float c_pi = 3.1415927f;
+constexpr int c_maxResolution = 10000; // the corners of its triangles can be counted
 
 } // namespace
 
 UnitSphere::UnitSphere(int resolution) : m_sphereResolution(resolution)
 {
-    if (resolution < 1) {
-        throw std::invalid_argument("A sphere needs a resolution of at least 1.");
+    if (resolution < 1 || resolution > c_maxResolution) {
+        throw std::invalid_argument("A sphere needs a resolution of 1 to " + std::to_string(c_maxResolution) + ".");
     }
     computeSphere();
 }

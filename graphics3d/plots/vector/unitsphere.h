@@ -11,7 +11,7 @@ class VX_API UnitSphere {
 public:
     static constexpr int c_resolution = 6;
 
-    /// @param resolution at least 1
+    /// @param resolution 1 to 10000
     /// @throws std::invalid_argument for a lower one
     explicit UnitSphere(int resolution = c_resolution);
 

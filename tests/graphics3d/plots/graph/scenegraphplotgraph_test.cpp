@@ -180,7 +180,8 @@ TEST(SceneGraphPlotGraph, edgesAreJoinedToPolylinesAndRings)
         {"a third edge starts at its other end and stops at a point already drawn",
          {{0, 1}, {1, 2}, {1, 3}},
          {{{0, 0}, {1, 10}, {2, 20}}, {{3, 30}}}},
-        {"two equal edges are a ring", {{0, 1}, {0, 1}}, {{{0, 0}, {1, 10}, {0, 0}}}},
+        {"two equal edges are one", {{0, 1}, {0, 1}}, {{{0, 0}, {1, 10}}}},
+        {"a last edge that is listed twice does not lead back", {{0, 1}, {1, 2}, {1, 2}}, {{{0, 0}, {1, 10}, {2, 20}}}},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(fillAndGet(graphRecord(x, y, c.edges)), c.expected) << c.what;

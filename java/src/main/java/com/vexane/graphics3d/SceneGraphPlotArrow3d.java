@@ -61,17 +61,29 @@ public final class SceneGraphPlotArrow3d extends SceneGraphPlotArrow {
      * @param vectors x, y and z of the vectors: three arrays of that length
      * @param values coordinates in the colour table from 0 to 1, one per point; null for 0
      * @return true
-     * @throws NativeException if there are not three arrays of the same length, or too few values; the plot is unchanged
+     * @throws IllegalArgumentException if there are not three arrays of the same length, or too few values
      * @throws NullPointerException if positions or vectors are null, or one of their arrays is
      */
     public boolean update(float[][] positions, float[][] vectors, float[] values) {
-        for (float[] row : positions) {
-            Objects.requireNonNull(row, "array of positions");
-        }
-        for (float[] row : vectors) {
-            Objects.requireNonNull(row, "array of vectors");
+        requireThree(positions, "positions");
+        requireThree(vectors, "vectors");
+        int count = positions[0].length;
+        if (vectors[0].length != count || values != null && values.length < count) {
+            throw new IllegalArgumentException("There are " + count + " positions, but " + vectors[0].length
+                    + " vectors" + (values != null ? " and " + values.length + " values" : ""));
         }
         return update(this, positions, vectors, values);
+    }
+
+    private static void requireThree(float[][] rows, String name) {
+        if (rows.length != 3) {
+            throw new IllegalArgumentException(name + " have " + rows.length + " arrays, not 3");
+        }
+        for (float[] row : rows) {
+            if (Objects.requireNonNull(row, "array of " + name).length != rows[0].length) {
+                throw new IllegalArgumentException(name + " have arrays of different length");
+            }
+        }
     }
 
     private static native void createNative(SceneGraphPlotArrow3d peer, int id);

@@ -13,14 +13,10 @@ public final class SceneGraphPlotPointLabel extends SceneGraphPlot {
     /**
      * Makes an empty plot.
      *
-     * @param dimension 2 for points in the plane, 3 for points in space
+     * @param dimension 2 for points in the plane, any other number for points in space
      * @param id the id of the plot in its group
-     * @throws IllegalArgumentException if the dimension is neither 2 nor 3
      */
     public SceneGraphPlotPointLabel(int dimension, int id) {
-        if (dimension != 2 && dimension != 3) {
-            throw new IllegalArgumentException("dimension is " + dimension + ", not 2 or 3");
-        }
         createNative(this, dimension, id);
     }
 

@@ -27,16 +27,12 @@ public final class SceneGraphPlotPrincipal extends SceneGraphPlotArrow {
     /**
      * Makes an empty plot.
      *
-     * @param dimension 2 for a plot in the plane, 3 for one in space
+     * @param dimension 2 for a plot in the plane, any other number for one in space
      * @param content what the directions are
      * @param id the id of the plot in its group
-     * @throws IllegalArgumentException if the dimension is neither 2 nor 3
      * @throws NullPointerException if the content is null
      */
     public SceneGraphPlotPrincipal(int dimension, Content content, int id) {
-        if (dimension != 2 && dimension != 3) {
-            throw new IllegalArgumentException("There are no plots of " + dimension + " dimensions.");
-        }
         createNative(this, dimension, Objects.requireNonNull(content, "content") == Content.PRINCIPAL_VALUES, id);
     }
 

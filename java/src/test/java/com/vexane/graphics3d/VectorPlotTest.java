@@ -153,10 +153,10 @@ class VectorPlotTest {
             assertFalse(isFilled(plot));
             assertTrue(plot.update(three, three, null));
             for (float[][] wrong : new float[][][] {{}, {{0, 1}, {0, 1}}, {{0, 1}, {0, 1}, {0}}, {{0}, {0}, {0}}}) {
-                assertThrows(NativeException.class, () -> plot.update(three, wrong, null));
+                assertThrows(IllegalArgumentException.class, () -> plot.update(three, wrong, null));
             }
-            assertThrows(NativeException.class, () -> plot.update(new float[][] {{0, 1}, {0}, {0, 1}}, three, null));
-            assertThrows(NativeException.class, () -> plot.update(three, three, new float[1]));
+            assertThrows(IllegalArgumentException.class, () -> plot.update(new float[][] {{0, 1}, {0}, {0, 1}}, three, null));
+            assertThrows(IllegalArgumentException.class, () -> plot.update(three, three, new float[1]));
             assertThrows(NullPointerException.class, () -> plot.update(three, new float[3][], null));
             assertTrue(isFilled(plot));
         }
