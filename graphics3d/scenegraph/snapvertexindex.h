@@ -29,9 +29,9 @@ public:
     /// vertices of a node are usually added by one call and form one run. Without vertices of the node nothing changes.
     void remove(int nodeId);
 
-    /// Looks for a vertex nearer to the point than `maxDistance`: first the two vertices at which the last search ended,
-    /// then along the orders of x and y in turn, until neither has a nearer one. Each step ends at the first vertex that
-    /// is nearer, and the next step along that order starts there.
+    /// Looks for a vertex nearer to the point than `maxDistance`: first the two vertices at which the last search
+    /// ended, then along the orders of x and y in turn, until neither has a nearer one. Each step ends at the first
+    /// vertex that is nearer, and the next step along that order starts there.
     /// @param direction a negative x or y searches that order downwards, any other value upwards
     /// @param coordinate receives x, y and z of the vertex found; unchanged if none is
     /// @return the distance of that vertex, measured in float, or `maxDistance`

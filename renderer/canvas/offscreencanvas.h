@@ -79,8 +79,8 @@ public:
     void draw(Quality quality = Quality::full);
     /// The size of the picture in bytes: four per pixel.
     std::size_t imageSize() const;
-    /// Copies the picture drawn last to `pixels`: rows from top to bottom, for each pixel the bytes red, green, blue and
-    /// alpha.
+    /// Copies the picture drawn last to `pixels`: rows from top to bottom, for each pixel the bytes red, green, blue
+    /// and alpha.
     /// @param numBytes the size of the array, which must be `imageSize()`
     /// @throws std::invalid_argument if it is another one
     /// @throws std::logic_error if nothing was drawn since the canvas was made or resized

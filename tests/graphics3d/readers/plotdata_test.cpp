@@ -102,8 +102,9 @@ TEST(PlotData, hasTheSizesAndLimitsOfItsPage)
         }
         EXPECT_EQ(*record.m_bounds, expected) << file.name;
         char message[200];
-        std::snprintf(message, sizeof message, "File contains %zu coordinates with data, %zu triangles and 0 quads [%f, %f]",
-                      file.numPoints, file.numTriangles, static_cast<double>(static_cast<float>(file.data.min)),
+        std::snprintf(message, sizeof message,
+                      "File contains %zu coordinates with data, %zu triangles and 0 quads [%f, %f]", file.numPoints,
+                      file.numTriangles, static_cast<double>(static_cast<float>(file.data.min)),
                       static_cast<double>(static_cast<float>(file.data.max)));
         EXPECT_EQ(log.messages().back(), message);
     }

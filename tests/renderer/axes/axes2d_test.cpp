@@ -90,7 +90,7 @@ TEST_F(Axes2d, titlesTakeThePowersOfTen)
     setup.setYAxisTitle("U");
     layout = this->layout();
     EXPECT_EQ(textOf(layout, true), "\\begin{center}\\unicode{t}\\end{center} (\\times10^{5}) "
-                                  "\\begin{center}\\unicode{U}\\end{center} (\\times10^{6})");
+                                    "\\begin{center}\\unicode{U}\\end{center} (\\times10^{6})");
     expectLabel(layout.labels[0], 320.0f, 271.8f, 0.5f, 0.0f);
     // Ticks take 7 pixels, labels as wide as -0.5000 take 70, and the gap 3.
     expectLabel(layout.labels[1], 40.0f, 150.0f, 1.0f, 0.5f);
@@ -145,7 +145,7 @@ TEST_F(Axes2d, aPolarViewHasCirclesAndSpokes)
     expectLine({layout.frame.back().to, layout.frame.front().from}, {300.0f, 150.0f, 0.0f}, {300.0f, 150.0f, 0.0f});
     // At radius 1 is the middle; the spokes come first, every 45 degrees.
     EXPECT_EQ(textOf(layout, false), "0\xC2\xB0 45\xC2\xB0 90\xC2\xB0 135\xC2\xB0 180\xC2\xB0 225\xC2\xB0 270\xC2\xB0 "
-                                   "315\xC2\xB0 2 4");
+                                     "315\xC2\xB0 2 4");
     expectLine(layout.grid[2], center, {200.0f, 50.0f, 0.0f});
     expectLabel(layout.labels[0], 303.0f, 150.0f, 0.0f, 0.5f);
     expectLabel(layout.labels[8], 203.0f, 125.0f, 0.0f, 0.0f);
@@ -168,7 +168,7 @@ TEST_F(Axes2d, aPolarSetupHasCirclesAndRaysAboutTheOrigin)
     // 50 pixels per unit, the origin at (320, 150).
     const Vector3f center(320.0f, 150.0f, 0.0f);
     EXPECT_EQ(textOf(layout, false), "180\xC2\xB0 225\xC2\xB0 270\xC2\xB0 315\xC2\xB0 0\xC2\xB0 45\xC2\xB0 90\xC2\xB0 "
-                                   "135\xC2\xB0 1 2");
+                                     "135\xC2\xB0 1 2");
     expectLine(layout.grid[4], center, {520.0f, 150.0f, 0.0f});
     expectLine(layout.grid[5], center, {420.0f, 50.0f, 0.0f});
     expectLabel(layout.labels[4], 523.0f, 150.0f, 0.0f, 0.5f);

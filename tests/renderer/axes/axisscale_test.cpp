@@ -64,7 +64,7 @@ TEST(AxisScale, twoTicksAreLabelledWhereverTheyHaveSpace)
 {
     EXPECT_EQ(textOf(scaleOf(0.0, 4000.0, 40.0)), "0 | 4000") << "the coarsest step of one label is not enough";
     EXPECT_EQ(textOf(scaleOf(-65.0, 65.0, 60.0)), "\xE2\x88\x92"
-                                                "50 | 50")
+                                                  "50 | 50")
         << "0 would stand alone";
     EXPECT_EQ(textOf(scaleOf(1.1, 1.9, 60.0)), "1.2 1.6") << "finer ticks come closer to the ends";
     EXPECT_EQ(textOf(scaleOf(0.3, 1.48, 60.0, true)), "2 | 10 |") << "a single decade";
@@ -99,13 +99,14 @@ TEST(AxisScale, extraPositionsTakePrecedence)
 TEST(AxisScale, logarithmicTicksAreDecades)
 {
     EXPECT_EQ(textOf(scaleOf(-2.5, 1.2, 400.0, true)), ". . . . . . 10^{\xE2\x88\x92"
-                                                     "2} . . . . . . . . 10^{\xE2\x88\x92"
-                                                     "1} . . . . . . . . 10^{0} . . . . . . . . 10^{1}");
+                                                       "2} . . . . . . . . 10^{\xE2\x88\x92"
+                                                       "1} . . . . . . . . 10^{0} . . . . . . . . 10^{1}");
     EXPECT_EQ(textOf(scaleOf(0.0, 4.0, 300.0, true)), "10^{0} 10^{1} 10^{2} 10^{3} 10^{4}") << "no room for lines";
-    EXPECT_EQ(textOf(scaleOf(0.0, 12.0, 600.0, true)), "10^{0} . 10^{2} . 10^{4} . 10^{6} . 10^{8} . 10^{10} . 10^{12}");
+    EXPECT_EQ(textOf(scaleOf(0.0, 12.0, 600.0, true)),
+              "10^{0} . 10^{2} . 10^{4} . 10^{6} . 10^{8} . 10^{10} . 10^{12}");
     EXPECT_EQ(textOf(scaleOf(0.0, 100.0, 380.0, true)), "10^{0} . . . . . . . . . 10^{20} . . . . . . . . . 10^{40} "
-                                                      ". . . . . . . . . 10^{60} . . . . . . . . . 10^{80} "
-                                                      ". . . . . . . . . 10^{100}");
+                                                        ". . . . . . . . . 10^{60} . . . . . . . . . 10^{80} "
+                                                        ". . . . . . . . . 10^{100}");
 }
 
 TEST(AxisScale, fewDecadesShowNumbers)

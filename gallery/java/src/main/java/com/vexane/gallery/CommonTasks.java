@@ -11,6 +11,7 @@ import com.vexane.graphics3d.SceneGraphPlotGroup;
 import com.vexane.graphics3d.SceneGraphPlotSurface2d;
 import com.vexane.graphics3d.SceneGraphRoot;
 import com.vexane.graphics3d.SceneLight;
+import com.vexane.graphics3d.SceneSettings;
 import com.vexane.graphics3d.TextItem;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.PlotKind;
@@ -172,6 +173,17 @@ public final class CommonTasks implements AutoCloseable {
         draw("logarithmic.png");
     }
 
+    private void changeTheLegend() throws IOException {
+        plot.setLegendLimits(-40, 20); // values beyond them have the colours of the ends
+        canvas.setFont(Canvas3dSettings.Text.LEGEND_TICK, "serif", 16); // points on the screen
+        try (SceneSettings settings = SceneSettings.connect(renderer)) {
+            settings.setShowMinMax(false); // leaves out the smallest and the largest value
+            draw("legend.png");
+            settings.setShowLegends(false);
+            draw("no-legend.png");
+        }
+    }
+
     /** The gain in decibels of a filter over the logarithms of frequency and quality. */
     private static PostDataObject lowPass() {
         double[] logFrequency = new double[COLUMNS * ROWS];
@@ -204,6 +216,7 @@ public final class CommonTasks implements AutoCloseable {
             tasks.writeHardcopy();
             tasks.computeOnAnotherThread();
             tasks.useLogarithmicAxes();
+            tasks.changeTheLegend();
         }
     }
 

@@ -32,6 +32,7 @@ import java.util.Map;
 public final class Studio implements AutoCloseable {
     private static final int SAMPLES = 4;
     private static final int TITLE_SIZE = 15;
+    private static final float INDICATOR_LENGTH = 10; // the initial one
     /** The bit of axes in the render mask. */
     private static final int RENDER_AXES = 2;
 
@@ -186,6 +187,19 @@ public final class Studio implements AutoCloseable {
     public Studio nameAxes(String x, String y) {
         axes.setXAxisTitle(x);
         axes.setYAxisTitle(y);
+        return this;
+    }
+
+    /**
+     * Names the axes in space. The axis orientation indicator has the same names.
+     *
+     * @param x what the x axis shows, with its unit
+     * @param y what the y axis shows, with its unit
+     * @param z what the z axis shows, with its unit
+     * @return this studio
+     */
+    public Studio nameAxes(String x, String y, String z) {
+        canvas.setAxisOrientationIndicator(INDICATOR_LENGTH, x, 0xff0000, y, 0x00ff00, z, 0x0000ff);
         return this;
     }
 

@@ -13,6 +13,7 @@ import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
 import java.nio.file.Path;
 import java.util.List;
+import java.util.function.IntPredicate;
 import java.util.stream.IntStream;
 import javax.imageio.ImageIO;
 import org.junit.jupiter.api.BeforeAll;
@@ -100,6 +101,27 @@ class CommonTasksTest {
         }
         assertEquals(0xcc331a, middles[1]);
         assertTrue(middles[0] >> 16 >= 0xcb, Integer.toHexString(middles[0]));
+    }
+
+    private static long count(BufferedImage image, IntPredicate isCounted) {
+        int width = image.getWidth();
+        return IntStream.range(0, width * image.getHeight())
+                .filter(i -> isCounted.test(image.getRGB(i % width, i / width) & 0xffffff)).count();
+    }
+
+    @Test
+    void theLegendChangesAndDisappears() throws IOException {
+        BufferedImage whole = picture("logarithmic.png");
+        BufferedImage changed = picture("legend.png");
+        // From 10 kHz on, the gain is below the new limits, so that all has the lowest colour.
+        IntPredicate isLowest = c -> c == 0x30127a;
+        assertTrue(count(whole, isLowest) < 5000 && count(changed, isLowest) > 50000);
+        // The mark of the largest value was above the bar.
+        IntPredicate isDark = c -> (c & 0xc0c0c0) == 0;
+        assertTrue(count(whole.getSubimage(715, 0, 30, 25), isDark) > 20);
+        assertEquals(0, count(changed.getSubimage(715, 0, 30, 25), isDark));
+        // The data take the space of the legend.
+        assertTrue(isColored(picture("no-legend.png"), 750, 250) && !isColored(whole, 710, 250));
     }
 
     @Test

@@ -102,7 +102,7 @@ class GalleryTest {
                     .filter(y -> IntStream.range(8, 408).anyMatch(x -> isSaturated(sheet.getRGB(x, y)))).count();
             assertEquals(heights[0], heights[row], 2, "row " + row);
         }
-        assertTrue(heights[0] > 100, heights[0] + " rows of pixels show the part");
+        assertTrue(heights[0] > 60, heights[0] + " rows of pixels show the part");
     }
 
     private static boolean isSaturated(int rgb) {

@@ -21,6 +21,7 @@ public final class BracketStress implements Picture {
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(record);
             plot.setLegendLimits(0, file.percentile(0.995));
+            studio.nameAxes("x in mm", "y in mm", "z in mm");
             studio.show(plot, "Stress \\sigma_{v} in MPa").view(-35, 25).save();
         }
     }

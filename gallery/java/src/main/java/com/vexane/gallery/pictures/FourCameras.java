@@ -25,6 +25,7 @@ public final class FourCameras implements Picture {
             plot.setColorTable("viridis", studio.colors("viridis"), true);
             plot.fillPlot(record);
             plot.setHeightScale(0.2f);
+            studio.nameAxes("x in km", "y in km", "z, enlarged");
             studio.show(plot, "Elevation in m").view(-60, 35);
 
             Camera3d camera = studio.camera3d();

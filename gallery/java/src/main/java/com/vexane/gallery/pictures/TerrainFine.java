@@ -22,6 +22,7 @@ public final class TerrainFine implements Picture {
             plot.setColorTable("plasma", studio.colors("plasma"), true);
             plot.fillPlot(record);
             plot.setHeightScale(0.25f);
+            studio.nameAxes("x in km", "y in km", "z, enlarged");
             studio.show(plot, "Slope, 1 being the steepest").view(-120, 40).save();
         }
     }

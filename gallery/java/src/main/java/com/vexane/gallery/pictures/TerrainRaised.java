@@ -24,6 +24,7 @@ public final class TerrainRaised implements Picture {
             plot.setColorTable("viridis", studio.colors("viridis"), true);
             plot.fillPlot(record);
             plot.setHeightScale(0.2f);
+            studio.nameAxes("x in km", "y in km", "z, enlarged");
             studio.show(plot, "Elevation in m").view(-60, 35).save();
         }
     }
