@@ -1,5 +1,6 @@
 #include "renderer/plots/plotpainter.h"
 
+#include "renderer/plots/graphpainter.h"
 #include "renderer/plots/surfacepainter.h"
 
 namespace vxrenderer {
@@ -8,6 +9,7 @@ PlotPainters makePlotPainters()
 {
     PlotPainters painters;
     painters.push_back(std::make_unique<SurfacePainter>());
+    painters.push_back(std::make_unique<GraphPainter>());
     return painters;
 }
 

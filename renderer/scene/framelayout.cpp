@@ -1,5 +1,6 @@
 #include "renderer/scene/framelayout.h"
 
+#include "graphics3d/canvas/axissetup.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/decoration/legendscale.h"
 #include "renderer/frame/frame.h"
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace vxrenderer {
@@ -24,6 +26,9 @@ constexpr float c_titlePart = 0.3f;
 constexpr float c_legendPart = 0.45f;
 /// Legends that would be lower than this, in units of the size of their numbers, are left out.
 constexpr float c_lowestLegend = 4.0f;
+/// Parts of the picture that the legend of lines may take in width, and in height outside of the axes.
+constexpr float c_lineLegendWidth = 0.4f;
+constexpr float c_lineLegendHeight = 0.3f;
 
 /// The plots of a picture that show their colours.
 std::vector<PlotItem> withLegends(const std::vector<SceneItem>& items)
@@ -44,6 +49,8 @@ LegendStyle legendStyleOf(const Frame& frame, FontSet& titles, FontSet& ticks)
     return {.titleFonts = titles,
             .tickFonts = ticks,
             .color = frame.appearance.textColor(),
+            .background = frame.appearance.backdrop.top,
+            .scale = frame.appearance.scale,
             .lineWidth = std::max(1.0f, std::round(frame.appearance.scale)),
             .showMinMax = frame.appearance.showMinMax,
             .tickDigits = settings.getLegendTickPrecision(),
@@ -70,7 +77,61 @@ float layOutLegends(FrameLayout& layout, float em, float maxWidth, float height)
     return width;
 }
 
+/// Lays out the legend of lines; outside of the axes it takes its part of the space.
+void layOutLineLegend(const Frame& frame, FrameLayout& layout, float em)
+{
+    std::vector<LineLegendEntry> entries;
+    for (const SceneItem& item : layout.items) {
+        if (const auto* plot = std::get_if<PlotItem>(&item)) {
+            std::ranges::move(lineLegendOf(*plot->plot), std::back_inserter(entries));
+        }
+    }
+    PixelArea& space = layout.space;
+    if (entries.empty() || space.isEmpty()) {
+        return;
+    }
+    const vxgraphics3d::AxisSetup& axes = *frame.canvas.getAxisSetupPtr();
+    const LineLegendPlacement placement(axes.getLegendPosition(), axes.getLegendLayoutStrategy());
+    const bool isBeside = !placement.isInside && !placement.isRow;
+    const bool isAbove = !placement.isInside && placement.isRow;
+    const auto width = static_cast<float>(space.width);
+    const auto height = static_cast<float>(space.height);
+    layout.lineLegend.emplace(std::move(entries), placement, layout.legendStyle,
+                              TextRoom{isAbove || placement.isRow ? width : c_lineLegendWidth * width,
+                                       isBeside || placement.isInside ? height : c_lineLegendHeight * height});
+    layout.lineLegendLeft = placement.isLeft ? space.x : space.x + space.width - layout.lineLegend->getWidth();
+    layout.lineLegendTop = placement.isBottom ? space.y + space.height - layout.lineLegend->getHeight() : space.y;
+    const int gap = layout.lineLegend->getWidth() > 0 ? static_cast<int>(std::round(em)) : 0;
+    if (isBeside) {
+        space.width -= layout.lineLegend->getWidth() + gap;
+        space.x += placement.isLeft ? layout.lineLegend->getWidth() + gap : 0;
+    } else if (isAbove) {
+        space.height -= layout.lineLegend->getHeight() + gap;
+        space.y += placement.isBottom ? 0 : layout.lineLegend->getHeight() + gap;
+    }
+}
+
 } // namespace
+
+void placeLineLegend(FrameLayout& layout)
+{
+    if (!layout.lineLegend) {
+        return;
+    }
+    const LineLegendBox& legend = *layout.lineLegend;
+    const LineLegendPlacement& placement = legend.getPlacement();
+    const PixelArea& area = layout.area.whole;
+    const int margin =
+        placement.isInside ? static_cast<int>(std::round(c_margin * layout.legendStyle.tickFonts.fontSize())) : 0;
+    // Outside of the axes the legend has its place on one axis, and is aligned with the area on the other.
+    if (placement.isInside || placement.isRow) {
+        layout.lineLegendLeft = placement.isLeft ? area.x + margin : area.x + area.width - legend.getWidth() - margin;
+    }
+    if (placement.isInside || !placement.isRow) {
+        layout.lineLegendTop =
+            placement.isBottom ? area.y + area.height - legend.getHeight() - margin : area.y + margin;
+    }
+}
 
 FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, const std::vector<TitleItem>& title,
                              FontSets& fonts, int width, int height)
@@ -117,6 +178,9 @@ FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, c
     layout.titleLeft = 0.5f * (fullWidth - layout.title.width);
     layout.space = {static_cast<int>(margin), static_cast<int>(top), static_cast<int>(right - margin),
                     static_cast<int>(fullHeight - top - margin)};
+    if (frame.appearance.showLegends) {
+        layOutLineLegend(frame, layout, em);
+    }
     return layout;
 }
 
