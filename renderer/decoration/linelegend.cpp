@@ -90,7 +90,7 @@ LineLegendBox::LineLegendBox(std::vector<LineLegendEntry> entries, const LineLeg
             y += rowHeight;
             rowHeight = 0.0f;
         }
-        if (y + height > room.height - padding) {
+        if (y + height > room.height - padding || x + width > room.width - padding) {
             break;
         }
         rowHeight = std::max(rowHeight, height);

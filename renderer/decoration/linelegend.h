@@ -20,8 +20,8 @@ struct LineLegendEntry {
 /// How the legend of lines is laid out, and where.
 ///
 /// Positions are the corners of the axes: 0 upper right, 1 lower right, 2 lower left, 3 upper left. Strategies:
-/// 0 over the plot in a frame, one line below the other; 1 beside the axes; 2 above or below the axes, the lines side by
-/// side; 3 over the plot in a frame, the lines side by side; 4 and 5 as 0 and 3 without a frame.
+/// 0 over the plot in a frame, one line below the other; 1 beside the axes; 2 above or below the axes, the lines side
+/// by side; 3 over the plot in a frame, the lines side by side; 4 and 5 as 0 and 3 without a frame.
 struct LineLegendPlacement {
     LineLegendPlacement(int position, int strategy);
 

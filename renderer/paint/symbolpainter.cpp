@@ -39,8 +39,8 @@ void main()
 }
 )";
 
-// The distance of a pixel from the outline, inside below 0, decides how much of it is covered. Shapes are given in units
-// of the radius, with areas that look alike.
+// The distance of a pixel from the outline, inside below 0, decides how much of it is covered. Shapes are given in
+// units of the radius, with areas that look alike.
 constexpr const char* c_fragmentMain = R"(
 in vec2 offset;
 out vec4 result;

@@ -26,9 +26,8 @@ constexpr float c_titlePart = 0.3f;
 constexpr float c_legendPart = 0.45f;
 /// Legends that would be lower than this, in units of the size of their numbers, are left out.
 constexpr float c_lowestLegend = 4.0f;
-/// Parts of the picture that the legend of lines may take in width, and in height outside of the axes.
-constexpr float c_lineLegendWidth = 0.4f;
-constexpr float c_lineLegendHeight = 0.3f;
+/// Part of the picture that the legend of lines may take beside, above or below the axes.
+constexpr float c_lineLegendPart = 0.35f;
 
 /// The plots of a picture that show their colours.
 std::vector<PlotItem> withLegends(const std::vector<SceneItem>& items)
@@ -77,59 +76,76 @@ float layOutLegends(FrameLayout& layout, float em, float maxWidth, float height)
     return width;
 }
 
-/// Lays out the legend of lines; outside of the axes it takes its part of the space.
-void layOutLineLegend(const Frame& frame, FrameLayout& layout, float em)
+std::vector<LineLegendEntry> lineLegendsOf(const std::vector<SceneItem>& items)
 {
     std::vector<LineLegendEntry> entries;
-    for (const SceneItem& item : layout.items) {
+    for (const SceneItem& item : items) {
         if (const auto* plot = std::get_if<PlotItem>(&item)) {
             std::ranges::move(lineLegendOf(*plot->plot), std::back_inserter(entries));
         }
     }
+    return entries;
+}
+
+LineLegendPlacement lineLegendPlacementOf(const Frame& frame)
+{
+    const vxgraphics3d::AxisSetup& axes = *frame.canvas.getAxisSetupPtr();
+    return {axes.getLegendPosition(), axes.getLegendLayoutStrategy()};
+}
+
+/// Lays out a legend of lines that is outside of the axes, and takes its part of the space.
+void layOutLineLegend(const Frame& frame, FrameLayout& layout)
+{
+    const LineLegendPlacement placement = lineLegendPlacementOf(frame);
+    std::vector<LineLegendEntry> entries = lineLegendsOf(layout.items);
     PixelArea& space = layout.space;
-    if (entries.empty() || space.isEmpty()) {
+    if (placement.isInside || entries.empty() || space.isEmpty()) {
         return;
     }
-    const vxgraphics3d::AxisSetup& axes = *frame.canvas.getAxisSetupPtr();
-    const LineLegendPlacement placement(axes.getLegendPosition(), axes.getLegendLayoutStrategy());
-    const bool isBeside = !placement.isInside && !placement.isRow;
-    const bool isAbove = !placement.isInside && placement.isRow;
     const auto width = static_cast<float>(space.width);
     const auto height = static_cast<float>(space.height);
-    layout.lineLegend.emplace(std::move(entries), placement, layout.legendStyle,
-                              TextRoom{isAbove || placement.isRow ? width : c_lineLegendWidth * width,
-                                       isBeside || placement.isInside ? height : c_lineLegendHeight * height});
-    layout.lineLegendLeft = placement.isLeft ? space.x : space.x + space.width - layout.lineLegend->getWidth();
-    layout.lineLegendTop = placement.isBottom ? space.y + space.height - layout.lineLegend->getHeight() : space.y;
-    const int gap = layout.lineLegend->getWidth() > 0 ? static_cast<int>(std::round(em)) : 0;
-    if (isBeside) {
-        space.width -= layout.lineLegend->getWidth() + gap;
-        space.x += placement.isLeft ? layout.lineLegend->getWidth() + gap : 0;
-    } else if (isAbove) {
-        space.height -= layout.lineLegend->getHeight() + gap;
-        space.y += placement.isBottom ? 0 : layout.lineLegend->getHeight() + gap;
+    const LineLegendBox& legend = layout.lineLegend.emplace(
+        std::move(entries), placement, layout.legendStyle,
+        placement.isRow ? TextRoom{width, c_lineLegendPart * height} : TextRoom{c_lineLegendPart * width, height});
+    if (legend.getWidth() == 0) {
+        return;
+    }
+    layout.lineLegendLeft = placement.isLeft ? space.x : space.x + space.width - legend.getWidth();
+    layout.lineLegendTop = placement.isBottom ? space.y + space.height - legend.getHeight() : space.y;
+    const int gap = static_cast<int>(std::round(c_margin * layout.legendStyle.tickFonts.fontSize()));
+    if (placement.isRow) {
+        space.height -= legend.getHeight() + gap;
+        space.y += placement.isBottom ? 0 : legend.getHeight() + gap;
+    } else {
+        space.width -= legend.getWidth() + gap;
+        space.x += placement.isLeft ? legend.getWidth() + gap : 0;
     }
 }
 
 } // namespace
 
-void placeLineLegend(FrameLayout& layout)
+void placeLineLegend(const Frame& frame, FrameLayout& layout)
 {
-    if (!layout.lineLegend) {
-        return;
-    }
-    const LineLegendBox& legend = *layout.lineLegend;
-    const LineLegendPlacement& placement = legend.getPlacement();
+    const LineLegendPlacement placement = lineLegendPlacementOf(frame);
     const PixelArea& area = layout.area.whole;
     const int margin =
         placement.isInside ? static_cast<int>(std::round(c_margin * layout.legendStyle.tickFonts.fontSize())) : 0;
-    // Outside of the axes the legend has its place on one axis, and is aligned with the area on the other.
+    if (placement.isInside && frame.appearance.showLegends) {
+        const TextRoom room = {static_cast<float>(area.width - 2 * margin),
+                               static_cast<float>(area.height - 2 * margin)};
+        layout.lineLegend.emplace(lineLegendsOf(layout.items), placement, layout.legendStyle, room);
+    }
+    if (!layout.lineLegend) {
+        return;
+    }
+    // Outside of the axes the legend has its position along one axis, and is aligned with the area along the other.
     if (placement.isInside || placement.isRow) {
-        layout.lineLegendLeft = placement.isLeft ? area.x + margin : area.x + area.width - legend.getWidth() - margin;
+        layout.lineLegendLeft =
+            placement.isLeft ? area.x + margin : area.x + area.width - layout.lineLegend->getWidth() - margin;
     }
     if (placement.isInside || !placement.isRow) {
         layout.lineLegendTop =
-            placement.isBottom ? area.y + area.height - legend.getHeight() - margin : area.y + margin;
+            placement.isBottom ? area.y + area.height - layout.lineLegend->getHeight() - margin : area.y + margin;
     }
 }
 
@@ -179,7 +195,7 @@ FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, c
     layout.space = {static_cast<int>(margin), static_cast<int>(top), static_cast<int>(right - margin),
                     static_cast<int>(fullHeight - top - margin)};
     if (frame.appearance.showLegends) {
-        layOutLineLegend(frame, layout, em);
+        layOutLineLegend(frame, layout);
     }
     return layout;
 }

@@ -53,7 +53,7 @@ struct FrameLayout {
 };
 
 /// Finds the position of the legend of lines for the area of the scene.
-void placeLineLegend(FrameLayout& layout);
+void placeLineLegend(const Frame& frame, FrameLayout& layout);
 
 /// Lays out everything but the area of the scene, which follows from the remaining space and the camera.
 FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, const std::vector<TitleItem>& title,

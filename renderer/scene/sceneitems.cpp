@@ -12,6 +12,7 @@
 namespace vxrenderer {
 namespace {
 
+using vxgraphics3d::BoundingBox;
 using vxgraphics3d::SceneGraphGroup;
 using vxgraphics3d::SceneGraphNode;
 using vxgraphics3d::SceneGraphObject;
@@ -71,12 +72,15 @@ std::vector<SceneItem> collectItems(const SceneGraphRoot& root)
     return items;
 }
 
-vxgraphics3d::BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes)
+BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes)
 {
-    vxgraphics3d::BoundingBox box;
+    BoundingBox box;
     for (const SceneItem& item : items) {
         if (const SceneGraphPlotGraph* graph = graphOf(item)) {
             box.merge(graph->getBoundingBoxLog(logAxes));
+            if (graph->isShowUnitCircle() && logAxes == 0) {
+                box.merge(BoundingBox(-1.0f, 1.0f, -1.0f, 1.0f, 0.0f, 0.0f));
+            }
         } else if (const auto* plot = std::get_if<PlotItem>(&item)) {
             box.merge(plot->plot->getBoundingBox());
         } else {

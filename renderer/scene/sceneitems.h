@@ -21,7 +21,7 @@ using SceneItem = std::variant<PlotItem, ObjectItem>;
 /// objects that are active, under nodes that are all active.
 std::vector<SceneItem> collectItems(const vxgraphics3d::SceneGraphRoot& root);
 
-/// The box of all items in a view.
+/// The box of all items in a flat view, with unit circles.
 /// @param logAxes which axes are logarithmic: bit 0 for x, bit 1 for y. Graphs have boxes of their own for these; what
 ///                else is shown holds logarithms.
 vxgraphics3d::BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes);

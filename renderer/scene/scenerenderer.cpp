@@ -79,7 +79,7 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     if (frame.scene == nullptr) {
         return;
     }
-    layout.box = frame.logAxes() == 0 ? frame.scene->getBoundingBox() : boxOf(layout.items, frame.logAxes());
+    layout.box = frame.isFlat() ? boxOf(layout.items, frame.logAxes()) : frame.scene->getBoundingBox();
     layout.area = divideSpace(frame, layout.space, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
@@ -90,7 +90,7 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
         frame.camera.setRenderArea(layout.width, layout.height, area.x, layout.height - area.y - area.height,
                                    area.width, area.height);
         frame.camera.setBoundingBox(layout.box);
-        placeLineLegend(layout);
+        placeLineLegend(frame, layout);
     }
 }
 
