@@ -70,7 +70,10 @@ void LineDashes::lineTo(const Vector3f& point)
         double last = 1.0;
         if (clip(static_cast<double>(m_point.x), dx, -reach, static_cast<double>(m_width) + reach, first, last) &&
             clip(static_cast<double>(m_point.y), dy, -reach, static_cast<double>(m_height) + reach, first, last)) {
-            const auto at = [&](double part) { return m_point + (point - m_point) * static_cast<float>(part); };
+            const auto at = [&](double part) {
+                return Vector3f(static_cast<double>(m_point.x) + part * dx, static_cast<double>(m_point.y) + part * dy,
+                                0.0);
+            };
             addDashes(at(first), at(last), m_distance + first * length, (last - first) * length);
         }
         m_distance = std::fmod(m_distance + length, m_period);
