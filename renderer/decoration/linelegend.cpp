@@ -130,8 +130,17 @@ void LineLegendBox::draw(OverlayPainter& painter, const SymbolPainter& symbols, 
                       .symbol = row.entry.legend.line->m_marker,
                       .size = symbolSize(row.entry.lineWidth) * style.scale,
                       .color = channelsOf(color)});
-        painter.drawText(row.text, style.tickFonts, x + (c_sampleLength + c_textGap) * em,
-                         middle - 0.5f * row.text.height, style.color);
+        const auto drawText = [&](float right, float down, const Color& textColor) {
+            painter.drawText(row.text, style.tickFonts, x + (c_sampleLength + c_textGap) * em + right,
+                             middle - 0.5f * row.text.height + down, textColor);
+        };
+        // Without a background, a margin keeps the text apart from the lines under it.
+        for (int aside = -1; m_placement.isInside && !m_placement.hasFrame && aside <= 1; ++aside) {
+            for (int below = -1; below <= 1; ++below) {
+                drawText(static_cast<float>(aside), static_cast<float>(below), style.background);
+            }
+        }
+        drawText(0.0f, 0.0f, style.color);
     }
 }
 

@@ -32,12 +32,12 @@ void PaintContext::drawInstances(const Mesh* mesh, const InstanceBuffer* instanc
     }
 }
 
-void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width) const
+void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound) const
 {
     if (mesh != nullptr) {
         lines.draw(*mesh,
                    {view.projection * look.toEye, view.area.width, view.area.height, width * scale,
-                    view.aboveFaces(width * scale)},
+                    view.aboveFaces(width * scale), isRound},
                    faded(look.material, opacity));
     }
 }

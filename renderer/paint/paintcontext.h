@@ -53,7 +53,8 @@ struct PaintContext {
     void drawMesh(const Mesh* mesh, const Look& look) const;
     void drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const;
     /// @param width in pixels of the screen
-    void drawLines(const LineMesh* mesh, const Look& look, float width) const;
+    /// @param isRound whether the corners of wide opaque lines are round
+    void drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound = false) const;
     /// Lines that are copied for this call.
     /// @param toClip from their points to the area of the scene
     void drawSegments(std::span<const LineSegment> segments, const vxgraphics3d::Matrixf& toClip,

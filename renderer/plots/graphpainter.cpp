@@ -23,6 +23,8 @@ using vxgraphics3d::Vector3f;
 
 constexpr Color c_circleColor = {128, 128, 128, 255};
 constexpr int c_circleCorners = 360;
+/// Lines from this width in pixels of the screen have round corners.
+constexpr float c_roundWidth = 3.0f;
 
 void drawUnitCircle(const PaintContext& context)
 {
@@ -66,7 +68,7 @@ void drawLine(const SceneGraphPlotGraph& graph, const boost::shared_ptr<GraphLin
     // A line keeps its buffers for life, so that nothing tells them to be looked at again.
     if (line->m_lineStyle == LineStyle::solid || (line->m_lineStyle != LineStyle::none && !context.view.isFlat)) {
         context.drawLines(context.uploads.lines(line, context.logAxes, 1, version.vertices, version.strips), look,
-                          width);
+                          width, width >= c_roundWidth);
     } else if (line->m_lineStyle != LineStyle::none) {
         drawDashes(version, line->m_lineStyle, width, color, context);
     }

@@ -46,8 +46,8 @@ struct Line {
 
     Points markers(bool interpolates, int count) const
     {
-        return inPlane(markersOf(m_line.getVersion(0), BoundingBox(0.0f, 4.0f, 0.0f, 2.0f, 0.0f, 0.0f), interpolates,
-                                 count));
+        return inPlane(
+            markersOf(m_line.getVersion(0), BoundingBox(0.0f, 4.0f, 0.0f, 2.0f, 0.0f, 0.0f), interpolates, count));
     }
 
     GraphLine m_line;

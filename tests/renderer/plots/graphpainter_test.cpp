@@ -120,6 +120,27 @@ TEST_F(GraphPainterTest, widthColorAndStyleOfLinesCostNoUpload)
     EXPECT_EQ(m_canvas.getUploadCounts().meshes, before.meshes + 1);
 }
 
+TEST_F(GraphPainterTest, wideLinesHaveRoundEndsAndClosedCorners)
+{
+    fill({0, 1, 2}, {{0, 1, 0}});
+    m_graph->setLineWidth(21);
+    drawn(m_canvas);
+    camera().setViewLimits(-1.0f, 3.0f, -1.0f, 2.0f);
+    const Picture picture = drawnAsIs(m_canvas);
+    const auto isRed = [&](float x, float y, double right, double down) {
+        const auto at = pixelOf(m_canvas, {x, y, 0.0f});
+        return picture.at(static_cast<int>(at[0] + right), static_cast<int>(at[1] + down)) == c_red;
+    };
+    // The end of a square line would be at 10 pixels in all of these directions.
+    for (double angle = 0.0; angle < 6.2; angle += 0.1) {
+        EXPECT_TRUE(isRed(0.0f, 0.0f, 8.0 * std::cos(angle), 8.0 * std::sin(angle))) << angle;
+        EXPECT_TRUE(isRed(1.0f, 1.0f, 8.0 * std::cos(angle), 8.0 * std::sin(angle))) << angle;
+    }
+    for (double angle = 1.6; angle < 3.9; angle += 0.1) {
+        EXPECT_FALSE(isRed(0.0f, 0.0f, 12.0 * std::cos(angle), 12.0 * std::sin(angle))) << angle;
+    }
+}
+
 TEST_F(GraphPainterTest, symbolsHaveShapesOfTheirOwnAtTheMarkers)
 {
     fill({0, 4}, {{1, 1}});

@@ -48,7 +48,7 @@ public final class BracketPath implements Picture {
                 parts.setLegendDescription(i, COMPONENTS.get(i));
             }
             studio.nameAxes("Distance in mm", "Stress in MPa");
-            studio.axes().setExtraY(45);
+            studio.axes().setExtraY(28);
             studio.axes().setLegendLayoutStrategy(AxisSetup.LegendLayoutStrategy.RENDERER_2);
             studio.show(parts, "").show(total, "Stress along a path through the bracket").graph();
             studio.save();

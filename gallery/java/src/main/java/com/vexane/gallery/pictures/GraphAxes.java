@@ -4,6 +4,7 @@ import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
 import com.vexane.gallery.Sheet;
 import com.vexane.gallery.Studio;
+import com.vexane.graphics3d.AxisSetup;
 import com.vexane.graphics3d.SceneGraphPlotGraph;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.PlotKind;
@@ -18,6 +19,8 @@ import java.util.function.DoubleUnaryOperator;
                 + "takes the lines that the fill made for it.")
 public final class GraphAxes implements Picture {
     private static final int POINTS = 200;
+    private static final AxisSetup.LegendPosition LOWER_RIGHT = AxisSetup.LegendPosition.RENDERER_1;
+    private static final AxisSetup.LegendPosition UPPER_LEFT = AxisSetup.LegendPosition.RENDERER_3;
 
     private static PostDataGroup line(DoubleUnaryOperator function) {
         double[] x = new double[POINTS];
@@ -43,14 +46,14 @@ public final class GraphAxes implements Picture {
             for (int i = 0; i < names.length; ++i) {
                 plot.setLegendDescription(i, names[i]);
             }
+            studio.axes().setLegendLayoutStrategy(AxisSetup.LegendLayoutStrategy.RENDERER_0);
             studio.nameAxes("x", "y").show(plot, "").graph();
-            int width = studio.renderer().getWidth() / 2;
-            int height = studio.renderer().getHeight() / 2;
-            studio.renderer().resize(width, height);
+            studio.renderer().resize(studio.renderer().getWidth() * 3 / 4, studio.renderer().getHeight() * 3 / 4);
             Sheet sheet = new Sheet(2);
             for (int axes = 0; axes < 4; ++axes) {
                 studio.axes().setXAxisLog((axes & 1) != 0);
                 studio.axes().setYAxisLog((axes & 2) != 0);
+                studio.axes().setLegendPosition((axes & 2) != 0 ? LOWER_RIGHT : UPPER_LEFT);
                 studio.renderer().zoomExtents();
                 studio.renderer().draw();
                 sheet.add(studio.renderer());

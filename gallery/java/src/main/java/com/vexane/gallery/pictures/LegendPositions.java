@@ -5,6 +5,7 @@ import com.vexane.gallery.Picture;
 import com.vexane.gallery.Sheet;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.AxisSetup;
+import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.LineStyle;
 import com.vexane.graphics3d.RenderSymbol;
 import com.vexane.graphics3d.SceneGraphPlotGraph;
@@ -44,7 +45,9 @@ public final class LegendPositions implements Picture {
                 plot.setLegendDescription(i, "mode " + (i + 1));
             }
             studio.show(plot, "").graph();
-            studio.renderer().resize(studio.renderer().getWidth() * 3 / 8, studio.renderer().getHeight() / 3);
+            studio.canvas().setFont(Canvas3dSettings.Text.LEGEND_TICK, "default", 8);
+            studio.canvas().setFont(Canvas3dSettings.Text.AXIS_TICK, "default", 8);
+            studio.renderer().resize(studio.renderer().getWidth() / 2, studio.renderer().getHeight() / 2);
             Sheet sheet = new Sheet(4);
             for (AxisSetup.LegendLayoutStrategy layout : AxisSetup.LegendLayoutStrategy.values()) {
                 for (AxisSetup.LegendPosition position : AxisSetup.LegendPosition.values()) {
