@@ -1,5 +1,5 @@
-// Fills of graphs with one line, compared with a bare loop that writes the same four versions of it into new memory. The
-// points are in their order, or joined by edges in a random order. Both results are compared once, byte for byte.
+// Fills of graphs with one line, compared with a bare loop that writes the same four versions of it into new memory.
+// The points are in their order, or joined by edges in a random order. Both results are compared once, byte for byte.
 
 #include "graphics3d/plots/graph/graphline.h"
 #include "graphics3d/plots/graph/scenegraphplotgraph.h"
@@ -127,9 +127,10 @@ bool areEqual(const GraphLine& line, const BareLine& bare, std::size_t count)
         const GraphLine::Version version = line.getVersion(static_cast<int>(axes));
         if (static_cast<std::size_t>(version.vertices.getNumberOfVertices()) != count ||
             version.strips.getSegmentStarts() != std::vector<int>{0, static_cast<int>(count)} ||
-            std::memcmp(version.vertices.vertexPointer(), bare.versions[axes].vertices.get(), count * sizeof(VertexCoords)) !=
-                0 ||
-            std::memcmp(version.strips.getIndices32(), bare.versions[axes].indices.get(), count * sizeof(unsigned int)) != 0) {
+            std::memcmp(version.vertices.vertexPointer(), bare.versions[axes].vertices.get(),
+                        count * sizeof(VertexCoords)) != 0 ||
+            std::memcmp(version.strips.getIndices32(), bare.versions[axes].indices.get(),
+                        count * sizeof(unsigned int)) != 0) {
             return false;
         }
     }

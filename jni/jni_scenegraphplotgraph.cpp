@@ -10,7 +10,8 @@ using namespace vxgraphics3d;
 
 VX_NATIVE(void, SceneGraphPlotGraph, setMarkersInterpolation)(JNIEnv* env, jclass, jobject self, jboolean interpolate)
 {
-    native(env, "setMarkersInterpolation", [&] { peer<SceneGraphPlotGraph>(env, self).setMarkersInterpolation(interpolate); });
+    native(env, "setMarkersInterpolation",
+           [&] { peer<SceneGraphPlotGraph>(env, self).setMarkersInterpolation(interpolate); });
 }
 
 VX_NATIVE(void, SceneGraphPlotGraph, setShowUnitCircle)(JNIEnv* env, jclass, jobject self, jboolean show)
@@ -25,7 +26,9 @@ VX_NATIVE(void, SceneGraphPlotGraph, setShowLegends)(JNIEnv* env, jclass, jobjec
 
 VX_NATIVE(void, SceneGraphPlotGraph, setLegendDescription)(JNIEnv* env, jclass, jobject self, jint index, jstring text)
 {
-    native(env, "setLegendDescription", [&] { peer<SceneGraphPlotGraph>(env, self).setLegendDescription(index, fromJava<vxbase::UString>(env, text)); });
+    native(env, "setLegendDescription", [&] {
+        peer<SceneGraphPlotGraph>(env, self).setLegendDescription(index, fromJava<vxbase::UString>(env, text));
+    });
 }
 
 VX_NATIVE(void, SceneGraphPlotGraph, setNMarkers)(JNIEnv* env, jclass, jobject self, jint count)
@@ -35,17 +38,20 @@ VX_NATIVE(void, SceneGraphPlotGraph, setNMarkers)(JNIEnv* env, jclass, jobject s
 
 VX_NATIVE(jint, SceneGraphPlotGraph, setCycleColor)(JNIEnv* env, jclass, jobject self, jboolean cycle, jint first)
 {
-    return native(env, "setCycleColor", [&] { return peer<SceneGraphPlotGraph>(env, self).setLineColorCycle(cycle, first); });
+    return native(env, "setCycleColor",
+                  [&] { return peer<SceneGraphPlotGraph>(env, self).setLineColorCycle(cycle, first); });
 }
 
 VX_NATIVE(void, SceneGraphPlotGraph, setMarkerType)(JNIEnv* env, jclass, jobject self, jboolean cycle, jint first)
 {
-    native(env, "setMarkerType", [&] { peer<SceneGraphPlotGraph>(env, self).setMarkerType(cycle, javaRenderSymbolToCpp(first)); });
+    native(env, "setMarkerType",
+           [&] { peer<SceneGraphPlotGraph>(env, self).setMarkerType(cycle, javaRenderSymbolToCpp(first)); });
 }
 
 VX_NATIVE(void, SceneGraphPlotGraph, setLineStyle)(JNIEnv* env, jclass, jobject self, jboolean cycle, jint first)
 {
-    native(env, "setLineStyle", [&] { peer<SceneGraphPlotGraph>(env, self).setLineStyle(cycle, javaLineStyleToCpp(first)); });
+    native(env, "setLineStyle",
+           [&] { peer<SceneGraphPlotGraph>(env, self).setLineStyle(cycle, javaLineStyleToCpp(first)); });
 }
 
 VX_NATIVE(void, SceneGraphPlotGraph, setLineWidth)(JNIEnv* env, jclass, jobject self, jint width)

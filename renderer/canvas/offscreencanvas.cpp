@@ -227,10 +227,11 @@ void OffscreenCanvas::zoomExtents()
     if (!m_sceneView || !m_sceneView->getScene()->getBoundingBox().isValid()) {
         return;
     }
-    const BoundingBox box = m_sceneView->getScene()->getBoundingBox();
     const Appearance look = appearance();
-    const SceneArea area = m_renderer->layOut(frameOf(camera(), look), getWidth(), getHeight()).area;
-    if (area.whole.isEmpty()) {
+    const FrameLayout layout = m_renderer->layOut(frameOf(camera(), look), getWidth(), getHeight());
+    const SceneArea& area = layout.area;
+    const BoundingBox& box = layout.box;
+    if (area.whole.isEmpty() || !box.isValid()) {
         return;
     }
     if (renderModeOf(*m_settings) == Canvas3dSettings::RenderMode2d) {

@@ -16,6 +16,10 @@ struct LegendStyle {
     FontSet& titleFonts;
     FontSet& tickFonts;
     vxgraphics3d::Color color;
+    /// Behind legends over the plot.
+    vxgraphics3d::Color background;
+    /// Pixels of the picture for a pixel of the screen.
+    float scale = 1.0f;
     /// Of the frames of bars and of their ticks, in whole pixels.
     float lineWidth = 1.0f;
     /// Whether the smallest and the largest value of the data appear below and above the bar.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/canvas/axissetup.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "renderer/frame/appearance.h"
 
@@ -32,6 +33,12 @@ struct Frame {
 
     /// Whether it is a 2D view.
     bool isFlat() const { return renderModeOf(canvas) == vxgraphics3d::Canvas3dSettings::RenderMode2d; }
+    /// Which axes are logarithmic: bit 0 for x, bit 1 for y. In space none is.
+    int logAxes() const
+    {
+        const vxgraphics3d::AxisSetup& axes = *canvas.getAxisSetupPtr();
+        return isFlat() ? (axes.getXAxisLog() ? 1 : 0) + (axes.getYAxisLog() ? 2 : 0) : 0;
+    }
     /// The camera of a 2D view.
     const vxgraphics3d::Camera2d& camera2d() const { return static_cast<const vxgraphics3d::Camera2d&>(camera); }
     /// Whether the view shows angles and radii.

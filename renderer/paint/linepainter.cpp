@@ -20,11 +20,15 @@ layout(std140) uniform Line {
     float reach;
     // What is added to z and w for each unit of w to bring a point nearer to the eye.
     vec2 towardsEye;
+    float roundness;
 };
 layout(location = 0) in vec3 from;
 layout(location = 1) in vec3 to;
 layout(location = 2) in vec2 texturePlaces;
 centroid out float u;
+// In units of half the width: the distance from the start along the line, its length, and the distance from its middle.
+// Only round ends need it.
+out vec3 cap;
 
 void main()
 {
@@ -35,6 +39,7 @@ void main()
     vec2 places = texturePlaces;
     if (depthA < 0.0 && depthB < 0.0) {
         u = 0.0;
+        cap = vec3(0.0);
         gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
         return;
     }
@@ -56,6 +61,8 @@ void main()
     vec2 offset = (gl_VertexID & 1) == 0 ? side : -side;
     offset += reach * (isEnd ? along : -along);
     u = isEnd ? places.y : places.x;
+    cap = roundness * vec3((isEnd ? size / lineWidth + reach : -reach), size / lineWidth,
+                           (gl_VertexID & 1) == 0 ? 1.0 : -1.0);
     place.xy += lineWidth * offset / viewport * place.w;
     // The near plane cuts lines off only where it cuts off what they lie on.
     place.z = max((place.z + towardsEye.x * place.w) / (1.0 + towardsEye.y), -place.w);
@@ -65,11 +72,14 @@ void main()
 
 constexpr const char* c_fragmentMain = R"(
 centroid in float u;
+in vec3 cap;
 out vec4 result;
 
 void main()
 {
-    if (isHidden(u)) {
+    float beyond = max(max(-cap.x, cap.x - cap.y), 0.0);
+    bool isRoundedOff = beyond > 0.0 && beyond * beyond + cap.z * cap.z > 1.0;
+    if (isHidden(u) || isRoundedOff) {
         discard;
     }
     result = vec4(materialColor(u), uniformColor.a);
@@ -87,7 +97,8 @@ struct LinePainter::LineBlock {
     float lineWidth;
     float reach;
     std::array<float, 2> towardsEye;
-    std::array<float, 2> unused{};
+    float roundness;
+    float unused = 0.0f;
 };
 
 LinePainter::LinePainter()
@@ -116,6 +127,7 @@ void LinePainter::setUp(const Frame& frame, const Material& material, bool isClo
     block.lineWidth = frame.lineWidth;
     block.reach = isClosed ? 1.0f : 0.0f;
     block.towardsEye = {frame.towardsEye.z, frame.towardsEye.w};
+    block.roundness = frame.isRound ? 1.0f : 0.0f;
     m_program.use();
     m_line.set(block);
     m_material.set(material);

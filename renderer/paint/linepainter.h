@@ -36,6 +36,8 @@ public:
         float lineWidth;
         /// By how much lines are nearer to the eye than their points.
         DepthShift towardsEye{};
+        /// Whether ends that reach beyond their points are round, so that wide lines have round corners.
+        bool isRound = false;
     };
 
     LinePainter();

@@ -3,6 +3,9 @@
 #include "renderer/frame/view.h"
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
+#include "renderer/paint/symbolpainter.h"
+
+#include <cmath>
 
 namespace vxrenderer {
 namespace {
@@ -36,13 +39,30 @@ void PaintContext::drawSpheres(const SphereBuffer* spheres, float radiusScale, c
     }
 }
 
-void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width) const
+void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound) const
 {
     if (mesh != nullptr) {
         lines.draw(*mesh,
                    {view.projection * look.toEye, view.area.width, view.area.height, width * scale,
-                    view.aboveFaces(width * scale)},
+                    view.aboveFaces(width * scale), isRound},
                    faded(look.material, opacity));
+    }
+}
+
+void PaintContext::drawSegments(std::span<const LineSegment> segments, const vxgraphics3d::Matrixf& toClip,
+                                const vxgraphics3d::Color& color, float width) const
+{
+    vxgraphics3d::Color faint = color;
+    faint.alpha = static_cast<int>(std::lround(255.0f * opacity));
+    lines.draw(segments, {toClip, view.area.width, view.area.height, width * scale, view.aboveFaces(width * scale)},
+               faint);
+}
+
+void PaintContext::drawSymbols(const InstanceBuffer* positions, const Look& look, RenderSymbol symbol, float size) const
+{
+    if (positions != nullptr) {
+        symbols.draw(*positions, {view.projection * look.toEye, view.area.width, view.area.height, symbol, size * scale,
+                                  faded(look.material, opacity).color, view.aboveFaces(size * scale)});
     }
 }
 

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "graphics3d/foundation/color.h"
 #include "graphics3d/foundation/matrixf.h"
+#include "graphics3d/plots/graph/rendersymbol.h"
 #include "renderer/paint/material.h"
 #include "renderer/paint/scenelabel.h"
 
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -16,7 +19,9 @@ class LinePainter;
 class Mesh;
 class MeshPainter;
 class SphereBuffer;
+class SymbolPainter;
 class UploadCache;
+struct LineSegment;
 struct View;
 
 /// Where something is drawn, and how it looks.
@@ -37,10 +42,13 @@ struct PaintContext {
     float opacity;
     /// Pixels of the picture for a pixel of the screen, by which widths of lines are multiplied.
     float scale;
+    /// Which axes are logarithmic: bit 0 for x, bit 1 for y.
+    int logAxes;
     UploadCache& uploads;
     ColorTextures& colorTextures;
     MeshPainter& meshes;
     const LinePainter& lines;
+    const SymbolPainter& symbols;
     std::vector<SceneLabel>& labels;
 
     void drawMesh(const Mesh* mesh, const Look& look) const;
@@ -48,7 +56,15 @@ struct PaintContext {
     /// @param radiusScale multiplies all radii
     void drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const;
     /// @param width in pixels of the screen
-    void drawLines(const LineMesh* mesh, const Look& look, float width) const;
+    /// @param isRound whether the corners of wide opaque lines are round
+    void drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound = false) const;
+    /// Lines that are copied for this call.
+    /// @param toClip from their points to the area of the scene
+    void drawSegments(std::span<const LineSegment> segments, const vxgraphics3d::Matrixf& toClip,
+                      const vxgraphics3d::Color& color, float width) const;
+    /// A symbol at the position of each instance.
+    /// @param size in pixels of the screen
+    void drawSymbols(const InstanceBuffer* positions, const Look& look, RenderSymbol symbol, float size) const;
     /// The label is drawn over everything that it is not hidden by.
     void drawLabel(SceneLabel label) const { labels.push_back(std::move(label)); }
 };

@@ -1,5 +1,6 @@
 #include "renderer/scene/framelayout.h"
 
+#include "graphics3d/canvas/axissetup.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/decoration/legendscale.h"
 #include "renderer/frame/frame.h"
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace vxrenderer {
@@ -24,6 +26,8 @@ constexpr float c_titlePart = 0.3f;
 constexpr float c_legendPart = 0.45f;
 /// Legends that would be lower than this, in units of the size of their numbers, are left out.
 constexpr float c_lowestLegend = 4.0f;
+/// Part of the picture that the legend of lines may take beside, above or below the axes.
+constexpr float c_lineLegendPart = 0.35f;
 
 /// The plots of a picture that show their colours.
 std::vector<PlotItem> withLegends(const std::vector<SceneItem>& items)
@@ -44,6 +48,8 @@ LegendStyle legendStyleOf(const Frame& frame, FontSet& titles, FontSet& ticks)
     return {.titleFonts = titles,
             .tickFonts = ticks,
             .color = frame.appearance.textColor(),
+            .background = frame.appearance.backdrop.top,
+            .scale = frame.appearance.scale,
             .lineWidth = std::max(1.0f, std::round(frame.appearance.scale)),
             .showMinMax = frame.appearance.showMinMax,
             .tickDigits = settings.getLegendTickPrecision(),
@@ -70,7 +76,78 @@ float layOutLegends(FrameLayout& layout, float em, float maxWidth, float height)
     return width;
 }
 
+std::vector<LineLegendEntry> lineLegendsOf(const std::vector<SceneItem>& items)
+{
+    std::vector<LineLegendEntry> entries;
+    for (const SceneItem& item : items) {
+        if (const auto* plot = std::get_if<PlotItem>(&item)) {
+            std::ranges::move(lineLegendOf(*plot->plot), std::back_inserter(entries));
+        }
+    }
+    return entries;
+}
+
+LineLegendPlacement lineLegendPlacementOf(const Frame& frame)
+{
+    const vxgraphics3d::AxisSetup& axes = *frame.canvas.getAxisSetupPtr();
+    return {axes.getLegendPosition(), axes.getLegendLayoutStrategy()};
+}
+
+/// Lays out a legend of lines that is outside of the axes, and takes its part of the space.
+void layOutLineLegend(const Frame& frame, FrameLayout& layout)
+{
+    const LineLegendPlacement placement = lineLegendPlacementOf(frame);
+    std::vector<LineLegendEntry> entries = lineLegendsOf(layout.items);
+    PixelArea& space = layout.space;
+    if (placement.isInside || entries.empty() || space.isEmpty()) {
+        return;
+    }
+    const auto width = static_cast<float>(space.width);
+    const auto height = static_cast<float>(space.height);
+    const LineLegendBox& legend = layout.lineLegend.emplace(
+        std::move(entries), placement, layout.legendStyle,
+        placement.isRow ? TextRoom{width, c_lineLegendPart * height} : TextRoom{c_lineLegendPart * width, height});
+    if (legend.getWidth() == 0) {
+        return;
+    }
+    layout.lineLegendLeft = placement.isLeft ? space.x : space.x + space.width - legend.getWidth();
+    layout.lineLegendTop = placement.isBottom ? space.y + space.height - legend.getHeight() : space.y;
+    const int gap = static_cast<int>(std::round(c_margin * layout.legendStyle.tickFonts.fontSize()));
+    if (placement.isRow) {
+        space.height -= legend.getHeight() + gap;
+        space.y += placement.isBottom ? 0 : legend.getHeight() + gap;
+    } else {
+        space.width -= legend.getWidth() + gap;
+        space.x += placement.isLeft ? legend.getWidth() + gap : 0;
+    }
+}
+
 } // namespace
+
+void placeLineLegend(const Frame& frame, FrameLayout& layout)
+{
+    const LineLegendPlacement placement = lineLegendPlacementOf(frame);
+    const PixelArea& area = layout.area.whole;
+    const int margin =
+        placement.isInside ? static_cast<int>(std::round(c_margin * layout.legendStyle.tickFonts.fontSize())) : 0;
+    if (placement.isInside && frame.appearance.showLegends) {
+        const TextRoom room = {static_cast<float>(area.width - 2 * margin),
+                               static_cast<float>(area.height - 2 * margin)};
+        layout.lineLegend.emplace(lineLegendsOf(layout.items), placement, layout.legendStyle, room);
+    }
+    if (!layout.lineLegend) {
+        return;
+    }
+    // Outside of the axes the legend has its position along one axis, and is aligned with the area along the other.
+    if (placement.isInside || placement.isRow) {
+        layout.lineLegendLeft =
+            placement.isLeft ? area.x + margin : area.x + area.width - layout.lineLegend->getWidth() - margin;
+    }
+    if (placement.isInside || !placement.isRow) {
+        layout.lineLegendTop =
+            placement.isBottom ? area.y + area.height - layout.lineLegend->getHeight() - margin : area.y + margin;
+    }
+}
 
 FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, const std::vector<TitleItem>& title,
                              FontSets& fonts, int width, int height)
@@ -117,6 +194,9 @@ FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, c
     layout.titleLeft = 0.5f * (fullWidth - layout.title.width);
     layout.space = {static_cast<int>(margin), static_cast<int>(top), static_cast<int>(right - margin),
                     static_cast<int>(fullHeight - top - margin)};
+    if (frame.appearance.showLegends) {
+        layOutLineLegend(frame, layout);
+    }
     return layout;
 }
 

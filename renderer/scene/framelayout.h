@@ -2,11 +2,13 @@
 
 #include "renderer/decoration/axespainter.h"
 #include "renderer/decoration/legend.h"
+#include "renderer/decoration/linelegend.h"
 #include "renderer/scene/sceneitems.h"
 #include "renderer/text/textlayout.h"
 #include "renderer/text/titlemarkup.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace vxrenderer {
@@ -38,11 +40,20 @@ struct FrameLayout {
     float legendTop = 0.0f;
     float legendLeft = 0.0f;
     float legendGap = 0.0f;
+    std::optional<LineLegendBox> lineLegend{};
+    /// Where it goes, as soon as the area of the scene is known.
+    int lineLegendLeft = 0;
+    int lineLegendTop = 0;
     /// What is left for the scene with its axes.
     PixelArea space{};
+    /// What the scene covers on the axes of the view.
+    vxgraphics3d::BoundingBox box{};
     /// Where the scene goes; empty if there is none.
     SceneArea area{};
 };
+
+/// Finds the position of the legend of lines for the area of the scene.
+void placeLineLegend(const Frame& frame, FrameLayout& layout);
 
 /// Lays out everything but the area of the scene, which follows from the remaining space and the camera.
 FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, const std::vector<TitleItem>& title,

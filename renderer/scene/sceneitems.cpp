@@ -1,17 +1,22 @@
 #include "renderer/scene/sceneitems.h"
 
+#include "graphics3d/plots/graph/scenegraphplotgraph.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
 #include "graphics3d/scenegraph/scenegraphgroup.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 
 #include <boost/pointer_cast.hpp>
 
+#include <algorithm>
+
 namespace vxrenderer {
 namespace {
 
+using vxgraphics3d::BoundingBox;
 using vxgraphics3d::SceneGraphGroup;
 using vxgraphics3d::SceneGraphNode;
 using vxgraphics3d::SceneGraphObject;
+using vxgraphics3d::SceneGraphPlotGraph;
 using vxgraphics3d::SceneGraphPlotGroup;
 using vxgraphics3d::SceneGraphRoot;
 
@@ -26,6 +31,13 @@ void addPlots(const SceneGraphNode& node, std::vector<SceneItem>& items)
             items.push_back(PlotItem{group, plot->second});
         }
     }
+}
+
+const SceneGraphPlotGraph* graphOf(const SceneItem& item)
+{
+    const auto* plot = std::get_if<PlotItem>(&item);
+    const bool isGraph = plot != nullptr && plot->plot->getType() == vxgraphics3d::PlotType::graph;
+    return isGraph ? static_cast<const SceneGraphPlotGraph*>(plot->plot.get()) : nullptr;
 }
 
 } // namespace
@@ -58,6 +70,29 @@ std::vector<SceneItem> collectItems(const SceneGraphRoot& root)
         }
     }
     return items;
+}
+
+BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes)
+{
+    BoundingBox box;
+    for (const SceneItem& item : items) {
+        if (const SceneGraphPlotGraph* graph = graphOf(item)) {
+            box.merge(graph->getBoundingBoxLog(logAxes));
+            if (graph->isShowUnitCircle() && logAxes == 0) {
+                box.merge(BoundingBox(-1.0f, 1.0f, -1.0f, 1.0f, 0.0f, 0.0f));
+            }
+        } else if (const auto* plot = std::get_if<PlotItem>(&item)) {
+            box.merge(plot->plot->getBoundingBox());
+        } else {
+            box.merge(std::get<ObjectItem>(item)->getBoundingBox());
+        }
+    }
+    return box;
+}
+
+bool hasMoreThanGraphs(const std::vector<SceneItem>& items)
+{
+    return std::ranges::any_of(items, [](const SceneItem& item) { return graphOf(item) == nullptr; });
 }
 
 vxgraphics3d::Vector3f centerOf(const SceneItem& item)

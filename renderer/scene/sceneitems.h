@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics3d/foundation/boundingbox.h"
 #include "graphics3d/foundation/vector3f.h"
 #include "renderer/objects/objectpainter.h"
 #include "renderer/plots/plotpainter.h"
@@ -19,6 +20,14 @@ using SceneItem = std::variant<PlotItem, ObjectItem>;
 /// What is to be drawn of a scene, in the order of the tree: plots that are active and have something to show, and
 /// objects that are active, under nodes that are all active.
 std::vector<SceneItem> collectItems(const vxgraphics3d::SceneGraphRoot& root);
+
+/// The box of all items in a flat view, with unit circles.
+/// @param logAxes which axes are logarithmic: bit 0 for x, bit 1 for y. Graphs have boxes of their own for these; what
+///                else is shown holds logarithms.
+vxgraphics3d::BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes);
+
+/// Whether there is something else than lines of graphs.
+bool hasMoreThanGraphs(const std::vector<SceneItem>& items);
 
 /// The middle of the box of an item.
 vxgraphics3d::Vector3f centerOf(const SceneItem& item);

@@ -79,6 +79,7 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     if (frame.scene == nullptr) {
         return;
     }
+    layout.box = frame.isFlat() ? boxOf(layout.items, frame.logAxes()) : frame.scene->getBoundingBox();
     layout.area = divideSpace(frame, layout.space, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
@@ -88,7 +89,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
             std::max(std::min(middle - 0.5f * layout.title.width, rightmost), static_cast<float>(layout.space.x));
         frame.camera.setRenderArea(layout.width, layout.height, area.x, layout.height - area.y - area.height,
                                    area.width, area.height);
-        frame.camera.setBoundingBox(frame.scene->getBoundingBox());
+        frame.camera.setBoundingBox(layout.box);
+        placeLineLegend(frame, layout);
     }
 }
 
@@ -105,7 +107,8 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
         setBlending(false);
     }
     const std::vector<SceneLabel> labels = drawData(frame, layout);
-    if (axes != nullptr) {
+    // Lines hide nothing, and are not to be crossed by the grid.
+    if (axes != nullptr && hasMoreThanGraphs(layout.items)) {
         setBlending(true);
         axes->drawOver(m_lines);
         setBlending(false);
@@ -122,8 +125,8 @@ std::vector<SceneLabel> SceneRenderer::drawData(const Frame& frame, const FrameL
     glDepthFunc(GL_LEQUAL);
     m_meshes.begin(m_view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
     drawItems(layout.items, frame.canvas.getRenderMask(),
-              {m_view, frame.appearance.opacity, frame.appearance.scale, m_uploads, m_colorTextures, m_meshes, m_lines,
-               labels});
+              {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), m_uploads, m_colorTextures,
+               m_meshes, m_lines, m_symbols, labels});
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
     }
@@ -201,6 +204,10 @@ void SceneRenderer::drawDecoration(const FrameLayout& layout)
     for (const auto& legend : layout.legends) {
         legend->draw(m_overlay, m_colorTextures, layout.legendStyle, left, layout.legendTop, headHeight);
         left += legend->getWidth() + layout.legendGap;
+    }
+    if (layout.lineLegend && !layout.area.whole.isEmpty()) {
+        layout.lineLegend->draw(m_overlay, m_symbols, layout.legendStyle, layout.lineLegendLeft, layout.lineLegendTop,
+                                layout.width, layout.height);
     }
 }
 

@@ -8,6 +8,7 @@
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/symbolpainter.h"
 #include "renderer/plots/plotpainter.h"
 #include "renderer/scene/framelayout.h"
 #include "renderer/text/fontsets.h"
@@ -70,6 +71,7 @@ private:
     BackgroundPainter m_background;
     MeshPainter m_meshes;
     LinePainter m_lines;
+    SymbolPainter m_symbols;
     OverlayPainter m_overlay{m_counts};
     FontSets m_fontSets;
     boost::weak_ptr<const vxgraphics3d::SceneGraphNode> m_titleRoot;

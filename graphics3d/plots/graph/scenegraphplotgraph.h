@@ -29,7 +29,7 @@ public:
 
     // Markers and legend
 
-    /// Whether markers are spread along the lines, and not drawn at their points.
+    /// Whether markers are spread evenly along the lines, by their number, instead of one at each point.
     void setMarkersInterpolation(bool interpolate);
     /// Sets the number of markers of every line; counts a change even without lines.
     void setNumberOfMarkers(int count);

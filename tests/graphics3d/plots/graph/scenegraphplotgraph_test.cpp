@@ -174,8 +174,12 @@ TEST(SceneGraphPlotGraph, edgesAreJoinedToPolylinesAndRings)
         {"any order and direction", {{2, 1}, {3, 2}, {0, 1}}, {{{0, 0}, {1, 10}, {2, 20}, {3, 30}}}},
         {"two pieces", {{3, 2}, {1, 0}}, {{{0, 0}, {1, 10}}, {{2, 20}, {3, 30}}}},
         {"a ring, which repeats its first point", {{0, 1}, {1, 2}, {2, 0}}, {{{0, 0}, {1, 10}, {2, 20}, {0, 0}}}},
-        {"a ring runs along the first edge of its first point", {{2, 0}, {1, 2}, {0, 1}}, {{{0, 0}, {2, 20}, {1, 10}, {0, 0}}}},
-        {"a ring after a polyline", {{0, 1}, {1, 2}, {2, 0}, {4, 3}}, {{{3, 30}, {9, 90}}, {{0, 0}, {1, 10}, {2, 20}, {0, 0}}}},
+        {"a ring runs along the first edge of its first point",
+         {{2, 0}, {1, 2}, {0, 1}},
+         {{{0, 0}, {2, 20}, {1, 10}, {0, 0}}}},
+        {"a ring after a polyline",
+         {{0, 1}, {1, 2}, {2, 0}, {4, 3}},
+         {{{3, 30}, {9, 90}}, {{0, 0}, {1, 10}, {2, 20}, {0, 0}}}},
         {"an edge from a point to itself", {{1, 1}, {0, 2}}, {{{0, 0}, {2, 20}}}},
         {"a third edge starts at its other end and stops at a point already drawn",
          {{0, 1}, {1, 2}, {1, 3}},
@@ -504,16 +508,18 @@ TEST(SceneGraphPlotGraph, fillThatRunsOutOfMemoryLeavesNoLinesAndCanBeRepeated)
     SceneGraphPlotGraph plot(1);
     plot.fillPlot(first);
     int geometry = plot.getGeometryChangeId();
-    const long failures = failEachAllocation([&] { plot.fillPlot(second); }, [&] {
-        if (plot.getGeometryChangeId() == geometry) {
-            EXPECT_EQ(stripsOf(lineOf(plot), linear), (Strips{{{1, 1}, {2, 2}, {3, 3}}}));
-        } else {
-            EXPECT_FALSE(plot.isValid());
-        }
-        plot.fillPlot(first);
-        EXPECT_EQ(stripsOf(lineOf(plot), logXY).size(), 1u);
-        geometry = plot.getGeometryChangeId();
-    });
+    const long failures =
+        failEachAllocation([&] { plot.fillPlot(second); },
+                           [&] {
+                               if (plot.getGeometryChangeId() == geometry) {
+                                   EXPECT_EQ(stripsOf(lineOf(plot), linear), (Strips{{{1, 1}, {2, 2}, {3, 3}}}));
+                               } else {
+                                   EXPECT_FALSE(plot.isValid());
+                               }
+                               plot.fillPlot(first);
+                               EXPECT_EQ(stripsOf(lineOf(plot), logXY).size(), 1u);
+                               geometry = plot.getGeometryChangeId();
+                           });
     EXPECT_GE(failures, 28); // for each line itself, and vertices, indices and segments of its four versions
     EXPECT_EQ(plot.getLines().size(), 2u);
 }

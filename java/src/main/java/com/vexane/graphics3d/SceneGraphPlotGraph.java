@@ -26,15 +26,15 @@ public final class SceneGraphPlotGraph extends SceneGraphPlot {
     /**
      * Sets whether the markers are spread along each line.
      *
-     * @param interpolate true, as initially, for markers at equal distances along each line; false for markers at points
-     *     of the data
+     * @param interpolate true, as initially, for as many markers as {@link #setNMarkers} sets, at equal distances; false for
+     *     a marker at each point
      */
     public void setMarkersInterpolation(boolean interpolate) {
         setMarkersInterpolation(this, interpolate);
     }
 
     /**
-     * Sets how many markers each line has.
+     * Sets how many markers each line has, if they are {@linkplain #setMarkersInterpolation interpolated}.
      *
      * @param count the number of markers, initially 0
      */

@@ -1,14 +1,21 @@
 package com.vexane.gallery;
 
+import com.vexane.gallery.pictures.BracketPath;
 import com.vexane.gallery.pictures.BracketStress;
 import com.vexane.gallery.pictures.EarthRelief;
 import com.vexane.gallery.pictures.FourCameras;
+import com.vexane.gallery.pictures.FrequencyResponse;
+import com.vexane.gallery.pictures.GraphAxes;
 import com.vexane.gallery.pictures.Hardcopy;
+import com.vexane.gallery.pictures.LegendPositions;
 import com.vexane.gallery.pictures.LightsLockedAndFree;
 import com.vexane.gallery.pictures.LogarithmicAxes;
+import com.vexane.gallery.pictures.OceanProfile;
 import com.vexane.gallery.pictures.PolarView;
 import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
+import com.vexane.gallery.pictures.SeaTemperatureYear;
+import com.vexane.gallery.pictures.SymbolsAndStyles;
 import com.vexane.gallery.pictures.TerrainColors;
 import com.vexane.gallery.pictures.TerrainFine;
 import com.vexane.gallery.pictures.TerrainFlat;
@@ -36,6 +43,13 @@ public final class Gallery {
             new LightsLockedAndFree(),
             new LogarithmicAxes(),
             new PolarView(),
+            new SeaTemperatureYear(),
+            new OceanProfile(),
+            new BracketPath(),
+            new GraphAxes(),
+            new SymbolsAndStyles(),
+            new LegendPositions(),
+            new FrequencyResponse(),
             new Hardcopy());
 
     private static final int WIDTH = 1600;

@@ -168,6 +168,18 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
+     * Looks at graphs: each axis has a scale of its own, so that the lines fill the picture.
+     *
+     * @return this studio
+     */
+    public Studio graph() {
+        axes.setAxisType(AxisSetup.AxisType.GRAPH);
+        camera2d.setPreserveAspectRatio(false);
+        camera2d.setAxisViewScalesAuto();
+        return flat();
+    }
+
+    /**
      * Shows the scene without axes.
      *
      * @return this studio

@@ -13,8 +13,8 @@ import java.io.IOException;
 
 @About(title = "A flat view with both axes logarithmic",
         text = "The gain of a low-pass filter of second order over frequency and quality, computed in the program. "
-                + "Where axes are logarithmic, the plot holds the logarithms of its coordinates; the axes label them "
-                + "by their values.")
+                + "On logarithmic axes a surface holds the logarithms of its coordinates; the axes label them by "
+                + "their values.")
 public final class LogarithmicAxes implements Picture {
     private static final int COLUMNS = 401;
     private static final int ROWS = 201;

@@ -1,0 +1,154 @@
+#include "renderer/paint/symbolpainter.h"
+
+#include "renderer/upload/instancebuffer.h"
+#include "renderer/upload/mesh.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+
+namespace vxrenderer {
+namespace {
+
+constexpr const char* c_block = R"(
+layout(std140) uniform Symbol {
+    mat4 toClip;
+    vec4 color;
+    vec2 viewport;
+    // What is added to z and w for each unit of w to bring a symbol nearer to the eye.
+    vec2 towardsEye;
+    // Half the size of a symbol in pixels.
+    float radius;
+    int shape;
+};
+)";
+
+// One more pixel on each side is for the smooth border.
+constexpr const char* c_vertexMain = R"(
+layout(location = 6) in vec3 position;
+out vec2 offset;
+
+void main()
+{
+    vec2 corner = vec2((gl_VertexID & 1) == 0 ? -1.0 : 1.0, gl_VertexID < 2 ? -1.0 : 1.0);
+    offset = corner * (radius + 1.0);
+    vec4 place = toClip * vec4(position, 1.0);
+    place.xy += 2.0 * offset / viewport * place.w;
+    place.z = max((place.z + towardsEye.x * place.w) / (1.0 + towardsEye.y), -place.w);
+    gl_Position = place;
+}
+)";
+
+// The distance of a pixel from the outline, inside below 0, decides how much of it is covered. Shapes are given in
+// units of the radius, with areas that look alike.
+constexpr const char* c_fragmentMain = R"(
+in vec2 offset;
+out vec4 result;
+
+float bars(vec2 p)
+{
+    const float halfWidth = 0.2;
+    vec2 a = abs(p);
+    return min(max(a.x - halfWidth, a.y - 1.0), max(a.y - halfWidth, a.x - 1.0));
+}
+
+float triangle(vec2 p)
+{
+    p.y += 0.12;
+    return max(-p.y - 0.57, 0.866 * abs(p.x) + 0.5 * p.y - 0.57);
+}
+
+float outline(vec2 p)
+{
+    vec2 turned = 0.70711 * vec2(p.x + p.y, p.y - p.x);
+    switch (shape) {
+    case 0:
+        return length(p) - 0.9;
+    case 1:
+        return max(abs(p.x), abs(p.y)) - 0.8;
+    case 2:
+        return 0.70711 * (abs(p.x) + abs(p.y) - 1.1);
+    case 3:
+        return triangle(p);
+    case 4:
+        return triangle(vec2(p.x, -p.y));
+    case 5:
+        return bars(p);
+    case 6:
+        return bars(turned);
+    default:
+        return min(bars(p), bars(turned));
+    }
+}
+
+void main()
+{
+    float covered = clamp(0.5 - outline(offset / radius) * radius, 0.0, 1.0);
+    if (covered <= 0.0) {
+        discard;
+    }
+    result = vec4(color.rgb, color.a * covered);
+}
+)";
+
+} // namespace
+
+struct SymbolPainter::SymbolBlock {
+    static constexpr const char* c_block = "Symbol";
+    static constexpr GLuint c_binding = 6;
+
+    std::array<float, 16> toClip;
+    std::array<float, 4> color;
+    std::array<float, 2> viewport;
+    std::array<float, 2> towardsEye;
+    float radius;
+    std::int32_t shape;
+    std::array<float, 2> unused{};
+};
+
+SymbolPainter::SymbolPainter()
+    : m_program("symbols", (std::string(c_block) + c_vertexMain).c_str(),
+                (std::string(c_block) + c_fragmentMain).c_str())
+{
+    m_block.attach(m_program);
+}
+
+void SymbolPainter::draw(const InstanceBuffer& instances, const Frame& frame) const
+{
+    glBindVertexArray(m_array.name());
+    instances.bind();
+    draw(frame, instances.size());
+    InstanceBuffer::release();
+}
+
+void SymbolPainter::draw(const vxgraphics3d::Vector3f& position, const Frame& frame) const
+{
+    glBindVertexArray(m_array.name());
+    glVertexAttrib3f(static_cast<GLuint>(Attribute::instancePosition), position.x, position.y, position.z);
+    draw(frame, 1);
+}
+
+void SymbolPainter::draw(const Frame& frame, GLsizei count) const
+{
+    if (frame.symbol == RenderSymbol::none || count < 1) {
+        return;
+    }
+    SymbolBlock block{};
+    std::copy_n(frame.toClip.data(), block.toClip.size(), block.toClip.begin());
+    block.color = frame.color;
+    block.viewport = {static_cast<float>(frame.width), static_cast<float>(frame.height)};
+    block.towardsEye = {frame.towardsEye.z, frame.towardsEye.w};
+    block.radius = std::max(0.5f * frame.size, 0.5f);
+    block.shape = static_cast<int>(frame.symbol);
+    m_program.use();
+    m_block.set(block);
+    const bool isBlending = glIsEnabled(GL_BLEND) == GL_TRUE;
+    glEnable(GL_BLEND);
+    glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, count);
+    if (!isBlending) {
+        glDisable(GL_BLEND);
+    }
+}
+
+} // namespace vxrenderer

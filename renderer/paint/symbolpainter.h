@@ -1,0 +1,54 @@
+#pragma once
+
+#include "graphics3d/foundation/matrixf.h"
+#include "graphics3d/foundation/vector3f.h"
+#include "graphics3d/plots/graph/rendersymbol.h"
+#include "renderer/frame/view.h"
+#include "renderer/gl/globject.h"
+#include "renderer/gl/glprogram.h"
+#include "renderer/upload/uniformblock.h"
+
+#include <array>
+
+namespace vxrenderer {
+
+class InstanceBuffer;
+
+/// Draws symbols of a size in pixels that face the eye, with smooth borders whether or not the target has several
+/// samples per pixel.
+class SymbolPainter {
+public:
+    /// Where symbols go, and how they look.
+    struct Frame {
+        /// From the positions to the current viewport.
+        vxgraphics3d::Matrixf toClip;
+        /// Size of the viewport in pixels.
+        int width;
+        int height;
+        RenderSymbol symbol;
+        /// Width and height of a symbol in pixels.
+        float size;
+        /// Channels from 0 to 1.
+        std::array<float, 4> color;
+        /// By how much symbols are nearer to the eye than their positions.
+        DepthShift towardsEye{};
+    };
+
+    SymbolPainter();
+
+    /// Draws a symbol at the position of each instance.
+    void draw(const InstanceBuffer& instances, const Frame& frame) const;
+    void draw(const vxgraphics3d::Vector3f& position, const Frame& frame) const;
+
+private:
+    struct SymbolBlock;
+
+    /// Draws `count` symbols with the attributes that are set.
+    void draw(const Frame& frame, GLsizei count) const;
+
+    GlProgram m_program;
+    UniformBlock<SymbolBlock> m_block;
+    GlVertexArray m_array;
+};
+
+} // namespace vxrenderer
