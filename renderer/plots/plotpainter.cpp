@@ -2,6 +2,7 @@
 
 #include "renderer/plots/edgepainter.h"
 #include "renderer/plots/interactivepainter.h"
+#include "renderer/plots/pointlabelpainter.h"
 #include "renderer/plots/spherepainter.h"
 #include "renderer/plots/surfacepainter.h"
 
@@ -14,6 +15,7 @@ PlotPainters makePlotPainters()
     painters.push_back(std::make_unique<EdgePainter>());
     painters.push_back(std::make_unique<SpherePainter>());
     painters.push_back(std::make_unique<InteractivePainter>());
+    painters.push_back(std::make_unique<PointLabelPainter>());
     return painters;
 }
 

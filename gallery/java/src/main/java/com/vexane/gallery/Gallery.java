@@ -1,12 +1,18 @@
 package com.vexane.gallery;
 
+import com.vexane.gallery.pictures.BracketEdges;
 import com.vexane.gallery.pictures.BracketStress;
+import com.vexane.gallery.pictures.CityLabels;
+import com.vexane.gallery.pictures.DashedLines;
 import com.vexane.gallery.pictures.EarthRelief;
+import com.vexane.gallery.pictures.EarthquakeMap;
+import com.vexane.gallery.pictures.Earthquakes;
 import com.vexane.gallery.pictures.FourCameras;
 import com.vexane.gallery.pictures.Hardcopy;
 import com.vexane.gallery.pictures.LightsLockedAndFree;
 import com.vexane.gallery.pictures.LogarithmicAxes;
 import com.vexane.gallery.pictures.PolarView;
+import com.vexane.gallery.pictures.RaisedEdges;
 import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
 import com.vexane.gallery.pictures.TerrainColors;
@@ -31,6 +37,12 @@ public final class Gallery {
             new SeaTemperature(),
             new BracketStress(),
             new EarthRelief(),
+            new Earthquakes(),
+            new EarthquakeMap(),
+            new BracketEdges(),
+            new RaisedEdges(),
+            new CityLabels(),
+            new DashedLines(),
             new FourCameras(),
             new ResizeBehaviours(),
             new LightsLockedAndFree(),
