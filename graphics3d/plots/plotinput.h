@@ -22,10 +22,7 @@ struct PointPositions {
     static PointPositions ofAnyAxes(const vxdatacarrier::PostDataView& record, int group);
 
     /// The position of one point; loops over all points of large plots are in plotfill.h.
-    Vector3f operator[](std::size_t i) const
-    {
-        return {x[i], y != nullptr ? y[i] : 0.0, z != nullptr ? z[i] : 0.0};
-    }
+    Vector3f operator[](std::size_t i) const { return {x[i], y != nullptr ? y[i] : 0.0, z != nullptr ? z[i] : 0.0}; }
 
     int count;
     const double* x;

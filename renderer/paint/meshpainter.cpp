@@ -136,7 +136,8 @@ void MeshPainter::begin(const View& view, const Lighting& light)
     glGetIntegerv(GL_SAMPLES, &numSamples);
     m_isFlat = view.isFlat;
     m_pixelSize = view.pixelSize();
-    m_wRow = {view.projection.get(4, 1), view.projection.get(4, 2), view.projection.get(4, 3), view.projection.get(4, 4)};
+    m_wRow = {view.projection.get(4, 1), view.projection.get(4, 2), view.projection.get(4, 3),
+              view.projection.get(4, 4)};
     m_view.set({elementsOf(view.projection), roundingOf(view.area), view.isPerspective ? 1 : 0, view.isFlat ? 1 : 0,
                 view.pixelSize(), std::max(numSamples, 1)});
     m_light.set({light.ambient, light.places, light.diffuse, light.specular, light.cones});

@@ -67,7 +67,7 @@ std::optional<ShownLabel> shownLabel(const SceneLabel& label, const View& view, 
     // nearer by its own height, so that only what lies clearly in front of the point hides it. A text that does not lie
     // on its point reaches farther.
     const float unitsPerPixel = 2.0f * w / (view.projection.get(2, 2) * static_cast<float>(view.area.height));
-    const float reach = shown.text.height + (label.isBeside ? 0.5f * shown.text.width : 0.0f);
+    const float reach = shown.text.height + (label.isBeside ? shown.text.width : 0.0f);
     const Vector3f nearer = view.projection * (eye + Vector3f(0.0f, 0.0f, reach * unitsPerPixel));
     shown.depth = std::clamp(nearer.z, -1.0f, clip.z);
     shown.x = static_cast<float>(view.area.x) + 0.5f * (1.0f + clip.x) * static_cast<float>(view.area.width);
@@ -85,11 +85,11 @@ public:
         bool isTaken = false;
         forEachCell(rect, [&](const Cell& cell) {
             const auto found = m_cells.find(cell);
-            isTaken = isTaken || (found != m_cells.end() &&
-                                  std::ranges::any_of(found->second, [&](const PixelRect& other) {
-                                      return rect.left < other.right && other.left < rect.right &&
-                                             rect.top < other.bottom && other.top < rect.bottom;
-                                  }));
+            isTaken =
+                isTaken || (found != m_cells.end() && std::ranges::any_of(found->second, [&](const PixelRect& other) {
+                                return rect.left < other.right && other.left < rect.right && rect.top < other.bottom &&
+                                       other.top < rect.bottom;
+                            }));
         });
         return isTaken;
     }

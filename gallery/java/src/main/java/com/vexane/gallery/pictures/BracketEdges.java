@@ -29,9 +29,8 @@ public final class BracketEdges implements Picture {
             edges.fillPlot(surface);
             studio.show(edges, "Quality of the worst tetrahedron").view(-35, 25).save("The triangles of the surface.");
             edges.fillPlot(volume);
-            edges.setValueRestrictions(0, 0.2);
-            edges.setLineWidth(1.5f);
-            studio.view(-35, 25).save("Around tetrahedra of a quality below 0.2.");
+            edges.setValueRestrictions(0, 0.3);
+            studio.view(-35, 25).save("Around tetrahedra of a quality below 0.3.");
         }
     }
 
