@@ -1,5 +1,5 @@
-#include "graphics3d/plots/vector/scenegraphplotedge3d.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
+#include "graphics3d/plots/vector/scenegraphplotedge3d.h"
 #include "jni/support/native.h"
 
 #include <boost/make_shared.hpp>
@@ -26,8 +26,7 @@ VX_NATIVE(void, SceneGraphPlotEdge3d, createNative)(JNIEnv* env, jclass, jobject
 VX_NATIVE(void, SceneGraphPlotEdge3d, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint plotId)
 {
     native(env, "connectNative", [&] {
-        attach(
-            env, self,
-            castTo<SceneGraphPlotEdge3d>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId), "plotId"));
+        attach(env, self,
+               castTo<SceneGraphPlotEdge3d>(peer<SceneGraphPlotGroup>(env, owner, "owner").plotPtr(plotId), "plotId"));
     });
 }

@@ -9,24 +9,23 @@ using namespace vxgraphics3d;
 
 VX_NATIVE(void, SceneGraphPlotInteractive, setSolidFraction)(JNIEnv* env, jclass, jobject self, jdouble fraction)
 {
-    native(env, "setSolidFraction", [&] {
-        peer<SceneGraphPlotInteractive>(env, self).setSolidFraction(static_cast<float>(fraction));
-    });
+    native(env, "setSolidFraction",
+           [&] { peer<SceneGraphPlotInteractive>(env, self).setSolidFraction(static_cast<float>(fraction)); });
 }
 
 VX_NATIVE(void, SceneGraphPlotInteractive, setLinePoints)(JNIEnv* env, jclass, jobject self, jobjectArray points)
 {
     native(env, "setLinePoints", [&] {
-        peer<SceneGraphPlotInteractive>(env, self)
-            .setLinePoints(fromJava<SceneGraphPlotInteractive::Coordinates>(env, points));
+        peer<SceneGraphPlotInteractive>(env, self).setLinePoints(
+            fromJava<SceneGraphPlotInteractive::Coordinates>(env, points));
     });
 }
 
 VX_NATIVE(void, SceneGraphPlotInteractive, setPoints)(JNIEnv* env, jclass, jobject self, jobjectArray points)
 {
     native(env, "setPoints", [&] {
-        peer<SceneGraphPlotInteractive>(env, self)
-            .setPoints(fromJava<SceneGraphPlotInteractive::Coordinates>(env, points));
+        peer<SceneGraphPlotInteractive>(env, self).setPoints(
+            fromJava<SceneGraphPlotInteractive::Coordinates>(env, points));
     });
 }
 

@@ -1,5 +1,5 @@
-#include "graphics3d/plots/vector/scenegraphplotsphere2d.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
+#include "graphics3d/plots/vector/scenegraphplotsphere2d.h"
 #include "jni/support/native.h"
 
 #include <boost/make_shared.hpp>

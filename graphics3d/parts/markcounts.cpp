@@ -57,8 +57,7 @@ void MarkCounts::adjacentMark(SelectablePart& part, bool on, int& count, MarkFla
 bool MarkCounts::adjacentHiddenMark(SelectablePart& part, bool on, int level, int sourceFlags)
 {
     const bool wasMarked = part.getDisplayFlags() != 0;
-    const bool isChanged =
-        controlMark(part, on, level, sourceFlags, part.m_adjacentMarks.hidden, MarkHiddenAdjacent);
+    const bool isChanged = controlMark(part, on, level, sourceFlags, part.m_adjacentMarks.hidden, MarkHiddenAdjacent);
     const bool isMarked = part.getDisplayFlags() != 0;
     m_numMarked += static_cast<int>(isMarked) - static_cast<int>(wasMarked);
     return isChanged;

@@ -25,10 +25,10 @@ public:
 
     /// How many adjacent parts have a mark.
     struct AdjacentMarks {
-        int primary = 0;     ///< of those of any higher level
-        int secondary = 0;   ///< of those of any higher level
-        int hidden = 0;      ///< of those of the control level
-        int unpickable = 0;  ///< of those of the control level
+        int primary = 0;    ///< of those of any higher level
+        int secondary = 0;  ///< of those of any higher level
+        int hidden = 0;     ///< of those of the control level
+        int unpickable = 0; ///< of those of the control level
     };
 
     /// @param dimension 0 point, 1 line, 2 sheet, 3 subdomain

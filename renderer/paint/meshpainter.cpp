@@ -7,7 +7,9 @@
 #include "renderer/upload/spherebuffer.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <limits>
 
 namespace vxrenderer {
 namespace {
@@ -70,6 +72,10 @@ MeshShader lightShaderOf(const View& view, const Lighting& light)
     return shader;
 }
 
+/// The largest radius of spheres that are drawn as points, in pixels: drivers limit the size of points, and leave out
+/// those whose middle is not in view.
+constexpr float c_largestPoint = 6.0f;
+
 /// Draws opaque faces at once, translucent ones in two steps: those that face away, then those that face the eye.
 template <class Draw>
 void drawFaces(bool isTranslucent, Draw&& draw)
@@ -99,8 +105,7 @@ struct MeshPainter::ViewBlock {
     std::int32_t isFlat;
     /// The size of a pixel for each unit of w.
     float pixel;
-    /// The part of a pixel that a sphere has to cover to be drawn there.
-    float leastCoverage;
+    std::int32_t numSamples;
     std::array<float, 2> unused{};
 };
 
@@ -129,9 +134,12 @@ void MeshPainter::begin(const View& view, const Lighting& light)
 {
     GLint numSamples = 0;
     glGetIntegerv(GL_SAMPLES, &numSamples);
-    m_isMultisampled = numSamples > 1;
+    m_isFlat = view.isFlat;
+    m_pixelSize = view.pixelSize();
+    m_wRow = {view.projection.get(4, 1), view.projection.get(4, 2), view.projection.get(4, 3),
+              view.projection.get(4, 4)};
     m_view.set({elementsOf(view.projection), roundingOf(view.area), view.isPerspective ? 1 : 0, view.isFlat ? 1 : 0,
-                view.pixelSize(), m_isMultisampled ? 0.5f / static_cast<float>(numSamples) : 0.5f});
+                view.pixelSize(), std::max(numSamples, 1)});
     m_light.set({light.ambient, light.places, light.diffuse, light.specular, light.cones});
     m_lightShader = lightShaderOf(view, light);
 }
@@ -181,26 +189,43 @@ void MeshPainter::draw(const Mesh& mesh, const InstanceBuffer& instances, const 
     drawFaces(material.isTranslucent(), [&] { mesh.draw(instances); });
 }
 
+float MeshPainter::largestInPixels(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye) const
+{
+    const vxgraphics3d::Vector3f low = spheres.getBox().getMin();
+    const vxgraphics3d::Vector3f high = spheres.getBox().getMax();
+    float nearest = std::numeric_limits<float>::max();
+    for (const float x : {low.x, high.x}) {
+        for (const float y : {low.y, high.y}) {
+            for (const float z : {low.z, high.z}) {
+                const vxgraphics3d::Vector3f eye = toEye * vxgraphics3d::Vector3f(x, y, z);
+                nearest = std::min(nearest, m_wRow[0] * eye.x + m_wRow[1] * eye.y + m_wRow[2] * eye.z + m_wRow[3]);
+            }
+        }
+    }
+    const auto axisLength = [&](int axis) {
+        return vxgraphics3d::Vector3f(toEye.get(1, axis), toEye.get(2, axis), toEye.get(3, axis)).length();
+    };
+    const float radius = spheres.getLargestRadius() * radiusScale * std::sqrt(axisLength(1) * axisLength(2));
+    // What is no number, or not in front of the eye, is large.
+    return nearest > 0.0f && radius < nearest ? radius / (nearest * m_pixelSize) : std::numeric_limits<float>::max();
+}
+
 void MeshPainter::draw(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye, const Material& material)
 {
     MeshShader shader = m_lightShader;
     shader.shape = spheres.areDiscs() ? MeshShader::Shape::discs : MeshShader::Shape::spheres;
+    shader.arePoints =
+        (m_isFlat || !spheres.areDiscs()) && largestInPixels(spheres, radiusScale, toEye) < c_largestPoint;
     use(shader, toEye, material, radiusScale);
-    // Each sample of a pixel is covered or not, so that outlines are smooth whatever is drawn first.
-    const bool coversSamples = m_isMultisampled && !material.isTranslucent();
-    if (coversSamples) {
-        glEnable(GL_SAMPLE_ALPHA_TO_COVERAGE);
-        glEnable(GL_SAMPLE_ALPHA_TO_ONE);
-    }
     if (spheres.areDiscs()) {
         // Discs are seen on a surface in their plane.
         glEnable(GL_POLYGON_OFFSET_FILL);
         glPolygonOffset(-2.0f, -2.0f);
     }
-    spheres.draw();
+    glEnable(GL_PROGRAM_POINT_SIZE);
+    spheres.draw(shader.arePoints);
+    glDisable(GL_PROGRAM_POINT_SIZE);
     glDisable(GL_POLYGON_OFFSET_FILL);
-    glDisable(GL_SAMPLE_ALPHA_TO_COVERAGE);
-    glDisable(GL_SAMPLE_ALPHA_TO_ONE);
 }
 
 } // namespace vxrenderer

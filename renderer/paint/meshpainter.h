@@ -5,6 +5,7 @@
 #include "renderer/paint/meshshader.h"
 #include "renderer/upload/uniformblock.h"
 
+#include <array>
 #include <map>
 
 namespace vxgraphics3d {
@@ -44,13 +45,19 @@ private:
 
     const GlProgram& program(const MeshShader& shader);
     void setUp(const Mesh& mesh, bool isInstanced, const vxgraphics3d::Matrixf& toEye, const Material& material);
+    /// The radius of the largest sphere if it were at the point of all spheres nearest to the eye.
+    float largestInPixels(const SphereBuffer& spheres, float radiusScale, const vxgraphics3d::Matrixf& toEye) const;
     void use(MeshShader shader, const vxgraphics3d::Matrixf& toEye, const Material& material, float radiusScale);
 
     /// Made when they are used for the first time.
     std::map<MeshShader, GlProgram> m_programs;
     /// What the light of this frame asks for.
     MeshShader m_lightShader;
-    bool m_isMultisampled = false;
+    // Of the view of this frame.
+    bool m_isFlat = false;
+    float m_pixelSize = 1.0f;
+    /// What the projection takes w from.
+    std::array<float, 4> m_wRow{};
     UniformBlock<ViewBlock> m_view;
     UniformBlock<LightBlock> m_light;
     UniformBlock<ModelBlock> m_model;

@@ -16,11 +16,12 @@ layout(std140) uniform View {
     bool isPerspective;
     bool isFlat;
     float pixel;
-    float leastCoverage;
+    int numSamples;
 };
 layout(std140) uniform Model {
     mat4 modelView;
     mat4 normalMatrix;
+    float radiusScale;
 };
 layout(location = 0) in vec3 position;
 layout(location = 1) in vec3 normal;
@@ -90,7 +91,7 @@ layout(std140) uniform View {
     bool isPerspective;
     bool isFlat;
     float pixel;
-    float leastCoverage;
+    int numSamples;
 };
 layout(std140) uniform Light {
     vec4 ambient;
@@ -162,20 +163,26 @@ std::string constant(const char* name, bool isOn)
 
 } // namespace
 
+std::string MeshShader::shapeConstants() const
+{
+    return constant("areDiscs", shape == Shape::discs) + constant("arePoints", arePoints);
+}
+
 std::string MeshShader::vertexSource() const
 {
     if (shape != Shape::triangles) {
-        return constant("areDiscs", shape == Shape::discs) + c_sphereVertexSource;
+        return shapeConstants() + c_sphereVertexSource;
     }
     return std::string(c_vertexBlocks) + (isInstanced ? c_instancedMain : c_singleMain);
 }
 
 std::string MeshShader::fragmentSource() const
 {
-    return constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
+    return std::string(shape == Shape::triangles ? "" : "#extension GL_ARB_sample_shading : enable\n") +
+           constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
            constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
            constant("hasHighlights", hasHighlights) + "const int c_numLights = " + std::to_string(numLights) + ";\n" +
-           constant("areDiscs", shape == Shape::discs) + Material::c_source + c_light +
+           shapeConstants() + Material::c_source + c_light +
            (shape == Shape::triangles ? c_fragmentMain : c_sphereFragmentMain);
 }
 

@@ -16,6 +16,8 @@ struct MeshShader {
     enum class Shape { triangles, spheres, discs };
 
     Shape shape = Shape::triangles;
+    /// Whether spheres or discs are drawn as points, which are as large as they are.
+    bool arePoints = false;
     /// Whether triangles are drawn once per instance.
     bool isInstanced = false;
     /// Whether some values are hidden.
@@ -36,6 +38,9 @@ struct MeshShader {
     /// They declare the uniform blocks `View`, `Model`, `Light` and `Material`.
     std::string vertexSource() const;
     std::string fragmentSource() const;
+
+private:
+    std::string shapeConstants() const;
 };
 
 } // namespace vxrenderer

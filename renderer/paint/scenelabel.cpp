@@ -6,8 +6,13 @@
 #include "renderer/text/titlemarkup.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace vxrenderer {
 namespace {
@@ -36,34 +41,147 @@ bool isInView(const Vector3f& clip)
     return std::abs(clip.x) <= 1.0f && std::abs(clip.y) <= 1.0f && std::abs(clip.z) <= 1.0f;
 }
 
+/// A label that is in view.
+struct ShownLabel {
+    const SceneLabel* label;
+    TextLayout text;
+    /// The pixel of its point.
+    float x = 0.0f;
+    float y = 0.0f;
+    float depth = 0.0f;
+    /// The top left corner of the text.
+    float left = 0.0f;
+    float top = 0.0f;
+};
+
+std::optional<ShownLabel> shownLabel(const SceneLabel& label, const View& view, FontSet& fonts)
+{
+    const Vector3f eye = view.sceneToEye * label.point;
+    const float w = projectedW(view, eye);
+    const Vector3f clip = view.projection * eye;
+    if (!(w > 0.0f) || !isInView(clip)) {
+        return std::nullopt;
+    }
+    ShownLabel shown = {&label, layoutOf(label.text, fonts)};
+    // The surface that a label lies on rises before parts of the text. It is compared where it would be if it lay
+    // nearer by its own height, so that only what lies clearly in front of the point hides it. A text that does not lie
+    // on its point reaches farther.
+    const float unitsPerPixel = 2.0f * w / (view.projection.get(2, 2) * static_cast<float>(view.area.height));
+    const float reach = shown.text.height + (label.isBeside ? shown.text.width : 0.0f);
+    const Vector3f nearer = view.projection * (eye + Vector3f(0.0f, 0.0f, reach * unitsPerPixel));
+    shown.depth = std::clamp(nearer.z, -1.0f, clip.z);
+    shown.x = static_cast<float>(view.area.x) + 0.5f * (1.0f + clip.x) * static_cast<float>(view.area.width);
+    shown.y = static_cast<float>(view.area.y) + 0.5f * (1.0f - clip.y) * static_cast<float>(view.area.height);
+    shown.left = shown.x - 0.5f * shown.text.width;
+    shown.top = shown.y - 0.5f * shown.text.height;
+    return shown;
+}
+
+/// Rectangles that are taken, sorted into cells, so that only neighbours are compared.
+class TakenSpace {
+public:
+    bool overlaps(const PixelRect& rect) const
+    {
+        bool isTaken = false;
+        forEachCell(rect, [&](const Cell& cell) {
+            const auto found = m_cells.find(cell);
+            isTaken =
+                isTaken || (found != m_cells.end() && std::ranges::any_of(found->second, [&](const PixelRect& other) {
+                                return rect.left < other.right && other.left < rect.right && rect.top < other.bottom &&
+                                       other.top < rect.bottom;
+                            }));
+        });
+        return isTaken;
+    }
+    void take(const PixelRect& rect)
+    {
+        forEachCell(rect, [&](const Cell& cell) { m_cells[cell].push_back(rect); });
+    }
+
+private:
+    using Cell = std::pair<int, int>;
+    static constexpr float c_cellSize = 64.0f;
+
+    template <class Visit>
+    static void forEachCell(const PixelRect& rect, Visit visit)
+    {
+        const auto cell = [](float pixel) { return static_cast<int>(std::floor(pixel / c_cellSize)); };
+        for (int row = cell(rect.top); row <= cell(rect.bottom); ++row) {
+            for (int column = cell(rect.left); column <= cell(rect.right); ++column) {
+                visit(Cell(row, column));
+            }
+        }
+    }
+
+    std::map<Cell, std::vector<PixelRect>> m_cells;
+};
+
+/// Moves labels next to their points, and leaves out those without a free side.
+void placeBeside(std::vector<ShownLabel>& labels)
+{
+    std::ranges::stable_sort(labels, {}, &ShownLabel::depth);
+    TakenSpace taken;
+    std::erase_if(labels, [&](ShownLabel& shown) {
+        if (!shown.label->isBeside) {
+            return false;
+        }
+        const float gap = 0.3f * shown.text.height;
+        const float across = 0.5f * shown.text.width + gap;
+        const float along = 0.5f * shown.text.height + gap;
+        // Above, below, to the right and to the left, then the corners.
+        const std::array<std::pair<float, float>, 8> moves = {{{0.0f, -along},
+                                                               {0.0f, along},
+                                                               {across, 0.0f},
+                                                               {-across, 0.0f},
+                                                               {across, -along},
+                                                               {-across, -along},
+                                                               {across, along},
+                                                               {-across, along}}};
+        const auto rectAt = [&](const std::pair<float, float>& move) {
+            const float left = shown.left + move.first;
+            const float top = shown.top + move.second;
+            return PixelRect{left, top, left + shown.text.width, top + shown.text.height};
+        };
+        const auto free = std::ranges::find_if(moves, [&](const auto& move) { return !taken.overlaps(rectAt(move)); });
+        if (free == moves.end()) {
+            return true;
+        }
+        const PixelRect rect = rectAt(*free);
+        taken.take(rect);
+        shown.left = rect.left;
+        shown.top = rect.top;
+        return false;
+    });
+}
+
 } // namespace
 
 void drawLabels(std::span<const SceneLabel> labels, const View& view, int width, int height, FontSet& fonts,
                 OverlayPainter& painter)
 {
+    std::vector<ShownLabel> shownLabels;
+    for (const SceneLabel& label : labels) {
+        if (std::optional<ShownLabel> shown = shownLabel(label, view, fonts)) {
+            shownLabels.push_back(std::move(*shown));
+        }
+    }
+    placeBeside(shownLabels);
     painter.begin(width, height);
     glDepthMask(GL_FALSE);
-    for (const SceneLabel& label : labels) {
-        const Vector3f eye = view.sceneToEye * label.point;
-        const float w = projectedW(view, eye);
-        const Vector3f clip = view.projection * eye;
-        if (!(w > 0.0f) || !isInView(clip)) {
-            continue;
-        }
-        const TextLayout text = layoutOf(label.text, fonts);
-        // The surface that a label lies on rises before parts of the text. It is compared where it would be if it lay
-        // nearer by its own height, so that only what lies clearly in front of the point hides it.
-        const float unitsPerPixel = 2.0f * w / (view.projection.get(2, 2) * static_cast<float>(view.area.height));
-        const Vector3f nearer = view.projection * (eye + Vector3f(0.0f, 0.0f, text.height * unitsPerPixel));
-        const float depth = std::clamp(nearer.z, -1.0f, clip.z);
-        const float x = static_cast<float>(view.area.x) + 0.5f * (1.0f + clip.x) * static_cast<float>(view.area.width);
-        const float y = static_cast<float>(view.area.y) + 0.5f * (1.0f - clip.y) * static_cast<float>(view.area.height);
-        if (label.isHideable) {
+    for (const ShownLabel& shown : shownLabels) {
+        if (shown.label->isHideable) {
             glEnable(GL_DEPTH_TEST);
         } else {
             glDisable(GL_DEPTH_TEST);
         }
-        painter.drawText(text, fonts, x - 0.5f * text.width, y - 0.5f * text.height, label.color, depth);
+        if (shown.label->halo) {
+            constexpr std::pair<float, float> c_around[] = {{-1.0f, -1.0f}, {0.0f, -1.0f}, {1.0f, -1.0f}, {-1.0f, 0.0f},
+                                                            {1.0f, 0.0f},   {-1.0f, 1.0f}, {0.0f, 1.0f},  {1.0f, 1.0f}};
+            for (const auto& [x, y] : c_around) {
+                painter.drawText(shown.text, fonts, shown.left + x, shown.top + y, *shown.label->halo, shown.depth);
+            }
+        }
+        painter.drawText(shown.text, fonts, shown.left, shown.top, shown.label->color, shown.depth);
     }
     glDisable(GL_DEPTH_TEST);
     glDepthMask(GL_TRUE);

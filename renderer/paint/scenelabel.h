@@ -4,6 +4,7 @@
 #include "graphics3d/foundation/color.h"
 #include "graphics3d/foundation/vector3f.h"
 
+#include <optional>
 #include <span>
 
 namespace vxrenderer {
@@ -14,17 +15,23 @@ struct View;
 
 /// A text at a point of the scene, which keeps its size and faces the eye.
 struct SceneLabel {
-    /// In world coordinates. The middle of the text lies there.
+    /// In world coordinates.
     vxgraphics3d::Vector3f point;
     /// Without markup.
     vxbase::UString text;
     vxgraphics3d::Color color;
     /// Whether what lies in front of the point hides the text; otherwise it is seen through everything.
     bool isHideable = true;
+    /// Whether the text lies next to the point, on the first of its sides and corners where it covers no other such
+    /// text; where all are taken, it is left out. Otherwise its middle lies at the point.
+    bool isBeside = false;
+    /// The colour of a border around the letters, which keeps them readable on any background.
+    std::optional<vxgraphics3d::Color> halo = std::nullopt;
 };
 
 /// Draws labels into the scene buffer, whose depths they are compared with, each as a whole: what a text lies on does
-/// not cut into it. Labels whose point is not in view are left out. The viewport is the whole picture.
+/// not cut into it. Labels whose point is not in view are left out. Those next to their points are placed in turn, the
+/// nearest to the eye first. The viewport is the whole picture.
 /// @param width,height of the picture
 void drawLabels(std::span<const SceneLabel> labels, const View& view, int width, int height, FontSet& fonts,
                 OverlayPainter& painter);

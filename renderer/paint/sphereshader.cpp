@@ -10,7 +10,7 @@ layout(std140) uniform View {
     bool isFlat;
     // The size of a pixel for each unit of w.
     float pixel;
-    float leastCoverage;
+    int numSamples;
 };
 layout(std140) uniform Model {
     mat4 modelView;
@@ -23,7 +23,9 @@ layout(location = 1) in vec2 data;
 flat out float u;
 flat out vec3 eyeCenter;
 flat out float eyeRadius;
-// On discs: the position in units of the radius, and the normal.
+// Of points: the length of their side in the eye's coordinates.
+flat out float span;
+// Of discs: the position in units of the radius, and the normal.
 out vec2 place;
 flat out vec3 eyeNormal;
 out vec3 eyePosition;
@@ -44,12 +46,21 @@ void main()
     eyeCenter = eye.xyz;
     eyeRadius = max(radius, c_leastPixels * pixelSize);
     eyeNormal = vec3(0.0, 0.0, 1.0);
+    span = 0.0;
+    place = vec2(0.0);
+    eyePosition = vec3(0.0);
     // The comparisons also fail for what is no number.
     bool isDrawn = radius > 0.0 && away + radius < 1e37 && abs(u) < 1e37 && pixelSize > 0.0;
     if (!isDrawn || (isPerspective && !c_areDiscs && away <= eyeRadius)) {
-        place = vec2(0.0);
-        eyePosition = vec3(0.0);
         gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
+        return;
+    }
+    if (c_arePoints) {
+        // Away from the middle of a perspective view the picture of a sphere is longer than wide.
+        float stretch = isPerspective ? away * away / (eye.z * eye.z) : 1.0;
+        span = 2.0 * eyeRadius * stretch + pixelSize;
+        gl_Position = projection * eye;
+        gl_PointSize = span / pixelSize;
         return;
     }
     vec3 side = normalize(x);
@@ -65,7 +76,7 @@ void main()
         reach *= isPerspective ? away / sqrt(away * away - eyeRadius * eyeRadius) : 1.0;
     }
     // Half a pixel more, where the shape covers pixels in part.
-    vec2 corner = c_corners[gl_VertexID] * (reach + pixelSize);
+    vec2 corner = c_corners[gl_VertexID] * (reach + 0.5 * pixelSize);
     place = corner / eyeRadius;
     eyePosition = eye.xyz + corner.x * side + corner.y * up;
     gl_Position = projection * vec4(eyePosition, 1.0);
@@ -76,24 +87,27 @@ const char* const c_sphereFragmentMain = R"(
 flat in float u;
 flat in vec3 eyeCenter;
 flat in float eyeRadius;
+flat in float span;
 flat in vec3 eyeNormal;
 in vec2 place;
 in vec3 eyePosition;
 
 void main()
 {
-    vec3 sight = isPerspective ? normalize(eyePosition) : vec3(0.0, 0.0, -1.0);
+    vec3 shown = c_arePoints ? eyeCenter + span * vec3(gl_PointCoord.x - 0.5, 0.5 - gl_PointCoord.y, 0.0) : eyePosition;
+    vec3 sight = isPerspective ? normalize(shown) : vec3(0.0, 0.0, -1.0);
     // From the centre to the nearest point of the line of sight, in units of the radius.
-    vec3 toCenter = eyeCenter - eyePosition;
+    vec3 toCenter = eyeCenter - shown;
     vec3 offset = (dot(sight, toCenter) * sight - toCenter) / eyeRadius;
-    float miss = c_areDiscs ? length(place) : length(offset);
+    float miss = c_areDiscs && !c_arePoints ? length(place) : length(offset);
     float coverage = clamp(0.5 + (1.0 - miss) / length(vec2(dFdx(miss), dFdy(miss))), 0.0, 1.0);
-    if (!(coverage >= leastCoverage) || (c_isRestricted && isHidden(u))) {
+    bool isBlended = uniformColor.a < 1.0;
+    if (!(coverage >= 0.5 / float(isBlended ? 4 : numSamples)) || (c_isRestricted && isHidden(u))) {
         discard;
     }
-    vec3 n = c_areDiscs ? (gl_FrontFacing ? eyeNormal : -eyeNormal)
+    vec3 n = c_areDiscs ? (c_arePoints || gl_FrontFacing ? eyeNormal : -eyeNormal)
                         : normalize(offset - sqrt(max(1.0 - miss * miss, 0.0)) * sight);
-    vec3 point = c_areDiscs ? eyePosition : eyeCenter + eyeRadius * n;
+    vec3 point = c_areDiscs ? shown : eyeCenter + eyeRadius * n;
     // All that a flat view shows has one depth.
     float depth = gl_FragCoord.z;
     if (!c_areDiscs && !isFlat) {
@@ -102,8 +116,12 @@ void main()
         depth = clamp(0.5 + 0.5 * zw.x / zw.y, 0.0, 1.0);
     }
     gl_FragDepth = depth;
+#ifdef GL_ARB_sample_shading
+    // Some samples of a pixel on the outline are covered, so that it is smooth whatever was drawn first.
+    gl_SampleMask[0] = isBlended ? ~0 : (1 << int(coverage * float(numSamples) + 0.5)) - 1;
+#endif
     vec3 color = materialColor(u);
-    result = vec4(c_isLit ? lit(color, n, point) : color, uniformColor.a * coverage);
+    result = vec4(c_isLit ? lit(color, n, point) : color, isBlended ? uniformColor.a * coverage : 1.0);
 }
 )";
 

@@ -3,6 +3,7 @@
 #include "renderer/plots/edgepainter.h"
 #include "renderer/plots/graphpainter.h"
 #include "renderer/plots/interactivepainter.h"
+#include "renderer/plots/pointlabelpainter.h"
 #include "renderer/plots/spherepainter.h"
 #include "renderer/plots/surfacepainter.h"
 
@@ -16,6 +17,7 @@ PlotPainters makePlotPainters()
     painters.push_back(std::make_unique<SpherePainter>());
     painters.push_back(std::make_unique<InteractivePainter>());
     painters.push_back(std::make_unique<GraphPainter>());
+    painters.push_back(std::make_unique<PointLabelPainter>());
     return painters;
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "graphics3d/foundation/boundingbox.h"
 #include "renderer/gl/globject.h"
 
+#include <cstddef>
 #include <span>
 
 namespace vxrenderer {
@@ -16,14 +18,22 @@ public:
     void load(std::span<const float> records, bool areDiscs);
 
     bool areDiscs() const { return m_areDiscs; }
-    /// Draws a triangle for each record with the program in use.
-    void draw() const;
+    /// The largest radius.
+    float getLargestRadius() const { return m_largestRadius; }
+    /// The box of the positions.
+    const vxgraphics3d::BoundingBox& getBox() const { return m_box; }
+    /// Draws a point or a triangle for each record with the program in use.
+    void draw(bool asPoints) const;
 
 private:
+    void measure(std::span<const float> records, std::size_t numAxes);
+
     GlVertexArray m_array;
     GlBuffer m_buffer;
     GLsizei m_size = 0;
     bool m_areDiscs = false;
+    float m_largestRadius = 0.0f;
+    vxgraphics3d::BoundingBox m_box;
 };
 
 } // namespace vxrenderer

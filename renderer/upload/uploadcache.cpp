@@ -64,8 +64,7 @@ const LineMesh* UploadCache::lines(const boost::shared_ptr<const void>& owner, i
                                    const std::function<std::vector<LineMesh::Piece>()>& make)
 {
     return get(
-        m_lines, owner, number, changeId, [] { return std::nullopt; },
-        [&](LineMesh& lines) { lines.load(make()); });
+        m_lines, owner, number, changeId, [] { return std::nullopt; }, [&](LineMesh& lines) { lines.load(make()); });
 }
 
 const SphereBuffer* UploadCache::spheres(const boost::shared_ptr<const void>& owner, int number, int changeId,

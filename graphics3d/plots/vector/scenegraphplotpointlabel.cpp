@@ -11,7 +11,8 @@ using vxdatacarrier::PostDataView;
 namespace vxgraphics3d {
 
 struct SceneGraphPlotPointLabel::Input {
-    explicit Input(const PostDataView& record) : Input(record, record.plotKind() == PostDataObject::PointLabel2d ? 2 : 3)
+    explicit Input(const PostDataView& record)
+        : Input(record, record.plotKind() == PostDataObject::PointLabel2d ? 2 : 3)
     {}
 
     BoundingBox box;

@@ -4,8 +4,8 @@
 
 namespace vxgraphics3d {
 
-/// A cloud of points, each drawn as a sphere or disc. A plot has one small record per sphere; a renderer draws copies of
-/// one shape.
+/// A cloud of points, each drawn as a sphere or disc. A plot has one small record per sphere; a renderer draws copies
+/// of one shape.
 ///
 /// A fill reads the points of group 0, their colour data and radius data if present; a sphere without colour data has
 /// the texture coordinate 0.5, one without radius data the radius 1. Points whose coordinates do not have a finite sum

@@ -20,9 +20,8 @@ struct SphereInput {
         };
         const auto withRadius = [&](auto u) {
             if (radii != nullptr) {
-                loop(u, [values = radii](std::size_t i) {
-                    return static_cast<float>(values[i] < 0.0 ? 0.0 : values[i]);
-                });
+                loop(u,
+                     [values = radii](std::size_t i) { return static_cast<float>(values[i] < 0.0 ? 0.0 : values[i]); });
             } else {
                 loop(u, [](std::size_t) { return 1.0f; });
             }

@@ -26,7 +26,9 @@ void UnitSphere::computeSphere()
     const int n = m_sphereResolution;
     const int ring = 2 * n;
     m_sphere.allocate(2 + ring * (n - 1), 2 * ring * (n - 1));
-    const auto angle = [n](int step) { return static_cast<double>(static_cast<float>(step) * c_pi / static_cast<float>(n)); };
+    const auto angle = [n](int step) {
+        return static_cast<double>(static_cast<float>(step) * c_pi / static_cast<float>(n));
+    };
     const auto append = [this](float x, float y, float z) { m_sphere.vertices.appendVertex(x, y, z, x, y, z, 0.0f); };
     IndexBufferTriangles& triangles = m_sphere.indices;
     for (int i = 0; i <= n; ++i) {

@@ -156,12 +156,24 @@ TEST(PointCollection, countersAgreeWithTheMarksAfterAnySequence)
             on ? static_cast<void>(given.insert({index, kind})) : static_cast<void>(given.erase(known));
         }
         switch (kind) {
-        case 0: points.setPrimaryMark(on, index); break;
-        case 1: points.setSecondaryMark(on, index); break;
-        case 2: points.setHiddenMark(on, index); break;
-        case 3: points.adjacentPrimaryMark(on, index); break;
-        case 4: points.adjacentSecondaryMark(on, index); break;
-        default: points.adjacentHiddenMark(on, index, c_lineLevel, 0); break;
+        case 0:
+            points.setPrimaryMark(on, index);
+            break;
+        case 1:
+            points.setSecondaryMark(on, index);
+            break;
+        case 2:
+            points.setHiddenMark(on, index);
+            break;
+        case 3:
+            points.adjacentPrimaryMark(on, index);
+            break;
+        case 4:
+            points.adjacentSecondaryMark(on, index);
+            break;
+        default:
+            points.adjacentHiddenMark(on, index, c_lineLevel, 0);
+            break;
         }
         int marked = 0;
         int primary = 0;
@@ -211,7 +223,8 @@ TEST(Point, aNewPositionDropsAllMarks)
 TEST(PointCollection, anAllocationThatFailsLosesNoPart)
 {
     PointCollection points = threePoints();
-    const long failures = failEachAllocation([&] { points.allocateParts(5); }, [&] { EXPECT_EQ(points.getNumParts(), 3); });
+    const long failures =
+        failEachAllocation([&] { points.allocateParts(5); }, [&] { EXPECT_EQ(points.getNumParts(), 3); });
     EXPECT_GE(failures, 1);
     failEachAllocation([&] { points.addPart(1.0f, 1.0f, 1.0f); }, [&] { EXPECT_EQ(points.getNumParts(), 0); });
     EXPECT_EQ(points.getNumParts(), 1);

@@ -32,9 +32,7 @@ Points pointsOf(const PointCollection& collection)
 
 PostRecord twoPoints()
 {
-    return PostRecord()
-        .bounds({{1, 2}, {3, 4}, {5, 6}})
-        .group({{1, 2}, {3, 4}, {5, 6}}, {{0}, {1}});
+    return PostRecord().bounds({{1, 2}, {3, 4}, {5, 6}}).group({{1, 2}, {3, 4}, {5, 6}}, {{0}, {1}});
 }
 
 TEST(SceneGraphPlotPointLabel, theKindOfTheRecordDecidesOverTheAxes)
@@ -169,14 +167,23 @@ TEST(PointListPlots, lackOfMemoryLeavesEitherTheOldPointsOrNone)
     SceneGraphPlotInteractive lines(2);
     lines.setPoints({{1}, {2}, {3}});
     lines.setLinePoints({{1, 1}, {2, 2}, {3, 3}});
-    EXPECT_EQ(failEachAllocation([&] { labels.setLabels({"Another", "text too long to be stored in place"}); },
-                                 [&] { EXPECT_EQ(labels.getLabels().size(), 1u); }) > 1,
+    EXPECT_EQ(failEachAllocation(
+                  [&] {
+                      labels.setLabels({"Another", "text too long to be stored in place"});
+                  },
+                  [&] { EXPECT_EQ(labels.getLabels().size(), 1u); }) > 1,
               true);
     EXPECT_GE(failEachAllocation([&] { labels.fillPlot(twoPoints()); }, [&] { EXPECT_FALSE(labels.isValid()); }), 3);
-    failEachAllocation([&] { lines.setPoints({{1, 2}, {3, 4}, {5, 6}}); },
-                       [&] { EXPECT_EQ(lines.getInteractivePoints().getNumParts(), 1); });
-    failEachAllocation([&] { lines.setLinePoints({{1, 2, 3, 4}, {3, 4, 3, 4}, {5, 6, 5, 6}}); },
-                       [&] { EXPECT_EQ(lines.getDashPoints().getNumParts(), 2); });
+    failEachAllocation(
+        [&] {
+            lines.setPoints({{1, 2}, {3, 4}, {5, 6}});
+        },
+        [&] { EXPECT_EQ(lines.getInteractivePoints().getNumParts(), 1); });
+    failEachAllocation(
+        [&] {
+            lines.setLinePoints({{1, 2, 3, 4}, {3, 4, 3, 4}, {5, 6, 5, 6}});
+        },
+        [&] { EXPECT_EQ(lines.getDashPoints().getNumParts(), 2); });
     failEachAllocation([&] { lines.fillPlot(twoPoints()); },
                        [&] { EXPECT_EQ(lines.getLinePoints().getNumParts(), 0); });
     EXPECT_EQ(lines.getLinePoints().getNumParts(), 2);

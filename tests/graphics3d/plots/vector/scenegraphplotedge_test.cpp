@@ -42,9 +42,7 @@ TEST(EdgePlots, everyPairOfCornersIsALine)
     };
     for (const Case& c : {Case{{{0}, {1}, {2}, {3}}, {{0, 1}, {0, 2}, {0, 3}, {1, 2}, {1, 3}, {2, 3}}},
                           Case{{{0, 1}, {1, 2}, {2, 3}}, {{0, 1}, {0, 2}, {1, 2}, {1, 2}, {1, 3}, {2, 3}}},
-                          Case{{{3, 0}, {1, 2}}, {{3, 1}, {0, 2}}},
-                          Case{{{0, 1, 2}}, {}},
-                          Case{{{}, {}}, {}}}) {
+                          Case{{{3, 0}, {1, 2}}, {{3, 1}, {0, 2}}}, Case{{{0, 1, 2}}, {}}, Case{{{}, {}}, {}}}) {
         SceneGraphPlotEdge3d plot(1);
         plot.fillPlot(fourPoints(c.elements));
         EXPECT_EQ(linesOf(plot.getLines()), c.lines);
@@ -107,7 +105,8 @@ TEST(EdgePlots, aPoorRecordIsRefusedAndChangesNothing)
     SceneGraphPlotEdge3d spatial(2);
     spatial.fillPlot(fourPoints({{0}, {1}}));
     const auto before = verticesOf(spatial);
-    EXPECT_NE(refusalOf(spatial, fourPoints({{0}, {1}, {2}, {3}, {0}})).find("5 arrays, more than 4"), std::string::npos);
+    EXPECT_NE(refusalOf(spatial, fourPoints({{0}, {1}, {2}, {3}, {0}})).find("5 arrays, more than 4"),
+              std::string::npos);
     EXPECT_NE(refusalOf(spatial, fourPoints({})).find("SceneGraphPlotEdge3d: elements"), std::string::npos);
     EXPECT_NE(refusalOf(spatial, fourPoints({{0, 1}, {1}})).find("different length"), std::string::npos);
     EXPECT_NE(refusalOf(spatial, fourPoints({{0}, {1}}).role(Record::ColorData, 2)).find("role 0"), std::string::npos);

@@ -45,8 +45,9 @@ Spheres spheresOf(const SceneGraphPlotSphere3d& plot)
 /// Four points, of which the second has no position; colours in array 0 within 10 to 50, radii in array 1.
 PostRecord fourPoints()
 {
-    return PostRecord().bounds({{0, 1}, {0, 1}, {0, 1}}).group(
-        {{0, c_nan, 1, -2}, {3, 0, 4, 5}, {6, 0, 7, -8}}, {}, {{10, 20, 30, 50}, {0.5, 99, -3, 2}});
+    return PostRecord()
+        .bounds({{0, 1}, {0, 1}, {0, 1}})
+        .group({{0, c_nan, 1, -2}, {3, 0, 4, 5}, {6, 0, 7, -8}}, {}, {{10, 20, 30, 50}, {0.5, 99, -3, 2}});
 }
 
 TEST(UnitSphere, resolutionTwoIsAnOctahedronOfRings)

@@ -1,8 +1,13 @@
 package com.vexane.gallery;
 
+import com.vexane.gallery.pictures.BracketEdges;
 import com.vexane.gallery.pictures.BracketPath;
 import com.vexane.gallery.pictures.BracketStress;
+import com.vexane.gallery.pictures.CityLabels;
+import com.vexane.gallery.pictures.DashedLines;
 import com.vexane.gallery.pictures.EarthRelief;
+import com.vexane.gallery.pictures.EarthquakeMap;
+import com.vexane.gallery.pictures.Earthquakes;
 import com.vexane.gallery.pictures.FourCameras;
 import com.vexane.gallery.pictures.FrequencyResponse;
 import com.vexane.gallery.pictures.GraphAxes;
@@ -12,6 +17,7 @@ import com.vexane.gallery.pictures.LightsLockedAndFree;
 import com.vexane.gallery.pictures.LogarithmicAxes;
 import com.vexane.gallery.pictures.OceanProfile;
 import com.vexane.gallery.pictures.PolarView;
+import com.vexane.gallery.pictures.RaisedEdges;
 import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
 import com.vexane.gallery.pictures.SeaTemperatureYear;
@@ -38,6 +44,12 @@ public final class Gallery {
             new SeaTemperature(),
             new BracketStress(),
             new EarthRelief(),
+            new Earthquakes(),
+            new EarthquakeMap(),
+            new BracketEdges(),
+            new RaisedEdges(),
+            new CityLabels(),
+            new DashedLines(),
             new FourCameras(),
             new ResizeBehaviours(),
             new LightsLockedAndFree(),

@@ -20,13 +20,17 @@ public final class PlotFile {
     private final double[][] coordinates;
     private final int[][] triangles;
     private final int[][] lines;
+    private final int[][] tetrahedra;
     private final double[] data;
+    private final double[] tetrahedralData;
 
-    private PlotFile(double[][] coordinates, double[][] triangles, double[][] lines, double[] data) {
-        this.coordinates = coordinates;
-        this.triangles = indices(triangles);
-        this.lines = indices(lines);
-        this.data = data;
+    private PlotFile(Rows coordinates, Rows triangles, Rows lines, Rows tetrahedra, Rows data, Rows tetrahedralData) {
+        this.coordinates = coordinates.columns();
+        this.triangles = indices(triangles.columns());
+        this.lines = indices(lines.columns());
+        this.tetrahedra = indices(tetrahedra.columns());
+        this.data = data.columns()[0];
+        this.tetrahedralData = tetrahedralData.columns()[0];
     }
 
     /**
@@ -40,7 +44,9 @@ public final class PlotFile {
         Rows coordinates = new Rows(3);
         Rows triangles = new Rows(3);
         Rows lines = new Rows(2);
+        Rows tetrahedra = new Rows(4);
         Rows data = new Rows(1);
+        Rows tetrahedralData = new Rows(1);
         Rows current = coordinates;
         try (BufferedReader reader = Files.newBufferedReader(file)) {
             for (String row = reader.readLine(); row != null; row = reader.readLine()) {
@@ -49,15 +55,17 @@ public final class PlotFile {
                         case "Coordinates" -> coordinates;
                         case "Elements (triangular)" -> triangles;
                         case "Elements (lines)" -> lines;
+                        case "Elements (tetrahedral)" -> tetrahedra;
                         case "Data" -> data;
-                        default -> throw new IOException(file + ": no tag for surfaces: " + row);
+                        case "Tetrahedral Data" -> tetrahedralData;
+                        default -> throw new IOException(file + ": no tag for surfaces or volumes: " + row);
                     };
                 } else if (!row.isBlank()) {
                     current.add(row, file);
                 }
             }
         }
-        return new PlotFile(coordinates.columns(), triangles.columns(), lines.columns(), data.columns()[0]);
+        return new PlotFile(coordinates, triangles, lines, tetrahedra, data, tetrahedralData);
     }
 
     /**
@@ -85,6 +93,24 @@ public final class PlotFile {
      */
     public int[][] lines() {
         return lines;
+    }
+
+    /**
+     * The tetrahedra.
+     *
+     * @return an array for each corner, counted from 0
+     */
+    public int[][] tetrahedra() {
+        return tetrahedra;
+    }
+
+    /**
+     * The values of the tetrahedra.
+     *
+     * @return one for each tetrahedron
+     */
+    public double[] tetrahedralData() {
+        return tetrahedralData;
     }
 
     /**

@@ -1,0 +1,49 @@
+#include "renderer/plots/pointlabelpainter.h"
+
+#include "graphics3d/plots/vector/scenegraphplotpointlabel.h"
+#include "renderer/paint/paintcontext.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace vxrenderer {
+
+using vxgraphics3d::Color;
+using vxgraphics3d::PointCollection;
+using vxgraphics3d::SceneGraphPlotPointLabel;
+using vxgraphics3d::Vector3f;
+using PlotType = vxgraphics3d::SceneGraphPlot::PlotType;
+
+namespace {
+
+/// White around dark letters, nearly black around bright ones.
+Color contrastOf(const Color& color)
+{
+    const int brightness = (3 * color.red + 6 * color.green + color.blue) / 10;
+    return Color::fromRgb(brightness < 128 ? 0xffffff : 0x202020);
+}
+
+} // namespace
+
+bool PointLabelPainter::draws(PlotType type) const
+{
+    return type == PlotType::pointLabel2d || type == PlotType::pointLabel3d;
+}
+
+void PointLabelPainter::draw(const PlotItem& item, const PaintContext& context) const
+{
+    const auto& plot = static_cast<const SceneGraphPlotPointLabel&>(*item.plot);
+    const PointCollection& points = plot.getLabelPoints();
+    const std::size_t count = std::min(plot.getLabels().size(), static_cast<std::size_t>(points.getNumParts()));
+    for (std::size_t i = 0; i < count; ++i) {
+        Vector3f point = points.getPart(static_cast<int>(i)).getPosition();
+        point.z = point.z * plot.getHeightScale() + plot.getPlotPlaneOffset();
+        context.drawLabel({.point = point,
+                           .text = plot.getLabels()[i],
+                           .color = plot.getColor(),
+                           .isBeside = true,
+                           .halo = contrastOf(plot.getColor())});
+    }
+}
+
+} // namespace vxrenderer
