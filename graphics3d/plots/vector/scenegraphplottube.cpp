@@ -50,24 +50,36 @@ int resolutionFor(std::size_t numSegments)
     return SceneGraphPlotTube::c_maxResolution - static_cast<int>((16 * numSegments - 160000) / 90000);
 }
 
+/// Vector3f::normalized() for a vector whose length is known.
+Vector3f normalized(const Vector3f& vector, float length)
+{
+    return length == 0.0f ? Vector3f() : length <= std::numeric_limits<float>::max() ? vector / length : vector;
+}
+
+Vector3f normalized(const Vector3f& vector)
+{
+    return normalized(vector, vector.length());
+}
+
 /// The directions along and across a tube, carried from ring to ring with as little twist as possible.
 struct RingFrame {
     explicit RingFrame(const Vector3f& along)
-        : direction(along.normalized()), u(direction.orthogonal()), v(u.cross(direction).normalized())
+        : direction(normalized(along)), u(direction.orthogonal()), v(normalized(u.cross(direction)))
     {}
 
     void turnTo(const Vector3f& along)
     {
         const Vector3f previous = direction;
-        direction = along.normalized();
+        direction = normalized(along);
         const float p = u.dot(direction);
         u -= p * direction;
-        if (u.length() == 0.0f) {
+        const float length = u.length();
+        if (length == 0.0f) {
             u = p < 0.0f ? -previous : previous;
         } else {
-            u.normalize();
+            u = normalized(u, length);
         }
-        v = u.cross(direction).normalized();
+        v = normalized(u.cross(direction));
     }
 
     Vector3f direction;
@@ -254,19 +266,20 @@ void SceneGraphPlotTube::addRing(VertexBufferNormalTex& vertices, const Vector3f
     VertexNormalTex* out = vertices.appendUnwritten(static_cast<int>(count));
     const float* cosines = m_cosTable.data();
     const float* sines = m_sinTable.data();
-    // Copies of the arguments tell the compiler that the vertices written do not change them.
+    // Copies, so that the compiler need not assume that writing a vertex changes them.
+    const Vector3f c = centre;
+    const Vector3f uCopy = u;
+    const Vector3f vCopy = v;
     for (std::size_t i = 0; i < count; ++i) {
-        out[i] = [=, c = centre, uc = u, vc = v] {
-            const Vector3f n = uc * cosines[i] + vc * sines[i];
-            const Vector3f p = c + n * radius;
-            return VertexNormalTex{p.x, p.y, p.z, n.x, n.y, n.z, texCoord, 0.0f};
-        }();
+        const Vector3f n = uCopy * cosines[i] + vCopy * sines[i];
+        const Vector3f p = c + n * radius;
+        out[i] = {p.x, p.y, p.z, n.x, n.y, n.z, texCoord, 0.0f};
     }
 }
 
 void SceneGraphPlotTube::addCylinder(const VertexBufferNormalTex& vertices, IndexBufferTriangles& triangles) const
 {
-    triangles.appendBand(vertices.getNumberOfVertices() - 2 * m_resolution - 2, m_resolution + 1);
+    triangles.appendBands(vertices.getNumberOfVertices() - 2 * m_resolution - 2, m_resolution + 1, 1);
 }
 
 void SceneGraphPlotTube::computeTubes3D()
@@ -314,37 +327,34 @@ void SceneGraphPlotTube::addTube3D(std::span<const LineSegment> chain, bool star
         const float scaled = radius * m_radiusScaleFactor;
         return scaled < 0.0f ? 0.0f : scaled;
     };
-    const auto addJoinedRing = [&](const Vector3f& at, float radius, float texCoord) {
-        const bool isFirst = tube.m_tubeVertices.getNumberOfVertices() == 0;
+    const auto add = [&](const Vector3f& at, float radius, float texCoord) {
         addRing(tube.m_tubeVertices, at, radius, texCoord, frame.u, frame.v);
-        if (!isFirst) {
-            addCylinder(tube.m_tubeVertices, tube.m_tubeTriangles);
-        }
     };
     /// @param s from -1 at the pole of the start to 1 at that of the end
     const auto addCapRing = [&](const Point& end, float s) {
         const float radius = scaledRadius(end.radius);
-        addJoinedRing(centre + frame.direction * s * radius, std::sqrt(1.0f - s * s) * radius, end.texCoord);
+        add(centre + frame.direction * s * radius, std::sqrt(1.0f - s * s) * radius, end.texCoord);
     };
 
     for (int k = 0; startCap && k < half; ++k) {
         addCapRing(first, static_cast<float>(k) / static_cast<float>(half) - 1.0f);
     }
-    addJoinedRing(centre, scaledRadius(first.radius), first.texCoord);
+    add(centre, scaledRadius(first.radius), first.texCoord);
     for (const LineSegment& segment : chain) {
         const Point& a = pointAt(segment.first);
         const Point& b = pointAt(segment.second);
         const Vector3f middle = (positionOf(a) + positionOf(b)) / 2.0f;
         frame.turnTo(middle - centre);
         centre = middle;
-        addJoinedRing(centre, scaledRadius((a.radius + b.radius) / 2.0f), (a.texCoord + b.texCoord) / 2.0f);
+        add(centre, scaledRadius((a.radius + b.radius) / 2.0f), (a.texCoord + b.texCoord) / 2.0f);
     }
     frame.turnTo(positionOf(last) - centre);
     centre = positionOf(last);
-    addJoinedRing(centre, scaledRadius(last.radius), last.texCoord);
+    add(centre, scaledRadius(last.radius), last.texCoord);
     for (int k = 1; endCap && k <= half; ++k) {
         addCapRing(last, static_cast<float>(k) / static_cast<float>(half));
     }
+    tube.m_tubeTriangles.appendBands(0, m_resolution + 1, static_cast<int>(numRings) - 1);
 }
 
 void SceneGraphPlotTube::computeTubes2D()
