@@ -158,8 +158,9 @@ bool isPrincipal(PlotType type)
 
 ArrowForm formOf(PlotType type)
 {
-    return type == PlotType::arrow2d || type == PlotType::principal2d || type == PlotType::coordSys2d ? ArrowForm::flat
-                                                                                                      : ArrowForm::round;
+    return type == PlotType::arrow2d || type == PlotType::principal2d || type == PlotType::coordSys2d
+               ? ArrowForm::flat
+               : ArrowForm::round;
 }
 
 /// A number that rises with the geometry and with the shape of arrows.

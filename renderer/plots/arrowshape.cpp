@@ -17,7 +17,8 @@ constexpr int c_numSides = 16;
 /// Appends shafts and heads along the z axis to a mesh.
 class ArrowMesh {
 public:
-    ArrowMesh(ArrowForm form, int numShafts, int numHeads) : m_isRound(form == ArrowForm::round), m_mesh(new SurfaceMesh)
+    ArrowMesh(ArrowForm form, int numShafts, int numHeads)
+        : m_isRound(form == ArrowForm::round), m_mesh(new SurfaceMesh)
     {
         if (m_isRound) {
             m_mesh->allocate((numShafts + numHeads) * 2 * 2 * c_numSides, (3 * numShafts + 3 * numHeads) * c_numSides);
