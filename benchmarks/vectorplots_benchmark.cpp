@@ -67,8 +67,7 @@ BareArrows bareArrows(const Record& record)
                   static_cast<float>((v[3][i] - min) * scale)};
         longest = std::max(longest, length);
     }
-    const double target =
-        2.0 / static_cast<double>(std::pow(static_cast<float>(count), 0.33333334f)) * 0.85;
+    const double target = 2.0 / static_cast<double>(std::pow(static_cast<float>(count), 0.33333334f)) * 0.85;
     const double factor = target / static_cast<double>(longest);
     for (std::size_t i = 0; i < count; ++i) {
         out[i].length = static_cast<float>(static_cast<double>(out[i].length) * factor);
