@@ -1,18 +1,27 @@
 package com.vexane.gallery;
 
+import com.vexane.gallery.pictures.ArrowScalings;
 import com.vexane.gallery.pictures.BracketStress;
 import com.vexane.gallery.pictures.EarthRelief;
 import com.vexane.gallery.pictures.FourCameras;
 import com.vexane.gallery.pictures.Hardcopy;
 import com.vexane.gallery.pictures.LightsLockedAndFree;
+import com.vexane.gallery.pictures.LocalAxes;
 import com.vexane.gallery.pictures.LogarithmicAxes;
 import com.vexane.gallery.pictures.PolarView;
+import com.vexane.gallery.pictures.PrincipalStress;
 import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
 import com.vexane.gallery.pictures.TerrainColors;
 import com.vexane.gallery.pictures.TerrainFine;
 import com.vexane.gallery.pictures.TerrainFlat;
 import com.vexane.gallery.pictures.TerrainRaised;
+import com.vexane.gallery.pictures.Tubes;
+import com.vexane.gallery.pictures.TubesFlat;
+import com.vexane.gallery.pictures.Vortex;
+import com.vexane.gallery.pictures.WindArrows;
+import com.vexane.gallery.pictures.WindRibbons;
+import com.vexane.gallery.pictures.WindTubes;
 import com.vexane.graphics3d.Canvas3dGlobalSettings;
 import java.io.IOException;
 import java.nio.file.Files;
@@ -31,6 +40,15 @@ public final class Gallery {
             new SeaTemperature(),
             new BracketStress(),
             new EarthRelief(),
+            new WindArrows(),
+            new WindTubes(),
+            new WindRibbons(),
+            new Tubes(),
+            new TubesFlat(),
+            new PrincipalStress(),
+            new LocalAxes(),
+            new ArrowScalings(),
+            new Vortex(),
             new FourCameras(),
             new ResizeBehaviours(),
             new LightsLockedAndFree(),

@@ -21,12 +21,15 @@ public final class PlotFile {
     private final int[][] triangles;
     private final int[][] lines;
     private final double[] data;
+    private final double[][] vectors;
 
-    private PlotFile(double[][] coordinates, double[][] triangles, double[][] lines, double[] data) {
+    private PlotFile(double[][] coordinates, double[][] triangles, double[][] lines, double[] data,
+            double[][] vectors) {
         this.coordinates = coordinates;
         this.triangles = indices(triangles);
         this.lines = indices(lines);
         this.data = data;
+        this.vectors = vectors;
     }
 
     /**
@@ -41,6 +44,7 @@ public final class PlotFile {
         Rows triangles = new Rows(3);
         Rows lines = new Rows(2);
         Rows data = new Rows(1);
+        Rows vectors = new Rows(3);
         Rows current = coordinates;
         try (BufferedReader reader = Files.newBufferedReader(file)) {
             for (String row = reader.readLine(); row != null; row = reader.readLine()) {
@@ -50,14 +54,16 @@ public final class PlotFile {
                         case "Elements (triangular)" -> triangles;
                         case "Elements (lines)" -> lines;
                         case "Data" -> data;
-                        default -> throw new IOException(file + ": no tag for surfaces: " + row);
+                        case "Vector data" -> vectors;
+                        default -> throw new IOException(file + ": no tag for surfaces and arrows: " + row);
                     };
                 } else if (!row.isBlank()) {
                     current.add(row, file);
                 }
             }
         }
-        return new PlotFile(coordinates.columns(), triangles.columns(), lines.columns(), data.columns()[0]);
+        return new PlotFile(coordinates.columns(), triangles.columns(), lines.columns(), data.columns()[0],
+                vectors.columns());
     }
 
     /**
@@ -94,6 +100,15 @@ public final class PlotFile {
      */
     public double[] data() {
         return data;
+    }
+
+    /**
+     * The vectors at the points.
+     *
+     * @return arrays of x, y and z; empty if the file has no vectors
+     */
+    public double[][] vectors() {
+        return vectors;
     }
 
     /**
