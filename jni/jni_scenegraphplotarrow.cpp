@@ -33,10 +33,12 @@ VX_NATIVE(void, SceneGraphPlotArrow, setCommonArrowScale)(JNIEnv* env, jclass, j
 
 VX_NATIVE(void, SceneGraphPlotArrow, setAnchorPoint)(JNIEnv* env, jclass, jobject self, jint anchorPoint)
 {
-    native(env, "setAnchorPoint", [&] { peer<SceneGraphPlotArrow>(env, self).setAnchorPoint(javaAnchorPointToCpp(anchorPoint)); });
+    native(env, "setAnchorPoint",
+           [&] { peer<SceneGraphPlotArrow>(env, self).setAnchorPoint(javaAnchorPointToCpp(anchorPoint)); });
 }
 
 VX_NATIVE(void, SceneGraphPlotArrow, setScalingType)(JNIEnv* env, jclass, jobject self, jint scalingType)
 {
-    native(env, "setScalingType", [&] { peer<SceneGraphPlotArrow>(env, self).setScalingType(javaScalingTypeToCpp(scalingType)); });
+    native(env, "setScalingType",
+           [&] { peer<SceneGraphPlotArrow>(env, self).setScalingType(javaScalingTypeToCpp(scalingType)); });
 }

@@ -24,18 +24,21 @@ void IndexBufferTriangles::appendTriangles(const int* a, const int* b, const int
     });
 }
 
-void IndexBufferTriangles::appendBand(int first, int rowLength)
+void IndexBufferTriangles::appendBands(int first, int rowLength, int numBands)
 {
-    const int numPairs = rowLength - 1;
-    requireRoom(2 * numPairs, 3);
-    append(6 * numPairs, [=](auto* out) {
-        for (int i = first; i < first + numPairs; ++i, out += 6) {
-            put(out[0], i);
-            put(out[1], i, rowLength);
-            put(out[2], i, rowLength + 1);
-            put(out[3], i);
-            put(out[4], i, rowLength + 1);
-            put(out[5], i, 1);
+    const int perBand = 2 * (rowLength - 1);
+    requireRoom(numBands, 3 * perBand);
+    append(3 * perBand * numBands, [=](auto* out) {
+        for (int band = 0; band < numBands; ++band) {
+            const int start = first + band * rowLength;
+            for (int i = start; i < start + rowLength - 1; ++i, out += 6) {
+                put(out[0], i);
+                put(out[1], i, rowLength);
+                put(out[2], i, rowLength + 1);
+                put(out[3], i);
+                put(out[4], i, rowLength + 1);
+                put(out[5], i, 1);
+            }
         }
     });
 }

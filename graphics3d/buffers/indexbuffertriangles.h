@@ -38,11 +38,11 @@ public:
             }
         });
     }
-    /// Appends the triangles between two consecutive rows of vertices, two for each vertex but the last of a row: (i,
-    /// i + n, i + n + 1) and (i, i + n + 1, i + 1) in rows of n vertices. Throws std::out_of_range, and appends none,
-    /// if there is not enough space.
+    /// Appends the triangles between consecutive rows of vertices, two for each vertex except for the last of a row:
+    /// (i, i + n, i + n + 1) and (i, i + n + 1, i + 1) in rows of n vertices. Throws std::out_of_range, and appends
+    /// none, if there is not enough space.
     /// @param first the first vertex of the first row
-    void appendBand(int first, int rowLength);
+    void appendBands(int first, int rowLength, int numBands);
 
     /// The corners of a triangle, counted from the start of the array across segments; the index is not checked.
     void getTriangle(int triangle, int& a, int& b, int& c) const;

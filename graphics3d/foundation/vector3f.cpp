@@ -22,10 +22,12 @@ Vector3f Vector3f::orthogonal() const
 
 std::pair<float, float> Vector3f::toSpherical() const
 {
-    if (length() == 0.0f) {
+    const float size = length();
+    if (size == 0.0f) {
         return {0.0f, 0.0f};
     }
-    const Vector3f unit = normalized();
+    // The same as normalized(), with the length computed once.
+    const Vector3f unit = size <= std::numeric_limits<float>::max() ? *this / size : *this;
     // A length that underflows can leave the quotient slightly above 1, where the arc cosine is undefined.
     return {std::atan2(unit.y, unit.x), std::acos(std::clamp(unit.z, -1.0f, 1.0f))};
 }

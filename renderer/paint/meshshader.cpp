@@ -65,6 +65,7 @@ constexpr const char* c_instancedMain = R"(
 layout(location = 6) in vec3 instancePosition;
 layout(location = 7) in vec3 instanceAxis;
 layout(location = 8) in float instanceU;
+layout(location = 9) in float instanceThickness;
 
 void main()
 {
@@ -72,10 +73,12 @@ void main()
     vec3 z = size > 0.0 ? instanceAxis / size : vec3(0.0, 0.0, 1.0);
     vec3 x = normalize(cross(abs(z.y) < 0.9 ? vec3(0.0, 1.0, 0.0) : vec3(1.0, 0.0, 0.0), z));
     mat3 turn = mat3(x, cross(z, x), z);
-    vec4 eye = modelView * vec4(instancePosition + size * (turn * position), 1.0);
+    vec3 shaped = size * vec3(instanceThickness * position.xy, position.z);
+    vec4 eye = modelView * vec4(instancePosition + turn * shaped, 1.0);
     eyePosition = eye.xyz;
     slopePosition = eye.xyz;
-    eyeNormal = mat3(normalMatrix) * (turn * usable(normal));
+    vec3 shapedNormal = usable(normal) * vec3(1.0, 1.0, instanceThickness);
+    eyeNormal = mat3(normalMatrix) * (turn * shapedNormal);
     u = instanceU;
     gl_Position = clipPlace(eye);
 }

@@ -1,11 +1,13 @@
 #include "renderer/plots/plotpainter.h"
 
+#include "renderer/plots/arrowpainter.h"
 #include "renderer/plots/edgepainter.h"
 #include "renderer/plots/graphpainter.h"
 #include "renderer/plots/interactivepainter.h"
 #include "renderer/plots/pointlabelpainter.h"
 #include "renderer/plots/spherepainter.h"
 #include "renderer/plots/surfacepainter.h"
+#include "renderer/plots/tubepainter.h"
 
 namespace vxrenderer {
 
@@ -18,6 +20,8 @@ PlotPainters makePlotPainters()
     painters.push_back(std::make_unique<InteractivePainter>());
     painters.push_back(std::make_unique<GraphPainter>());
     painters.push_back(std::make_unique<PointLabelPainter>());
+    painters.push_back(std::make_unique<ArrowPainter>());
+    painters.push_back(std::make_unique<TubePainter>());
     return painters;
 }
 

@@ -14,7 +14,8 @@ struct Part {
 };
 constexpr Part c_parts[] = {{Attribute::instancePosition, 3, offsetof(Instance, position)},
                             {Attribute::instanceAxis, 3, offsetof(Instance, axis)},
-                            {Attribute::instanceTexture, 1, offsetof(Instance, u)}};
+                            {Attribute::instanceTexture, 1, offsetof(Instance, u)},
+                            {Attribute::instanceThickness, 1, offsetof(Instance, thickness)}};
 
 } // namespace
 

@@ -17,8 +17,11 @@ struct Instance {
     vxgraphics3d::Vector3f axis;
     /// Texture coordinate of the whole copy.
     float u;
+    /// Factor for the scale at right angles to the axis.
+    float thickness = 1.0f;
 };
-static_assert(sizeof(Instance) == 28 && offsetof(Instance, axis) == 12 && offsetof(Instance, u) == 24);
+static_assert(sizeof(Instance) == 32 && offsetof(Instance, axis) == 12 && offsetof(Instance, u) == 24 &&
+              offsetof(Instance, thickness) == 28);
 
 /// Instances of a mesh on the graphics hardware.
 class InstanceBuffer {

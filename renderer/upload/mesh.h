@@ -21,7 +21,8 @@ enum class Attribute : GLuint {
     triple = 5,
     instancePosition = 6,
     instanceAxis = 7,
-    instanceTexture = 8
+    instanceTexture = 8,
+    instanceThickness = 9
 };
 
 /// Triangles on the graphics hardware: a vertex buffer and an index buffer.

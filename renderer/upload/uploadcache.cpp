@@ -44,6 +44,17 @@ const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int nu
         [&](Mesh& mesh) { mesh.load(vertices, indices); });
 }
 
+const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                              const std::function<std::unique_ptr<vxgraphics3d::SurfaceMesh>()>& make)
+{
+    return get(
+        m_meshes, owner, number, changeId, [] { return std::nullopt; },
+        [&](Mesh& mesh) {
+            const std::unique_ptr<vxgraphics3d::SurfaceMesh> made = make();
+            mesh.load(made->vertices, made->indices);
+        });
+}
+
 const LineMesh* UploadCache::lines(const boost::shared_ptr<const void>& owner, int number, int changeId,
                                    const VertexBuffer& vertices, const IndexBuffer& indices)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics3d/foundation/lastchangeid.h"
+#include "graphics3d/plots/surfacemesh.h"
 #include "renderer/upload/instancebuffer.h"
 #include "renderer/upload/linemesh.h"
 #include "renderer/upload/mesh.h"
@@ -13,6 +14,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <span>
 #include <utility>
@@ -38,6 +40,10 @@ public:
     /// Triangles.
     const Mesh* mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
                      const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
+    /// Triangles that are put together for the upload.
+    /// @param make called when they have changed
+    const Mesh* mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                     const std::function<std::unique_ptr<vxgraphics3d::SurfaceMesh>()>& make);
     /// Single lines or line strips.
     const LineMesh* lines(const boost::shared_ptr<const void>& owner, int number, int changeId,
                           const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);

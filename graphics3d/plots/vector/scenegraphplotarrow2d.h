@@ -7,7 +7,7 @@ namespace vxgraphics3d {
 /// An arrow in the plane, as a renderer passes it to the graphics hardware.
 struct ArrowRecord2d {
     float x, y;
-    float angle;  ///< from the x axis, in radians; 0 without a length
+    float angle; ///< from the x axis, in radians; 0 without a length
     float length;
     float u; ///< the coordinate in the colour table
 };

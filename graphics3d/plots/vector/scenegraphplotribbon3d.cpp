@@ -156,21 +156,19 @@ void SceneGraphPlotRibbon3d::addRibbon(std::span<const LineSegment> chain)
     m_ribbons.push_back(ribbon);
 
     VertexNormalTex* out = ribbon->m_ribbonVertices.appendUnwritten(c_rowLength * (numLines + 1));
-    const auto writeRow = [&](int index) {
-        const Point point = m_points[static_cast<std::size_t>(index)];
-        for (int side = -1; side <= 1; ++side, ++out) {
-            const Vector3f p =
-                point.position + point.across * (static_cast<float>(side) * m_widthScaleFactor * point.width);
-            *out = {p.x, p.y, p.z, point.normal.x, point.normal.y, point.normal.z, point.texCoord, 0.0f};
+    const auto writeRow = [points = m_points.data(), factor = m_widthScaleFactor](VertexNormalTex* row, int index) {
+        const Point point = points[index];
+        for (int side = -1; side <= 1; ++side, ++row) {
+            const Vector3f p = point.position + point.across * (static_cast<float>(side) * factor * point.width);
+            *row = {p.x, p.y, p.z, point.normal.x, point.normal.y, point.normal.z, point.texCoord, 0.0f};
         }
     };
     for (const LineSegment& segment : chain) {
-        writeRow(segment.first);
+        writeRow(out, segment.first);
+        out += c_rowLength;
     }
-    writeRow(chain.back().second);
-    for (int line = 0; line < numLines; ++line) {
-        ribbon->m_ribbonTriangles.appendBand(c_rowLength * line, c_rowLength);
-    }
+    writeRow(out, chain.back().second);
+    ribbon->m_ribbonTriangles.appendBands(0, c_rowLength, numLines);
 }
 
 } // namespace vxgraphics3d

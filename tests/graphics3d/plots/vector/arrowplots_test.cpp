@@ -73,10 +73,9 @@ TEST(SceneGraphPlotArrow2d, fillScalesTheLongestArrowToTheDistanceOfPoints)
     EXPECT_FALSE(plot.isValid());
     plot.fillPlot(square(2));
     // The mean extent 2 over the root of 4 points is 1: the longest vector, 2, becomes 0.85.
-    EXPECT_EQ(arrowsOf(plot), (std::vector<Floats>{{0, 0, 0, 0.425f, 0},
-                                                   {2, 0, c_pi / 2, 0.425f, 0.5f},
-                                                   {0, 2, c_pi, 0.85f, 1},
-                                                   {2, 2, 0, 0, 0.25f}}));
+    EXPECT_EQ(arrowsOf(plot),
+              (std::vector<Floats>{
+                  {0, 0, 0, 0.425f, 0}, {2, 0, c_pi / 2, 0.425f, 0.5f}, {0, 2, c_pi, 0.85f, 1}, {2, 2, 0, 0, 0.25f}}));
     EXPECT_EQ(plot.getMaxLength(), 0.85f);
     EXPECT_EQ(plot.getCapacity(), 4);
     const Floats expected{-0.85f, 2, 0, 2, 0, 0};
@@ -325,8 +324,8 @@ TEST(SceneGraphPlotPrincipal, fillStoresThreeAxesPerPoint)
     const float longest = 6.0f / std::pow(2.0f, 0.33333334f) * 0.85f; // half of the sum of the extents
     EXPECT_EQ(plot.getMaxLength(), longest);
     const std::vector<Floats> records = arrowsOf(plot);
-    EXPECT_EQ(records[0], (Floats{0, 0, 0, longest, -longest / 2, longest / 4, longest, 0, c_pi / 2, 0, c_pi / 2,
-                                  c_pi / 2, 0, 0}));
+    EXPECT_EQ(records[0],
+              (Floats{0, 0, 0, longest, -longest / 2, longest / 4, longest, 0, c_pi / 2, 0, c_pi / 2, c_pi / 2, 0, 0}));
     EXPECT_EQ(records[1], (Floats{2, 4, 6, 0, 0, 0, 1, -c_pi / 2, 0, c_pi, c_pi / 2, c_pi, c_pi / 2, 0}));
     const float reach = longest * 0.4f;
     const Floats limits = limitsOf(plot.getBoundingBox());

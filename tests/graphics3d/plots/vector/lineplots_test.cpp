@@ -106,8 +106,8 @@ void expectExactCounts(const Tube& tube)
 }
 
 /// The number of edges that a tube in space has on its boundary: those with a triangle on one side only. The two ends
-/// of a ring count as one vertex, as do all vertices of the ring at the pole of a cap. An index outside, or an edge that
-/// two triangles run through in the same direction, counts as -1.
+/// of a ring count as one vertex, as do all vertices of the ring at the pole of a cap. An index outside, or an edge
+/// that two triangles run through in the same direction, counts as -1.
 int openEdgesOf(const Tube& tube, int resolution)
 {
     const std::vector<Vertex> vertices = verticesOf(tube.m_tubeVertices);
@@ -148,9 +148,9 @@ int openEdgesOf(const Tube& tube, int resolution)
             }
         }
     }
-    return static_cast<int>(
-        std::count_if(edges.begin(), edges.end(),
-                      [&](const auto& edge) { return edges.count({edge.second, edge.first}) == 0; }));
+    return static_cast<int>(std::count_if(edges.begin(), edges.end(), [&](const auto& edge) {
+        return edges.count({edge.second, edge.first}) == 0;
+    }));
 }
 
 TEST(SceneGraphPlotTube3d, aLineIsACylinderWithTwoHemispheres)
@@ -168,8 +168,8 @@ TEST(SceneGraphPlotTube3d, aLineIsACylinderWithTwoHemispheres)
     EXPECT_EQ(vertices[12 * 25], (Vertex{0, 1, 0, 0, 1, 0, 0, 0}));
     EXPECT_EQ(vertices[13 * 25], (Vertex{0, 1, 1, 0, 1, 0, 0.5f, 0}));
     EXPECT_EQ(vertices[14 * 25], (Vertex{0, 1, 2, 0, 1, 0, 1, 0}));
-    EXPECT_NEAR(vertices[12 * 25 + 6][0], 1.0f, 1e-6f);   // a quarter further, towards x
-    EXPECT_NEAR(vertices[20 * 25][2], 2.5f, 1e-6f);       // half of the cap: at half of its radius
+    EXPECT_NEAR(vertices[12 * 25 + 6][0], 1.0f, 1e-6f); // a quarter further, towards x
+    EXPECT_NEAR(vertices[20 * 25][2], 2.5f, 1e-6f);     // half of the cap: at half of its radius
     EXPECT_NEAR(vertices[20 * 25][1], std::sqrt(0.75f), 1e-6f);
     EXPECT_EQ(vertices[26 * 25][2], 3.0f);
     const std::vector<Triangle> triangles = trianglesOf(tube.m_tubeTriangles);
@@ -425,7 +425,8 @@ TEST(SceneGraphPlotTube3d, randomTubesAreClosedExceptAtEndsWithoutCap)
 }
 
 /// The rings of a tube without caps, by the formulas, in plain arrays: centre, radius and texture coordinate follow the
-/// points and the middles of segments, and the first vector across is carried along by removing its part along the tube.
+/// points and the middles of segments, and the first vector across is carried along by removing its part along the
+/// tube.
 std::vector<Vertex> referenceRings(const Record& record, const Chain& chain, int resolution)
 {
     using Triple = std::array<double, 3>;
@@ -446,10 +447,10 @@ std::vector<Vertex> referenceRings(const Record& record, const Chain& chain, int
     const auto stationAt = [&](int a, int b) {
         const auto i = static_cast<std::size_t>(a);
         const auto j = static_cast<std::size_t>(b);
-        return Station{{(points[0][i] + points[0][j]) / 2, (points[1][i] + points[1][j]) / 2,
-                        (points[2][i] + points[2][j]) / 2},
-                       (data[1][i] + data[1][j]) / 2,
-                       (data[0][i] + data[0][j]) / 2};
+        return Station{
+            {(points[0][i] + points[0][j]) / 2, (points[1][i] + points[1][j]) / 2, (points[2][i] + points[2][j]) / 2},
+            (data[1][i] + data[1][j]) / 2,
+            (data[0][i] + data[0][j]) / 2};
     };
     std::vector<Station> stations{stationAt(ends[0][chain.first], ends[0][chain.first])};
     for (std::size_t s = chain.first; s <= chain.last; ++s) {
@@ -546,8 +547,8 @@ TEST(SceneGraphPlotTube2d, randomBandsIndexOnlyTheirOwnVertices)
 /// Two lines in space and one apart, with directions and widths.
 PostRecord ribbonRecord()
 {
-    PostRecord record = lines({{0, 1, 2, 0, 1}, {0, 0, 0, 5, 5}, {0, 0, 0, 0, 0}}, {1, 0, -2, 0.5, 0.5},
-                              {{0, 1}, {1, 2}, {3, 4}});
+    PostRecord record =
+        lines({{0, 1, 2, 0, 1}, {0, 0, 0, 5, 5}, {0, 0, 0, 0, 0}}, {1, 0, -2, 0.5, 0.5}, {{0, 1}, {1, 2}, {3, 4}});
     for (int i = 0; i < 6; ++i) {
         record.role(Record::FirstDirectionX + i, 2 + i);
         const double value = i == 1 ? 2.0 : i == 5 ? 1.0 : 0.0; // across along y, of length 2; normal along z

@@ -1,5 +1,6 @@
 package com.vexane.gallery;
 
+import com.vexane.gallery.pictures.ArrowScalings;
 import com.vexane.gallery.pictures.BracketEdges;
 import com.vexane.gallery.pictures.BracketPath;
 import com.vexane.gallery.pictures.BracketStress;
@@ -14,9 +15,11 @@ import com.vexane.gallery.pictures.GraphAxes;
 import com.vexane.gallery.pictures.Hardcopy;
 import com.vexane.gallery.pictures.LegendPositions;
 import com.vexane.gallery.pictures.LightsLockedAndFree;
+import com.vexane.gallery.pictures.LocalAxes;
 import com.vexane.gallery.pictures.LogarithmicAxes;
 import com.vexane.gallery.pictures.OceanProfile;
 import com.vexane.gallery.pictures.PolarView;
+import com.vexane.gallery.pictures.PrincipalStress;
 import com.vexane.gallery.pictures.RaisedEdges;
 import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
@@ -26,6 +29,12 @@ import com.vexane.gallery.pictures.TerrainColors;
 import com.vexane.gallery.pictures.TerrainFine;
 import com.vexane.gallery.pictures.TerrainFlat;
 import com.vexane.gallery.pictures.TerrainRaised;
+import com.vexane.gallery.pictures.Tubes;
+import com.vexane.gallery.pictures.TubesFlat;
+import com.vexane.gallery.pictures.Vortex;
+import com.vexane.gallery.pictures.WindArrows;
+import com.vexane.gallery.pictures.WindRibbons;
+import com.vexane.gallery.pictures.WindTubes;
 import com.vexane.graphics3d.Canvas3dGlobalSettings;
 import java.io.IOException;
 import java.nio.file.Files;
@@ -50,6 +59,15 @@ public final class Gallery {
             new RaisedEdges(),
             new CityLabels(),
             new DashedLines(),
+            new WindArrows(),
+            new WindTubes(),
+            new WindRibbons(),
+            new Tubes(),
+            new TubesFlat(),
+            new PrincipalStress(),
+            new LocalAxes(),
+            new ArrowScalings(),
+            new Vortex(),
             new FourCameras(),
             new ResizeBehaviours(),
             new LightsLockedAndFree(),

@@ -23,14 +23,17 @@ public final class PlotFile {
     private final int[][] tetrahedra;
     private final double[] data;
     private final double[] tetrahedralData;
+    private final double[][] vectors;
 
-    private PlotFile(Rows coordinates, Rows triangles, Rows lines, Rows tetrahedra, Rows data, Rows tetrahedralData) {
+    private PlotFile(Rows coordinates, Rows triangles, Rows lines, Rows tetrahedra, Rows data, Rows tetrahedralData,
+            Rows vectors) {
         this.coordinates = coordinates.columns();
         this.triangles = indices(triangles.columns());
         this.lines = indices(lines.columns());
         this.tetrahedra = indices(tetrahedra.columns());
         this.data = data.columns()[0];
         this.tetrahedralData = tetrahedralData.columns()[0];
+        this.vectors = vectors.columns();
     }
 
     /**
@@ -47,6 +50,7 @@ public final class PlotFile {
         Rows tetrahedra = new Rows(4);
         Rows data = new Rows(1);
         Rows tetrahedralData = new Rows(1);
+        Rows vectors = new Rows(3);
         Rows current = coordinates;
         try (BufferedReader reader = Files.newBufferedReader(file)) {
             for (String row = reader.readLine(); row != null; row = reader.readLine()) {
@@ -58,14 +62,15 @@ public final class PlotFile {
                         case "Elements (tetrahedral)" -> tetrahedra;
                         case "Data" -> data;
                         case "Tetrahedral Data" -> tetrahedralData;
-                        default -> throw new IOException(file + ": no tag for surfaces or volumes: " + row);
+                        case "Vector data" -> vectors;
+                        default -> throw new IOException(file + ": no tag for surfaces, volumes and arrows: " + row);
                     };
                 } else if (!row.isBlank()) {
                     current.add(row, file);
                 }
             }
         }
-        return new PlotFile(coordinates, triangles, lines, tetrahedra, data, tetrahedralData);
+        return new PlotFile(coordinates, triangles, lines, tetrahedra, data, tetrahedralData, vectors);
     }
 
     /**
@@ -120,6 +125,15 @@ public final class PlotFile {
      */
     public double[] data() {
         return data;
+    }
+
+    /**
+     * The vectors at the points.
+     *
+     * @return arrays of x, y and z; empty if the file has no vectors
+     */
+    public double[][] vectors() {
+        return vectors;
     }
 
     /**

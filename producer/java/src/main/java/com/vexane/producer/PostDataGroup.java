@@ -114,6 +114,35 @@ public final class PostDataGroup {
     }
 
     /**
+     * Sets the elements to lines that connect consecutive points, such as those of streamlines. A line that ends
+     * where it starts needs {@link #elements(int[]...)}.
+     *
+     * @param counts the number of points of each polyline, at least 2; their points follow each other
+     * @return this group
+     * @throws IllegalArgumentException if a number is below 2, or there are more points than an int can count
+     */
+    public PostDataGroup polylineElements(int... counts) {
+        long points = 0;
+        for (int count : counts) {
+            points += count;
+            if (count < 2 || points > Integer.MAX_VALUE) {
+                throw new IllegalArgumentException("A polyline of " + count + " points");
+            }
+        }
+        int[][] ends = new int[2][(int) points - counts.length];
+        int next = 0;
+        int point = 0;
+        for (int count : counts) {
+            for (int i = 1; i < count; ++i, ++next, ++point) {
+                ends[0][next] = point;
+                ends[1][next] = point + 1;
+            }
+            ++point;
+        }
+        return elements(ends);
+    }
+
+    /**
      * Adds lines that are drawn with triangles, such as the outline of a slice.
      *
      * @param from the indices of the points in this group, from 0, at which the lines start

@@ -292,4 +292,15 @@ class PostDataRecordTest {
             assertThrows(IllegalArgumentException.class, () -> new PostDataGroup().gridElements(size[0], size[1]));
         }
     }
+
+    @Test
+    void polylinesConnectConsecutivePoints() {
+        try (PostDataObject record =
+                recordOf(new PostDataGroup().coordinates(new double[6]).polylineElements(3, 2))) {
+            assertArrayEquals(new int[][] {{0, 1, 3}, {1, 2, 4}}, record.getElements(0));
+        }
+        assertThrows(IllegalArgumentException.class, () -> new PostDataGroup().polylineElements(2, 1));
+        assertThrows(IllegalArgumentException.class,
+                () -> new PostDataGroup().polylineElements(Integer.MAX_VALUE, 2));
+    }
 }

@@ -1,0 +1,81 @@
+package com.vexane.gallery.pictures;
+
+import com.vexane.gallery.About;
+import com.vexane.gallery.Picture;
+import com.vexane.gallery.Studio;
+import com.vexane.graphics3d.SceneGraphPlotTube3d;
+import com.vexane.producer.DataRole;
+import com.vexane.producer.PlotKind;
+import com.vexane.producer.PostDataBuilder;
+import com.vexane.producer.PostDataGroup;
+import com.vexane.producer.PostDataObject;
+import java.io.IOException;
+import java.util.stream.IntStream;
+
+@About(title = "A closed tube and a tube with ends",
+        text = "A knot on a torus, whose last line leads back to its first point, and a helix with a hemisphere at each "
+                + "end. Radius and colour are data of the points.")
+public final class Tubes implements Picture {
+    private static final int POINTS = 600;
+
+    /** A tube through points whose position, colour and radius follow an angle from 0 to 2 pi. */
+    private static PostDataObject tube(boolean closed, double[][] points, double[] colors, double[] radii) {
+        int count = colors.length;
+        int[] from = IntStream.range(0, closed ? count : count - 1).toArray();
+        int[] to = IntStream.of(from).map(i -> (i + 1) % count).toArray();
+        return new PostDataBuilder(PlotKind.LINES_3D).role(DataRole.COLOR, 0).role(DataRole.RADIUS, 1)
+                .addGroup(new PostDataGroup().coordinates(points).elements(from, to).data(colors).data(radii))
+                .build();
+    }
+
+    private static PostDataObject knot() {
+        double[][] points = new double[3][POINTS];
+        double[] colors = new double[POINTS];
+        double[] radii = new double[POINTS];
+        for (int i = 0; i < POINTS; ++i) {
+            double t = 2 * Math.PI * i / POINTS;
+            double distance = 3 + Math.cos(3 * t);
+            points[0][i] = distance * Math.cos(2 * t);
+            points[1][i] = distance * Math.sin(2 * t);
+            points[2][i] = Math.sin(3 * t);
+            colors[i] = points[2][i];
+            radii[i] = 0.35 + 0.15 * Math.cos(5 * t);
+        }
+        return tube(true, points, colors, radii);
+    }
+
+    private static PostDataObject helix() {
+        double[][] points = new double[3][POINTS];
+        double[] colors = new double[POINTS];
+        double[] radii = new double[POINTS];
+        for (int i = 0; i < POINTS; ++i) {
+            double t = 5 * Math.PI * i / (POINTS - 1);
+            points[0][i] = 8 + 1.5 * Math.cos(t);
+            points[1][i] = 1.5 * Math.sin(t);
+            points[2][i] = -1.5 + 3.0 * i / (POINTS - 1);
+            colors[i] = 2.0 * i / (POINTS - 1) - 1;
+            radii[i] = 0.2 + 0.25 * i / (POINTS - 1);
+        }
+        return tube(false, points, colors, radii);
+    }
+
+    @Override
+    public void draw(Studio studio) throws IOException {
+        try (SceneGraphPlotTube3d closed = new SceneGraphPlotTube3d(1);
+                SceneGraphPlotTube3d open = new SceneGraphPlotTube3d(2);
+                PostDataObject knot = knot();
+                PostDataObject helix = helix()) {
+            for (SceneGraphPlotTube3d plot : new SceneGraphPlotTube3d[] {closed, open}) {
+                plot.setColorTable("viridis", studio.colors("viridis"), true);
+                plot.fillPlot(plot == closed ? knot : helix);
+            }
+            open.setShowLegend(false);
+            studio.show(closed, "Colour of the points").show(open, "");
+            studio.view(-70, 35).save("As filled.");
+
+            closed.setRadiusScaleFactor(0.4f);
+            open.setRadiusScaleFactor(0.4f);
+            studio.save("With a smaller scale of the radius, for which no record is needed.");
+        }
+    }
+}

@@ -1,0 +1,59 @@
+package com.vexane.gallery.pictures;
+
+import com.vexane.gallery.About;
+import com.vexane.gallery.Picture;
+import com.vexane.gallery.Studio;
+import com.vexane.graphics3d.SceneGraphPlotTube2d;
+import com.vexane.producer.DataRole;
+import com.vexane.producer.PlotKind;
+import com.vexane.producer.PostDataBuilder;
+import com.vexane.producer.PostDataGroup;
+import com.vexane.producer.PostDataObject;
+import java.io.IOException;
+import java.util.Arrays;
+
+@About(title = "Tubes in the plane",
+        text = "The first six overtones of a string. Colour is the deflection, and the width of a band the steepness. "
+                + "The same lines with heights are tubes in space.")
+public final class TubesFlat implements Picture {
+    private static final int LINES = 6;
+    private static final int POINTS = 200;
+
+    private static PostDataObject overtones(boolean raised) {
+        double[][] points = new double[2][LINES * POINTS];
+        double[] deflections = new double[LINES * POINTS];
+        double[] radii = new double[LINES * POINTS];
+        for (int i = 0; i < LINES * POINTS; ++i) {
+            int overtone = i / POINTS + 1;
+            double x = (double) (i % POINTS) / (POINTS - 1);
+            double angle = overtone * Math.PI * x;
+            points[0][i] = 6 * x;
+            points[1][i] = overtone + 0.3 * Math.sin(angle);
+            deflections[i] = Math.sin(angle);
+            radii[i] = 0.05 + 0.05 * Math.abs(Math.cos(angle));
+        }
+        int[] counts = new int[LINES];
+        Arrays.fill(counts, POINTS);
+        PostDataBuilder record = new PostDataBuilder(PlotKind.GENERAL).role(DataRole.COLOR, 0)
+                .role(DataRole.RADIUS, 1).addGroup(new PostDataGroup().coordinates(points).polylineElements(counts)
+                        .data(deflections).data(radii));
+        return (raised ? record.role(DataRole.HEIGHT, 0) : record).build();
+    }
+
+    @Override
+    public void draw(Studio studio) throws IOException {
+        try (SceneGraphPlotTube2d plot = new SceneGraphPlotTube2d(1);
+                PostDataObject flat = overtones(false);
+                PostDataObject raised = overtones(true)) {
+            plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
+            plot.fillPlot(flat);
+            studio.nameAxes("position", "number of the overtone");
+            studio.show(plot, "Deflection").flat();
+            studio.save("Flat bands with round ends.");
+
+            plot.fillPlot(raised);
+            plot.setHeightScale(0.4f);
+            studio.view(-60, 35).save("Raised by the deflection.");
+        }
+    }
+}

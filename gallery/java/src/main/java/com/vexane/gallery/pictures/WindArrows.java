@@ -1,0 +1,44 @@
+package com.vexane.gallery.pictures;
+
+import com.vexane.gallery.About;
+import com.vexane.gallery.Picture;
+import com.vexane.gallery.PlotFile;
+import com.vexane.gallery.Studio;
+import com.vexane.graphics3d.SceneGraphPlotArrow;
+import com.vexane.graphics3d.SceneGraphPlotArrow3d;
+import com.vexane.producer.DataRole;
+import com.vexane.producer.PlotKind;
+import com.vexane.producer.PostDataBuilder;
+import com.vexane.producer.PostDataGroup;
+import com.vexane.producer.PostDataObject;
+import java.io.IOException;
+
+@About(title = "Wind over the earth",
+        text = "The monthly mean of the wind at the surface: a vector at each point, drawn as a lit arrow. A fill makes "
+                + "the longest arrow about as long as the distance between points.")
+public final class WindArrows implements Picture {
+    @Override
+    public void draw(Studio studio) throws IOException {
+        PlotFile wind = PlotFile.read(studio.data("earth_wind_arrows.txt"));
+        double[][] velocity = wind.vectors();
+        try (Globe globe = new Globe(studio); SceneGraphPlotArrow3d plot = new SceneGraphPlotArrow3d(2);
+                PostDataObject record = new PostDataBuilder(PlotKind.GENERAL)
+                        .role(DataRole.COLOR, 0)
+                        .role(DataRole.VECTOR_X, 1).role(DataRole.VECTOR_Y, 2).role(DataRole.VECTOR_Z, 3)
+                        .addGroup(new PostDataGroup().coordinates(wind.coordinates()).data(wind.data())
+                                .data(velocity[0]).data(velocity[1]).data(velocity[2]))
+                        .build()) {
+            plot.fillPlot(record);
+            plot.setColorTable("plasma", studio.colors("plasma"), true);
+            plot.setHeadRadius(0.15f);
+            plot.setShaftRadius(0.05f);
+            globe.show(studio);
+            studio.show(plot, "Speed of the wind in m/s");
+            studio.view(-75, 5).save("Lengths are proportional to the speed.");
+
+            plot.setScalingType(SceneGraphPlotArrow.Scaling.NORMALIZED);
+            plot.setCommonArrowScale(0.6f);
+            studio.save("All arrows have the same length and show the direction only.");
+        }
+    }
+}
