@@ -12,6 +12,7 @@
 namespace vxrenderer {
 namespace {
 
+using vxgraphics3d::Color;
 using vxgraphics3d::Vector3f;
 
 TextLayout layoutOf(const vxbase::UString& text, FontSet& fonts)
@@ -29,6 +30,25 @@ float projectedW(const View& view, const Vector3f& eye)
 {
     return view.projection.get(4, 1) * eye.x + view.projection.get(4, 2) * eye.y + view.projection.get(4, 3) * eye.z +
            view.projection.get(4, 4);
+}
+
+Color contrastingWith(const Color& color)
+{
+    constexpr int c_middle = 128 * 1000;
+    return Color::fromRgb(299 * color.red + 587 * color.green + 114 * color.blue < c_middle ? 0xffffff : 0x000000);
+}
+
+/// Draws a text moved to all sides by the width of its rim.
+void drawHalo(const TextLayout& text, FontSet& fonts, float left, float top, const Color& color, float depth,
+              OverlayPainter& painter)
+{
+    constexpr float c_partOfFontSize = 0.1f;
+    const float width = std::max(1.0f, std::round(c_partOfFontSize * fonts.fontSize()));
+    for (const float dy : {-width, 0.0f, width}) {
+        for (const float dx : {-width, 0.0f, width}) {
+            painter.drawText(text, fonts, left + dx, top + dy, color, depth);
+        }
+    }
 }
 
 bool isInView(const Vector3f& clip)
@@ -63,7 +83,13 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
         } else {
             glDisable(GL_DEPTH_TEST);
         }
-        painter.drawText(text, fonts, x - 0.5f * text.width, y - 0.5f * text.height, label.color, depth);
+        // Whole pixels, so that the text and its rim are rounded alike.
+        const float left = std::round(x - 0.5f * text.width);
+        const float top = std::round(y - 0.5f * text.height);
+        if (label.hasHalo) {
+            drawHalo(text, fonts, left, top, contrastingWith(label.color), depth, painter);
+        }
+        painter.drawText(text, fonts, left, top, label.color, depth);
     }
     glDisable(GL_DEPTH_TEST);
     glDepthMask(GL_TRUE);

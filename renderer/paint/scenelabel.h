@@ -21,6 +21,9 @@ struct SceneLabel {
     vxgraphics3d::Color color;
     /// Whether what lies in front of the point hides the text; otherwise it is seen through everything.
     bool isHideable = true;
+    /// Whether the text has a rim in black or white, whichever contrasts with its colour, so that it can be read on
+    /// lines and on any surface.
+    bool hasHalo = false;
 };
 
 /// Draws labels into the scene buffer, whose depths they are compared with, each as a whole: what a text lies on does
