@@ -1,15 +1,21 @@
 package com.vexane.gallery;
 
+import com.vexane.gallery.pictures.BracketMesh;
+import com.vexane.gallery.pictures.BracketSlices;
 import com.vexane.gallery.pictures.BracketStress;
 import com.vexane.gallery.pictures.EarthRelief;
 import com.vexane.gallery.pictures.FourCameras;
 import com.vexane.gallery.pictures.Hardcopy;
 import com.vexane.gallery.pictures.LightsLockedAndFree;
 import com.vexane.gallery.pictures.LogarithmicAxes;
+import com.vexane.gallery.pictures.OceanIsotherms;
+import com.vexane.gallery.pictures.OceanSlices;
 import com.vexane.gallery.pictures.PolarView;
 import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
+import com.vexane.gallery.pictures.SeaTemperatureBands;
 import com.vexane.gallery.pictures.TerrainColors;
+import com.vexane.gallery.pictures.TerrainContours;
 import com.vexane.gallery.pictures.TerrainFine;
 import com.vexane.gallery.pictures.TerrainFlat;
 import com.vexane.gallery.pictures.TerrainRaised;
@@ -29,7 +35,13 @@ public final class Gallery {
             new TerrainFine(),
             new TerrainColors(),
             new SeaTemperature(),
+            new TerrainContours(),
+            new SeaTemperatureBands(),
+            new OceanIsotherms(),
+            new OceanSlices(),
             new BracketStress(),
+            new BracketSlices(),
+            new BracketMesh(),
             new EarthRelief(),
             new FourCameras(),
             new ResizeBehaviours(),

@@ -9,8 +9,11 @@ import java.io.BufferedReader;
 import java.io.IOException;
 import java.nio.file.Files;
 import java.nio.file.Path;
+import java.util.ArrayList;
 import java.util.Arrays;
+import java.util.List;
 import java.util.StringTokenizer;
+import java.util.stream.IntStream;
 
 /**
  * A file in the text plot format, read into arrays as a producer holds them. Unlike the library's own reader, which
@@ -20,13 +23,18 @@ public final class PlotFile {
     private final double[][] coordinates;
     private final int[][] triangles;
     private final int[][] lines;
+    private final int[][] tetrahedra;
     private final double[] data;
+    private final double[] tetrahedralData;
 
-    private PlotFile(double[][] coordinates, double[][] triangles, double[][] lines, double[] data) {
+    private PlotFile(double[][] coordinates, int[][] triangles, int[][] lines, int[][] tetrahedra, double[] data,
+            double[] tetrahedralData) {
         this.coordinates = coordinates;
-        this.triangles = indices(triangles);
-        this.lines = indices(lines);
+        this.triangles = triangles;
+        this.lines = lines;
+        this.tetrahedra = tetrahedra;
         this.data = data;
+        this.tetrahedralData = tetrahedralData;
     }
 
     /**
@@ -40,7 +48,9 @@ public final class PlotFile {
         Rows coordinates = new Rows(3);
         Rows triangles = new Rows(3);
         Rows lines = new Rows(2);
+        Rows tetrahedra = new Rows(4);
         Rows data = new Rows(1);
+        Rows tetrahedralData = new Rows(1);
         Rows current = coordinates;
         try (BufferedReader reader = Files.newBufferedReader(file)) {
             for (String row = reader.readLine(); row != null; row = reader.readLine()) {
@@ -49,7 +59,9 @@ public final class PlotFile {
                         case "Coordinates" -> coordinates;
                         case "Elements (triangular)" -> triangles;
                         case "Elements (lines)" -> lines;
+                        case "Elements (tetrahedral)" -> tetrahedra;
                         case "Data" -> data;
+                        case "Tetrahedral Data" -> tetrahedralData;
                         default -> throw new IOException(file + ": no tag for surfaces: " + row);
                     };
                 } else if (!row.isBlank()) {
@@ -57,7 +69,73 @@ public final class PlotFile {
                 }
             }
         }
-        return new PlotFile(coordinates.columns(), triangles.columns(), lines.columns(), data.columns()[0]);
+        return new PlotFile(coordinates.columns(), indices(triangles.columns()), indices(lines.columns()),
+                indices(tetrahedra.columns()), data.columns()[0], tetrahedralData.columns()[0]);
+    }
+
+    /**
+     * The parts of a file in which one value is the same, as those of slices or levels: runs of points with the triangles
+     * between them.
+     *
+     * @param key the value of each point, such as its x
+     * @return a file for each part, with points, triangles and data
+     */
+    public List<PlotFile> split(double[] key) {
+        List<PlotFile> parts = new ArrayList<>();
+        int triangle = 0;
+        for (int first = 0, last = 0; first < key.length; first = last) {
+            while (last < key.length && key[last] == key[first]) {
+                ++last;
+            }
+            int firstTriangle = triangle;
+            while (triangle < triangles[0].length && triangles[0][triangle] < last) {
+                ++triangle;
+            }
+            parts.add(part(first, last, firstTriangle, triangle));
+        }
+        return parts;
+    }
+
+    private PlotFile part(int first, int last, int firstTriangle, int lastTriangle) {
+        double[][] points = Arrays.stream(coordinates).map(axis -> Arrays.copyOfRange(axis, first, last))
+                .toArray(double[][]::new);
+        int[][] corners = Arrays.stream(triangles).map(corner -> Arrays.stream(corner, firstTriangle, lastTriangle)
+                .map(point -> point - first).toArray()).toArray(int[][]::new);
+        return new PlotFile(points, corners, new int[2][0], new int[4][0], Arrays.copyOfRange(data, first, last),
+                new double[0]);
+    }
+
+    /**
+     * The edges of the triangles, each once.
+     *
+     * @return an array for each end, counted from 0
+     */
+    public int[][] edges() {
+        long[] edges = IntStream.range(0, 3 * triangles[0].length).mapToLong(i -> {
+            int a = triangles[i % 3][i / 3];
+            int b = triangles[(i + 1) % 3][i / 3];
+            return (long) Math.min(a, b) << 32 | Math.max(a, b);
+        }).sorted().distinct().toArray();
+        return new int[][] {
+            Arrays.stream(edges).mapToInt(edge -> (int) (edge >> 32)).toArray(),
+            Arrays.stream(edges).mapToInt(edge -> (int) edge).toArray()
+        };
+    }
+
+    /**
+     * At each point, the smallest value of the tetrahedra around it.
+     *
+     * @return one for each point; infinity for a point without tetrahedra
+     */
+    public double[] smallestOfTetrahedra() {
+        double[] smallest = new double[coordinates[0].length];
+        Arrays.fill(smallest, Double.POSITIVE_INFINITY);
+        for (int i = 0; i < tetrahedralData.length; ++i) {
+            for (int[] corner : tetrahedra) {
+                smallest[corner[i]] = Math.min(smallest[corner[i]], tetrahedralData[i]);
+            }
+        }
+        return smallest;
     }
 
     /**
