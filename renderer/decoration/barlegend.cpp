@@ -1,7 +1,6 @@
 #include "renderer/decoration/barlegend.h"
 
 #include "base/ustring.h"
-#include "graphics3d/foundation/textutil.h"
 #include "graphics3d/plots/colour/colortable.h"
 #include "graphics3d/plots/scenegraphplot.h"
 #include "renderer/axes/ticks.h"
@@ -16,7 +15,6 @@ namespace {
 
 using vxbase::UString;
 using vxgraphics3d::Color;
-using vxgraphics3d::SceneGraphPlot;
 
 constexpr Color c_frame = {70, 70, 70, 255};
 
@@ -24,17 +22,9 @@ constexpr Color c_frame = {70, 70, 70, 255};
 constexpr float c_barWidth = 1.3f;
 constexpr float c_tickLength = 0.3f;
 constexpr float c_labelGap = 0.3f;
-/// Below the title, which keeps clear of a label at the top of the bar.
-constexpr float c_headGap = 0.9f;
 /// Height of the bar for each tick.
 constexpr float c_tickDistance = 2.6f;
 constexpr int c_mostTicks = 12;
-/// Part of the height that the title may take.
-constexpr float c_titlePart = 0.25f;
-
-/// Marks of the largest and of the smallest value.
-constexpr const char* c_upwards = "\xE2\x96\xB2 ";
-constexpr const char* c_downwards = "\xE2\x96\xBC ";
 
 TextLayout layoutOf(const UString& markup, FontSet& fonts, TextRoom room)
 {
@@ -44,23 +34,11 @@ TextLayout layoutOf(const UString& markup, FontSet& fonts, TextRoom room)
 } // namespace
 
 BarLegend::BarLegend(const PlotItem& item, const LegendStyle& style, float maxWidth, float height)
-    : m_item(item), m_scale(legendScaleOf(*item.plot)), m_height(height)
+    : m_item(item), m_scale(legendScaleOf(*item.plot)), m_height(height), m_texts(*item.plot, style, maxWidth, height)
 {
-    const SceneGraphPlot& plot = *item.plot;
     const float em = style.tickFonts.fontSize();
     const TextRoom line = {maxWidth, height};
-    if (style.showTitle && !plot.getTitle().empty()) {
-        UString title;
-        vxgraphics3d::TextUtil::prepareTitle(plot.getTitle(), title, plot.getTitleFormat());
-        m_title = layoutOf(title, style.titleFonts, {maxWidth, c_titlePart * height});
-    }
-    if (style.showMinMax) {
-        m_largest =
-            layoutOf(UString(c_upwards + numberText(plot.getValueMax(), style.minMaxDigits)), style.tickFonts, line);
-        m_smallest =
-            layoutOf(UString(c_downwards + numberText(plot.getValueMin(), style.minMaxDigits)), style.tickFonts, line);
-    }
-    const float barRoom = height - m_title.height - m_largest.height - m_smallest.height - (c_headGap + 1.5f) * em;
+    const float barRoom = height - m_texts.headHeight(style, 0.0f) - m_texts.smallest.height - 1.5f * em;
     const int count = std::clamp(static_cast<int>(barRoom / (c_tickDistance * em)), 1, c_mostTicks);
     const Ticks ticks = makeTicks(m_scale.lowerValue, m_scale.upperValue, count, style.tickDigits);
     if (ticks.exponent != 0) {
@@ -71,27 +49,19 @@ BarLegend::BarLegend(const PlotItem& item, const LegendStyle& style, float maxWi
         m_labels.push_back({layoutOf(UString(tick.label), style.tickFonts, line), m_scale.heightOf(tick.value)});
         labelWidth = std::max(labelWidth, m_labels.back().text.width);
     }
-    m_width = std::max({(c_barWidth + c_tickLength + c_labelGap) * em + labelWidth, m_title.width, m_power.width,
-                        m_largest.width, m_smallest.width});
-    m_headHeight = m_title.height + m_power.height + m_largest.height + c_headGap * em;
+    m_width = std::max({(c_barWidth + c_tickLength + c_labelGap) * em + labelWidth, m_power.width, m_texts.width()});
+    m_headHeight = m_texts.headHeight(style, m_power.height);
 }
 
 void BarLegend::draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left, float top,
                      float headHeight) const
 {
     const float em = style.tickFonts.fontSize();
-    const float foot = m_smallest.height > 0.0f ? m_smallest.height + c_headGap * em : 0.5f * em;
     const float right = std::round(left + c_barWidth * em);
     const float barTop = std::round(top + headHeight);
-    const float barBottom = std::round(top + m_height - foot);
+    const float barBottom = std::round(top + m_height - m_texts.footHeight(style));
     left = std::round(left);
-    float headTop = barTop - m_headHeight;
-    painter.drawText(m_title, style.titleFonts, left, headTop, style.color);
-    headTop += m_title.height;
-    painter.drawText(m_power, style.tickFonts, left, headTop, style.color);
-    headTop += m_power.height;
-    painter.drawText(m_largest, style.tickFonts, left, headTop, style.color);
-    painter.drawText(m_smallest, style.tickFonts, left, top + m_height - m_smallest.height, style.color);
+    m_texts.draw(painter, style, left, barTop - m_headHeight, top + m_height, m_power);
     if (barBottom - barTop < 3.0f * style.lineWidth) {
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "renderer/decoration/legend.h"
 #include "renderer/decoration/legendscale.h"
+#include "renderer/decoration/legendtexts.h"
 #include "renderer/text/textlayout.h"
 
 #include <vector>
@@ -29,12 +30,10 @@ private:
     PlotItem m_item;
     LegendScale m_scale;
     float m_height;
+    LegendTexts m_texts;
     float m_width = 0.0f;
     float m_headHeight = 0.0f;
-    TextLayout m_title;
     TextLayout m_power;
-    TextLayout m_largest;
-    TextLayout m_smallest;
     std::vector<Label> m_labels;
 };
 

@@ -39,6 +39,15 @@ std::array<float, 4> channelsOf(const vxgraphics3d::Color& color)
     return {channel(color.red), channel(color.green), channel(color.blue), channel(color.alpha)};
 }
 
+Material Material::inColor(const vxgraphics3d::Color& newColor) const
+{
+    Material material = *this;
+    material.color = channelsOf(newColor);
+    material.color[3] = color[3];
+    material.hasTable = 0;
+    return material;
+}
+
 Material Material::of(const vxgraphics3d::Color& color)
 {
     Material material;

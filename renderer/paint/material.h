@@ -43,6 +43,11 @@ struct Material {
                restriction[1] < std::numeric_limits<float>::max();
     }
 
+    /// Whether the restriction hides a texture coordinate.
+    bool hides(float u) const { return u < restriction[0] || u > restriction[1]; }
+    /// The same opacity and restriction in one colour.
+    Material inColor(const vxgraphics3d::Color& newColor) const;
+
     /// One colour, with its own alpha.
     static Material of(const vxgraphics3d::Color& color);
 };

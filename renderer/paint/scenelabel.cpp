@@ -17,6 +17,7 @@
 namespace vxrenderer {
 namespace {
 
+using vxgraphics3d::Color;
 using vxgraphics3d::Vector3f;
 
 TextLayout layoutOf(const vxbase::UString& text, FontSet& fonts)
@@ -154,6 +155,25 @@ void placeBeside(std::vector<ShownLabel>& labels)
     });
 }
 
+Color contrastingWith(const Color& color)
+{
+    constexpr int c_middle = 128 * 1000;
+    return Color::fromRgb(299 * color.red + 587 * color.green + 114 * color.blue < c_middle ? 0xffffff : 0x000000);
+}
+
+/// Draws a text moved to all sides by the width of its rim.
+void drawHalo(const ShownLabel& shown, FontSet& fonts, OverlayPainter& painter)
+{
+    constexpr float c_partOfFontSize = 0.1f;
+    const float width = std::max(1.0f, std::round(c_partOfFontSize * fonts.fontSize()));
+    const Color color = contrastingWith(shown.label->color);
+    for (const float dy : {-width, 0.0f, width}) {
+        for (const float dx : {-width, 0.0f, width}) {
+            painter.drawText(shown.text, fonts, shown.left + dx, shown.top + dy, color, shown.depth);
+        }
+    }
+}
+
 } // namespace
 
 void drawLabels(std::span<const SceneLabel> labels, const View& view, int width, int height, FontSet& fonts,
@@ -166,6 +186,11 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
         }
     }
     placeBeside(shownLabels);
+    for (ShownLabel& shown : shownLabels) {
+        // Whole pixels, so that the text and its rim are rounded alike.
+        shown.left = std::round(shown.left);
+        shown.top = std::round(shown.top);
+    }
     painter.begin(width, height);
     glDepthMask(GL_FALSE);
     for (const ShownLabel& shown : shownLabels) {
@@ -174,12 +199,8 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
         } else {
             glDisable(GL_DEPTH_TEST);
         }
-        if (shown.label->halo) {
-            constexpr std::pair<float, float> c_around[] = {{-1.0f, -1.0f}, {0.0f, -1.0f}, {1.0f, -1.0f}, {-1.0f, 0.0f},
-                                                            {1.0f, 0.0f},   {-1.0f, 1.0f}, {0.0f, 1.0f},  {1.0f, 1.0f}};
-            for (const auto& [x, y] : c_around) {
-                painter.drawText(shown.text, fonts, shown.left + x, shown.top + y, *shown.label->halo, shown.depth);
-            }
+        if (shown.label->hasHalo) {
+            drawHalo(shown, fonts, painter);
         }
         painter.drawText(shown.text, fonts, shown.left, shown.top, shown.label->color, shown.depth);
     }

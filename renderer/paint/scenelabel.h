@@ -4,7 +4,6 @@
 #include "graphics3d/foundation/color.h"
 #include "graphics3d/foundation/vector3f.h"
 
-#include <optional>
 #include <span>
 
 namespace vxrenderer {
@@ -25,8 +24,9 @@ struct SceneLabel {
     /// Whether the text lies next to the point, on the first of its sides and corners where it covers no other such
     /// text; where all are taken, it is left out. Otherwise its middle lies at the point.
     bool isBeside = false;
-    /// The colour of a border around the letters, which keeps them readable on any background.
-    std::optional<vxgraphics3d::Color> halo = std::nullopt;
+    /// Whether the text has a rim in black or white, whichever contrasts with its colour, so that it can be read on
+    /// lines and on any surface.
+    bool hasHalo = false;
 };
 
 /// Draws labels into the scene buffer, whose depths they are compared with, each as a whole: what a text lies on does

@@ -4,7 +4,10 @@
 #include "renderer/plots/edgepainter.h"
 #include "renderer/plots/graphpainter.h"
 #include "renderer/plots/interactivepainter.h"
+#include "renderer/plots/isopainter.h"
+#include "renderer/plots/meshplotpainter.h"
 #include "renderer/plots/pointlabelpainter.h"
+#include "renderer/plots/slicepainter.h"
 #include "renderer/plots/spherepainter.h"
 #include "renderer/plots/surfacepainter.h"
 #include "renderer/plots/tubepainter.h"
@@ -22,6 +25,9 @@ PlotPainters makePlotPainters()
     painters.push_back(std::make_unique<PointLabelPainter>());
     painters.push_back(std::make_unique<ArrowPainter>());
     painters.push_back(std::make_unique<TubePainter>());
+    painters.push_back(std::make_unique<IsoPainter>());
+    painters.push_back(std::make_unique<SlicePainter>());
+    painters.push_back(std::make_unique<MeshPlotPainter>());
     return painters;
 }
 

@@ -8,22 +8,10 @@
 
 namespace vxrenderer {
 
-using vxgraphics3d::Color;
 using vxgraphics3d::PointCollection;
 using vxgraphics3d::SceneGraphPlotPointLabel;
 using vxgraphics3d::Vector3f;
 using PlotType = vxgraphics3d::SceneGraphPlot::PlotType;
-
-namespace {
-
-/// White around dark letters, nearly black around bright ones.
-Color contrastOf(const Color& color)
-{
-    const int brightness = (3 * color.red + 6 * color.green + color.blue) / 10;
-    return Color::fromRgb(brightness < 128 ? 0xffffff : 0x202020);
-}
-
-} // namespace
 
 bool PointLabelPainter::draws(PlotType type) const
 {
@@ -42,7 +30,7 @@ void PointLabelPainter::draw(const PlotItem& item, const PaintContext& context) 
                            .text = plot.getLabels()[i],
                            .color = plot.getColor(),
                            .isBeside = true,
-                           .halo = contrastOf(plot.getColor())});
+                           .hasHalo = true});
     }
 }
 

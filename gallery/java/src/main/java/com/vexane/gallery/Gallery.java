@@ -2,7 +2,9 @@ package com.vexane.gallery;
 
 import com.vexane.gallery.pictures.ArrowScalings;
 import com.vexane.gallery.pictures.BracketEdges;
+import com.vexane.gallery.pictures.BracketMesh;
 import com.vexane.gallery.pictures.BracketPath;
+import com.vexane.gallery.pictures.BracketSlices;
 import com.vexane.gallery.pictures.BracketStress;
 import com.vexane.gallery.pictures.CityLabels;
 import com.vexane.gallery.pictures.DashedLines;
@@ -17,15 +19,19 @@ import com.vexane.gallery.pictures.LegendPositions;
 import com.vexane.gallery.pictures.LightsLockedAndFree;
 import com.vexane.gallery.pictures.LocalAxes;
 import com.vexane.gallery.pictures.LogarithmicAxes;
+import com.vexane.gallery.pictures.OceanIsotherms;
 import com.vexane.gallery.pictures.OceanProfile;
+import com.vexane.gallery.pictures.OceanSlices;
 import com.vexane.gallery.pictures.PolarView;
 import com.vexane.gallery.pictures.PrincipalStress;
 import com.vexane.gallery.pictures.RaisedEdges;
 import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
+import com.vexane.gallery.pictures.SeaTemperatureBands;
 import com.vexane.gallery.pictures.SeaTemperatureYear;
 import com.vexane.gallery.pictures.SymbolsAndStyles;
 import com.vexane.gallery.pictures.TerrainColors;
+import com.vexane.gallery.pictures.TerrainContours;
 import com.vexane.gallery.pictures.TerrainFine;
 import com.vexane.gallery.pictures.TerrainFlat;
 import com.vexane.gallery.pictures.TerrainRaised;
@@ -51,7 +57,13 @@ public final class Gallery {
             new TerrainFine(),
             new TerrainColors(),
             new SeaTemperature(),
+            new TerrainContours(),
+            new SeaTemperatureBands(),
+            new OceanIsotherms(),
+            new OceanSlices(),
             new BracketStress(),
+            new BracketSlices(),
+            new BracketMesh(),
             new EarthRelief(),
             new Earthquakes(),
             new EarthquakeMap(),

@@ -9,8 +9,11 @@ import java.io.BufferedReader;
 import java.io.IOException;
 import java.nio.file.Files;
 import java.nio.file.Path;
+import java.util.ArrayList;
 import java.util.Arrays;
+import java.util.List;
 import java.util.StringTokenizer;
+import java.util.stream.IntStream;
 
 /**
  * A file in the text plot format, read into arrays as a producer holds them. Unlike the library's own reader, which
@@ -25,15 +28,15 @@ public final class PlotFile {
     private final double[] tetrahedralData;
     private final double[][] vectors;
 
-    private PlotFile(Rows coordinates, Rows triangles, Rows lines, Rows tetrahedra, Rows data, Rows tetrahedralData,
-            Rows vectors) {
-        this.coordinates = coordinates.columns();
-        this.triangles = indices(triangles.columns());
-        this.lines = indices(lines.columns());
-        this.tetrahedra = indices(tetrahedra.columns());
-        this.data = data.columns()[0];
-        this.tetrahedralData = tetrahedralData.columns()[0];
-        this.vectors = vectors.columns();
+    private PlotFile(double[][] coordinates, int[][] triangles, int[][] lines, int[][] tetrahedra, double[] data,
+            double[] tetrahedralData, double[][] vectors) {
+        this.coordinates = coordinates;
+        this.triangles = triangles;
+        this.lines = lines;
+        this.tetrahedra = tetrahedra;
+        this.data = data;
+        this.tetrahedralData = tetrahedralData;
+        this.vectors = vectors;
     }
 
     /**
@@ -70,7 +73,74 @@ public final class PlotFile {
                 }
             }
         }
-        return new PlotFile(coordinates, triangles, lines, tetrahedra, data, tetrahedralData, vectors);
+        return new PlotFile(coordinates.columns(), indices(triangles.columns()), indices(lines.columns()),
+                indices(tetrahedra.columns()), data.columns()[0], tetrahedralData.columns()[0],
+                vectors.columns());
+    }
+
+    /**
+     * The parts of a file in which one value is the same, as those of slices or levels: runs of points with the triangles
+     * between them.
+     *
+     * @param key the value of each point, such as its x
+     * @return a file for each part, with points, triangles and data
+     */
+    public List<PlotFile> split(double[] key) {
+        List<PlotFile> parts = new ArrayList<>();
+        int triangle = 0;
+        for (int first = 0, last = 0; first < key.length; first = last) {
+            while (last < key.length && key[last] == key[first]) {
+                ++last;
+            }
+            int firstTriangle = triangle;
+            while (triangle < triangles[0].length && triangles[0][triangle] < last) {
+                ++triangle;
+            }
+            parts.add(part(first, last, firstTriangle, triangle));
+        }
+        return parts;
+    }
+
+    private PlotFile part(int first, int last, int firstTriangle, int lastTriangle) {
+        double[][] points = Arrays.stream(coordinates).map(axis -> Arrays.copyOfRange(axis, first, last))
+                .toArray(double[][]::new);
+        int[][] corners = Arrays.stream(triangles).map(corner -> Arrays.stream(corner, firstTriangle, lastTriangle)
+                .map(point -> point - first).toArray()).toArray(int[][]::new);
+        return new PlotFile(points, corners, new int[2][0], new int[4][0], Arrays.copyOfRange(data, first, last),
+                new double[0], new double[3][0]);
+    }
+
+    /**
+     * The edges of the triangles, each once.
+     *
+     * @return an array for each end, counted from 0
+     */
+    public int[][] edges() {
+        long[] edges = IntStream.range(0, 3 * triangles[0].length).mapToLong(i -> {
+            int a = triangles[i % 3][i / 3];
+            int b = triangles[(i + 1) % 3][i / 3];
+            return (long) Math.min(a, b) << 32 | Math.max(a, b);
+        }).sorted().distinct().toArray();
+        return new int[][] {
+            Arrays.stream(edges).mapToInt(edge -> (int) (edge >> 32)).toArray(),
+            Arrays.stream(edges).mapToInt(edge -> (int) edge).toArray()
+        };
+    }
+
+    /**
+     * At each point, the smallest value of the tetrahedra around it.
+     *
+     * @return one for each point; infinity for a point without tetrahedra
+     */
+    public double[] smallestOfTetrahedra() {
+        double[] smallest = new double[coordinates[0].length];
+        Arrays.fill(smallest, Double.POSITIVE_INFINITY);
+        for (int i = 0; i < tetrahedralData.length; ++i) {
+            for (int[] corner : tetrahedra) {
+                smallest[corner[i]] = Math.min(smallest[corner[i]], tetrahedralData[i]);
+            }
+        }
+        return smallest;
     }
 
     /**

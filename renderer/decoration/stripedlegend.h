@@ -1,0 +1,38 @@
+#pragma once
+
+#include "renderer/decoration/legend.h"
+#include "renderer/decoration/legendtexts.h"
+#include "renderer/text/textlayout.h"
+
+#include <vector>
+
+namespace vxrenderer {
+
+/// The legend of single levels: a stripe in the colour of each, from the bottom upwards, with its value next to it.
+/// Where stripes are lower than their values, only some of these are shown.
+class StripedLegend : public Legend {
+public:
+    /// @param item a plot with a striped legend that has stripes
+    StripedLegend(const PlotItem& item, const LegendStyle& style, float maxWidth, float height);
+
+    float getWidth() const override { return m_width; }
+    float getHeadHeight() const override { return m_headHeight; }
+    void draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left, float top,
+              float headHeight) const override;
+
+private:
+    struct Stripe {
+        TextLayout label; ///< empty if it is left out
+        /// Position in the colour table, 0 to 1.
+        float color;
+    };
+
+    PlotItem m_item;
+    LegendTexts m_texts;
+    std::vector<Stripe> m_stripes; // from the bottom
+    float m_stripeHeight;
+    float m_width = 0.0f;
+    float m_headHeight = 0.0f;
+};
+
+} // namespace vxrenderer
