@@ -49,11 +49,9 @@ bool GraphPolylines::take(int point)
 
 void GraphPolylines::join(Neighbours& neighbours, int point)
 {
-    if (neighbours[0] == c_none) {
-        neighbours[0] = point;
-    } else if (neighbours[1] == c_none) {
-        neighbours[1] = point;
-    }
+    // Without branches: which entry is free is as random as the order of the edges.
+    int& entry = neighbours[neighbours[0] == c_none ? 0 : 1];
+    entry = entry == c_none ? point : entry;
 }
 
 void GraphPolylines::joinEdges()
