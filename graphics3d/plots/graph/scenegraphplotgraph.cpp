@@ -34,7 +34,7 @@ constexpr int c_numStyles = 4;
 /// The number after another in a cycle from 0.
 int nextOf(int number, int count)
 {
-    return number + 1 >= count ? 0 : number + 1;
+    return number >= count - 1 ? 0 : number + 1;
 }
 
 } // namespace
