@@ -66,11 +66,12 @@ void drawLine(const SceneGraphPlotGraph& graph, const boost::shared_ptr<GraphLin
     Look look = {context.view.sceneToEye, Material::of(color)};
     look.toEye.translate(0.0f, 0.0f, graph.getPlotPlaneOffset());
     // A line keeps its buffers for life, so that nothing tells them to be looked at again.
-    if (line->m_lineStyle == LineStyle::solid || (line->m_lineStyle != LineStyle::none && !context.view.isFlat)) {
+    const LineStyle style = width > 0.0f ? line->m_lineStyle : LineStyle::none;
+    if (style == LineStyle::solid || (style != LineStyle::none && !context.view.isFlat)) {
         context.drawLines(context.uploads.lines(line, context.logAxes, 1, version.vertices, version.strips), look,
                           width, width >= c_roundWidth);
-    } else if (line->m_lineStyle != LineStyle::none) {
-        drawDashes(version, line->m_lineStyle, width, color, context);
+    } else if (style != LineStyle::none) {
+        drawDashes(version, style, width, color, context);
     }
     if (line->m_marker != RenderSymbol::none) {
         const auto positions = [&] {

@@ -277,6 +277,9 @@ void fillGraphLine(GraphLine& line, const GraphPoints& points, GraphVersionLimit
 {
     const GraphLimits own = points.edges ? GraphPolylines(points).fill(line) : fillInOrder(line, points);
     limits.linear.merge(own);
+    if (line.m_vertices.getNumberOfVertices() < 1) {
+        return;
+    }
     if (line.m_vertices.getNumberOfVertices() == 1) {
         fillPoint(line, limits);
     } else if (own.minX > 0.0f && own.minY > 0.0f) {

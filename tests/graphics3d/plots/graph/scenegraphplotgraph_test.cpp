@@ -313,13 +313,14 @@ TEST(SceneGraphPlotGraph, versionsMatchTheirDefinitionForRandomRecords)
         const int numGroups = random.integer(1, 3);
         std::vector<Strips> expected;
         for (int group = 0; group < numGroups; ++group) {
-            // A third of the values is not positive, some are no numbers.
+            // A third of the values is not positive, in some lines none; some are no numbers.
+            const float low = random.integer(0, 3) == 0 ? 0.001f : -1.0f;
             const int count = round == 0 ? 70000 : random.integer(0, 40);
             Doubles x, y;
             Strip points;
             for (int i = 0; i < count; ++i) {
                 const auto value = [&] {
-                    return random.integer(0, 19) == 0 ? c_nan : static_cast<double>(random.uniform(-1.0f, 2.0f));
+                    return random.integer(0, 19) == 0 ? c_nan : static_cast<double>(random.uniform(low, 2.0f));
                 };
                 x.push_back(value());
                 y.push_back(value());
@@ -402,6 +403,8 @@ TEST(SceneGraphPlotGraph, settingsOfLinesFollowTheirCycles)
     EXPECT_EQ(lineOf(plot, 1).m_lineColor, (Color{0, 0, 0, 255}));
     EXPECT_EQ(lineOf(plot, 2).m_lineColor, (Color{0, 0, 255, 255}));
     EXPECT_EQ(lineOf(plot, 3).m_lineColor, (Color{40, 185, 62, 255}));
+    EXPECT_EQ(plot.setLineColorCycle(true, std::numeric_limits<int>::max()), 3);
+    EXPECT_EQ(lineOf(plot, 1).m_lineColor, (Color{0, 0, 255, 255}));
     EXPECT_EQ(SceneGraphPlotGraph::getColorFromEnum(-1), (Color{255, 255, 255, 255}));
     plot.setColor({1, 2, 3, 255});
     EXPECT_EQ(plot.setLineColorCycle(false, 3), 3);

@@ -111,7 +111,7 @@ public final class SceneGraphPlotGraph extends SceneGraphPlot {
     /**
      * Sets the width of all lines.
      *
-     * @param width the width in pixels, initially 1; not checked
+     * @param width the width in pixels of the screen, initially 1; not checked
      */
     public void setLineWidth(int width) {
         setLineWidth(this, width);
