@@ -78,8 +78,8 @@ class VectorPlotTest {
             for (SceneGraphPlot plot : List.of(flatArrows, spatialArrows)) {
                 plot.fillPlot(arrows);
                 assertEquals(9, plot.getValueMax());
-                assertEquals("", assertThrows(NativeException.class, () -> plot.fillPlot(axes)).getDetail()
-                        .replaceAll(".*DataRole.VECTOR_[XY] .*", ""));
+                NativeException refusal = assertThrows(NativeException.class, () -> plot.fillPlot(lines));
+                assertTrue(refusal.getDetail().contains("DataRole.VECTOR_X"), refusal.getDetail());
             }
             for (SceneGraphPlot plot : List.of(flatTubes, spatialTubes, ribbons)) {
                 plot.fillPlot(lines);
