@@ -51,9 +51,6 @@ PointColors PointColors::ofGroup(const PostDataView& record, int group, float u)
 
 TriangleCorners::TriangleCorners(const PostDataView& record, int group)
 {
-    if (record.elements(group, 0).empty()) {
-        return;
-    }
     const PostDataObject::IntArrays& corners = record.elements(group, 3);
     count = static_cast<int>(corners[0].size());
     a = corners[0].data();
@@ -61,11 +58,13 @@ TriangleCorners::TriangleCorners(const PostDataView& record, int group)
     c = corners[2].data();
 }
 
+TriangleCorners TriangleCorners::ofAnyElements(const PostDataView& record, int group)
+{
+    return record.elements(group, 0).empty() ? TriangleCorners() : TriangleCorners(record, group);
+}
+
 LineEnds LineEnds::ofElements(const PostDataView& record, int group)
 {
-    if (record.elements(group, 0).empty()) {
-        return {0, nullptr, nullptr};
-    }
     const PostDataObject::IntArrays& ends = record.elements(group, 2);
     return {static_cast<int>(ends[0].size()), ends[0].data(), ends[1].data()};
 }

@@ -61,19 +61,24 @@ struct PointColors {
     float constant = 0.0f;
 };
 
-/// The corners of triangles, three arrays by corner. A group without arrays has no triangles.
+/// The corners of triangles, three arrays by corner.
 struct TriangleCorners {
     TriangleCorners(const vxdatacarrier::PostDataView& record, int group);
+    /// Accepts a group without corner arrays, which has no triangles.
+    static TriangleCorners ofAnyElements(const vxdatacarrier::PostDataView& record, int group);
 
     int count = 0;
     const int* a = nullptr;
     const int* b = nullptr;
     const int* c = nullptr;
+
+private:
+    TriangleCorners() = default;
 };
 
 /// The ends of lines, two arrays by end.
 struct LineEnds {
-    /// The lines between the first two corners of a group's elements; none for a group without arrays.
+    /// The lines between the first two corners of a group's elements.
     static LineEnds ofElements(const vxdatacarrier::PostDataView& record, int group);
     /// The boundary lines of a group's triangles.
     static LineEnds ofBoundary(const vxdatacarrier::PostDataView& record, int group);

@@ -32,7 +32,7 @@ struct SceneGraphPlotIsoSurface3d::Input {
     {
         surfaces.reserve(levels.data.size());
         for (int group = 0; group < record.numGroups(); ++group) {
-            const TriangleCorners triangles(record, group);
+            const TriangleCorners triangles = TriangleCorners::ofAnyElements(record, group);
             surfaces.emplace_back();
             if (triangles.count > 0) {
                 surfaces.back().emplace(record, group, levels, triangles);

@@ -16,7 +16,7 @@ struct SceneGraphPlotSlice3d::Input {
             : positions(record, group, 3),
               normals(record, group),
               colors(record, group, c_colorData, scale),
-              triangles(record, group),
+              triangles(TriangleCorners::ofAnyElements(record, group)),
               outline(LineEnds::ofBoundary(record, group))
         {}
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "graphics3d/plots/vector/arrowinput.h"
 #include "graphics3d/plots/vector/scenegraphplotarrow.h"
 
 #include <cstddef>
@@ -10,6 +9,8 @@
 #include <string>
 
 namespace vxgraphics3d {
+
+struct ArrowInput;
 
 /// An arrow plot with an array of records.
 template <class Record>
@@ -55,46 +56,15 @@ protected:
     }
 
     /// Fills the plot with an arrow per point, scales all lengths so that the longest arrow has the target length, and
-    /// boxes them.
+    /// boxes them. Defined in arrowfill.h.
     /// @param arrowAt makes the record of a point with a coordinate in the colour table
     template <class ArrowAt>
-    void fillArrows(const ArrowInput& input, ArrowAt arrowAt)
-    {
-        const int count = input.field.points.count;
-        allocateArrows(count);
-        if (const auto factor = appendAll(input, arrowAt)) {
-            const auto commonScale = static_cast<double>(getDescription().m_commonArrowScale);
-            if (const auto box = input.boxedField.box(*factor * commonScale)) {
-                setBoundingBox(*box);
-            }
-        }
-        setScalingType(ScalingType::proportional);
-        markArrowsChanged();
-    }
+    void fillArrows(const ArrowInput& input, ArrowAt arrowAt);
 
 private:
     /// @return the factor of all lengths; nothing if all are 0
     template <class ArrowAt>
-    std::optional<double> appendAll(const ArrowInput& input, ArrowAt arrowAt)
-    {
-        const auto count = static_cast<std::size_t>(input.field.points.count);
-        Arrow* const out = m_arrows.get();
-        float maxLength = 0.0f;
-        for (std::size_t i = 0; i < count; ++i) {
-            out[i] = arrowAt(i, input.colors.values != nullptr ? input.colors.scale(input.colors.values[i]) : 0.0f);
-            maxLength = out[i].length > maxLength ? out[i].length : maxLength;
-        }
-        noteAllAppended(maxLength);
-        if (!(maxLength > 0.0f)) {
-            return std::nullopt;
-        }
-        const double factor = input.targetLength / static_cast<double>(maxLength);
-        setMaxLength(static_cast<float>(static_cast<double>(maxLength) * factor));
-        for (std::size_t i = 0; i < count; ++i) {
-            out[i].length = static_cast<float>(static_cast<double>(out[i].length) * factor);
-        }
-        return factor;
-    }
+    std::optional<double> appendAll(const ArrowInput& input, ArrowAt arrowAt);
 
     std::unique_ptr<Arrow[]> m_arrows;
 };

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "graphics3d/plots/plotinput.h"
-
 #include <cstddef>
 #include <span>
 #include <utility>
@@ -9,17 +7,13 @@
 
 namespace vxgraphics3d {
 
+struct LineEnds;
+
 /// A line between two points, given by their indices.
 using LineSegment = std::pair<int, int>;
 
 /// Replaces segments by the lines of a record.
-inline void assignSegments(std::vector<LineSegment>& segments, const LineEnds& ends)
-{
-    segments.resize(static_cast<std::size_t>(ends.count));
-    for (std::size_t i = 0; i < segments.size(); ++i) {
-        segments[i] = {ends.from[i], ends.to[i]};
-    }
-}
+void assignSegments(std::vector<LineSegment>& segments, const LineEnds& ends);
 
 /// Calls `take` with each chain in turn: a longest run of segments in which each starts at the point where the one
 /// before it ended.

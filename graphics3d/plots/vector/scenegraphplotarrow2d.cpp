@@ -1,6 +1,7 @@
 #include "graphics3d/plots/vector/scenegraphplotarrow2d.h"
 
 #include "datacarrier/postdataview.h"
+#include "graphics3d/plots/vector/arrowfill.h"
 
 #include <cmath>
 #include <cstddef>

@@ -13,8 +13,8 @@ struct ArrowRecord2d {
 };
 static_assert(sizeof(ArrowRecord2d) == 20);
 
-/// Vectors in the plane. Reads the points of group 0 with the first two components of vectors and, if present,
-/// colour data. A fill scales all lengths so that the longest arrow is about as long as the mean distance of points.
+/// Vectors in the plane. Reads the points of group 0 with the first two components of vectors, and colour data if
+/// present. A fill scales all lengths so that the longest arrow is about as long as the mean distance of points.
 class VX_API SceneGraphPlotArrow2d : public ArrowRecords<ArrowRecord2d> {
 public:
     explicit SceneGraphPlotArrow2d(int id);

@@ -2,6 +2,7 @@
 
 #include "datacarrier/postdataview.h"
 #include "graphics3d/foundation/vector3f.h"
+#include "graphics3d/plots/vector/arrowfill.h"
 
 #include <cstddef>
 

@@ -14,8 +14,8 @@ struct ArrowRecord3d {
 };
 static_assert(sizeof(ArrowRecord3d) == 28);
 
-/// Vectors in space. Reads the points of group 0 with three components of vectors and, if present,
-/// colour data. A fill scales all lengths so that the longest arrow is about as long as the mean distance of points.
+/// Vectors in space. Reads the points of group 0 with three components of vectors, and colour data if present.
+/// A fill scales all lengths so that the longest arrow is about as long as the mean distance of points.
 class VX_API SceneGraphPlotArrow3d : public ArrowRecords<ArrowRecord3d> {
 public:
     explicit SceneGraphPlotArrow3d(int id);

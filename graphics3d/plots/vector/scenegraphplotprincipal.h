@@ -22,7 +22,7 @@ static_assert(sizeof(PrincipalRecord) == 56);
 /// colour data, if present.
 class VX_API SceneGraphPlotPrincipal : public ArrowRecords<PrincipalRecord> {
 public:
-    /// The part of the mean distance of points that the longest arrow reaches to each side.
+    /// The factor by which a renderer draws the stored lengths: arrows reach to both sides of a point.
     static constexpr float c_lengthScale = 0.4f;
 
     /// @param dimension 2 for a plot in the plane, anything else for one in space
@@ -35,7 +35,8 @@ public:
 
     bool isCoordSysPlot() const;
     static float getLengthScale() { return c_lengthScale; }
-    /// 0.5 if the last fill had no colour data, which puts all arrows in the middle of the colour table; otherwise 0.
+    /// The distance between two axes of a point in the colour table: 0.5 if the last fill had no colour data, so that
+    /// the axes have different colours, otherwise 0.
     float getTextureShift() const { return m_textureShift; }
 
 protected:

@@ -78,13 +78,7 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphPlotEdge3d.class, made -> new SceneGraphPlotEdge3d(7));
         recipe(SceneGraphPlotPointLabel.class, made -> new SceneGraphPlotPointLabel(3, 8));
         recipe(SceneGraphPlotInteractive.class, made -> new SceneGraphPlotInteractive(9));
-        recipe(PostDataObject.class, made -> new PostDataBuilder(PlotKind.SURFACE_3D).role(DataRole.COLOR, 0)
-                .role(DataRole.HEIGHT, 0).role(DataRole.ISO_LEVEL, 0).addGroup(new PostDataGroup()
-                        .coordinates(new double[] {0, 1, 0}, new double[] {0, 0, 1}, new double[3])
-                        .normals(new float[3], new float[3], new float[] {1, 1, 1})
-                        .elements(new int[] {0}, new int[] {1}, new int[] {2}).computeOutline()
-                        .data(new double[] {0, 1, 2}))
-                .build());
+        recipe(PostDataObject.class, made -> recordForEveryPlot());
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
         try {
             // The renderer is not built everywhere.
@@ -99,6 +93,18 @@ final class PeerRecipes implements AutoCloseable {
         } catch (ClassNotFoundException e) {
             // Then none of its natives can be called.
         }
+    }
+
+    /** A record in which one array has all roles. */
+    private static PostDataObject recordForEveryPlot() {
+        PostDataBuilder record = new PostDataBuilder(PlotKind.SURFACE_3D).addGroup(new PostDataGroup()
+                .coordinates(new double[] {0, 1, 0}, new double[] {0, 0, 1}, new double[3])
+                .normals(new float[3], new float[3], new float[] {1, 1, 1})
+                .elements(new int[] {0}, new int[] {1}, new int[] {2}).data(new double[] {0, 1, 2}));
+        for (DataRole role : DataRole.values()) {
+            record.role(role, 0);
+        }
+        return record.build();
     }
 
     private final List<NativePeer> made = new ArrayList<>();

@@ -78,8 +78,8 @@ class VectorPlotTest {
             for (SceneGraphPlot plot : List.of(flatArrows, spatialArrows)) {
                 plot.fillPlot(arrows);
                 assertEquals(9, plot.getValueMax());
-                assertEquals("", assertThrows(NativeException.class, () -> plot.fillPlot(axes)).getDetail()
-                        .replaceAll(".*DataRole.VECTOR_[XY] .*", ""));
+                NativeException refusal = assertThrows(NativeException.class, () -> plot.fillPlot(lines));
+                assertTrue(refusal.getDetail().contains("DataRole.VECTOR_X"), refusal.getDetail());
             }
             for (SceneGraphPlot plot : List.of(flatTubes, spatialTubes, ribbons)) {
                 plot.fillPlot(lines);
@@ -95,8 +95,7 @@ class VectorPlotTest {
             }
             assertEquals(SceneGraphPlot.Kind.ARROW_3D, spatialArrows.getKind());
             assertEquals(SceneGraphPlot.Kind.TUBE_3D, spatialTubes.getKind());
-            assertThrows(IllegalArgumentException.class, () -> new SceneGraphPlotPrincipal(
-                    4, SceneGraphPlotPrincipal.Content.PRINCIPAL_VALUES, 8));
+            assertEquals(SceneGraphPlot.Kind.PRINCIPAL_3D, values.getKind());
         }
     }
 

@@ -78,8 +78,8 @@ class PlotFileTest {
 
     @Test
     void aFileOfAnotherKindIsRefusedWithItsRow() {
-        assertEquals(folder.resolve("plot.txt") + ": no tag for surfaces: % Vector data",
-                assertThrows(IOException.class, () -> read("% Coordinates\n% Vector data\n")).getMessage());
+        assertEquals(folder.resolve("plot.txt") + ": no tag for surfaces, volumes and arrows: % Elements (quads)",
+                assertThrows(IOException.class, () -> read("% Coordinates\n% Elements (quads)\n")).getMessage());
         assertEquals(folder.resolve("plot.txt") + ": 3 numbers are needed: 1 2",
                 assertThrows(IOException.class, () -> read("% Coordinates\n1 2\n")).getMessage());
     }

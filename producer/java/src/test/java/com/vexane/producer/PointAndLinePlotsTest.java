@@ -103,7 +103,6 @@ class PointAndLinePlotsTest {
             labels.setLabels("A", "\u00e4\ud83d\ude00", "");
             assertThrows(NullPointerException.class, () -> labels.setLabels("A", null));
             assertThrows(NullPointerException.class, () -> labels.setLabels((String[]) null));
-            assertThrows(IllegalArgumentException.class, () -> new SceneGraphPlotPointLabel(4, 3));
         }
     }
 }

@@ -1,4 +1,4 @@
-#include "graphics3d/plots/vector/arrowinput.h"
+#include "graphics3d/plots/vector/arrowfill.h"
 
 #include <cmath>
 #include <cstddef>
