@@ -43,6 +43,18 @@ void IndexBufferTriangles::appendBands(int first, int rowLength, int numBands)
     });
 }
 
+void IndexBufferTriangles::appendCopies(const int* indices, int count, int numCopies, int numVertices)
+{
+    requireRoom(numCopies, 3 * count);
+    append(3 * count * numCopies, [=](auto* out) {
+        for (int copy = 0, offset = 0; copy < numCopies; ++copy, offset += numVertices) {
+            for (int i = 0; i < 3 * count; ++i) {
+                put(*out++, indices[i], offset);
+            }
+        }
+    });
+}
+
 void IndexBufferTriangles::getTriangle(int triangle, int& a, int& b, int& c) const
 {
     a = indexAt(3 * triangle);

@@ -44,6 +44,10 @@ public:
     /// @param first the first vertex of the first row
     void appendBands(int first, int rowLength, int numBands);
 
+    /// Appends `numCopies` times the triangles of `3 * count` indices, each time for the next `numVertices` vertices.
+    /// Throws std::out_of_range, and appends none, if there is not enough space.
+    void appendCopies(const int* indices, int count, int numCopies, int numVertices);
+
     /// The corners of a triangle, counted from the start of the array across segments; the index is not checked.
     void getTriangle(int triangle, int& a, int& b, int& c) const;
 };

@@ -161,16 +161,7 @@ void ScenePlotFileReader::fillArrowPlot3d(SceneGraphPlotArrow3d& plot) const
 void ScenePlotFileReader::calculateBoundaries2d(const IndexBufferTriangles& triangles, int group,
                                                 IndexBufferLines& lines) const
 {
-    TriangleOutline outline(groupAt(group).numPoints());
-    const int numTriangles = triangles.getNumElements(0);
-    for (int i = 0; i < numTriangles; ++i) {
-        int a = 0;
-        int b = 0;
-        int c = 0;
-        triangles.getTriangle(i, a, b, c);
-        outline.addTriangle(a, b, c);
-    }
-    outline.writeTo(lines);
+    TriangleOutline::of(triangles, groupAt(group).numPoints()).writeTo(lines);
 }
 
 bool ScenePlotFileReader::readSurfacePlot2d(vxdatacarrier::PostDataObject& record, std::string fileName)

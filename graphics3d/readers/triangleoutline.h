@@ -7,6 +7,7 @@
 namespace vxgraphics3d {
 
 class IndexBufferLines;
+class IndexBufferTriangles;
 
 /// Finds the outline of a triangulated surface: the edges that exactly one triangle uses.
 ///
@@ -15,6 +16,9 @@ class TriangleOutline {
 public:
     /// @param numPoints the number of points to which the triangles refer
     explicit TriangleOutline(int numPoints);
+
+    /// The outline of the triangles in the first segment of a buffer.
+    static TriangleOutline of(const IndexBufferTriangles& triangles, int numPoints);
 
     /// Adds the edges of a triangle.
     void addTriangle(int a, int b, int c);
@@ -27,7 +31,8 @@ private:
     static constexpr std::size_t c_maxNeighbours = 10;
     using Neighbours = std::array<int, c_maxNeighbours>;
 
-    void toggleEdge(int low, int high);
+    static int toggleEdge(Neighbours* table, int low, int high);
+    static int toggleEdges(Neighbours* table, int a, int b, int c);
 
     std::vector<Neighbours> m_neighbours; // by point: the far ends of its edges
     int m_numEdges = 0;

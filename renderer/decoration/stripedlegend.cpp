@@ -32,9 +32,9 @@ float colorOf(const SceneGraphPlot& plot, double value)
 {
     const LegendScale scale = legendScaleOf(plot);
     const auto* iso = dynamic_cast<const SceneGraphPlotIso*>(&plot);
-    const float onLegend =
-        iso != nullptr ? std::lerp(plot.getDataTexMin(), plot.getDataTexMax(), iso->getTextureOf(value))
-                       : static_cast<float>(scale.heightOf(value));
+    const float onLegend = iso != nullptr
+                               ? std::lerp(plot.getDataTexMin(), plot.getDataTexMax(), iso->getTextureOf(value))
+                               : static_cast<float>(scale.heightOf(value));
     return std::lerp(scale.lowerColor, scale.upperColor, std::clamp(onLegend, 0.0f, 1.0f));
 }
 

@@ -32,8 +32,8 @@ void MeshPlotPainter::draw(const PlotItem& item, const PaintContext& context) co
     const Look wireframe = {look->toEye, Material::of(plot.getWireframeColor())};
     const auto drawLines = [&](int group, const vxgraphics3d::IndexBuffer& lines, const Look& its, float width) {
         context.drawLines(
-            context.uploads.lines(item.plot, group, plot.getGeometryChangeId(), plot.getVertexBuffer(group), lines), its,
-            width);
+            context.uploads.lines(item.plot, group, plot.getGeometryChangeId(), plot.getVertexBuffer(group), lines),
+            its, width);
     };
     for (int i = 0; i < plot.getNumberOfGroups(); ++i) {
         if (plot.getTriangleBuffer(i).getNumElements(0) > 0 && (plot.isDisplayInterior() || plot.isPoints(i))) {

@@ -4,6 +4,7 @@
 #include "graphics3d/plots/plotfill.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <limits>
 #include <optional>
@@ -36,37 +37,58 @@ float halfEdgeIn(const BoundingBox& box)
     return static_cast<float>(c_cubeSize * static_cast<double>(largest));
 }
 
-/// Appends a cube around each point, with flat faces that turn outward, to buffers that have space for them.
-void appendCubes(VertexBufferNormalTex& vertices, IndexBufferTriangles& triangles, const PointPositions& positions,
-                 const PointColors& colors, float halfEdge)
-{
-    const Vector3f axes[] = {{halfEdge, 0.0f, 0.0f}, {0.0f, halfEdge, 0.0f}, {0.0f, 0.0f, halfEdge}};
-    int first = 0; // vertex of the face
-    for (std::size_t i = 0; i < static_cast<std::size_t>(positions.count); ++i) {
-        const Vector3f center = positions.at(i);
-        const float u = colors.at(i);
+/// The corners of a cube about the origin, face by face, and the indices of its triangles.
+struct Cube {
+    explicit Cube(float halfEdge)
+    {
+        const Vector3f axes[] = {{halfEdge, 0.0f, 0.0f}, {0.0f, halfEdge, 0.0f}, {0.0f, 0.0f, halfEdge}};
+        // The triangles of a face on the negative and on the positive side, which turn outward.
+        constexpr int c_faces[2][6] = {{0, 3, 1, 0, 2, 3}, {0, 1, 3, 0, 3, 2}};
+        auto corner = corners.begin();
+        auto index = indices.begin();
+        int first = 0;
         for (std::size_t k = 0; k < 3; ++k) {
             const Vector3f& b = axes[(k + 1) % 3];
             const Vector3f& c = axes[(k + 2) % 3];
             for (const float side : {-1.0f, 1.0f}) {
                 const Vector3f outward = side * axes[k];
-                const Vector3f normal = outward.normalized();
                 for (const float t : {-1.0f, 1.0f}) {
                     for (const float r : {-1.0f, 1.0f}) {
-                        vertices.appendVertex(center + outward + r * b + t * c, normal, u);
+                        *corner++ = {outward + r * b + t * c, outward.normalized()};
                     }
                 }
-                if (side < 0.0f) {
-                    triangles.appendTriangle(first, first + 3, first + 1);
-                    triangles.appendTriangle(first, first + 2, first + 3);
-                } else {
-                    triangles.appendTriangle(first, first + 1, first + 3);
-                    triangles.appendTriangle(first, first + 3, first + 2);
+                for (const int faceCorner : c_faces[side < 0.0f ? 0 : 1]) {
+                    *index++ = first + faceCorner;
                 }
                 first += 4;
             }
         }
     }
+
+    struct Corner {
+        Vector3f offset;
+        Vector3f normal;
+    };
+    std::array<Corner, c_verticesPerCube> corners;
+    std::array<int, 3 * c_trianglesPerCube> indices;
+};
+
+/// Appends a cube around each point to buffers that have space for them.
+void appendCubes(VertexBufferNormalTex& vertices, IndexBufferTriangles& triangles, const PointPositions& positions,
+                 const PointColors& colors, float halfEdge)
+{
+    const Cube cube(halfEdge);
+    VertexNormalTex* out = vertices.appendUnwritten(c_verticesPerCube * positions.count);
+    for (std::size_t i = 0; i < static_cast<std::size_t>(positions.count); ++i) {
+        const Vector3f center = positions.at(i);
+        const float u = colors.at(i);
+        for (const Cube::Corner& corner : cube.corners) {
+            const Vector3f p = center + corner.offset;
+            const Vector3f& n = corner.normal;
+            *out++ = {p.x, p.y, p.z, n.x, n.y, n.z, u, 0.0f};
+        }
+    }
+    triangles.appendCopies(cube.indices.data(), c_trianglesPerCube, positions.count, c_verticesPerCube);
 }
 
 } // namespace

@@ -163,7 +163,8 @@ TEST_F(ScalarPaintersTest, labelsOfShownLevelsFaceTheEyeWithAHalo)
         std::string shape;
         for (int dy = -10; dy <= 10; ++dy) {
             for (int dx = -12; dx <= 12; ++dx) {
-                const Rgb color = picture.at(static_cast<int>(std::floor(x)) + dx, static_cast<int>(std::floor(y)) + dy);
+                const Rgb color =
+                    picture.at(static_cast<int>(std::floor(x)) + dx, static_cast<int>(std::floor(y)) + dy);
                 shape += color[2] > color[0] + 60 ? '#' : color == c_red ? 'r' : '.';
             }
         }

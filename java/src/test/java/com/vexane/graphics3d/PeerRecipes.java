@@ -100,7 +100,8 @@ final class PeerRecipes implements AutoCloseable {
         PostDataBuilder record = new PostDataBuilder(PlotKind.SURFACE_3D).addGroup(new PostDataGroup()
                 .coordinates(new double[] {0, 1, 0}, new double[] {0, 0, 1}, new double[3])
                 .normals(new float[3], new float[3], new float[] {1, 1, 1})
-                .elements(new int[] {0}, new int[] {1}, new int[] {2}).data(new double[] {0, 1, 2}));
+                .elements(new int[] {0}, new int[] {1}, new int[] {2}).computeOutline()
+                .data(new double[] {0, 1, 2}));
         for (DataRole role : DataRole.values()) {
             record.role(role, 0);
         }

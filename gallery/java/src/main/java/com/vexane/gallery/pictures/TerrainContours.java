@@ -39,6 +39,7 @@ public final class TerrainContours implements Picture {
             bands.addGroup(flat.band(level - STEP, level));
             linesInSpace.addGroup(spatial.lines(level));
         }
+        bands.addGroup(flat.band(HIGHEST, HIGHEST + STEP));
         double[] levels = IntStream.rangeClosed(0, (HIGHEST - LOWEST) / STEP).mapToDouble(i -> LOWEST + i * STEP)
                 .toArray();
         String[] labels = Arrays.stream(levels).mapToObj(level -> Math.round(level) + " m").toArray(String[]::new);
@@ -57,7 +58,8 @@ public final class TerrainContours implements Picture {
 
             fields.setColorTable("viridis", studio.colors("viridis"), true);
             fields.fillPlot(bandRecord);
-            fields.setLegendLevels(Arrays.stream(levels).map(level -> level - STEP / 2).toArray());
+            fields.setLegendLevels(IntStream.rangeClosed(0, levels.length)
+                    .mapToDouble(i -> LOWEST + (i - 0.5) * STEP).toArray());
             contours.setColor(0x303030);
             contours.setShowLegend(false);
             studio.show(fields, "");
