@@ -72,7 +72,7 @@ class PlotFileTest {
 
     @Test
     void aFileOfAnotherKindIsRefusedWithItsRow() {
-        assertEquals(folder.resolve("plot.txt") + ": no tag for surfaces: % Vector data",
+        assertEquals(folder.resolve("plot.txt") + ": no tag for surfaces or volumes: % Vector data",
                 assertThrows(IOException.class, () -> read("% Coordinates\n% Vector data\n")).getMessage());
         assertEquals(folder.resolve("plot.txt") + ": 3 numbers are needed: 1 2",
                 assertThrows(IOException.class, () -> read("% Coordinates\n1 2\n")).getMessage());
