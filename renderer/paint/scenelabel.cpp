@@ -49,6 +49,8 @@ struct ShownLabel {
     /// The pixel of its point.
     float x = 0.0f;
     float y = 0.0f;
+    float pointDepth = 0.0f;
+    /// What the text is compared with.
     float depth = 0.0f;
     /// The top left corner of the text.
     float left = 0.0f;
@@ -70,6 +72,7 @@ std::optional<ShownLabel> shownLabel(const SceneLabel& label, const View& view, 
     const float unitsPerPixel = 2.0f * w / (view.projection.get(2, 2) * static_cast<float>(view.area.height));
     const float reach = shown.text.height + (label.isBeside ? shown.text.width : 0.0f);
     const Vector3f nearer = view.projection * (eye + Vector3f(0.0f, 0.0f, reach * unitsPerPixel));
+    shown.pointDepth = clip.z;
     shown.depth = std::clamp(nearer.z, -1.0f, clip.z);
     shown.x = static_cast<float>(view.area.x) + 0.5f * (1.0f + clip.x) * static_cast<float>(view.area.width);
     shown.y = static_cast<float>(view.area.y) + 0.5f * (1.0f - clip.y) * static_cast<float>(view.area.height);
@@ -117,10 +120,10 @@ private:
     std::map<Cell, std::vector<PixelRect>> m_cells;
 };
 
-/// Moves labels next to their points, and leaves out those without a free side.
+/// Moves labels next to their points, and leaves out those without a free side. Sorts all, the nearest first.
 void placeBeside(std::vector<ShownLabel>& labels)
 {
-    std::ranges::stable_sort(labels, {}, &ShownLabel::depth);
+    std::ranges::stable_sort(labels, {}, &ShownLabel::pointDepth);
     TakenSpace taken;
     std::erase_if(labels, [&](ShownLabel& shown) {
         if (!shown.label->isBeside) {
@@ -191,6 +194,8 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
         shown.left = std::round(shown.left);
         shown.top = std::round(shown.top);
     }
+    // What is nearer is drawn later.
+    std::ranges::reverse(shownLabels);
     painter.begin(width, height);
     glDepthMask(GL_FALSE);
     for (const ShownLabel& shown : shownLabels) {
