@@ -95,7 +95,6 @@ class VectorPlotTest {
             }
             assertEquals(SceneGraphPlot.Kind.ARROW_3D, spatialArrows.getKind());
             assertEquals(SceneGraphPlot.Kind.TUBE_3D, spatialTubes.getKind());
-            assertEquals(SceneGraphPlot.Kind.PRINCIPAL_3D, values.getKind());
         }
     }
 
