@@ -9,6 +9,7 @@ import com.vexane.gallery.pictures.BracketStress;
 import com.vexane.gallery.pictures.CityLabels;
 import com.vexane.gallery.pictures.DashedLines;
 import com.vexane.gallery.pictures.EarthRelief;
+import com.vexane.gallery.pictures.EarthTogether;
 import com.vexane.gallery.pictures.EarthquakeMap;
 import com.vexane.gallery.pictures.Earthquakes;
 import com.vexane.gallery.pictures.FourCameras;
@@ -74,6 +75,7 @@ public final class Gallery {
             new WindArrows(),
             new WindTubes(),
             new WindRibbons(),
+            new EarthTogether(),
             new Tubes(),
             new TubesFlat(),
             new PrincipalStress(),

@@ -1,19 +1,13 @@
 package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
-import com.vexane.gallery.CsvFile;
 import com.vexane.gallery.Picture;
 import com.vexane.gallery.PlotFile;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.SceneGraphPlotSphere3d;
 import com.vexane.graphics3d.SceneGraphPlotSurface3d;
-import com.vexane.producer.DataRole;
-import com.vexane.producer.PlotKind;
-import com.vexane.producer.PostDataBuilder;
-import com.vexane.producer.PostDataGroup;
 import com.vexane.producer.PostDataObject;
 import java.io.IOException;
-import java.util.Arrays;
 
 @About(title = "A week of earthquakes",
         text = "One sphere per earthquake of magnitude 1 to 6.4. The radius grows with the magnitude, "
@@ -21,15 +15,10 @@ import java.util.Arrays;
 public final class Earthquakes implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
-        CsvFile quakes = CsvFile.read(studio.data("earth_quakes.csv"));
-        double[] radii = Arrays.stream(quakes.column("magnitude")).map(m -> 0.004 * Math.pow(1.55, m)).toArray();
-        PostDataGroup points = new PostDataGroup().coordinates(quakes.columns("x", "y", "z"))
-                .data(quakes.column("depth")).data(radii);
         try (SceneGraphPlotSurface3d globe = new SceneGraphPlotSurface3d(1);
                 SceneGraphPlotSphere3d spheres = new SceneGraphPlotSphere3d(2);
                 PostDataObject relief = PlotFile.read(studio.data("earth_relief_3d.txt")).surface3d();
-                PostDataObject record = new PostDataBuilder(PlotKind.GENERAL).role(DataRole.COLOR, 0)
-                        .role(DataRole.RADIUS, 1).addGroup(points).build()) {
+                PostDataObject record = Globe.earthquakes(studio)) {
             globe.fillPlot(relief);
             globe.setColor(0xb8c4c8);
             globe.setShowLegend(false);

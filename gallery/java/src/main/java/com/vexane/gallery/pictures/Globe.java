@@ -31,6 +31,27 @@ final class Globe implements AutoCloseable {
         studio.show(relief, "");
     }
 
+    /** The wind at the surface: a vector at each point, with its speed. */
+    static PostDataObject wind(Studio studio) throws IOException {
+        PlotFile wind = PlotFile.read(studio.data("earth_wind_arrows.txt"));
+        double[][] velocity = wind.vectors();
+        return new PostDataBuilder(PlotKind.GENERAL).role(DataRole.COLOR, 0)
+                .role(DataRole.VECTOR_X, 1).role(DataRole.VECTOR_Y, 2).role(DataRole.VECTOR_Z, 3)
+                .addGroup(new PostDataGroup().coordinates(wind.coordinates()).data(wind.data())
+                        .data(velocity[0]).data(velocity[1]).data(velocity[2]))
+                .build();
+    }
+
+    /** A week of earthquakes: the depth of each, and a radius that grows with its magnitude. */
+    static PostDataObject earthquakes(Studio studio) throws IOException {
+        CsvFile quakes = CsvFile.read(studio.data("earth_quakes.csv"));
+        double[] radii = Arrays.stream(quakes.column("magnitude")).map(m -> 0.004 * Math.pow(1.55, m)).toArray();
+        return new PostDataBuilder(PlotKind.GENERAL).role(DataRole.COLOR, 0).role(DataRole.RADIUS, 1)
+                .addGroup(new PostDataGroup().coordinates(quakes.columns("x", "y", "z"))
+                        .data(quakes.column("depth")).data(radii))
+                .build();
+    }
+
     /** The streamlines of the wind with their speeds, widths, and the directions of bands that lie on the globe. */
     static PostDataObject streamlines(Studio studio, double width) throws IOException {
         CsvFile file = CsvFile.read(studio.data("earth_wind_streamlines.csv"));

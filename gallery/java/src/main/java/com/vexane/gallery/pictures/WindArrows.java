@@ -2,14 +2,9 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
-import com.vexane.gallery.PlotFile;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.SceneGraphPlotArrow;
 import com.vexane.graphics3d.SceneGraphPlotArrow3d;
-import com.vexane.producer.DataRole;
-import com.vexane.producer.PlotKind;
-import com.vexane.producer.PostDataBuilder;
-import com.vexane.producer.PostDataGroup;
 import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
@@ -19,15 +14,8 @@ import java.io.IOException;
 public final class WindArrows implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
-        PlotFile wind = PlotFile.read(studio.data("earth_wind_arrows.txt"));
-        double[][] velocity = wind.vectors();
         try (Globe globe = new Globe(studio); SceneGraphPlotArrow3d plot = new SceneGraphPlotArrow3d(2);
-                PostDataObject record = new PostDataBuilder(PlotKind.GENERAL)
-                        .role(DataRole.COLOR, 0)
-                        .role(DataRole.VECTOR_X, 1).role(DataRole.VECTOR_Y, 2).role(DataRole.VECTOR_Z, 3)
-                        .addGroup(new PostDataGroup().coordinates(wind.coordinates()).data(wind.data())
-                                .data(velocity[0]).data(velocity[1]).data(velocity[2]))
-                        .build()) {
+                PostDataObject record = Globe.wind(studio)) {
             plot.fillPlot(record);
             plot.setColorTable("plasma", studio.colors("plasma"), true);
             plot.setHeadRadius(0.15f);
