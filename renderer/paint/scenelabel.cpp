@@ -120,6 +120,9 @@ private:
     std::map<Cell, std::vector<PixelRect>> m_cells;
 };
 
+/// Half the size of what may mark a point, in pixels.
+constexpr float c_pointSize = 3.0f;
+
 /// Moves labels next to their points, and leaves out those without a free side. Sorts all, the nearest first.
 void placeBeside(std::vector<ShownLabel>& labels)
 {
@@ -147,6 +150,8 @@ void placeBeside(std::vector<ShownLabel>& labels)
             return PixelRect{left, top, left + shown.text.width, top + shown.text.height};
         };
         const auto free = std::ranges::find_if(moves, [&](const auto& move) { return !taken.overlaps(rectAt(move)); });
+        // A point stays visible also if its text does not.
+        taken.take({shown.x - c_pointSize, shown.y - c_pointSize, shown.x + c_pointSize, shown.y + c_pointSize});
         if (free == moves.end()) {
             return true;
         }
