@@ -16,13 +16,9 @@ public final class SceneGraphPlotMesh3d extends SceneGraphPlot {
      * Makes an empty plot.
      *
      * @param id the id of the plot in its group
-     * @param dimensions 2 for a mesh in the plane, 3 for one in space
-     * @throws IllegalArgumentException if it is neither
+     * @param dimensions 2 for a mesh in the plane; any other number for one in space
      */
     public SceneGraphPlotMesh3d(int id, int dimensions) {
-        if (dimensions != 2 && dimensions != 3) {
-            throw new IllegalArgumentException("A mesh has 2 or 3 dimensions, not " + dimensions);
-        }
         createNative(this, id, dimensions);
     }
 
