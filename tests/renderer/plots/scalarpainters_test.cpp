@@ -35,7 +35,6 @@ constexpr Rgb c_red = {255, 0, 0};
 constexpr Rgb c_green = {0, 255, 0};
 constexpr Rgb c_blue = {0, 0, 255};
 constexpr Rgb c_yellow = {255, 255, 0};
-constexpr Rgb c_black = {0, 0, 0};
 
 /// The corners of the unit square at a height, and its two triangles.
 Record::DoubleArrays square(double z)

@@ -16,7 +16,7 @@ public final class SceneGraphPlotMesh3d extends SceneGraphPlot {
      * Makes an empty plot.
      *
      * @param id the id of the plot in its group
-     * @param dimensions 2 for a mesh in the plane, any other number for one in space
+     * @param dimensions 2 for a mesh in the plane; any other number for one in space
      */
     public SceneGraphPlotMesh3d(int id, int dimensions) {
         createNative(this, id, dimensions);
