@@ -312,7 +312,7 @@ TEST(SceneGraphPlotGraph, versionsMatchTheirDefinitionForRandomRecords)
         const int numGroups = random.integer(1, 3);
         std::vector<Strips> expected;
         for (int group = 0; group < numGroups; ++group) {
-            // A third of the values is not positive, in some lines none; some are no numbers.
+            // A third of the values is not positive, except in some lines; some are not numbers.
             const float low = random.integer(0, 3) == 0 ? 0.001f : -1.0f;
             const int count = round == 0 ? 70000 : random.integer(0, 40);
             Doubles x, y;
