@@ -63,7 +63,7 @@ private:
     int m_height = 0;
 };
 
-/// The lines that graphs among these plots show in the legend, in order.
+/// The lines that a plot shows in the legend, in order; none unless it is a graph.
 std::vector<LineLegendEntry> lineLegendOf(const vxgraphics3d::SceneGraphPlot& plot);
 
 } // namespace vxrenderer

@@ -2,14 +2,7 @@
 
 #include "renderer/plots/plotpainter.h"
 
-namespace vxgraphics3d {
-class GraphLine;
-class SceneGraphPlotGraph;
-} // namespace vxgraphics3d
-
 namespace vxrenderer {
-
-struct Look;
 
 /// Draws graphs: the version of each line that suits the axes, in its style, and its symbols over it. In space all
 /// styles but none are solid.

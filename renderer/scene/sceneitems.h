@@ -26,7 +26,7 @@ std::vector<SceneItem> collectItems(const vxgraphics3d::SceneGraphRoot& root);
 ///                else is shown holds logarithms.
 vxgraphics3d::BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes);
 
-/// Whether there is something else than lines of graphs.
+/// Whether there is something other than graphs.
 bool hasMoreThanGraphs(const std::vector<SceneItem>& items);
 
 /// The middle of the box of an item.

@@ -23,7 +23,7 @@ struct GraphPoints {
 private:
     static bool isInRange(double value)
     {
-        constexpr double largest = std::numeric_limits<float>::max();
+        constexpr auto largest = static_cast<double>(std::numeric_limits<float>::max());
         return value >= -largest && value <= largest;
     }
 };

@@ -109,7 +109,7 @@ void GraphPolylines::addPolylineFrom(int point)
     const double* x = m_points.x;
     const bool reachesOtherEnd = farEnd != c_none && take(farEnd);
     const int numPoints = m_numOrdered - first;
-    // A far end that knows the way back is reached over the same points from the other side.
+    // A walk from the far end passes the same points, since each of them knows both of its neighbours.
     if (reachesOtherEnd && x[static_cast<std::size_t>(farEnd)] < x[static_cast<std::size_t>(point)]) {
         std::reverse(m_order.get() + first, m_order.get() + m_numOrdered);
     }

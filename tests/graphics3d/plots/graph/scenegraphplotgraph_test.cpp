@@ -33,6 +33,7 @@ using Strips = std::vector<Strip>;
 using Edges = std::vector<std::pair<int, int>>;
 
 constexpr double c_nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double c_infinity = std::numeric_limits<double>::infinity();
 constexpr int c_y = Record::HeightData;
 enum Axes { linear = 0, logX = 1, logY = 2, logXY = 3 };
 
@@ -114,8 +115,8 @@ TEST(SceneGraphPlotGraph, singlePointIsAVertexInEachVersionThatCanShowIt)
 TEST(SceneGraphPlotGraph, pointsFormALineInTheirOrderWithoutThoseOutOfRange)
 {
     EXPECT_EQ(fillAndGet(graphRecord({3, 1, 2}, {0, 5, -5})), (Strips{{{3, 0}, {1, 5}, {2, -5}}}));
-    const double large = std::numeric_limits<float>::max();
-    EXPECT_EQ(fillAndGet(graphRecord({c_nan, 1, 2, -INFINITY, 4, 5}, {1, 1, c_nan, 1, -large, 1e300})),
+    const auto large = static_cast<double>(std::numeric_limits<float>::max());
+    EXPECT_EQ(fillAndGet(graphRecord({c_nan, 1, 2, -c_infinity, 4, 5}, {1, 1, c_nan, 1, -large, 1e300})),
               (Strips{{{1, 1}, {4, -std::numeric_limits<float>::max()}}}));
     // One accepted point of several keeps its vertex, and no strip.
     SceneGraphPlotGraph plot(1);
@@ -313,7 +314,7 @@ TEST(SceneGraphPlotGraph, versionsMatchTheirDefinitionForRandomRecords)
         const int numGroups = random.integer(1, 3);
         std::vector<Strips> expected;
         for (int group = 0; group < numGroups; ++group) {
-            // A third of the values is not positive, in some lines none; some are no numbers.
+            // A third of the values is not positive, except in some lines; some are not numbers.
             const float low = random.integer(0, 3) == 0 ? 0.001f : -1.0f;
             const int count = round == 0 ? 70000 : random.integer(0, 40);
             Doubles x, y;
