@@ -72,9 +72,16 @@ class PlotFileTest {
 
     @Test
     void aFileOfAnotherKindIsRefusedWithItsRow() {
-        assertEquals(folder.resolve("plot.txt") + ": no tag for surfaces: % Vector data",
-                assertThrows(IOException.class, () -> read("% Coordinates\n% Vector data\n")).getMessage());
+        assertEquals(folder.resolve("plot.txt") + ": no tag for surfaces and arrows: % Tetrahedral Data",
+                assertThrows(IOException.class, () -> read("% Coordinates\n% Tetrahedral Data\n")).getMessage());
         assertEquals(folder.resolve("plot.txt") + ": 3 numbers are needed: 1 2",
                 assertThrows(IOException.class, () -> read("% Coordinates\n1 2\n")).getMessage());
+    }
+
+    @Test
+    void vectorsAreKeptByComponent() throws IOException {
+        PlotFile file = read("% Coordinates\n0 0 0\n1 1 1\n% Vector data\n1 2 3\n4 5 6\n");
+        assertArrayEquals(new double[][] {{1, 4}, {2, 5}, {3, 6}}, file.vectors());
+        assertEquals(0, file.data().length);
     }
 }
