@@ -85,6 +85,13 @@ class PlotFileTest {
     }
 
     @Test
+    void vectorsAreKeptByComponent() throws IOException {
+        PlotFile file = read("% Coordinates\n0 0 0\n1 1 1\n% Vector data\n1 2 3\n4 5 6\n");
+        assertArrayEquals(new double[][] {{1, 4}, {2, 5}, {3, 6}}, file.vectors());
+        assertEquals(0, file.data().length);
+    }
+
+    @Test
     void aFileIsSplitWhereAValueChanges() throws IOException {
         PlotFile file = read("""
                 % Coordinates
