@@ -174,7 +174,7 @@ std::string MeshShader::shapeConstants() const
 std::string MeshShader::vertexSource() const
 {
     if (shape != Shape::triangles) {
-        return shapeConstants() + c_sphereVertexSource;
+        return shapeConstants() + Material::c_source + c_sphereVertexMain;
     }
     return std::string(c_vertexBlocks) + (isInstanced ? c_instancedMain : c_singleMain);
 }

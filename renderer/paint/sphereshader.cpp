@@ -2,7 +2,7 @@
 
 namespace vxrenderer {
 
-const char* const c_sphereVertexSource = R"(
+const char* const c_sphereVertexMain = R"(
 layout(std140) uniform View {
     mat4 projection;
     vec2 grid;
@@ -20,11 +20,14 @@ layout(std140) uniform Model {
 layout(location = 0) in vec3 center;
 // The texture coordinate and the radius.
 layout(location = 1) in vec2 data;
-flat out float u;
+flat out vec3 color;
 flat out vec3 eyeCenter;
 flat out float eyeRadius;
-// Of points: the length of their side in the eye's coordinates.
+// Of points: the length of their side in the eye's coordinates, their radius in pixels, and the line of sight to their
+// middle.
 flat out float span;
+flat out float radiusInPixels;
+flat out vec3 middleSight;
 // Of discs: the position in units of the radius, and the normal.
 out vec2 place;
 flat out vec3 eyeNormal;
@@ -36,7 +39,8 @@ const float c_leastPixels = 0.6;
 
 void main()
 {
-    u = data.x;
+    float u = data.x;
+    color = materialColor(u);
     vec3 x = modelView[0].xyz;
     vec3 y = modelView[1].xyz;
     vec4 eye = modelView * vec4(center, 1.0);
@@ -47,10 +51,12 @@ void main()
     eyeRadius = max(radius, c_leastPixels * pixelSize);
     eyeNormal = vec3(0.0, 0.0, 1.0);
     span = 0.0;
+    radiusInPixels = 0.0;
+    middleSight = vec3(0.0, 0.0, -1.0);
     place = vec2(0.0);
     eyePosition = vec3(0.0);
     // The comparisons also fail for what is no number.
-    bool isDrawn = radius > 0.0 && away + radius < 1e37 && abs(u) < 1e37 && pixelSize > 0.0;
+    bool isDrawn = !isHidden(u) && radius > 0.0 && away + radius < 1e37 && abs(u) < 1e37 && pixelSize > 0.0;
     if (!isDrawn || (isPerspective && !c_areDiscs && away <= eyeRadius)) {
         gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
         return;
@@ -61,6 +67,8 @@ void main()
         span = 2.0 * eyeRadius * stretch + pixelSize;
         gl_Position = projection * eye;
         gl_PointSize = span / pixelSize;
+        radiusInPixels = eyeRadius / pixelSize;
+        middleSight = isPerspective ? eye.xyz / away : middleSight;
         return;
     }
     vec3 side = normalize(x);
@@ -84,10 +92,12 @@ void main()
 )";
 
 const char* const c_sphereFragmentMain = R"(
-flat in float u;
+flat in vec3 color;
 flat in vec3 eyeCenter;
 flat in float eyeRadius;
 flat in float span;
+flat in float radiusInPixels;
+flat in vec3 middleSight;
 flat in vec3 eyeNormal;
 in vec2 place;
 in vec3 eyePosition;
@@ -95,18 +105,20 @@ in vec3 eyePosition;
 void main()
 {
     vec3 shown = c_arePoints ? eyeCenter + span * vec3(gl_PointCoord.x - 0.5, 0.5 - gl_PointCoord.y, 0.0) : eyePosition;
-    vec3 sight = isPerspective ? normalize(shown) : vec3(0.0, 0.0, -1.0);
+    // All lines of sight to a small sphere are the same.
+    vec3 sight = c_arePoints ? middleSight : isPerspective ? normalize(shown) : vec3(0.0, 0.0, -1.0);
     // From the centre to the nearest point of the line of sight, in units of the radius.
     vec3 toCenter = eyeCenter - shown;
     vec3 offset = (dot(sight, toCenter) * sight - toCenter) / eyeRadius;
     float miss = c_areDiscs && !c_arePoints ? length(place) : length(offset);
-    float coverage = clamp(0.5 + (1.0 - miss) / length(vec2(dFdx(miss), dFdy(miss))), 0.0, 1.0);
+    float missPerPixel = c_arePoints ? 1.0 / radiusInPixels : length(vec2(dFdx(miss), dFdy(miss)));
+    float coverage = clamp(0.5 + (1.0 - miss) / missPerPixel, 0.0, 1.0);
     bool isBlended = uniformColor.a < 1.0;
-    if (!(coverage >= 0.5 / float(isBlended ? 4 : numSamples)) || (c_isRestricted && isHidden(u))) {
+    if (!(coverage >= 0.5 / float(isBlended ? 4 : numSamples))) {
         discard;
     }
     vec3 n = c_areDiscs ? (c_arePoints || gl_FrontFacing ? eyeNormal : -eyeNormal)
-                        : normalize(offset - sqrt(max(1.0 - miss * miss, 0.0)) * sight);
+                        : offset / max(miss, 1.0) - sqrt(max(1.0 - miss * miss, 0.0)) * sight;
     vec3 point = c_areDiscs ? shown : eyeCenter + eyeRadius * n;
     // All that a flat view shows has one depth.
     float depth = gl_FragCoord.z;
@@ -120,7 +132,6 @@ void main()
     // Some samples of a pixel on the outline are covered, so that it is smooth whatever was drawn first.
     gl_SampleMask[0] = isBlended ? ~0 : (1 << int(coverage * float(numSamples) + 0.5)) - 1;
 #endif
-    vec3 color = materialColor(u);
     result = vec4(c_isLit ? lit(color, n, point) : color, isBlended ? uniformColor.a * coverage : 1.0);
 }
 )";
