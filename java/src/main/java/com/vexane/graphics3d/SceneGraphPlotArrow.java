@@ -98,7 +98,7 @@ public abstract class SceneGraphPlotArrow extends SceneGraphPlot {
     /**
      * Sets the factor for the length of all arrows, initially 1. The bounding box follows with the next fill.
      *
-     * @param scale the factor
+     * @param scale the factor; no arrows are drawn if it is not above 0
      */
     public final void setCommonArrowScale(float scale) {
         setCommonArrowScale(this, scale);
