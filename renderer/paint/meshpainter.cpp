@@ -206,8 +206,8 @@ float MeshPainter::largestInPixels(const SphereBuffer& spheres, float radiusScal
         return vxgraphics3d::Vector3f(toEye.get(1, axis), toEye.get(2, axis), toEye.get(3, axis)).length();
     };
     const float radius = spheres.getLargestRadius() * radiusScale * std::sqrt(axisLength(1) * axisLength(2));
-    // What is no number, or not in front of the eye, is large.
-    return nearest > 0.0f && radius < nearest ? radius / (nearest * m_pixelSize) : std::numeric_limits<float>::max();
+    // What reaches behind the eye is large.
+    return nearest > 0.0f ? radius / (nearest * m_pixelSize) : std::numeric_limits<float>::max();
 }
 
 void MeshPainter::draw(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye, const Material& material)
