@@ -1,5 +1,5 @@
-// Fills of level sets, slices and meshes, each compared with bare loops that write the same records and indices into new
-// memory, and the outline of a surface, compared with a bare walk through the same table. Both results are compared
+// Fills of level sets, slices and meshes, each compared with bare loops that write the same records and indices into
+// new memory, and the outline of a surface, compared with a bare walk through the same table. Both results are compared
 // once.
 
 #include "graphics3d/buffers/indexbuffertriangles.h"
@@ -86,8 +86,8 @@ PostRecord gridsRecord(Kind kind, int side)
             normals[2][i] = 1.0f;
             values[i] = kind == Kind::isoSurface || kind == Kind::contourLines ? group : points[2][i];
         }
-        Record::IntArrays elements = kind == Kind::contourLines ? gridLines(side)
-                                     : kind == Kind::points     ? Record::IntArrays(1)
+        Record::IntArrays elements = kind == Kind::contourLines              ? gridLines(side)
+                                     : kind == Kind::points                  ? Record::IntArrays(1)
                                      : kind == Kind::faces && group % 2 == 1 ? gridLines(side)
                                                                              : gridTriangles(side);
         record.group(std::move(points), std::move(elements), {std::move(values)}, std::move(normals));
@@ -133,10 +133,10 @@ std::unique_ptr<Index[]> bareIndices(const Record::IntArrays& corners)
 }
 
 /// The corners of a cube as multiples of half an edge, face by face, and the triangles of a face by its side.
-constexpr float c_cube[24][3] = {{-1, -1, -1}, {-1, 1, -1}, {-1, -1, 1}, {-1, 1, 1}, {1, -1, -1},  {1, 1, -1},
-                                 {1, -1, 1},   {1, 1, 1},   {-1, -1, -1}, {-1, -1, 1}, {1, -1, -1}, {1, -1, 1},
+constexpr float c_cube[24][3] = {{-1, -1, -1}, {-1, 1, -1}, {-1, -1, 1},  {-1, 1, 1},  {1, -1, -1},  {1, 1, -1},
+                                 {1, -1, 1},   {1, 1, 1},   {-1, -1, -1}, {-1, -1, 1}, {1, -1, -1},  {1, -1, 1},
                                  {-1, 1, -1},  {-1, 1, 1},  {1, 1, -1},   {1, 1, 1},   {-1, -1, -1}, {1, -1, -1},
-                                 {-1, 1, -1},  {1, 1, -1},  {-1, -1, 1},  {1, -1, 1},  {-1, 1, 1},  {1, 1, 1}};
+                                 {-1, 1, -1},  {1, 1, -1},  {-1, -1, 1},  {1, -1, 1},  {-1, 1, 1},   {1, 1, 1}};
 constexpr unsigned c_cubeFaces[2][6] = {{0, 3, 1, 0, 2, 3}, {0, 1, 3, 0, 3, 2}};
 
 template <class Index>
@@ -217,14 +217,26 @@ BareGroup bareFill(Kind kind, const Record& record, std::size_t group)
     } else if (isWireframe) {
         const Vector3f n = Vector3f(1.0f, 1.0f, 1.0f).normalized();
         for (std::size_t i = 0; i < count; ++i) {
-            out[i] = {static_cast<float>(x[i]), static_cast<float>(y[i]), static_cast<float>(z[i]), n.x, n.y, n.z, 0.0f,
+            out[i] = {static_cast<float>(x[i]),
+                      static_cast<float>(y[i]),
+                      static_cast<float>(z[i]),
+                      n.x,
+                      n.y,
+                      n.z,
+                      0.0f,
                       0.0f};
         }
     } else if (kind == Kind::isoSurface) {
         const auto u = static_cast<float>((v[0] - min) * scale);
         for (std::size_t i = 0; i < count; ++i) {
-            out[i] = {static_cast<float>(x[i]), static_cast<float>(y[i]), static_cast<float>(z[i]), nx[i], ny[i], nz[i],
-                      u, 0.0f};
+            out[i] = {static_cast<float>(x[i]),
+                      static_cast<float>(y[i]),
+                      static_cast<float>(z[i]),
+                      nx[i],
+                      ny[i],
+                      nz[i],
+                      u,
+                      0.0f};
         }
     } else {
         for (std::size_t i = 0; i < count; ++i) {
@@ -263,7 +275,8 @@ bool areEqual(const VertexBufferNormalTex& vertices, const IndexBuffer& indices,
     const auto numIndices = static_cast<std::size_t>(indices.getNumIndices());
     return static_cast<std::size_t>(vertices.getNumberOfVertices()) == bare.numVertices &&
            numIndices == bare.numIndices &&
-           std::memcmp(vertices.vertexPointer(), bare.vertices.get(), bare.numVertices * sizeof(VertexNormalTex)) == 0 &&
+           std::memcmp(vertices.vertexPointer(), bare.vertices.get(), bare.numVertices * sizeof(VertexNormalTex)) ==
+               0 &&
            (indices.uses32BitIndices()
                 ? std::memcmp(indices.getIndices32(), bare.indices32.get(), 4 * numIndices) == 0
                 : std::memcmp(indices.getIndices16(), bare.indices16.get(), 2 * numIndices) == 0);
@@ -299,8 +312,8 @@ std::unique_ptr<Plot> make(Plot*)
     return std::make_unique<Plot>(1);
 }
 
-/// Lets the allocator keep freed memory: it returns it to the system up to a size that grows with the blocks it has seen,
-/// and a row would measure page faults or not depending on those before it.
+/// Lets the allocator keep freed memory: it returns it to the system up to a size that grows with the blocks it has
+/// seen, and a row would measure page faults or not depending on those before it.
 void keepFreedMemory()
 {
     void* volatile block = std::malloc(std::size_t{24} << 20);

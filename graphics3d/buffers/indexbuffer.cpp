@@ -149,7 +149,7 @@ int IndexBuffer::getNumElements(int segment) const
     return (m_segmentStarts[first + 1] - m_segmentStarts[first] - m_indicesPerSegment) / m_indicesPerElem;
 }
 
-void IndexBuffer::requireRoom(int count, int indicesEach) const
+void IndexBuffer::requireSpace(int count, int indicesEach) const
 {
     const int used = m_segmentStarts.empty() ? 0 : m_segmentStarts.back();
     if (m_segmentStarts.empty() || count < 0 || std::int64_t{count} * indicesEach > m_numIndices - used) {

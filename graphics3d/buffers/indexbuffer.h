@@ -88,7 +88,7 @@ protected:
     }
 
     /// Throws std::out_of_range if there is no space for `count` elements of `indicesEach` indices.
-    void requireRoom(int count, int indicesEach) const;
+    void requireSpace(int count, int indicesEach) const;
     /// The index at a position of the whole array.
     int indexAt(int position) const;
 

@@ -9,7 +9,7 @@ namespace vxgraphics3d {
 
 void IndexBufferLines::appendLines(const int* from, const int* to, int count, int offset)
 {
-    requireRoom(count, 2);
+    requireSpace(count, 2);
     append(2 * count, [=](auto* out) {
         for (int i = 0; i < count; ++i, out += 2) {
             put(out[0], from[i], offset);
@@ -22,7 +22,7 @@ template <std::size_t c_numCorners>
 void IndexBufferLines::appendEdgesOf(std::span<const int* const> corners, int count)
 {
     constexpr int c_numEdges = static_cast<int>(c_numCorners * (c_numCorners - 1) / 2);
-    requireRoom(count, 2 * c_numEdges);
+    requireSpace(count, 2 * c_numEdges);
     std::array<const int*, c_numCorners> arrays{};
     std::copy_n(corners.begin(), c_numCorners, arrays.begin());
     append(2 * c_numEdges * count, [=](auto* out) {

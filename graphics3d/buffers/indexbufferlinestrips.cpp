@@ -4,7 +4,7 @@ namespace vxgraphics3d {
 
 void IndexBufferLineStrips::newStripOf(int firstVertex, int count)
 {
-    requireRoom(count, 1);
+    requireSpace(count, 1);
     newSegment();
     append(count, [=](auto* out) {
         for (int i = 0; i < count; ++i) {

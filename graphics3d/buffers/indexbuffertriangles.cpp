@@ -4,7 +4,7 @@ namespace vxgraphics3d {
 
 void IndexBufferTriangles::appendTriangles(const int* indices, int count)
 {
-    requireRoom(count, 3);
+    requireSpace(count, 3);
     append(3 * count, [=](auto* out) {
         for (int i = 0; i < 3 * count; ++i) {
             put(out[i], indices[i]);
@@ -14,7 +14,7 @@ void IndexBufferTriangles::appendTriangles(const int* indices, int count)
 
 void IndexBufferTriangles::appendTriangles(const int* a, const int* b, const int* c, int count, int offset)
 {
-    requireRoom(count, 3);
+    requireSpace(count, 3);
     append(3 * count, [=](auto* out) {
         for (int i = 0; i < count; ++i, out += 3) {
             put(out[0], a[i], offset);
@@ -27,7 +27,7 @@ void IndexBufferTriangles::appendTriangles(const int* a, const int* b, const int
 void IndexBufferTriangles::appendBands(int first, int rowLength, int numBands)
 {
     const int perBand = 2 * (rowLength - 1);
-    requireRoom(numBands, 3 * perBand);
+    requireSpace(numBands, 3 * perBand);
     append(3 * perBand * numBands, [=](auto* out) {
         for (int band = 0; band < numBands; ++band) {
             const int start = first + band * rowLength;
@@ -45,7 +45,7 @@ void IndexBufferTriangles::appendBands(int first, int rowLength, int numBands)
 
 void IndexBufferTriangles::appendCopies(const int* indices, int count, int numCopies, int numVertices)
 {
-    requireRoom(numCopies, 3 * count);
+    requireSpace(numCopies, 3 * count);
     append(3 * count * numCopies, [=](auto* out) {
         for (int copy = 0, offset = 0; copy < numCopies; ++copy, offset += numVertices) {
             for (int i = 0; i < 3 * count; ++i) {

@@ -28,7 +28,7 @@ public:
     template <class Each>
     void appendTriangles(const int* a, const int* b, const int* c, int count, Each each)
     {
-        requireRoom(count, 3);
+        requireSpace(count, 3);
         append(3 * count, [=](auto* out) {
             for (int i = 0; i < count; ++i, out += 3) {
                 put(out[0], a[i]);

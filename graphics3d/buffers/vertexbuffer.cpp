@@ -30,7 +30,7 @@ void VertexBuffer::deallocate()
     m_numVertices = 0;
 }
 
-void VertexBuffer::requireRoom(int count) const
+void VertexBuffer::requireSpace(int count) const
 {
     if (!hasRoom(count)) {
         throw std::out_of_range("A vertex buffer of " + std::to_string(m_capacity) + " vertices holds " +

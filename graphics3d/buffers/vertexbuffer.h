@@ -49,7 +49,7 @@ protected:
     /// Whether there is space for `count` further records.
     bool hasRoom(int count) const { return count >= 0 && count <= m_capacity - m_numVertices; }
     /// Throws std::out_of_range if there is no space for `count` further records.
-    void requireRoom(int count) const;
+    void requireSpace(int count) const;
     /// Logs that records were refused and returns 0.
     static int reportNoRoom();
 

@@ -22,7 +22,7 @@ public:
     /// fast path for loops that fill many. Throws std::out_of_range if there is not enough space.
     Vertex* appendUnwritten(int count)
     {
-        requireRoom(count);
+        requireSpace(count);
         Vertex* first = m_vertices.get() + m_numVertices;
         m_numVertices += count;
         return first;

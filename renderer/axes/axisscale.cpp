@@ -227,7 +227,7 @@ private:
             for (int mantissa = 1; mantissa < 10; ++mantissa) {
                 const double position = decade + std::log10(mantissa);
                 const bool isLabelled = mantissa == 1 || mantissa == 2 || mantissa == 5;
-                if (isInside(position) && (isLabelled || hasRoomForMinorLines())) {
+                if (isInside(position) && (isLabelled || hasSpaceForMinorLines())) {
                     ticks.push_back({position, isLabelled ? logLabel(mantissa, decade) : "", !isLabelled});
                 }
             }
@@ -277,7 +277,7 @@ private:
             labelled = static_cast<double>(roundFactor(labelled + 0.5));
         }
         takeFiner(decades(closest, closest));
-        if (closest == 1.0 && hasRoomForMinorLines()) {
+        if (closest == 1.0 && hasSpaceForMinorLines()) {
             addMinorLines();
         }
     }
@@ -294,7 +294,7 @@ private:
         return ticks;
     }
 
-    bool hasRoomForMinorLines() const { return m_pixels * std::log10(10.0 / 9.0) >= c_closestLines; }
+    bool hasSpaceForMinorLines() const { return m_pixels * std::log10(10.0 / 9.0) >= c_closestLines; }
 
     void addMinorLines()
     {

@@ -26,7 +26,7 @@ constexpr float c_labelGap = 0.3f;
 constexpr float c_tickDistance = 2.6f;
 constexpr int c_mostTicks = 12;
 
-TextLayout layoutOf(const UString& markup, FontSet& fonts, TextRoom room)
+TextLayout layoutOf(const UString& markup, FontSet& fonts, TextSpace room)
 {
     return layoutTitle(parseTitle(markup), fonts, room);
 }
@@ -37,7 +37,7 @@ BarLegend::BarLegend(const PlotItem& item, const LegendStyle& style, float maxWi
     : m_item(item), m_scale(legendScaleOf(*item.plot)), m_height(height), m_texts(*item.plot, style, maxWidth, height)
 {
     const float em = style.tickFonts.fontSize();
-    const TextRoom line = {maxWidth, height};
+    const TextSpace line = {maxWidth, height};
     const float barRoom = height - m_texts.headHeight(style, 0.0f) - m_texts.smallest.height - 1.5f * em;
     const int count = std::clamp(static_cast<int>(barRoom / (c_tickDistance * em)), 1, c_mostTicks);
     const Ticks ticks = makeTicks(m_scale.lowerValue, m_scale.upperValue, count, style.tickDigits);

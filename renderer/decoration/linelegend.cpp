@@ -64,13 +64,13 @@ LineLegendPlacement::LineLegendPlacement(int position, int strategy)
 {}
 
 LineLegendBox::LineLegendBox(std::vector<LineLegendEntry> entries, const LineLegendPlacement& placement,
-                             const LegendStyle& style, TextRoom room)
+                             const LegendStyle& style, TextSpace room)
     : m_placement(placement)
 {
     const float em = style.tickFonts.fontSize();
     const float padding = placement.isInside ? c_padding * em : 0.0f;
     const float sample = (c_sampleLength + c_textGap) * em;
-    const TextRoom textRoom = {room.width - 2.0f * padding - sample, room.height - 2.0f * padding};
+    const TextSpace textRoom = {room.width - 2.0f * padding - sample, room.height - 2.0f * padding};
     if (textRoom.width < c_leastTextWidth * em) {
         return;
     }

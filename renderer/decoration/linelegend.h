@@ -37,7 +37,7 @@ class LineLegendBox {
 public:
     /// Entries for which the space does not suffice are left out.
     LineLegendBox(std::vector<LineLegendEntry> entries, const LineLegendPlacement& placement, const LegendStyle& style,
-                  TextRoom room);
+                  TextSpace room);
 
     const LineLegendPlacement& getPlacement() const { return m_placement; }
     /// In whole pixels; 0 without entries.

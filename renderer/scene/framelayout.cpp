@@ -106,7 +106,7 @@ void layOutLineLegend(const Frame& frame, FrameLayout& layout)
     const auto height = static_cast<float>(space.height);
     const LineLegendBox& legend = layout.lineLegend.emplace(
         std::move(entries), placement, layout.legendStyle,
-        placement.isRow ? TextRoom{width, c_lineLegendPart * height} : TextRoom{c_lineLegendPart * width, height});
+        placement.isRow ? TextSpace{width, c_lineLegendPart * height} : TextSpace{c_lineLegendPart * width, height});
     if (legend.getWidth() == 0) {
         return;
     }
@@ -131,7 +131,7 @@ void placeLineLegend(const Frame& frame, FrameLayout& layout)
     const int margin =
         placement.isInside ? static_cast<int>(std::round(c_margin * layout.legendStyle.tickFonts.fontSize())) : 0;
     if (placement.isInside && frame.appearance.showLegends) {
-        const TextRoom room = {static_cast<float>(area.width - 2 * margin),
+        const TextSpace room = {static_cast<float>(area.width - 2 * margin),
                                static_cast<float>(area.height - 2 * margin)};
         layout.lineLegend.emplace(lineLegendsOf(layout.items), placement, layout.legendStyle, room);
     }

@@ -210,7 +210,7 @@ std::vector<Line> breakLines(const std::vector<Cluster>& clusters, float room)
 
 } // namespace
 
-TextLayout layoutTitle(const std::vector<TitleItem>& items, TextMetrics& metrics, TextRoom room)
+TextLayout layoutTitle(const std::vector<TitleItem>& items, TextMetrics& metrics, TextSpace room)
 {
     const MeasuredText text = Measurer(items, metrics).measure();
     const std::vector<Line> lines = breakLines(text.clusters, room.width);

@@ -24,7 +24,7 @@ struct TextLayout {
 };
 
 /// Space that a text may take. Lines that do not fit into the height are left out, but never the first one.
-struct TextRoom {
+struct TextSpace {
     float width;
     float height;
 };
@@ -33,6 +33,6 @@ struct TextRoom {
 ///
 /// A line that is too wide is broken at the last blank between boxes, if there is none at the last blank within a box,
 /// and if there is none anywhere between two characters. Centred lines are centred within the widest line.
-TextLayout layoutTitle(const std::vector<TitleItem>& items, TextMetrics& metrics, TextRoom room);
+TextLayout layoutTitle(const std::vector<TitleItem>& items, TextMetrics& metrics, TextSpace room);
 
 } // namespace vxrenderer

@@ -10,9 +10,9 @@
 namespace vxrenderer {
 namespace {
 
-constexpr TextRoom c_wide = {1e6f, 1e6f};
+constexpr TextSpace c_wide = {1e6f, 1e6f};
 
-TextLayout layoutOf(const std::string& markup, TextRoom room = c_wide)
+TextLayout layoutOf(const std::string& markup, TextSpace room = c_wide)
 {
     SquareMetrics metrics;
     return layoutTitle(parseTitle(vxbase::UString(markup)), metrics, room);
