@@ -132,7 +132,7 @@ void placeLineLegend(const Frame& frame, FrameLayout& layout)
         placement.isInside ? static_cast<int>(std::round(c_margin * layout.legendStyle.tickFonts.fontSize())) : 0;
     if (placement.isInside && frame.appearance.showLegends) {
         const TextSpace room = {static_cast<float>(area.width - 2 * margin),
-                               static_cast<float>(area.height - 2 * margin)};
+                                static_cast<float>(area.height - 2 * margin)};
         layout.lineLegend.emplace(lineLegendsOf(layout.items), placement, layout.legendStyle, room);
     }
     if (!layout.lineLegend) {
