@@ -471,8 +471,8 @@ void outlineLimit(benchmark::State& state)
     state.SetItemsProcessed(state.iterations() * grid.triangles.getNumElements(0));
 }
 
-BENCHMARK(outline)->Name("outline")->Arg(48)->Arg(512);
-BENCHMARK(outlineLimit)->Name("outline_limit")->Arg(48)->Arg(512);
+BENCHMARK(outline)->Name("outline")->Arg(48)->Arg(512)->Arg(1024);
+BENCHMARK(outlineLimit)->Name("outline_limit")->Arg(48)->Arg(512)->Arg(1024);
 
 } // namespace
 } // namespace vxgraphics3d

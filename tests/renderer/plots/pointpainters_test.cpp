@@ -5,6 +5,7 @@
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/scenelight.h"
 #include "graphics3d/lights/scenesettingslight.h"
+#include "graphics3d/plots/vector/scenegraphplotedge2d.h"
 #include "graphics3d/plots/vector/scenegraphplotedge3d.h"
 #include "graphics3d/plots/vector/scenegraphplotinteractive.h"
 #include "graphics3d/plots/vector/scenegraphplotpointlabel.h"
@@ -238,6 +239,32 @@ TEST_F(PointPaintersTest, aLabelIsAboveItsPointAndHiddenByWhatLiesInFrontOfIt)
 
     plot->setPlotPlaneOffset(-1.0f); // below the square
     EXPECT_TRUE(darkArea(drawn(m_canvas)).isEmpty());
+}
+
+TEST_F(PointPaintersTest, edgesAndLabelsOfThePlaneAreDrawnInIt)
+{
+    const auto edges = boost::make_shared<SceneGraphPlotEdge2d>(1);
+    add(edges, PostRecord()
+                   .role(Record::ColorData, 0)
+                   .bounds({{0, 1}, {0, 1}})
+                   .group({{0.1, 0.9}, {0.2, 0.2}}, {{0}, {1}}, {{0, 1}}));
+    edges->setLineWidth(5.0f);
+    Picture shown = drawn(m_canvas);
+    EXPECT_EQ(colorAt(shown, 0.3f, 0.2f), c_blue);
+    EXPECT_EQ(colorAt(shown, 0.7f, 0.2f), c_red);
+    EXPECT_EQ(colorAt(shown, 0.5f, 0.3f), c_white);
+
+    edges->setActive(false);
+    const auto labels = boost::make_shared<SceneGraphPlotPointLabel>(2, 2);
+    labels->setColor(Color::fromRgb(0x000000));
+    labels->setLabels({"MMM"});
+    labels->fillPlot(PostRecord().kind(Record::PointLabel2d).bounds({{0, 1}, {0, 1}}).group({{0.5}, {0.5}, {-3}}, {}));
+    m_scene.group->addPlot(labels);
+    shown = drawn(m_canvas);
+    const PixelArea text = darkArea(shown);
+    const auto [x, y] = pixelOf(m_canvas, {0.5f, 0.5f, 0.0f});
+    EXPECT_NEAR(text.x + 0.5 * text.width, x, 2.0) << "the third coordinate, which would hide the text, is ignored";
+    EXPECT_LE(text.y + text.height, y);
 }
 
 TEST_F(PointPaintersTest, labelsOfOnePointUseItsSidesAndTheirBordersContrast)
