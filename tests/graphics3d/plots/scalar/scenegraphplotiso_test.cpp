@@ -103,7 +103,7 @@ TEST(SceneGraphPlotIsoSurface3d, aLevelWithoutTrianglesNeedsNeitherNormalsNorBuf
 {
     PostRecord record = surfaces(0.0, 5.0, 10.0);
     record.group({{1, 2}, {3, 4}, {5, 6}}, {{}, {}, {}}, {{20, 20}, {}});
-    record.group({{}, {}, {}}, {{}, {}, {}}, {{}, {}}).limits(4, 0, 0, 0);
+    record.group({{}, {}, {}}, {}, {{}, {}}).limits(4, 0, 0, 0); // as of a producer that adds no elements
     SceneGraphPlotIsoSurface3d plot(1);
     plot.fillPlot(record);
     EXPECT_EQ(plot.getNumberOfLevels(), 5);

@@ -69,12 +69,15 @@ TEST(SceneGraphPlotSlice3d, aSliceOfPointsAloneHasVerticesAndEmptyIndexBuffers)
 {
     PostRecord record = PostRecord().role(Record::ColorData, 0).bounds({{0, 1}, {0, 1}, {0, 1}});
     record.group({{0}, {0}, {0}}, {{}, {}, {}}, {{1}}, {{0}, {0}, {1}}).outline({{}, {}});
+    record.group({{0}, {0}, {0}}, {}, {{1}}, {{0}, {0}, {1}}).outline({{}, {}});
     SceneGraphPlotSlice3d plot(1);
     plot.fillPlot(record);
     EXPECT_TRUE(plot.isValid());
-    EXPECT_EQ(plot.getSlice(0)->m_vertices.getNumberOfVertices(), 1);
-    EXPECT_EQ(plot.getSlice(0)->m_triangles.getNumElements(0), 0);
-    EXPECT_EQ(plot.getSlice(0)->m_lines.getNumElements(0), 0);
+    for (const int slice : {0, 1}) {
+        EXPECT_EQ(plot.getSlice(slice)->m_vertices.getNumberOfVertices(), 1);
+        EXPECT_EQ(plot.getSlice(slice)->m_triangles.getNumElements(0), 0);
+        EXPECT_EQ(plot.getSlice(slice)->m_lines.getNumElements(0), 0);
+    }
 }
 
 TEST(SceneGraphPlotSlice3d, fillRefusesARecordThatLacksSomethingAndNamesIt)
