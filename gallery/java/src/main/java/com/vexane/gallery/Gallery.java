@@ -23,6 +23,7 @@ import com.vexane.gallery.pictures.LogarithmicAxes;
 import com.vexane.gallery.pictures.OceanIsotherms;
 import com.vexane.gallery.pictures.OceanProfile;
 import com.vexane.gallery.pictures.OceanSlices;
+import com.vexane.gallery.pictures.PlateWithHole;
 import com.vexane.gallery.pictures.PolarView;
 import com.vexane.gallery.pictures.PrincipalStress;
 import com.vexane.gallery.pictures.RaisedEdges;
@@ -79,6 +80,7 @@ public final class Gallery {
             new Tubes(),
             new TubesFlat(),
             new PrincipalStress(),
+            new PlateWithHole(),
             new LocalAxes(),
             new ArrowScalings(),
             new Vortex(),
