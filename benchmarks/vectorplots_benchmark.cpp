@@ -1,17 +1,16 @@
-// Fills of arrows, tubes and ribbons, each compared with a bare loop that writes the same numbers into new memory. The
-// rings of tubes are known to the loop, which only writes their vertices. Both results are compared once.
+// Fills of tubes and ribbons, each compared with a bare loop that writes the same numbers into new memory. The rings of
+// tubes are known to the loop, which only writes their vertices. Both results are compared once.
 
-#include "graphics3d/plots/vector/scenegraphplotarrow3d.h"
+#include "benchmarks/wave.h"
 #include "graphics3d/plots/vector/scenegraphplotribbon3d.h"
+#include "graphics3d/plots/vector/scenegraphplottube2d.h"
 #include "graphics3d/plots/vector/scenegraphplottube3d.h"
 #include "tests/support/postrecord.h"
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <limits>
 #include <memory>
 #include <vector>
 
@@ -19,100 +18,6 @@ namespace vxgraphics3d {
 namespace {
 
 using Record = vxdatacarrier::PostDataObject;
-
-std::vector<double> wave(std::size_t count, double frequency, double mean = 0.0)
-{
-    std::vector<double> values(count);
-    for (std::size_t i = 0; i < count; ++i) {
-        values[i] = mean + std::sin(frequency * static_cast<double>(i + 1));
-    }
-    return values;
-}
-
-PostRecord arrowRecord(std::size_t count)
-{
-    PostRecord record;
-    record.role(Record::VectorX, 0).role(Record::VectorY, 1).role(Record::VectorZ, 2).role(Record::ColorData, 3);
-    record.bounds({{-1, 1}, {-1, 1}, {-1, 1}});
-    record.group({wave(count, 0.1), wave(count, 0.2), wave(count, 0.3)}, {},
-                 {wave(count, 0.11), wave(count, 0.23), wave(count, 0.37), wave(count, 0.01)});
-    return record;
-}
-
-/// The numbers of an arrow plot without the plot: angles, lengths, colours, scale and box.
-struct BareArrows {
-    std::unique_ptr<ArrowRecord3d[]> arrows;
-    double box[6];
-};
-
-BareArrows bareArrows(const Record& record)
-{
-    const Record::DoubleArrays& p = *record.m_coordinates[0];
-    const Record::DoubleArrays& v = *record.m_data[0];
-    const std::size_t count = p[0].size();
-    const double min = (*record.m_dataMin[0])[3];
-    const double scale = 1.0 / ((*record.m_dataMax[0])[3] - min);
-    BareArrows result{std::unique_ptr<ArrowRecord3d[]>(new ArrowRecord3d[count]), {}};
-    ArrowRecord3d* out = result.arrows.get();
-    float longest = 0.0f;
-    for (std::size_t i = 0; i < count; ++i) {
-        const Vector3f vector(v[0][i], v[1][i], v[2][i]);
-        const float length = std::sqrt(vector.x * vector.x + vector.y * vector.y + vector.z * vector.z);
-        out[i] = {static_cast<float>(p[0][i]),
-                  static_cast<float>(p[1][i]),
-                  static_cast<float>(p[2][i]),
-                  std::atan2(vector.y / length, vector.x / length),
-                  std::acos(std::clamp(vector.z / length, -1.0f, 1.0f)),
-                  length,
-                  static_cast<float>((v[3][i] - min) * scale)};
-        longest = std::max(longest, length);
-    }
-    const double target = 2.0 / static_cast<double>(std::pow(static_cast<float>(count), 0.33333334f)) * 0.85;
-    const double factor = target / static_cast<double>(longest);
-    for (std::size_t i = 0; i < count; ++i) {
-        out[i].length = static_cast<float>(static_cast<double>(out[i].length) * factor);
-    }
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-        double low = std::numeric_limits<double>::infinity();
-        double high = -low;
-        for (std::size_t i = 0; i < count; ++i) {
-            const double tip = p[axis][i] + v[axis][i] * factor;
-            low = std::min({low, p[axis][i], tip});
-            high = std::max({high, p[axis][i], tip});
-        }
-        result.box[2 * axis] = low;
-        result.box[2 * axis + 1] = high;
-    }
-    return result;
-}
-
-void arrows3d(benchmark::State& state)
-{
-    const PostRecord record = arrowRecord(static_cast<std::size_t>(state.range(0)));
-    for (auto _ : state) {
-        SceneGraphPlotArrow3d plot(1);
-        plot.fillPlot(record);
-        benchmark::DoNotOptimize(plot.getArrows());
-    }
-    state.counters["allowed"] = 1.15;
-    SceneGraphPlotArrow3d plot(1);
-    plot.fillPlot(record);
-    const BareArrows bare = bareArrows(record);
-    if (std::memcmp(plot.getArrows(), bare.arrows.get(),
-                    static_cast<std::size_t>(state.range(0)) * sizeof(ArrowRecord3d)) != 0) {
-        state.SkipWithError("The bare loop gives other arrows.");
-    }
-}
-
-void bareArrows3d(benchmark::State& state)
-{
-    const PostRecord record = arrowRecord(static_cast<std::size_t>(state.range(0)));
-    for (auto _ : state) {
-        BareArrows bare = bareArrows(record);
-        benchmark::DoNotOptimize(bare.arrows.get());
-        benchmark::DoNotOptimize(bare.box);
-    }
-}
 
 /// One chain of lines that winds through space.
 PostRecord lineRecord(std::size_t numLines)
@@ -245,6 +150,24 @@ BareMesh bareTube(const Record& record, const std::vector<Ring>& rings, int reso
     return mesh;
 }
 
+/// Reports an error if a tube and a bare loop have vertices that differ by more than rounding, or other triangles.
+void compare(benchmark::State& state, const SceneGraphPlotTube::Tube& tube, const BareMesh& bare)
+{
+    const VertexBufferNormalTex& vertices = tube.m_tubeVertices;
+    for (int i = 0; i < vertices.getNumberOfVertices(); ++i) {
+        const VertexNormalTex& v = bare.vertices[static_cast<std::size_t>(i)];
+        if ((vertices.getCoord(i) - Vector3f(v.x, v.y, v.z)).length() > 0.01f) {
+            state.SkipWithError("The bare loop gives other vertices.");
+            return;
+        }
+    }
+    if (std::memcmp(tube.m_tubeTriangles.getIndices32(), bare.indices.get(),
+                    static_cast<std::size_t>(tube.m_tubeTriangles.getNumIndices()) * sizeof(unsigned int)) != 0) {
+        state.SkipWithError("The bare loop gives other triangles.");
+    }
+    state.counters["vertices"] = vertices.getNumberOfVertices();
+}
+
 void tube3d(benchmark::State& state)
 {
     const PostRecord record = lineRecord(static_cast<std::size_t>(state.range(0)));
@@ -256,23 +179,7 @@ void tube3d(benchmark::State& state)
     state.counters["allowed"] = 1.3;
     SceneGraphPlotTube3d plot(1);
     plot.fillPlot(record);
-    const BareMesh bare = bareTube(record, ringsOf(plot), plot.getResolution());
-    const VertexBufferNormalTex& vertices = plot.getTubes()[0]->m_tubeVertices;
-    const IndexBufferTriangles& triangles = plot.getTubes()[0]->m_tubeTriangles;
-    for (int i = 0; i < vertices.getNumberOfVertices(); ++i) {
-        if ((vertices.getCoord(i) - Vector3f(bare.vertices[static_cast<std::size_t>(i)].x,
-                                             bare.vertices[static_cast<std::size_t>(i)].y,
-                                             bare.vertices[static_cast<std::size_t>(i)].z))
-                .length() > 0.01f) {
-            state.SkipWithError("The bare loop gives other vertices.");
-            return;
-        }
-    }
-    if (std::memcmp(triangles.getIndices32(), bare.indices.get(),
-                    static_cast<std::size_t>(triangles.getNumIndices()) * sizeof(unsigned int)) != 0) {
-        state.SkipWithError("The bare loop gives other triangles.");
-    }
-    state.counters["vertices"] = vertices.getNumberOfVertices();
+    compare(state, *plot.getTubes()[0], bareTube(record, ringsOf(plot), plot.getResolution()));
 }
 
 void bareTube3d(benchmark::State& state)
@@ -283,6 +190,120 @@ void bareTube3d(benchmark::State& state)
     const std::vector<Ring> rings = ringsOf(plot);
     for (auto _ : state) {
         const BareMesh mesh = bareTube(record, rings, plot.getResolution());
+        benchmark::DoNotOptimize(mesh.vertices.get());
+        benchmark::DoNotOptimize(mesh.indices.get());
+    }
+}
+
+/// A vector in the plane.
+struct Vector2f {
+    Vector2f normalized() const
+    {
+        const float length = std::sqrt(x * x + y * y);
+        return {x / length, y / length};
+    }
+    float x, y;
+};
+
+/// Appends the vertices and triangles of a flat band with round ends.
+struct BareBand {
+    unsigned append(float x, float y, float u)
+    {
+        vertices[numVertices] = {x, y, 0.0f, 0.0f, 0.0f, 1.0f, u, 0.0f};
+        return numVertices++;
+    }
+    void triangle(unsigned a, unsigned b, unsigned c)
+    {
+        indices[0] = a;
+        indices[1] = b;
+        indices[2] = c;
+        indices += 3;
+    }
+    /// A semicircle of 16 steps, which turns with the sign of `side`.
+    void fan(float x, float y, const Vector2f& across, float side, float u)
+    {
+        const unsigned centre = append(x, y, u);
+        for (unsigned step = 0; step <= 16; ++step) {
+            const float angle = side * 3.1415927f / 16.0f * static_cast<float>(step);
+            const float c = std::cos(angle);
+            const float s = std::sin(angle);
+            append(x + c * across.x - s * across.y, y + s * across.x + c * across.y, u);
+            if (step > 0) {
+                triangle(centre, centre + step, centre + step + 1);
+            }
+        }
+    }
+    /// Joins two sides with the last two.
+    void join(unsigned a, unsigned b, unsigned left, unsigned right)
+    {
+        triangle(a, b, right);
+        triangle(a, right, left);
+    }
+
+    VertexNormalTex* vertices;
+    unsigned int* indices;
+    unsigned numVertices = 0;
+};
+
+/// A flat band along a chain of lines with positive radii.
+BareMesh bareTube(const Record& record)
+{
+    const Record::DoubleArrays& p = *record.m_coordinates[0];
+    const Record::DoubleArrays& data = *record.m_data[0];
+    const std::size_t count = p[0].size();
+    const double min = (*record.m_dataMin[0])[0];
+    const double scale = 1.0 / ((*record.m_dataMax[0])[0] - min);
+    BareMesh mesh = bareLines<SceneGraphPlotTube2d::Point>(record);
+    mesh.vertices.reset(new VertexNormalTex[36 + 2 * (count - 2)]);
+    mesh.indices.reset(new unsigned int[3 * (32 + 2 * (count - 1))]);
+    BareBand band{mesh.vertices.get(), mesh.indices.get()};
+    const auto x = [&](std::size_t i) { return static_cast<float>(p[0][i]); };
+    const auto y = [&](std::size_t i) { return static_cast<float>(p[1][i]); };
+    const auto u = [&](std::size_t i) { return static_cast<float>((data[0][i] - min) * scale); };
+    const auto radius = [&](std::size_t i) { return static_cast<float>(data[1][i]); };
+    const auto directionFrom = [&](std::size_t i) { return Vector2f{x(i + 1) - x(i), y(i + 1) - y(i)}.normalized(); };
+    Vector2f direction = directionFrom(0);
+    band.fan(x(0), y(0), {-direction.y * radius(0), direction.x * radius(0)}, 1.0f, u(0));
+    unsigned left = 1;
+    unsigned right = band.numVertices - 1;
+    for (std::size_t i = 1; i + 1 < count; ++i) {
+        const Vector2f next = directionFrom(i);
+        const Vector2f mean = Vector2f{direction.x + next.x, direction.y + next.y}.normalized();
+        const Vector2f across = {-mean.y * radius(i), mean.x * radius(i)};
+        const unsigned nextLeft = band.append(x(i) + across.x, y(i) + across.y, u(i));
+        const unsigned nextRight = band.append(x(i) - across.x, y(i) - across.y, u(i));
+        band.join(left, right, nextLeft, nextRight);
+        left = nextLeft;
+        right = nextRight;
+        direction = next;
+    }
+    const std::size_t last = count - 1;
+    const unsigned centre = band.numVertices;
+    band.fan(x(last), y(last), {-direction.y * radius(last), direction.x * radius(last)}, -1.0f, u(last));
+    band.join(left, right, centre + 1, band.numVertices - 1);
+    return mesh;
+}
+
+void tube2d(benchmark::State& state)
+{
+    PostRecord record = lineRecord(static_cast<std::size_t>(state.range(0)));
+    record.kind(0);
+    for (auto _ : state) {
+        SceneGraphPlotTube2d plot(1);
+        plot.fillPlot(record);
+        benchmark::DoNotOptimize(plot.getTubes()[0]->m_tubeVertices.vertices());
+    }
+    state.counters["allowed"] = 1.3;
+    SceneGraphPlotTube2d plot(1);
+    plot.fillPlot(record);
+    compare(state, *plot.getTubes()[0], bareTube(record));
+}
+
+void bareTube2d(benchmark::State& state)
+{
+    const PostRecord record = lineRecord(static_cast<std::size_t>(state.range(0)));
+    for (auto _ : state) {
+        const BareMesh mesh = bareTube(record);
         benchmark::DoNotOptimize(mesh.vertices.get());
         benchmark::DoNotOptimize(mesh.indices.get());
     }
@@ -341,8 +362,9 @@ void bareRibbon3d(benchmark::State& state)
     }
 }
 
-BENCHMARK(arrows3d)->Arg(10'000)->Arg(1'000'000);
-BENCHMARK(bareArrows3d)->Name("arrows3d_limit")->Arg(10'000)->Arg(1'000'000);
+// Enough vertices for indices of 32 bits.
+BENCHMARK(tube2d)->Arg(40'000)->Arg(400'000);
+BENCHMARK(bareTube2d)->Name("tube2d_limit")->Arg(40'000)->Arg(400'000);
 BENCHMARK(tube3d)->Arg(9'000)->Arg(90'000);
 BENCHMARK(bareTube3d)->Name("tube3d_limit")->Arg(9'000)->Arg(90'000);
 BENCHMARK(ribbon3d)->Arg(50'000);

@@ -78,6 +78,16 @@ Vector3f normalized(const Vector3f& vector)
     return normalized(vector, vector.length());
 }
 
+/// The same for a vector in the plane, with the third quotient left out.
+Vector3f normalizedInPlane(const Vector3f& vector)
+{
+    const float length = std::sqrt(vector.x * vector.x + vector.y * vector.y);
+    if (length == 0.0f) {
+        return {};
+    }
+    return length <= std::numeric_limits<float>::max() ? Vector3f(vector.x / length, vector.y / length, 0.0f) : vector;
+}
+
 /// The directions along and across a tube, carried from ring to ring with as little twist as possible.
 struct RingFrame {
     explicit RingFrame(const Vector3f& along)
@@ -417,7 +427,7 @@ void SceneGraphPlotTube::addTube2D(std::span<const LineSegment> chain)
     Tube& tube = addTube((c_fanSteps + 1) * numRound + 2 * chain.size(), c_fanSteps * numRound + 2 * chain.size());
     Band band(tube);
     const auto directionOf = [this](const LineSegment& segment) {
-        return (positionInPlane(pointAt(segment.second)) - positionInPlane(pointAt(segment.first))).normalized();
+        return normalizedInPlane(positionInPlane(pointAt(segment.second)) - positionInPlane(pointAt(segment.first)));
     };
     const auto across = [this](const Vector3f& direction, const Point& point) {
         return Vector3f(-direction.y, direction.x, 0.0f) * point.radius * m_radiusScaleFactor;
@@ -432,7 +442,7 @@ void SceneGraphPlotTube::addTube2D(std::span<const LineSegment> chain)
     for (const LineSegment& segment : chain.subspan(1)) {
         const Point& joint = pointAt(segment.first);
         const Vector3f next = directionOf(segment);
-        band.extend(positionInPlane(joint), across((direction + next).normalized(), joint), joint.texCoord);
+        band.extend(positionInPlane(joint), across(normalizedInPlane(direction + next), joint), joint.texCoord);
         direction = next;
     }
     if (last.radius > 0.0f) {
