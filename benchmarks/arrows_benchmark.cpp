@@ -1,5 +1,5 @@
-// Fills of plots of arrows and of principal values, each compared with a bare loop that writes the same records into new
-// memory and finds the same box. Both results are compared once, the records byte for byte.
+// Fills of plots of arrows and of principal values, each compared with a bare loop that writes the same records into
+// new memory and finds the same box. Both results are compared once, the records byte for byte.
 
 #include "benchmarks/wave.h"
 #include "graphics3d/plots/vector/scenegraphplotarrow2d.h"
