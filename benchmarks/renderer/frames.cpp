@@ -2,6 +2,7 @@
 // box, in 1600 by 1000 pixels, beside what the driver takes for the triangles alone.
 
 #include "benchmarks/memory.h"
+#include "benchmarks/renderer/bareshader.h"
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/scenelight.h"
 #include "renderer/frame/view.h"
@@ -85,15 +86,6 @@ layout(location = 0) in vec3 position;
 void main()
 {
     gl_Position = toClip * vec4(position, 1.0);
-}
-)";
-
-constexpr const char* c_bareFragmentSource = R"(
-out vec4 result;
-
-void main()
-{
-    result = vec4(0.2, 0.4, 0.8, 1.0);
 }
 )";
 

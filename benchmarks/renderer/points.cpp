@@ -1,6 +1,7 @@
 // Frames of the reference renderer with a cloud of spheres, lit, in 1600 by 1000 pixels, beside what the driver takes
 // for as many triangles of the same size and place in one colour.
 
+#include "benchmarks/renderer/bareshader.h"
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/scenelight.h"
 #include "graphics3d/plots/vector/scenegraphplotsphere3d.h"
@@ -98,15 +99,6 @@ void main()
 {
     gl_Position = toClip * vec4(center, 1.0);
     gl_Position.xy += data.y * size * c_corners[gl_VertexID];
-}
-)";
-
-constexpr const char* c_bareFragmentSource = R"(
-out vec4 result;
-
-void main()
-{
-    result = vec4(0.2, 0.4, 0.8, 1.0);
 }
 )";
 

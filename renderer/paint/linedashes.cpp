@@ -22,7 +22,7 @@ std::vector<double> patternOf(LineStyle style)
     }
 }
 
-/// Thin lines have the pattern of this width in pixels, so that their dots can be told apart.
+/// Thin lines have the pattern of this width in pixels, so that their dots are seen as separate.
 constexpr float c_leastWidth = 1.5f;
 
 /// The part of a line within a rectangle about the origin of its coordinates.

@@ -6,23 +6,30 @@
 namespace vxrenderer {
 namespace {
 
-// With several samples per pixel, values at the border of a triangle are taken outside of it unless they are
-// `centroid`: the restriction would punch holes along all edges, and normals would turn over along outlines. The slope
-// of a triangle is the difference between pixels, whose distance is fixed only at their centres.
-constexpr const char* c_vertexBlocks = R"(
+constexpr const char* c_viewBlock = R"(
 layout(std140) uniform View {
     mat4 projection;
     vec2 grid;
     bool isPerspective;
     bool isFlat;
+    // The size of a pixel for each unit of w.
     float pixel;
     int numSamples;
 };
+)";
+
+constexpr const char* c_modelBlock = R"(
 layout(std140) uniform Model {
     mat4 modelView;
     mat4 normalMatrix;
     float radiusScale;
 };
+)";
+
+// With several samples per pixel, values at the border of a triangle are taken outside of it unless they are
+// `centroid`: the restriction would punch holes along all edges, and normals would turn over along outlines. The slope
+// of a triangle is the difference between pixels, whose distance is fixed only at their centres.
+constexpr const char* c_vertexInputs = R"(
 layout(location = 0) in vec3 position;
 layout(location = 1) in vec3 normal;
 centroid out float u;
@@ -88,14 +95,6 @@ void main()
 constexpr const char* c_light = R"(
 const int c_maxLights = 8;
 
-layout(std140) uniform View {
-    mat4 projection;
-    vec2 grid;
-    bool isPerspective;
-    bool isFlat;
-    float pixel;
-    int numSamples;
-};
 layout(std140) uniform Light {
     vec4 ambient;
     vec4 lightPlaces[c_maxLights];
@@ -174,9 +173,9 @@ std::string MeshShader::shapeConstants() const
 std::string MeshShader::vertexSource() const
 {
     if (shape != Shape::triangles) {
-        return shapeConstants() + Material::c_source + c_sphereVertexMain;
+        return shapeConstants() + c_viewBlock + c_modelBlock + Material::c_source + c_sphereVertexMain;
     }
-    return std::string(c_vertexBlocks) + (isInstanced ? c_instancedMain : c_singleMain);
+    return std::string(c_viewBlock) + c_modelBlock + c_vertexInputs + (isInstanced ? c_instancedMain : c_singleMain);
 }
 
 std::string MeshShader::fragmentSource() const
@@ -185,7 +184,7 @@ std::string MeshShader::fragmentSource() const
            constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
            constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
            constant("hasHighlights", hasHighlights) + "const int c_numLights = " + std::to_string(numLights) + ";\n" +
-           shapeConstants() + Material::c_source + c_light +
+           shapeConstants() + c_viewBlock + Material::c_source + c_light +
            (shape == Shape::triangles ? c_fragmentMain : c_sphereFragmentMain);
 }
 

@@ -3,20 +3,6 @@
 namespace vxrenderer {
 
 const char* const c_sphereVertexMain = R"(
-layout(std140) uniform View {
-    mat4 projection;
-    vec2 grid;
-    bool isPerspective;
-    bool isFlat;
-    // The size of a pixel for each unit of w.
-    float pixel;
-    int numSamples;
-};
-layout(std140) uniform Model {
-    mat4 modelView;
-    mat4 normalMatrix;
-    float radiusScale;
-};
 layout(location = 0) in vec3 center;
 // The texture coordinate and the radius.
 layout(location = 1) in vec2 data;

@@ -8,9 +8,10 @@ namespace vxrenderer {
 // A sphere stays round whatever the scales of the axes are; its radius is in the mean of the units of x and y. One that
 // is smaller than a pixel is drawn as large as a pixel, and one without a radius not at all.
 
-/// The end of a vertex shader, after the constants c_areDiscs and c_arePoints and `Material::c_source`.
+/// The end of a vertex shader, after the constants c_areDiscs and c_arePoints, the blocks `View`
+/// and `Model`, and `Material::c_source`.
 extern const char* const c_sphereVertexMain;
-/// The end of a fragment shader, after `Material::c_source` and the function `lit`.
+/// The end of a fragment shader, after the block `View`, `Material::c_source` and the function `lit`.
 extern const char* const c_sphereFragmentMain;
 
 } // namespace vxrenderer
