@@ -109,7 +109,7 @@ public final class PlateWithHole implements Picture {
             plate.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plate.fillPlot(mesh);
             plate.setWireframeColor(0xb0b0b0);
-            arrows.setColorTable("principal axes", new double[][] {{0.4, 0, 0}, {0, 0, 0.4}, {0, 0.4, 0}}, false);
+            arrows.setColorTable("dark principal axes", new double[][] {{0.4, 0, 0}, {0, 0, 0.4}, {0, 0.4, 0}}, false);
             arrows.setShowLegend(false);
             arrows.fillPlot(stresses);
             arrows.setCommonArrowScale(0.8f);
