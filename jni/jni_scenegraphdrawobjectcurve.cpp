@@ -38,10 +38,12 @@ VX_NATIVE(void, SceneGraphDrawObjectCurve, createNative)(JNIEnv* env, jclass, jo
     native(env, "createNative", [&] { attach(env, self, SceneGraphDrawObjectCurve::create(id)); });
 }
 
-VX_NATIVE(void, SceneGraphDrawObjectCurve, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint childId)
+VX_NATIVE(void, SceneGraphDrawObjectCurve, connectNative)
+(JNIEnv* env, jclass, jobject self, jobject owner, jint childId)
 {
     native(env, "connectNative", [&] {
         attach(env, self,
-               castTo<SceneGraphDrawObjectCurve>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId), "childId"));
+               castTo<SceneGraphDrawObjectCurve>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId),
+                                                 "childId"));
     });
 }

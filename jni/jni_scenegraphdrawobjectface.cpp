@@ -11,16 +11,14 @@ using namespace vxgraphics3d;
 VX_NATIVE(void, SceneGraphDrawObjectFace, fillObject2D)(JNIEnv* env, jclass, jobject self, jobject record)
 {
     native(env, "fillObject2D", [&] {
-        peer<SceneGraphDrawObjectFace>(env, self).fillData(
-            anyPeer<vxdatacarrier::RenderDraw2D>(env, record, "record"));
+        peer<SceneGraphDrawObjectFace>(env, self).fillData(anyPeer<vxdatacarrier::RenderDraw2D>(env, record, "record"));
     });
 }
 
 VX_NATIVE(void, SceneGraphDrawObjectFace, fillObject)(JNIEnv* env, jclass, jobject self, jobject record)
 {
     native(env, "fillObject", [&] {
-        peer<SceneGraphDrawObjectFace>(env, self).fillData(
-            anyPeer<vxdatacarrier::RenderDraw3D>(env, record, "record"));
+        peer<SceneGraphDrawObjectFace>(env, self).fillData(anyPeer<vxdatacarrier::RenderDraw3D>(env, record, "record"));
     });
 }
 
@@ -32,7 +30,8 @@ VX_NATIVE(void, SceneGraphDrawObjectFace, createNative)(JNIEnv* env, jclass, job
 VX_NATIVE(void, SceneGraphDrawObjectFace, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint childId)
 {
     native(env, "connectNative", [&] {
-        attach(env, self,
-               castTo<SceneGraphDrawObjectFace>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId), "childId"));
+        attach(
+            env, self,
+            castTo<SceneGraphDrawObjectFace>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId), "childId"));
     });
 }

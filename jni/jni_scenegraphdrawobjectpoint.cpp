@@ -38,10 +38,12 @@ VX_NATIVE(void, SceneGraphDrawObjectPoint, createNative)(JNIEnv* env, jclass, jo
     native(env, "createNative", [&] { attach(env, self, SceneGraphDrawObjectPoint::create(id)); });
 }
 
-VX_NATIVE(void, SceneGraphDrawObjectPoint, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint childId)
+VX_NATIVE(void, SceneGraphDrawObjectPoint, connectNative)
+(JNIEnv* env, jclass, jobject self, jobject owner, jint childId)
 {
     native(env, "connectNative", [&] {
         attach(env, self,
-               castTo<SceneGraphDrawObjectPoint>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId), "childId"));
+               castTo<SceneGraphDrawObjectPoint>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId),
+                                                 "childId"));
     });
 }

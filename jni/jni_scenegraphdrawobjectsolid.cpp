@@ -26,10 +26,12 @@ VX_NATIVE(void, SceneGraphDrawObjectSolid, createNative)(JNIEnv* env, jclass, jo
     native(env, "createNative", [&] { attach(env, self, SceneGraphDrawObjectSolid::create(id)); });
 }
 
-VX_NATIVE(void, SceneGraphDrawObjectSolid, connectNative)(JNIEnv* env, jclass, jobject self, jobject owner, jint childId)
+VX_NATIVE(void, SceneGraphDrawObjectSolid, connectNative)
+(JNIEnv* env, jclass, jobject self, jobject owner, jint childId)
 {
     native(env, "connectNative", [&] {
         attach(env, self,
-               castTo<SceneGraphDrawObjectSolid>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId), "childId"));
+               castTo<SceneGraphDrawObjectSolid>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId),
+                                                 "childId"));
     });
 }
