@@ -73,6 +73,10 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphGroup.class, made -> new SceneGraphGroup());
         recipe(SceneGraphPlotGroup.class, made -> new SceneGraphPlotGroup());
         recipe(SceneGraphObject.class, made -> new TestRenderer.Leaf());
+        recipe(SceneGraphDrawObjectPoint.class, made -> new SceneGraphDrawObjectPoint(1));
+        recipe(SceneGraphDrawObjectCurve.class, made -> new SceneGraphDrawObjectCurve(2));
+        recipe(SceneGraphDrawObjectFace.class, made -> new SceneGraphDrawObjectFace(3));
+        recipe(SceneGraphDrawObjectSolid.class, made -> new SceneGraphDrawObjectSolid(4));
         recipe(SceneGraphPlotSurface2d.class, made -> new SceneGraphPlotSurface2d(1));
         recipe(SceneGraphPlotSurface3d.class, made -> new SceneGraphPlotSurface3d(2));
         recipe(SceneGraphPlotDomain3d.class, made -> new SceneGraphPlotDomain3d(3));
