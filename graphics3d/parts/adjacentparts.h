@@ -8,8 +8,8 @@
 
 namespace vxgraphics3d {
 
-/// A relation between parts of two levels, such as sheet to line: a row of indices for each part of the first level, all
-/// rows in one array.
+/// A relation between parts of two levels, such as sheet to line: a row of indices for each part of the first level,
+/// all rows in one array.
 ///
 /// It is allocated for its rows and values, then each row is set once. Row numbers are the caller's to keep in range.
 class VX_API AdjacentParts {

@@ -18,7 +18,8 @@ int SheetCollection::addPart(int numVertices, int numTriangles)
 
 void SheetCollection::appendPartVertices(int index, const VertexBufferNormal::Vertex* vertices, int count)
 {
-    appendPartVerticesOf(index, count, [vertices](int i) -> const auto& { return vertices[i]; });
+    appendPartVerticesOf(
+        index, count, [vertices](int i) -> const auto& { return vertices[i]; });
 }
 
 void SheetCollection::appendPartVertex(int index, const Vector3f& position, const Vector3f& normal)
@@ -32,7 +33,8 @@ void SheetCollection::appendPartVertex(int index, const Vector3f& position, cons
 void SheetCollection::appendPartTriangles(int index, std::span<const vxdatacarrier::Triangle> triangles)
 {
     const int count = static_cast<int>(triangles.size());
-    part(index).m_mesh.indices.appendTrianglesOf(count, [triangles](int i) { return triangles[static_cast<std::size_t>(i)]; });
+    part(index).m_mesh.indices.appendTrianglesOf(count,
+                                                 [triangles](int i) { return triangles[static_cast<std::size_t>(i)]; });
     m_numTriangles += count;
 }
 
