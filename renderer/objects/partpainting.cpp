@@ -160,8 +160,7 @@ void PartPainting::drawSheets(const SheetCollection& sheets, int changeId, const
     if (sheets.getNumTriangles() > 0) {
         const Mesh* mesh =
             m_context.uploads.mesh(m_object, UploadSheets, changeId, [&] { return meshPartsOf(sheets); });
-        const PartRows rows =
-            rowsOf([](const Marking& row) { return Style{row.getSheetColor(), 0.0f}; }, color);
+        const PartRows rows = rowsOf([](const Marking& row) { return Style{row.getSheetColor(), 0.0f}; }, color);
         m_context.drawMesh(mesh, tableOf(UploadSheets, sheets), rows, m_look);
     }
 }
@@ -172,7 +171,10 @@ void PartPainting::drawLines(const LineCollection& lines, int changeId, const st
         const LineMesh* pieces =
             m_context.uploads.lines(m_object, UploadLines, changeId, [&] { return piecesOf(lines); });
         const PartRows rows = rowsOf(
-            [](const Marking& row) { return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)}; }, color);
+            [](const Marking& row) {
+                return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)};
+            },
+            color);
         m_context.drawLines(pieces, tableOf(UploadLines, lines), rows, m_look);
     }
 }
@@ -183,7 +185,10 @@ void PartPainting::drawPoints(const PointCollection& points, int changeId, const
         const InstanceBuffer* positions =
             m_context.uploads.instances(m_object, UploadPoints, changeId, [&] { return instancesOf(points); });
         const PartRows rows = rowsOf(
-            [](const Marking& row) { return Style{row.getPointColor(), std::max(row.getPointSize(), 1.0f)}; }, color);
+            [](const Marking& row) {
+                return Style{row.getPointColor(), std::max(row.getPointSize(), 1.0f)};
+            },
+            color);
         m_context.drawSymbols(positions, tableOf(UploadPoints, points), rows, RenderSymbol::circle, m_look);
     }
 }

@@ -13,8 +13,8 @@ namespace vxrenderer {
 
 class GlProgram;
 
-/// How the parts of an object look that have a row of the marking table: their faces, lines or points. It is the uniform
-/// block `PartRows`; which row a part has is in a `PartTable`.
+/// How the parts of an object look that have a row of the marking table: their faces, lines or points. It is the
+/// uniform block `PartRows`; which row a part has is in a `PartTable`.
 struct PartRows {
     static constexpr const char* c_block = "PartRows";
     static constexpr GLuint c_binding = 7;
