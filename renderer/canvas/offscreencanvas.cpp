@@ -199,7 +199,9 @@ void OffscreenCanvas::dropDisposedScene()
 
 Appearance OffscreenCanvas::appearance() const
 {
-    return Appearance::onScreen(*m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
+    Appearance look = Appearance::onScreen(*m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
+    look.markingMode = m_markingMode;
+    return look;
 }
 
 ICameraTransforms& OffscreenCanvas::camera()
@@ -219,6 +221,14 @@ Frame OffscreenCanvas::frameOf(ICameraTransforms& camera, const Appearance& appe
 {
     return {*m_settings, m_sceneView ? m_sceneView->getScene().get() : nullptr,
             m_sceneView ? &m_sceneView->getSettings() : nullptr, camera, appearance};
+}
+
+void OffscreenCanvas::setMarkingMode(MarkingSetups::MarkingMode mode)
+{
+    if (mode < 0 || mode >= MarkingSetups::c_numModes) {
+        throw std::out_of_range("There is no marking mode " + std::to_string(mode) + ".");
+    }
+    m_markingMode = mode;
 }
 
 void OffscreenCanvas::zoomExtents()
@@ -296,8 +306,9 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     dropDisposedScene();
     const EglContext::Current current(m_context);
     const Target target(width, height, std::max(1, settings.getMultisampleSetting()));
-    const Appearance look =
+    Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
+    look.markingMode = m_markingMode;
     // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;

@@ -2,6 +2,7 @@
 
 #include "base/export.h"
 #include "graphics3d/canvas/irenderercanvas.h"
+#include "graphics3d/parts/markingsetups.h"
 #include "renderer/canvas/sceneview.h"
 #include "renderer/frame/view.h"
 #include "renderer/gl/eglcontext.h"
@@ -70,6 +71,11 @@ public:
     /// that it shows already keeps its settings.
     void setScene(const boost::shared_ptr<vxgraphics3d::Scene>& scene);
 
+    /// The marking table of the process by which the parts of objects are drawn, at first that of mode 0.
+    vxgraphics3d::MarkingSetups::MarkingMode getMarkingMode() const { return m_markingMode; }
+    /// @throws std::out_of_range if there is no such mode
+    void setMarkingMode(vxgraphics3d::MarkingSetups::MarkingMode mode);
+
     /// Looks at the whole scene with the camera of the current mode: a 3D camera keeps its direction and turns about
     /// the middle of the scene from now on. Without a scene, or with one that is empty, nothing happens.
     void zoomExtents();
@@ -128,6 +134,7 @@ private:
     View m_view;
     /// The mode of the last picture, by which a mode that does not exist is reported once.
     int m_lastRenderMode = 0;
+    vxgraphics3d::MarkingSetups::MarkingMode m_markingMode = vxgraphics3d::MarkingSetups::MarkingMode0;
 };
 
 } // namespace vxrenderer
