@@ -7,18 +7,18 @@
 namespace vxgraphics3d {
 namespace {
 
-// For each vertex p, FrustrumPlane::isInside evaluates s = nx (px - qx) + ny (py - qy) + nz (pz - qz) in float, with the
-// normal n and the point q of the plane. Each of the three terms is rounded at most four times: by its subtraction, its
-// product and up to two sums. So the float result differs from s by less than 4.001 / 2^24 of
+// For each vertex p, FrustrumPlane::isInside evaluates s = nx (px - qx) + ny (py - qy) + nz (pz - qz) in float, with
+// the normal n and the point q of the plane. Each of the three terms is rounded at most four times: by its subtraction,
+// its product and up to two sums. So the float result differs from s by less than 4.001 / 2^24 of
 //     m = |nx (px - qx)| + |ny (py - qy)| + |nz (pz - qz)|,
 // plus at most 3 / 2^149 if products are too small for normal floats. The limits of the vertices give bounds of s and m
-// over all of them, which are computed in double with an error below 2^-49 m. So the sign of the float result is certain
-// for every vertex if the bound of s is further from 0 than the margin below, which is twice of what is needed.
+// over all of them, which are computed in double with an error below 2^-49 m. So the sign of the float result is
+// certain for every vertex if the bound of s is further from 0 than the margin below, which is twice of what is needed.
 constexpr double c_relativeMargin = 0x1p-21;
 constexpr double c_absoluteMargin = 0x1p-140;
 
-// The above holds as long as no float operation overflows: no coordinate is larger than this, so no difference is larger
-// than 2^126, and m is not larger than 2^126 either.
+// The above holds as long as no float operation overflows: no coordinate is larger than this, so no difference is
+// larger than 2^126, and m is not larger than 2^126 either.
 constexpr double c_largest = 0x1p125;
 
 bool isBounded(const Vector3f& v)
@@ -51,7 +51,8 @@ FrustrumTest::Location FrustrumTest::locate(const VertexExtent& extent) const
     const std::array<double, 3> min = toDouble(extent.getMin());
     const std::array<double, 3> max = toDouble(extent.getMax());
     bool areAllInside = true;
-    for (const Plane& plane : m_planes) {
+    for (std::size_t i = 0; i < m_planes.size(); ++i) {
+        const Plane& plane = m_planes[(m_firstPlane + i) % m_planes.size()];
         double lowest = 0.0;
         double highest = 0.0;
         double magnitude = 0.0;
@@ -67,6 +68,7 @@ FrustrumTest::Location FrustrumTest::locate(const VertexExtent& extent) const
             return Undecided;
         }
         if (highest < -margin) {
+            m_firstPlane = (m_firstPlane + i) % m_planes.size();
             return AllOutside;
         }
         areAllInside = areAllInside && lowest > margin;

@@ -4,11 +4,12 @@
 #include "graphics3d/picking/selectionfrustrum.h"
 
 #include <array>
+#include <cstddef>
 
 namespace vxgraphics3d {
 
 /// Tests parts against a frustum: whether all vertices are inside, with the same result as a loop over
-/// `SelectionFrustrum::isInside`, but in most cases from the limits of the vertices alone.
+/// `SelectionFrustrum::isInside`, but in most cases from the limits of the vertices alone. Made for one pick.
 class FrustrumTest {
 public:
     explicit FrustrumTest(const SelectionFrustrum& frustrum);
@@ -46,6 +47,8 @@ private:
     const SelectionFrustrum& m_frustrum;
     std::array<Plane, 4> m_planes;
     bool m_isBounded = true;
+    /// The plane that excluded a part last: neighbours are often outside the same plane.
+    mutable std::size_t m_firstPlane = 0;
 };
 
 } // namespace vxgraphics3d

@@ -61,7 +61,8 @@ void addParts(const Parts& parts, const Region& region, Add add)
 {
     for (int i = 0; i < parts.getNumParts(); ++i) {
         const auto& part = parts.getPart(i);
-        if (canAnswer(part) && region.holds(part)) {
+        // In this order, since in a large object most parts are outside and need no further look.
+        if (isReachable(part) && region.holds(part) && hasGeometry(part)) {
             add(i);
         }
     }

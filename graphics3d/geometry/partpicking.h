@@ -9,7 +9,8 @@ class SelectionFrustrum;
 struct CanvasPickSettings;
 
 // Picks among the parts of an object. Parts that are hidden or unpickable and parts without geometry do not answer. A
-// part is found if all its vertices are inside the frustum; if the object is known to be inside, no geometry is visited.
+// part is found if all its vertices are inside the frustum; if the object is known to be inside, no geometry is
+// visited.
 
 /// Adds the whole draw object or its points, lines or sheets to the result, as the settings ask for. The whole object
 /// is found if all its points that answer are inside, of which there must be one, or else all its lines, or else all

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "datacarrier/rendergeom3d.h"
 #include "datacarrier/renderdraw3d.h"
+#include "datacarrier/rendergeom3d.h"
 #include "graphics3d/foundation/boundingbox.h"
 #include "tests/support/randomnumbers.h"
 
@@ -90,8 +90,7 @@ private:
             sheet.m_vertices[static_cast<std::size_t>(i)] = {p.x, p.y, p.z, 0.0f, 0.0f, 1.0f};
         }
         sheet.m_numTriangles = sheet.m_numVertices - 2;
-        sheet.m_triangles =
-            std::make_unique<vxdatacarrier::Triangle[]>(static_cast<std::size_t>(sheet.m_numTriangles));
+        sheet.m_triangles = std::make_unique<vxdatacarrier::Triangle[]>(static_cast<std::size_t>(sheet.m_numTriangles));
         for (int i = 0; i < sheet.m_numTriangles; ++i) {
             sheet.m_triangles[static_cast<std::size_t>(i)] = {i, i + 1, i + 2};
         }

@@ -58,6 +58,12 @@ TEST(FrustrumTest, countsVerticesOnAPlaneAndWhatIsNotANumberAsOutside)
     EXPECT_FALSE(isInside(frustrum, {middle, {nan, 1.0f, 0.0f}}));
     EXPECT_FALSE(isInside(frustrum, {middle, {1.0f, infinity, 0.0f}}));
     EXPECT_FALSE(isInside(frustrum, {{1.0f, 1.0f, -infinity}, middle})) << "zero times infinity";
+    // The difference of the depths overflows, and zero times infinity is not above 0.
+    const auto deep = [](float x, float y, float z) { return Vector3f(0.01f * x, 0.01f * y, 1e38f * z); };
+    const SelectionFrustrum remote(deep(0, 2, -2), deep(0, 0, -2), deep(4, 0, -2), deep(4, 2, -2), deep(0, 2, -3),
+                                   deep(0, 0, -3), deep(4, 0, -3), deep(4, 2, -3));
+    EXPECT_TRUE(isInside(remote, {deep(1, 1, -2)}));
+    EXPECT_FALSE(isInside(remote, {deep(1, 1, 3)}));
     const SelectionFrustrum flat = prism(1.0f, 2.0f, 1.0f, 0.0f);
     EXPECT_FALSE(isInside(flat, {middle})) << "no width";
 }
@@ -69,7 +75,8 @@ TEST(FrustrumTest, agreesWithALoopOverTheVerticesToTheLastBit)
     int numOutside = 0;
     for (int i = 0; i < 40000; ++i) {
         // From subnormal products to overflows.
-        const float scale = std::ldexp(1.0f, random.integer(0, 3) > 0 ? random.integer(-8, 8) : random.integer(-75, 126));
+        const float scale =
+            std::ldexp(1.0f, random.integer(0, 3) > 0 ? random.integer(-8, 8) : random.integer(-75, 126));
         const Vector3f origin = random.vector(random.integer(0, 1) > 0 ? scale : 100.0f * scale);
         const auto at = [&](float x, float y, float z) { return origin + Vector3f(x, y, z) * scale; };
         const float far = random.uniform(1.0f, 3.0f);
@@ -79,8 +86,8 @@ TEST(FrustrumTest, agreesWithALoopOverTheVerticesToTheLastBit)
         const float z = random.uniform(-1.0f, 1.0f);
         const float half = ((1.0f - z) * far + (1.0f + z)) / 2.0f;
         const float nearby = std::ldexp(1.0f, random.integer(-26, 0));
-        const Vector3f centre = at(half * (random.integer(0, 1) > 0 ? 1.0f - nearby : 1.0f + nearby),
-                                   random.uniform(-0.5f, 0.5f), z);
+        const Vector3f centre =
+            at(half * (random.integer(0, 1) > 0 ? 1.0f - nearby : 1.0f + nearby), random.uniform(-0.5f, 0.5f), z);
         std::vector<Vector3f> points;
         for (int k = random.integer(1, 4); k > 0; --k) {
             points.push_back(centre + random.vector(nearby * scale * random.uniform(0.1f, 0.9f)));

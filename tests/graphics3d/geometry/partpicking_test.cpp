@@ -51,7 +51,8 @@ Picks pick(const SceneGraphNode& node, const SelectionFrustrum& frustrum, int ta
     return toVector(result);
 }
 
-// --- the same by brute force ------------------------------------------------------------------------------------------
+// --- the same by brute force
+// ------------------------------------------------------------------------------------------
 
 template <class Part>
 bool hasShape(const Part& part)
@@ -102,8 +103,8 @@ public:
     {
         bool inside = false;
         for (const SceneGraphGroup* group : leaf.path) {
-            const int enclosure = inside ? SelectionFrustrum::Inside
-                                         : frustrum.enclosesBoundingBox(group->getBoundingBox());
+            const int enclosure =
+                inside ? SelectionFrustrum::Inside : frustrum.enclosesBoundingBox(group->getBoundingBox());
             if (enclosure == SelectionFrustrum::Outside) {
                 return;
             }
@@ -201,8 +202,7 @@ private:
         case PickedObject::PickedFace:
         case PickedObject::PickedSolid:
             hasKind = (mask & 7) != 0;
-            isFound =
-                isFound || areAllInside(m_parts.getLines(), true) || areAllInside(m_parts.getSheets(), true);
+            isFound = isFound || areAllInside(m_parts.getLines(), true) || areAllInside(m_parts.getSheets(), true);
             break;
         default:
             return;
@@ -219,7 +219,8 @@ private:
     bool m_inside = false;
 };
 
-// --- random scenes ----------------------------------------------------------------------------------------------------
+// --- random scenes
+// ----------------------------------------------------------------------------------------------------
 
 class PhysicsLeaf : public SceneGraphObject {
 public:
@@ -392,7 +393,8 @@ TEST(PartPicking, findsInAnySceneWhatATestOfEveryPartFinds)
     }
 }
 
-// --- single rules -------------------------------------------------------------------------------------------------------
+// --- single rules
+// -------------------------------------------------------------------------------------------------------
 
 /// The prism over a rectangle as seen along the z axis.
 SelectionFrustrum prism(float x0, float y0, float x1, float y1)
@@ -451,7 +453,8 @@ TEST(PartPicking, reportsPartsOfAnyDrawObjectAsThoseOfASolid)
               (Picks{part(PartTypePoint, 1), part(PartTypePoint, 2)}));
     EXPECT_EQ(pick(*curve, frustrum, CanvasPickSettings::PickSheet), Picks());
     EXPECT_EQ(pick(*curve, frustrum, CanvasPickSettings::PickObject), Picks());
-    EXPECT_EQ(pick(*curve, prism(1.0f, -1.0f, 9.0f, 9.0f), CanvasPickSettings::PickLine), Picks()) << "an end is on a plane";
+    EXPECT_EQ(pick(*curve, prism(1.0f, -1.0f, 9.0f, 9.0f), CanvasPickSettings::PickLine), Picks())
+        << "an end is on a plane";
     const auto points = SceneGraphDrawObjectPoint::create(5);
     points->fillData(record);
     EXPECT_EQ(pick(*points, frustrum, CanvasPickSettings::PickLine), Picks());
