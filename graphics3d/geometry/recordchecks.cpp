@@ -48,8 +48,8 @@ void checkSheets(const Sheets& sheets, int numSheets)
         unsigned highest = 0;
         for (const Triangle& t : std::span(sheet.m_triangles.get(), static_cast<std::size_t>(sheet.m_numTriangles))) {
             // As unsigned numbers, negative indices are the highest.
-            highest = std::max({highest, static_cast<unsigned>(t.a), static_cast<unsigned>(t.b),
-                                static_cast<unsigned>(t.c)});
+            highest =
+                std::max({highest, static_cast<unsigned>(t.a), static_cast<unsigned>(t.b), static_cast<unsigned>(t.c)});
         }
         if (sheet.m_numTriangles > 0 && highest >= static_cast<unsigned>(sheet.m_numVertices)) {
             throw std::out_of_range("A triangle of " + numbered("sheet", i) + " refers to vertex " +
@@ -80,7 +80,8 @@ void checkRelation(const AdjacencyRecord& relation, int level, int numRows, int 
         throw std::invalid_argument(name + " has " + std::to_string(relation.m_rows ? relation.m_numRows : 0) +
                                     " rows for " + std::to_string(numRows) + " parts.");
     }
-    checkArray(relation.m_values, relation.m_numValues, std::string("adjacent parts of level ") + c_names[adjacentLevel]);
+    checkArray(relation.m_values, relation.m_numValues,
+               std::string("adjacent parts of level ") + c_names[adjacentLevel]);
     std::int64_t total = 0;
     for (int row = 0; row < numRows; ++row) {
         const auto [start, count] = relation.m_rows[static_cast<std::size_t>(row)];
@@ -138,8 +139,8 @@ void checkRecord(const Geometry2D& record, ObjectPartType highest)
         checkSheets(record.m_sheets, record.m_numSheets);
     }
     if (record.m_snapY.size() < record.m_snapX.size()) {
-        throw std::invalid_argument("The record has " + std::to_string(record.m_snapX.size()) + " snap coordinates x, but " +
-                                    std::to_string(record.m_snapY.size()) + " y.");
+        throw std::invalid_argument("The record has " + std::to_string(record.m_snapX.size()) +
+                                    " snap coordinates x, but " + std::to_string(record.m_snapY.size()) + " y.");
     }
     checkRelations(record, highest);
 }
