@@ -112,9 +112,8 @@ void ObjectParts::fillRelations(const Record& record)
                 m_adjacents[static_cast<std::size_t>(level)][static_cast<std::size_t>(adjacentLevel)];
             adjacents.allocate(numRows, relation->m_numRows == 0 ? 0 : relation->m_numValues);
             for (int row = 0; row < numRows; ++row) {
-                const auto [start, count] = relation->m_numRows == 0
-                                                ? AdjacencyRecord::Row()
-                                                : relation->m_rows[static_cast<std::size_t>(row)];
+                const auto [start, count] =
+                    relation->m_numRows == 0 ? AdjacencyRecord::Row() : relation->m_rows[static_cast<std::size_t>(row)];
                 const bool isEmpty = start < 0;
                 adjacents.setConnection(row, isEmpty ? nullptr : relation->m_values.get() + start, isEmpty ? 0 : count);
             }

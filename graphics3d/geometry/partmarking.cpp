@@ -148,8 +148,8 @@ void PartMarking::cascade(int level, int index, Action action, bool on)
     if (level == PartPoint) {
         return;
     }
-    const unsigned flags = level == PartLine ? m_parts.getLines().getMarkFlags(index)
-                                             : m_parts.getSheets().getMarkFlags(index);
+    const unsigned flags =
+        level == PartLine ? m_parts.getLines().getMarkFlags(index) : m_parts.getSheets().getMarkFlags(index);
     // Without the mark that has just changed, in both directions.
     const unsigned changed = action == SceneGraphObject::MarkingHidden ? MarkHiddenAdjacent : 0u;
     const int lower = level - 1;

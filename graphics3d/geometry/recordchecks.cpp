@@ -98,7 +98,8 @@ void checkRelation(const AdjacencyRecord& relation, int level, int numRows, int 
         throw std::invalid_argument(name + " has " + std::to_string(relation.m_rows ? relation.m_numRows : 0) +
                                     " rows for " + std::to_string(numRows) + " parts.");
     }
-    checkArray(relation.m_values, relation.m_numValues, std::string("adjacent parts of level ") + c_names[adjacentLevel]);
+    checkArray(relation.m_values, relation.m_numValues,
+               std::string("adjacent parts of level ") + c_names[adjacentLevel]);
     std::int64_t total = 0;
     for (int row = 0; row < numRows; ++row) {
         const auto [start, count] = relation.m_rows[static_cast<std::size_t>(row)];

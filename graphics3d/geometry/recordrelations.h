@@ -9,12 +9,9 @@ namespace vxgraphics3d {
 
 // The relation between two levels of parts in a record of geometry, or null if records of that dimension have none.
 
-const vxdatacarrier::AdjacencyRecord* relationOf(const vxdatacarrier::Geometry1D& record, int level,
-                                                 int adjacentLevel);
-const vxdatacarrier::AdjacencyRecord* relationOf(const vxdatacarrier::Geometry2D& record, int level,
-                                                 int adjacentLevel);
-const vxdatacarrier::AdjacencyRecord* relationOf(const vxdatacarrier::Geometry3D& record, int level,
-                                                 int adjacentLevel);
+const vxdatacarrier::AdjacencyRecord* relationOf(const vxdatacarrier::Geometry1D& record, int level, int adjacentLevel);
+const vxdatacarrier::AdjacencyRecord* relationOf(const vxdatacarrier::Geometry2D& record, int level, int adjacentLevel);
+const vxdatacarrier::AdjacencyRecord* relationOf(const vxdatacarrier::Geometry3D& record, int level, int adjacentLevel);
 
 // The number of parts of a level in a record.
 
