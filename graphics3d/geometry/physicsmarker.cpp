@@ -22,8 +22,9 @@ Vector3f withoutNormal(const Vector3f& v, const Vector3f& normal)
 
 Directions frameAround(const Vector3f& n, bool normalLast, int dimension, int axis)
 {
-    Vector3f e = axis == 0 ? Vector3f(1.0f, 0.0f, 0.0f)
-                           : axis == 1 ? Vector3f(0.0f, 1.0f, 0.0f) : Vector3f(0.0f, 0.0f, 1.0f);
+    Vector3f e = axis == 0   ? Vector3f(1.0f, 0.0f, 0.0f)
+                 : axis == 1 ? Vector3f(0.0f, 1.0f, 0.0f)
+                             : Vector3f(0.0f, 0.0f, 1.0f);
     if (static_cast<double>(withoutNormal(e, n).length()) < c_parallel) {
         e = {e.z, e.x, e.y};
     }
@@ -47,14 +48,15 @@ PhysicsMarker::PhysicsMarker(const SelectablePart& part, const Vector3f& positio
 
 PhysicsMarker::PhysicsMarker(const SelectablePart& part, const Vector3f& position, boost::shared_ptr<Image> image,
                              const std::vector<Vector3f>& directions)
-    : m_position(position), m_part(&part), m_image(std::move(image)),
+    : m_position(position),
+      m_part(&part),
+      m_image(std::move(image)),
       m_directions(boost::make_shared<Directions>(directions))
 {}
 
 PhysicsMarker::PhysicsMarker(const SelectablePart& part, const Vector3f& position, boost::shared_ptr<Image> image,
                              Vector3f normal, bool flip, bool normalLast, int dimension, int axis)
-    : PhysicsMarker(part, position, std::move(image),
-                    frameAround(flip ? -normal : normal, normalLast, dimension, axis))
+    : PhysicsMarker(part, position, std::move(image), frameAround(flip ? -normal : normal, normalLast, dimension, axis))
 {}
 
 } // namespace vxgraphics3d

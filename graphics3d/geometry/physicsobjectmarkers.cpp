@@ -116,8 +116,8 @@ void SceneGraphPhysicsObject::setPhysicsConnector(int level, const std::vector<i
     float total = 0.0f;
     for (const int part : parts) {
         const auto center = findCenter(level, part);
-        const float weight = level == PartLine ? getLines().getPart(part).getLength()
-                                               : getSheets().getPart(part).getArea();
+        const float weight =
+            level == PartLine ? getLines().getPart(part).getLength() : getSheets().getPart(part).getArea();
         if (center && weight > 0.0f) {
             sum += center->position * weight;
             total += weight;

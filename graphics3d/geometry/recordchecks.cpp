@@ -187,8 +187,8 @@ private:
 void checkSnapCoordinates(const Geometry2D& record)
 {
     if (record.m_snapY.size() < record.m_snapX.size()) {
-        throw std::invalid_argument("The record has " + std::to_string(record.m_snapX.size()) + " snap coordinates x, but " +
-                                    std::to_string(record.m_snapY.size()) + " y.");
+        throw std::invalid_argument("The record has " + std::to_string(record.m_snapX.size()) +
+                                    " snap coordinates x, but " + std::to_string(record.m_snapY.size()) + " y.");
     }
 }
 

@@ -36,7 +36,8 @@ int widened(int include, MarkFlags mark, MarkFlags adjacentMark)
 } // namespace
 
 SceneGraphPhysicsObject::SceneGraphPhysicsObject(int id)
-    : SceneGraphObject(ObjectPhysics), m_id(id),
+    : SceneGraphObject(ObjectPhysics),
+      m_id(id),
       m_parts(PartSolid, std::make_unique<MeshableLineCollection>(), std::make_unique<MeshableSheetCollection>())
 {}
 
@@ -47,7 +48,8 @@ boost::shared_ptr<SceneGraphPhysicsObject> SceneGraphPhysicsObject::create(int i
 
 bool SceneGraphPhysicsObject::isValid() const
 {
-    return m_parts.getNumParts(PartSheet) > 0 || m_parts.getNumParts(PartLine) > 0 || m_parts.getNumParts(PartPoint) > 0;
+    return m_parts.getNumParts(PartSheet) > 0 || m_parts.getNumParts(PartLine) > 0 ||
+           m_parts.getNumParts(PartPoint) > 0;
 }
 
 const MeshableSheetCollection& SceneGraphPhysicsObject::getSheets() const

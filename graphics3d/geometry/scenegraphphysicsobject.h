@@ -68,8 +68,8 @@ public:
     /// Gives parts their meshes; an empty mesh removes the one that the part has. Meshes of an unknown type are passed
     /// over. The change number of the node does not change, only those of the parts.
     /// @throws std::bad_cast if a mesh is not of the class that its type requires
-    /// @throws std::invalid_argument or std::out_of_range if a mesh is not consistent, or for a part that does not exist
-    /// If it throws one of these, nothing has changed.
+    /// @throws std::invalid_argument or std::out_of_range if a mesh is not consistent, or for a part that does not
+    /// exist If it throws one of these, nothing has changed.
     void addMeshCollection(const vxdatacarrier::RenderMeshCollection& meshes);
     void deleteAllMeshes();
 
@@ -123,8 +123,8 @@ public:
     void setPhysicsMarkerBoundSys(int level, int index, const std::string& icon, bool flip, bool normalLast,
                                   int dimension, int axis);
 
-    // Each adds a connector of lines (level 1) or sheets (level 2); other levels do nothing. Throws std::out_of_range if
-    // one of the parts does not exist. Parts without geometry are passed over.
+    // Each adds a connector of lines (level 1) or sheets (level 2); other levels do nothing. Throws std::out_of_range
+    // if one of the parts does not exist. Parts without geometry are passed over.
 
     void setPhysicsConnector(int level, const std::vector<int>& parts, const std::string& icon,
                              const Vector3f& position);
