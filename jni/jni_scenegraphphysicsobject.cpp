@@ -7,11 +7,11 @@
 #include "graphics3d/scenegraph/scenegraphparent.h"
 #include "jni/support/enumconversions.h"
 #include "jni/support/native.h"
+#include "jni/support/vectors.h"
 
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
-#include <cstddef>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -20,17 +20,6 @@
 #include "com_vexane_graphics3d_SceneGraphPhysicsObject.h"
 
 using namespace vxgraphics3d;
-
-namespace {
-
-/// Entries 0 and 1 are x and y; the last of all further ones is z. Missing ones are 0.
-Vector3f toVector(const std::vector<double>& entries)
-{
-    const std::size_t count = entries.size();
-    return {count > 0 ? entries[0] : 0.0, count > 1 ? entries[1] : 0.0, count > 2 ? entries.back() : 0.0};
-}
-
-} // namespace
 
 VX_NATIVE(void, SceneGraphPhysicsObject, createNative)(JNIEnv* env, jclass, jobject self, jint id)
 {
@@ -41,9 +30,9 @@ VX_NATIVE(void, SceneGraphPhysicsObject, connectNative)
 (JNIEnv* env, jclass, jobject self, jobject owner, jint childId)
 {
     native(env, "connectNative", [&] {
-        attach(env, self,
-               castTo<SceneGraphPhysicsObject>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId),
-                                               "childId"));
+        attach(
+            env, self,
+            castTo<SceneGraphPhysicsObject>(peer<SceneGraphParent>(env, owner, "owner").childPtr(childId), "childId"));
     });
 }
 
@@ -97,8 +86,7 @@ VX_NATIVE(void, SceneGraphPhysicsObject, setMaterial)
 VX_NATIVE(jboolean, SceneGraphPhysicsObject, hasImage)(JNIEnv* env, jclass, jobject self, jstring name)
 {
     return native(env, "hasImage", [&] {
-        return toJava(
-            peer<SceneGraphPhysicsObject>(env, self).getImages().contains(fromJava<std::string>(env, name)));
+        return toJava(peer<SceneGraphPhysicsObject>(env, self).getImages().contains(fromJava<std::string>(env, name)));
     });
 }
 
@@ -137,7 +125,7 @@ VX_NATIVE(void, SceneGraphPhysicsObject, setPhysicsMarkerNormal)
 {
     native(env, "setPhysicsMarkerNormal", [&] {
         peer<SceneGraphPhysicsObject>(env, self).setPhysicsMarkerNormal(level, index, fromJava<std::string>(env, icon),
-                                                                        trueFalse(flip));
+                                                                        flip);
     });
 }
 
@@ -148,7 +136,7 @@ VX_NATIVE(void, SceneGraphPhysicsObject, setPhysicsMarkerSys)
         auto& object = peer<SceneGraphPhysicsObject>(env, self);
         std::vector<Vector3f> directions;
         for (const std::vector<double>& row : fromJava<std::vector<std::vector<double>>>(env, sys)) {
-            directions.push_back(toVector(row).normalize());
+            directions.push_back(vectorOf(row).normalize());
         }
         object.setPhysicsMarkerSys(level, index, fromJava<std::string>(env, icon), directions);
     });
@@ -160,7 +148,7 @@ VX_NATIVE(void, SceneGraphPhysicsObject, setPhysicsMarkerBoundSys)
 {
     native(env, "setPhysicsMarkerBoundSys", [&] {
         peer<SceneGraphPhysicsObject>(env, self).setPhysicsMarkerBoundSys(
-            level, index, fromJava<std::string>(env, icon), trueFalse(flip), trueFalse(normalLast), dimension, axis);
+            level, index, fromJava<std::string>(env, icon), flip, normalLast, dimension, axis);
     });
 }
 
@@ -169,7 +157,7 @@ VX_NATIVE(void, SceneGraphPhysicsObject, setPhysicsConnectorPos)
 {
     native(env, "setPhysicsConnectorPos", [&] {
         auto& object = peer<SceneGraphPhysicsObject>(env, self);
-        const auto point = toVector(fromJava<std::vector<double>>(env, position));
+        const auto point = vectorOf(fromJava<std::vector<double>>(env, position));
         object.setPhysicsConnector(level, fromJava<std::vector<int>>(env, parts), fromJava<std::string>(env, icon),
                                    point);
     });
@@ -191,66 +179,57 @@ VX_NATIVE(void, SceneGraphPhysicsObject, clearPhysicsMarkers)(JNIEnv* env, jclas
 
 VX_NATIVE(void, SceneGraphPhysicsObject, setShowPhysicsMarkers)(JNIEnv* env, jclass, jobject self, jboolean show)
 {
-    native(env, "setShowPhysicsMarkers",
-           [&] { peer<SceneGraphPhysicsObject>(env, self).setShowPhysicsMarkers(trueFalse(show)); });
+    native(env, "setShowPhysicsMarkers", [&] { peer<SceneGraphPhysicsObject>(env, self).setShowPhysicsMarkers(show); });
 }
 
 // --- marks -----------------------------------------------------------------------------------------------------------
 
 VX_NATIVE(void, SceneGraphPhysicsObject, markSubdomain)(JNIEnv* env, jclass, jobject self, jint index, jint marking)
 {
-    native(env, "markSubdomain", [&] {
-        peer<SceneGraphPhysicsObject>(env, self).markSubdomain(index, javaMarkingTypeToCpp(marking));
-    });
+    native(env, "markSubdomain",
+           [&] { peer<SceneGraphPhysicsObject>(env, self).markSubdomain(index, javaMarkingTypeToCpp(marking)); });
 }
 
 VX_NATIVE(void, SceneGraphPhysicsObject, unmarkSubdomain)(JNIEnv* env, jclass, jobject self, jint index, jint marking)
 {
-    native(env, "unmarkSubdomain", [&] {
-        peer<SceneGraphPhysicsObject>(env, self).unmarkSubdomain(index, javaMarkingTypeToCpp(marking));
-    });
+    native(env, "unmarkSubdomain",
+           [&] { peer<SceneGraphPhysicsObject>(env, self).unmarkSubdomain(index, javaMarkingTypeToCpp(marking)); });
 }
 
 VX_NATIVE(void, SceneGraphPhysicsObject, markBoundary)(JNIEnv* env, jclass, jobject self, jint index, jint marking)
 {
-    native(env, "markBoundary", [&] {
-        peer<SceneGraphPhysicsObject>(env, self).markBoundary(index, javaMarkingTypeToCpp(marking));
-    });
+    native(env, "markBoundary",
+           [&] { peer<SceneGraphPhysicsObject>(env, self).markBoundary(index, javaMarkingTypeToCpp(marking)); });
 }
 
 VX_NATIVE(void, SceneGraphPhysicsObject, unmarkBoundary)(JNIEnv* env, jclass, jobject self, jint index, jint marking)
 {
-    native(env, "unmarkBoundary", [&] {
-        peer<SceneGraphPhysicsObject>(env, self).unmarkBoundary(index, javaMarkingTypeToCpp(marking));
-    });
+    native(env, "unmarkBoundary",
+           [&] { peer<SceneGraphPhysicsObject>(env, self).unmarkBoundary(index, javaMarkingTypeToCpp(marking)); });
 }
 
 VX_NATIVE(void, SceneGraphPhysicsObject, markEdge)(JNIEnv* env, jclass, jobject self, jint index, jint marking)
 {
-    native(env, "markEdge", [&] {
-        peer<SceneGraphPhysicsObject>(env, self).markEdge(index, javaMarkingTypeToCpp(marking));
-    });
+    native(env, "markEdge",
+           [&] { peer<SceneGraphPhysicsObject>(env, self).markEdge(index, javaMarkingTypeToCpp(marking)); });
 }
 
 VX_NATIVE(void, SceneGraphPhysicsObject, unmarkEdge)(JNIEnv* env, jclass, jobject self, jint index, jint marking)
 {
-    native(env, "unmarkEdge", [&] {
-        peer<SceneGraphPhysicsObject>(env, self).unmarkEdge(index, javaMarkingTypeToCpp(marking));
-    });
+    native(env, "unmarkEdge",
+           [&] { peer<SceneGraphPhysicsObject>(env, self).unmarkEdge(index, javaMarkingTypeToCpp(marking)); });
 }
 
 VX_NATIVE(void, SceneGraphPhysicsObject, markPoint)(JNIEnv* env, jclass, jobject self, jint index, jint marking)
 {
-    native(env, "markPoint", [&] {
-        peer<SceneGraphPhysicsObject>(env, self).markPoint(index, javaMarkingTypeToCpp(marking));
-    });
+    native(env, "markPoint",
+           [&] { peer<SceneGraphPhysicsObject>(env, self).markPoint(index, javaMarkingTypeToCpp(marking)); });
 }
 
 VX_NATIVE(void, SceneGraphPhysicsObject, unmarkPoint)(JNIEnv* env, jclass, jobject self, jint index, jint marking)
 {
-    native(env, "unmarkPoint", [&] {
-        peer<SceneGraphPhysicsObject>(env, self).unmarkPoint(index, javaMarkingTypeToCpp(marking));
-    });
+    native(env, "unmarkPoint",
+           [&] { peer<SceneGraphPhysicsObject>(env, self).unmarkPoint(index, javaMarkingTypeToCpp(marking)); });
 }
 
 VX_NATIVE(void, SceneGraphPhysicsObject, unmarkAll)(JNIEnv* env, jclass, jobject self, jint partType, jint marking)
