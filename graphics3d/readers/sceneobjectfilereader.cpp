@@ -102,9 +102,9 @@ bool SceneObjectFileReader::readSolidFile(RenderDraw3D& record, const Vector3f& 
 bool SceneObjectFileReader::readCounts()
 {
     std::size_t section = coordinates;
-    while (const char* row = m_file.nextRow()) {
-        if (row[0] == '%' && (!findTag(m_tags, section, row, m_file.rowNumber(), m_file.name()) ||
-                              !readCount(row, static_cast<ReadState>(section)))) {
+    while (const char* row = m_file.nextTagRow()) {
+        if (!findTag(m_tags, section, row, m_file.rowNumber(), m_file.name()) ||
+            !readCount(row, static_cast<ReadState>(section))) {
             return false;
         }
     }

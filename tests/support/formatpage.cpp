@@ -52,7 +52,8 @@ std::vector<std::string> FormatPage::shownSamples() const
 }
 
 void expectFaults(const FormatPage& page, const std::function<bool(const std::string&, ReaderError&)>& read,
-                  const std::function<bool(std::string_view)>& toError, const std::function<bool(std::string_view)>& toLog)
+                  const std::function<bool(std::string_view)>& toError,
+                  const std::function<bool(std::string_view)>& toLog)
 {
     for (const auto& [message, row, sample] : page.faults()) {
         const CapturedLog log(ErrorLog::Level::error);

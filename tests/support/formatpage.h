@@ -37,6 +37,7 @@ private:
 /// @param read reads a sample, which must fail
 /// @param toError,toLog whether a message goes to standard error, and to the log
 void expectFaults(const FormatPage& page, const std::function<bool(const std::string&, ReaderError&)>& read,
-                  const std::function<bool(std::string_view)>& toError, const std::function<bool(std::string_view)>& toLog);
+                  const std::function<bool(std::string_view)>& toError,
+                  const std::function<bool(std::string_view)>& toLog);
 
 } // namespace vxgraphics3d

@@ -9,9 +9,7 @@
 #include <cstdio>
 #include <cstring>
 #include <limits>
-#include <list>
 #include <locale.h>
-#include <map>
 #include <memory>
 #include <stdlib.h>
 #include <string_view>
@@ -49,6 +47,8 @@ public:
         relation(4).allocate(m_counts[2], m_counts[4]);
         relation(5).allocate(m_counts[1], m_counts[5]);
         relation(6).allocate(m_counts[1], m_counts[6]);
+        m_normals.resize(size(m_counts[0]));
+        m_vertexMap.resize(size(m_counts[0]), -1);
         std::rewind(file);
         m_row = 0;
         int position = 0;
@@ -215,8 +215,9 @@ private:
         const Vector3f c = coordinate(values[2]);
         const Vector3f normal = (c - b).cross(a - b).normalized();
         for (int i = 0; i < 3; ++i) {
-            m_normals[values[i]] += normal;
-            if (m_vertexMap.emplace(values[i], static_cast<int>(m_faceVertices.size())).second) {
+            m_normals[size(values[i])] += normal;
+            if (m_vertexMap[size(values[i])] < 0) {
+                m_vertexMap[size(values[i])] = static_cast<int>(m_faceVertices.size());
                 m_faceVertices.push_back(values[i]);
             }
         }
@@ -285,18 +286,20 @@ private:
         int next = 0;
         for (const int index : m_faceVertices) {
             const Vector3f v = coordinate(index);
-            const Vector3f& n = m_normals[index].normalize();
+            const Vector3f& n = m_normals[size(index)].normalize();
             sheet.m_vertices[size(next++)] = {v.x, v.y, v.z, n.x, n.y, n.z};
         }
         sheet.m_numTriangles = static_cast<int>(m_triangles.size());
         sheet.m_triangles = std::make_unique<Triangle[]>(m_triangles.size());
         next = 0;
         for (const Triple& corners : m_triangles) {
-            sheet.m_triangles[size(next++)] = {m_vertexMap[corners[0]], m_vertexMap[corners[1]],
-                                               m_vertexMap[corners[2]]};
+            sheet.m_triangles[size(next++)] = {m_vertexMap[size(corners[0])], m_vertexMap[size(corners[1])],
+                                               m_vertexMap[size(corners[2])]};
         }
         sheet.m_isValid = true;
-        m_vertexMap.clear();
+        for (const int index : m_faceVertices) {
+            m_vertexMap[size(index)] = -1;
+        }
         m_faceVertices.clear();
         m_triangles.clear();
     }
@@ -338,11 +341,11 @@ private:
     int m_state = c_none;
     int m_group = -1;
     std::vector<Vector3f> m_coordinates;
-    std::map<int, Vector3f> m_normals;
-    std::map<int, int> m_vertexMap;
-    std::list<int> m_faceVertices;
-    std::list<Triple> m_triangles;
-    std::list<std::array<int, 2>> m_segments;
+    std::vector<Vector3f> m_normals;
+    std::vector<int> m_vertexMap;
+    std::vector<int> m_faceVertices;
+    std::vector<Triple> m_triangles;
+    std::vector<std::array<int, 2>> m_segments;
     std::vector<int> m_values;
     int m_nextPoint = 0;
     int m_nextSheet = 0;

@@ -66,17 +66,17 @@ TEST(SceneObjectFileReader, givesEachFaceItsVerticesAndStartsItsNormalsFromThose
 {
     const RenderDraw3D solid = solidOf(c_coordinates + "% Faces [2]\n1 2 3 9\n1 3 4 9\n2 3 5 4\n");
     ASSERT_EQ(solid.m_numSheets, 2);
-    EXPECT_EQ(verticesOf(solid.m_sheets[0]), (std::vector<std::vector<float>>{{-3, 0, 0, 0, 0, 1},
-                                                                              {-2, 0, 0, 0, 0, 1},
-                                                                              {-2, 1, 0, 0, 0, 1},
-                                                                              {-3, 1, 0, 0, 0, 1}}));
+    EXPECT_EQ(verticesOf(solid.m_sheets[0]),
+              (std::vector<std::vector<float>>{
+                  {-3, 0, 0, 0, 0, 1}, {-2, 0, 0, 0, 0, 1}, {-2, 1, 0, 0, 0, 1}, {-3, 1, 0, 0, 0, 1}}));
     ASSERT_EQ(solid.m_sheets[0].m_numTriangles, 2);
     EXPECT_EQ(solid.m_sheets[0].m_triangles[1].b, 2);
     EXPECT_EQ(solid.m_sheets[0].m_triangles[1].c, 3);
     EXPECT_EQ(solid.m_sheets[0].m_upDomain, -1);
     const float half = 1.0f / std::sqrt(2.0f);
-    EXPECT_EQ(verticesOf(solid.m_sheets[1]),
-              (std::vector<std::vector<float>>{{-2, 0, 0, half, 0, half}, {-2, 1, 0, half, 0, half}, {-2, 0, 1, 1, 0, 0}}));
+    EXPECT_EQ(
+        verticesOf(solid.m_sheets[1]),
+        (std::vector<std::vector<float>>{{-2, 0, 0, half, 0, half}, {-2, 1, 0, half, 0, half}, {-2, 0, 1, 1, 0, 0}}));
     EXPECT_EQ(solid.m_sheets[1].m_triangles[0].c, 2);
     // The parts are left without boxes, the whole has one, here with negative maxima.
     EXPECT_EQ(solid.m_sheets[0].m_box.m_xMin, 0);
@@ -174,9 +174,8 @@ TEST(SceneObjectFileReader, leavesTheRecordUnchangedIfMemoryRunsOut)
     record.m_name = "a name that is too long to be stored in the string itself";
     const TemporaryFile file(c_coordinates + "% Faces [1]\n1 2 3 1\n% Edges [1]\n1 2 1\n2 3 1\n% Vertices [1]\n1\n" +
                              "% Adj 1 0 [1]\n1 1\n% Adj 2 1 [1]\n1 1\n");
-    EXPECT_GT(failEachAllocation(
-                  [&] { SceneObjectFileReader::readDrawObjectSolid(record, file.path(), Vector3f()); },
-                  [&] { EXPECT_EQ(record.m_numSheets, 0); }),
+    EXPECT_GT(failEachAllocation([&] { SceneObjectFileReader::readDrawObjectSolid(record, file.path(), Vector3f()); },
+                                 [&] { EXPECT_EQ(record.m_numSheets, 0); }),
               10);
     EXPECT_EQ(record.m_numSheets, 1);
     EXPECT_EQ(record.m_name.substr(0, 6), "a name");
