@@ -2,6 +2,7 @@
 #include "graphics3d/readers/sceneobjectfilereader.h"
 #include "tests/support/plotfiles.h"
 #include "tests/support/referencesolidreader.h"
+#include "tests/support/solidcomparison.h"
 #include "tests/support/temporaryfile.h"
 
 #include <benchmark/benchmark.h>

@@ -6,6 +6,7 @@
 #include "graphics3d/readers/sceneobjectfilereader.h"
 #include "tests/support/formatpage.h"
 #include "tests/support/referencesolidreader.h"
+#include "tests/support/solidcomparison.h"
 
 #include <gtest/gtest.h>
 
