@@ -1,6 +1,6 @@
 // Arbitrary bytes as the serial form of a record, after one byte for its class: the record must refuse them with an
-// exception, or take values that it writes and reads again unchanged. Memory that is allocated for a count that the bytes
-// cannot have would exceed the limit that './run fuzz' sets.
+// exception, or take values that it writes and reads again unchanged. Memory that is allocated for a count that the
+// bytes cannot have would exceed the limit that './run fuzz' sets.
 
 #include "base/exception.h"
 #include "base/serialstream.h"

@@ -112,7 +112,8 @@ std::string solidText(const RenderDraw3D& record)
     for (int i = 0; i < record.m_numSheets; ++i) {
         const vxdatacarrier::Sheet3D& sheet = record.m_sheets[static_cast<std::size_t>(i)];
         std::vector<std::string> vertices;
-        std::for_each_n(sheet.m_vertices.get(), sheet.m_numVertices, [&](const auto& at) { vertices.push_back(add(at)); });
+        std::for_each_n(sheet.m_vertices.get(), sheet.m_numVertices,
+                        [&](const auto& at) { vertices.push_back(add(at)); });
         std::for_each_n(sheet.m_triangles.get(), sheet.m_numTriangles, [&](const auto& corners) {
             faces.push_back(vertices[static_cast<std::size_t>(corners.a)] +
                             vertices[static_cast<std::size_t>(corners.b)] +
@@ -123,7 +124,8 @@ std::string solidText(const RenderDraw3D& record)
     for (int i = 0; i < record.m_numCurves; ++i) {
         const vxdatacarrier::Curve3D& curve = record.m_curves[static_cast<std::size_t>(i)];
         std::vector<std::string> vertices;
-        std::for_each_n(curve.m_vertices.get(), curve.m_numVertices, [&](const auto& at) { vertices.push_back(add(at)); });
+        std::for_each_n(curve.m_vertices.get(), curve.m_numVertices,
+                        [&](const auto& at) { vertices.push_back(add(at)); });
         for (std::size_t end = 1; end < vertices.size(); ++end) {
             edges.push_back(vertices[end - 1] + vertices[end] + std::to_string(i + 1));
         }
