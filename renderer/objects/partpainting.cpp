@@ -38,7 +38,8 @@ std::vector<MeshPart> meshPartsOf(const SheetCollection& sheets)
     return parts;
 }
 
-/// The segments of all lines, with the numbers of the lines as texture coordinates.
+} // namespace
+
 std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
 {
     std::vector<LineMesh::Piece> pieces;
@@ -62,8 +63,6 @@ std::vector<Instance> instancesOf(const PointCollection& points)
     }
     return instances;
 }
-
-} // namespace
 
 MarkingType rowOfMesh(unsigned flags)
 {

@@ -58,6 +58,8 @@ private:
     /// @return the labels that are to be drawn over the scene
     std::vector<SceneLabel> drawData(const Frame& frame, const FrameLayout& layout);
     void drawItem(const SceneItem& item, const PaintContext& context) const;
+    /// Whether an item is blended in every picture.
+    bool isTranslucent(const SceneItem& item) const;
     void drawItems(const std::vector<SceneItem>& items, unsigned renderMask, const PaintContext& context) const;
     void drawLightMarkers(const Frame& frame);
     void drawOverlays(const Frame& frame, const FrameLayout& layout);
