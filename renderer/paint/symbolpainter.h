@@ -1,8 +1,8 @@
 #pragma once
 
 #include "graphics3d/foundation/matrixf.h"
+#include "graphics3d/foundation/rendersymbol.h"
 #include "graphics3d/foundation/vector3f.h"
-#include "graphics3d/plots/graph/rendersymbol.h"
 #include "renderer/frame/view.h"
 #include "renderer/gl/globject.h"
 #include "renderer/gl/glprogram.h"
@@ -10,6 +10,7 @@
 #include "renderer/upload/uniformblock.h"
 
 #include <array>
+#include <span>
 
 namespace vxrenderer {
 
@@ -42,6 +43,8 @@ public:
     void draw(const vxgraphics3d::Vector3f& position, const Frame& frame) const;
     /// Draws the points of an object, one instance for each. Size, colour and distance to faces are those of the rows.
     void draw(const InstanceBuffer& instances, const PartLook& parts, const Frame& frame) const;
+    /// Draws a symbol at each position; they are copied for this call.
+    void draw(std::span<const vxgraphics3d::Vector3f> positions, const Frame& frame) const;
 
 private:
     struct SymbolBlock;
@@ -54,6 +57,7 @@ private:
     UniformBlock<SymbolBlock> m_block;
     UniformBlock<PartRows> m_rows;
     GlVertexArray m_array;
+    GlBuffer m_positions;
 };
 
 } // namespace vxrenderer
