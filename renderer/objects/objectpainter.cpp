@@ -1,6 +1,7 @@
 #include "renderer/objects/objectpainter.h"
 
 #include "renderer/objects/drawobjectpainter.h"
+#include "renderer/objects/physicspainter.h"
 
 namespace vxrenderer {
 
@@ -8,6 +9,7 @@ ObjectPainters makeObjectPainters()
 {
     ObjectPainters painters;
     painters.push_back(std::make_unique<DrawObjectPainter>());
+    painters.push_back(std::make_unique<PhysicsPainter>());
     return painters;
 }
 
