@@ -6,8 +6,10 @@
 #include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/errorlog.h"
+#include "graphics3d/overlays/overlay.h"
 #include "graphics3d/picking/canvaspicksettings.h"
 #include "graphics3d/scene/scene.h"
+#include "graphics3d/scenegraph/scenegraphnode.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/settings/contextdata.h"
 #include "renderer/canvas/glrendererinfo.h"
@@ -199,7 +201,9 @@ void OffscreenCanvas::dropDisposedScene()
 
 Appearance OffscreenCanvas::appearance() const
 {
-    return Appearance::onScreen(*m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
+    Appearance look = Appearance::onScreen(*m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
+    look.markingMode = m_markingMode;
+    return look;
 }
 
 ICameraTransforms& OffscreenCanvas::camera()
@@ -217,8 +221,28 @@ ICameraTransforms& OffscreenCanvas::camera()
 
 Frame OffscreenCanvas::frameOf(ICameraTransforms& camera, const Appearance& appearance) const
 {
-    return {*m_settings, m_sceneView ? m_sceneView->getScene().get() : nullptr,
-            m_sceneView ? &m_sceneView->getSettings() : nullptr, camera, appearance};
+    return {*m_settings,
+            m_sceneView ? m_sceneView->getScene().get() : nullptr,
+            m_sceneView ? &m_sceneView->getSettings() : nullptr,
+            camera,
+            appearance,
+            m_overlay.get(),
+            m_screenOverlay.get(),
+            framedBox()};
+}
+
+const BoundingBox* OffscreenCanvas::framedBox() const
+{
+    const boost::shared_ptr<SceneGraphNode> node = m_framedNode.lock();
+    return node ? &node->getBoundingBox() : nullptr;
+}
+
+void OffscreenCanvas::setMarkingMode(MarkingSetups::MarkingMode mode)
+{
+    if (mode < 0 || mode >= MarkingSetups::c_numModes) {
+        throw std::out_of_range("There is no marking mode " + std::to_string(mode) + ".");
+    }
+    m_markingMode = mode;
 }
 
 void OffscreenCanvas::zoomExtents()
@@ -296,12 +320,14 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     dropDisposedScene();
     const EglContext::Current current(m_context);
     const Target target(width, height, std::max(1, settings.getMultisampleSetting()));
-    const Appearance look =
+    Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
+    look.markingMode = m_markingMode;
     // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;
-        const Frame frame = frameOf(copy, look);
+        Frame frame = frameOf(copy, look);
+        frame.screenOverlay = nullptr;
         FrameLayout layout = m_renderer->layOut(frame, width, height);
         showTheSame(copy, camera);
         SceneRenderer::placeScene(frame, layout);

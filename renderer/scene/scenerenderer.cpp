@@ -4,8 +4,10 @@
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/boundingbox.h"
+#include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/viewing/icameratransforms.h"
 #include "renderer/decoration/lightmarkers.h"
 #include "renderer/decoration/triadpainter.h"
@@ -37,6 +39,13 @@ void setBlending(bool on)
     } else {
         glDisable(GL_BLEND);
     }
+}
+
+ObjectStyle styleOf(const Appearance& appearance)
+{
+    const MarkingSetups& markings = Canvas3dGlobalSettings::getInstance()->getMarkingSetups();
+    return {markings.getMarkingModeSetup(appearance.markingMode), appearance.showLabels, appearance.showLineDirections,
+            appearance.showPhysicsMarkers};
 }
 
 } // namespace
@@ -125,8 +134,8 @@ std::vector<SceneLabel> SceneRenderer::drawData(const Frame& frame, const FrameL
     glDepthFunc(GL_LEQUAL);
     m_meshes.begin(m_view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
     drawItems(layout.items, frame.canvas.getRenderMask(),
-              {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), m_uploads, m_colorTextures,
-               m_meshes, m_lines, m_symbols, labels});
+              {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance),
+               m_uploads, m_colorTextures, m_meshes, m_lines, m_symbols, labels});
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
     }
@@ -191,6 +200,38 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
     }
 }
 
+void SceneRenderer::drawOverlays(const Frame& frame, const FrameLayout& layout)
+{
+    if (frame.overlay != nullptr && !m_view.area.isEmpty()) {
+        drawOverlay(*frame.overlay, frame.framedBox != nullptr ? *frame.framedBox : layout.box, m_view, frame, layout);
+    }
+    if (frame.screenOverlay != nullptr) {
+        View pixels;
+        pixels.area = {0, 0, layout.width, layout.height};
+        pixels.projection = pixelsToClip(layout.width, layout.height);
+        pixels.isFlat = true;
+        drawOverlay(*frame.screenOverlay, {}, pixels, frame, layout);
+    }
+}
+
+void SceneRenderer::drawOverlay(const Overlay& overlay, const BoundingBox& framedBox, const View& view,
+                                const Frame& frame, const FrameLayout& layout)
+{
+    const PixelArea& area = view.area;
+    const int bottom = layout.height - area.y - area.height;
+    glViewport(area.x, bottom, area.width, area.height);
+    glScissor(area.x, bottom, area.width, area.height);
+    glEnable(GL_SCISSOR_TEST);
+    setBlending(true);
+    std::vector<SceneLabel> labels;
+    m_shapes.draw(overlay, {view, framedBox, frame.appearance, m_lines, m_symbols, labels});
+    setBlending(false);
+    glDisable(GL_SCISSOR_TEST);
+    glViewport(0, 0, layout.width, layout.height);
+    drawLabels(labels, view, layout.width, layout.height, layout.labelFonts, m_overlay);
+    setBlending(false);
+}
+
 void SceneRenderer::drawDecoration(const FrameLayout& layout)
 {
     m_overlay.begin(layout.width, layout.height);
@@ -246,6 +287,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         triad->drawAxes(m_lines, layout.width, layout.height);
     }
     setBlending(false);
+    drawOverlays(frame, layout);
     target.beginOverlay();
     drawDecoration(layout);
     if (axes) {

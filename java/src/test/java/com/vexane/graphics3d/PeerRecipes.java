@@ -2,6 +2,11 @@ package com.vexane.graphics3d;
 
 import com.vexane.base.NativePeer;
 import com.vexane.interaction.CameraInteraction;
+import com.vexane.interaction.CurveDrawing;
+import com.vexane.interaction.CurveEditing;
+import com.vexane.interaction.FrameInteraction;
+import com.vexane.interaction.OverlayPicker;
+import com.vexane.interaction.RubberBand;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.GeometryBuilder1D;
 import com.vexane.producer.GeometryBuilder2D;
@@ -98,6 +103,18 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphPlotEdge3d.class, made -> new SceneGraphPlotEdge3d(7));
         recipe(SceneGraphPlotPointLabel.class, made -> new SceneGraphPlotPointLabel(3, 8));
         recipe(SceneGraphPlotInteractive.class, made -> new SceneGraphPlotInteractive(9));
+        recipe(SceneGraphFeatureObject.class, made -> new SceneGraphFeatureObject());
+        recipe(SceneGraphDrawProj.class, made -> new SceneGraphDrawProj(1));
+        recipe(SceneGraphBallBox.class, made -> new SceneGraphBallBox());
+        recipe(SceneGraphProbeObject.class, made -> new SceneGraphProbeObject());
+        recipe(Overlay.class, made -> new Overlay());
+        recipe(OverlayPoint.class, made -> new OverlayPoint());
+        recipe(OverlaySymbol.class, made -> new OverlaySymbol());
+        recipe(OverlayLine.class, made -> new OverlayLine());
+        recipe(OverlayRectangle.class, made -> new OverlayRectangle());
+        recipe(OverlayEllipse.class, made -> new OverlayEllipse());
+        recipe(OverlayTransformation.class, made -> new OverlayTransformation());
+        recipe(OverlayDrawCurve.class, made -> new OverlayDrawCurve());
         recipe(PostDataObject.class, made -> recordForEveryPlot());
         recipe(RenderDraw1D.class, made -> rod().buildDraw(1, "Rod"));
         recipe(RenderDraw2D.class, made -> area().buildDraw(2, "Area"));
@@ -109,6 +126,15 @@ final class PeerRecipes implements AutoCloseable {
                 .addCurve(ProjectionBuilder2D.PRIMARY, AXIS, AXIS).build(4, "Section"));
         recipe(RenderMeshCollection.class, made -> meshes());
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
+        recipe(FrameInteraction.class, made -> FrameInteraction.connect(
+                made.first(TestRenderer.class), made.first(OverlayTransformation.class), 48));
+        recipe(CurveDrawing.class, made -> CurveDrawing.connect(
+                made.first(TestRenderer.class), made.first(Overlay.class), made.first(OverlayDrawCurve.class), 48));
+        recipe(CurveEditing.class, made -> CurveEditing.connect(
+                made.first(TestRenderer.class), made.first(OverlayDrawCurve.class), 48));
+        recipe(OverlayPicker.class, made -> OverlayPicker.connect(
+                made.first(TestRenderer.class), made.first(Overlay.class), 48));
+        recipe(RubberBand.class, made -> new RubberBand(made.first(Overlay.class), made.first(OverlayRectangle.class)));
         try {
             // The renderer is not built everywhere.
             Class<?> type = Class.forName("com.vexane.renderer.OffscreenRenderer");
