@@ -1,6 +1,7 @@
 #include "interaction/clickpick.h"
 
 #include "graphics3d/geometry/scenegraphdrawobject.h"
+#include "graphics3d/geometry/scenegraphphysicsobject.h"
 #include "graphics3d/picking/canvaspicksettings.h"
 #include "graphics3d/scene/scene.h"
 #include "interaction/sceneobjects.h"
@@ -16,6 +17,9 @@ using namespace vxgraphics3d;
 
 /// A sheet that is not further from the middle of a pixel covers some of it.
 constexpr double c_halfPixel = 0.5;
+
+constexpr int c_allKinds =
+    CanvasPickSettings::PickMaskSheets | CanvasPickSettings::PickMaskLines | CanvasPickSettings::PickMaskPoints;
 
 /// A part or object that a click touches.
 struct Hit {
@@ -39,29 +43,33 @@ public:
         if (!isReachable(object.getObjectPart())) {
             return;
         }
-        const ObjectParts& parts = object.getParts();
         const int id = object.getId();
         std::optional<Hit> whole;
-        const auto add = [&](PartType type, int index, const Hit& hit) {
+        addPartsOf(object.getParts(), m_settings.pickMask, [&](PartType type, int index, Hit hit) {
             if (m_settings.pickTarget == CanvasPickSettings::PickObject) {
                 whole = !whole || hit.isBefore(*whole) ? hit : whole;
             } else {
+                hit.object.setPickedObjectSolidPart(id, type, index);
                 m_hits.push_back(hit);
-                m_hits.back().object.setPickedObjectSolidPart(id, type, index);
             }
-        };
-        if (isWanted(CanvasPickSettings::PickPoint, CanvasPickSettings::PickMaskPoints)) {
-            addParts(parts.getPoints(), [&](int i, const Hit& hit) { add(PartTypePoint, i, hit); });
-        }
-        if (isWanted(CanvasPickSettings::PickLine, CanvasPickSettings::PickMaskLines)) {
-            addParts(parts.getLines(), [&](int i, const Hit& hit) { add(PartTypeLine, i, hit); });
-        }
-        if (isWanted(CanvasPickSettings::PickSheet, CanvasPickSettings::PickMaskSheets)) {
-            addParts(parts.getSheets(), [&](int i, const Hit& hit) { add(PartTypeSheet, i, hit); });
-        }
+        });
         if (whole) {
-            setObject(whole->object, parts.getHighestLevel(), id);
+            setObject(whole->object, object.getParts().getHighestLevel(), id);
             m_hits.push_back(*whole);
+        }
+    }
+
+    void addFrom(const SceneGraphPhysicsObject& object)
+    {
+        const int id = object.getId();
+        const auto add = [&](PartType type, int index, Hit hit) {
+            hit.object.setPickedObjectPhysics(id, type, index);
+            m_hits.push_back(hit);
+        };
+        if (m_settings.pickTarget == CanvasPickSettings::PickSubdomain) {
+            addSubdomains(object.getParts(), [&](int index, const Hit& hit) { add(PartTypeSubdomain, index, hit); });
+        } else if (m_settings.pickTarget != CanvasPickSettings::PickObject) {
+            addPartsOf(object.getParts(), c_allKinds, add);
         }
     }
 
@@ -96,11 +104,42 @@ private:
         }
     }
 
-    /// Whether parts of a kind can be found, by themselves or as parts of their object.
-    bool isWanted(CanvasPickSettings::PickTarget target, CanvasPickSettings::PickMask mask) const
+    /// Adds the parts of the kind that is looked for, or of all kinds in the mask if that is whole objects.
+    template <class Add>
+    void addPartsOf(const ObjectParts& parts, int mask, Add add)
     {
-        return (m_settings.pickTarget == target || m_settings.pickTarget == CanvasPickSettings::PickObject) &&
-               (m_settings.pickMask & mask) != 0;
+        const auto isWanted = [&](CanvasPickSettings::PickTarget target, CanvasPickSettings::PickMask bit) {
+            return (m_settings.pickTarget == target || m_settings.pickTarget == CanvasPickSettings::PickObject) &&
+                   (mask & bit) != 0;
+        };
+        if (isWanted(CanvasPickSettings::PickPoint, CanvasPickSettings::PickMaskPoints)) {
+            addParts(parts.getPoints(), [&](int i, const Hit& hit) { add(PartTypePoint, i, hit); });
+        }
+        if (isWanted(CanvasPickSettings::PickLine, CanvasPickSettings::PickMaskLines)) {
+            addParts(parts.getLines(), [&](int i, const Hit& hit) { add(PartTypeLine, i, hit); });
+        }
+        if (isWanted(CanvasPickSettings::PickSheet, CanvasPickSettings::PickMaskSheets)) {
+            addParts(parts.getSheets(), [&](int i, const Hit& hit) { add(PartTypeSheet, i, hit); });
+        }
+    }
+
+    /// A subdomain is touched where the first of its sheets is.
+    template <class Add>
+    void addSubdomains(const ObjectParts& parts, Add add)
+    {
+        std::vector<std::optional<Hit>> touched(static_cast<std::size_t>(parts.getSheets().getNumParts()));
+        addParts(parts.getSheets(), [&](int i, const Hit& hit) { touched[static_cast<std::size_t>(i)] = hit; });
+        for (int i = 0; i < parts.getSubdomains().getNumParts(); ++i) {
+            const Subdomain& subdomain = parts.getSubdomains().getPart(i);
+            std::optional<Hit> first;
+            for (const int sheet : parts.getAdjacents(PartSolid, PartSheet).of(i)) {
+                const std::optional<Hit>& hit = touched[static_cast<std::size_t>(sheet)];
+                first = hit && (!first || hit->isBefore(*first)) ? hit : first;
+            }
+            if (first && subdomain.hasGeometry() && isReachable(subdomain)) {
+                add(i, *first);
+            }
+        }
     }
 
     template <class Parts, class Add>
@@ -193,6 +232,8 @@ std::vector<PickedObject> pickTouched(const Scene& scene, const ClickView& view,
     forEachObject(*scene.getRoot(), enter, [&](const SceneGraphObject& object) {
         if (const auto* drawn = dynamic_cast<const SceneGraphDrawObject*>(&object)) {
             pick.addFrom(*drawn);
+        } else if (const auto* physics = dynamic_cast<const SceneGraphPhysicsObject*>(&object)) {
+            pick.addFrom(*physics);
         }
     });
     return pick.sorted();

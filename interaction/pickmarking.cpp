@@ -1,6 +1,7 @@
 #include "interaction/pickmarking.h"
 
 #include "graphics3d/geometry/scenegraphdrawobject.h"
+#include "graphics3d/geometry/scenegraphphysicsobject.h"
 #include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/scene/scene.h"
 #include "interaction/sceneobjects.h"
@@ -27,6 +28,13 @@ PickedObject::ObjectType typeOf(const SceneGraphDrawObject& object)
     }
 }
 
+/// Whether there is the part of a result. The levels of parts have the same numbers there.
+bool hasPart(const ObjectParts& parts, const PickedObject& picked)
+{
+    const int level = picked.getPartType();
+    return parts.has(level) && picked.getPartId() >= 0 && picked.getPartId() < parts.getNumParts(level);
+}
+
 bool markIn(SceneGraphDrawObject& object, const PickedObject& picked, SceneGraphObject::MarkingType action, bool on)
 {
     if (picked.getPartType() == PartTypeNone) {
@@ -36,14 +44,34 @@ bool markIn(SceneGraphDrawObject& object, const PickedObject& picked, SceneGraph
         }
         return isMeant;
     }
-    // The levels of parts have the same numbers in results. Parts of all draw objects are those of a solid there.
-    const int level = picked.getPartType();
-    const ObjectParts& parts = object.getParts();
-    if (picked.getObjectType() != PickedObject::PickedSolid || !parts.has(level) || picked.getPartId() < 0 ||
-        picked.getPartId() >= parts.getNumParts(level)) {
+    // Parts of all draw objects are those of a solid in results.
+    if (picked.getObjectType() != PickedObject::PickedSolid || !hasPart(object.getParts(), picked)) {
         return false;
     }
-    object.mark(static_cast<ObjectPartType>(level), picked.getPartId(), action, on);
+    object.mark(static_cast<ObjectPartType>(picked.getPartType()), picked.getPartId(), action, on);
+    return true;
+}
+
+bool markIn(SceneGraphPhysicsObject& object, const PickedObject& picked, SceneGraphObject::MarkingType action, bool on)
+{
+    const int index = picked.getPartId();
+    if (picked.getObjectType() != PickedObject::PickedPhysics || !hasPart(object.getParts(), picked)) {
+        return false;
+    }
+    switch (picked.getPartType()) {
+    case PartTypePoint:
+        on ? object.markPoint(index, action) : object.unmarkPoint(index, action);
+        break;
+    case PartTypeLine:
+        on ? object.markEdge(index, action) : object.unmarkEdge(index, action);
+        break;
+    case PartTypeSheet:
+        on ? object.markBoundary(index, action) : object.unmarkBoundary(index, action);
+        break;
+    default:
+        on ? object.markSubdomain(index, action) : object.unmarkSubdomain(index, action);
+        break;
+    }
     return true;
 }
 
@@ -51,20 +79,27 @@ bool markIn(SceneGraphDrawObject& object, const PickedObject& picked, SceneGraph
 
 int markPicked(const Scene& scene, const PickedObjectCollection& picked, SceneGraphObject::MarkingType action, bool on)
 {
-    std::unordered_multimap<int, SceneGraphDrawObject*> objects;
+    std::unordered_multimap<int, SceneGraphDrawObject*> drawObjects;
+    std::unordered_multimap<int, SceneGraphPhysicsObject*> physicsObjects;
     const auto enter = [](const SceneGraphGroup&) { return true; };
     forEachObject(*scene.getRoot(), enter, [&](SceneGraphObject& object) {
         if (auto* drawn = dynamic_cast<SceneGraphDrawObject*>(&object)) {
-            objects.emplace(drawn->getId(), drawn);
+            drawObjects.emplace(drawn->getId(), drawn);
+        } else if (auto* physics = dynamic_cast<SceneGraphPhysicsObject*>(&object)) {
+            physicsObjects.emplace(physics->getId(), physics);
         }
     });
     int numFound = 0;
     for (int i = 0; i < picked.getNumberOfPickedObjects(); ++i) {
         const PickedObject& entry = picked.getPickedObject(i);
         bool isFound = false;
-        for (auto [object, end] = objects.equal_range(entry.getObjectId()); object != end; ++object) {
-            isFound = markIn(*object->second, entry, action, on) || isFound;
-        }
+        const auto markAll = [&](const auto& objects) {
+            for (auto [object, end] = objects.equal_range(entry.getObjectId()); object != end; ++object) {
+                isFound = markIn(*object->second, entry, action, on) || isFound;
+            }
+        };
+        markAll(drawObjects);
+        markAll(physicsObjects);
         numFound += isFound ? 1 : 0;
     }
     return numFound;

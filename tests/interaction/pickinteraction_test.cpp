@@ -1,8 +1,10 @@
 #include "interaction/pickinteraction.h"
 
+#include "datacarrier/rendergeom3d.h"
 #include "graphics3d/geometry/scenegraphdrawobjectcurve.h"
 #include "graphics3d/geometry/scenegraphdrawobjectface.h"
 #include "graphics3d/geometry/scenegraphdrawobjectsolid.h"
+#include "graphics3d/geometry/scenegraphphysicsobject.h"
 #include "graphics3d/picking/canvaspicksettings.h"
 #include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/picking/selectionfrustrum.h"
@@ -40,9 +42,10 @@ private:
     int m_before;
 };
 
-vxdatacarrier::RenderDraw3D rectanglesAt(int id, float z)
+template <class Record = vxdatacarrier::RenderDraw3D>
+Record rectanglesAt(int id, float z)
 {
-    auto record = twoRectangles(id);
+    auto record = twoRectangles<Record>(id);
     for (int i = 0; i < record.m_numPoints; ++i) {
         record.m_points[static_cast<std::size_t>(i)].z = z;
     }
@@ -69,6 +72,7 @@ struct Picking {
     Scene scene;
     boost::shared_ptr<SceneGraphGroup> group = SceneGraphGroup::create();
     std::vector<boost::shared_ptr<SceneGraphDrawObject>> objects;
+    std::vector<boost::shared_ptr<SceneGraphPhysicsObject>> models;
     boost::shared_ptr<CanvasPickSettings> settings = boost::make_shared<CanvasPickSettings>();
     PickedObjectCollection result;
     Tolerance tolerance{5};
@@ -170,6 +174,26 @@ TEST(PickInteraction, clicksPreferASheetUnderThePointerToOneInFrontOfItNextToThe
     picking.add<SceneGraphDrawObjectFace>(1.0f);
     picking.objects[1]->mark(PartSheet, 1, SceneGraphObject::MarkingHidden, true);
     EXPECT_EQ(picking.click(c_sheet, 302, 50), (Picks{{0, 1}, {1, 0}, {0, 0}}));
+}
+
+TEST(PickInteraction, clicksFindSubdomainsByTheirSheets)
+{
+    Picking picking(std::vector<float>{});
+    for (const int id : {1, 2}) {
+        const auto model = SceneGraphPhysicsObject::create(id);
+        model->fillData(rectanglesAt<vxdatacarrier::RenderGeom3D>(id, static_cast<float>(id)));
+        picking.group->addChild(model);
+        picking.models.push_back(model);
+    }
+    picking.settings->pickMask = 0;
+    EXPECT_EQ(picking.click(CanvasPickSettings::PickSubdomain, 250, 50), (Picks{{2, 0}, {1, 0}}));
+    EXPECT_EQ(picking.click(CanvasPickSettings::PickSubdomain, 302, 50), (Picks{{2, 1}, {1, 1}, {2, 0}, {1, 0}}));
+    EXPECT_EQ(picking.click(c_sheet, 250, 50), (Picks{{2, 0}, {1, 0}})) << "no mask";
+    EXPECT_EQ(picking.click(c_object, 250, 50), Picks());
+    picking.click(CanvasPickSettings::PickSubdomain, 250, 50);
+    EXPECT_EQ(markPicked(picking.scene, picking.result, SceneGraphObject::MarkingHidden, true), 2);
+    EXPECT_TRUE(picking.models[0]->getParts().getSheets().getPart(0).isMarked(MarkHiddenAdjacent));
+    EXPECT_EQ(picking.click(CanvasPickSettings::PickSubdomain, 250, 50), Picks());
 }
 
 TEST(PickInteraction, rectanglesFindWhatIsInsideInTheOrderOfTheTree)
