@@ -107,7 +107,7 @@ PartRows PartPainting::rowsOf(const StyleOf& styleOf, const std::optional<Color>
 }
 
 template <class Parts>
-const PartTable* PartPainting::tableOf(int number, const Parts& parts) const
+const PartTable& PartPainting::tableOf(int number, const Parts& parts) const
 {
     std::vector<std::uint8_t> rows(static_cast<std::size_t>(parts.getNumParts()), RowNormal);
     if (parts.getNumMarked() > 0) {
@@ -161,7 +161,8 @@ void PartPainting::drawSheets(const SheetCollection& sheets, int changeId, const
         const Mesh* mesh =
             m_context.uploads.mesh(m_object, UploadSheets, changeId, [&] { return meshPartsOf(sheets); });
         const PartRows rows = rowsOf([](const Marking& row) { return Style{row.getSheetColor(), 0.0f}; }, color);
-        m_context.drawMesh(mesh, tableOf(UploadSheets, sheets), rows, m_look);
+        const PartRange all = {0, static_cast<std::size_t>(sheets.getNumParts())};
+        m_context.drawMesh(mesh, {tableOf(UploadSheets, sheets), rows, {&all, 1}}, m_look);
     }
 }
 
@@ -175,7 +176,7 @@ void PartPainting::drawLines(const LineCollection& lines, int changeId, const st
                 return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)};
             },
             color);
-        m_context.drawLines(pieces, tableOf(UploadLines, lines), rows, m_look);
+        m_context.drawLines(pieces, {tableOf(UploadLines, lines), rows}, m_look);
     }
 }
 
@@ -189,7 +190,7 @@ void PartPainting::drawPoints(const PointCollection& points, int changeId, const
                 return Style{row.getPointColor(), std::max(row.getPointSize(), 1.0f)};
             },
             color);
-        m_context.drawSymbols(positions, tableOf(UploadPoints, points), rows, RenderSymbol::circle, m_look);
+        m_context.drawSymbols(positions, {tableOf(UploadPoints, points), rows}, RenderSymbol::circle, m_look);
     }
 }
 

@@ -56,7 +56,7 @@ private:
     PartRows rowsOf(const StyleOf& styleOf, const std::optional<vxgraphics3d::Color>& color) const;
     int rankOf(int layer) const;
     template <class Parts>
-    const PartTable* tableOf(int number, const Parts& parts) const;
+    const PartTable& tableOf(int number, const Parts& parts) const;
     /// @param isBeside whether texts lie next to their points, not on them
     template <class Parts>
     void drawLabels(const Parts& parts, bool isBeside) const;
