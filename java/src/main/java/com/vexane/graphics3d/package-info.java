@@ -25,6 +25,10 @@
  *   <li>A {@link Scene} has a tree and a light. The tree starts at its {@link SceneGraphRoot}, which has one child.
  *   <li>Every node is a {@link SceneGraphNode}. A {@link SceneGraphGroup} has any number of children, a
  *       {@link SceneGraphObject} shows geometry, and a {@link SceneGraphPlotGroup} has plots.
+ *   <li>A {@link SceneGraphDrawObject} shows geometry whose parts can be marked and picked:
+ *       {@link SceneGraphDrawObjectSolid}, {@link SceneGraphDrawObjectFace}, {@link SceneGraphDrawObjectCurve} and
+ *       {@link SceneGraphDrawObjectPoint}. {@link MarkingAction} and {@link ObjectPartType} say what is done to which
+ *       parts.
  *   <li>A {@link SceneGraphPlot} shows the values of one record with a colour table, a legend and a title:
  *       {@link SceneGraphPlotSurface2d}, {@link SceneGraphPlotSurface3d}, {@link SceneGraphPlotDomain3d},
  *       {@link SceneGraphPlotSlice3d} and {@link SceneGraphPlotMesh3d}. Levels of a field are a
@@ -37,6 +41,9 @@
  *       {@link SceneGraphPlotEdge2d} and {@link SceneGraphPlotEdge3d}, texts {@link SceneGraphPlotPointLabel}, and points
  *       and lines of a program {@link SceneGraphPlotInteractive}.
  *       {@link PostDataReader} reads records from files.
+ *   <li>Aids of construction are objects as well: work planes ({@link SceneGraphFeatureObject}), projected geometry
+ *       ({@link SceneGraphDrawProj}), balls and boxes ({@link SceneGraphBallBox}) and probes
+ *       ({@link SceneGraphProbeObject}).
  *   <li>The {@link SceneLight} of a scene makes and removes its light sources, which are
  *       {@linkplain DirectionLightSource directional lights}, {@linkplain PointLightSource point lights} and
  *       {@linkplain SpotLightSource spotlights}.

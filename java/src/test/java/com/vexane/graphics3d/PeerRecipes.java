@@ -8,10 +8,24 @@ import com.vexane.interaction.FrameInteraction;
 import com.vexane.interaction.OverlayPicker;
 import com.vexane.interaction.RubberBand;
 import com.vexane.producer.DataRole;
+import com.vexane.producer.GeometryBuilder1D;
+import com.vexane.producer.GeometryBuilder2D;
+import com.vexane.producer.GeometryBuilder3D;
+import com.vexane.producer.MeshKind;
 import com.vexane.producer.PlotKind;
 import com.vexane.producer.PostDataBuilder;
 import com.vexane.producer.PostDataGroup;
 import com.vexane.producer.PostDataObject;
+import com.vexane.producer.ProjectionBuilder2D;
+import com.vexane.producer.RenderDraw1D;
+import com.vexane.producer.RenderDraw2D;
+import com.vexane.producer.RenderDraw3D;
+import com.vexane.producer.RenderDrawProj2D;
+import com.vexane.producer.RenderGeom1D;
+import com.vexane.producer.RenderGeom2D;
+import com.vexane.producer.RenderGeom3D;
+import com.vexane.producer.RenderMeshCollection;
+import com.vexane.producer.SheetGeometry;
 import java.util.ArrayList;
 import java.util.LinkedHashMap;
 import java.util.List;
@@ -21,6 +35,8 @@ import java.util.function.Function;
 /** How to make a peer of each class: a new class is added here only, for tests of all natives. */
 final class PeerRecipes implements AutoCloseable {
     private static final Map<Class<?>, Function<PeerRecipes, NativePeer>> RECIPES = new LinkedHashMap<>();
+    private static final double[] AXIS = {0, 1, 3};
+    private static final double[] OTHER_AXIS = {0, 2, 2};
 
     private static <T extends NativePeer> void recipe(Class<T> type, Function<PeerRecipes, T> maker) {
         RECIPES.put(type, maker::apply);
@@ -62,6 +78,10 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphGroup.class, made -> new SceneGraphGroup());
         recipe(SceneGraphPlotGroup.class, made -> new SceneGraphPlotGroup());
         recipe(SceneGraphObject.class, made -> new TestRenderer.Leaf());
+        recipe(SceneGraphDrawObjectPoint.class, made -> new SceneGraphDrawObjectPoint(1));
+        recipe(SceneGraphDrawObjectCurve.class, made -> new SceneGraphDrawObjectCurve(2));
+        recipe(SceneGraphDrawObjectFace.class, made -> new SceneGraphDrawObjectFace(3));
+        recipe(SceneGraphDrawObjectSolid.class, made -> new SceneGraphDrawObjectSolid(4));
         recipe(SceneGraphPlotSurface2d.class, made -> new SceneGraphPlotSurface2d(1));
         recipe(SceneGraphPlotSurface3d.class, made -> new SceneGraphPlotSurface3d(2));
         recipe(SceneGraphPlotDomain3d.class, made -> new SceneGraphPlotDomain3d(3));
@@ -83,6 +103,10 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphPlotEdge3d.class, made -> new SceneGraphPlotEdge3d(7));
         recipe(SceneGraphPlotPointLabel.class, made -> new SceneGraphPlotPointLabel(3, 8));
         recipe(SceneGraphPlotInteractive.class, made -> new SceneGraphPlotInteractive(9));
+        recipe(SceneGraphFeatureObject.class, made -> new SceneGraphFeatureObject());
+        recipe(SceneGraphDrawProj.class, made -> new SceneGraphDrawProj(1));
+        recipe(SceneGraphBallBox.class, made -> new SceneGraphBallBox());
+        recipe(SceneGraphProbeObject.class, made -> new SceneGraphProbeObject());
         recipe(Overlay.class, made -> new Overlay());
         recipe(OverlayPoint.class, made -> new OverlayPoint());
         recipe(OverlaySymbol.class, made -> new OverlaySymbol());
@@ -92,6 +116,15 @@ final class PeerRecipes implements AutoCloseable {
         recipe(OverlayTransformation.class, made -> new OverlayTransformation());
         recipe(OverlayDrawCurve.class, made -> new OverlayDrawCurve());
         recipe(PostDataObject.class, made -> recordForEveryPlot());
+        recipe(RenderDraw1D.class, made -> rod().buildDraw(1, "Rod"));
+        recipe(RenderDraw2D.class, made -> area().buildDraw(2, "Area"));
+        recipe(RenderDraw3D.class, made -> shell().buildDraw(3, "Shell"));
+        recipe(RenderGeom1D.class, made -> rod().buildGeom());
+        recipe(RenderGeom2D.class, made -> area().buildGeom());
+        recipe(RenderGeom3D.class, made -> shell().buildGeom());
+        recipe(RenderDrawProj2D.class, made -> new ProjectionBuilder2D().points(AXIS, AXIS, new int[3])
+                .addCurve(ProjectionBuilder2D.PRIMARY, AXIS, AXIS).build(4, "Section"));
+        recipe(RenderMeshCollection.class, made -> meshes());
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
         recipe(FrameInteraction.class, made -> FrameInteraction.connect(
                 made.first(TestRenderer.class), made.first(OverlayTransformation.class), 48));
@@ -115,6 +148,30 @@ final class PeerRecipes implements AutoCloseable {
         } catch (ClassNotFoundException e) {
             // Then none of its natives can be called.
         }
+    }
+
+    private static GeometryBuilder1D rod() {
+        return new GeometryBuilder1D().points(AXIS).addCurve(AXIS);
+    }
+
+    private static SheetGeometry triangle(double[]... axes) {
+        return new SheetGeometry().coordinates(axes).triangles(new int[] {0}, new int[] {1}, new int[] {2});
+    }
+
+    private static GeometryBuilder2D area() {
+        return new GeometryBuilder2D().points(AXIS, OTHER_AXIS).addCurve(AXIS, OTHER_AXIS)
+                .addSheet(triangle(AXIS, OTHER_AXIS)).sheetToLine(new int[] {0});
+    }
+
+    private static GeometryBuilder3D shell() {
+        return new GeometryBuilder3D().points(AXIS, OTHER_AXIS, AXIS).addCurve(AXIS, OTHER_AXIS, AXIS)
+                .addSheet(triangle(AXIS, OTHER_AXIS, AXIS).domains(-1, 0)).sheetToLine(new int[] {0});
+    }
+
+    private static RenderMeshCollection meshes() {
+        RenderMeshCollection meshes = new RenderMeshCollection();
+        meshes.addLine(MeshKind.EDGE_3D, 0, AXIS, OTHER_AXIS, AXIS);
+        return meshes;
     }
 
     /** A record in which one array has all roles. */
