@@ -2,12 +2,12 @@
 
 #include "base/export.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/foundation/rendersymbol.h"
 #include "graphics3d/foundation/textformat.h"
 #include "graphics3d/lights/lightsource.h"
 #include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/picking/pickedobject.h"
 #include "graphics3d/plots/graph/linestyle.h"
-#include "graphics3d/plots/graph/rendersymbol.h"
 #include "graphics3d/plots/scenegraphplot.h"
 #include "graphics3d/plots/vector/arrowdescription.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"

@@ -2,7 +2,7 @@
 
 #include "graphics3d/foundation/color.h"
 #include "graphics3d/foundation/matrixf.h"
-#include "graphics3d/plots/graph/rendersymbol.h"
+#include "graphics3d/foundation/rendersymbol.h"
 #include "renderer/paint/material.h"
 #include "renderer/paint/scenelabel.h"
 

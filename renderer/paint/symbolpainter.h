@@ -1,8 +1,8 @@
 #pragma once
 
 #include "graphics3d/foundation/matrixf.h"
+#include "graphics3d/foundation/rendersymbol.h"
 #include "graphics3d/foundation/vector3f.h"
-#include "graphics3d/plots/graph/rendersymbol.h"
 #include "renderer/frame/view.h"
 #include "renderer/gl/globject.h"
 #include "renderer/gl/glprogram.h"

@@ -5,8 +5,8 @@
 #include "graphics3d/buffers/indexbufferlinestrips.h"
 #include "graphics3d/buffers/vertexbuffercoords.h"
 #include "graphics3d/foundation/color.h"
+#include "graphics3d/foundation/rendersymbol.h"
 #include "graphics3d/plots/graph/linestyle.h"
-#include "graphics3d/plots/graph/rendersymbol.h"
 
 namespace vxgraphics3d {
 

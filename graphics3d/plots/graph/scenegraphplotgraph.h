@@ -1,7 +1,7 @@
 #pragma once
 
+#include "graphics3d/foundation/rendersymbol.h"
 #include "graphics3d/plots/graph/linestyle.h"
-#include "graphics3d/plots/graph/rendersymbol.h"
 #include "graphics3d/plots/igraphplot.h"
 #include "graphics3d/plots/scenegraphplot.h"
 

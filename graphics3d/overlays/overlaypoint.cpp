@@ -1,0 +1,7 @@
+#include "graphics3d/overlays/overlaypoint.h"
+
+namespace vxgraphics3d {
+
+OverlayPoint::~OverlayPoint() = default;
+
+} // namespace vxgraphics3d
