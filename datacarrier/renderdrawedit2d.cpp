@@ -75,9 +75,9 @@ void RenderDrawEdit2D::Edge::requireCurve(std::size_t number) const
     const auto numPoints = static_cast<std::size_t>(m_numControlPoints);
     const auto degree = static_cast<std::size_t>(m_degree);
     if (m_knots.size() != numPoints + degree + 1) {
-        refuse(number, "knots has " + std::to_string(m_knots.size()) + " entries, " + std::to_string(numPoints + degree + 1) +
-               " are needed for " + std::to_string(numPoints) + " control points of degree " +
-               std::to_string(m_degree));
+        refuse(number, "knots has " + std::to_string(m_knots.size()) + " entries, " +
+                           std::to_string(numPoints + degree + 1) + " are needed for " + std::to_string(numPoints) +
+                           " control points of degree " + std::to_string(m_degree));
     }
     for (std::size_t i = 0; i < m_knots.size(); ++i) {
         if (!std::isfinite(m_knots[i])) {
@@ -90,7 +90,7 @@ void RenderDrawEdit2D::Edge::requireCurve(std::size_t number) const
     // The end of the curve is evaluated in the last span.
     if (m_knots[numPoints - 1] == m_knots[numPoints]) {
         refuse(number, "knots: the last span, from knots[" + std::to_string(numPoints - 1) + "] to knots[" +
-               std::to_string(numPoints) + "], has no length");
+                           std::to_string(numPoints) + "], has no length");
     }
 }
 

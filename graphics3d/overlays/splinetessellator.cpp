@@ -53,13 +53,20 @@ CurvePoint curvePoint(const Edge& edge, double u, double* memory)
 
 bool isInside(const BoundingBox2D& box, double x, double y)
 {
-    return box.m_xMin <= x && x <= box.m_xMax && box.m_yMin <= y && y <= box.m_yMax;
+    return double{box.m_xMin} <= x && x <= double{box.m_xMax} && double{box.m_yMin} <= y && y <= double{box.m_yMax};
+}
+
+bool isInside(const BoundingBox2D& box, const Vector3f& point)
+{
+    return isInside(box, double{point.x}, double{point.y});
 }
 
 /// Whether the chord from a to b may stand for the curve with the given middle.
 bool isFlat(const Vector3f& a, const CurvePoint& middle, const Vector3f& b, double tolerance)
 {
-    return std::abs(middle.x - (a.x + b.x) / 2) <= tolerance && std::abs(middle.y - (a.y + b.y) / 2) <= tolerance;
+    const double x = double{(a.x + b.x) / 2};
+    const double y = double{(a.y + b.y) / 2};
+    return std::abs(middle.x - x) <= tolerance && std::abs(middle.y - y) <= tolerance;
 }
 
 Vector3f narrowed(const CurvePoint& point)
@@ -80,8 +87,8 @@ CurvePoint curvePoint(const Edge& edge, double u)
     return curvePoint(edge, u, memory.data());
 }
 
-const std::vector<Vector3f>& SplineTessellator::tessellate(const Edge& edge, double tolerance,
-                                                           const BoundingBox2D& box, int limit)
+const std::vector<Vector3f>& SplineTessellator::tessellate(const Edge& edge, double tolerance, const BoundingBox2D& box,
+                                                           int limit)
 {
     m_parameters.clear();
     m_points.clear();
@@ -114,8 +121,7 @@ const std::vector<Vector3f>& SplineTessellator::tessellate(const Edge& edge, dou
         const CurvePoint middle = curvePoint(edge, m);
         const Vector3f a = m_polyline.back();
         const Vector3f b = m_points.back();
-        const bool isOutside =
-            !isInside(box, a.x, a.y) && !isInside(box, middle.x, middle.y) && !isInside(box, b.x, b.y);
+        const bool isOutside = !isInside(box, a) && !isInside(box, middle.x, middle.y) && !isInside(box, b);
         if (refinements > limit || isOutside || isFlat(a, middle, b, tolerance)) {
             u = v;
             m_polyline.push_back(b);

@@ -32,8 +32,8 @@ public:
 
     /// @param edge an edge that has passed `requireCurve`
     /// @return the polyline, with z = 0, until the next call
-    const std::vector<Vector3f>& tessellate(const Edge& edge, double tolerance,
-                                            const vxdatacarrier::BoundingBox2D& box, int limit = c_refinementLimit);
+    const std::vector<Vector3f>& tessellate(const Edge& edge, double tolerance, const vxdatacarrier::BoundingBox2D& box,
+                                            int limit = c_refinementLimit);
 
 private:
     /// Stacks of parameters and their points that are still ahead, the next on top.
