@@ -8,7 +8,7 @@
 namespace vxgraphics3d {
 
 /// A curve that the user draws: a growing list of vertices, and of edges between them that are straight lines, arcs or
-/// cubic Bézier curves.
+/// cubic Bezier curves.
 ///
 /// An edge has the control points of its whole polygon, ends included: with two it is a straight line, with three a
 /// rational quadratic curve, with four a cubic one, and with fewer or with five it is not drawn. It starts and ends at

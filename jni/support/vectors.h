@@ -5,6 +5,9 @@
 
 #include <jni.h>
 
+#include <algorithm>
+#include <vector>
+
 namespace vxgraphics3d {
 
 /// Writes the components of a vector to the first three elements of a Java array.
@@ -18,6 +21,14 @@ inline jint fillArray(JNIEnv* env, jfloatArray out, const Vector3f& vector)
     elements.get()[1] = vector.y;
     elements.get()[2] = vector.z;
     return 1;
+}
+
+/// Writes all values to the first elements of a Java array.
+/// @throws std::out_of_range if the array is shorter; it is then unchanged
+inline void fillArray(JNIEnv* env, jdoubleArray out, const std::vector<double>& values)
+{
+    vxbase::jdoubleArrayRH::atLeast(env, out, static_cast<int>(values.size()));
+    std::copy(values.begin(), values.end(), vxbase::jdoubleArrayRH(env, out).get());
 }
 
 } // namespace vxgraphics3d

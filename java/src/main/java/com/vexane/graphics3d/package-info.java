@@ -51,6 +51,10 @@
  *   <li>{@link SceneSettings} and {@link SceneSettingsLight} are the decorations and the light with which one view
  *       shows one scene.
  *   <li>{@link CanvasPickSettings} specify what a pick looks for; a {@link PickedObjectCollection} has its results.
+ *   <li>An {@link Overlay} is a list of shapes drawn over the scene, each an {@link OverlayObject}: {@link OverlayPoint},
+ *       {@link OverlaySymbol}; {@link OverlayLine}, {@link OverlayRectangle} and {@link OverlayEllipse}, which are
+ *       {@linkplain OverlayTwoPointsObject given by two points}; the {@link OverlayTransformation} frame; and an
+ *       {@link OverlayCurve} to be edited, such as {@link OverlayDrawCurve}.
  *   <li>{@link HardcopySettings} are those of one export, an {@link Image} is filled by a renderer, and
  *       {@link RendererInfo} and {@link ContextData} describe the renderer and its drawing context.
  * </ul>

@@ -78,6 +78,14 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphPlotEdge3d.class, made -> new SceneGraphPlotEdge3d(7));
         recipe(SceneGraphPlotPointLabel.class, made -> new SceneGraphPlotPointLabel(3, 8));
         recipe(SceneGraphPlotInteractive.class, made -> new SceneGraphPlotInteractive(9));
+        recipe(Overlay.class, made -> new Overlay());
+        recipe(OverlayPoint.class, made -> new OverlayPoint());
+        recipe(OverlaySymbol.class, made -> new OverlaySymbol());
+        recipe(OverlayLine.class, made -> new OverlayLine());
+        recipe(OverlayRectangle.class, made -> new OverlayRectangle());
+        recipe(OverlayEllipse.class, made -> new OverlayEllipse());
+        recipe(OverlayTransformation.class, made -> new OverlayTransformation());
+        recipe(OverlayDrawCurve.class, made -> new OverlayDrawCurve());
         recipe(PostDataObject.class, made -> recordForEveryPlot());
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
         try {
