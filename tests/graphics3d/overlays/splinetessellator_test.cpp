@@ -75,11 +75,8 @@ TEST(SplineTessellator, halvesUntilMiddlesAreWithinTheTolerance)
 {
     const BoundingBox2D all = boxOf(0, 2, 0, 1);
     const std::vector<Vector3f> coarse = {{0.0f, 0.0f, 0.0f}, {1.0f, 1.0f, 0.0f}, {2.0f, 0.0f, 0.0f}};
-    const std::vector<Vector3f> fine = {{0.0f, 0.0f, 0.0f},
-                                        {0.5f, 0.75f, 0.0f},
-                                        {1.0f, 1.0f, 0.0f},
-                                        {1.5f, 0.75f, 0.0f},
-                                        {2.0f, 0.0f, 0.0f}};
+    const std::vector<Vector3f> fine = {
+        {0.0f, 0.0f, 0.0f}, {0.5f, 0.75f, 0.0f}, {1.0f, 1.0f, 0.0f}, {1.5f, 0.75f, 0.0f}, {2.0f, 0.0f, 0.0f}};
     // The middle of each half is 1/4 above its chord, that of each quarter 1/16.
     EXPECT_EQ(polylineOf(parabola(), 0.25, all), coarse);
     EXPECT_EQ(polylineOf(parabola(), 0.2499, all), fine);
@@ -118,8 +115,8 @@ public:
             double start = edge.m_knots[i];
             for (int part = 1; part <= edge.m_degree; ++part) {
                 const double length = edge.m_knots[i + 1] - edge.m_knots[i];
-                const double end = part == edge.m_degree ? edge.m_knots[i + 1]
-                                                         : edge.m_knots[i] + part * length / edge.m_degree;
+                const double end =
+                    part == edge.m_degree ? edge.m_knots[i + 1] : edge.m_knots[i] + part * length / edge.m_degree;
                 split(start, end);
                 start = end;
             }
@@ -136,8 +133,8 @@ public:
     }
     bool isInside(const CurvePoint& point) const
     {
-        return point.x >= double{m_box.m_xMin} && point.x <= double{m_box.m_xMax} &&
-               point.y >= double{m_box.m_yMin} && point.y <= double{m_box.m_yMax};
+        return point.x >= double{m_box.m_xMin} && point.x <= double{m_box.m_xMax} && point.y >= double{m_box.m_yMin} &&
+               point.y <= double{m_box.m_yMax};
     }
     bool isInside(double u) const { return isInside({double{at(u).x}, double{at(u).y}}); }
     /// How far the middle of a part is from that of its chord, in x or y.

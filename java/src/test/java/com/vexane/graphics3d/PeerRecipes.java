@@ -3,10 +3,12 @@ package com.vexane.graphics3d;
 import com.vexane.base.NativePeer;
 import com.vexane.interaction.CameraInteraction;
 import com.vexane.producer.DataRole;
+import com.vexane.producer.EditGeometryBuilder;
 import com.vexane.producer.PlotKind;
 import com.vexane.producer.PostDataBuilder;
 import com.vexane.producer.PostDataGroup;
 import com.vexane.producer.PostDataObject;
+import com.vexane.producer.RenderDrawEdit2D;
 import java.util.ArrayList;
 import java.util.LinkedHashMap;
 import java.util.List;
@@ -86,7 +88,17 @@ final class PeerRecipes implements AutoCloseable {
         recipe(OverlayEllipse.class, made -> new OverlayEllipse());
         recipe(OverlayTransformation.class, made -> new OverlayTransformation());
         recipe(OverlayDrawCurve.class, made -> new OverlayDrawCurve());
+        recipe(OverlayRenderEdit2d.class, made -> {
+            OverlayRenderEdit2d curve = new OverlayRenderEdit2d();
+            curve.connectRenderDrawEdit(made.first(RenderDrawEdit2D.class));
+            return curve;
+        });
         recipe(PostDataObject.class, made -> recordForEveryPlot());
+        recipe(RenderDrawEdit2D.class, made -> {
+            EditGeometryBuilder geometry = new EditGeometryBuilder();
+            geometry.addLine(geometry.addVertex(0, 0), geometry.addVertex(1, 1));
+            return geometry.build();
+        });
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
         try {
             // The renderer is not built everywhere.

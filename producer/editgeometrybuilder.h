@@ -34,7 +34,7 @@ struct EditEllipse {
 
 /// Makes a geometry that can be edited, from vertices and the edges between them:
 ///
-///     vxproducer::RenderDrawEdit2DBuilder builder;
+///     vxproducer::EditGeometryBuilder builder;
 ///     const int a = builder.addVertex(0, 0);
 ///     const int b = builder.addVertex(2, 0);
 ///     builder.addLine(a, b);
@@ -43,13 +43,13 @@ struct EditEllipse {
 ///
 /// Vertices and edges are numbered from 0. What does not fit together is refused with std::invalid_argument or, for
 /// numbers of vertices and edges, std::out_of_range, and adds nothing; the message names the edge and the array.
-class VX_API RenderDrawEdit2DBuilder {
+class VX_API EditGeometryBuilder {
 public:
     using Record = vxdatacarrier::RenderDrawEdit2D;
 
-    RenderDrawEdit2DBuilder();
+    EditGeometryBuilder();
     /// Adds to a record.
-    explicit RenderDrawEdit2DBuilder(boost::shared_ptr<Record> record);
+    explicit EditGeometryBuilder(boost::shared_ptr<Record> record);
 
     // The functions that add something return its number.
 

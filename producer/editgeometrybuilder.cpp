@@ -1,4 +1,4 @@
-#include "producer/renderdrawedit2dbuilder.h"
+#include "producer/editgeometrybuilder.h"
 
 #include <boost/make_shared.hpp>
 
@@ -48,7 +48,8 @@ double angleOn(const EditEllipse& ellipse, const Vertex& vertex, std::size_t edg
     const double v = (dy * std::cos(ellipse.angle) - dx * std::sin(ellipse.angle)) / ellipse.semiAxisY;
     const double distance = std::hypot(u, v);
     if (!isClose(distance, 1.0)) {
-        refuse(edge, std::string(end) + " is at " + std::to_string(distance) + " of the distance from the centre that it should have");
+        refuse(edge, std::string(end) + " is at " + std::to_string(distance) +
+                         " of the distance from the centre that it should have");
     }
     return std::atan2(v, u);
 }
@@ -93,13 +94,13 @@ Edge splineOf(const EditSpline& spline, std::size_t number)
     edge.m_knots = spline.knots;
     for (std::size_t i = 0; i < spline.x.size(); ++i) {
         const double weight = spline.weights.empty() ? 1.0 : spline.weights[i];
-        const std::string index = "[" + std::to_string(i) + "]";
         if (!(weight > 0.0) || !std::isfinite(weight)) {
-            refuse(number, "weights" + index + " is not a finite number above 0");
+            refuse(number, "weights[" + std::to_string(i) + "] is not a finite number above 0");
         }
         addControlPoint(edge, spline.x[i], spline.y[i], weight);
         if (!std::isfinite(edge.m_controlPoints[0].back()) || !std::isfinite(edge.m_controlPoints[1].back())) {
-            refuse(number, "x" + index + " or y" + index + ", times its weight, is not finite");
+            refuse(number,
+                   "x[" + std::to_string(i) + "] or y[" + std::to_string(i) + "], times its weight, is not finite");
         }
     }
     edge.requireCurve(number);
@@ -131,11 +132,11 @@ void attachEnd(Edge& edge, std::size_t number, const Vertex& vertex, bool isStar
 
 } // namespace
 
-RenderDrawEdit2DBuilder::RenderDrawEdit2DBuilder() : RenderDrawEdit2DBuilder(boost::make_shared<Record>()) {}
+EditGeometryBuilder::EditGeometryBuilder() : EditGeometryBuilder(boost::make_shared<Record>()) {}
 
-RenderDrawEdit2DBuilder::RenderDrawEdit2DBuilder(boost::shared_ptr<Record> record) : m_record(std::move(record)) {}
+EditGeometryBuilder::EditGeometryBuilder(boost::shared_ptr<Record> record) : m_record(std::move(record)) {}
 
-int RenderDrawEdit2DBuilder::addVertex(double x, double y)
+int EditGeometryBuilder::addVertex(double x, double y)
 {
     const std::size_t number = m_record->m_vertices.size();
     if (!std::isfinite(x) || !std::isfinite(y)) {
@@ -146,7 +147,7 @@ int RenderDrawEdit2DBuilder::addVertex(double x, double y)
     return static_cast<int>(number);
 }
 
-int RenderDrawEdit2DBuilder::addLine(int startVertex, int endVertex)
+int EditGeometryBuilder::addLine(int startVertex, int endVertex)
 {
     const Vertex& start = vertexOf(startVertex, "startVertex");
     const Vertex& end = vertexOf(endVertex, "endVertex");
@@ -160,14 +161,14 @@ int RenderDrawEdit2DBuilder::addLine(int startVertex, int endVertex)
     return append(std::move(edge), startVertex, endVertex);
 }
 
-int RenderDrawEdit2DBuilder::addArc(int startVertex, int endVertex, double centreX, double centreY)
+int EditGeometryBuilder::addArc(int startVertex, int endVertex, double centreX, double centreY)
 {
     const Vertex& start = vertexOf(startVertex, "startVertex");
     const double radius = std::hypot(start.x - centreX, start.y - centreY);
     return addEllipse(startVertex, endVertex, {centreX, centreY, radius, radius});
 }
 
-int RenderDrawEdit2DBuilder::addEllipse(int startVertex, int endVertex, const EditEllipse& ellipse)
+int EditGeometryBuilder::addEllipse(int startVertex, int endVertex, const EditEllipse& ellipse)
 {
     const std::size_t number = m_record->m_edges.size();
     const Vertex& start = vertexOf(startVertex, "startVertex");
@@ -192,12 +193,12 @@ int RenderDrawEdit2DBuilder::addEllipse(int startVertex, int endVertex, const Ed
     return append(arcOf(ellipse, from, sweep), startVertex, endVertex);
 }
 
-int RenderDrawEdit2DBuilder::addSpline(int startVertex, int endVertex, EditSpline spline)
+int EditGeometryBuilder::addSpline(int startVertex, int endVertex, EditSpline spline)
 {
     return append(splineOf(spline, m_record->m_edges.size()), startVertex, endVertex);
 }
 
-void RenderDrawEdit2DBuilder::hideVertex(int vertex)
+void EditGeometryBuilder::hideVertex(int vertex)
 {
     if (vertex < 0 || static_cast<std::size_t>(vertex) >= m_record->m_vertices.size()) {
         throw std::out_of_range("There is no vertex " + std::to_string(vertex));
@@ -206,7 +207,7 @@ void RenderDrawEdit2DBuilder::hideVertex(int vertex)
     m_record->m_boxValid = false;
 }
 
-void RenderDrawEdit2DBuilder::hideEdge(int edge)
+void EditGeometryBuilder::hideEdge(int edge)
 {
     if (edge < 0 || static_cast<std::size_t>(edge) >= m_record->m_edges.size()) {
         throw std::out_of_range("There is no edge " + std::to_string(edge));
@@ -215,21 +216,21 @@ void RenderDrawEdit2DBuilder::hideEdge(int edge)
     m_record->m_boxValid = false;
 }
 
-boost::shared_ptr<RenderDrawEdit2D> RenderDrawEdit2DBuilder::build()
+boost::shared_ptr<RenderDrawEdit2D> EditGeometryBuilder::build()
 {
     return std::exchange(m_record, boost::make_shared<Record>());
 }
 
-const RenderDrawEdit2D::Vertex& RenderDrawEdit2DBuilder::vertexOf(int vertex, const char* end) const
+const RenderDrawEdit2D::Vertex& EditGeometryBuilder::vertexOf(int vertex, const char* end) const
 {
     if (vertex < 0 || static_cast<std::size_t>(vertex) >= m_record->m_vertices.size()) {
-        throw std::out_of_range("edge " + std::to_string(m_record->m_edges.size()) + ": " + end + ": there is no vertex " +
-                                std::to_string(vertex));
+        throw std::out_of_range("edge " + std::to_string(m_record->m_edges.size()) + ": " + end +
+                                ": there is no vertex " + std::to_string(vertex));
     }
     return m_record->m_vertices[static_cast<std::size_t>(vertex)];
 }
 
-int RenderDrawEdit2DBuilder::append(Edge edge, int startVertex, int endVertex)
+int EditGeometryBuilder::append(Edge edge, int startVertex, int endVertex)
 {
     const std::size_t number = m_record->m_edges.size();
     edge.m_startVertex = startVertex;
