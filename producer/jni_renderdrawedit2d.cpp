@@ -76,8 +76,7 @@ VX_NATIVE(void, RenderDrawEdit2D, addEllipse)
  jdouble semiAxisX, jdouble semiAxisY, jdouble angle)
 {
     guarded(env, [&] {
-        builderOf(env, self)
-            .addEllipse(startVertex, endVertex, {centreX, centreY, semiAxisX, semiAxisY, angle});
+        builderOf(env, self).addEllipse(startVertex, endVertex, {centreX, centreY, semiAxisX, semiAxisY, angle});
     });
 }
 
@@ -87,10 +86,9 @@ VX_NATIVE(void, RenderDrawEdit2D, addSpline)
 {
     guarded(env, [&] {
         using Doubles = std::vector<double>;
-        builderOf(env, self)
-            .addSpline(startVertex, endVertex,
-                       {degree, fromJava<Doubles>(env, knots), fromJava<Doubles>(env, x), fromJava<Doubles>(env, y),
-                        fromJava<Doubles>(env, weights)});
+        builderOf(env, self).addSpline(startVertex, endVertex,
+                                       {degree, fromJava<Doubles>(env, knots), fromJava<Doubles>(env, x),
+                                        fromJava<Doubles>(env, y), fromJava<Doubles>(env, weights)});
     });
 }
 
