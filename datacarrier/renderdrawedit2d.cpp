@@ -10,35 +10,46 @@ namespace vxdatacarrier {
 
 namespace {
 
-/// x minimum, x maximum, y minimum, y maximum.
-using Limits = std::array<double, 4>;
+constexpr float c_inf = std::numeric_limits<float>::infinity();
 
-constexpr double c_inf = std::numeric_limits<double>::infinity();
-constexpr Limits c_nothing = {c_inf, -c_inf, c_inf, -c_inf};
+/// The limits of points, an empty range at first.
+struct Limits {
+    float xMin = c_inf;
+    float xMax = -c_inf;
+    float yMin = c_inf;
+    float yMax = -c_inf;
 
-/// A coordinate that is not finite extends nothing.
-void extend(double& min, double& max, double value)
-{
-    if (std::isfinite(value)) {
-        min = std::min(min, value);
-        max = std::max(max, value);
+    void extend(const std::array<float, 4>& box)
+    {
+        xMin = std::min(xMin, box[0]);
+        xMax = std::max(xMax, box[1]);
+        yMin = std::min(yMin, box[2]);
+        yMax = std::max(yMax, box[3]);
     }
-}
-
-void extend(Limits& limits, double x, double y)
-{
-    extend(limits[0], limits[1], x);
-    extend(limits[2], limits[3], y);
-}
-
-Limits limitsOf(const RenderDrawEdit2D::Edge& edge)
-{
-    Limits limits = c_nothing;
-    const auto& [x, y, w] = edge.m_controlPoints;
-    for (std::size_t i = 0; i < std::min({x.size(), y.size(), w.size()}); ++i) {
-        extend(limits, x[i] / w[i], y[i] / w[i]);
+    /// A point that is not finite extends nothing.
+    void extend(float x, float y)
+    {
+        if (std::isfinite(x) && std::isfinite(y)) {
+            xMin = std::min(xMin, x);
+            xMax = std::max(xMax, x);
+            yMin = std::min(yMin, y);
+            yMax = std::max(yMax, y);
+        }
     }
-    return limits;
+    bool isEmpty() const { return xMin > xMax; }
+    std::array<float, 4> toArray() const { return {xMin, xMax, yMin, yMax}; }
+};
+
+std::array<float, 4> boxOf(const RenderDrawEdit2D::Edge& edge)
+{
+    Limits limits;
+    if (!edge.m_hidden) {
+        const auto& [x, y, w] = edge.m_controlPoints;
+        for (std::size_t i = 0; i < std::min({x.size(), y.size(), w.size()}); ++i) {
+            limits.extend(static_cast<float>(x[i] / w[i]), static_cast<float>(y[i] / w[i]));
+        }
+    }
+    return limits.toArray();
 }
 
 [[noreturn]] void refuse(std::size_t edge, const std::string& text)
@@ -97,28 +108,20 @@ void RenderDrawEdit2D::Edge::requireCurve(std::size_t number) const
 void RenderDrawEdit2D::getBoundingBox(std::vector<float>& out)
 {
     if (!m_boxValid) {
-        Limits limits = c_nothing;
+        Limits limits;
         for (Edge& edge : m_edges) {
-            if (edge.m_hidden) {
-                continue;
-            }
             if (!edge.m_evaluated) {
-                edge.m_box = limitsOf(edge);
+                edge.m_box = boxOf(edge);
                 edge.m_evaluated = true;
             }
-            for (std::size_t i = 0; i < limits.size(); i += 2) {
-                limits[i] = std::min(limits[i], edge.m_box[i]);
-                limits[i + 1] = std::max(limits[i + 1], edge.m_box[i + 1]);
-            }
+            limits.extend(edge.m_box);
         }
         for (const Vertex& vertex : m_vertices) {
             if (!vertex.m_hidden) {
-                extend(limits, vertex.x, vertex.y);
+                limits.extend(static_cast<float>(vertex.x), static_cast<float>(vertex.y));
             }
         }
-        for (std::size_t i = 0; i < limits.size(); ++i) {
-            m_box[i] = std::isfinite(limits[i]) ? static_cast<float>(limits[i]) : 0.0f;
-        }
+        m_box = limits.isEmpty() ? std::array<float, 4>() : limits.toArray();
         m_boxValid = true;
     }
     out.assign(m_box.begin(), m_box.end());

@@ -56,8 +56,9 @@ public:
         int m_endVertex = -1;
         /// Whether `m_box` is current.
         bool m_evaluated = false;
-        /// Limits of the control points: x minimum, x maximum, y minimum, y maximum.
-        std::array<double, 4> m_box{};
+        /// Limits of the control points: x minimum, x maximum, y minimum, y maximum. An empty range if there are none,
+        /// or the edge is hidden.
+        std::array<float, 4> m_box{};
     };
 
     std::string getTypeName() const override { return "RenderDrawEdit2D"; }

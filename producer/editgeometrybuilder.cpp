@@ -212,7 +212,9 @@ void EditGeometryBuilder::hideEdge(int edge)
     if (edge < 0 || static_cast<std::size_t>(edge) >= m_record->m_edges.size()) {
         throw std::out_of_range("There is no edge " + std::to_string(edge));
     }
-    m_record->m_edges[static_cast<std::size_t>(edge)].m_hidden = true;
+    Record::Edge& hidden = m_record->m_edges[static_cast<std::size_t>(edge)];
+    hidden.m_hidden = true;
+    hidden.m_evaluated = false;
     m_record->m_boxValid = false;
 }
 

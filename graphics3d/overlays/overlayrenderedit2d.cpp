@@ -83,11 +83,11 @@ void OverlayRenderEdit2d::setVertex(int vertex, double x, double y)
 {
     vertexAt(vertex);
     std::vector<int> touched;
-    for (int i = 0; i < getNEdges(); ++i) {
-        const Edge& edge = edgeAt(i);
-        if (edge.m_startVertex == vertex || edge.m_endVertex == vertex) {
-            requireEditable(i);
-            touched.push_back(i);
+    const std::vector<Edge>& edges = m_record->m_edges;
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        if (edges[i].m_startVertex == vertex || edges[i].m_endVertex == vertex) {
+            touched.push_back(static_cast<int>(i));
+            requireEditable(touched.back());
         }
     }
 

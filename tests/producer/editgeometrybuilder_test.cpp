@@ -132,14 +132,19 @@ TEST(EditGeometryBuilder, refusesWhatDoesNotFitTogether)
     const auto refuse = expectRefusal<std::invalid_argument>;
     refuse([nan](Builder& b) { b.addVertex(0, nan); }, "vertex 3: x or y is not finite");
     refuse([](Builder& b) { b.addLine(1, 1); }, "edge 0: a line needs two different vertices");
-    refuse([](Builder& b) { b.addArc(0, 1, 0, 0); },
-           "edge 0: a semi-axis is not a finite number above 0: 0.000000");
+    refuse([](Builder& b) { b.addArc(0, 1, 0, 0); }, "edge 0: a semi-axis is not a finite number above 0: 0.000000");
     refuse([](Builder& b) { b.addArc(0, 1, 0.5, 0); },
            "edge 0: endVertex is at 3.000000 of the distance from the centre that it should have");
-    refuse([](Builder& b) { b.addEllipse(1, 2, {0, 0, 2, 2, 0}); },
-           "edge 0: endVertex is at 0.500000 of the distance from the centre that it should have");
-    refuse([nan](Builder& b) { b.addEllipse(1, 2, {nan, 0, 2, 1, 0}); },
-           "edge 0: the centre or the angle of the ellipse is not finite");
+    refuse(
+        [](Builder& b) {
+            b.addEllipse(1, 2, {0, 0, 2, 2, 0});
+        },
+        "edge 0: endVertex is at 0.500000 of the distance from the centre that it should have");
+    refuse(
+        [nan](Builder& b) {
+            b.addEllipse(1, 2, {nan, 0, 2, 1, 0});
+        },
+        "edge 0: the centre or the angle of the ellipse is not finite");
 
     const EditSpline good = {2, {0, 0, 0, 1, 1, 1}, {0, 1, 2}, {0, 1, 0}, {1, 1, 1}};
     const auto refuseSpline = [&](const std::function<void(EditSpline&)>& spoil, const std::string& message) {
