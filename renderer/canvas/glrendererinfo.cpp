@@ -150,6 +150,7 @@ ContextData contextDataOf(const Target& target)
     data.alphaBits = bits(GL_COLOR_ATTACHMENT0, GL_FRAMEBUFFER_ATTACHMENT_ALPHA_SIZE);
     data.colorBits = data.redBits + data.greenBits + data.blueBits + data.alphaBits;
     data.depthBits = bits(GL_DEPTH_ATTACHMENT, GL_FRAMEBUFFER_ATTACHMENT_DEPTH_SIZE);
+    data.stencilBits = bits(GL_STENCIL_ATTACHMENT, GL_FRAMEBUFFER_ATTACHMENT_STENCIL_SIZE);
     data.hardwareAccelerated = !isSoftware(text(GL_RENDERER));
     data.multipleSamples = target.getSamples() > 1 ? target.getSamples() : 0;
     data.antialiasingType = data.multipleSamples > 0 ? 1 : 0;

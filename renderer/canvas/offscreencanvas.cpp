@@ -6,8 +6,10 @@
 #include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/errorlog.h"
+#include "graphics3d/overlays/overlay.h"
 #include "graphics3d/picking/canvaspicksettings.h"
 #include "graphics3d/scene/scene.h"
+#include "graphics3d/scenegraph/scenegraphnode.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/settings/contextdata.h"
 #include "renderer/canvas/glrendererinfo.h"
@@ -217,8 +219,20 @@ ICameraTransforms& OffscreenCanvas::camera()
 
 Frame OffscreenCanvas::frameOf(ICameraTransforms& camera, const Appearance& appearance) const
 {
-    return {*m_settings, m_sceneView ? m_sceneView->getScene().get() : nullptr,
-            m_sceneView ? &m_sceneView->getSettings() : nullptr, camera, appearance};
+    return {*m_settings,
+            m_sceneView ? m_sceneView->getScene().get() : nullptr,
+            m_sceneView ? &m_sceneView->getSettings() : nullptr,
+            camera,
+            appearance,
+            m_overlay.get(),
+            m_screenOverlay.get(),
+            framedBox()};
+}
+
+const BoundingBox* OffscreenCanvas::framedBox() const
+{
+    const boost::shared_ptr<SceneGraphNode> node = m_framedNode.lock();
+    return node ? &node->getBoundingBox() : nullptr;
 }
 
 void OffscreenCanvas::zoomExtents()
@@ -301,7 +315,8 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;
-        const Frame frame = frameOf(copy, look);
+        Frame frame = frameOf(copy, look);
+        frame.screenOverlay = nullptr;
         FrameLayout layout = m_renderer->layOut(frame, width, height);
         showTheSame(copy, camera);
         SceneRenderer::placeScene(frame, layout);

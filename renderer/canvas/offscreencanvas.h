@@ -8,17 +8,22 @@
 #include "renderer/upload/uploadcounts.h"
 
 #include <boost/shared_ptr.hpp>
+#include <boost/weak_ptr.hpp>
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vxgraphics3d {
+class BoundingBox;
 class HardcopySettings;
 class ICameraTransforms;
+class Overlay;
 class Scene;
+class SceneGraphNode;
 } // namespace vxgraphics3d
 
 namespace vxrenderer {
@@ -70,6 +75,16 @@ public:
     /// that it shows already keeps its settings.
     void setScene(const boost::shared_ptr<vxgraphics3d::Scene>& scene);
 
+    /// Draws an overlay over the scene, in the coordinates of the scene, or none for null. Shapes are drawn through
+    /// whatever is in front of them. With logarithmic axes the coordinates are logarithms.
+    void setOverlay(boost::shared_ptr<vxgraphics3d::Overlay> overlay) { m_overlay = std::move(overlay); }
+    /// Draws an overlay over the whole picture, in pixels from its top left corner, or none for null. It is not part of
+    /// exports.
+    void setScreenOverlay(boost::shared_ptr<vxgraphics3d::Overlay> overlay) { m_screenOverlay = std::move(overlay); }
+    /// Lets the transformation frames of the overlay enclose the box of a node, or for null that of the whole scene. A
+    /// node that no longer exists counts as null.
+    void setFramedNode(const boost::shared_ptr<vxgraphics3d::SceneGraphNode>& node) { m_framedNode = node; }
+
     /// Looks at the whole scene with the camera of the current mode: a 3D camera keeps its direction and turns about
     /// the middle of the scene from now on. Without a scene, or with one that is empty, nothing happens.
     void zoomExtents();
@@ -105,6 +120,7 @@ private:
     /// The camera of the render mode. A mode that does not exist is reported once.
     vxgraphics3d::ICameraTransforms& camera();
     Frame frameOf(vxgraphics3d::ICameraTransforms& camera, const Appearance& appearance) const;
+    const vxgraphics3d::BoundingBox* framedBox() const;
     Appearance appearance() const;
     void dropDisposedScene();
     int wantedSamples() const;
@@ -125,6 +141,9 @@ private:
     boost::shared_ptr<vxgraphics3d::CanvasPickSettings> m_pickSettings;
     boost::shared_ptr<vxgraphics3d::ContextData> m_contextData;
     std::unique_ptr<SceneView> m_sceneView;
+    boost::shared_ptr<vxgraphics3d::Overlay> m_overlay;
+    boost::shared_ptr<vxgraphics3d::Overlay> m_screenOverlay;
+    boost::weak_ptr<vxgraphics3d::SceneGraphNode> m_framedNode;
     View m_view;
     /// The mode of the last picture, by which a mode that does not exist is reported once.
     int m_lastRenderMode = 0;

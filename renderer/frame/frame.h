@@ -6,7 +6,9 @@
 #include "renderer/frame/appearance.h"
 
 namespace vxgraphics3d {
+class BoundingBox;
 class ICameraTransforms;
+class Overlay;
 class Scene;
 class SceneSettings;
 } // namespace vxgraphics3d
@@ -30,6 +32,12 @@ struct Frame {
     /// The camera of the canvas' render mode, or a copy of it for a picture of another size.
     vxgraphics3d::ICameraTransforms& camera;
     const Appearance& appearance;
+    /// Drawn over the scene, in its coordinates; or null.
+    const vxgraphics3d::Overlay* overlay = nullptr;
+    /// Drawn over the whole picture, in its pixels; or null.
+    const vxgraphics3d::Overlay* screenOverlay = nullptr;
+    /// What transformation frames of the overlay enclose; null for the whole scene.
+    const vxgraphics3d::BoundingBox* framedBox = nullptr;
 
     /// Whether it is a 2D view.
     bool isFlat() const { return renderModeOf(canvas) == vxgraphics3d::Canvas3dSettings::RenderMode2d; }

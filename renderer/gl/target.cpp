@@ -52,7 +52,7 @@ Target::Target(int width, int height, int samples) : m_width(width), m_height(he
 
     glBindFramebuffer(GL_FRAMEBUFFER, m_scene.name());
     attach(m_sceneColor, GL_COLOR_ATTACHMENT0, GL_RGBA8, m_samples, width, height);
-    attach(m_sceneDepth, GL_DEPTH_ATTACHMENT, GL_DEPTH_COMPONENT24, m_samples, width, height);
+    attach(m_sceneDepth, GL_DEPTH_STENCIL_ATTACHMENT, GL_DEPTH24_STENCIL8, m_samples, width, height);
     requireComplete("scene buffer");
 
     glBindFramebuffer(GL_FRAMEBUFFER, m_plain.name());
@@ -74,7 +74,8 @@ void Target::beginScene() const
     glViewport(0, 0, m_width, m_height);
     glDisable(GL_SCISSOR_TEST);
     glDepthMask(GL_TRUE);
-    glClear(GL_DEPTH_BUFFER_BIT);
+    // Both at once: they share their memory.
+    glClear(GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
 }
 
 void Target::beginOverlay() const

@@ -25,7 +25,8 @@ public:
 
     /// Lets what follows draw into the scene buffer, or ask about it.
     void bindScene() const;
-    /// Lets what follows draw into the scene buffer, whose depths are cleared and whose colours are undefined.
+    /// Lets what follows draw into the scene buffer, whose depths and stencil are cleared and whose
+    /// colours are undefined.
     void beginScene() const;
     /// Brings the scene into the plain buffer and lets what follows draw over it.
     void beginOverlay() const;

@@ -2,7 +2,9 @@
 #include "base/java/nativeframe.h"
 #include "base/java/peerhandle.h"
 #include "graphics3d/canvas/hardcopysettings.h"
+#include "graphics3d/overlays/overlay.h"
 #include "graphics3d/scene/scene.h"
+#include "graphics3d/scenegraph/scenegraphnode.h"
 #include "renderer/canvas/glrendererinfo.h"
 #include "renderer/canvas/offscreencanvas.h"
 #include "renderer/jni/javabytes.h"
@@ -15,13 +17,21 @@ using namespace vxbase;
 using namespace vxrenderer;
 using vxgraphics3d::HardcopySettings;
 using vxgraphics3d::IRendererCanvas;
+using vxgraphics3d::Overlay;
 using vxgraphics3d::Scene;
+using vxgraphics3d::SceneGraphNode;
 
 namespace {
 
 OffscreenCanvas& canvas(JNIEnv* env, jobject self)
 {
     return peer<OffscreenCanvas>(env, self);
+}
+
+template <class T>
+boost::shared_ptr<T> shareOrNull(JNIEnv* env, jobject object, const char* argument)
+{
+    return object == nullptr ? nullptr : share<T>(env, object, argument);
 }
 
 } // namespace
@@ -46,7 +56,22 @@ VX_NATIVE(void, OffscreenRenderer, cleanupNative)(JNIEnv* env, jclass, jobject s
 
 VX_NATIVE(void, OffscreenRenderer, setScene)(JNIEnv* env, jclass, jobject self, jobject scene)
 {
-    guarded(env, [&] { canvas(env, self).setScene(scene == nullptr ? nullptr : share<Scene>(env, scene, "scene")); });
+    guarded(env, [&] { canvas(env, self).setScene(shareOrNull<Scene>(env, scene, "scene")); });
+}
+
+VX_NATIVE(void, OffscreenRenderer, setOverlay)(JNIEnv* env, jclass, jobject self, jobject overlay)
+{
+    guarded(env, [&] { canvas(env, self).setOverlay(shareOrNull<Overlay>(env, overlay, "overlay")); });
+}
+
+VX_NATIVE(void, OffscreenRenderer, setScreenOverlay)(JNIEnv* env, jclass, jobject self, jobject overlay)
+{
+    guarded(env, [&] { canvas(env, self).setScreenOverlay(shareOrNull<Overlay>(env, overlay, "overlay")); });
+}
+
+VX_NATIVE(void, OffscreenRenderer, setFramedNode)(JNIEnv* env, jclass, jobject self, jobject node)
+{
+    guarded(env, [&] { canvas(env, self).setFramedNode(shareOrNull<SceneGraphNode>(env, node, "node")); });
 }
 
 VX_NATIVE(void, OffscreenRenderer, zoomExtents)(JNIEnv* env, jclass, jobject self)

@@ -138,7 +138,8 @@ void LinePainter::draw(std::span<const LineSegment> lines, const Frame& frame, c
     if (lines.empty()) {
         return;
     }
-    setUp(frame, Material::of(color), true);
+    const Material material = Material::of(color);
+    setUp(frame, material, !material.isTranslucent());
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(lines.size_bytes()), lines.data(), GL_STREAM_DRAW);

@@ -128,6 +128,22 @@ void SymbolPainter::draw(const vxgraphics3d::Vector3f& position, const Frame& fr
     draw(frame, 1);
 }
 
+void SymbolPainter::draw(std::span<const vxgraphics3d::Vector3f> positions, const Frame& frame) const
+{
+    if (positions.empty()) {
+        return;
+    }
+    const auto location = static_cast<GLuint>(Attribute::instancePosition);
+    glBindVertexArray(m_array.name());
+    glBindBuffer(GL_ARRAY_BUFFER, m_positions.name());
+    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(positions.size_bytes()), positions.data(), GL_STREAM_DRAW);
+    glEnableVertexAttribArray(location);
+    glVertexAttribPointer(location, 3, GL_FLOAT, GL_FALSE, sizeof(vxgraphics3d::Vector3f), nullptr);
+    glVertexAttribDivisor(location, 1);
+    draw(frame, static_cast<GLsizei>(positions.size()));
+    glDisableVertexAttribArray(location);
+}
+
 void SymbolPainter::draw(const Frame& frame, GLsizei count) const
 {
     if (frame.symbol == RenderSymbol::none || count < 1) {

@@ -9,6 +9,7 @@
 #include "renderer/upload/uniformblock.h"
 
 #include <array>
+#include <span>
 
 namespace vxrenderer {
 
@@ -39,6 +40,8 @@ public:
     /// Draws a symbol at the position of each instance.
     void draw(const InstanceBuffer& instances, const Frame& frame) const;
     void draw(const vxgraphics3d::Vector3f& position, const Frame& frame) const;
+    /// Draws a symbol at each position; they are copied for this call.
+    void draw(std::span<const vxgraphics3d::Vector3f> positions, const Frame& frame) const;
 
 private:
     struct SymbolBlock;
@@ -49,6 +52,7 @@ private:
     GlProgram m_program;
     UniformBlock<SymbolBlock> m_block;
     GlVertexArray m_array;
+    GlBuffer m_positions;
 };
 
 } // namespace vxrenderer

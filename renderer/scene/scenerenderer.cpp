@@ -191,6 +191,38 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
     }
 }
 
+void SceneRenderer::drawOverlays(const Frame& frame, const FrameLayout& layout)
+{
+    if (frame.overlay != nullptr && !m_view.area.isEmpty()) {
+        drawOverlay(*frame.overlay, frame.framedBox != nullptr ? *frame.framedBox : layout.box, m_view, frame, layout);
+    }
+    if (frame.screenOverlay != nullptr) {
+        View pixels;
+        pixels.area = {0, 0, layout.width, layout.height};
+        pixels.projection = pixelsToClip(layout.width, layout.height);
+        pixels.isFlat = true;
+        drawOverlay(*frame.screenOverlay, {}, pixels, frame, layout);
+    }
+}
+
+void SceneRenderer::drawOverlay(const Overlay& overlay, const BoundingBox& framedBox, const View& view,
+                                const Frame& frame, const FrameLayout& layout)
+{
+    const PixelArea& area = view.area;
+    const int bottom = layout.height - area.y - area.height;
+    glViewport(area.x, bottom, area.width, area.height);
+    glScissor(area.x, bottom, area.width, area.height);
+    glEnable(GL_SCISSOR_TEST);
+    setBlending(true);
+    std::vector<SceneLabel> labels;
+    m_shapes.draw(overlay, {view, framedBox, frame.appearance, m_lines, m_symbols, labels});
+    setBlending(false);
+    glDisable(GL_SCISSOR_TEST);
+    glViewport(0, 0, layout.width, layout.height);
+    drawLabels(labels, view, layout.width, layout.height, layout.labelFonts, m_overlay);
+    setBlending(false);
+}
+
 void SceneRenderer::drawDecoration(const FrameLayout& layout)
 {
     m_overlay.begin(layout.width, layout.height);
@@ -246,6 +278,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         triad->drawAxes(m_lines, layout.width, layout.height);
     }
     setBlending(false);
+    drawOverlays(frame, layout);
     target.beginOverlay();
     drawDecoration(layout);
     if (axes) {

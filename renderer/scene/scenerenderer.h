@@ -4,6 +4,7 @@
 #include "renderer/frame/frame.h"
 #include "renderer/frame/view.h"
 #include "renderer/objects/objectpainter.h"
+#include "renderer/overlays/shapepainter.h"
 #include "renderer/paint/backgroundpainter.h"
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
@@ -59,6 +60,9 @@ private:
     void drawItem(const SceneItem& item, const PaintContext& context) const;
     void drawItems(const std::vector<SceneItem>& items, unsigned renderMask, const PaintContext& context) const;
     void drawLightMarkers(const Frame& frame);
+    void drawOverlays(const Frame& frame, const FrameLayout& layout);
+    void drawOverlay(const vxgraphics3d::Overlay& overlay, const vxgraphics3d::BoundingBox& framedBox, const View& view,
+                     const Frame& frame, const FrameLayout& layout);
     void drawDecoration(const FrameLayout& layout);
     void dropUnused();
 
@@ -72,6 +76,7 @@ private:
     MeshPainter m_meshes;
     LinePainter m_lines;
     SymbolPainter m_symbols;
+    ShapePainter m_shapes;
     OverlayPainter m_overlay{m_counts};
     FontSets m_fontSets;
     boost::weak_ptr<const vxgraphics3d::SceneGraphNode> m_titleRoot;

@@ -88,7 +88,7 @@ TEST(CanvasContract, reportsThePropertiesOfTheContext)
         }
         EXPECT_EQ(data->colorBits, 32);
         EXPECT_EQ(data->depthBits, 24);
-        EXPECT_EQ(data->stencilBits, 0);
+        EXPECT_EQ(data->stencilBits, 8);
         EXPECT_FALSE(data->doubleBuffered);
         EXPECT_EQ(data->multipleSamples, samples > 1 ? 4 : 0);
         EXPECT_EQ(data->antialiasingType, samples > 1 ? 1 : 0);

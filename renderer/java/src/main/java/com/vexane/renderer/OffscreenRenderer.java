@@ -5,8 +5,10 @@ import com.vexane.base.NativePeer;
 import com.vexane.graphics3d.Camera3d;
 import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.HardcopySettings;
+import com.vexane.graphics3d.Overlay;
 import com.vexane.graphics3d.RendererInfo;
 import com.vexane.graphics3d.Scene;
+import com.vexane.graphics3d.SceneGraphNode;
 import java.io.IOException;
 import java.nio.ByteBuffer;
 import java.nio.file.Files;
@@ -117,6 +119,41 @@ public final class OffscreenRenderer extends NativePeer {
      */
     public void setScene(Scene scene) {
         setScene(this, scene == null ? null : requireOpen(scene, "scene"));
+    }
+
+    /**
+     * Draws an overlay over the scene from the next picture on, in the coordinates of the scene: its shapes are in the
+     * plane z = 0, and are seen through whatever is in front of them. If an axis is logarithmic, coordinates on it are
+     * logarithms to base 10. The view keeps the overlay alive. Without a scene nothing of it is drawn; an empty scene is
+     * enough.
+     *
+     * @param overlay the overlay, or null for none
+     * @throws IllegalStateException if the overlay is closed
+     */
+    public void setOverlay(Overlay overlay) {
+        setOverlay(this, overlay == null ? null : requireOpen(overlay, "overlay"));
+    }
+
+    /**
+     * Draws an overlay over the whole picture from the next one on, in pixels from the top left corner as in mouse
+     * events: whole numbers are borders of pixels. The view keeps the overlay alive. It is not part of exports.
+     *
+     * @param overlay the overlay, or null for none
+     * @throws IllegalStateException if the overlay is closed
+     */
+    public void setScreenOverlay(Overlay overlay) {
+        setScreenOverlay(this, overlay == null ? null : requireOpen(overlay, "overlay"));
+    }
+
+    /**
+     * Sets what the frames of the overlay enclose, each an {@link com.vexane.graphics3d.OverlayTransformation}: the
+     * bounding box of a node. When the node ceases to exist, they enclose the whole scene again.
+     *
+     * @param node the node, or null for the whole scene
+     * @throws IllegalStateException if the node's peer is closed
+     */
+    public void setFramedNode(SceneGraphNode node) {
+        setFramedNode(this, node == null ? null : requireOpen(node, "node"));
     }
 
     /**
@@ -319,6 +356,12 @@ public final class OffscreenRenderer extends NativePeer {
     private static native void cleanupNative(OffscreenRenderer peer);
 
     private static native void setScene(OffscreenRenderer peer, Scene scene);
+
+    private static native void setOverlay(OffscreenRenderer peer, Overlay overlay);
+
+    private static native void setScreenOverlay(OffscreenRenderer peer, Overlay overlay);
+
+    private static native void setFramedNode(OffscreenRenderer peer, SceneGraphNode node);
 
     private static native void zoomExtents(OffscreenRenderer peer);
 
