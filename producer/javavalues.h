@@ -110,6 +110,26 @@ std::vector<std::vector<Value>> copyRows(JNIEnv* env, jobjectArray sources, cons
     return rows;
 }
 
+/// The arrays of each part; none for a part that is null.
+/// @param kind the name of a part in messages
+template <class Value>
+std::vector<std::vector<std::vector<Value>>> copyParts(JNIEnv* env, jobjectArray sources, const char* kind)
+{
+    if (sources == nullptr) {
+        throw std::invalid_argument(std::string("The array of each ") + kind + " is null.");
+    }
+    std::vector<std::vector<std::vector<Value>>> parts(static_cast<std::size_t>(env->GetArrayLength(sources)));
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const auto arrays = static_cast<jobjectArray>(env->GetObjectArrayElement(sources, static_cast<jsize>(i)));
+        vxbase::throwIfPending(env);
+        if (arrays != nullptr) {
+            parts[i] = copyRows<Value>(env, arrays, (kind + (' ' + std::to_string(i))).c_str());
+            env->DeleteLocalRef(arrays);
+        }
+    }
+    return parts;
+}
+
 /// A new Java array of arrays.
 jobjectArray toJavaRows(JNIEnv* env, const std::vector<std::vector<double>>& rows);
 jobjectArray toJavaRows(JNIEnv* env, const std::vector<std::vector<float>>& rows);

@@ -38,6 +38,21 @@ public:
             }
         });
     }
+    /// Appends `count` triangles `at(i)` of any type that has the corners a, b and c. Throws std::out_of_range, and
+    /// appends none, if there is not enough space.
+    template <class TriangleAt>
+    void appendTrianglesOf(int count, TriangleAt at)
+    {
+        requireSpace(count, 3);
+        append(3 * count, [=](auto* out) {
+            for (int i = 0; i < count; ++i, out += 3) {
+                const auto& triangle = at(i);
+                put(out[0], triangle.a);
+                put(out[1], triangle.b);
+                put(out[2], triangle.c);
+            }
+        });
+    }
     /// Appends the triangles between consecutive rows of vertices, two for each vertex except for the last of a row:
     /// (i, i + n, i + n + 1) and (i, i + n + 1, i + 1) in rows of n vertices. Throws std::out_of_range, and appends
     /// none, if there is not enough space.

@@ -11,7 +11,7 @@ class SelectablePart;
 /// can leave out what shows marked parts. No operation looks at more than one part.
 class VX_API MarkCounts {
 public:
-    /// Sets or removes a primary, secondary or hidden mark of a part. Doing so twice changes nothing.
+    /// Sets or removes a primary, secondary, hidden or mesh mark of a part. Doing so twice changes nothing.
     void setMark(SelectablePart& part, MarkFlags mark, bool on);
     /// Sets or removes the unpickable mark, which does not show and is not counted.
     static void setUnpickableMark(SelectablePart& part, bool on);

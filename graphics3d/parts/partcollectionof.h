@@ -65,27 +65,42 @@ public:
     int getNumPrimary() const { return m_marks.getNumPrimary(); }
     int getNumLabels() const { return m_numLabels; }
 
-    unsigned short getMarkFlags(int index) const override { return getPart(index).getDisplayFlags(); }
-    void setPrimaryMark(bool on, int index) override { m_marks.setMark(part(index), MarkPrimary, on); }
-    bool isPrimaryMarked(int index) const override { return getPart(index).isMarked(MarkPrimary); }
-    void setSecondaryMark(bool on, int index) override { m_marks.setMark(part(index), MarkSecondary, on); }
-    bool isSecondaryMarked(int index) const override { return getPart(index).isMarked(MarkSecondary); }
-    void setHiddenMark(bool on, int index) override { m_marks.setMark(part(index), MarkHidden, on); }
-    bool isHiddenMarked(int index) const override { return getPart(index).isMarked(MarkHidden); }
-    void setUnpickableMark(bool on, int index) override { MarkCounts::setUnpickableMark(part(index), on); }
-    bool isUnpickableMarked(int index) const override { return getPart(index).isMarked(MarkUnpickable); }
-    void adjacentPrimaryMark(bool on, int index) override { m_marks.adjacentPrimaryMark(part(index), on); }
-    void adjacentSecondaryMark(bool on, int index) override { m_marks.adjacentSecondaryMark(part(index), on); }
-    bool adjacentHiddenMark(bool on, int index, int level, int sourceFlags) override
+    // Final, so that calls for a known collection need no dispatch.
+
+    unsigned short getMarkFlags(int index) const final { return getPart(index).getDisplayFlags(); }
+    void setPrimaryMark(bool on, int index) final { m_marks.setMark(part(index), MarkPrimary, on); }
+    bool isPrimaryMarked(int index) const final { return getPart(index).isMarked(MarkPrimary); }
+    void setSecondaryMark(bool on, int index) final { m_marks.setMark(part(index), MarkSecondary, on); }
+    bool isSecondaryMarked(int index) const final { return getPart(index).isMarked(MarkSecondary); }
+    void setHiddenMark(bool on, int index) final { m_marks.setMark(part(index), MarkHidden, on); }
+    bool isHiddenMarked(int index) const final { return getPart(index).isMarked(MarkHidden); }
+    void setUnpickableMark(bool on, int index) final { MarkCounts::setUnpickableMark(part(index), on); }
+    bool isUnpickableMarked(int index) const final { return getPart(index).isMarked(MarkUnpickable); }
+    void adjacentPrimaryMark(bool on, int index) final { m_marks.adjacentPrimaryMark(part(index), on); }
+    void adjacentSecondaryMark(bool on, int index) final { m_marks.adjacentSecondaryMark(part(index), on); }
+    bool adjacentHiddenMark(bool on, int index, int level, int sourceFlags) final
     {
         return m_marks.adjacentHiddenMark(part(index), on, level, sourceFlags);
     }
-    bool adjacentUnpickableMark(bool on, int index, int level, int sourceFlags) override
+    bool adjacentUnpickableMark(bool on, int index, int level, int sourceFlags) final
     {
         return MarkCounts::adjacentUnpickableMark(part(index), on, level, sourceFlags);
     }
 
+    /// Sets or removes a mark of a part's own.
+    void setMark(MarkFlags mark, bool on, int index)
+    {
+        if (mark == MarkUnpickable) {
+            setUnpickableMark(on, index);
+        } else {
+            m_marks.setMark(part(index), mark, on);
+        }
+    }
+
 protected:
+    /// Sets or removes the mark of a part that has a mesh.
+    void markMeshed(int index, bool on) { m_marks.setMark(part(index), MarkMeshed, on); }
+
     Part& part(int index) { return *m_parts[static_cast<std::size_t>(index)]; }
 
     /// Stores the next part, of which the collection becomes the owner, and returns its index.

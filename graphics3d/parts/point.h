@@ -1,10 +1,8 @@
 #pragma once
 
 #include "graphics3d/foundation/changenumber.h"
-#include "graphics3d/parts/sceneobjectlabel.h"
+#include "graphics3d/parts/partlabel.h"
 #include "graphics3d/parts/selectablepart.h"
-
-#include <boost/shared_ptr.hpp>
 
 namespace vxgraphics3d {
 
@@ -20,23 +18,22 @@ public:
     /// Labels the point with a new label; without a position it gets none and loses the one it has.
     /// @return whether it has a label now
     bool setLabel(const vxbase::UString& text);
-    void removeLabel();
+    void removeLabel() { m_label.remove(); }
 
     /// Counts the positions set.
     int getGeometryChangeId() const { return m_geometryChangeId.get(); }
     /// Counts the labels set and removed.
-    int getLabelChangeId() const { return m_labelChangeId.get(); }
+    int getLabelChangeId() const { return m_label.getChangeId(); }
     const Vector3f& getPosition() const { return m_position; }
     bool hasPosition() const { return m_hasPosition; }
     /// The label, or null.
-    const boost::shared_ptr<SceneObjectLabel>& getLabel() const { return m_label; }
+    const boost::shared_ptr<SceneObjectLabel>& getLabel() const { return m_label.get(); }
 
 private:
     ChangeNumber m_geometryChangeId;
-    ChangeNumber m_labelChangeId;
     Vector3f m_position;
     bool m_hasPosition = false;
-    boost::shared_ptr<SceneObjectLabel> m_label;
+    PartLabel m_label;
 };
 
 } // namespace vxgraphics3d

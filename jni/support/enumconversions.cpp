@@ -33,6 +33,9 @@ constexpr ConversionTable<4> c_markingTypes{{{{SceneGraphObject::MarkingPrimary,
                                             SceneGraphObject::MarkingPrimary,
                                             0};
 
+constexpr ConversionTable<5> c_objectPartTypes{
+    {{{PartPoint, 1}, {PartLine, 2}, {PartSheet, 3}, {PartSolid, 4}, {PartAll, 5}}}, PartPoint, 0};
+
 constexpr auto c_markingRows = sameNumbers<9>();
 
 constexpr ConversionTable<3> c_markingModes{
@@ -132,6 +135,11 @@ int cppPickedObjectTypeToJava(PickedObject::ObjectType type)
 SceneGraphObject::MarkingType javaMarkingTypeToCpp(int type)
 {
     return static_cast<SceneGraphObject::MarkingType>(c_markingTypes.toCpp(type));
+}
+
+ObjectPartType javaObjectPartTypeToCpp(int part)
+{
+    return static_cast<ObjectPartType>(c_objectPartTypes.toCpp(part));
 }
 
 MarkingType javaMarkingRowToCpp(int row)

@@ -4,6 +4,7 @@
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/foundation/rendersymbol.h"
 #include "graphics3d/foundation/textformat.h"
+#include "graphics3d/geometry/objectparttype.h"
 #include "graphics3d/lights/lightsource.h"
 #include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/picking/pickedobject.h"
@@ -31,6 +32,8 @@ int cppPickedObjectTypeToJava(PickedObject::ObjectType type);
 
 /// Java 1 to 4 are the actions 0 to 3; anything else 0.
 SceneGraphObject::MarkingType javaMarkingTypeToCpp(int type);
+/// Java 1 to 5 are the kinds 0 to 4, of which the last is all; anything else 0.
+ObjectPartType javaObjectPartTypeToCpp(int part);
 /// Java 0 to 8 are the rows of the same number; anything else 0.
 MarkingType javaMarkingRowToCpp(int row);
 /// Java 1 to 3 are the modes 0 to 2; anything else 0.

@@ -25,6 +25,10 @@
  *   <li>A {@link Scene} has a tree and a light. The tree starts at its {@link SceneGraphRoot}, which has one child.
  *   <li>Every node is a {@link SceneGraphNode}. A {@link SceneGraphGroup} has any number of children, a
  *       {@link SceneGraphObject} shows geometry, and a {@link SceneGraphPlotGroup} has plots.
+ *   <li>A {@link SceneGraphDrawObject} shows geometry whose parts can be marked and picked:
+ *       {@link SceneGraphDrawObjectSolid}, {@link SceneGraphDrawObjectFace}, {@link SceneGraphDrawObjectCurve} and
+ *       {@link SceneGraphDrawObjectPoint}. {@link MarkingAction} and {@link ObjectPartType} say what is done to which
+ *       parts.
  *   <li>A {@link SceneGraphPlot} shows the values of one record with a colour table, a legend and a title:
  *       {@link SceneGraphPlotSurface2d}, {@link SceneGraphPlotSurface3d}, {@link SceneGraphPlotDomain3d},
  *       {@link SceneGraphPlotSlice3d} and {@link SceneGraphPlotMesh3d}. Levels of a field are a

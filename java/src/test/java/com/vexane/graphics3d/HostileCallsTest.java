@@ -8,6 +8,7 @@ import static org.junit.jupiter.api.Assertions.assertTrue;
 import com.vexane.base.NativeException;
 import com.vexane.base.NativePeer;
 import com.vexane.producer.PostDataObject;
+import com.vexane.producer.RenderDraw3D;
 import java.io.File;
 import java.io.IOException;
 import java.lang.reflect.InvocationTargetException;
@@ -184,7 +185,7 @@ class HostileCallsTest {
             }
         }
 
-        /** Connects the parts to a scene with plots, which requires everything to be usable. */
+        /** Connects the parts to a scene with plots and solids, which requires everything to be usable. */
         private void fill(PeerRecipes peers) {
             SceneGraphRoot root = peers.first(SceneGraphRoot.class);
             SceneGraphPlotGroup group = (SceneGraphPlotGroup) peers.another(SceneGraphPlotGroup.class);
@@ -198,6 +199,10 @@ class HostileCallsTest {
             assertEquals(3, group.getNoOfPlots());
             for (SceneGraphPlot plot : peers.allOf(SceneGraphPlot.class).toArray(SceneGraphPlot[]::new)) {
                 plot.fillPlot(peers.another(PostDataObject.class));
+            }
+            for (NativePeer solid : peers.allOf(SceneGraphDrawObjectSolid.class)) {
+                ((SceneGraphDrawObjectSolid) solid).fillObject(peers.another(RenderDraw3D.class));
+                ((SceneGraphDrawObjectSolid) solid).markPart(ObjectPartType.SHEET, 0, MarkingAction.HIDDEN);
             }
         }
 

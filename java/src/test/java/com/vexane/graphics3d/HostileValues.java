@@ -34,6 +34,17 @@ final class HostileValues {
                 null, {}, {{1, 1}}, {null}, {NO_NUMBERS}, {{0, 0, 0, Double.NaN}}, {{0, 0, 0, -1}},
                 {{0, 0, 0, 1e-300}, {1, 1, 1, 1e300}}, {{0, 1}, {0, 1}, null},
                 {{0, 1}, {0, 1}, {0}}, {{0, 1}, {0, 1}, {Double.NaN, 1e300}}}),
+            Map.entry(int[][].class, new int[][][] {
+                null, {}, {null}, {{0}, {1}, {2}}, {{-1}, {0}, {0x7fffffff}}, {{0}, {0}}, {{0}, {0}, {0}, {0}}}),
+            Map.entry(double[][][].class, new double[][][][] {
+                null, {}, {null}, {{}}, {{null}}, {{{0, 1, 1}, {0, 0, 1}}}, {{{0, 1, 1}, {0, 0, 1}, {0, 0, 2}}},
+                {{{0, 1, 1}}}, {{{0}, {0, 1}}}, {{NO_NUMBERS, NO_NUMBERS}}}),
+            Map.entry(float[][][].class, new float[][][][] {
+                null, {}, {null}, {{}}, {{null}}, {new float[3][3]}, {new float[3][1]}}),
+            Map.entry(int[][][].class, new int[][][][] {
+                null, {}, {null}, {{}}, {{null}}, {{{0}, {1}, {2}}}, {{{0}, {1}, {3}}}, {{{0}, {-1}}}, new int[6][][],
+                {{{0}}, null, null, null, null, null}, {null, {{0}}, {{0}}, {{0}}, {{0}}, {{0}}},
+                {{{2}}, {{0x7fffffff}}, null, {{-1}}, {}, {null}}}),
             Map.entry(Object[].class, new Object[][] {
                 null, {}, {null, null}, {"text"}, {new int[] {0, 1, 2}}, {new double[3], null},
                 {new double[3], new double[3], new double[3]}, {new double[3], new double[1]}, {new float[3]},

@@ -3,12 +3,32 @@ package com.vexane.graphics3d;
 import com.vexane.base.NativePeer;
 import com.vexane.interaction.CameraInteraction;
 import com.vexane.producer.DataRole;
+<<<<<<< HEAD
 import com.vexane.producer.EditGeometryBuilder;
+=======
+import com.vexane.producer.GeometryBuilder1D;
+import com.vexane.producer.GeometryBuilder2D;
+import com.vexane.producer.GeometryBuilder3D;
+import com.vexane.producer.MeshKind;
+>>>>>>> main
 import com.vexane.producer.PlotKind;
 import com.vexane.producer.PostDataBuilder;
 import com.vexane.producer.PostDataGroup;
 import com.vexane.producer.PostDataObject;
+<<<<<<< HEAD
 import com.vexane.producer.RenderDrawEdit2D;
+=======
+import com.vexane.producer.ProjectionBuilder2D;
+import com.vexane.producer.RenderDraw1D;
+import com.vexane.producer.RenderDraw2D;
+import com.vexane.producer.RenderDraw3D;
+import com.vexane.producer.RenderDrawProj2D;
+import com.vexane.producer.RenderGeom1D;
+import com.vexane.producer.RenderGeom2D;
+import com.vexane.producer.RenderGeom3D;
+import com.vexane.producer.RenderMeshCollection;
+import com.vexane.producer.SheetGeometry;
+>>>>>>> main
 import java.util.ArrayList;
 import java.util.LinkedHashMap;
 import java.util.List;
@@ -18,6 +38,8 @@ import java.util.function.Function;
 /** How to make a peer of each class: a new class is added here only, for tests of all natives. */
 final class PeerRecipes implements AutoCloseable {
     private static final Map<Class<?>, Function<PeerRecipes, NativePeer>> RECIPES = new LinkedHashMap<>();
+    private static final double[] AXIS = {0, 1, 3};
+    private static final double[] OTHER_AXIS = {0, 2, 2};
 
     private static <T extends NativePeer> void recipe(Class<T> type, Function<PeerRecipes, T> maker) {
         RECIPES.put(type, maker::apply);
@@ -59,6 +81,10 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphGroup.class, made -> new SceneGraphGroup());
         recipe(SceneGraphPlotGroup.class, made -> new SceneGraphPlotGroup());
         recipe(SceneGraphObject.class, made -> new TestRenderer.Leaf());
+        recipe(SceneGraphDrawObjectPoint.class, made -> new SceneGraphDrawObjectPoint(1));
+        recipe(SceneGraphDrawObjectCurve.class, made -> new SceneGraphDrawObjectCurve(2));
+        recipe(SceneGraphDrawObjectFace.class, made -> new SceneGraphDrawObjectFace(3));
+        recipe(SceneGraphDrawObjectSolid.class, made -> new SceneGraphDrawObjectSolid(4));
         recipe(SceneGraphPlotSurface2d.class, made -> new SceneGraphPlotSurface2d(1));
         recipe(SceneGraphPlotSurface3d.class, made -> new SceneGraphPlotSurface3d(2));
         recipe(SceneGraphPlotDomain3d.class, made -> new SceneGraphPlotDomain3d(3));
@@ -94,11 +120,23 @@ final class PeerRecipes implements AutoCloseable {
             return curve;
         });
         recipe(PostDataObject.class, made -> recordForEveryPlot());
+<<<<<<< HEAD
         recipe(RenderDrawEdit2D.class, made -> {
             EditGeometryBuilder geometry = new EditGeometryBuilder();
             geometry.addLine(geometry.addVertex(0, 0), geometry.addVertex(1, 1));
             return geometry.build();
         });
+=======
+        recipe(RenderDraw1D.class, made -> rod().buildDraw(1, "Rod"));
+        recipe(RenderDraw2D.class, made -> area().buildDraw(2, "Area"));
+        recipe(RenderDraw3D.class, made -> shell().buildDraw(3, "Shell"));
+        recipe(RenderGeom1D.class, made -> rod().buildGeom());
+        recipe(RenderGeom2D.class, made -> area().buildGeom());
+        recipe(RenderGeom3D.class, made -> shell().buildGeom());
+        recipe(RenderDrawProj2D.class, made -> new ProjectionBuilder2D().points(AXIS, AXIS, new int[3])
+                .addCurve(ProjectionBuilder2D.PRIMARY, AXIS, AXIS).build(4, "Section"));
+        recipe(RenderMeshCollection.class, made -> meshes());
+>>>>>>> main
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
         try {
             // The renderer is not built everywhere.
@@ -113,6 +151,30 @@ final class PeerRecipes implements AutoCloseable {
         } catch (ClassNotFoundException e) {
             // Then none of its natives can be called.
         }
+    }
+
+    private static GeometryBuilder1D rod() {
+        return new GeometryBuilder1D().points(AXIS).addCurve(AXIS);
+    }
+
+    private static SheetGeometry triangle(double[]... axes) {
+        return new SheetGeometry().coordinates(axes).triangles(new int[] {0}, new int[] {1}, new int[] {2});
+    }
+
+    private static GeometryBuilder2D area() {
+        return new GeometryBuilder2D().points(AXIS, OTHER_AXIS).addCurve(AXIS, OTHER_AXIS)
+                .addSheet(triangle(AXIS, OTHER_AXIS)).sheetToLine(new int[] {0});
+    }
+
+    private static GeometryBuilder3D shell() {
+        return new GeometryBuilder3D().points(AXIS, OTHER_AXIS, AXIS).addCurve(AXIS, OTHER_AXIS, AXIS)
+                .addSheet(triangle(AXIS, OTHER_AXIS, AXIS).domains(-1, 0)).sheetToLine(new int[] {0});
+    }
+
+    private static RenderMeshCollection meshes() {
+        RenderMeshCollection meshes = new RenderMeshCollection();
+        meshes.addLine(MeshKind.EDGE_3D, 0, AXIS, OTHER_AXIS, AXIS);
+        return meshes;
     }
 
     /** A record in which one array has all roles. */

@@ -1,5 +1,5 @@
 /**
- * Records of post-processing results from Java arrays and direct buffers.
+ * Records of post-processing results and of geometry from Java arrays and direct buffers.
  *
  * <ul>
  *   <li>A {@link PostDataGroup} refers to the arrays of one part of a record: points, elements, normals and data.
@@ -18,8 +18,19 @@
  * }
  * }</pre>
  *
- * <p>Groups and builders are plain Java objects, which need no closing. The record is a peer: {@code build} copies the
- * arrays into it once, a plot copies what it needs from it, and it can be closed right after the fill. Records are
+ * <p>Geometry has records of its own, all of them a {@link GeometryRecord}:
+ *
+ * <ul>
+ *   <li>{@link GeometryBuilder1D}, {@link GeometryBuilder2D} and {@link GeometryBuilder3D} make the record of a draw
+ *       object ({@link RenderDraw1D}, {@link RenderDraw2D}, {@link RenderDraw3D}) or of a physics object ({@link
+ *       RenderGeom1D}, {@link RenderGeom2D}, {@link RenderGeom3D}) of points, curves and sheets, each a {@link
+ *       SheetGeometry}. They derive what is not given, such as most of the relations ({@link GeometryRelation}).
+ *   <li>A {@link RenderMeshCollection} has meshes of parts of a physics object, each of a {@link MeshKind}.
+ *   <li>{@link ProjectionBuilder2D} makes the {@link RenderDrawProj2D} of geometry that is projected to a plane.
+ * </ul>
+ *
+ * <p>Groups and builders are plain Java objects, which need no closing. Records are peers: {@code build} copies the
+ * arrays into one, a plot copies what it needs from it, and it can be closed right after the fill. Records are
  * independent of each other and of scenes; each is used by one thread at a time.
  */
 package com.vexane.producer;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "graphics3d/geometry/scenegraphdrawobject.h"
+
+namespace vxdatacarrier {
+class RenderDraw2D;
+class RenderDraw3D;
+} // namespace vxdatacarrier
+
+namespace vxgraphics3d {
+
+/// A draw object that shows a face: sheets with their lines and points.
+class VX_API SceneGraphDrawObjectFace : public SceneGraphDrawObject {
+public:
+    static boost::shared_ptr<SceneGraphDrawObjectFace> create(int id);
+
+    // Replaces everything by the geometry of a record. Throws std::invalid_argument or std::out_of_range, and changes
+    // nothing, if the record is not consistent; the text names what is wrong.
+
+    void fillData(const vxdatacarrier::RenderDraw2D& record);
+    void fillData(const vxdatacarrier::RenderDraw3D& record);
+
+protected:
+    explicit SceneGraphDrawObjectFace(int id) : SceneGraphDrawObject(ObjectFace, id, PartSheet) {}
+};
+
+} // namespace vxgraphics3d
