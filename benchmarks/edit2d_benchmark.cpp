@@ -1,8 +1,7 @@
 // Edges of a geometry that is edited, next to the bare evaluation of their points.
 
-#include "graphics3d/overlays/overlayrenderedit2d.h"
-
 #include "benchmarks/allocations.h"
+#include "graphics3d/overlays/overlayrenderedit2d.h"
 #include "tests/support/editrecord.h"
 
 #include <benchmark/benchmark.h>
@@ -134,7 +133,8 @@ void evaluateEdges_limit(benchmark::State& state)
 BENCHMARK(evaluateEdges);
 BENCHMARK(evaluateEdges_limit);
 
-// --- one step of dragging a vertex: the limit evaluates its edges and looks at all others once -------------------------
+// --- one step of dragging a vertex: the limit evaluates its edges and looks at all others once
+// -------------------------
 
 constexpr int c_dragged = 5000;
 

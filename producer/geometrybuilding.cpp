@@ -123,8 +123,8 @@ void fillSheets(Geometry& record, const GeometryParts& parts)
     for (std::size_t i = 0; i < parts.sheets.size(); ++i) {
         fillSheet(record.m_sheets[i], parts.sheets[i], "sheet " + std::to_string(i));
     }
-    setRelation(record.m_sheetToLine, parts.sheetToLine, record.m_numSheets, record.m_numCurves, "sheetToLine",
-                "sheet", "curve");
+    setRelation(record.m_sheetToLine, parts.sheetToLine, record.m_numSheets, record.m_numCurves, "sheetToLine", "sheet",
+                "curve");
     setRelation(record.m_sheetToPoint, parts.sheetToPoint, record.m_numSheets, record.m_numPoints, "sheetToPoint",
                 "sheet", "point");
 }

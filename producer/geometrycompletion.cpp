@@ -88,10 +88,10 @@ void completeSubdomains(Geometry3D& record)
         const auto check = [&](int domain, const char* field) {
             if (domain < -1 || domain >= numDomains) {
                 throw std::out_of_range("sheet " + std::to_string(i) + ": " + field + " is " + std::to_string(domain) +
-                                        (isGiven ? "; number of subdomains: " + std::to_string(numDomains)
-                                                 : ", but " + std::to_string(record.m_numSheets) +
-                                                       " sheets bound at most " + std::to_string(numDomains) +
-                                                       " domains"));
+                                        (isGiven
+                                             ? "; number of subdomains: " + std::to_string(numDomains)
+                                             : ", but " + std::to_string(record.m_numSheets) +
+                                                   " sheets bound at most " + std::to_string(numDomains) + " domains"));
             }
             last = std::max(last, domain);
         };

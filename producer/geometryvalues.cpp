@@ -54,8 +54,8 @@ template <class Part>
 const Part& at(const std::unique_ptr<Part[]>& parts, int count, int index)
 {
     if (index < 0 || index >= count) {
-        throw std::out_of_range("There is no part " + std::to_string(index) + "; number of parts: " +
-                                std::to_string(count));
+        throw std::out_of_range("There is no part " + std::to_string(index) +
+                                "; number of parts: " + std::to_string(count));
     }
     return parts[static_cast<std::size_t>(index)];
 }

@@ -43,8 +43,8 @@ void takeSheets(GeometryParts& parts, JNIEnv* env, jobjectArray coordinates, job
         throw std::invalid_argument("The arrays of the sheets differ in length.");
     }
     for (std::size_t i = 0; i < numSheets; ++i) {
-        parts.sheets.push_back({std::move(sheetCoordinates[i]), std::move(sheetTriangles[i]),
-                                std::move(sheetNormals[i]), up[i], down[i]});
+        parts.sheets.push_back(
+            {std::move(sheetCoordinates[i]), std::move(sheetTriangles[i]), std::move(sheetNormals[i]), up[i], down[i]});
     }
 }
 
@@ -101,9 +101,9 @@ GeometryValues valuesOf(JNIEnv* env, jobject self)
 } // namespace
 
 VX_NATIVE(void, GeometryRecord, createNative)
-(JNIEnv* env, jclass, jobject self, jint dimension, jboolean isModel, jint id, jstring name, jobjectArray points, jobjectArray curves,
- jobjectArray sheets, jobjectArray triangles, jobjectArray normals, jintArray upDomains, jintArray downDomains,
- jobjectArray relations)
+(JNIEnv* env, jclass, jobject self, jint dimension, jboolean isModel, jint id, jstring name, jobjectArray points,
+ jobjectArray curves, jobjectArray sheets, jobjectArray triangles, jobjectArray normals, jintArray upDomains,
+ jintArray downDomains, jobjectArray relations)
 {
     guarded(env, [&] {
         GeometryParts parts;

@@ -67,10 +67,8 @@ GeometryParts twoTetrahedra()
     parts.curves = {axes({0, 1}), axes({0, 2}), axes({0, 3}), axes({1, 2}), axes({2, 3}),
                     axes({3, 1}), axes({1, 4}), axes({2, 4}), axes({3, 4})};
     const auto sheet = [&](std::size_t a, std::size_t b, std::size_t c, int up, int down) {
-        return GeometryParts::Sheet{.coordinates = axes({a, b, c}),
-                                    .triangles = {{0}, {1}, {2}},
-                                    .upDomain = up,
-                                    .downDomain = down};
+        return GeometryParts::Sheet{
+            .coordinates = axes({a, b, c}), .triangles = {{0}, {1}, {2}}, .upDomain = up, .downDomain = down};
     };
     parts.sheets = {sheet(0, 2, 1, -1, 0), sheet(0, 1, 3, -1, 0), sheet(0, 3, 2, -1, 0), sheet(1, 2, 3, 1, 0),
                     sheet(1, 2, 4, -1, 1), sheet(2, 3, 4, -1, 1), sheet(3, 1, 4, -1, 1)};
@@ -92,8 +90,7 @@ TEST(GeometryBuilding, derivesBoxesNormalsAndAllRelationsOfASolid)
 
     EXPECT_EQ(rowsOf(solid.m_lineToPoint),
               (Rows{{0, 1}, {0, 2}, {0, 3}, {1, 2}, {2, 3}, {3, 1}, {1, 4}, {2, 4}, {3, 4}}));
-    EXPECT_EQ(rowsOf(solid.m_pointToLine),
-              (Rows{{0, 1, 2}, {0, 3, 5, 6}, {1, 3, 4, 7}, {2, 4, 5, 8}, {6, 7, 8}}));
+    EXPECT_EQ(rowsOf(solid.m_pointToLine), (Rows{{0, 1, 2}, {0, 3, 5, 6}, {1, 3, 4, 7}, {2, 4, 5, 8}, {6, 7, 8}}));
     EXPECT_EQ(rowsOf(solid.m_sheetToPoint),
               (Rows{{0, 2, 1}, {0, 1, 3}, {0, 3, 2}, {1, 2, 3}, {1, 2, 4}, {2, 3, 4}, {3, 1, 4}}));
     EXPECT_EQ(rowsOf(solid.m_lineToSheet)[3], (std::vector<int>{0, 3, 4}));
@@ -127,11 +124,11 @@ TEST(GeometryBuilding, takesGivenRelationsInsteadOfDerivingThem)
 TEST(GeometryBuilding, buildsAPlaneWithPartsWithoutGeometry)
 {
     constexpr double third = 1.0 / 3.0;
-    const auto face = buildGeometry<RenderDraw2D>({.points = {{third, 2}, {-1, 5}},
-                                                   .curves = {{{third, 1, third}, {-1, 0, -1}}, {}, {{0, 2}, {0, 5}}},
-                                                   .sheets = {{}, {.coordinates = {{0, 1, 0}, {0, 0, 1}},
-                                                                   .triangles = {{0}, {1}, {2}}}},
-                                                   .sheetToLine = {{{1}, {0, 2}}}});
+    const auto face = buildGeometry<RenderDraw2D>(
+        {.points = {{third, 2}, {-1, 5}},
+         .curves = {{{third, 1, third}, {-1, 0, -1}}, {}, {{0, 2}, {0, 5}}},
+         .sheets = {{}, {.coordinates = {{0, 1, 0}, {0, 0, 1}}, .triangles = {{0}, {1}, {2}}}},
+         .sheetToLine = {{{1}, {0, 2}}}});
     EXPECT_EQ(face.m_snapX, (std::vector<double>{third, 2}));
     EXPECT_EQ(face.m_snapY, (std::vector<double>{-1, 5}));
     EXPECT_EQ(valuesOf(face.m_box), (std::vector<float>{0, 2, -1, 5}));
@@ -156,12 +153,14 @@ TEST(GeometryBuilding, namesWhatDoesNotFitTogether)
     using P = GeometryParts;
     const std::pair<std::string, GeometryParts> cases[] = {
         {"points: 2 arrays, not 3", changed([](P& p) { p.points.pop_back(); })},
-        {"curve 2: coordinates[1] has 3 entries, curve 2: coordinates[0] has 2", changed([](P& p) { p.curves[2][1].push_back(0); })},
+        {"curve 2: coordinates[1] has 3 entries, curve 2: coordinates[0] has 2",
+         changed([](P& p) { p.curves[2][1].push_back(0); })},
         {"curve 1 has no vertices", changed([](P& p) { p.curves[1] = P::DoubleArrays(3); })},
         {"points[1][4] is not finite in single precision", changed([](P& p) { p.points[1][4] = std::nan(""); })},
         {"curve 0: coordinates[0][1] is not finite in single precision",
          changed([](P& p) { p.curves[0][0][1] = 1e39; })},
-        {"sheet 4: triangles[2][0] is vertex 3, but there are 3", changed([](P& p) { p.sheets[4].triangles[2][0] = 3; })},
+        {"sheet 4: triangles[2][0] is vertex 3, but there are 3",
+         changed([](P& p) { p.sheets[4].triangles[2][0] = 3; })},
         {"sheet 4: triangles: 2 arrays, not 3", changed([](P& p) { p.sheets[4].triangles.pop_back(); })},
         {"sheet 5: normals have 1 entries for 3 vertices",
          changed([](P& p) { p.sheets[5].normals = P::FloatArrays(3, std::vector<float>(1)); })},
@@ -202,9 +201,9 @@ TEST(GeometryBuilding, makesAModelOfASolidAndItsDomains)
     solid.m_sheets[2].m_box = {}; // as a reader leaves it
     solid.m_sheetToPoint = {};
     const RenderGeom3D model = buildModel(solid, up, down);
-    for (const auto relation : {&RenderGeom3D::m_subdomainToSheet, &RenderGeom3D::m_subdomainToLine,
-                                &RenderGeom3D::m_sheetToSubdomain, &RenderGeom3D::m_pointToSubdomain,
-                                &RenderGeom3D::m_sheetToPoint, &RenderGeom3D::m_pointToLine}) {
+    for (const auto relation :
+         {&RenderGeom3D::m_subdomainToSheet, &RenderGeom3D::m_subdomainToLine, &RenderGeom3D::m_sheetToSubdomain,
+          &RenderGeom3D::m_pointToSubdomain, &RenderGeom3D::m_sheetToPoint, &RenderGeom3D::m_pointToLine}) {
         EXPECT_EQ(rowsOf(model.*relation), rowsOf(expected.*relation));
     }
     EXPECT_EQ(valuesOf(model.m_sheets[2].m_box), valuesOf(expected.m_sheets[2].m_box));
@@ -229,7 +228,8 @@ TEST(GeometryCompletion, derivesARelationFromItsInverse)
 
 TEST(ProjectionBuilding, takesOneKindPerPart)
 {
-    ProjectionParts parts = {.points = {{0.1}, {3}}, .pointKinds = {1}, .curves = {{{1, 2}, {5, 5}}}, .curveKinds = {4}};
+    ProjectionParts parts = {
+        .points = {{0.1}, {3}}, .pointKinds = {1}, .curves = {{{1, 2}, {5, 5}}}, .curveKinds = {4}};
     const RenderDrawProj2D record = buildProjection(parts);
     EXPECT_EQ(record.m_snapX, (std::vector<double>{0.1}));
     EXPECT_EQ(valuesOf(record.m_box), (std::vector<float>{0.1f, 2, 3, 5}));

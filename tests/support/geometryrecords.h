@@ -86,10 +86,8 @@ Record twoRectangles(int id)
         const float left = i == 0 ? 0.0f : 1.0f;
         const float right = i == 0 ? 1.0f : 3.0f;
         sheet.m_isValid = true;
-        sheet.m_vertices = arrayOf(std::vector<CoordsNormal3D>{{left, 0, 0, 0, 0, 1},
-                                                               {right, 0, 0, 0, 0, 1},
-                                                               {right, 1, 0, 0, 0, 1},
-                                                               {left, 1, 0, 0, 0, 1}});
+        sheet.m_vertices = arrayOf(std::vector<CoordsNormal3D>{
+            {left, 0, 0, 0, 0, 1}, {right, 0, 0, 0, 0, 1}, {right, 1, 0, 0, 0, 1}, {left, 1, 0, 0, 0, 1}});
         sheet.m_numVertices = 4;
         sheet.m_triangles = arrayOf(std::vector<Triangle>{{0, 1, 2}, {0, 2, 3}});
         sheet.m_numTriangles = 2;

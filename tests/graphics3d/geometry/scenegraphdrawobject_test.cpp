@@ -3,7 +3,6 @@
 #include "graphics3d/geometry/scenegraphdrawobjectface.h"
 #include "graphics3d/geometry/scenegraphdrawobjectpoint.h"
 #include "graphics3d/geometry/scenegraphdrawobjectsolid.h"
-
 #include "tests/support/capturedlog.h"
 #include "tests/support/failingallocation.h"
 #include "tests/support/geometryrecords.h"
@@ -226,7 +225,10 @@ TEST(SceneGraphDrawObject, refusesAnInconsistentRecordAndKeepsWhatItHas)
         {"vertices of line 2, but no array", [](auto& r) { r.m_curves[2].m_vertices.reset(); }},
         {"6 points, but no array", [](auto& r) { r.m_points.reset(); }},
         {"sheet to line has 1 rows for 2 parts", [](auto& r) { r.m_sheetToLine = relationOf({{0}}); }},
-        {"sheet to line: row 1 refers to line 7 of 7", [](auto& r) { r.m_sheetToLine = relationOf({{0}, {7}}); }},
+        {"sheet to line: row 1 refers to line 7 of 7",
+         [](auto& r) {
+             r.m_sheetToLine = relationOf({{0}, {7}});
+         }},
         {"line to point: row 3 is outside", [](auto& r) { r.m_lineToPoint.m_rows[3].start = 13; }},
         {"line to point: row 1 is outside", [](auto& r) { r.m_lineToPoint.m_rows[1].count = -2; }},
         {"overlaps", [](auto& r) { r.m_lineToPoint.m_rows[0].count = 4; }},

@@ -2,11 +2,11 @@
 #include "graphics3d/parts/meshablelinecollection.h"
 #include "graphics3d/parts/meshablesheetcollection.h"
 #include "graphics3d/parts/subdomaincollection.h"
-
 #include "tests/support/failingallocation.h"
 
-#include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
+
+#include <boost/make_shared.hpp>
 
 #include <limits>
 #include <map>
@@ -53,7 +53,8 @@ TEST(Line, pointsAlongItAreMeasuredByLength)
 {
     LineCollection lines;
     lines.allocateParts(3);
-    const Vector3f points[] = {{0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 0.0f}, {3.0f, 0.0f, 0.0f}, {3.0f, 4.0f, 0.0f}, {3.0f, 4.0f, 1.0f}};
+    const Vector3f points[] = {
+        {0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 0.0f}, {3.0f, 0.0f, 0.0f}, {3.0f, 4.0f, 0.0f}, {3.0f, 4.0f, 1.0f}};
     lines.addPart(4);
     lines.appendPartPolyline(0, points, 5);
     const Line& line = lines.getPart(0);
@@ -63,8 +64,10 @@ TEST(Line, pointsAlongItAreMeasuredByLength)
         float fraction;
         Vector3f position, normal, direction;
     };
-    for (const Case& c : {Case{0.0f, {0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 0.0f}}, Case{0.25f, {2.0f, 0.0f, 0.0f}, {0.0f, 1.0f, 0.0f}, {3.0f, 0.0f, 0.0f}},
-                          Case{0.5f, {3.0f, 1.0f, 0.0f}, {-1.0f, 0.0f, 0.0f}, {0.0f, 4.0f, 0.0f}}, Case{1.0f, {3.0f, 4.0f, 1.0f}, {0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 1.0f}}}) {
+    for (const Case& c : {Case{0.0f, {0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 0.0f}},
+                          Case{0.25f, {2.0f, 0.0f, 0.0f}, {0.0f, 1.0f, 0.0f}, {3.0f, 0.0f, 0.0f}},
+                          Case{0.5f, {3.0f, 1.0f, 0.0f}, {-1.0f, 0.0f, 0.0f}, {0.0f, 4.0f, 0.0f}},
+                          Case{1.0f, {3.0f, 4.0f, 1.0f}, {0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 1.0f}}}) {
         Vector3f position, normal, direction;
         ASSERT_TRUE(line.pointAlongLine(c.fraction, position, normal, direction));
         EXPECT_EQ(position, c.position) << c.fraction;
@@ -97,11 +100,13 @@ TEST(Sheet, theLabelIsOnTheSheetUnderItsCentre)
     SheetCollection sheets;
     sheets.allocateParts(5);
     // An angle of two unequal wings: its centre of area is outside of the surface.
-    const std::vector<Vector3f> angle = {{0.0f, 0.0f, 0.0f}, {0.0f, 1.0f, 0.0f}, {4.0f, 0.0f, 0.0f}, {4.0f, 1.0f, 0.0f}, {0.0f, 0.0f, 2.0f}, {0.0f, 1.0f, 2.0f}};
+    const std::vector<Vector3f> angle = {{0.0f, 0.0f, 0.0f}, {0.0f, 1.0f, 0.0f}, {4.0f, 0.0f, 0.0f},
+                                         {4.0f, 1.0f, 0.0f}, {0.0f, 0.0f, 2.0f}, {0.0f, 1.0f, 2.0f}};
     addSheet(sheets, angle, {{0, 2, 1}, {1, 2, 3}, {0, 1, 4}, {1, 5, 4}});
     addSheet(sheets, {{0.0f, 0.0f, 0.0f}, {3.0f, 0.0f, 0.0f}, {0.0f, 3.0f, 0.0f}}, {{0, 1, 2}});
     // A closed surface: the mean normal is zero.
-    addSheet(sheets, {{0.0f, 0.0f, 0.0f}, {1.0f, 0.0f, 0.0f}, {0.0f, 1.0f, 0.0f}, {0.0f, 0.0f, 1.0f}}, {{0, 2, 1}, {0, 1, 3}, {0, 3, 2}, {1, 2, 3}});
+    addSheet(sheets, {{0.0f, 0.0f, 0.0f}, {1.0f, 0.0f, 0.0f}, {0.0f, 1.0f, 0.0f}, {0.0f, 0.0f, 1.0f}},
+             {{0, 2, 1}, {0, 1, 3}, {0, 3, 2}, {1, 2, 3}});
     // Without area.
     addSheet(sheets, {{1.0f, 1.0f, 1.0f}, {2.0f, 2.0f, 2.0f}, {3.0f, 3.0f, 3.0f}}, {{0, 1, 2}});
     sheets.addPart(3, 0);
@@ -153,7 +158,8 @@ TEST(MeshableSheet, everyElementOfAMeshIsFlat)
     MeshableSheetCollection sheets;
     sheets.allocateParts(1);
     addSheet(sheets, {{0.0f, 0.0f, 0.0f}, {1.0f, 0.0f, 0.0f}, {0.0f, 1.0f, 0.0f}}, {{0, 1, 2}});
-    const Vector3f points[] = {{0.0f, 0.0f, 0.0f}, {2.0f, 0.0f, 0.0f}, {2.0f, 2.0f, 0.0f}, {0.0f, 2.0f, 0.0f}, {0.0f, 0.0f, 1.0f}};
+    const Vector3f points[] = {
+        {0.0f, 0.0f, 0.0f}, {2.0f, 0.0f, 0.0f}, {2.0f, 2.0f, 0.0f}, {0.0f, 2.0f, 0.0f}, {0.0f, 0.0f, 1.0f}};
     const Triangle triangle[] = {{0, 1, 4}};
     const Quad quad[] = {{0, 1, 2, 3}};
     sheets.setPartMesh(0, points, {}, {});

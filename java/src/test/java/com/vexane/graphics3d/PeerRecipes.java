@@ -2,6 +2,7 @@ package com.vexane.graphics3d;
 
 import com.vexane.base.NativePeer;
 import com.vexane.interaction.CameraInteraction;
+import com.vexane.interaction.CurveInteraction;
 import com.vexane.producer.DataRole;
 <<<<<<< HEAD
 import com.vexane.producer.EditGeometryBuilder;
@@ -138,6 +139,8 @@ final class PeerRecipes implements AutoCloseable {
         recipe(RenderMeshCollection.class, made -> meshes());
 >>>>>>> main
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
+        recipe(CurveInteraction.class, made -> CurveInteraction.connect(
+                made.first(TestRenderer.class), made.first(Overlay.class), 48));
         try {
             // The renderer is not built everywhere.
             Class<?> type = Class.forName("com.vexane.renderer.OffscreenRenderer");
