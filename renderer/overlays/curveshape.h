@@ -11,14 +11,10 @@ class OverlayCurve;
 
 namespace vxrenderer {
 
-/// Appends the segments of a polyline of `count` vertices of three floats as pairs of points.
-void appendPolyline(std::vector<vxgraphics3d::Vector3f>& lines, const float* vertices, int count);
-
 /// What is drawn of a curve, before its transformation: lines as pairs of points, and points, those that are marked
 /// apart from the others. Hidden edges and vertices are left out.
 ///
-/// The polygon of an edge shows how its control points bend it; a straight edge has none. Of an edge that is drawn
-/// between vertices the first and last control points are left out, because they have no influence on it.
+/// The polygon of an edge shows how its control points bend it; a straight edge has none.
 struct CurveShape {
     struct Number {
         vxgraphics3d::Vector3f position;
@@ -27,8 +23,6 @@ struct CurveShape {
 
     explicit CurveShape(const vxgraphics3d::OverlayCurve& curve);
 
-    /// Of all edges, for the fill.
-    std::vector<vxgraphics3d::Vector3f> outline;
     std::vector<vxgraphics3d::Vector3f> lines;
     std::vector<vxgraphics3d::Vector3f> markedLines;
     std::vector<vxgraphics3d::Vector3f> polygons;

@@ -3,10 +3,8 @@
 #include "base/ustring.h"
 #include "graphics3d/overlays/overlay.h"
 #include "graphics3d/overlays/overlaycurve.h"
-#include "graphics3d/overlays/overlayellipse.h"
-#include "graphics3d/overlays/overlayline.h"
+#include "graphics3d/overlays/overlayoutline.h"
 #include "graphics3d/overlays/overlaypoint.h"
-#include "graphics3d/overlays/overlayrectangle.h"
 #include "graphics3d/overlays/overlaysymbol.h"
 #include "graphics3d/overlays/overlaytransformation.h"
 #include "renderer/frame/appearance.h"
@@ -79,13 +77,9 @@ public:
             break;
         }
         case OverlayObject::TypeLine:
-            drawLine(as<OverlayLine>());
-            break;
         case OverlayObject::TypeRectangle:
-            drawRectangle(as<OverlayRectangle>());
-            break;
         case OverlayObject::TypeEllipse:
-            drawEllipse(as<OverlayEllipse>());
+            drawOutlined();
             break;
         case OverlayObject::TypeTransformation:
             drawFrame(as<OverlayTransformation>());
@@ -138,37 +132,15 @@ private:
         }
     }
 
-    /// An outline, and what is within.
-    void drawOutlined(std::span<const Vector3f> lines) const
+    void drawOutlined() const
     {
+        const std::vector<Vector3f> outline = outlineOf(m_object);
         if (m_object.isFilled()) {
-            m_fills.fill(lines, m_toClip, m_fillColor);
+            m_fills.fill(outline, m_toClip, m_fillColor);
         }
         if (m_object.isOutlined()) {
-            drawLines(lines, m_lineSize, m_outlineColor);
+            drawLines(outline, m_lineSize, m_outlineColor);
         }
-    }
-
-    void drawLine(const OverlayLine& line) const
-    {
-        drawOutlined(
-            std::vector<Vector3f>{{line.getStartX(), line.getStartY(), 0.0}, {line.getEndX(), line.getEndY(), 0.0}});
-    }
-
-    void drawRectangle(const OverlayRectangle& rectangle) const
-    {
-        const Vector3f a(rectangle.getStartX(), rectangle.getStartY(), 0.0);
-        const Vector3f c(rectangle.getEndX(), rectangle.getEndY(), 0.0);
-        drawOutlined(linesAround({a, {c.x, a.y, 0.0f}, c, {a.x, c.y, 0.0f}}));
-    }
-
-    void drawEllipse(const OverlayEllipse& ellipse) const
-    {
-        int count = 0;
-        const float* vertices = ellipse.getVertices(count);
-        std::vector<Vector3f> lines;
-        appendPolyline(lines, vertices, count);
-        drawOutlined(lines);
     }
 
     void drawFrame(const OverlayTransformation& frame) const
@@ -178,33 +150,21 @@ private:
         if (count == 0) {
             return;
         }
-        std::vector<Vector3f> corners;
-        std::vector<Vector3f> handles;
-        std::vector<Vector3f> plainHandles;
-        for (int handle = 0; handle < frame.getNumHandles(); ++handle) {
-            const Vector3f position = frame.getHandlePos(handle);
-            handles.push_back(position);
-            if (!frame.isHandleMarked(handle)) {
-                plainHandles.push_back(position);
-            }
-            if (handle % 2 == 0) {
-                corners.push_back(position);
-            }
-        }
-        if (frame.isFilled()) {
-            m_fills.fill(linesAround(corners), m_toClip, m_fillColor);
+        if (m_context.view.isFlat) {
+            drawOutlined();
+        } else {
+            drawBox(frame, vertices, count);
         }
         if (!frame.isOutlined()) {
             return;
         }
-        if (m_context.view.isFlat) {
-            drawLines(linesAround(corners), m_lineSize, m_outlineColor);
-        } else {
-            std::vector<Vector3f> edges;
-            for (int i = 0; i < count; ++i) {
-                edges.emplace_back(vertices[3 * i], vertices[3 * i + 1], vertices[3 * i + 2]);
+        std::vector<Vector3f> handles;
+        std::vector<Vector3f> plainHandles;
+        for (int handle = 0; handle < frame.getNumHandles(); ++handle) {
+            handles.push_back(frame.getHandlePos(handle));
+            if (!frame.isHandleMarked(handle)) {
+                plainHandles.push_back(handles.back());
             }
-            drawLines(edges, m_lineSize, m_outlineColor);
         }
         const float side = 2.0f * static_cast<float>(frame.getHandleSize()) * frame.getHandleScale();
         drawSymbols(handles, RenderSymbol::square, side / c_squarePart, withAlpha(m_outlineColor, 255));
@@ -212,11 +172,25 @@ private:
                     contrastTo(m_outlineColor));
     }
 
+    void drawBox(const OverlayTransformation& frame, const float* vertices, int count) const
+    {
+        if (frame.isFilled()) {
+            m_fills.fill(outlineOf(frame), m_toClip, m_fillColor);
+        }
+        if (frame.isOutlined()) {
+            std::vector<Vector3f> edges;
+            for (int i = 0; i < count; ++i) {
+                edges.emplace_back(vertices[3 * i], vertices[3 * i + 1], vertices[3 * i + 2]);
+            }
+            drawLines(edges, m_lineSize, m_outlineColor);
+        }
+    }
+
     void drawCurve(const OverlayCurve& curve) const
     {
         const CurveShape shape(curve);
         if (curve.isFilled()) {
-            m_fills.fill(shape.outline, m_toClip, m_fillColor);
+            m_fills.fill(outlineOf(curve), m_toClip, m_fillColor);
         }
         if (curve.isOutlined()) {
             const Color markingColor =
@@ -247,15 +221,6 @@ private:
     {
         const int luminance = 3 * color.red + 6 * color.green + color.blue;
         return Color::fromRgb(luminance < 1275 ? 0xffffff : 0x000000);
-    }
-
-    static std::vector<Vector3f> linesAround(const std::vector<Vector3f>& corners)
-    {
-        std::vector<Vector3f> lines;
-        for (std::size_t i = 0; i < corners.size(); ++i) {
-            lines.insert(lines.end(), {corners[i], corners[(i + 1) % corners.size()]});
-        }
-        return lines;
     }
 
     const OverlayObject& m_object;

@@ -140,7 +140,7 @@ TEST_F(ShapePainterTest, linesPointsAndSymbolsHaveSizesInPixels)
     point->setY(60.0);
     point->setLineSize(20.0f);
     colors();
-    EXPECT_EQ(at(59, 60), c_blue);
+    EXPECT_EQ(at(58, 60), c_blue);
     EXPECT_EQ(at(60, 60), c_white);
     EXPECT_EQ(at(58, 68), c_white) << "it is round";
     point->setFilled(true);
