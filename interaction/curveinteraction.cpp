@@ -4,6 +4,7 @@
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/overlays/overlay.h"
 #include "graphics3d/overlays/overlaycurve.h"
+#include "graphics3d/overlays/overlayoutline.h"
 
 #include <boost/pointer_cast.hpp>
 
@@ -35,8 +36,7 @@ int requireHeight(int canvasHeight)
 /// From pixels of the picture to the coordinates of a curve, row by row; nothing if the curve is not seen as an area.
 std::optional<std::array<double, 4>> scaleOf(const Camera2d& camera, const OverlayCurve& curve)
 {
-    const Matrixf toClip =
-        camera.getProjectionTransformRH() * camera.getViewTransform() * curve.getTransformation();
+    const Matrixf toClip = camera.getProjectionTransformRH() * camera.getViewTransform() * curve.getTransformation();
     const double width = camera.getRenderAreaWidth() / 2.0;
     const double height = camera.getRenderAreaHeight() / 2.0;
     const double a = double{toClip.get(1, 1)} * width;
@@ -129,8 +129,7 @@ int CurveInteraction::getControlPoint() const
     return m_grip && m_grip->vertex < 0 ? m_grip->curve->getControlPointId(m_grip->edge, m_grip->index) : -1;
 }
 
-std::optional<CurveInteraction::Grip> CurveInteraction::findGrip(const Camera2d& camera,
- const Pointer& pointer) const
+std::optional<CurveInteraction::Grip> CurveInteraction::findGrip(const Camera2d& camera, const Pointer& pointer) const
 {
     const auto& objects = m_overlay->getOverlayObjects();
     for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
@@ -155,7 +154,8 @@ std::optional<CurveInteraction::Grip> CurveInteraction::findGrip(const Camera2d&
         }
         for (int edge = 0; edge < curve->getNEdges(); ++edge) {
             if (curve->isEdgeRendered(edge)) {
-                for (int index = 0; index < curve->getNControlPoints(edge); ++index) {
+                const auto shown = vxgraphics3d::shownControlPoints(*curve, edge);
+                for (int index = shown.begin; index < shown.end; ++index) {
                     offer(curve->getControlPoint(edge, index), -1, edge, index);
                 }
             }

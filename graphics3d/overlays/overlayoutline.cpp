@@ -70,8 +70,8 @@ std::vector<Vector3f> outlineOf(const OverlayObject& object)
     }
     case OverlayObject::TypeTransformation: {
         const auto& frame = static_cast<const OverlayTransformation&>(object);
-        lines = linesAround(
-            {frame.getHandlePos(0), frame.getHandlePos(2), frame.getHandlePos(4), frame.getHandlePos(6)});
+        lines =
+            linesAround({frame.getHandlePos(0), frame.getHandlePos(2), frame.getHandlePos(4), frame.getHandlePos(6)});
         break;
     }
     case OverlayObject::TypeRenderEdit:

@@ -10,9 +10,9 @@ namespace vxgraphics3d {
 class OverlayCurve;
 class OverlayObject;
 
-/// The outline of an object before its transformation, as pairs of ends of straight lines: what renderers draw, and what
-/// is hit by a pointer. A frame has the rectangle of its handles, a curve all edges that are rendered, a point or a
-/// symbol nothing. Takes time in proportion to the number of lines.
+/// The outline of an object before its transformation, as pairs of ends of straight lines: what renderers draw, and
+/// what is hit by a pointer. A frame has the rectangle of its handles, a curve all edges that are rendered, a point or
+/// a symbol nothing. Takes time in proportion to the number of lines.
 VX_API std::vector<Vector3f> outlineOf(const OverlayObject& object);
 
 /// Appends the lines of one edge of a curve.

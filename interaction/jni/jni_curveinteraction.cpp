@@ -29,10 +29,10 @@ VX_NATIVE(void, CurveInteraction, connectNative)
 (JNIEnv* env, jclass, jobject self, jobject renderer, jobject overlay, jint canvasHeight)
 {
     guarded(env, [&] {
-        attach(env, self,
-               boost::make_shared<CurveInteraction>(
-                   peer<IRendererCanvas>(env, renderer, "renderer").getCanvas3dSettings(),
-                   share<Overlay>(env, overlay, "overlay"), canvasHeight));
+        attach(
+            env, self,
+            boost::make_shared<CurveInteraction>(peer<IRendererCanvas>(env, renderer, "renderer").getCanvas3dSettings(),
+                                                 share<Overlay>(env, overlay, "overlay"), canvasHeight));
     });
 }
 

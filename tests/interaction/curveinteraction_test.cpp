@@ -10,6 +10,7 @@
 
 #include <boost/make_shared.hpp>
 
+#include <limits>
 #include <stdexcept>
 
 namespace vxinteraction {
@@ -40,7 +41,7 @@ protected:
         m_overlay->addOverlayObject(m_curve, 7);
     }
 
-    /// The column and row of a position in the coordinates of the scene.
+    /// The pixel of a position in the coordinates of the scene.
     static int column(double x) { return 50 + static_cast<int>(x * 100); }
     static int row(double y) { return 260 - 40 - 1 - static_cast<int>(y * 100); }
 
@@ -81,8 +82,8 @@ TEST_F(CurveInteractionTest, movesAControlPointOfATransformedCurve)
     EXPECT_EQ(m_interaction.getVertex(), -1);
     // The drag goes on with the view in which it began.
     m_view.camera2d().setViewLimits(0, 4, 0, 2, false);
-    ASSERT_TRUE(m_interaction.drag(50 + static_cast<int>(shown.x * 10.0f) + 70,
-                                   219 - static_cast<int>(shown.y * 10.0f) + 20));
+    ASSERT_TRUE(
+        m_interaction.drag(50 + static_cast<int>(shown.x * 10.0f) + 70, 219 - static_cast<int>(shown.y * 10.0f) + 20));
     const Vector3f moved = m_curve->getControlPoint(0, 1).transformed(m_curve->getTransformation());
     EXPECT_NEAR(moved.x, shown.x + 7, 1e-5);
     EXPECT_NEAR(moved.y, shown.y - 2, 1e-5);
@@ -99,11 +100,17 @@ TEST_F(CurveInteractionTest, takesTheNearestPointOfTheCurveOnTop)
     EXPECT_FALSE(m_interaction.press(column(2), row(0.5))) << "a hidden edge";
     const auto top = boost::make_shared<OverlayDrawCurve>();
     top->addVertex(3, 1.06);
+    top->addEdge(0, top->addVertex(3.5, 1.5));
+    for (const double x : {0.5, 0.6, 0.7}) {
+        top->addControlPoint(0, x, 1.5);
+    }
     m_overlay->addOverlayObject(top, 8);
     ASSERT_TRUE(m_interaction.press(column(3), row(1)));
     EXPECT_EQ(m_interaction.getCurve(), top) << "although a vertex of the curve below is nearer";
     ASSERT_TRUE(m_interaction.press(column(3), row(1) + 5));
     EXPECT_EQ(m_interaction.getCurve(), m_curve) << "a press ends the drag before it";
+    EXPECT_FALSE(m_interaction.press(column(0.5), row(1.5))) << "a control point without influence";
+    EXPECT_TRUE(m_interaction.press(column(0.6), row(1.5)));
     ASSERT_TRUE(m_interaction.press(column(3), row(0)));
     EXPECT_EQ(m_interaction.getControlPoint(), m_curve->getControlPointId(1, 1)) << "an end without vertex";
     // Pixels outside of the render area show nothing of the overlay.

@@ -4,32 +4,26 @@ import com.vexane.base.NativePeer;
 import com.vexane.interaction.CameraInteraction;
 import com.vexane.interaction.CurveInteraction;
 import com.vexane.producer.DataRole;
-<<<<<<< HEAD
 import com.vexane.producer.EditGeometryBuilder;
-=======
 import com.vexane.producer.GeometryBuilder1D;
 import com.vexane.producer.GeometryBuilder2D;
 import com.vexane.producer.GeometryBuilder3D;
 import com.vexane.producer.MeshKind;
->>>>>>> main
 import com.vexane.producer.PlotKind;
 import com.vexane.producer.PostDataBuilder;
 import com.vexane.producer.PostDataGroup;
 import com.vexane.producer.PostDataObject;
-<<<<<<< HEAD
-import com.vexane.producer.RenderDrawEdit2D;
-=======
 import com.vexane.producer.ProjectionBuilder2D;
 import com.vexane.producer.RenderDraw1D;
 import com.vexane.producer.RenderDraw2D;
 import com.vexane.producer.RenderDraw3D;
+import com.vexane.producer.RenderDrawEdit2D;
 import com.vexane.producer.RenderDrawProj2D;
 import com.vexane.producer.RenderGeom1D;
 import com.vexane.producer.RenderGeom2D;
 import com.vexane.producer.RenderGeom3D;
 import com.vexane.producer.RenderMeshCollection;
 import com.vexane.producer.SheetGeometry;
->>>>>>> main
 import java.util.ArrayList;
 import java.util.LinkedHashMap;
 import java.util.List;
@@ -121,13 +115,11 @@ final class PeerRecipes implements AutoCloseable {
             return curve;
         });
         recipe(PostDataObject.class, made -> recordForEveryPlot());
-<<<<<<< HEAD
         recipe(RenderDrawEdit2D.class, made -> {
             EditGeometryBuilder geometry = new EditGeometryBuilder();
             geometry.addLine(geometry.addVertex(0, 0), geometry.addVertex(1, 1));
             return geometry.build();
         });
-=======
         recipe(RenderDraw1D.class, made -> rod().buildDraw(1, "Rod"));
         recipe(RenderDraw2D.class, made -> area().buildDraw(2, "Area"));
         recipe(RenderDraw3D.class, made -> shell().buildDraw(3, "Shell"));
@@ -137,7 +129,6 @@ final class PeerRecipes implements AutoCloseable {
         recipe(RenderDrawProj2D.class, made -> new ProjectionBuilder2D().points(AXIS, AXIS, new int[3])
                 .addCurve(ProjectionBuilder2D.PRIMARY, AXIS, AXIS).build(4, "Section"));
         recipe(RenderMeshCollection.class, made -> meshes());
->>>>>>> main
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
         recipe(CurveInteraction.class, made -> CurveInteraction.connect(
                 made.first(TestRenderer.class), made.first(Overlay.class), 48));
