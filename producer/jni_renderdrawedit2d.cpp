@@ -2,11 +2,13 @@
 #include "base/java/nativeframe.h"
 #include "base/java/peerhandle.h"
 #include "datacarrier/renderdrawedit2d.h"
+#include "graphics3d/overlays/splinetessellator.h"
 #include "producer/editgeometrybuilder.h"
 
 #include <boost/make_shared.hpp>
 
 #include <cstddef>
+#include <limits>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -143,6 +145,26 @@ VX_NATIVE(jobjectArray, RenderDrawEdit2D, getControlPoints)(JNIEnv* env, jclass,
         for (std::size_t i = 0; i < rows[2].size(); ++i) {
             rows[0][i] /= rows[2][i];
             rows[1][i] /= rows[2][i];
+        }
+        return toJavaNew(env, rows);
+    });
+}
+
+VX_NATIVE(jobjectArray, RenderDrawEdit2D, tessellate)
+(JNIEnv* env, jclass, jobject self, jint edge, jdouble tolerance)
+{
+    return guarded(env, [&] {
+        const auto& source = edgeOf(env, self, edge);
+        source.requireCurve(static_cast<std::size_t>(edge));
+        constexpr float c_far = std::numeric_limits<float>::max();
+        vxdatacarrier::BoundingBox2D everything;
+        everything.m_xMin = everything.m_yMin = -c_far;
+        everything.m_xMax = everything.m_yMax = c_far;
+        vxgraphics3d::SplineTessellator tessellator;
+        std::vector<std::vector<double>> rows(2);
+        for (const auto& point : tessellator.tessellate(source, tolerance, everything)) {
+            rows[0].push_back(double{point.x});
+            rows[1].push_back(double{point.y});
         }
         return toJavaNew(env, rows);
     });

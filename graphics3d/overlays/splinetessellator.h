@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/export.h"
 #include "datacarrier/boundingbox2d.h"
 #include "datacarrier/renderdrawedit2d.h"
 #include "graphics3d/foundation/vector3f.h"
@@ -16,14 +17,14 @@ struct CurvePoint {
 
 /// The point of an edge at parameter u, which is in the range of its knots from `m_knots[p]` to the one that is stored
 /// p before the last, for degree p. Makes no allocation up to degree 9. The edge has passed `requireCurve`.
-CurvePoint curvePoint(const vxdatacarrier::RenderDrawEdit2D::Edge& edge, double u);
+VX_API CurvePoint curvePoint(const vxdatacarrier::RenderDrawEdit2D::Edge& edge, double u);
 
 /// Turns edges into polylines. It keeps the memory that it needs from one edge to the next.
 ///
 /// An edge starts with each knot span in as many equal parts as its degree. A part is halved until the middle of the
 /// curve is no further than the tolerance from the middle of the chord, in x and in y. A part of which neither ends nor
 /// middle are in the box is left as it is, and after a number of halvings all that remain are.
-class SplineTessellator {
+class VX_API SplineTessellator {
 public:
     using Edge = vxdatacarrier::RenderDrawEdit2D::Edge;
 

@@ -1,5 +1,6 @@
 package com.vexane.gallery;
 
+import com.vexane.gallery.pictures.ArcTessellation;
 import com.vexane.gallery.pictures.ArrowScalings;
 import com.vexane.gallery.pictures.BracketEdges;
 import com.vexane.gallery.pictures.BracketMesh;
@@ -12,6 +13,7 @@ import com.vexane.gallery.pictures.EarthRelief;
 import com.vexane.gallery.pictures.EarthTogether;
 import com.vexane.gallery.pictures.EarthquakeMap;
 import com.vexane.gallery.pictures.Earthquakes;
+import com.vexane.gallery.pictures.EditedGeometry;
 import com.vexane.gallery.pictures.FourCameras;
 import com.vexane.gallery.pictures.FrequencyResponse;
 import com.vexane.gallery.pictures.GraphAxes;
@@ -96,6 +98,8 @@ public final class Gallery {
             new SymbolsAndStyles(),
             new LegendPositions(),
             new FrequencyResponse(),
+            new EditedGeometry(),
+            new ArcTessellation(),
             new Hardcopy());
 
     private static final int WIDTH = 1600;

@@ -84,6 +84,18 @@ public final class RenderDrawEdit2D extends NativePeer {
     }
 
     /**
+     * Computes the polyline of an edge as an overlay does, at a tolerance of the caller's choice.
+     *
+     * @param edge the edge, from 0
+     * @param tolerance how far the middle of a segment may be from the curve, in x and in y; an edge is split in its knots
+     *     and then at most 101 times
+     * @return the vertices in single precision, as arrays of x and y
+     */
+    public double[][] tessellate(int edge, double tolerance) {
+        return tessellate(this, requireEdge(edge), tolerance);
+    }
+
+    /**
      * {@return whether an edge has changed since the flags were cleared}
      *
      * @param edge the edge, from 0
@@ -143,6 +155,8 @@ public final class RenderDrawEdit2D extends NativePeer {
     private static native double[] getKnots(RenderDrawEdit2D peer, int edge);
 
     private static native double[][] getControlPoints(RenderDrawEdit2D peer, int edge);
+
+    private static native double[][] tessellate(RenderDrawEdit2D peer, int edge, double tolerance);
 
     private static native boolean isEdgeModified(RenderDrawEdit2D peer, int edge);
 
