@@ -2,7 +2,6 @@ package com.vexane.graphics3d;
 
 import com.vexane.base.NativePeer;
 import com.vexane.interaction.CameraInteraction;
-import com.vexane.interaction.CurveInteraction;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.EditGeometryBuilder;
 import com.vexane.producer.GeometryBuilder1D;
@@ -130,8 +129,6 @@ final class PeerRecipes implements AutoCloseable {
                 .addCurve(ProjectionBuilder2D.PRIMARY, AXIS, AXIS).build(4, "Section"));
         recipe(RenderMeshCollection.class, made -> meshes());
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
-        recipe(CurveInteraction.class, made -> CurveInteraction.connect(
-                made.first(TestRenderer.class), made.first(Overlay.class), 48));
         try {
             // The renderer is not built everywhere.
             Class<?> type = Class.forName("com.vexane.renderer.OffscreenRenderer");

@@ -177,7 +177,7 @@ public final class CameraInteraction extends NativePeer {
         return NativeEnum.of(CameraMouseAction.class, getAction(this));
     }
 
-    static void requireHeight(int canvasHeight) {
+    private static void requireHeight(int canvasHeight) {
         if (canvasHeight < 1) {
             throw new IllegalArgumentException("canvasHeight is below 1: " + canvasHeight);
         }

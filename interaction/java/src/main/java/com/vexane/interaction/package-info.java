@@ -1,10 +1,9 @@
 /**
- * Movement of cameras and editing from mouse events, for the views of any renderer.
+ * Camera movement from mouse events, for the views of any renderer.
  *
- * <p>A {@link CameraInteraction} belongs to one view: it turns presses, drags, releases, the wheel and rectangles into
- * movements of the view's current camera, as specified in the table of mouse actions of
- * {@link com.vexane.graphics3d.Canvas3dGlobalSettings}. A {@link CurveInteraction} drags vertices and control points of
- * the curves in an overlay.
+ * <p>{@link CameraInteraction} is the only class. One interaction belongs to one view: it turns presses, drags,
+ * releases, the wheel and rectangles into movements of the view's current camera, as specified in the table of mouse
+ * actions of {@link com.vexane.graphics3d.Canvas3dGlobalSettings}.
  *
  * <pre>{@code
  * Canvas3dGlobalSettings.setDefaultCameraMouseActions();
@@ -16,7 +15,7 @@
  * interaction.release();
  * }</pre>
  *
- * <p>An interaction owns no view and no camera, but keeps the settings of the view alive until it is closed. Its calls
+ * <p>The interaction owns no view and no camera, but keeps the settings of the view alive until it is closed. Its calls
  * must come from the thread that uses the view, and never while the view is drawn.
  */
 package com.vexane.interaction;

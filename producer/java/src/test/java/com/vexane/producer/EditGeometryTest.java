@@ -34,8 +34,8 @@ class EditGeometryTest {
     void editsReachTheRecordAndItsOwnerClearsTheFlags() {
         RenderDrawEdit2D record = sketch().build();
         try (OverlayRenderEdit2d curve = new OverlayRenderEdit2d(); Overlay overlay = new Overlay()) {
-            // Half a circle of radius 1 is two knot spans of two parts each.
-            assertEquals(5, record.tessellate(2, 1)[0].length);
+            // Half a circle of radius 1 is two knot spans of two parts each, and a double knot between them.
+            assertEquals(7, record.tessellate(2, 1)[0].length);
             assertArrayEquals(new double[][] {{0, 2}, {0, 0}}, record.tessellate(0, 0));
             curve.connectRenderDrawEdit(record);
             overlay.addOverlayObject(curve, 3);
