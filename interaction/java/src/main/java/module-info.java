@@ -1,4 +1,4 @@
-/** Converts mouse events into movements of cameras, for views of any renderer. */
+/** Converts mouse events into movements of cameras and changes of overlays, for views of any renderer. */
 module com.vexane.interaction {
     requires transitive com.vexane.graphics3d;
 

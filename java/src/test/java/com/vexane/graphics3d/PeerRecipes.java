@@ -2,6 +2,11 @@ package com.vexane.graphics3d;
 
 import com.vexane.base.NativePeer;
 import com.vexane.interaction.CameraInteraction;
+import com.vexane.interaction.CurveDrawing;
+import com.vexane.interaction.CurveEditing;
+import com.vexane.interaction.FrameInteraction;
+import com.vexane.interaction.OverlayPicker;
+import com.vexane.interaction.RubberBand;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.EditGeometryBuilder;
 import com.vexane.producer.GeometryBuilder1D;
@@ -129,6 +134,15 @@ final class PeerRecipes implements AutoCloseable {
                 .addCurve(ProjectionBuilder2D.PRIMARY, AXIS, AXIS).build(4, "Section"));
         recipe(RenderMeshCollection.class, made -> meshes());
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
+        recipe(FrameInteraction.class, made -> FrameInteraction.connect(
+                made.first(TestRenderer.class), made.first(OverlayTransformation.class), 48));
+        recipe(CurveDrawing.class, made -> CurveDrawing.connect(
+                made.first(TestRenderer.class), made.first(Overlay.class), made.first(OverlayDrawCurve.class), 48));
+        recipe(CurveEditing.class, made -> CurveEditing.connect(
+                made.first(TestRenderer.class), made.first(OverlayDrawCurve.class), 48));
+        recipe(OverlayPicker.class, made -> OverlayPicker.connect(
+                made.first(TestRenderer.class), made.first(Overlay.class), 48));
+        recipe(RubberBand.class, made -> new RubberBand(made.first(Overlay.class), made.first(OverlayRectangle.class)));
         try {
             // The renderer is not built everywhere.
             Class<?> type = Class.forName("com.vexane.renderer.OffscreenRenderer");

@@ -1,0 +1,42 @@
+#include "base/java/nativeframe.h"
+#include "base/java/peerhandle.h"
+#include "graphics3d/overlays/overlay.h"
+#include "graphics3d/picking/pickedobjectcollection.h"
+#include "interaction/jni/overlayviewof.h"
+#include "interaction/overlaypicker.h"
+
+#include <boost/make_shared.hpp>
+
+#include "com_vexane_interaction_OverlayPicker.h"
+
+using namespace vxbase;
+using namespace vxinteraction;
+using vxgraphics3d::Overlay;
+using vxgraphics3d::PickedObjectCollection;
+
+VX_NATIVE(void, OverlayPicker, connectNative)
+(JNIEnv* env, jclass, jobject self, jobject renderer, jobject overlay, jint canvasHeight)
+{
+    guarded(env, [&] {
+        attach(env, self,
+               boost::make_shared<OverlayPicker>(overlayViewOf(env, renderer, canvasHeight),
+                                                 share<Overlay>(env, overlay, "overlay")));
+    });
+}
+
+VX_NATIVE(void, OverlayPicker, cleanupNative)(JNIEnv* env, jclass, jobject self)
+{
+    guarded(env, [&] { release(env, self); });
+}
+
+VX_NATIVE(void, OverlayPicker, setCanvasHeight)(JNIEnv* env, jclass, jobject self, jint canvasHeight)
+{
+    guarded(env, [&] { peer<OverlayPicker>(env, self).setCanvasHeight(canvasHeight); });
+}
+
+VX_NATIVE(jboolean, OverlayPicker, pick)(JNIEnv* env, jclass, jobject self, jint x, jint y, jobject picked)
+{
+    return guarded(env, [&] {
+        return peer<OverlayPicker>(env, self).pick(x, y, peer<PickedObjectCollection>(env, picked, "picked"));
+    });
+}
