@@ -211,7 +211,7 @@ void collectSnapVertices(benchmark::State& state)
     }
     state.counters["allowed"] = 2.5;
 }
-BENCHMARK(collectSnapVertices)->Arg(10000)->Arg(100000);
+BENCHMARK(collectSnapVertices)->Arg(10000)->Arg(100000)->Arg(1000000);
 
 void collectSnapVertices_limit(benchmark::State& state)
 {
@@ -229,7 +229,7 @@ void collectSnapVertices_limit(benchmark::State& state)
         }
     }
 }
-BENCHMARK(collectSnapVertices_limit)->Arg(10000)->Arg(100000);
+BENCHMARK(collectSnapVertices_limit)->Arg(10000)->Arg(100000)->Arg(1000000);
 
 } // namespace
 } // namespace vxgraphics3d

@@ -3,6 +3,7 @@
 #include "datacarrier/geometry1d.h"
 #include "datacarrier/geometry2d.h"
 #include "graphics3d/geometry/partmarking.h"
+#include "graphics3d/geometry/partpicking.h"
 #include "graphics3d/parts/markcounts.h"
 
 #include <algorithm>
@@ -162,9 +163,13 @@ bool SceneGraphDrawObject::setSubdomainLabel(int subdomain, const vxbase::UStrin
            m_parts.subdomains().setPartLabel(subdomain, text, position);
 }
 
-void SceneGraphDrawObject::getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&,
-                                        bool) const
-{}
+void SceneGraphDrawObject::getSelection(const SelectionFrustrum& frustrum, const CanvasPickSettings& settings,
+                                        PickedObjectCollection& result, bool inside) const
+{
+    if ((m_objectPart.getMarkFlags() & SelectablePart::c_unreachable) == 0) {
+        pickDrawObject(m_parts, m_id, frustrum, settings, result, inside);
+    }
+}
 
 void SceneGraphDrawObject::getMarkedBoundingBox(BoundingBox& box, int include, int exclude) const
 {

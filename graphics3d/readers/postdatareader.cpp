@@ -2,6 +2,7 @@
 
 #include "datacarrier/postdataobject.h"
 #include "graphics3d/readers/readerreports.h"
+#include "graphics3d/readers/sceneobjectfilereader.h"
 #include "graphics3d/readers/sceneplotfilereader.h"
 
 #include <utility>
@@ -28,6 +29,18 @@ bool readPostData(vxdatacarrier::PostDataObject& record, const std::string& file
     ReaderError reported = {"No file holds data of plot kind " + std::to_string(record.m_plotKind)};
     const ReaderErrorKeeper keeper(reported);
     if (readPostData(record, fileName)) {
+        return true;
+    }
+    error = std::move(reported);
+    return false;
+}
+
+bool readDrawObjectSolid(vxdatacarrier::RenderDraw3D& record, const std::string& fileName, const Vector3f& offset,
+                         ReaderError& error)
+{
+    ReaderError reported;
+    const ReaderErrorKeeper keeper(reported);
+    if (SceneObjectFileReader::readDrawObjectSolid(record, fileName, offset)) {
         return true;
     }
     error = std::move(reported);

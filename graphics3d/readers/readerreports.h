@@ -66,4 +66,15 @@ void reportQuietly(int row, vxbase::LogText<std::type_identity_t<Args>...> text,
     detail::report<Args...>(detail::Echo::none, row, text, args...);
 }
 
+/// Passes a reason to the `ReaderErrorKeeper` of the thread alone, for faults that are not logged.
+template <class... Args>
+void keepReason(int row, vxbase::LogText<std::type_identity_t<Args>...> text, Args... args)
+{
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-security"
+#pragma GCC diagnostic ignored "-Wformat-nonliteral"
+    detail::passOn(detail::Echo::none, row, text.text, vxbase::printable(args)...);
+#pragma GCC diagnostic pop
+}
+
 } // namespace vxgraphics3d

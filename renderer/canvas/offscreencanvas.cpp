@@ -201,7 +201,9 @@ void OffscreenCanvas::dropDisposedScene()
 
 Appearance OffscreenCanvas::appearance() const
 {
-    return Appearance::onScreen(*m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
+    Appearance look = Appearance::onScreen(*m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
+    look.markingMode = m_markingMode;
+    return look;
 }
 
 ICameraTransforms& OffscreenCanvas::camera()
@@ -233,6 +235,14 @@ const BoundingBox* OffscreenCanvas::framedBox() const
 {
     const boost::shared_ptr<SceneGraphNode> node = m_framedNode.lock();
     return node ? &node->getBoundingBox() : nullptr;
+}
+
+void OffscreenCanvas::setMarkingMode(MarkingSetups::MarkingMode mode)
+{
+    if (mode < 0 || mode >= MarkingSetups::c_numModes) {
+        throw std::out_of_range("There is no marking mode " + std::to_string(mode) + ".");
+    }
+    m_markingMode = mode;
 }
 
 void OffscreenCanvas::zoomExtents()
@@ -310,8 +320,9 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     dropDisposedScene();
     const EglContext::Current current(m_context);
     const Target target(width, height, std::max(1, settings.getMultisampleSetting()));
-    const Appearance look =
+    Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
+    look.markingMode = m_markingMode;
     // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;

@@ -2,6 +2,7 @@
 
 #include "base/export.h"
 #include "graphics3d/canvas/irenderercanvas.h"
+#include "graphics3d/parts/markingsetups.h"
 #include "renderer/canvas/sceneview.h"
 #include "renderer/frame/view.h"
 #include "renderer/gl/eglcontext.h"
@@ -75,6 +76,10 @@ public:
     /// that it shows already keeps its settings.
     void setScene(const boost::shared_ptr<vxgraphics3d::Scene>& scene);
 
+    /// The marking table of the process by which the parts of objects are drawn, at first that of mode 0.
+    vxgraphics3d::MarkingSetups::MarkingMode getMarkingMode() const { return m_markingMode; }
+    /// @throws std::out_of_range if there is no such mode
+    void setMarkingMode(vxgraphics3d::MarkingSetups::MarkingMode mode);
     /// Draws an overlay over the scene, in the coordinates of the scene, or none for null. Shapes are drawn through
     /// whatever is in front of them. With logarithmic axes the coordinates are logarithms.
     void setOverlay(boost::shared_ptr<vxgraphics3d::Overlay> overlay) { m_overlay = std::move(overlay); }
@@ -147,6 +152,7 @@ private:
     View m_view;
     /// The mode of the last picture, by which a mode that does not exist is reported once.
     int m_lastRenderMode = 0;
+    vxgraphics3d::MarkingSetups::MarkingMode m_markingMode = vxgraphics3d::MarkingSetups::MarkingMode0;
 };
 
 } // namespace vxrenderer

@@ -108,6 +108,9 @@ Appearance Appearance::onScreen(const Canvas3dSettings& canvas, const SceneSetti
         appearance.showMinMax = scene->isMinMaxShown();
         appearance.opacity = std::clamp(scene->getGlobalOpacity(), 0.0f, 1.0f);
         appearance.showLightMarkers = scene->getLight()->isRenderLightMarkers() && isDrawn(canvas, RenderLightMarkers);
+        appearance.showLabels = scene->isLabelsShown();
+        appearance.showLineDirections = scene->isLineDirectionsShown();
+        appearance.showPhysicsMarkers = scene->isPhysicsMarkersShown();
     }
     appearance.showAxes = isDrawn(canvas, RenderAxes);
     appearance.showGrid = canvas.getGridBoxSettingsPtr()->isGridShown();
@@ -136,6 +139,7 @@ Appearance Appearance::ofHardcopy(const HardcopySettings& hardcopy, const Canvas
     appearance.showLegends = hardcopy.isLegendsShown();
     appearance.showAxes = hardcopy.isAxisShown();
     appearance.showAxisOrientation = hardcopy.isAxisOrientationShown();
+    appearance.showPhysicsMarkers = appearance.showPhysicsMarkers && hardcopy.isShowPhysicsMarkers();
     return appearance;
 }
 

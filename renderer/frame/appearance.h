@@ -2,6 +2,7 @@
 
 #include "graphics3d/canvas/canvas3dbackgroundsettings.h"
 #include "graphics3d/foundation/color.h"
+#include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/settings/textitem.h"
 
 #include <boost/shared_ptr.hpp>
@@ -66,6 +67,11 @@ struct Appearance {
     bool showGrid = false;
     bool showAxisOrientation = false;
     bool showLightMarkers = false;
+    bool showLabels = false;
+    bool showLineDirections = false;
+    bool showPhysicsMarkers = false;
+    /// The marking table by which parts of objects are drawn.
+    vxgraphics3d::MarkingSetups::MarkingMode markingMode = vxgraphics3d::MarkingSetups::MarkingMode0;
     /// What the whole scene lets through, from 0, invisible, to 1, opaque.
     float opacity = 1.0f;
 
@@ -81,7 +87,8 @@ struct Appearance {
     /// The picture on the screen.
     /// @param scene the settings of the scene in this view, or null without a scene
     static Appearance onScreen(const vxgraphics3d::Canvas3dSettings& canvas, const vxgraphics3d::SceneSettings* scene);
-    /// The picture of an export. Marks at legends, opacity and light markers are those of the screen.
+    /// The picture of an export. Marks at legends, opacity, light markers, labels and directions of lines are those of
+    /// the screen. It has physics markers where the screen has them and the settings of the export let them through.
     static Appearance ofHardcopy(const vxgraphics3d::HardcopySettings& hardcopy,
                                  const vxgraphics3d::Canvas3dSettings& canvas,
                                  const vxgraphics3d::SceneSettings* scene);

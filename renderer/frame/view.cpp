@@ -29,15 +29,22 @@ float View::pixelSize() const
     return 2.0f / (projection.get(1, 1) * static_cast<float>(area.width));
 }
 
-DepthShift View::aboveFaces(float lineWidth) const
+DepthShift View::nearer(float pixels) const
 {
-    if (isFlat) {
-        return {-0.001f, 0.0f};
-    }
     const float pixel = pixelSize();
-    const float pixels = 3.0f * std::max(lineWidth, 1.0f);
     const float distance = isPerspective ? std::min(pixels * pixel, 0.5f) : pixels * pixel;
     return {projection.get(3, 3) * distance, projection.get(4, 3) * distance};
+}
+
+DepthShift View::aboveFaces(float lineWidth) const
+{
+    return isFlat ? DepthShift{-0.001f, 0.0f} : nearer(3.0f * std::max(lineWidth, 1.0f));
+}
+
+DepthShift View::aboveLayers(int rank) const
+{
+    const auto steps = static_cast<float>(rank);
+    return isFlat ? DepthShift{-0.00005f * steps, 0.0f} : nearer(0.25f * steps);
 }
 
 } // namespace vxrenderer

@@ -37,9 +37,17 @@ struct View {
     /// depth.
     DepthShift aboveFaces(float lineWidth) const;
 
+    /// How far the parts of a layer are drawn before their points, to be seen on those of lower layers at the same
+    /// position. All layers together take less than the distance of lines.
+    /// @param rank of the layer, 0 for one that is drawn where it is
+    DepthShift aboveLayers(int rank) const;
+
     /// The current view of a camera that draws to an area.
     /// @param isFlat whether it is the camera of a 2D view
     static View of(const vxgraphics3d::ICameraTransforms& camera, const PixelArea& area, bool isFlat);
+
+private:
+    DepthShift nearer(float pixels) const;
 };
 
 } // namespace vxrenderer

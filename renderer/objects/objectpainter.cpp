@@ -1,10 +1,14 @@
 #include "renderer/objects/objectpainter.h"
 
+#include "renderer/objects/drawobjectpainter.h"
+
 namespace vxrenderer {
 
 ObjectPainters makeObjectPainters()
 {
-    return {};
+    ObjectPainters painters;
+    painters.push_back(std::make_unique<DrawObjectPainter>());
+    return painters;
 }
 
 } // namespace vxrenderer

@@ -1,6 +1,7 @@
 #include "renderer/paint/linepainter.h"
 
 #include "renderer/upload/linemesh.h"
+#include "renderer/upload/parttable.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -9,9 +10,7 @@
 namespace vxrenderer {
 namespace {
 
-// The part of a line in front of the near plane is cut off here: its ends are moved aside by pixels, and what lies
-// behind the eye has no position on the screen.
-constexpr const char* c_vertexSource = R"(
+constexpr const char* c_vertexInputs = R"(
 layout(std140) uniform Line {
     mat4 toClip;
     vec2 viewport;
@@ -30,14 +29,48 @@ centroid out float u;
 // Only round ends need it.
 out vec3 cap;
 
+// How the line looks.
+float width;
+vec2 shift;
+bool isShown;
+)";
+
+// All lines look alike, except for the colour, which may be that of their data.
+constexpr const char* c_oneLook = R"(
+void takeLook()
+{
+    width = lineWidth;
+    shift = towardsEye;
+    isShown = true;
+}
+)";
+
+// Lines are parts of an object, with their numbers instead of texture coordinates.
+constexpr const char* c_partLook = R"(
+flat out vec3 partColor;
+
+void takeLook()
+{
+    PartRow row = partRow(int(texturePlaces.x));
+    width = row.size;
+    shift = row.towardsEye;
+    isShown = row.isVisible;
+    partColor = row.color.rgb;
+}
+)";
+
+// The part of a line in front of the near plane is cut off here: its ends are moved aside by pixels, and what lies
+// behind the eye has no position on the screen.
+constexpr const char* c_vertexMain = R"(
 void main()
 {
+    takeLook();
     vec4 a = toClip * vec4(from, 1.0);
     vec4 b = toClip * vec4(to, 1.0);
     float depthA = a.z + a.w;
     float depthB = b.z + b.w;
     vec2 places = texturePlaces;
-    if (depthA < 0.0 && depthB < 0.0) {
+    if (!isShown || (depthA < 0.0 && depthB < 0.0)) {
         u = 0.0;
         cap = vec3(0.0);
         gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
@@ -61,12 +94,28 @@ void main()
     vec2 offset = (gl_VertexID & 1) == 0 ? side : -side;
     offset += reach * (isEnd ? along : -along);
     u = isEnd ? places.y : places.x;
-    cap = roundness * vec3((isEnd ? size / lineWidth + reach : -reach), size / lineWidth,
+    cap = roundness * vec3((isEnd ? size / width + reach : -reach), size / width,
                            (gl_VertexID & 1) == 0 ? 1.0 : -1.0);
-    place.xy += lineWidth * offset / viewport * place.w;
+    place.xy += width * offset / viewport * place.w;
     // The near plane cuts lines off only where it cuts off what they lie on.
-    place.z = max((place.z + towardsEye.x * place.w) / (1.0 + towardsEye.y), -place.w);
+    place.z = max((place.z + shift.x * place.w) / (1.0 + shift.y), -place.w);
     gl_Position = place;
+}
+)";
+
+constexpr const char* c_dataColor = R"(
+vec3 lineColor(float u)
+{
+    return materialColor(u);
+}
+)";
+
+constexpr const char* c_partColor = R"(
+flat in vec3 partColor;
+
+vec3 lineColor(float u)
+{
+    return partColor;
 }
 )";
 
@@ -82,7 +131,7 @@ void main()
     if (isHidden(u) || isRoundedOff) {
         discard;
     }
-    result = vec4(materialColor(u), uniformColor.a);
+    result = vec4(lineColor(u), uniformColor.a);
 }
 )";
 
@@ -102,10 +151,18 @@ struct LinePainter::LineBlock {
 };
 
 LinePainter::LinePainter()
-    : m_program("lines", c_vertexSource, (std::string(Material::c_source) + c_fragmentMain).c_str())
+    : m_program("lines", (std::string(c_vertexInputs) + c_oneLook + c_vertexMain).c_str(),
+                (std::string(Material::c_source) + c_dataColor + c_fragmentMain).c_str()),
+      m_partProgram("the lines of objects",
+                    (std::string(c_vertexInputs) + PartRows::c_source + c_partLook + c_vertexMain).c_str(),
+                    (std::string(Material::c_source) + c_partColor + c_fragmentMain).c_str())
 {
-    m_line.attach(m_program);
-    m_material.attach(m_program);
+    for (const GlProgram* program : {&m_program, &m_partProgram}) {
+        m_line.attach(*program);
+        m_material.attach(*program);
+    }
+    m_rows.attach(m_partProgram);
+    PartRows::attachTable(m_partProgram);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     const auto describe = [](LineMesh::Attribute attribute, std::ptrdiff_t offset) {
@@ -119,7 +176,7 @@ LinePainter::LinePainter()
     glBindVertexArray(0);
 }
 
-void LinePainter::setUp(const Frame& frame, const Material& material, bool isClosed) const
+void LinePainter::setUp(const GlProgram& program, const Frame& frame, const Material& material, bool isClosed) const
 {
     LineBlock block{};
     std::copy_n(frame.toClip.data(), block.toClip.size(), block.toClip.begin());
@@ -128,7 +185,7 @@ void LinePainter::setUp(const Frame& frame, const Material& material, bool isClo
     block.reach = isClosed ? 1.0f : 0.0f;
     block.towardsEye = {frame.towardsEye.z, frame.towardsEye.w};
     block.roundness = frame.isRound ? 1.0f : 0.0f;
-    m_program.use();
+    program.use();
     m_line.set(block);
     m_material.set(material);
 }
@@ -139,7 +196,7 @@ void LinePainter::draw(std::span<const LineSegment> lines, const Frame& frame, c
         return;
     }
     const Material material = Material::of(color);
-    setUp(frame, material, !material.isTranslucent());
+    setUp(m_program, frame, material, !material.isTranslucent());
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(lines.size_bytes()), lines.data(), GL_STREAM_DRAW);
@@ -148,7 +205,16 @@ void LinePainter::draw(std::span<const LineSegment> lines, const Frame& frame, c
 
 void LinePainter::draw(const LineMesh& lines, const Frame& frame, const Material& material) const
 {
-    setUp(frame, material, !material.isTranslucent());
+    setUp(m_program, frame, material, !material.isTranslucent());
+    lines.draw();
+}
+
+void LinePainter::draw(const LineMesh& lines, const PartTable& parts, const PartRows& rows, const Frame& frame,
+                       const Material& material) const
+{
+    setUp(m_partProgram, frame, material, !material.isTranslucent());
+    m_rows.set(rows);
+    parts.bind();
     lines.draw();
 }
 

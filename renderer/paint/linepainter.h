@@ -6,6 +6,7 @@
 #include "renderer/gl/globject.h"
 #include "renderer/gl/glprogram.h"
 #include "renderer/paint/material.h"
+#include "renderer/paint/partrows.h"
 #include "renderer/upload/uniformblock.h"
 
 #include <span>
@@ -13,6 +14,7 @@
 namespace vxrenderer {
 
 class LineMesh;
+class PartTable;
 
 /// A straight line between two points.
 struct LineSegment {
@@ -46,15 +48,21 @@ public:
     void draw(std::span<const LineSegment> lines, const Frame& frame, const vxgraphics3d::Color& color) const;
     /// Draws lines that stay on the graphics hardware.
     void draw(const LineMesh& lines, const Frame& frame, const Material& material) const;
+    /// Draws the lines of an object, whose pieces have the numbers of their parts as texture coordinates. Width and
+    /// distance to faces are those of the rows.
+    void draw(const LineMesh& lines, const PartTable& parts, const PartRows& rows, const Frame& frame,
+              const Material& material) const;
 
 private:
     struct LineBlock;
 
-    void setUp(const Frame& frame, const Material& material, bool isClosed) const;
+    void setUp(const GlProgram& program, const Frame& frame, const Material& material, bool isClosed) const;
 
     GlProgram m_program;
+    GlProgram m_partProgram;
     UniformBlock<LineBlock> m_line;
     UniformBlock<Material> m_material;
+    UniformBlock<PartRows> m_rows;
     GlVertexArray m_array;
     GlBuffer m_buffer;
 };

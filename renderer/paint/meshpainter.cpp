@@ -4,6 +4,7 @@
 #include "renderer/frame/lighting.h"
 #include "renderer/frame/view.h"
 #include "renderer/upload/mesh.h"
+#include "renderer/upload/parttable.h"
 #include "renderer/upload/spherebuffer.h"
 
 #include <algorithm>
@@ -154,14 +155,16 @@ const GlProgram& MeshPainter::program(const MeshShader& shader)
         m_light.attach(known->second);
         m_model.attach(known->second);
         m_material.attach(known->second);
+        if (shader.hasParts) {
+            m_rows.attach(known->second);
+            PartRows::attachTable(known->second);
+        }
     }
     return known->second;
 }
 
-void MeshPainter::setUp(const Mesh& mesh, bool isInstanced, const Matrixf& toEye, const Material& material)
+void MeshPainter::setUp(const Mesh& mesh, MeshShader shader, const Matrixf& toEye, const Material& material)
 {
-    MeshShader shader = m_lightShader;
-    shader.isInstanced = isInstanced;
     shader.lacksNormals = shader.isLit && !mesh.hasNormals();
     use(shader, toEye, material, 1.0f);
 }
@@ -178,15 +181,28 @@ void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& m
 
 void MeshPainter::draw(const Mesh& mesh, const Matrixf& toEye, const Material& material)
 {
-    setUp(mesh, false, toEye, material);
+    setUp(mesh, m_lightShader, toEye, material);
     drawFaces(material.isTranslucent(), [&] { mesh.draw(); });
 }
 
 void MeshPainter::draw(const Mesh& mesh, const InstanceBuffer& instances, const Matrixf& toEye,
                        const Material& material)
 {
-    setUp(mesh, true, toEye, material);
+    MeshShader shader = m_lightShader;
+    shader.isInstanced = true;
+    setUp(mesh, shader, toEye, material);
     drawFaces(material.isTranslucent(), [&] { mesh.draw(instances); });
+}
+
+void MeshPainter::draw(const Mesh& mesh, const PartTable& parts, const PartRows& rows, const Matrixf& toEye,
+                       const Material& material)
+{
+    MeshShader shader = m_lightShader;
+    shader.hasParts = true;
+    setUp(mesh, shader, toEye, material);
+    m_rows.set(rows);
+    parts.bind();
+    drawFaces(material.isTranslucent(), [&] { mesh.draw(); });
 }
 
 float MeshPainter::largestInPixels(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye) const

@@ -3,6 +3,7 @@
 #include "renderer/gl/glprogram.h"
 #include "renderer/paint/material.h"
 #include "renderer/paint/meshshader.h"
+#include "renderer/paint/partrows.h"
 #include "renderer/upload/uniformblock.h"
 
 #include <array>
@@ -16,6 +17,7 @@ namespace vxrenderer {
 
 class InstanceBuffer;
 class Mesh;
+class PartTable;
 class SphereBuffer;
 struct Lighting;
 struct View;
@@ -33,6 +35,9 @@ public:
     /// Draws a mesh once for each instance.
     void draw(const Mesh& mesh, const InstanceBuffer& instances, const vxgraphics3d::Matrixf& toEye,
               const Material& material);
+    /// Draws the parts of an object.
+    void draw(const Mesh& mesh, const PartTable& parts, const PartRows& rows, const vxgraphics3d::Matrixf& toEye,
+              const Material& material);
     /// Draws spheres or discs.
     /// @param radiusScale multiplies their radii
     void draw(const SphereBuffer& spheres, float radiusScale, const vxgraphics3d::Matrixf& toEye,
@@ -44,7 +49,7 @@ private:
     struct ModelBlock;
 
     const GlProgram& program(const MeshShader& shader);
-    void setUp(const Mesh& mesh, bool isInstanced, const vxgraphics3d::Matrixf& toEye, const Material& material);
+    void setUp(const Mesh& mesh, MeshShader shader, const vxgraphics3d::Matrixf& toEye, const Material& material);
     /// The radius of the largest sphere if it were at the point of all spheres nearest to the eye.
     float largestInPixels(const SphereBuffer& spheres, float radiusScale, const vxgraphics3d::Matrixf& toEye) const;
     void use(MeshShader shader, const vxgraphics3d::Matrixf& toEye, const Material& material, float radiusScale);
@@ -62,6 +67,7 @@ private:
     UniformBlock<LightBlock> m_light;
     UniformBlock<ModelBlock> m_model;
     UniformBlock<Material> m_material;
+    UniformBlock<PartRows> m_rows;
 };
 
 } // namespace vxrenderer

@@ -1,6 +1,7 @@
 #include "renderer/paint/meshshader.h"
 
 #include "renderer/paint/material.h"
+#include "renderer/paint/partrows.h"
 #include "renderer/paint/sphereshader.h"
 
 namespace vxrenderer {
@@ -91,6 +92,26 @@ void main()
 }
 )";
 
+// All parts of an object. Those that are not shown are moved out of the view.
+constexpr const char* c_partMain = R"(
+layout(location = 10) in uint part;
+flat out vec3 partColor;
+
+void main()
+{
+    PartRow row = partRow(int(part));
+    vec4 eye = modelView * vec4(position, 1.0);
+    eyePosition = eye.xyz;
+    slopePosition = eye.xyz;
+    eyeNormal = mat3(normalMatrix) * usable(normal);
+    u = 0.0;
+    partColor = row.color.rgb;
+    vec4 place = clipPlace(eye);
+    place.z = (place.z + row.towardsEye.x * place.w) / (1.0 + row.towardsEye.y);
+    gl_Position = row.isVisible ? place : vec4(2.0, 2.0, 2.0, 1.0);
+}
+)";
+
 // What a surface shows of the light that it receives.
 constexpr const char* c_light = R"(
 const int c_maxLights = 8;
@@ -129,6 +150,22 @@ vec3 lit(vec3 color, vec3 n, vec3 point)
 }
 )";
 
+constexpr const char* c_dataColor = R"(
+vec3 surfaceColor(float u)
+{
+    return materialColor(u);
+}
+)";
+
+constexpr const char* c_partColor = R"(
+flat in vec3 partColor;
+
+vec3 surfaceColor(float u)
+{
+    return partColor;
+}
+)";
+
 constexpr const char* c_fragmentMain = R"(
 centroid in float u;
 centroid in vec3 eyePosition;
@@ -152,7 +189,7 @@ void main()
     if (c_isRestricted && isHidden(u)) {
         discard;
     }
-    vec3 color = materialColor(u);
+    vec3 color = surfaceColor(u);
     result = vec4(c_isLit ? lit(color, seenNormal(), eyePosition) : color, uniformColor.a);
 }
 )";
@@ -175,7 +212,19 @@ std::string MeshShader::vertexSource() const
     if (shape != Shape::triangles) {
         return shapeConstants() + c_viewBlock + c_modelBlock + Material::c_source + c_sphereVertexMain;
     }
-    return std::string(c_viewBlock) + c_modelBlock + c_vertexInputs + (isInstanced ? c_instancedMain : c_singleMain);
+    const std::string inputs = std::string(c_viewBlock) + c_modelBlock + c_vertexInputs;
+    if (hasParts) {
+        return inputs + PartRows::c_source + c_partMain;
+    }
+    return inputs + (isInstanced ? c_instancedMain : c_singleMain);
+}
+
+std::string MeshShader::mainOfFragments() const
+{
+    if (shape != Shape::triangles) {
+        return c_sphereFragmentMain;
+    }
+    return std::string(hasParts ? c_partColor : c_dataColor) + c_fragmentMain;
 }
 
 std::string MeshShader::fragmentSource() const
@@ -184,8 +233,7 @@ std::string MeshShader::fragmentSource() const
            constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
            constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
            constant("hasHighlights", hasHighlights) + "const int c_numLights = " + std::to_string(numLights) + ";\n" +
-           shapeConstants() + c_viewBlock + Material::c_source + c_light +
-           (shape == Shape::triangles ? c_fragmentMain : c_sphereFragmentMain);
+           shapeConstants() + c_viewBlock + Material::c_source + c_light + mainOfFragments();
 }
 
 } // namespace vxrenderer

@@ -20,6 +20,8 @@ struct MeshShader {
     bool arePoints = false;
     /// Whether triangles are drawn once per instance.
     bool isInstanced = false;
+    /// Whether vertices have the numbers of parts, which have rows of the marking table.
+    bool hasParts = false;
     /// Whether some values are hidden.
     bool isRestricted = false;
     bool isLit = false;
@@ -35,12 +37,13 @@ struct MeshShader {
 
     auto operator<=>(const MeshShader&) const = default;
 
-    /// They declare the uniform blocks `View`, `Model`, `Light` and `Material`.
+    /// They declare the uniform blocks `View`, `Model`, `Light` and `Material`, those of parts also `PartRows`.
     std::string vertexSource() const;
     std::string fragmentSource() const;
 
 private:
     std::string shapeConstants() const;
+    std::string mainOfFragments() const;
 };
 
 } // namespace vxrenderer

@@ -66,4 +66,29 @@ void PaintContext::drawSymbols(const InstanceBuffer* positions, const Look& look
     }
 }
 
+void PaintContext::drawMesh(const Mesh* mesh, const PartTable* parts, const PartRows& rows, const Look& look) const
+{
+    if (mesh != nullptr && parts != nullptr) {
+        meshes.draw(*mesh, *parts, rows, look.toEye, faded(look.material, opacity));
+    }
+}
+
+void PaintContext::drawLines(const LineMesh* mesh, const PartTable* parts, const PartRows& rows, const Look& look) const
+{
+    if (mesh != nullptr && parts != nullptr) {
+        lines.draw(*mesh, *parts, rows, {view.projection * look.toEye, view.area.width, view.area.height, 1.0f},
+                   faded(look.material, opacity));
+    }
+}
+
+void PaintContext::drawSymbols(const InstanceBuffer* positions, const PartTable* parts, const PartRows& rows,
+                               RenderSymbol symbol, const Look& look) const
+{
+    if (positions != nullptr && parts != nullptr) {
+        symbols.draw(*positions, *parts, rows,
+                     {view.projection * look.toEye, view.area.width, view.area.height, symbol, 1.0f,
+                      faded(look.material, opacity).color});
+    }
+}
+
 } // namespace vxrenderer

@@ -4,11 +4,16 @@
 #include "graphics3d/foundation/matrixf.h"
 #include "graphics3d/foundation/rendersymbol.h"
 #include "renderer/paint/material.h"
+#include "renderer/paint/partrows.h"
 #include "renderer/paint/scenelabel.h"
 
 #include <span>
 #include <utility>
 #include <vector>
+
+namespace vxgraphics3d {
+class MarkingModeSetup;
+}
 
 namespace vxrenderer {
 
@@ -18,11 +23,20 @@ class LineMesh;
 class LinePainter;
 class Mesh;
 class MeshPainter;
+class PartTable;
 class SphereBuffer;
 class SymbolPainter;
 class UploadCache;
 struct LineSegment;
 struct View;
+
+/// What pictures show of objects besides their parts, and how marks look.
+struct ObjectStyle {
+    const vxgraphics3d::MarkingModeSetup& markings;
+    bool showLabels;
+    bool showLineDirections;
+    bool showPhysicsMarkers;
+};
 
 /// Where something is drawn, and how it looks.
 struct Look {
@@ -44,6 +58,7 @@ struct PaintContext {
     float scale;
     /// Which axes are logarithmic: bit 0 for x, bit 1 for y.
     int logAxes;
+    ObjectStyle objects;
     UploadCache& uploads;
     ColorTextures& colorTextures;
     MeshPainter& meshes;
@@ -65,6 +80,15 @@ struct PaintContext {
     /// A symbol at the position of each instance.
     /// @param size in pixels of the screen
     void drawSymbols(const InstanceBuffer* positions, const Look& look, RenderSymbol symbol, float size) const;
+
+    // The parts of an object, each as its row says. The material gives opacity and shininess alone.
+
+    void drawMesh(const Mesh* mesh, const PartTable* parts, const PartRows& rows, const Look& look) const;
+    void drawLines(const LineMesh* mesh, const PartTable* parts, const PartRows& rows, const Look& look) const;
+    /// A symbol at the position of each instance, which is a part.
+    void drawSymbols(const InstanceBuffer* positions, const PartTable* parts, const PartRows& rows, RenderSymbol symbol,
+                     const Look& look) const;
+
     /// The label is drawn over everything that it is not hidden by.
     void drawLabel(SceneLabel label) const { labels.push_back(std::move(label)); }
 };

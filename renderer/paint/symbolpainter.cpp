@@ -2,6 +2,7 @@
 
 #include "renderer/upload/instancebuffer.h"
 #include "renderer/upload/mesh.h"
+#include "renderer/upload/parttable.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -23,19 +24,52 @@ layout(std140) uniform Symbol {
 };
 )";
 
+constexpr const char* c_position = "layout(location = 6) in vec3 position;\n";
+
+// All symbols look alike.
+constexpr const char* c_oneLook = R"(
+flat out vec3 symbolColor;
+flat out float symbolRadius;
+vec2 shift;
+
+bool takeLook()
+{
+    symbolColor = color.rgb;
+    symbolRadius = radius;
+    shift = towardsEye;
+    return true;
+}
+)";
+
+// The symbols are the points of an object, in the order of their numbers.
+constexpr const char* c_partLook = R"(
+flat out vec3 symbolColor;
+flat out float symbolRadius;
+vec2 shift;
+
+bool takeLook()
+{
+    PartRow row = partRow(gl_InstanceID);
+    symbolColor = row.color.rgb;
+    symbolRadius = 0.5 * row.size;
+    shift = row.towardsEye;
+    return row.isVisible && !any(isnan(position)) && !any(isinf(position));
+}
+)";
+
 // One more pixel on each side is for the smooth border.
 constexpr const char* c_vertexMain = R"(
-layout(location = 6) in vec3 position;
 out vec2 offset;
 
 void main()
 {
+    bool isShown = takeLook();
     vec2 corner = vec2((gl_VertexID & 1) == 0 ? -1.0 : 1.0, gl_VertexID < 2 ? -1.0 : 1.0);
-    offset = corner * (radius + 1.0);
+    offset = corner * (symbolRadius + 1.0);
     vec4 place = toClip * vec4(position, 1.0);
     place.xy += 2.0 * offset / viewport * place.w;
-    place.z = max((place.z + towardsEye.x * place.w) / (1.0 + towardsEye.y), -place.w);
-    gl_Position = place;
+    place.z = max((place.z + shift.x * place.w) / (1.0 + shift.y), -place.w);
+    gl_Position = isShown ? place : vec4(2.0, 2.0, 2.0, 1.0);
 }
 )";
 
@@ -43,6 +77,8 @@ void main()
 // units of the radius, with areas that look alike.
 constexpr const char* c_fragmentMain = R"(
 in vec2 offset;
+flat in vec3 symbolColor;
+flat in float symbolRadius;
 out vec4 result;
 
 float bars(vec2 p)
@@ -83,11 +119,11 @@ float outline(vec2 p)
 
 void main()
 {
-    float covered = clamp(0.5 - outline(offset / radius) * radius, 0.0, 1.0);
+    float covered = clamp(0.5 - outline(offset / symbolRadius) * symbolRadius, 0.0, 1.0);
     if (covered <= 0.0) {
         discard;
     }
-    result = vec4(color.rgb, color.a * covered);
+    result = vec4(symbolColor, color.a * covered);
 }
 )";
 
@@ -107,17 +143,34 @@ struct SymbolPainter::SymbolBlock {
 };
 
 SymbolPainter::SymbolPainter()
-    : m_program("symbols", (std::string(c_block) + c_vertexMain).c_str(),
-                (std::string(c_block) + c_fragmentMain).c_str())
+    : m_program("symbols", (std::string(c_block) + c_position + c_oneLook + c_vertexMain).c_str(),
+                (std::string(c_block) + c_fragmentMain).c_str()),
+      m_partProgram("the points of objects",
+                    (std::string(c_block) + c_position + PartRows::c_source + c_partLook + c_vertexMain).c_str(),
+                    (std::string(c_block) + c_fragmentMain).c_str())
 {
     m_block.attach(m_program);
+    m_block.attach(m_partProgram);
+    m_rows.attach(m_partProgram);
+    PartRows::attachTable(m_partProgram);
 }
 
 void SymbolPainter::draw(const InstanceBuffer& instances, const Frame& frame) const
 {
     glBindVertexArray(m_array.name());
     instances.bind();
-    draw(frame, instances.size());
+    draw(m_program, frame, instances.size());
+    InstanceBuffer::release();
+}
+
+void SymbolPainter::draw(const InstanceBuffer& instances, const PartTable& parts, const PartRows& rows,
+                         const Frame& frame) const
+{
+    m_rows.set(rows);
+    parts.bind();
+    glBindVertexArray(m_array.name());
+    instances.bind();
+    draw(m_partProgram, frame, instances.size());
     InstanceBuffer::release();
 }
 
@@ -125,7 +178,7 @@ void SymbolPainter::draw(const vxgraphics3d::Vector3f& position, const Frame& fr
 {
     glBindVertexArray(m_array.name());
     glVertexAttrib3f(static_cast<GLuint>(Attribute::instancePosition), position.x, position.y, position.z);
-    draw(frame, 1);
+    draw(m_program, frame, 1);
 }
 
 void SymbolPainter::draw(std::span<const vxgraphics3d::Vector3f> positions, const Frame& frame) const
@@ -140,11 +193,11 @@ void SymbolPainter::draw(std::span<const vxgraphics3d::Vector3f> positions, cons
     glEnableVertexAttribArray(location);
     glVertexAttribPointer(location, 3, GL_FLOAT, GL_FALSE, sizeof(vxgraphics3d::Vector3f), nullptr);
     glVertexAttribDivisor(location, 1);
-    draw(frame, static_cast<GLsizei>(positions.size()));
+    draw(m_program, frame, static_cast<GLsizei>(positions.size()));
     glDisableVertexAttribArray(location);
 }
 
-void SymbolPainter::draw(const Frame& frame, GLsizei count) const
+void SymbolPainter::draw(const GlProgram& program, const Frame& frame, GLsizei count) const
 {
     if (frame.symbol == RenderSymbol::none || count < 1) {
         return;
@@ -156,7 +209,7 @@ void SymbolPainter::draw(const Frame& frame, GLsizei count) const
     block.towardsEye = {frame.towardsEye.z, frame.towardsEye.w};
     block.radius = std::max(0.5f * frame.size, 0.5f);
     block.shape = static_cast<int>(frame.symbol);
-    m_program.use();
+    program.use();
     m_block.set(block);
     const bool isBlending = glIsEnabled(GL_BLEND) == GL_TRUE;
     glEnable(GL_BLEND);

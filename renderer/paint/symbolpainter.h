@@ -6,6 +6,7 @@
 #include "renderer/frame/view.h"
 #include "renderer/gl/globject.h"
 #include "renderer/gl/glprogram.h"
+#include "renderer/paint/partrows.h"
 #include "renderer/upload/uniformblock.h"
 
 #include <array>
@@ -14,6 +15,7 @@
 namespace vxrenderer {
 
 class InstanceBuffer;
+class PartTable;
 
 /// Draws symbols of a size in pixels that face the eye, with smooth borders whether or not the target has several
 /// samples per pixel.
@@ -40,6 +42,8 @@ public:
     /// Draws a symbol at the position of each instance.
     void draw(const InstanceBuffer& instances, const Frame& frame) const;
     void draw(const vxgraphics3d::Vector3f& position, const Frame& frame) const;
+    /// Draws the points of an object, one instance for each. Size, colour and distance to faces are those of the rows.
+    void draw(const InstanceBuffer& instances, const PartTable& parts, const PartRows& rows, const Frame& frame) const;
     /// Draws a symbol at each position; they are copied for this call.
     void draw(std::span<const vxgraphics3d::Vector3f> positions, const Frame& frame) const;
 
@@ -47,10 +51,12 @@ private:
     struct SymbolBlock;
 
     /// Draws `count` symbols with the attributes that are set.
-    void draw(const Frame& frame, GLsizei count) const;
+    void draw(const GlProgram& program, const Frame& frame, GLsizei count) const;
 
     GlProgram m_program;
+    GlProgram m_partProgram;
     UniformBlock<SymbolBlock> m_block;
+    UniformBlock<PartRows> m_rows;
     GlVertexArray m_array;
     GlBuffer m_positions;
 };

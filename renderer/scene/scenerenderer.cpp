@@ -4,8 +4,10 @@
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/boundingbox.h"
+#include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/viewing/icameratransforms.h"
 #include "renderer/decoration/lightmarkers.h"
 #include "renderer/decoration/triadpainter.h"
@@ -37,6 +39,13 @@ void setBlending(bool on)
     } else {
         glDisable(GL_BLEND);
     }
+}
+
+ObjectStyle styleOf(const Appearance& appearance)
+{
+    const MarkingSetups& markings = Canvas3dGlobalSettings::getInstance()->getMarkingSetups();
+    return {markings.getMarkingModeSetup(appearance.markingMode), appearance.showLabels, appearance.showLineDirections,
+            appearance.showPhysicsMarkers};
 }
 
 } // namespace
@@ -125,8 +134,8 @@ std::vector<SceneLabel> SceneRenderer::drawData(const Frame& frame, const FrameL
     glDepthFunc(GL_LEQUAL);
     m_meshes.begin(m_view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
     drawItems(layout.items, frame.canvas.getRenderMask(),
-              {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), m_uploads, m_colorTextures,
-               m_meshes, m_lines, m_symbols, labels});
+              {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance),
+               m_uploads, m_colorTextures, m_meshes, m_lines, m_symbols, labels});
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
     }

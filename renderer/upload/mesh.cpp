@@ -2,14 +2,17 @@
 
 #include "graphics3d/buffers/indexbuffer.h"
 #include "graphics3d/buffers/vertexbuffer.h"
+#include "graphics3d/buffers/vertexbuffernormal.h"
 #include "graphics3d/buffers/vertexlayout.h"
 #include "renderer/upload/checkedindices.h"
 #include "renderer/upload/drawntriangles.h"
 #include "renderer/upload/instancebuffer.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace vxrenderer {
 namespace {
@@ -30,15 +33,34 @@ void describe(Attribute attribute, std::ptrdiff_t offset, GLint size, GLenum typ
     glVertexAttribPointer(location, size, type, isNormalized, static_cast<GLsizei>(layout.size), offsetPointer(offset));
 }
 
+void requireTriangles(const IndexBuffer& indices)
+{
+    if (indices.getType() != IndexBuffer::Triangles) {
+        throw std::invalid_argument("Elements of type " + std::to_string(indices.getType()) +
+                                    " cannot be drawn as triangles.");
+    }
+}
+
+void requireMemory()
+{
+    if (glGetError() == GL_OUT_OF_MEMORY) {
+        throw std::runtime_error("The driver has no memory for a mesh.");
+    }
+}
+
+/// A vertex with the number of its part.
+struct PartVertex {
+    vxgraphics3d::VertexNormal vertex;
+    std::uint32_t part;
+};
+static_assert(sizeof(PartVertex) == 28);
+
 } // namespace
 
 void Mesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
 {
     m_numIndices = 0;
-    if (indices.getType() != IndexBuffer::Triangles) {
-        throw std::invalid_argument("Elements of type " + std::to_string(indices.getType()) +
-                                    " cannot be drawn as triangles.");
-    }
+    requireTriangles(indices);
     const VertexLayout& layout = requireLayout(vertices);
     const DrawnTriangles triangles(CheckedIndices(indices, vertices), vertices, layout);
 
@@ -55,11 +77,57 @@ void Mesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
     glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, m_indices.name());
     glBufferData(GL_ELEMENT_ARRAY_BUFFER, triangles.bytes(), triangles.data(), GL_STATIC_DRAW);
     glBindVertexArray(0);
-    if (glGetError() == GL_OUT_OF_MEMORY) {
-        throw std::runtime_error("The driver has no memory for a mesh.");
-    }
+    requireMemory();
     m_numIndices = triangles.size();
     m_hasNormals = triangles.haveNormals();
+}
+
+void Mesh::load(std::span<const MeshPart> parts)
+{
+    m_numIndices = 0;
+    m_hasNormals = true;
+    std::size_t numVertices = 0;
+    std::size_t numIndices = 0;
+    for (const MeshPart& part : parts) {
+        requireTriangles(part.triangles);
+        numVertices += static_cast<std::size_t>(part.vertices.getNumberOfVertices());
+        numIndices += static_cast<std::size_t>(CheckedIndices(part.triangles, part.vertices).size());
+    }
+    std::vector<PartVertex> vertices;
+    std::vector<std::uint32_t> indices;
+    vertices.reserve(numVertices);
+    indices.reserve(numIndices);
+    for (std::uint32_t number = 0; const MeshPart& part : parts) {
+        const DrawnTriangles triangles(CheckedIndices(part.triangles, part.vertices), part.vertices,
+                                       requireLayout(part.vertices));
+        m_hasNormals = m_hasNormals && triangles.haveNormals();
+        const auto first = static_cast<std::uint32_t>(vertices.size());
+        for (int i = 0; i < triangles.size(); ++i) {
+            indices.push_back(first + triangles.data()[i]);
+        }
+        const auto* records = static_cast<const vxgraphics3d::VertexNormal*>(part.vertices.vertexPointer());
+        for (int i = 0; i < part.vertices.getNumberOfVertices(); ++i) {
+            vertices.push_back({records[i], number});
+        }
+        ++number;
+    }
+
+    constexpr VertexLayout layout = {.vertexType = 0, .size = sizeof(PartVertex), .normal = sizeof(float[3])};
+    glBindVertexArray(m_array.name());
+    glBindBuffer(GL_ARRAY_BUFFER, m_vertices.name());
+    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(vertices.size() * sizeof(PartVertex)), vertices.data(),
+                 GL_STATIC_DRAW);
+    describe(Attribute::position, 0, 3, GL_FLOAT, layout);
+    describe(Attribute::normal, layout.normal, 3, GL_FLOAT, layout);
+    glEnableVertexAttribArray(static_cast<GLuint>(Attribute::part));
+    glVertexAttribIPointer(static_cast<GLuint>(Attribute::part), 1, GL_UNSIGNED_INT, sizeof(PartVertex),
+                           offsetPointer(offsetof(PartVertex, part)));
+    glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, m_indices.name());
+    glBufferData(GL_ELEMENT_ARRAY_BUFFER, static_cast<GLsizeiptr>(indices.size() * sizeof(std::uint32_t)),
+                 indices.data(), GL_STATIC_DRAW);
+    glBindVertexArray(0);
+    requireMemory();
+    m_numIndices = static_cast<GLsizei>(indices.size());
 }
 
 void Mesh::draw() const

@@ -2,9 +2,12 @@
 
 #include "renderer/gl/globject.h"
 
+#include <span>
+
 namespace vxgraphics3d {
 class IndexBuffer;
 class VertexBuffer;
+class VertexBufferNormal;
 } // namespace vxgraphics3d
 
 namespace vxrenderer {
@@ -22,7 +25,14 @@ enum class Attribute : GLuint {
     instancePosition = 6,
     instanceAxis = 7,
     instanceTexture = 8,
-    instanceThickness = 9
+    instanceThickness = 9,
+    part = 10
+};
+
+/// One of several meshes that are drawn together.
+struct MeshPart {
+    const vxgraphics3d::VertexBufferNormal& vertices;
+    const vxgraphics3d::IndexBuffer& triangles;
 };
 
 /// Triangles on the graphics hardware: a vertex buffer and an index buffer.
@@ -34,6 +44,8 @@ public:
     /// @throws std::out_of_range if an index points beyond the vertices
     /// @throws std::runtime_error if the driver has no memory for it
     void load(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
+    /// Copies the triangles of several parts in the same way. Each vertex has the number of its part.
+    void load(std::span<const MeshPart> parts);
 
     /// Whether all vertices that are drawn have a normal. Others are lit by the slope of their triangle.
     bool hasNormals() const { return m_hasNormals; }

@@ -55,6 +55,13 @@ const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int nu
         });
 }
 
+const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                              const std::function<std::vector<MeshPart>()>& make)
+{
+    return get(
+        m_meshes, owner, number, changeId, [] { return std::nullopt; }, [&](Mesh& mesh) { mesh.load(make()); });
+}
+
 const LineMesh* UploadCache::lines(const boost::shared_ptr<const void>& owner, int number, int changeId,
                                    const VertexBuffer& vertices, const IndexBuffer& indices)
 {
@@ -86,6 +93,15 @@ const SphereBuffer* UploadCache::spheres(const boost::shared_ptr<const void>& ow
         [&](SphereBuffer& spheres) { spheres.load(records, areDiscs); });
 }
 
+const PartTable* UploadCache::partTable(const boost::shared_ptr<const void>& owner, int number,
+                                        std::span<const std::uint8_t> rows)
+{
+    Entry<PartTable>& entry = m_partTables[{owner.get(), number}];
+    entry.owner = owner;
+    m_counts.partTables += entry.upload.set(rows) ? 1 : 0;
+    return &entry.upload;
+}
+
 void UploadCache::dropLost()
 {
     const auto dropFrom = [](auto& entries) {
@@ -95,6 +111,7 @@ void UploadCache::dropLost()
     dropFrom(m_lines);
     dropFrom(m_instances);
     dropFrom(m_spheres);
+    dropFrom(m_partTables);
 }
 
 } // namespace vxrenderer

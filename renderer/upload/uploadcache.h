@@ -5,6 +5,7 @@
 #include "renderer/upload/instancebuffer.h"
 #include "renderer/upload/linemesh.h"
 #include "renderer/upload/mesh.h"
+#include "renderer/upload/parttable.h"
 #include "renderer/upload/spherebuffer.h"
 #include "renderer/upload/uploadcounts.h"
 
@@ -44,6 +45,14 @@ public:
     /// @param make called when they have changed
     const Mesh* mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
                      const std::function<std::unique_ptr<vxgraphics3d::SurfaceMesh>()>& make);
+    /// The triangles of several parts.
+    /// @param make called when they have changed
+    const Mesh* mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                     const std::function<std::vector<MeshPart>()>& make);
+    /// How the parts look. It is compared with each call, and loaded if it has changed.
+    /// @param rows of the marking table, one for each part
+    const PartTable* partTable(const boost::shared_ptr<const void>& owner, int number,
+                               std::span<const std::uint8_t> rows);
     /// Single lines or line strips.
     const LineMesh* lines(const boost::shared_ptr<const void>& owner, int number, int changeId,
                           const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
@@ -86,6 +95,7 @@ private:
     Entries<LineMesh> m_lines;
     Entries<InstanceBuffer> m_instances;
     Entries<SphereBuffer> m_spheres;
+    Entries<PartTable> m_partTables;
 };
 
 } // namespace vxrenderer

@@ -8,6 +8,8 @@ struct UploadCounts {
     int meshes = 0;
     int colorTables = 0;
     int glyphPictures = 0;
+    /// Tables of the looks of parts, which marks change.
+    int partTables = 0;
 
     bool operator==(const UploadCounts&) const = default;
 };

@@ -6,6 +6,7 @@
 #include "tests/support/plotcomparison.h"
 #include "tests/support/plotfiles.h"
 #include "tests/support/temporaryfile.h"
+#include "tests/support/textchanges.h"
 
 #include <gtest/gtest.h>
 
@@ -21,31 +22,15 @@ namespace {
 
 using Record = vxdatacarrier::PostDataObject;
 
-/// Files with all sections, and changes to them that a program, an editor or a broken disk could make.
+/// Files with all sections, with changes.
 class Mutations {
 public:
-    explicit Mutations(unsigned seed) : m_random(seed) {}
+    explicit Mutations(unsigned seed) : m_changes(seed) {}
 
-    std::string next()
-    {
-        std::vector<std::string> rows = whole();
-        for (auto changes = pick(4); changes != 0; --changes) {
-            change(rows);
-        }
-        std::string text;
-        const char* const ends[] = {"\n", "\n", "\r\n", "\n\n"};
-        const std::string end = ends[pick(std::size(ends))];
-        for (const std::string& row : rows) {
-            text += row + end;
-        }
-        if (pick(4) == 0) {
-            text.resize(pick(text.size()) + 1);
-        }
-        return text;
-    }
+    std::string next() { return m_changes.changed(whole()); }
 
 private:
-    std::size_t pick(std::size_t count) { return m_random() % count; }
+    std::size_t pick(std::size_t count) { return m_changes.pick(count); }
 
     std::vector<std::string> whole()
     {
@@ -90,44 +75,7 @@ private:
         return rows;
     }
 
-    void change(std::vector<std::string>& rows)
-    {
-        std::string& row = rows[pick(rows.size())];
-        const auto at = rows.begin() + static_cast<std::ptrdiff_t>(pick(rows.size()));
-        switch (pick(9)) {
-        case 0:
-            rows.erase(at);
-            break;
-        case 1:
-            rows.insert(at, row);
-            break;
-        case 2:
-            std::swap(row, rows[pick(rows.size())]);
-            break;
-        case 3:
-            rows.insert(at, pick(2) == 0 ? "" : " \t");
-            break;
-        case 4:
-            row.insert(pick(row.size() + 1), 1, static_cast<char>(m_random()));
-            break;
-        case 5:
-            row.insert(pick(row.size() + 1), 150 + pick(300), pick(2) == 0 ? ' ' : '1');
-            break;
-        case 6:
-            row = std::to_string(static_cast<long>(m_random()) - 2147483648L) + " 2147483648 99999999999999999999";
-            break;
-        case 7:
-            row.clear();
-            break;
-        default:
-            row += ",";
-        }
-        if (rows.empty()) {
-            rows.emplace_back();
-        }
-    }
-
-    std::mt19937 m_random;
+    TextChanges m_changes;
 };
 
 TEST(ScenePlotFileReaderReference, agreesOnResultsAndMessagesForChangedFiles)

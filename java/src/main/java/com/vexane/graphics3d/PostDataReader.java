@@ -6,10 +6,11 @@ import java.nio.file.Path;
 import java.util.Objects;
 
 /**
- * Reads text files into the records of which plots are made.
+ * Reads text files into the records of which plots and solids are made.
  *
- * <p>The page on the plot data format describes the files and the messages about invalid ones. The producer's {@code
- * PostDataObject.read} reads a file into a new record and throws an exception with the message.
+ * <p>The pages on the plot data format and the solid data format describe the files and the messages about invalid ones.
+ * The producer's {@code PostDataObject.read} and {@code RenderDraw3D.read} read a file into a new record and throw an
+ * exception with the message.
  */
 public final class PostDataReader {
     private PostDataReader() {}
@@ -41,5 +42,31 @@ public final class PostDataReader {
         return readPostData(NativePeer.requireOpen(record, "record"), file.toString());
     }
 
+    /**
+     * Reads a solid into a record: faces as sheets, edges as curves, vertices as points, and the relations of the file.
+     * Id and name of the record stay as they are; everything else is replaced. There are no subdomains, and sheets and
+     * curves have no boxes; the producer's {@code RenderDraw3D.complete} derives boxes and relations.
+     *
+     * <p>The file is read as a stream, in two passes; reading needs memory for the record and half as much again.
+     *
+     * @param record the peer of a record
+     * @param file the file
+     * @param x is added to the x coordinates
+     * @param y is added to the y coordinates
+     * @param z is added to the z coordinates
+     * @return true if the file was read. False, with the record unchanged, if the file is invalid, cannot be opened or is
+     *     not a regular file; the log then has the reason unless a count is missing, below 1 or too small for the
+     *     coordinates
+     * @throws NullPointerException if an argument is null
+     * @throws IllegalStateException if the record is closed
+     * @throws NativeException if the peer is not a record of a solid, or memory runs out; the record is unchanged
+     */
+    public static boolean readDrawObjectSolid(NativePeer record, Path file, float x, float y, float z) {
+        Objects.requireNonNull(file, "file");
+        return readDrawObjectSolid(NativePeer.requireOpen(record, "record"), file.toString(), x, y, z);
+    }
+
     private static native boolean readPostData(Object record, String file);
+
+    private static native boolean readDrawObjectSolid(Object record, String path, float x, float y, float z);
 }

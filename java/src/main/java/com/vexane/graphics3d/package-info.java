@@ -41,6 +41,9 @@
  *       {@link SceneGraphPlotEdge2d} and {@link SceneGraphPlotEdge3d}, texts {@link SceneGraphPlotPointLabel}, and points
  *       and lines of a program {@link SceneGraphPlotInteractive}.
  *       {@link PostDataReader} reads records from files.
+ *   <li>Aids of construction are objects as well: work planes ({@link SceneGraphFeatureObject}), projected geometry
+ *       ({@link SceneGraphDrawProj}), balls and boxes ({@link SceneGraphBallBox}) and probes
+ *       ({@link SceneGraphProbeObject}).
  *   <li>The {@link SceneLight} of a scene makes and removes its light sources, which are
  *       {@linkplain DirectionLightSource directional lights}, {@linkplain PointLightSource point lights} and
  *       {@linkplain SpotLightSource spotlights}.

@@ -105,6 +105,10 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphPlotEdge3d.class, made -> new SceneGraphPlotEdge3d(7));
         recipe(SceneGraphPlotPointLabel.class, made -> new SceneGraphPlotPointLabel(3, 8));
         recipe(SceneGraphPlotInteractive.class, made -> new SceneGraphPlotInteractive(9));
+        recipe(SceneGraphFeatureObject.class, made -> new SceneGraphFeatureObject());
+        recipe(SceneGraphDrawProj.class, made -> new SceneGraphDrawProj(1));
+        recipe(SceneGraphBallBox.class, made -> new SceneGraphBallBox());
+        recipe(SceneGraphProbeObject.class, made -> new SceneGraphProbeObject());
         recipe(Overlay.class, made -> new Overlay());
         recipe(OverlayPoint.class, made -> new OverlayPoint());
         recipe(OverlaySymbol.class, made -> new OverlaySymbol());

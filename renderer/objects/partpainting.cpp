@@ -1,0 +1,232 @@
+#include "renderer/objects/partpainting.h"
+
+#include "graphics3d/geometry/objectparts.h"
+#include "graphics3d/parts/markingmodesetup.h"
+#include "graphics3d/parts/pointcollection.h"
+#include "graphics3d/parts/sceneobjectlabel.h"
+#include "graphics3d/parts/sheetcollection.h"
+#include "renderer/frame/view.h"
+#include "renderer/paint/linepainter.h"
+#include "renderer/upload/uploadcache.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+
+namespace vxrenderer {
+namespace {
+
+using namespace vxgraphics3d;
+
+/// Numbers of the uploads of an object.
+enum Upload : int { UploadSheets, UploadLines, UploadPoints };
+
+/// Length of the arrow heads on lines, in pixels of the screen for each pixel of width and at least.
+constexpr float c_headPerWidth = 4.0f;
+constexpr float c_shortestHead = 9.0f;
+/// Half the width of an arrow head for each unit of length.
+constexpr float c_headSlope = 0.45f;
+
+std::vector<MeshPart> meshPartsOf(const SheetCollection& sheets)
+{
+    std::vector<MeshPart> parts;
+    parts.reserve(static_cast<std::size_t>(sheets.getNumParts()));
+    for (int i = 0; i < sheets.getNumParts(); ++i) {
+        parts.push_back({sheets.getPart(i).getVertices(), sheets.getPart(i).getTriangles()});
+    }
+    return parts;
+}
+
+/// The segments of all lines, with the numbers of the lines as texture coordinates.
+std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
+{
+    std::vector<LineMesh::Piece> pieces;
+    pieces.reserve(static_cast<std::size_t>(lines.getNumVertices() / 2));
+    for (int i = 0; i < lines.getNumParts(); ++i) {
+        const VertexBufferCoords& vertices = lines.getPart(i).getVertices();
+        const auto number = static_cast<float>(i);
+        for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
+            pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
+        }
+    }
+    return pieces;
+}
+
+std::vector<Instance> instancesOf(const PointCollection& points)
+{
+    std::vector<Instance> instances;
+    instances.reserve(static_cast<std::size_t>(points.getNumParts()));
+    for (int i = 0; i < points.getNumParts(); ++i) {
+        instances.push_back({.position = points.getPart(i).getPosition(), .axis = {}, .u = 0.0f});
+    }
+    return instances;
+}
+
+} // namespace
+
+MarkingType rowOfMesh(unsigned flags)
+{
+    return MarkingModeSetup::getMarkingType(static_cast<int>(flags & 0xffffu & ~unsigned{MarkMeshed}));
+}
+
+PartPainting::PartPainting(const ObjectItem& object, const PaintContext& context)
+    : m_object(object), m_context(context), m_look{context.view.sceneToEye, {}}
+{
+    m_look.material.shininess = object->getShininess();
+    for (std::size_t i = 0; i < PartRows::c_numRows; ++i) {
+        m_layers.push_back(context.objects.markings.getMarking(static_cast<MarkingType>(i)).getPolygonLayer());
+    }
+    std::ranges::sort(m_layers);
+    m_layers.erase(std::unique(m_layers.begin(), m_layers.end()), m_layers.end());
+}
+
+int PartPainting::rankOf(int layer) const
+{
+    // Layer 0 is that of plots. Only the order of layers counts, so that none of them reaches the lines.
+    const auto position = [this](int value) { return std::ranges::lower_bound(m_layers, value) - m_layers.begin(); };
+    return static_cast<int>(position(layer) - position(0));
+}
+
+PartRows PartPainting::rowsOf(const StyleOf& styleOf, const std::optional<Color>& color) const
+{
+    PartRows rows;
+    for (std::size_t i = 0; i < PartRows::c_numRows; ++i) {
+        const Marking& marking = m_context.objects.markings.getMarking(static_cast<MarkingType>(i));
+        const Style style = styleOf(marking);
+        const float size = style.size * m_context.scale;
+        const DepthShift above = size > 0.0f ? m_context.view.aboveFaces(size) : DepthShift();
+        const DepthShift layer = m_context.view.aboveLayers(rankOf(marking.getPolygonLayer()));
+        PartRows::Row& row = rows.rows[i];
+        row.color = channelsOf(i == RowNormal && color ? *color : style.color);
+        row.towardsEye = {above.z + layer.z, above.w + layer.w};
+        row.size = size;
+        row.isVisible = marking.isVisible() ? 1 : 0;
+    }
+    return rows;
+}
+
+template <class Parts>
+const PartTable* PartPainting::tableOf(int number, const Parts& parts) const
+{
+    std::vector<std::uint8_t> rows(static_cast<std::size_t>(parts.getNumParts()), RowNormal);
+    if (parts.getNumMarked() > 0) {
+        for (int i = 0; i < parts.getNumParts(); ++i) {
+            rows[static_cast<std::size_t>(i)] =
+                static_cast<std::uint8_t>(MarkingModeSetup::getMarkingType(parts.getPart(i).getDisplayFlags()));
+        }
+    }
+    return m_context.uploads.partTable(m_object, number, rows);
+}
+
+template <class Parts>
+void PartPainting::drawLabels(const Parts& parts, bool isBeside) const
+{
+    for (int i = 0; i < parts.getNumParts() && parts.getNumLabels() > 0; ++i) {
+        const auto& part = parts.getPart(i);
+        const Marking& marking = m_context.objects.markings.getMarking(rowOfMesh(part.getDisplayFlags()));
+        if (part.getLabel() && marking.isVisible()) {
+            m_context.drawLabel({.point = part.getLabel()->getPosition(),
+                                 .text = part.getLabel()->getText(),
+                                 .color = marking.getLabelColor(),
+                                 .isBeside = isBeside,
+                                 .hasHalo = true});
+        }
+    }
+}
+
+void PartPainting::drawAll(const ObjectParts& parts) const
+{
+    const auto colorOf = [&](int level) -> std::optional<Color> {
+        const bool isHighest = std::min(parts.getHighestLevel(), PartSheet) == level;
+        return isHighest && m_object->isObjectColorUsed() ? std::optional(m_object->getObjectColor()) : std::nullopt;
+    };
+    drawSheets(parts.getSheets(), parts.getChangeId(), colorOf(PartSheet));
+    drawLines(parts.getLines(), parts.getChangeId(), colorOf(PartLine));
+    drawPoints(parts.getPoints(), parts.getChangeId(), colorOf(PartPoint));
+    if (m_context.objects.showLineDirections) {
+        drawDirections(parts.getLines());
+    }
+    if (m_context.objects.showLabels) {
+        drawLabels(parts.getSubdomains(), false);
+        drawLabels(parts.getSheets(), false);
+        drawLabels(parts.getLines(), true);
+        drawLabels(parts.getPoints(), true);
+    }
+}
+
+void PartPainting::drawSheets(const SheetCollection& sheets, int changeId, const std::optional<Color>& color) const
+{
+    if (sheets.getNumTriangles() > 0) {
+        const Mesh* mesh =
+            m_context.uploads.mesh(m_object, UploadSheets, changeId, [&] { return meshPartsOf(sheets); });
+        const PartRows rows = rowsOf([](const Marking& row) { return Style{row.getSheetColor(), 0.0f}; }, color);
+        m_context.drawMesh(mesh, tableOf(UploadSheets, sheets), rows, m_look);
+    }
+}
+
+void PartPainting::drawLines(const LineCollection& lines, int changeId, const std::optional<Color>& color) const
+{
+    if (lines.getNumVertices() > 0) {
+        const LineMesh* pieces =
+            m_context.uploads.lines(m_object, UploadLines, changeId, [&] { return piecesOf(lines); });
+        const PartRows rows = rowsOf(
+            [](const Marking& row) {
+                return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)};
+            },
+            color);
+        m_context.drawLines(pieces, tableOf(UploadLines, lines), rows, m_look);
+    }
+}
+
+void PartPainting::drawPoints(const PointCollection& points, int changeId, const std::optional<Color>& color) const
+{
+    if (points.getNumParts() > 0) {
+        const InstanceBuffer* positions =
+            m_context.uploads.instances(m_object, UploadPoints, changeId, [&] { return instancesOf(points); });
+        const PartRows rows = rowsOf(
+            [](const Marking& row) {
+                return Style{row.getPointColor(), std::max(row.getPointSize(), 1.0f)};
+            },
+            color);
+        m_context.drawSymbols(positions, tableOf(UploadPoints, points), rows, RenderSymbol::circle, m_look);
+    }
+}
+
+void PartPainting::drawDirections(const LineCollection& lines) const
+{
+    const View& view = m_context.view;
+    const float pixelSize = view.pixelSize() * m_context.scale;
+    std::array<std::vector<LineSegment>, PartRows::c_numRows> heads;
+    for (int i = 0; i < lines.getNumParts(); ++i) {
+        const Line& line = lines.getPart(i);
+        const auto row = rowOfMesh(line.getDisplayFlags());
+        const Marking& marking = m_context.objects.markings.getMarking(row);
+        if (!line.getDirectionMarker() || !marking.isVisible()) {
+            continue;
+        }
+        const auto& [position, direction] = *line.getDirectionMarker();
+        const Vector3f tip = view.sceneToEye * position;
+        const Vector3f before = view.sceneToEye * (position - direction);
+        // What points at the eye has no direction in the picture.
+        Vector3f along = tip - before;
+        along.z = 0.0f;
+        if (!(along.lengthSquared() > 0.0f)) {
+            continue;
+        }
+        along.normalize();
+        const float w = view.projection.get(4, 3) * tip.z + view.projection.get(4, 4);
+        const float length = pixelSize * w * std::max(c_headPerWidth * marking.getLineWidth(), c_shortestHead);
+        const Vector3f side(-along.y * c_headSlope, along.x * c_headSlope, 0.0f);
+        for (const Vector3f& wing : {side, -side}) {
+            heads[static_cast<std::size_t>(row)].push_back({tip, tip + length * (wing - along)});
+        }
+    }
+    for (std::size_t i = 0; i < heads.size(); ++i) {
+        const Marking& marking = m_context.objects.markings.getMarking(static_cast<MarkingType>(i));
+        m_context.drawSegments(heads[i], view.projection, marking.getLineColor(),
+                               std::max(marking.getLineWidth(), 1.5f));
+    }
+}
+
+} // namespace vxrenderer
