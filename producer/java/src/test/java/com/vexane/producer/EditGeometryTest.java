@@ -7,8 +7,12 @@ import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.vexane.base.NativeException;
+import com.vexane.graphics3d.Camera2d;
+import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.Overlay;
 import com.vexane.graphics3d.OverlayRenderEdit2d;
+import com.vexane.graphics3d.TestRenderer;
+import com.vexane.interaction.CurveEditing;
 import org.junit.jupiter.api.Test;
 
 class EditGeometryTest {
@@ -65,6 +69,35 @@ class EditGeometryTest {
             record.close();
             curve.setVertex(1, 3, 0);
             assertTrue(curve.isEdgeModified(0), "the overlay shares the record");
+        }
+    }
+
+    /** The camera draws to 100 by 100 pixels, the size of a camera that no renderer has resized. */
+    @Test
+    void thePointerDragsAVertexOfTheGeometry() {
+        EditGeometryBuilder builder = new EditGeometryBuilder();
+        builder.addArc(builder.addVertex(80, 50), builder.addVertex(50, 80), 50, 50);
+        try (TestRenderer view = new TestRenderer(); Canvas3dSettings settings = Canvas3dSettings.connect(view);
+                Camera2d camera = Camera2d.connect(settings); OverlayRenderEdit2d curve = new OverlayRenderEdit2d();
+                RenderDrawEdit2D record = builder.build()) {
+            settings.setRenderMode(Canvas3dSettings.RenderMode.VIEW_2D);
+            camera.setViewLimits(0, 100, 0, 100);
+            curve.connectRenderDrawEdit(record);
+            try (CurveEditing editing = CurveEditing.connect(view, curve, 100)) {
+                // Row 50 from below is the 49th from above.
+                assertTrue(editing.press(80, 49));
+                assertEquals(0, editing.getVertex());
+                assertTrue(editing.drag(90, 59));
+                assertArrayEquals(new double[] {90, 40}, record.getVertex(0), 1e-4);
+                assertEquals(90, record.getControlPoints(0)[0][0], 1e-4);
+                assertTrue(editing.cancel());
+                assertArrayEquals(new double[] {80, 50}, record.getVertex(0));
+                editing.press(80, 19);
+                assertEquals(1, editing.getControlPoint());
+                editing.drag(60, 19);
+                editing.release();
+                assertArrayEquals(new double[] {60, 80, Math.sqrt(0.5)}, curve.getControlPoint(1), 1e-4);
+            }
         }
     }
 
