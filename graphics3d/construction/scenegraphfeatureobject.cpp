@@ -38,8 +38,8 @@ void SceneGraphFeatureObject::setRevolveOperation(const float* data)
     takePlane();
 }
 
-void SceneGraphFeatureObject::getSelection(const SelectionFrustrum&, const CanvasPickSettings&,
-                                           PickedObjectCollection&, bool) const
+void SceneGraphFeatureObject::getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&,
+                                           bool) const
 {}
 
 void SceneGraphFeatureObject::getMarkedBoundingBox(BoundingBox& box, int include, int exclude) const

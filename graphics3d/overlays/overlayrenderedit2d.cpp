@@ -40,7 +40,7 @@ boost::shared_ptr<BoundingBox2D> boxOf(OverlayRenderEdit2d::Record& record)
 {
     std::vector<float> limits;
     record.getBoundingBox(limits);
-    const auto box = boost::make_shared<BoundingBox2D>();
+    auto box = boost::make_shared<BoundingBox2D>();
     box->m_xMin = limits.at(0);
     box->m_xMax = limits.at(1);
     box->m_yMin = limits.at(2);
@@ -214,8 +214,11 @@ bool OverlayRenderEdit2d::isVertexModified(int vertex) const
 
 void OverlayRenderEdit2d::getEdgeData(int edge, std::vector<std::vector<double>>& out) const
 {
-    edgeAt(edge).requireControlPoints(static_cast<std::size_t>(edge));
-    out.resize(static_cast<std::size_t>(getNControlPoints(edge)));
+    const Edge& source = edgeAt(edge);
+    if (source.m_numControlPoints != 0) {
+        source.requireControlPoints(static_cast<std::size_t>(edge));
+    }
+    out.resize(static_cast<std::size_t>(source.m_numControlPoints));
     for (std::size_t index = 0; index < out.size(); ++index) {
         out[index].resize(3);
         getControlPoint(edge, static_cast<int>(index), out[index]);

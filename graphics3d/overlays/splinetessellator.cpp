@@ -80,7 +80,7 @@ CurvePoint curvePoint(const Edge& edge, double u)
 {
     constexpr int c_mostOnStack = 9;
     if (edge.m_degree <= c_mostOnStack) {
-        std::array<double, 3 * (c_mostOnStack + 1)> memory; // NOLINT: not initialised, for speed
+        std::array<double, 3 * (c_mostOnStack + 1)> memory;
         return curvePoint(edge, u, memory.data());
     }
     std::vector<double> memory(3 * (static_cast<std::size_t>(edge.m_degree) + 1));

@@ -302,9 +302,7 @@ bool SceneObjectFileReader::takeTriangle(RenderDraw3D& record, Row row)
         !areCoordinates(row.indices, 3, row.number)) {
         return false;
     }
-    const auto corner = [&](int i) -> Coordinate& {
-        return m_coordinates[static_cast<std::size_t>(row.indices[i])];
-    };
+    const auto corner = [&](int i) -> Coordinate& { return m_coordinates[static_cast<std::size_t>(row.indices[i])]; };
     const Vector3f& a = corner(0).position;
     const Vector3f& b = corner(1).position;
     const Vector3f& c = corner(2).position;

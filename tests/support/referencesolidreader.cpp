@@ -8,9 +8,9 @@
 #include <climits>
 #include <cstdio>
 #include <cstring>
+#include <limits>
 #include <list>
 #include <locale.h>
-#include <limits>
 #include <map>
 #include <memory>
 #include <stdlib.h>
@@ -355,7 +355,8 @@ private:
 template <class Value>
 bool same(const std::unique_ptr<Value[]>& a, int numA, const std::unique_ptr<Value[]>& b, int numB)
 {
-    return numA == numB && (numA == 0 || std::memcmp(a.get(), b.get(), static_cast<std::size_t>(numA) * sizeof(Value)) == 0);
+    return numA == numB &&
+           (numA == 0 || std::memcmp(a.get(), b.get(), static_cast<std::size_t>(numA) * sizeof(Value)) == 0);
 }
 
 bool same(const AdjacencyRecord& a, const AdjacencyRecord& b)
@@ -387,7 +388,8 @@ bool same(const Curve3D& a, const Curve3D& b)
 template <class Part>
 bool samePart(const std::unique_ptr<Part[]>& a, int numA, const std::unique_ptr<Part[]>& b, int numB)
 {
-    return numA == numB && std::equal(a.get(), a.get() + numA, b.get(), [](const Part& x, const Part& y) { return same(x, y); });
+    return numA == numB &&
+           std::equal(a.get(), a.get() + numA, b.get(), [](const Part& x, const Part& y) { return same(x, y); });
 }
 
 } // namespace
@@ -400,7 +402,7 @@ bool readSolidPlainly(RenderDraw3D& record, const std::string& path, const Vecto
 
 std::string differenceOf(const RenderDraw3D& a, const RenderDraw3D& b)
 {
-    return !same(a.m_box, b.m_box)                                                             ? "m_box"
+    return !same(a.m_box, b.m_box)                                                           ? "m_box"
            : !samePart(a.m_subdomains, a.m_numSubdomains, b.m_subdomains, b.m_numSubdomains) ? "m_subdomains"
            : !samePart(a.m_sheets, a.m_numSheets, b.m_sheets, b.m_numSheets)                 ? "m_sheets"
            : !samePart(a.m_curves, a.m_numCurves, b.m_curves, b.m_numCurves)                 ? "m_curves"

@@ -51,10 +51,7 @@ protected:
     }
 
     void draw() { m_picture = drawnAsIs(m_canvas); }
-    Rgb at(double x, double y) const
-    {
-        return m_picture.at(static_cast<int>(x), c_size - 1 - static_cast<int>(y));
-    }
+    Rgb at(double x, double y) const { return m_picture.at(static_cast<int>(x), c_size - 1 - static_cast<int>(y)); }
     /// How many pixels around a point have a colour.
     int count(int x, int y, int reach, Rgb color) const
     {
