@@ -38,31 +38,6 @@ std::vector<MeshPart> meshPartsOf(const SheetCollection& sheets)
     return parts;
 }
 
-/// The segments of all lines, with the numbers of the lines as texture coordinates.
-std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
-{
-    std::vector<LineMesh::Piece> pieces;
-    pieces.reserve(static_cast<std::size_t>(lines.getNumVertices() / 2));
-    for (int i = 0; i < lines.getNumParts(); ++i) {
-        const VertexBufferCoords& vertices = lines.getPart(i).getVertices();
-        const auto number = static_cast<float>(i);
-        for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
-            pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
-        }
-    }
-    return pieces;
-}
-
-std::vector<Instance> instancesOf(const PointCollection& points)
-{
-    std::vector<Instance> instances;
-    instances.reserve(static_cast<std::size_t>(points.getNumParts()));
-    for (int i = 0; i < points.getNumParts(); ++i) {
-        instances.push_back({.position = points.getPart(i).getPosition(), .axis = {}, .u = 0.0f});
-    }
-    return instances;
-}
-
 /// Sheets that show the same image, or none.
 using RangesByImage = std::map<boost::shared_ptr<Image>, std::vector<PartRange>>;
 
@@ -92,6 +67,30 @@ RangesByImage rangesByImage(const SheetCollection& sheets, const PartPainting::I
 }
 
 } // namespace
+
+std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
+{
+    std::vector<LineMesh::Piece> pieces;
+    pieces.reserve(static_cast<std::size_t>(lines.getNumVertices() / 2));
+    for (int i = 0; i < lines.getNumParts(); ++i) {
+        const VertexBufferCoords& vertices = lines.getPart(i).getVertices();
+        const auto number = static_cast<float>(i);
+        for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
+            pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
+        }
+    }
+    return pieces;
+}
+
+std::vector<Instance> instancesOf(const PointCollection& points)
+{
+    std::vector<Instance> instances;
+    instances.reserve(static_cast<std::size_t>(points.getNumParts()));
+    for (int i = 0; i < points.getNumParts(); ++i) {
+        instances.push_back({.position = points.getPart(i).getPosition(), .axis = {}, .u = 0.0f});
+    }
+    return instances;
+}
 
 MarkingType rowOfMesh(unsigned flags)
 {

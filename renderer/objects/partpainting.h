@@ -4,6 +4,8 @@
 #include "graphics3d/parts/marking.h"
 #include "renderer/objects/objectpainter.h"
 #include "renderer/paint/paintcontext.h"
+#include "renderer/upload/instancebuffer.h"
+#include "renderer/upload/linemesh.h"
 
 #include <cstdint>
 #include <functional>
@@ -23,6 +25,11 @@ class SheetCollection;
 } // namespace vxgraphics3d
 
 namespace vxrenderer {
+
+/// The segments of all lines, with the numbers of the lines as texture coordinates.
+std::vector<LineMesh::Piece> piecesOf(const vxgraphics3d::LineCollection& lines);
+/// The positions of all points.
+std::vector<Instance> instancesOf(const vxgraphics3d::PointCollection& points);
 
 /// The row of the marking table for a part whose mesh is drawn: that of its marks without the mesh.
 vxgraphics3d::MarkingType rowOfMesh(unsigned flags);
