@@ -1,6 +1,7 @@
 package com.vexane.gallery;
 
 import com.vexane.gallery.pictures.ArrowScalings;
+import com.vexane.gallery.pictures.BallsAndProbes;
 import com.vexane.gallery.pictures.BracketEdges;
 import com.vexane.gallery.pictures.BracketMesh;
 import com.vexane.gallery.pictures.BracketPath;
@@ -26,6 +27,7 @@ import com.vexane.gallery.pictures.OceanSlices;
 import com.vexane.gallery.pictures.PlateWithHole;
 import com.vexane.gallery.pictures.PolarView;
 import com.vexane.gallery.pictures.PrincipalStress;
+import com.vexane.gallery.pictures.ProjectedGeometry;
 import com.vexane.gallery.pictures.RaisedEdges;
 import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
@@ -43,6 +45,7 @@ import com.vexane.gallery.pictures.Vortex;
 import com.vexane.gallery.pictures.WindArrows;
 import com.vexane.gallery.pictures.WindRibbons;
 import com.vexane.gallery.pictures.WindTubes;
+import com.vexane.gallery.pictures.WorkPlanes;
 import com.vexane.graphics3d.Canvas3dGlobalSettings;
 import java.io.IOException;
 import java.nio.file.Files;
@@ -96,6 +99,9 @@ public final class Gallery {
             new SymbolsAndStyles(),
             new LegendPositions(),
             new FrequencyResponse(),
+            new WorkPlanes(),
+            new ProjectedGeometry(),
+            new BallsAndProbes(),
             new Hardcopy());
 
     private static final int WIDTH = 1600;
