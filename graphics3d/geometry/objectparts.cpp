@@ -99,7 +99,7 @@ void ObjectParts::fillRelations(const Record& record)
             }
             AdjacentParts& adjacents =
                 m_adjacents[static_cast<std::size_t>(level)][static_cast<std::size_t>(adjacentLevel)];
-            adjacents.allocate(numRows, relation->m_numValues);
+            adjacents.allocate(numRows, relation->m_numRows == 0 ? 0 : relation->m_numValues);
             for (int row = 0; row < numRows; ++row) {
                 const auto [start, count] =
                     relation->m_numRows == 0 ? AdjacencyRecord::Row() : relation->m_rows[static_cast<std::size_t>(row)];
@@ -168,6 +168,34 @@ void ObjectParts::requirePart(int level, int index) const
     if (index < 0 || index >= numParts) {
         throw std::out_of_range(std::string("There is no ") + names[level] + " " + std::to_string(index) + " among " +
                                 std::to_string(numParts) + ".");
+    }
+}
+
+const SelectablePart& ObjectParts::getPart(int level, int index) const
+{
+    switch (level) {
+    case PartPoint:
+        return m_points.getPart(index);
+    case PartLine:
+        return m_lines->getPart(index);
+    case PartSheet:
+        return m_sheets->getPart(index);
+    default:
+        return m_subdomains.getPart(index);
+    }
+}
+
+const boost::shared_ptr<SceneObjectLabel>& ObjectParts::getLabel(int level, int index) const
+{
+    switch (level) {
+    case PartPoint:
+        return m_points.getPart(index).getLabel();
+    case PartLine:
+        return m_lines->getPart(index).getLabel();
+    case PartSheet:
+        return m_sheets->getPart(index).getLabel();
+    default:
+        return m_subdomains.getPart(index).getLabel();
     }
 }
 

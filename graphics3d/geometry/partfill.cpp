@@ -1,5 +1,6 @@
 #include "graphics3d/geometry/partfill.h"
 
+#include "graphics3d/geometry/coordinates.h"
 #include "graphics3d/parts/linecollection.h"
 #include "graphics3d/parts/pointcollection.h"
 #include "graphics3d/parts/sheetcollection.h"
@@ -13,21 +14,6 @@ namespace vxgraphics3d {
 namespace {
 
 using namespace vxdatacarrier;
-
-Vector3f widened(float x)
-{
-    return {x, 0.0f, 0.0f};
-}
-
-Vector3f widened(const Coords2D& p)
-{
-    return {p.x, p.y, 0.0f};
-}
-
-Vector3f widened(const Coords3D& p)
-{
-    return {p.x, p.y, p.z};
-}
 
 template <class Coords>
 void appendPoints(PointCollection& points, const Coords* coords, int count)

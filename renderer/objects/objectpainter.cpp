@@ -5,6 +5,7 @@
 #include "renderer/objects/probepainter.h"
 #include "renderer/objects/projectionpainter.h"
 #include "renderer/objects/workplanepainter.h"
+#include "renderer/objects/physicspainter.h"
 
 namespace vxrenderer {
 
@@ -16,6 +17,7 @@ ObjectPainters makeObjectPainters()
     painters.push_back(std::make_unique<ProjectionPainter>());
     painters.push_back(std::make_unique<ProbePainter>());
     painters.push_back(std::make_unique<BallBoxPainter>());
+    painters.push_back(std::make_unique<PhysicsPainter>());
     return painters;
 }
 

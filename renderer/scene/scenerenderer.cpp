@@ -117,7 +117,9 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
         axes->drawBehind(m_lines);
         setBlending(false);
     }
-    const std::vector<SceneLabel> labels = drawData(frame, layout);
+    std::vector<SceneIcon> icons;
+    std::vector<SceneLabel> labels;
+    drawData(frame, layout, icons, labels);
     // Lines hide nothing, and are not to be crossed by the grid.
     if (axes != nullptr && hasMoreThanGraphs(layout.items)) {
         setBlending(true);
@@ -126,23 +128,23 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     }
     glDisable(GL_SCISSOR_TEST);
     glViewport(0, 0, layout.width, layout.height);
+    drawIcons(std::move(icons), m_view, layout.width, layout.height, frame.appearance.scale, m_images, m_overlay);
     drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay);
 }
 
-std::vector<SceneLabel> SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout)
+void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
+                             std::vector<SceneLabel>& labels)
 {
-    std::vector<SceneLabel> labels;
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
     m_meshes.begin(m_view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
     drawItems(layout.items, frame.canvas.getRenderMask(),
               {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance),
-               m_uploads, m_colorTextures, m_meshes, m_lines, m_symbols, labels});
+               m_uploads, m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
     }
     glDisable(GL_DEPTH_TEST);
-    return labels;
 }
 
 void SceneRenderer::drawItem(const SceneItem& item, const PaintContext& context) const
@@ -266,6 +268,7 @@ void SceneRenderer::dropUnused()
 {
     m_uploads.dropLost();
     m_colorTextures.dropLost();
+    m_images.dropLost();
     if (m_fontSets.getSize() > c_manyFontSets) {
         m_overlay.forgetFonts();
         m_fontSets.forget();

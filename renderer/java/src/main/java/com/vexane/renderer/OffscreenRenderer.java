@@ -62,6 +62,9 @@ public final class OffscreenRenderer extends NativePeer {
     /** Bit of the render mask: the background; without it, the background is black. */
     public static final int RENDER_BACKGROUND = 0x40;
 
+    /** Bit of the render mask: objects of geometry. */
+    public static final int RENDER_OBJECTS = 0x80;
+
     private static final int BYTES_PER_PIXEL = 4;
 
     /** The image that callers see: memory of the virtual machine, so that it outlives the renderer. */
