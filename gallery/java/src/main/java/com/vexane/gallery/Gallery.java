@@ -2,6 +2,7 @@ package com.vexane.gallery;
 
 import com.vexane.gallery.pictures.ArcTessellation;
 import com.vexane.gallery.pictures.ArrowScalings;
+import com.vexane.gallery.pictures.BallsAndProbes;
 import com.vexane.gallery.pictures.BracketEdges;
 import com.vexane.gallery.pictures.BracketMesh;
 import com.vexane.gallery.pictures.BracketPath;
@@ -31,6 +32,7 @@ import com.vexane.gallery.pictures.OverlayShapes;
 import com.vexane.gallery.pictures.PlateWithHole;
 import com.vexane.gallery.pictures.PolarView;
 import com.vexane.gallery.pictures.PrincipalStress;
+import com.vexane.gallery.pictures.ProjectedGeometry;
 import com.vexane.gallery.pictures.RaisedEdges;
 import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
@@ -48,6 +50,7 @@ import com.vexane.gallery.pictures.Vortex;
 import com.vexane.gallery.pictures.WindArrows;
 import com.vexane.gallery.pictures.WindRibbons;
 import com.vexane.gallery.pictures.WindTubes;
+import com.vexane.gallery.pictures.WorkPlanes;
 import com.vexane.graphics3d.Canvas3dGlobalSettings;
 import java.io.IOException;
 import java.nio.file.Files;
@@ -101,6 +104,9 @@ public final class Gallery {
             new SymbolsAndStyles(),
             new LegendPositions(),
             new FrequencyResponse(),
+            new WorkPlanes(),
+            new ProjectedGeometry(),
+            new BallsAndProbes(),
             new OverlayShapes(),
             new FrameOverRotatedObject(),
             new DrawnCurves(),
