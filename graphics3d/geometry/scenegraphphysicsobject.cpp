@@ -7,6 +7,7 @@
 #include "graphics3d/geometry/meshrecords.h"
 #include "graphics3d/geometry/partfill.h"
 #include "graphics3d/geometry/partmarking.h"
+#include "graphics3d/geometry/partpicking.h"
 #include "graphics3d/geometry/recordchecks.h"
 
 #include <boost/make_shared.hpp>
@@ -164,9 +165,11 @@ void SceneGraphPhysicsObject::unmarkAll(ObjectPartType part, MarkingType action)
     }
 }
 
-void SceneGraphPhysicsObject::getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&,
-                                           bool) const
-{}
+void SceneGraphPhysicsObject::getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
+                                           PickedObjectCollection& result, bool inside) const
+{
+    pickPhysicsObject(m_parts, m_id, frustum, settings, result, inside);
+}
 
 void SceneGraphPhysicsObject::getMarkedBoundingBox(BoundingBox& box, int include, int exclude) const
 {

@@ -63,7 +63,8 @@
  *   <li>An {@link Overlay} is a list of shapes drawn over the scene, each an {@link OverlayObject}: {@link OverlayPoint},
  *       {@link OverlaySymbol}; {@link OverlayLine}, {@link OverlayRectangle} and {@link OverlayEllipse}, which are
  *       {@linkplain OverlayTwoPointsObject given by two points}; the {@link OverlayTransformation} frame; and an
- *       {@link OverlayCurve} to be edited, such as {@link OverlayDrawCurve}.
+ *       {@link OverlayCurve} to be edited, {@link OverlayDrawCurve} or
+ *       {@link OverlayRenderEdit2d}.
  *   <li>{@link HardcopySettings} are those of one export, an {@link Image} is filled by a renderer, and
  *       {@link RendererInfo} and {@link ContextData} describe the renderer and its drawing context.
  * </ul>
