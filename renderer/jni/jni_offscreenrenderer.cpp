@@ -3,6 +3,7 @@
 #include "base/java/peerhandle.h"
 #include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/overlays/overlay.h"
+#include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 #include "renderer/canvas/glrendererinfo.h"
@@ -18,6 +19,7 @@ using namespace vxrenderer;
 using vxgraphics3d::HardcopySettings;
 using vxgraphics3d::IRendererCanvas;
 using vxgraphics3d::Overlay;
+using vxgraphics3d::PickedObjectCollection;
 using vxgraphics3d::Scene;
 using vxgraphics3d::SceneGraphNode;
 
@@ -82,6 +84,15 @@ VX_NATIVE(void, OffscreenRenderer, zoomExtents)(JNIEnv* env, jclass, jobject sel
 VX_NATIVE(void, OffscreenRenderer, resize)(JNIEnv* env, jclass, jobject self, jint width, jint height)
 {
     guarded(env, [&] { canvas(env, self).resize(width, height); });
+}
+
+VX_NATIVE(jint, OffscreenRenderer, keepVisible)(JNIEnv* env, jclass, jobject self, jobject picked)
+{
+    return guarded(env, [&] {
+        auto& results = peer<PickedObjectCollection>(env, picked, "picked");
+        canvas(env, self).keepVisible(results);
+        return results.getNumberOfPickedObjects();
+    });
 }
 
 VX_NATIVE(jint, OffscreenRenderer, getWidth)(JNIEnv* env, jclass, jobject self)

@@ -13,6 +13,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 
 namespace vxrenderer {
 namespace {
@@ -38,17 +39,22 @@ std::vector<MeshPart> meshPartsOf(const SheetCollection& sheets)
     return parts;
 }
 
-/// The segments of all lines, with the numbers of the lines as texture coordinates.
+/// Adds the segments of a line, with its number as texture coordinate.
+void addPieces(const Line& line, int index, std::vector<LineMesh::Piece>& pieces)
+{
+    const VertexBufferCoords& vertices = line.getVertices();
+    const auto number = static_cast<float>(index);
+    for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
+        pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
+    }
+}
+
 std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
 {
     std::vector<LineMesh::Piece> pieces;
     pieces.reserve(static_cast<std::size_t>(lines.getNumVertices() / 2));
     for (int i = 0; i < lines.getNumParts(); ++i) {
-        const VertexBufferCoords& vertices = lines.getPart(i).getVertices();
-        const auto number = static_cast<float>(i);
-        for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
-            pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
-        }
+        addPieces(lines.getPart(i), i, pieces);
     }
     return pieces;
 }
@@ -106,6 +112,29 @@ PartRows PartPainting::rowsOf(const StyleOf& styleOf, const std::optional<Color>
     return rows;
 }
 
+PartRows PartPainting::rowsOfSheets(const std::optional<Color>& color) const
+{
+    return rowsOf([](const Marking& row) { return Style{row.getSheetColor(), 0.0f}; }, color);
+}
+
+PartRows PartPainting::rowsOfLines(const std::optional<Color>& color) const
+{
+    return rowsOf(
+        [](const Marking& row) {
+            return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)};
+        },
+        color);
+}
+
+PartRows PartPainting::rowsOfPoints(const std::optional<Color>& color) const
+{
+    return rowsOf(
+        [](const Marking& row) {
+            return Style{row.getPointColor(), std::max(row.getPointSize(), 1.0f)};
+        },
+        color);
+}
+
 template <class Parts>
 const PartTable& PartPainting::tableOf(int number, const Parts& parts) const
 {
@@ -160,7 +189,7 @@ void PartPainting::drawSheets(const SheetCollection& sheets, int changeId, const
     if (sheets.getNumTriangles() > 0) {
         const Mesh* mesh =
             m_context.uploads.mesh(m_object, UploadSheets, changeId, [&] { return meshPartsOf(sheets); });
-        const PartRows rows = rowsOf([](const Marking& row) { return Style{row.getSheetColor(), 0.0f}; }, color);
+        const PartRows rows = rowsOfSheets(color);
         const PartRange all = {0, static_cast<std::size_t>(sheets.getNumParts())};
         m_context.drawMesh(mesh, {tableOf(UploadSheets, sheets), rows, {&all, 1}}, m_look);
     }
@@ -171,11 +200,7 @@ void PartPainting::drawLines(const LineCollection& lines, int changeId, const st
     if (lines.getNumVertices() > 0) {
         const LineMesh* pieces =
             m_context.uploads.lines(m_object, UploadLines, changeId, [&] { return piecesOf(lines); });
-        const PartRows rows = rowsOf(
-            [](const Marking& row) {
-                return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)};
-            },
-            color);
+        const PartRows rows = rowsOfLines(color);
         m_context.drawLines(pieces, {tableOf(UploadLines, lines), rows}, m_look);
     }
 }
@@ -185,12 +210,45 @@ void PartPainting::drawPoints(const PointCollection& points, int changeId, const
     if (points.getNumParts() > 0) {
         const InstanceBuffer* positions =
             m_context.uploads.instances(m_object, UploadPoints, changeId, [&] { return instancesOf(points); });
-        const PartRows rows = rowsOf(
-            [](const Marking& row) {
-                return Style{row.getPointColor(), std::max(row.getPointSize(), 1.0f)};
-            },
-            color);
+        const PartRows rows = rowsOfPoints(color);
         m_context.drawSymbols(positions, {tableOf(UploadPoints, points), rows}, RenderSymbol::circle, m_look);
+    }
+}
+
+void PartPainting::drawOne(const ObjectParts& parts, int level, int index) const
+{
+    PartTable table;
+    const auto setRow = [&](const SelectablePart& part) {
+        const auto row = static_cast<std::uint8_t>(MarkingModeSetup::getMarkingType(part.getDisplayFlags()));
+        table.set({&row, 1});
+    };
+    if (level == PartSolid) {
+        for (const int sheet : parts.getAdjacents(PartSolid, PartSheet).of(index)) {
+            drawOne(parts, PartSheet, sheet);
+        }
+    } else if (level == PartSheet) {
+        const Sheet& sheet = parts.getSheets().getPart(index);
+        const MeshPart part = {sheet.getVertices(), sheet.getTriangles()};
+        Mesh mesh;
+        mesh.load({&part, 1});
+        setRow(sheet);
+        const PartRange all = {0, 1};
+        m_context.drawMesh(&mesh, {table, rowsOfSheets(), {&all, 1}}, m_look);
+    } else if (level == PartLine) {
+        const Line& line = parts.getLines().getPart(index);
+        std::vector<LineMesh::Piece> pieces;
+        addPieces(line, 0, pieces);
+        LineMesh mesh;
+        mesh.load(std::move(pieces));
+        setRow(line);
+        m_context.drawLines(&mesh, {table, rowsOfLines()}, m_look);
+    } else if (level == PartPoint) {
+        const Point& point = parts.getPoints().getPart(index);
+        const Instance instance = {.position = point.getPosition(), .axis = {}, .u = 0.0f};
+        InstanceBuffer position;
+        position.load({&instance, 1});
+        setRow(point);
+        m_context.drawSymbols(&position, {table, rowsOfPoints()}, RenderSymbol::circle, m_look);
     }
 }
 

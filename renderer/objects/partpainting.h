@@ -41,6 +41,8 @@ public:
                    const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
     void drawPoints(const vxgraphics3d::PointCollection& points, int changeId,
                     const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
+    /// Draws a single part, as if it were drawn with all parts of its kind; a subdomain by its sheets.
+    void drawOne(const vxgraphics3d::ObjectParts& parts, int level, int index) const;
     /// Arrow heads on lines that have a direction, in the colours of the lines.
     void drawDirections(const vxgraphics3d::LineCollection& lines) const;
 
@@ -53,6 +55,9 @@ private:
     };
     using StyleOf = std::function<Style(const vxgraphics3d::Marking& row)>;
 
+    PartRows rowsOfSheets(const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
+    PartRows rowsOfLines(const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
+    PartRows rowsOfPoints(const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
     PartRows rowsOf(const StyleOf& styleOf, const std::optional<vxgraphics3d::Color>& color) const;
     int rankOf(int layer) const;
     template <class Parts>
