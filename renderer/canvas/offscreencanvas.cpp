@@ -294,15 +294,20 @@ std::size_t OffscreenCanvas::imageSize() const
     return bytesOf(*m_target);
 }
 
+void OffscreenCanvas::requireImage() const
+{
+    if (m_drawnTarget == nullptr) {
+        throw std::logic_error("There is no image: nothing was drawn since the size was given.");
+    }
+}
+
 void OffscreenCanvas::readImage(std::uint8_t* pixels, std::size_t numBytes) const
 {
     if (numBytes != imageSize()) {
         throw std::invalid_argument("The image takes " + std::to_string(imageSize()) + " bytes, not " +
                                     std::to_string(numBytes) + ".");
     }
-    if (m_drawnTarget == nullptr) {
-        throw std::logic_error("There is no image: nothing was drawn since the size was given.");
-    }
+    requireImage();
     const EglContext::Current current(m_context);
     m_drawnTarget->read(pixels);
     requireNoFault();
@@ -313,6 +318,16 @@ std::vector<std::uint8_t> OffscreenCanvas::encodePng() const
     std::vector<std::uint8_t> pixels(imageSize());
     readImage(pixels.data(), pixels.size());
     return vxrenderer::encodePng(pixels.data(), getWidth(), getHeight(), {});
+}
+
+void OffscreenCanvas::keepVisible(PickedObjectCollection& picked)
+{
+    dropDisposedScene();
+    requireImage();
+    const EglContext::Current current(m_context);
+    const Appearance look = appearance();
+    m_renderer->keepShown(picked, frameOf(camera(), look), m_view, *m_drawnTarget);
+    requireNoFault();
 }
 
 std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings& settings, int width, int height)
