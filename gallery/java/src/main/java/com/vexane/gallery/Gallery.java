@@ -1,5 +1,6 @@
 package com.vexane.gallery;
 
+import com.vexane.gallery.pictures.ArcTessellation;
 import com.vexane.gallery.pictures.ArrowScalings;
 import com.vexane.gallery.pictures.BracketEdges;
 import com.vexane.gallery.pictures.BracketMesh;
@@ -13,6 +14,7 @@ import com.vexane.gallery.pictures.EarthRelief;
 import com.vexane.gallery.pictures.EarthTogether;
 import com.vexane.gallery.pictures.EarthquakeMap;
 import com.vexane.gallery.pictures.Earthquakes;
+import com.vexane.gallery.pictures.EditedGeometry;
 import com.vexane.gallery.pictures.FourCameras;
 import com.vexane.gallery.pictures.FrameOverRotatedObject;
 import com.vexane.gallery.pictures.FrequencyResponse;
@@ -102,6 +104,8 @@ public final class Gallery {
             new OverlayShapes(),
             new FrameOverRotatedObject(),
             new DrawnCurves(),
+            new EditedGeometry(),
+            new ArcTessellation(),
             new Hardcopy());
 
     private static final int WIDTH = 1600;
