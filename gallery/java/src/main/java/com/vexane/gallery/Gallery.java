@@ -4,9 +4,11 @@ import com.vexane.gallery.pictures.ArcTessellation;
 import com.vexane.gallery.pictures.ArrowScalings;
 import com.vexane.gallery.pictures.BallsAndProbes;
 import com.vexane.gallery.pictures.BracketEdges;
+import com.vexane.gallery.pictures.BracketMaterials;
 import com.vexane.gallery.pictures.BracketMesh;
 import com.vexane.gallery.pictures.BracketPath;
 import com.vexane.gallery.pictures.BracketSlices;
+import com.vexane.gallery.pictures.BracketSolid;
 import com.vexane.gallery.pictures.BracketStress;
 import com.vexane.gallery.pictures.CityLabels;
 import com.vexane.gallery.pictures.DashedLines;
@@ -25,6 +27,8 @@ import com.vexane.gallery.pictures.LegendPositions;
 import com.vexane.gallery.pictures.LightsLockedAndFree;
 import com.vexane.gallery.pictures.LocalAxes;
 import com.vexane.gallery.pictures.LogarithmicAxes;
+import com.vexane.gallery.pictures.MarkingModes;
+import com.vexane.gallery.pictures.NumberedPlate;
 import com.vexane.gallery.pictures.OceanIsotherms;
 import com.vexane.gallery.pictures.OceanProfile;
 import com.vexane.gallery.pictures.OceanSlices;
@@ -38,6 +42,8 @@ import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
 import com.vexane.gallery.pictures.SeaTemperatureBands;
 import com.vexane.gallery.pictures.SeaTemperatureYear;
+import com.vexane.gallery.pictures.SnapPoints;
+import com.vexane.gallery.pictures.StressInSolid;
 import com.vexane.gallery.pictures.SymbolsAndStyles;
 import com.vexane.gallery.pictures.TerrainColors;
 import com.vexane.gallery.pictures.TerrainContours;
@@ -104,6 +110,12 @@ public final class Gallery {
             new SymbolsAndStyles(),
             new LegendPositions(),
             new FrequencyResponse(),
+            new BracketSolid(),
+            new MarkingModes(),
+            new StressInSolid(),
+            new NumberedPlate(),
+            new SnapPoints(),
+            new BracketMaterials(),
             new WorkPlanes(),
             new ProjectedGeometry(),
             new BallsAndProbes(),
