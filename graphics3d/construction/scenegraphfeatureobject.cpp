@@ -13,6 +13,7 @@ boost::shared_ptr<SceneGraphFeatureObject> SceneGraphFeatureObject::create()
 
 void SceneGraphFeatureObject::takePlane()
 {
+    m_geometryChangeId.raise();
     setBoundingBox(m_plane.getBox());
     markChanged();
 }

@@ -26,7 +26,9 @@ constexpr float c_widestAngle = 2.0943952f;
 struct Vector3d {
     double x, y, z;
 
-    explicit Vector3d(const Vector3f& v) : x(v.x), y(v.y), z(v.z) {}
+    explicit Vector3d(const Vector3f& v)
+        : x(static_cast<double>(v.x)), y(static_cast<double>(v.y)), z(static_cast<double>(v.z))
+    {}
     Vector3d(double ax, double ay, double az) : x(ax), y(ay), z(az) {}
     Vector3d operator-(const Vector3d& other) const { return {x - other.x, y - other.y, z - other.z}; }
     double dot(const Vector3d& other) const { return x * other.x + y * other.y + z * other.z; }
@@ -138,7 +140,7 @@ bool Sheet::computeLabelPosition(Vector3f& position, Vector3f& normal) const
         float lowest = 1.0f;
         for (int i = 0; i < numTriangles && lowest > limit; ++i) {
             const Facet triangle = facet(i);
-            if (triangle.normal == Vector3f()) {
+            if (!(triangle.normal.length() > 0.0f)) {
                 continue;
             }
             lowest = std::min(lowest, meanNormal.dot(triangle.normal));

@@ -40,6 +40,14 @@ TextFile openFile(std::string path)
     return TextFile(std::move(path));
 }
 
+bool hasCoordinates(int count, const std::string& fileName)
+{
+    if (count == 0) {
+        reportQuietly(c_wholeFile, "No coordinates in file %s", fileName.c_str());
+    }
+    return count != 0;
+}
+
 bool refuseExcess(const char* parts, int rowNumber)
 {
     reportQuietly(rowNumber, "More %s than counted at row %d", parts, rowNumber);
@@ -94,17 +102,16 @@ bool SceneObjectFileReader::readSolidFile(RenderDraw3D& record, const Vector3f& 
 bool SceneObjectFileReader::readCounts()
 {
     std::size_t section = coordinates;
-    while (const char* row = m_file.nextRow()) {
-        if (row[0] == '%' && (!findTag(m_tags, section, row, m_file.rowNumber(), m_file.name()) ||
-                              !readCount(row, static_cast<ReadState>(section)))) {
+    while (const char* row = m_file.nextTagRow()) {
+        if (!findTag(m_tags, section, row, m_file.rowNumber(), m_file.name()) ||
+            !readCount(row, static_cast<ReadState>(section))) {
             return false;
         }
     }
     if (m_file.hasTooManyRows()) {
         return false;
     }
-    if (m_counts[coordinates] == 0) {
-        reportQuietly(c_wholeFile, "No coordinates in file %s", m_file.name().c_str());
+    if (!hasCoordinates(m_counts[coordinates], m_file.name())) {
         return false;
     }
     for (const int count : m_counts) {
@@ -185,7 +192,7 @@ bool SceneObjectFileReader::readParts(RenderDraw3D& record)
         }
     }
     finishState(record, state);
-    return !m_file.hasTooManyRows();
+    return !m_file.hasTooManyRows() && hasCoordinates(m_numCoordinates, m_file.name());
 }
 
 void SceneObjectFileReader::enterState(ReadState& state, ReadState section)
@@ -216,10 +223,11 @@ bool SceneObjectFileReader::readPlainRows(RenderDraw3D& record, ReadState state)
         while (const int numRows = m_file.nextPlainReals(values, 3, c_maxRows)) {
             const int firstRow = m_file.rowNumber() - numRows + 1;
             for (int i = 0; i < numRows; ++i) {
-                const double* at = values + 3 * i;
-                if (!takeCoordinate({at[0], at[1], at[2]}, firstRow + i)) {
+                if (!isCoordinateExpected(firstRow + i)) {
                     return false;
                 }
+                const double* at = values + 3 * i;
+                takeCoordinate({at[0], at[1], at[2]});
             }
         }
     } else {
@@ -237,7 +245,11 @@ bool SceneObjectFileReader::readRow(RenderDraw3D& record, ReadState state, const
 {
     if (state == coordinates) {
         Vector3f position;
-        return getVector3f(position, row, m_file.rowNumber()) && takeCoordinate(position, m_file.rowNumber());
+        if (!isCoordinateExpected(m_file.rowNumber()) || !getVector3f(position, row, m_file.rowNumber())) {
+            return false;
+        }
+        takeCoordinate(position);
+        return true;
     }
     int indices[4];
     return getIndices(indices, c_numIndices[state], row, m_file.rowNumber()) && takeRows(record, state, indices, 1);
@@ -271,19 +283,23 @@ bool SceneObjectFileReader::takeRows(RenderDraw3D& record, ReadState state, cons
     }
 }
 
-bool SceneObjectFileReader::takeCoordinate(const Vector3f& position, int rowNumber)
+bool SceneObjectFileReader::isCoordinateExpected(int rowNumber) const
 {
-    if (m_numCoordinates == m_counts[coordinates]) {
-        keepReason(rowNumber, "More coordinates than counted at row %d", rowNumber);
-        return false;
+    if (m_numCoordinates < m_counts[coordinates]) {
+        return true;
     }
+    keepReason(rowNumber, "More coordinates than counted at row %d", rowNumber);
+    return false;
+}
+
+void SceneObjectFileReader::takeCoordinate(const Vector3f& position)
+{
     Vector3f& taken = m_coordinates[static_cast<std::size_t>(m_numCoordinates)].position;
     taken = position + m_offset;
     m_limits[0].widen(taken.x);
     m_limits[1].widen(taken.y);
     m_limits[2].widen(taken.z);
     ++m_numCoordinates;
-    return true;
 }
 
 bool SceneObjectFileReader::takeTriangle(RenderDraw3D& record, Row row)
@@ -356,7 +372,8 @@ bool SceneObjectFileReader::takeVertex(RenderDraw3D& record, Row row)
 bool SceneObjectFileReader::takeAdjacent(AdjacencyRecord& relation, int numValues, Row row)
 {
     const auto [part, value] = std::pair(row.indices[0], row.indices[1]);
-    if (!isIndex(part, relation.m_numRows, "row", row.number) || !isIndex(value, numValues, "value", row.number)) {
+    if (!isIndex(part, relation.m_numRows, "part", row.number) ||
+        !isIndex(value, numValues, "adjacent part", row.number)) {
         return false;
     }
     if (relation.m_numUsed == relation.m_numValues) {

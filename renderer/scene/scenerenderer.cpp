@@ -5,6 +5,7 @@
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/boundingbox.h"
 #include "graphics3d/parts/markingsetups.h"
+#include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
@@ -13,10 +14,13 @@
 #include "renderer/decoration/triadpainter.h"
 #include "renderer/frame/lighting.h"
 #include "renderer/gl/target.h"
+#include "renderer/objects/visibleparts.h"
 #include "renderer/paint/paintcontext.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
+#include <span>
 #include <utility>
 
 namespace vxrenderer {
@@ -88,7 +92,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     if (frame.scene == nullptr) {
         return;
     }
-    layout.box = frame.isFlat() ? boxOf(layout.items, frame.logAxes()) : frame.scene->getBoundingBox();
+    layout.box =
+        frame.isFlat() ? boxOf(layout.items, frame.logAxes()) : boxInSpace(*frame.scene->getRoot(), layout.items);
     layout.area = divideSpace(frame, layout.space, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
@@ -115,32 +120,34 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
         axes->drawBehind(m_lines);
         setBlending(false);
     }
-    const std::vector<SceneLabel> labels = drawData(frame, layout);
-    // Lines hide nothing, and are not to be crossed by the grid.
-    if (axes != nullptr && hasMoreThanGraphs(layout.items)) {
+    std::vector<SceneIcon> icons;
+    std::vector<SceneLabel> labels;
+    drawData(frame, layout, icons, labels);
+    // Lines of graphs and the geometry of objects are not to be crossed by the grid.
+    if (axes != nullptr && hasPlotsBesidesGraphs(layout.items)) {
         setBlending(true);
         axes->drawOver(m_lines);
         setBlending(false);
     }
     glDisable(GL_SCISSOR_TEST);
     glViewport(0, 0, layout.width, layout.height);
+    drawIcons(std::move(icons), m_view, layout.width, layout.height, frame.appearance.scale, m_images, m_overlay);
     drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay);
 }
 
-std::vector<SceneLabel> SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout)
+void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
+                             std::vector<SceneLabel>& labels)
 {
-    std::vector<SceneLabel> labels;
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
     m_meshes.begin(m_view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
     drawItems(layout.items, frame.canvas.getRenderMask(),
               {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance),
-               m_uploads, m_colorTextures, m_meshes, m_lines, m_symbols, labels});
+               m_uploads, m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
     }
     glDisable(GL_DEPTH_TEST);
-    return labels;
 }
 
 void SceneRenderer::drawItem(const SceneItem& item, const PaintContext& context) const
@@ -160,6 +167,14 @@ void SceneRenderer::drawItem(const SceneItem& item, const PaintContext& context)
     }
 }
 
+bool SceneRenderer::isTranslucent(const SceneItem& item) const
+{
+    const auto* object = std::get_if<ObjectItem>(&item);
+    return object != nullptr && std::ranges::any_of(m_objectPainters, [&](const auto& painter) {
+               return painter->isTranslucent() && painter->draws((*object)->getObjectType());
+           });
+}
+
 void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned renderMask,
                               const PaintContext& context) const
 {
@@ -170,20 +185,20 @@ void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned rend
             shown.push_back(&item);
         }
     }
-    const auto drawAll = [&] {
-        for (const SceneItem* item : shown) {
-            drawItem(*item, context);
-        }
-    };
-    if (context.opacity >= 1.0f) {
-        drawAll();
-    } else if (context.opacity > 0.0f) {
+    const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
+    const auto translucent = std::ranges::stable_partition(shown, isOpaque);
+    for (const SceneItem* item : std::span(shown.begin(), translucent.begin())) {
+        drawItem(*item, context);
+    }
+    if (!translucent.empty() && context.opacity > 0.0f) {
         // What lies farther off comes first, by the middles of the items.
         const auto depthOf = [&](const SceneItem* item) { return (context.view.sceneToEye * centerOf(*item)).z; };
-        std::ranges::stable_sort(shown, {}, depthOf);
+        std::ranges::stable_sort(translucent, {}, depthOf);
         setBlending(true);
         glDepthMask(GL_FALSE);
-        drawAll();
+        for (const SceneItem* item : translucent) {
+            drawItem(*item, context);
+        }
         glDepthMask(GL_TRUE);
         setBlending(false);
     }
@@ -256,6 +271,7 @@ void SceneRenderer::dropUnused()
 {
     m_uploads.dropLost();
     m_colorTextures.dropLost();
+    m_images.dropLost();
     if (m_fontSets.getSize() > c_manyFontSets) {
         m_overlay.forgetFonts();
         m_fontSets.forget();
@@ -297,6 +313,43 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         triad->drawLetters(m_overlay, layout.orientationFonts);
     }
     dropUnused();
+}
+
+void SceneRenderer::keepShown(PickedObjectCollection& picked, const Frame& frame, const View& view,
+                              const Target& target)
+{
+    std::vector<PickedObject> results;
+    for (int i = 0; i < picked.getNumberOfPickedObjects(); ++i) {
+        results.push_back(picked.getPickedObject(i));
+    }
+    const bool areObjectsShown = frame.scene != nullptr && !view.area.isEmpty() && frame.appearance.opacity > 0.0f &&
+                                 (frame.canvas.getRenderMask() & RenderObjects) != 0;
+    std::vector<bool> shown(results.size(), areObjectsShown);
+    if (areObjectsShown) {
+        std::vector<ObjectItem> objects;
+        for (const SceneItem& item : collectItems(*frame.scene->getRoot())) {
+            if (const auto* object = std::get_if<ObjectItem>(&item)) {
+                objects.push_back(*object);
+            }
+        }
+        const PixelArea& area = view.area;
+        target.bindScene();
+        glViewport(area.x, target.getHeight() - area.y - area.height, area.width, area.height);
+        // With the light of the picture, since that decides about the shaders, and so about the last bits of depths.
+        m_meshes.begin(view,
+                       Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
+        std::vector<SceneIcon> icons;
+        std::vector<SceneLabel> labels;
+        shown = findShown(results, objects,
+                          {view, 1.0f, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance), m_uploads,
+                           m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
+    }
+    picked.reset();
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        if (shown[i]) {
+            picked.add(results[i]);
+        }
+    }
 }
 
 } // namespace vxrenderer

@@ -29,6 +29,8 @@
  *       {@link SceneGraphDrawObjectSolid}, {@link SceneGraphDrawObjectFace}, {@link SceneGraphDrawObjectCurve} and
  *       {@link SceneGraphDrawObjectPoint}. {@link MarkingAction} and {@link ObjectPartType} say what is done to which
  *       parts.
+ *   <li>A {@link SceneGraphPhysicsObject} shows the geometry of a simulation model in the same way, with the meshes,
+ *       materials and markers of its parts.
  *   <li>A {@link SceneGraphPlot} shows the values of one record with a colour table, a legend and a title:
  *       {@link SceneGraphPlotSurface2d}, {@link SceneGraphPlotSurface3d}, {@link SceneGraphPlotDomain3d},
  *       {@link SceneGraphPlotSlice3d} and {@link SceneGraphPlotMesh3d}. Levels of a field are a

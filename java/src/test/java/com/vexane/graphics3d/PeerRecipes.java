@@ -84,6 +84,7 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphDrawObjectCurve.class, made -> new SceneGraphDrawObjectCurve(2));
         recipe(SceneGraphDrawObjectFace.class, made -> new SceneGraphDrawObjectFace(3));
         recipe(SceneGraphDrawObjectSolid.class, made -> new SceneGraphDrawObjectSolid(4));
+        recipe(SceneGraphPhysicsObject.class, made -> new SceneGraphPhysicsObject(5));
         recipe(SceneGraphPlotSurface2d.class, made -> new SceneGraphPlotSurface2d(1));
         recipe(SceneGraphPlotSurface3d.class, made -> new SceneGraphPlotSurface3d(2));
         recipe(SceneGraphPlotDomain3d.class, made -> new SceneGraphPlotDomain3d(3));

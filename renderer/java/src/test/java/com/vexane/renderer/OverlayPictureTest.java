@@ -165,6 +165,8 @@ class OverlayPictureTest {
                 curve.addControlPoint(edge, point[0], point[1]);
             }
             overlay.addOverlayObject(curve, 8);
+            assertArrayEquals(new double[] {20.5, 30.5}, picker.locate(20, row(30)), 1e-4);
+            assertArrayEquals(new int[] {20, row(30)}, picker.pixelOf(20.5, 30.5, 0));
             assertTrue(picker.pick(22, row(51), picked));
             assertTrue(picker.pick(20, row(150), picked));
             assertFalse(picker.pick(20, row(100), picked));
