@@ -13,17 +13,6 @@ namespace {
 
 using vxdatacarrier::AdjacencyRecord;
 
-template <class Parts>
-void mergeBoxes(BoundingBox& box, const Parts& parts, int include, int exclude)
-{
-    for (int i = 0; i < parts.getNumParts(); ++i) {
-        const int flags = parts.getPart(i).getDisplayFlags();
-        if ((include == 0 || (flags & include) != 0) && (flags & exclude) == 0) {
-            box.merge(parts.getPart(i).getBoundingBox());
-        }
-    }
-}
-
 void fillCollections(const vxdatacarrier::Geometry1D& record, ObjectParts& parts)
 {
     if (parts.has(PartLine)) {
@@ -212,9 +201,9 @@ const boost::shared_ptr<SceneObjectLabel>& ObjectParts::getLabel(int level, int 
 
 void ObjectParts::getMarkedBoundingBox(BoundingBox& box, int include, int exclude) const
 {
-    mergeBoxes(box, *m_sheets, include, exclude);
-    mergeBoxes(box, *m_lines, include, exclude);
-    mergeBoxes(box, m_points, include, exclude);
+    m_sheets->mergeMarkedBoxes(box, include, exclude);
+    m_lines->mergeMarkedBoxes(box, include, exclude);
+    m_points.mergeMarkedBoxes(box, include, exclude);
 }
 
 } // namespace vxgraphics3d

@@ -1,33 +1,32 @@
 #include "renderer/objects/partpainting.h"
 
+#include "graphics3d/foundation/image.h"
 #include "graphics3d/geometry/objectparts.h"
 #include "graphics3d/parts/markingmodesetup.h"
 #include "graphics3d/parts/pointcollection.h"
 #include "graphics3d/parts/sceneobjectlabel.h"
 #include "graphics3d/parts/sheetcollection.h"
 #include "renderer/frame/view.h"
+#include "renderer/objects/arrowhead.h"
 #include "renderer/paint/linepainter.h"
+#include "renderer/upload/imagetextures.h"
 #include "renderer/upload/uploadcache.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <utility>
 
 namespace vxrenderer {
 namespace {
 
 using namespace vxgraphics3d;
 
-/// Numbers of the uploads of an object.
-enum Upload : int { UploadSheets, UploadLines, UploadPoints };
-
 /// Length of the arrow heads on lines, in pixels of the screen for each pixel of width and at least.
 constexpr float c_headPerWidth = 4.0f;
 constexpr float c_shortestHead = 9.0f;
-/// Half the width of an arrow head for each unit of length.
-constexpr float c_headSlope = 0.45f;
+/// Images of materials on the longest side of an object.
+constexpr float c_imagesPerObject = 4.0f;
 
 std::vector<MeshPart> meshPartsOf(const SheetCollection& sheets)
 {
@@ -39,22 +38,46 @@ std::vector<MeshPart> meshPartsOf(const SheetCollection& sheets)
     return parts;
 }
 
-/// Adds the segments of a line, with its number as texture coordinate.
-void addPieces(const Line& line, int index, std::vector<LineMesh::Piece>& pieces)
+/// Sheets that show the same image, or none.
+using RangesByImage = std::map<boost::shared_ptr<Image>, std::vector<PartRange>>;
+
+RangesByImage rangesByImage(const SheetCollection& sheets, const PartPainting::Images& images)
 {
-    const VertexBufferCoords& vertices = line.getVertices();
-    const auto number = static_cast<float>(index);
-    for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
-        pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
+    RangesByImage ranges;
+    const auto isUsed = [&](const auto& material) {
+        const auto image = images.find(material.first);
+        return image != images.end() && image->second;
+    };
+    if (std::ranges::none_of(sheets.getMaterials(), isUsed)) {
+        ranges[nullptr] = {{0, static_cast<std::size_t>(sheets.getNumParts())}};
+        return ranges;
     }
+    for (int i = 0; i < sheets.getNumParts(); ++i) {
+        const boost::shared_ptr<std::string>& material = sheets.getPart(i).getMaterial();
+        const auto image = material ? images.find(*material) : images.end();
+        std::vector<PartRange>& found = ranges[image != images.end() ? image->second : nullptr];
+        const auto number = static_cast<std::size_t>(i);
+        if (!found.empty() && found.back().first + found.back().count == number) {
+            ++found.back().count;
+        } else {
+            found.push_back({number, 1});
+        }
+    }
+    return ranges;
 }
+
+} // namespace
 
 std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
 {
     std::vector<LineMesh::Piece> pieces;
     pieces.reserve(static_cast<std::size_t>(lines.getNumVertices() / 2));
     for (int i = 0; i < lines.getNumParts(); ++i) {
-        addPieces(lines.getPart(i), i, pieces);
+        const VertexBufferCoords& vertices = lines.getPart(i).getVertices();
+        const auto number = static_cast<float>(i);
+        for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
+            pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
+        }
     }
     return pieces;
 }
@@ -68,8 +91,6 @@ std::vector<Instance> instancesOf(const PointCollection& points)
     }
     return instances;
 }
-
-} // namespace
 
 MarkingType rowOfMesh(unsigned flags)
 {
@@ -112,12 +133,12 @@ PartRows PartPainting::rowsOf(const StyleOf& styleOf, const std::optional<Color>
     return rows;
 }
 
-PartRows PartPainting::rowsOfSheets(const std::optional<Color>& color) const
+PartRows PartPainting::faceRows(const std::optional<Color>& color) const
 {
     return rowsOf([](const Marking& row) { return Style{row.getSheetColor(), 0.0f}; }, color);
 }
 
-PartRows PartPainting::rowsOfLines(const std::optional<Color>& color) const
+PartRows PartPainting::lineRows(const std::optional<Color>& color) const
 {
     return rowsOf(
         [](const Marking& row) {
@@ -126,7 +147,7 @@ PartRows PartPainting::rowsOfLines(const std::optional<Color>& color) const
         color);
 }
 
-PartRows PartPainting::rowsOfPoints(const std::optional<Color>& color) const
+PartRows PartPainting::pointRows(const std::optional<Color>& color) const
 {
     return rowsOf(
         [](const Marking& row) {
@@ -164,13 +185,13 @@ void PartPainting::drawLabels(const Parts& parts, bool isBeside) const
     }
 }
 
-void PartPainting::drawAll(const ObjectParts& parts) const
+void PartPainting::drawAll(const ObjectParts& parts, const Images& images) const
 {
     const auto colorOf = [&](int level) -> std::optional<Color> {
         const bool isHighest = std::min(parts.getHighestLevel(), PartSheet) == level;
         return isHighest && m_object->isObjectColorUsed() ? std::optional(m_object->getObjectColor()) : std::nullopt;
     };
-    drawSheets(parts.getSheets(), parts.getChangeId(), colorOf(PartSheet));
+    drawSheets(parts.getSheets(), parts.getChangeId(), colorOf(PartSheet), images);
     drawLines(parts.getLines(), parts.getChangeId(), colorOf(PartLine));
     drawPoints(parts.getPoints(), parts.getChangeId(), colorOf(PartPoint));
     if (m_context.objects.showLineDirections) {
@@ -184,14 +205,26 @@ void PartPainting::drawAll(const ObjectParts& parts) const
     }
 }
 
-void PartPainting::drawSheets(const SheetCollection& sheets, int changeId, const std::optional<Color>& color) const
+void PartPainting::drawSheets(const SheetCollection& sheets, int changeId, const std::optional<Color>& color,
+                              const Images& images) const
 {
-    if (sheets.getNumTriangles() > 0) {
-        const Mesh* mesh =
-            m_context.uploads.mesh(m_object, UploadSheets, changeId, [&] { return meshPartsOf(sheets); });
-        const PartRows rows = rowsOfSheets(color);
-        const PartRange all = {0, static_cast<std::size_t>(sheets.getNumParts())};
-        m_context.drawMesh(mesh, {tableOf(UploadSheets, sheets), rows, {&all, 1}}, m_look);
+    if (sheets.getNumTriangles() < 1) {
+        return;
+    }
+    const Mesh* mesh = m_context.uploads.mesh(m_object, UploadSheets, changeId, [&] { return meshPartsOf(sheets); });
+    PartRows rows = faceRows(color);
+    const PartTable& table = tableOf(UploadSheets, sheets);
+    const BoundingBox& box = m_object->getStoredBoundingBox();
+    const Vector3f corner = box.getMin();
+    const Vector3f size = box.getMax() - corner;
+    const float longest = std::max({size.x, size.y, size.z});
+    for (const auto& [image, ranges] : rangesByImage(sheets, images)) {
+        const bool isTextured = m_context.images.bind(image) && longest > 0.0f;
+        if (isTextured) {
+            const float density = image->getScale() > 0.0f ? image->getScale() : 1.0f;
+            rows.imagePlace = {corner.x, corner.y, corner.z, density * c_imagesPerObject / longest};
+        }
+        m_context.drawMesh(mesh, {table, rows, ranges, isTextured}, m_look);
     }
 }
 
@@ -200,8 +233,7 @@ void PartPainting::drawLines(const LineCollection& lines, int changeId, const st
     if (lines.getNumVertices() > 0) {
         const LineMesh* pieces =
             m_context.uploads.lines(m_object, UploadLines, changeId, [&] { return piecesOf(lines); });
-        const PartRows rows = rowsOfLines(color);
-        m_context.drawLines(pieces, {tableOf(UploadLines, lines), rows}, m_look);
+        m_context.drawLines(pieces, {tableOf(UploadLines, lines), lineRows(color)}, m_look);
     }
 }
 
@@ -210,52 +242,14 @@ void PartPainting::drawPoints(const PointCollection& points, int changeId, const
     if (points.getNumParts() > 0) {
         const InstanceBuffer* positions =
             m_context.uploads.instances(m_object, UploadPoints, changeId, [&] { return instancesOf(points); });
-        const PartRows rows = rowsOfPoints(color);
-        m_context.drawSymbols(positions, {tableOf(UploadPoints, points), rows}, RenderSymbol::circle, m_look);
-    }
-}
-
-void PartPainting::drawOne(const ObjectParts& parts, int level, int index) const
-{
-    PartTable table;
-    const auto setRow = [&](const SelectablePart& part) {
-        const auto row = static_cast<std::uint8_t>(MarkingModeSetup::getMarkingType(part.getDisplayFlags()));
-        table.set({&row, 1});
-    };
-    if (level == PartSolid) {
-        for (const int sheet : parts.getAdjacents(PartSolid, PartSheet).of(index)) {
-            drawOne(parts, PartSheet, sheet);
-        }
-    } else if (level == PartSheet) {
-        const Sheet& sheet = parts.getSheets().getPart(index);
-        const MeshPart part = {sheet.getVertices(), sheet.getTriangles()};
-        Mesh mesh;
-        mesh.load({&part, 1});
-        setRow(sheet);
-        const PartRange all = {0, 1};
-        m_context.drawMesh(&mesh, {table, rowsOfSheets(), {&all, 1}}, m_look);
-    } else if (level == PartLine) {
-        const Line& line = parts.getLines().getPart(index);
-        std::vector<LineMesh::Piece> pieces;
-        addPieces(line, 0, pieces);
-        LineMesh mesh;
-        mesh.load(std::move(pieces));
-        setRow(line);
-        m_context.drawLines(&mesh, {table, rowsOfLines()}, m_look);
-    } else if (level == PartPoint) {
-        const Point& point = parts.getPoints().getPart(index);
-        const Instance instance = {.position = point.getPosition(), .axis = {}, .u = 0.0f};
-        InstanceBuffer position;
-        position.load({&instance, 1});
-        setRow(point);
-        m_context.drawSymbols(&position, {table, rowsOfPoints()}, RenderSymbol::circle, m_look);
+        m_context.drawSymbols(positions, {tableOf(UploadPoints, points), pointRows(color)}, RenderSymbol::circle,
+                              m_look);
     }
 }
 
 void PartPainting::drawDirections(const LineCollection& lines) const
 {
     const View& view = m_context.view;
-    const float pixelSize = view.pixelSize() * m_context.scale;
     std::array<std::vector<LineSegment>, PartRows::c_numRows> heads;
     for (int i = 0; i < lines.getNumParts(); ++i) {
         const Line& line = lines.getPart(i);
@@ -266,20 +260,8 @@ void PartPainting::drawDirections(const LineCollection& lines) const
         }
         const auto& [position, direction] = *line.getDirectionMarker();
         const Vector3f tip = view.sceneToEye * position;
-        const Vector3f before = view.sceneToEye * (position - direction);
-        // What points at the eye has no direction in the picture.
-        Vector3f along = tip - before;
-        along.z = 0.0f;
-        if (!(along.lengthSquared() > 0.0f)) {
-            continue;
-        }
-        along.normalize();
-        const float w = view.projection.get(4, 3) * tip.z + view.projection.get(4, 4);
-        const float length = pixelSize * w * std::max(c_headPerWidth * marking.getLineWidth(), c_shortestHead);
-        const Vector3f side(-along.y * c_headSlope, along.x * c_headSlope, 0.0f);
-        for (const Vector3f& wing : {side, -side}) {
-            heads[static_cast<std::size_t>(row)].push_back({tip, tip + length * (wing - along)});
-        }
+        const float pixels = m_context.scale * std::max(c_headPerWidth * marking.getLineWidth(), c_shortestHead);
+        addArrowHead(heads[row], tip, tip - view.sceneToEye * (position - direction), pixels * view.pixelSizeAt(tip));
     }
     for (std::size_t i = 0; i < heads.size(); ++i) {
         const Marking& marking = m_context.objects.markings.getMarking(static_cast<MarkingType>(i));

@@ -5,6 +5,7 @@
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/symbolpainter.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vxrenderer {
@@ -50,11 +51,13 @@ void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width
 }
 
 void PaintContext::drawSegments(std::span<const LineSegment> segments, const vxgraphics3d::Matrixf& toClip,
-                                const vxgraphics3d::Color& color, float width) const
+                                const vxgraphics3d::Color& color, float width, float over) const
 {
     vxgraphics3d::Color faint = color;
     faint.alpha = static_cast<int>(std::lround(255.0f * opacity));
-    lines.draw(segments, {toClip, view.area.width, view.area.height, width * scale, view.aboveFaces(width * scale)},
+    lines.draw(segments,
+               {toClip, view.area.width, view.area.height, width * scale,
+                view.aboveFaces(std::max(width, 1.1f * over) * scale)},
                faint);
 }
 

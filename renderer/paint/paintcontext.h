@@ -78,8 +78,9 @@ struct PaintContext {
     void drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound = false) const;
     /// Lines that are copied for this call.
     /// @param toClip from their points to the area of the scene
+    /// @param over width of the widest lines, or size of the largest symbols, that they are drawn over
     void drawSegments(std::span<const LineSegment> segments, const vxgraphics3d::Matrixf& toClip,
-                      const vxgraphics3d::Color& color, float width) const;
+                      const vxgraphics3d::Color& color, float width, float over = 0.0f) const;
     /// A symbol at the position of each instance.
     /// @param size in pixels of the screen
     void drawSymbols(const InstanceBuffer* positions, const Look& look, RenderSymbol symbol, float size) const;

@@ -20,7 +20,7 @@ struct PartRange;
 /// uniform block `PartRows`; which row a part has is in a `PartTable`.
 struct PartRows {
     static constexpr const char* c_block = "PartRows";
-    static constexpr GLuint c_binding = 7;
+    static constexpr GLuint c_binding = 8;
     static constexpr std::size_t c_numRows = 10;
     /// The block, with `int rowOfPart(int part)`, for vertex shaders.
     static const char* const c_source;

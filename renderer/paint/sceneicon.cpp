@@ -21,6 +21,8 @@ using vxgraphics3d::Image;
 /// Side of the square for an icon without an image, in pixels of the screen.
 constexpr float c_emptySide = 9.0f;
 constexpr int c_emptyColor = 0x4d4d4d;
+/// How far symbols are before their points, and a little more, see `View::aboveFaces`.
+constexpr float c_aboveSymbols = 3.5f;
 
 /// A side of an icon in pixels of the picture.
 float sideOf(const boost::shared_ptr<const Image>& image, int (Image::*side)() const, float scale)
@@ -48,8 +50,8 @@ void drawIcons(std::vector<SceneIcon> icons, const View& view, int width, int he
     for (const SceneIcon& icon : icons) {
         const float iconWidth = sideOf(icon.image, &Image::getWidth, scale);
         const float iconHeight = sideOf(icon.image, &Image::getHeight, scale);
-        const std::optional<PicturePoint> place =
-            PicturePoint::of(icon.point, view, std::max(iconWidth, iconHeight));
+        const float reach = std::max({iconWidth, iconHeight, c_aboveSymbols * icon.over * scale});
+        const std::optional<PicturePoint> place = PicturePoint::of(icon.point, view, reach);
         if (!place) {
             continue;
         }

@@ -25,6 +25,8 @@ struct SceneIcon {
     /// How far its middle lies to the right of the point, in widths of the icon: those at the same point lie side by
     /// side.
     float shift = 0.0f;
+    /// Size of the largest symbols that it is drawn over, in pixels of the screen.
+    float over = 0.0f;
 };
 
 /// Draws icons into the scene buffer, whose depths they are compared with, each as a whole: what an icon lies on does

@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <utility>
 
 namespace vxrenderer {
@@ -91,7 +92,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     if (frame.scene == nullptr) {
         return;
     }
-    layout.box = frame.isFlat() ? boxOf(layout.items, frame.logAxes()) : frame.scene->getBoundingBox();
+    layout.box =
+        frame.isFlat() ? boxOf(layout.items, frame.logAxes()) : boxInSpace(*frame.scene->getRoot(), layout.items);
     layout.area = divideSpace(frame, layout.space, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
@@ -165,6 +167,14 @@ void SceneRenderer::drawItem(const SceneItem& item, const PaintContext& context)
     }
 }
 
+bool SceneRenderer::isTranslucent(const SceneItem& item) const
+{
+    const auto* object = std::get_if<ObjectItem>(&item);
+    return object != nullptr && std::ranges::any_of(m_objectPainters, [&](const auto& painter) {
+               return painter->isTranslucent() && painter->draws((*object)->getObjectType());
+           });
+}
+
 void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned renderMask,
                               const PaintContext& context) const
 {
@@ -175,20 +185,20 @@ void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned rend
             shown.push_back(&item);
         }
     }
-    const auto drawAll = [&] {
-        for (const SceneItem* item : shown) {
-            drawItem(*item, context);
-        }
-    };
-    if (context.opacity >= 1.0f) {
-        drawAll();
-    } else if (context.opacity > 0.0f) {
+    const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
+    const auto translucent = std::ranges::stable_partition(shown, isOpaque);
+    for (const SceneItem* item : std::span(shown.begin(), translucent.begin())) {
+        drawItem(*item, context);
+    }
+    if (!translucent.empty() && context.opacity > 0.0f) {
         // What lies farther off comes first, by the middles of the items.
         const auto depthOf = [&](const SceneItem* item) { return (context.view.sceneToEye * centerOf(*item)).z; };
-        std::ranges::stable_sort(shown, {}, depthOf);
+        std::ranges::stable_sort(translucent, {}, depthOf);
         setBlending(true);
         glDepthMask(GL_FALSE);
-        drawAll();
+        for (const SceneItem* item : translucent) {
+            drawItem(*item, context);
+        }
         glDepthMask(GL_TRUE);
         setBlending(false);
     }

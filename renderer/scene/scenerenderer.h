@@ -68,6 +68,8 @@ private:
     void drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
                   std::vector<SceneLabel>& labels);
     void drawItem(const SceneItem& item, const PaintContext& context) const;
+    /// Whether an item is blended in every picture.
+    bool isTranslucent(const SceneItem& item) const;
     void drawItems(const std::vector<SceneItem>& items, unsigned renderMask, const PaintContext& context) const;
     void drawLightMarkers(const Frame& frame);
     void drawOverlays(const Frame& frame, const FrameLayout& layout);

@@ -41,8 +41,8 @@ void load(boost::shared_ptr<const Image> image)
     }
     std::vector<std::uint32_t> pixels(pixelsOf(*image).size());
     std::ranges::transform(pixelsOf(*image), pixels.begin(), premultiplied);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, image->getWidth(), image->getHeight(), 0, GL_RGBA,
-                 GL_UNSIGNED_INT_8_8_8_8, pixels.data());
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, image->getWidth(), image->getHeight(), 0, GL_RGBA, GL_UNSIGNED_INT_8_8_8_8,
+                 pixels.data());
     glGenerateMipmap(GL_TEXTURE_2D);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
