@@ -123,8 +123,8 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     std::vector<SceneIcon> icons;
     std::vector<SceneLabel> labels;
     drawData(frame, layout, icons, labels);
-    // Lines hide nothing, and are not to be crossed by the grid.
-    if (axes != nullptr && hasMoreThanGraphs(layout.items)) {
+    // Lines of graphs and the geometry of objects are not to be crossed by the grid.
+    if (axes != nullptr && hasPlotsBesidesGraphs(layout.items)) {
         setBlending(true);
         axes->drawOver(m_lines);
         setBlending(false);
