@@ -9,12 +9,13 @@
 #include "graphics3d/overlays/overlay.h"
 #include "graphics3d/picking/canvaspicksettings.h"
 #include "graphics3d/scene/scene.h"
-#include "graphics3d/scenegraph/scenegraphnode.h"
+#include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/settings/contextdata.h"
 #include "renderer/canvas/glrendererinfo.h"
 #include "renderer/canvas/pngencoder.h"
 #include "renderer/gl/target.h"
+#include "renderer/scene/sceneitems.h"
 #include "renderer/scene/scenerenderer.h"
 
 #include <boost/make_shared.hpp>
@@ -248,7 +249,7 @@ void OffscreenCanvas::setMarkingMode(MarkingSetups::MarkingMode mode)
 void OffscreenCanvas::zoomExtents()
 {
     dropDisposedScene();
-    if (!m_sceneView) {
+    if (!m_sceneView || collectItems(*m_sceneView->getScene()->getRoot()).empty()) {
         return;
     }
     const Appearance look = appearance();

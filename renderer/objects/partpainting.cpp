@@ -66,6 +66,16 @@ RangesByImage rangesByImage(const SheetCollection& sheets, const PartPainting::I
     return ranges;
 }
 
+/// Adds the segments of a line, with its number as texture coordinate.
+void addPieces(const Line& line, int index, std::vector<LineMesh::Piece>& pieces)
+{
+    const VertexBufferCoords& vertices = line.getVertices();
+    const auto number = static_cast<float>(index);
+    for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
+        pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
+    }
+}
+
 } // namespace
 
 std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
@@ -73,11 +83,7 @@ std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
     std::vector<LineMesh::Piece> pieces;
     pieces.reserve(static_cast<std::size_t>(lines.getNumVertices() / 2));
     for (int i = 0; i < lines.getNumParts(); ++i) {
-        const VertexBufferCoords& vertices = lines.getPart(i).getVertices();
-        const auto number = static_cast<float>(i);
-        for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
-            pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
-        }
+        addPieces(lines.getPart(i), i, pieces);
     }
     return pieces;
 }
@@ -233,7 +239,8 @@ void PartPainting::drawLines(const LineCollection& lines, int changeId, const st
     if (lines.getNumVertices() > 0) {
         const LineMesh* pieces =
             m_context.uploads.lines(m_object, UploadLines, changeId, [&] { return piecesOf(lines); });
-        m_context.drawLines(pieces, {tableOf(UploadLines, lines), lineRows(color)}, m_look);
+        const PartRows rows = lineRows(color);
+        m_context.drawLines(pieces, {tableOf(UploadLines, lines), rows}, m_look);
     }
 }
 
@@ -242,8 +249,8 @@ void PartPainting::drawPoints(const PointCollection& points, int changeId, const
     if (points.getNumParts() > 0) {
         const InstanceBuffer* positions =
             m_context.uploads.instances(m_object, UploadPoints, changeId, [&] { return instancesOf(points); });
-        m_context.drawSymbols(positions, {tableOf(UploadPoints, points), pointRows(color)}, RenderSymbol::circle,
-                              m_look);
+        const PartRows rows = pointRows(color);
+        m_context.drawSymbols(positions, {tableOf(UploadPoints, points), rows}, RenderSymbol::circle, m_look);
     }
 }
 

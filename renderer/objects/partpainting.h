@@ -88,9 +88,9 @@ private:
     using StyleOf = std::function<Style(const vxgraphics3d::Marking& row)>;
 
     PartRows rowsOf(const StyleOf& styleOf, const std::optional<vxgraphics3d::Color>& color) const;
-    PartRows faceRows(const std::optional<vxgraphics3d::Color>& color) const;
-    PartRows lineRows(const std::optional<vxgraphics3d::Color>& color) const;
-    PartRows pointRows(const std::optional<vxgraphics3d::Color>& color) const;
+    PartRows faceRows(const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
+    PartRows lineRows(const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
+    PartRows pointRows(const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
     int rankOf(int layer) const;
     template <class Parts>
     const PartTable& tableOf(int number, const Parts& parts) const;

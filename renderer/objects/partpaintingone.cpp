@@ -76,7 +76,7 @@ void PartPainting::drawSheet(const Sheet& sheet) const
     const auto draw = [&](const MeshPart& part, MarkingType row) {
         Mesh mesh;
         mesh.load({&part, 1});
-        m_context.drawMesh(&mesh, {RowTable(row).get(), faceRows({}), {&all, 1}}, m_look);
+        m_context.drawMesh(&mesh, {RowTable(row).get(), faceRows(), {&all, 1}}, m_look);
     };
     draw({sheet.getVertices(), sheet.getTriangles()}, rowOf(sheet));
     if (sheet.isMarked(MarkMeshed)) {
@@ -90,7 +90,7 @@ void PartPainting::drawLine(const Line& line) const
     const auto draw = [&](std::vector<LineMesh::Piece> pieces, MarkingType row) {
         LineMesh mesh;
         mesh.load(std::move(pieces));
-        m_context.drawLines(&mesh, {RowTable(row).get(), lineRows({})}, m_look);
+        m_context.drawLines(&mesh, {RowTable(row).get(), lineRows()}, m_look);
     };
     draw(piecesOf(line.getVertices(), 2), rowOf(line));
     if (line.isMarked(MarkMeshed)) {
@@ -103,7 +103,7 @@ void PartPainting::drawPoint(const Point& point) const
     const Instance instance = {.position = point.getPosition(), .axis = {}, .u = 0.0f};
     InstanceBuffer position;
     position.load({&instance, 1});
-    m_context.drawSymbols(&position, {RowTable(rowOf(point)).get(), pointRows({})}, RenderSymbol::circle, m_look);
+    m_context.drawSymbols(&position, {RowTable(rowOf(point)).get(), pointRows()}, RenderSymbol::circle, m_look);
 }
 
 } // namespace vxrenderer
