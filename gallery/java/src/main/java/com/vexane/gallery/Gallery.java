@@ -35,6 +35,7 @@ import com.vexane.gallery.pictures.OceanIsotherms;
 import com.vexane.gallery.pictures.OceanProfile;
 import com.vexane.gallery.pictures.OceanSlices;
 import com.vexane.gallery.pictures.OverlayShapes;
+import com.vexane.gallery.pictures.PickedParts;
 import com.vexane.gallery.pictures.PlateWithHole;
 import com.vexane.gallery.pictures.PolarView;
 import com.vexane.gallery.pictures.PrincipalStress;
@@ -120,6 +121,7 @@ public final class Gallery {
             new BracketMaterials(),
             new ModelMarkers(),
             new MarkingRules(),
+            new PickedParts(),
             new WorkPlanes(),
             new ProjectedGeometry(),
             new BallsAndProbes(),
