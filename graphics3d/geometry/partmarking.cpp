@@ -12,6 +12,27 @@ bool isCounted(PartMarking::Action action)
     return action == SceneGraphObject::MarkingPrimary || action == SceneGraphObject::MarkingSecondary;
 }
 
+template <int level>
+auto& collectionOf(ObjectParts& parts)
+{
+    if constexpr (level == PartPoint) {
+        return parts.points();
+    } else if constexpr (level == PartLine) {
+        return parts.lines();
+    } else {
+        return parts.sheets();
+    }
+}
+
+/// The parts of a row are all over the memory: has the processor fetch them together.
+template <class Parts>
+void prefetch(const Parts& parts, std::span<const int> indices)
+{
+    for (const int index : indices) {
+        parts.getPart(index).prefetchMarks();
+    }
+}
+
 /// Calls `use` with the collection of a level.
 template <class Use>
 void withLevel(ObjectParts& parts, int level, Use use)
@@ -91,7 +112,7 @@ void PartMarking::apply(Parts& parts, int level, int index, Action action, bool 
     if (isCounted(action)) {
         propagateCount(level, index, action, on);
     } else {
-        propagateThreshold(index, {level, parts.getMarkFlags(index), action, on});
+        propagateThreshold(level, index, {action, on, parts.getMarkFlags(index)});
     }
     if (on) {
         parts.setMark(ownMark, true, index);
@@ -111,47 +132,49 @@ void PartMarking::propagateCount(int level, int index, Action action, bool on)
     }
 }
 
-void PartMarking::propagateThreshold(int index, const Source& source)
+void PartMarking::propagateThreshold(int level, int index, Source source)
 {
-    if (source.level > PartSheet) {
-        controlAdjacent(m_parts.sheets(), PartSheet, index, source);
+    if (level > PartLine) {
+        prefetch(m_parts.getLines(), m_parts.getAdjacents(level, PartLine).of(index));
     }
-    if (source.level > PartLine) {
-        controlAdjacent(m_parts.lines(), PartLine, index, source);
+    if (level > PartPoint) {
+        prefetch(m_parts.getPoints(), m_parts.getAdjacents(level, PartPoint).of(index));
     }
-    if (source.level > PartPoint) {
-        controlAdjacent(m_parts.points(), PartPoint, index, source);
+    switch (level) {
+    case PartSolid:
+        controlAdjacent<PartSolid, PartSheet>(index, source);
+        controlAdjacent<PartSolid, PartLine>(index, source);
+        controlAdjacent<PartSolid, PartPoint>(index, source);
+        break;
+    case PartSheet:
+        controlAdjacent<PartSheet, PartLine>(index, source);
+        controlAdjacent<PartSheet, PartPoint>(index, source);
+        break;
+    case PartLine:
+        controlAdjacent<PartLine, PartPoint>(index, source);
+        break;
+    default:
+        break;
     }
 }
 
-/// Propagates to the adjacent parts of one level, and from those whose mark changes to the parts one level below.
-template <class Parts>
-void PartMarking::controlAdjacent(Parts& parts, int level, int index, const Source& source)
+/// Propagates to the adjacent parts of one level, and from those whose mark changes to the parts one level below. For
+/// each pair of levels there is a loop of its own, whose branches the processor can predict.
+template <int level, int lower>
+void PartMarking::controlAdjacent(int index, Source source)
 {
-    const std::span<const int> adjacents = m_parts.getAdjacents(source.level, level).of(index);
-    for (const int adjacent : adjacents) {
-        parts.getPart(adjacent).prefetchMarks();
-    }
-    for (const int adjacent : adjacents) {
-        const bool isChanged = source.action == SceneGraphObject::MarkingHidden
-                                   ? parts.adjacentHiddenMark(source.on, adjacent, source.level, source.flags)
-                                   : parts.adjacentUnpickableMark(source.on, adjacent, source.level, source.flags);
-        if (isChanged && level > PartPoint) {
-            // Without the mark that has just changed, in both directions. The unpickable one is not among them.
-            const unsigned changed = source.action == SceneGraphObject::MarkingHidden ? MarkHiddenAdjacent : 0u;
-            const unsigned flags = parts.getMarkFlags(adjacent) & ~changed;
-            cascade(adjacent, {level, static_cast<int>(flags), source.action, source.on});
+    auto& parts = collectionOf<lower>(m_parts);
+    for (const int adjacent : m_parts.getAdjacents(level, lower).of(index)) {
+        const bool isHidden = source.action == SceneGraphObject::MarkingHidden;
+        const bool isChanged = isHidden ? parts.adjacentHiddenMark(source.on, adjacent, level, source.flags)
+                                        : parts.adjacentUnpickableMark(source.on, adjacent, level, source.flags);
+        if constexpr (lower > PartPoint) {
+            if (isChanged) {
+                // Without the mark that has just changed, in both directions. The unpickable one is not among them.
+                const unsigned flags = parts.getMarkFlags(adjacent) & ~(isHidden ? MarkHiddenAdjacent : 0u);
+                controlAdjacent<lower, lower - 1>(adjacent, {source.action, source.on, static_cast<int>(flags)});
+            }
         }
-    }
-}
-
-/// The adjacent mark of a part has changed, which concerns the parts one level below.
-void PartMarking::cascade(int index, const Source& source)
-{
-    if (source.level == PartSheet) {
-        controlAdjacent(m_parts.lines(), PartLine, index, source);
-    } else {
-        controlAdjacent(m_parts.points(), PartPoint, index, source);
     }
 }
 

@@ -31,17 +31,15 @@ private:
     template <class Parts>
     void apply(Parts& parts, int level, int index, Action action, bool on);
     void propagateCount(int level, int index, Action action, bool on);
-    /// A part whose mark spreads to the parts below.
+    /// What spreads from a part.
     struct Source {
-        int level;
-        int flags; ///< without the mark that spreads
         Action action;
         bool on;
+        int flags; ///< of the part, without the mark that spreads
     };
-    void propagateThreshold(int index, const Source& source);
-    template <class Parts>
-    void controlAdjacent(Parts& parts, int level, int index, const Source& source);
-    void cascade(int index, const Source& source);
+    void propagateThreshold(int level, int index, Source source);
+    template <int level, int lower>
+    void controlAdjacent(int index, Source source);
 
     ObjectParts& m_parts;
 };

@@ -12,6 +12,7 @@
 #include <span>
 #include <stdexcept>
 #include <string>
+#include <type_traits>
 
 namespace vxgraphics3d {
 namespace {
@@ -28,36 +29,39 @@ std::string numbered(const char* name, int index)
     return std::string(name) + " " + std::to_string(index);
 }
 
-template <class T>
-void checkArray(const std::unique_ptr<T[]>& array, int count, const std::string& what)
+/// @param what the name of the array in messages, made only for one
+template <class T, class What>
+void checkArray(const std::unique_ptr<T[]>& array, int count, What what)
 {
     if (count < 0 || count > c_mostElements || (count > 0 && !array)) {
-        throw std::invalid_argument("The record has " + std::to_string(count) + " " + what +
+        throw std::invalid_argument("The record has " + std::to_string(count) + " " + what() +
                                     (count > 0 && !array ? ", but no array of them." : "."));
     }
 }
 
-unsigned highestCorner(const Triangle& t)
+template <class T>
+void checkArray(const std::unique_ptr<T[]>& array, int count, const char* what)
 {
-    // As unsigned numbers, negative indices are the highest.
-    return std::max({static_cast<unsigned>(t.a), static_cast<unsigned>(t.b), static_cast<unsigned>(t.c)});
+    checkArray(array, count, [what] { return std::string(what); });
 }
 
-unsigned highestCorner(const Quad& q)
+/// The corners of triangles or quadrilaterals are indices of vertices.
+/// @param what the name of an element in messages, made only for one
+template <class Element, class What>
+void checkCorners(std::span<const Element> elements, int numVertices, What what)
 {
-    return std::max({static_cast<unsigned>(q.a), static_cast<unsigned>(q.b), static_cast<unsigned>(q.c),
-                     static_cast<unsigned>(q.d)});
-}
-
-template <class Element>
-void checkCorners(std::span<const Element> elements, int numVertices, const std::string& what)
-{
-    unsigned highest = 0;
-    for (const Element& element : elements) {
-        highest = std::max(highest, highestCorner(element));
+    static_assert(std::is_standard_layout_v<Element> && sizeof(Element) % sizeof(int) == 0);
+    const std::span<const int> corners(reinterpret_cast<const int*>(elements.data()),
+                                       elements.size() * (sizeof(Element) / sizeof(int)));
+    // The sign of an index, or of its distance from the last vertex. This loop is as fast as memory.
+    const auto last = static_cast<unsigned>(numVertices) - 1u;
+    unsigned signs = 0;
+    for (const int corner : corners) {
+        signs |= static_cast<unsigned>(corner) | (last - static_cast<unsigned>(corner));
     }
-    if (!elements.empty() && highest >= static_cast<unsigned>(numVertices)) {
-        throw std::out_of_range(what + " refers to vertex " + std::to_string(static_cast<int>(highest)) + " of " +
+    if (static_cast<int>(signs) < 0) {
+        const auto wrong = std::ranges::find_if(corners, [&](int i) { return i < 0 || i >= numVertices; });
+        throw std::out_of_range(what() + " refers to vertex " + std::to_string(*wrong) + " of " +
                                 std::to_string(numVertices) + ".");
     }
 }
@@ -70,10 +74,10 @@ void checkSheets(const Sheets& sheets, int numSheets)
         if (!sheet.m_isValid) {
             continue;
         }
-        checkArray(sheet.m_vertices, sheet.m_numVertices, "vertices of " + numbered("sheet", i));
-        checkArray(sheet.m_triangles, sheet.m_numTriangles, "triangles of " + numbered("sheet", i));
+        checkArray(sheet.m_vertices, sheet.m_numVertices, [i] { return "vertices of " + numbered("sheet", i); });
+        checkArray(sheet.m_triangles, sheet.m_numTriangles, [i] { return "triangles of " + numbered("sheet", i); });
         checkCorners(entries(sheet.m_triangles, sheet.m_numTriangles), sheet.m_numVertices,
-                     "A triangle of " + numbered("sheet", i));
+                     [i] { return "A triangle of " + numbered("sheet", i); });
     }
 }
 
@@ -83,7 +87,7 @@ void checkCurves(const Curves& curves, int numCurves)
     for (int i = 0; i < numCurves; ++i) {
         const auto& curve = curves[static_cast<std::size_t>(i)];
         if (curve.m_isValid) {
-            checkArray(curve.m_vertices, curve.m_numVertices, "vertices of " + numbered("line", i));
+            checkArray(curve.m_vertices, curve.m_numVertices, [i] { return "vertices of " + numbered("line", i); });
         }
     }
 }
@@ -99,7 +103,7 @@ void checkRelation(const AdjacencyRecord& relation, int level, int numRows, int 
                                     " rows for " + std::to_string(numRows) + " parts.");
     }
     checkArray(relation.m_values, relation.m_numValues,
-               std::string("adjacent parts of level ") + c_names[adjacentLevel]);
+               [=] { return std::string("adjacent parts of level ") + c_names[adjacentLevel]; });
     std::int64_t total = 0;
     for (int row = 0; row < numRows; ++row) {
         const auto [start, count] = relation.m_rows[static_cast<std::size_t>(row)];
@@ -142,25 +146,28 @@ public:
     void operator()(const RenderLineMesh<Coords>& mesh)
     {
         checkPart(mesh, "line", m_numLines);
-        checkCoordinates(mesh, "mesh of " + numbered("line", mesh.m_partIndex));
+        checkCoordinates(mesh, "line");
     }
 
     template <class Coords>
     void operator()(const RenderSheetMesh<Coords>& mesh)
     {
         checkPart(mesh, "sheet", m_numSheets);
-        const std::string name = "mesh of " + numbered("sheet", mesh.m_partIndex);
-        checkCoordinates(mesh, name);
-        checkArray(mesh.m_triangles, std::max(mesh.m_numTriangles, 0), "triangles in the " + name);
-        checkArray(mesh.m_quads, std::max(mesh.m_numQuads, 0), "quadrilaterals in the " + name);
+        const auto inMesh = [&](const char* what) {
+            return
+                [&mesh, what] { return std::string(what) + " in the mesh of " + numbered("sheet", mesh.m_partIndex); };
+        };
+        checkCoordinates(mesh, "sheet");
+        checkArray(mesh.m_triangles, std::max(mesh.m_numTriangles, 0), inMesh("triangles"));
+        checkArray(mesh.m_quads, std::max(mesh.m_numQuads, 0), inMesh("quadrilaterals"));
         const auto triangles = entries(mesh.m_triangles, mesh.m_numTriangles);
         const auto quads = entries(mesh.m_quads, mesh.m_numQuads);
         if (3 * triangles.size() + 4 * quads.size() > std::numeric_limits<int>::max() / 2) {
-            throw std::invalid_argument("The " + name + " has too many elements.");
+            throw std::invalid_argument("There are too many" + inMesh(" elements")() + ".");
         }
         const int numCoordinates = std::max(mesh.m_numCoordinates, 0);
-        checkCorners(triangles, numCoordinates, "A triangle in the " + name);
-        checkCorners(quads, numCoordinates, "A quadrilateral in the " + name);
+        checkCorners(triangles, numCoordinates, inMesh("A triangle"));
+        checkCorners(quads, numCoordinates, inMesh("A quadrilateral"));
     }
 
 private:
@@ -173,9 +180,10 @@ private:
     }
 
     template <class Coords>
-    static void checkCoordinates(const RenderLineMesh<Coords>& mesh, const std::string& name)
+    static void checkCoordinates(const RenderLineMesh<Coords>& mesh, const char* kind)
     {
-        checkArray(mesh.m_coordinates, std::max(mesh.m_numCoordinates, 0), "coordinates in the " + name);
+        checkArray(mesh.m_coordinates, std::max(mesh.m_numCoordinates, 0),
+                   [&] { return "coordinates in the mesh of " + numbered(kind, mesh.m_partIndex); });
     }
 
     int m_numLines;

@@ -346,7 +346,7 @@ TEST(PhysicsObjectMeshes, anInconsistentMeshChangesNothing)
     EXPECT_EQ(refused(mesh), "A quadrilateral in the mesh of sheet 0 refers to vertex -1 of 4.");
     mesh = faceMesh(0);
     mesh->m_numCoordinates = -1;
-    EXPECT_EQ(refused(mesh), "A triangle in the mesh of sheet 0 refers to vertex 2 of 0.");
+    EXPECT_EQ(refused(mesh), "A triangle in the mesh of sheet 0 refers to vertex 1 of 0.");
     mesh->m_quads.reset();
     EXPECT_EQ(refused(mesh), "The record has 1 quadrilaterals in the mesh of sheet 0, but no array of them.");
     auto edge = meshOf<RenderMeshEdge3D, Coords3D>(1, {{0, 0, 0}});
