@@ -1,4 +1,5 @@
 #include "datacarrier/adjacencyrecord.h"
+
 #include "tests/support/geometryrecords.h"
 
 #include <gtest/gtest.h>
