@@ -58,15 +58,20 @@ public final class PickedParts implements Picture {
     /** A rectangle in fractions of the picture, what it finds, and the picture of both. */
     private record Pick(Studio studio, CanvasPickSettings settings, PickInteraction picking, RubberBand band,
             PickedObjectCollection hits) {
-        void draw(Target target, double[] area, boolean isVisibleOnly, String caption) throws IOException {
+        private int[] pixels(double[] area) {
             int width = studio.renderer().getWidth();
             int height = studio.renderer().getHeight();
+            return new int[] {(int) (area[0] * width), (int) (area[1] * height), (int) (area[2] * width),
+                (int) (area[3] * height)};
+        }
+
+        void draw(Target target, double[] area, boolean isVisibleOnly, String caption) throws IOException {
+            int[] pixels = pixels(area);
             settings.setPickTarget(target);
             studio.renderer().draw(); // the depths that tell what is visible
-            band.press((int) (area[0] * width), (int) (area[1] * height));
-            band.drag((int) (area[2] * width), (int) (area[3] * height));
-            picking.rectangle(studio.scene(), hits, (int) (area[0] * width), (int) (area[1] * height),
-                    (int) (area[2] * width), (int) (area[3] * height));
+            band.press(pixels[0], pixels[1]);
+            band.drag(pixels[2], pixels[3]);
+            picking.rectangle(studio.scene(), hits, pixels[0], pixels[1], pixels[2], pixels[3]);
             if (isVisibleOnly) {
                 studio.renderer().keepVisible(hits);
             }
@@ -75,17 +80,35 @@ public final class PickedParts implements Picture {
             PickInteraction.unmark(studio.scene(), hits, MarkingAction.PRIMARY);
             band.cancel();
         }
+
+        /** Marks what the picture shows in the first colour, and what is behind it in the second. */
+        void drawWithHidden(double[] area) throws IOException {
+            draw(Target.SHEET, area, true, "Target sheet: the faces inside that the picture shows");
+            int[] pixels = pixels(area);
+            picking.rectangle(studio.scene(), hits, pixels[0], pixels[1], pixels[2], pixels[3]);
+            try (PickedObjectCollection visible = new PickedObjectCollection()) {
+                picking.rectangle(studio.scene(), visible, pixels[0], pixels[1], pixels[2], pixels[3]);
+                studio.renderer().draw();
+                studio.renderer().keepVisible(visible);
+                PickInteraction.mark(studio.scene(), hits, MarkingAction.SECONDARY);
+                PickInteraction.unmark(studio.scene(), visible, MarkingAction.SECONDARY);
+                PickInteraction.mark(studio.scene(), visible, MarkingAction.PRIMARY);
+                studio.view(145, 25).save("The same from behind: a pick goes through, and finds the others as well");
+                PickInteraction.unmark(studio.scene(), visible, MarkingAction.PRIMARY);
+                PickInteraction.unmark(studio.scene(), hits, MarkingAction.SECONDARY);
+            }
+        }
     }
 
     private static void pickFromSolid(Studio studio, Pick pick, Overlay screen) throws IOException {
-        double[] area = {0.46, 0.1, 0.9, 0.62};
+        double[] area = {0.31, 0.1, 0.72, 0.76};
         try (SceneGraphDrawObjectSolid bracket = new SceneGraphDrawObjectSolid(1);
                 RenderDraw3D record = RenderDraw3D.read(1, "", studio.data("bracket_solid.txt"));
                 OverlaySymbol pointer = new OverlaySymbol()) {
             bracket.fillObject(record);
             studio.show(bracket).view(-35, 25);
-            pick.draw(Target.SHEET, area, false, "Target sheet: the faces inside, hidden ones too");
-            pick.draw(Target.SHEET, area, true, "Only those that the picture shows");
+            pick.drawWithHidden(area);
+            studio.view(-35, 25);
             pick.draw(Target.LINE, area, true, "Target line: the visible edges inside");
             pick.draw(Target.POINT, area, true, "Target point: the visible vertices inside");
 
@@ -98,6 +121,7 @@ public final class PickedParts implements Picture {
             pick.settings.setPickTarget(Target.SHEET);
             pick.picking.click(studio.scene(), pick.hits, x, y);
             PickInteraction.mark(studio.scene(), pick.hits, MarkingAction.SECONDARY);
+            bracket.unmarkPart(ObjectPartType.SHEET, pick.hits.get(0).partId(), MarkingAction.SECONDARY);
             bracket.markPart(ObjectPartType.SHEET, pick.hits.get(0).partId(), MarkingAction.PRIMARY);
             studio.save("A click at the symbol: the nearest face in the first colour, those behind it in the second");
             screen.removeOverlayObject(pointer);
@@ -116,7 +140,8 @@ public final class PickedParts implements Picture {
                 RenderGeom3D record = RenderGeom3D.of(solid, up, down)) {
             model.fillObject(record);
             studio.show(model);
-            pick.draw(Target.SUBDOMAIN, new double[] {0.05, 0.05, 0.95, 0.62}, false, "Target subdomain");
+            pick.draw(Target.SUBDOMAIN, new double[] {0.49, 0.42, 0.71, 0.74}, false,
+                    "Target subdomain: the bush is inside");
             model.setActive(false);
         }
     }
@@ -133,7 +158,8 @@ public final class PickedParts implements Picture {
             studio.show(bodies[i]);
         }
         studio.view(-35, 25);
-        pick.draw(Target.OBJECT, new double[] {0.3, 0.1, 0.95, 0.95}, false, "Target object");
+        pick.draw(Target.OBJECT, new double[] {0.35, 0.08, 0.97, 0.65}, false,
+                    "Target object: those of which all vertices, edges or faces are inside");
         for (SceneGraphDrawObjectSolid body : bodies) {
             body.setActive(false);
             body.close();
