@@ -4,6 +4,7 @@
 #include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/overlays/overlay.h"
 #include "graphics3d/parts/markingsetups.h"
+#include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 #include "renderer/canvas/glrendererinfo.h"
@@ -20,6 +21,7 @@ using vxgraphics3d::HardcopySettings;
 using vxgraphics3d::IRendererCanvas;
 using vxgraphics3d::MarkingSetups;
 using vxgraphics3d::Overlay;
+using vxgraphics3d::PickedObjectCollection;
 using vxgraphics3d::Scene;
 using vxgraphics3d::SceneGraphNode;
 
@@ -90,6 +92,15 @@ VX_NATIVE(void, OffscreenRenderer, setMarkingMode)(JNIEnv* env, jclass, jobject 
 VX_NATIVE(void, OffscreenRenderer, resize)(JNIEnv* env, jclass, jobject self, jint width, jint height)
 {
     guarded(env, [&] { canvas(env, self).resize(width, height); });
+}
+
+VX_NATIVE(jint, OffscreenRenderer, keepVisible)(JNIEnv* env, jclass, jobject self, jobject picked)
+{
+    return guarded(env, [&] {
+        auto& results = peer<PickedObjectCollection>(env, picked, "picked");
+        canvas(env, self).keepVisible(results);
+        return results.getNumberOfPickedObjects();
+    });
 }
 
 VX_NATIVE(jint, OffscreenRenderer, getWidth)(JNIEnv* env, jclass, jobject self)

@@ -66,6 +66,16 @@ RangesByImage rangesByImage(const SheetCollection& sheets, const PartPainting::I
     return ranges;
 }
 
+/// Adds the segments of a line, with its number as texture coordinate.
+void addPieces(const Line& line, int index, std::vector<LineMesh::Piece>& pieces)
+{
+    const VertexBufferCoords& vertices = line.getVertices();
+    const auto number = static_cast<float>(index);
+    for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
+        pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
+    }
+}
+
 } // namespace
 
 std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
@@ -73,11 +83,7 @@ std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
     std::vector<LineMesh::Piece> pieces;
     pieces.reserve(static_cast<std::size_t>(lines.getNumVertices() / 2));
     for (int i = 0; i < lines.getNumParts(); ++i) {
-        const VertexBufferCoords& vertices = lines.getPart(i).getVertices();
-        const auto number = static_cast<float>(i);
-        for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
-            pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
-        }
+        addPieces(lines.getPart(i), i, pieces);
     }
     return pieces;
 }
@@ -143,6 +149,15 @@ PartRows PartPainting::lineRows(const std::optional<Color>& color) const
     return rowsOf(
         [](const Marking& row) {
             return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)};
+        },
+        color);
+}
+
+PartRows PartPainting::pointRows(const std::optional<Color>& color) const
+{
+    return rowsOf(
+        [](const Marking& row) {
+            return Style{row.getPointColor(), std::max(row.getPointSize(), 1.0f)};
         },
         color);
 }
@@ -224,11 +239,7 @@ void PartPainting::drawLines(const LineCollection& lines, int changeId, const st
     if (lines.getNumVertices() > 0) {
         const LineMesh* pieces =
             m_context.uploads.lines(m_object, UploadLines, changeId, [&] { return piecesOf(lines); });
-        const PartRows rows = rowsOf(
-            [](const Marking& row) {
-                return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)};
-            },
-            color);
+        const PartRows rows = lineRows(color);
         m_context.drawLines(pieces, {tableOf(UploadLines, lines), rows}, m_look);
     }
 }
@@ -238,11 +249,7 @@ void PartPainting::drawPoints(const PointCollection& points, int changeId, const
     if (points.getNumParts() > 0) {
         const InstanceBuffer* positions =
             m_context.uploads.instances(m_object, UploadPoints, changeId, [&] { return instancesOf(points); });
-        const PartRows rows = rowsOf(
-            [](const Marking& row) {
-                return Style{row.getPointColor(), std::max(row.getPointSize(), 1.0f)};
-            },
-            color);
+        const PartRows rows = pointRows(color);
         m_context.drawSymbols(positions, {tableOf(UploadPoints, points), rows}, RenderSymbol::circle, m_look);
     }
 }
@@ -261,7 +268,8 @@ void PartPainting::drawDirections(const LineCollection& lines) const
         const auto& [position, direction] = *line.getDirectionMarker();
         const Vector3f tip = view.sceneToEye * position;
         const float pixels = m_context.scale * std::max(c_headPerWidth * marking.getLineWidth(), c_shortestHead);
-        addArrowHead(heads[row], tip, tip - view.sceneToEye * (position - direction), pixels * view.pixelSizeAt(tip));
+        addArrowHead(heads[static_cast<std::size_t>(row)], tip, tip - view.sceneToEye * (position - direction),
+                     pixels * view.pixelSizeAt(tip));
     }
     for (std::size_t i = 0; i < heads.size(); ++i) {
         const Marking& marking = m_context.objects.markings.getMarking(static_cast<MarkingType>(i));

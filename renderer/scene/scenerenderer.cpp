@@ -5,6 +5,7 @@
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/boundingbox.h"
 #include "graphics3d/parts/markingsetups.h"
+#include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
@@ -13,11 +14,12 @@
 #include "renderer/decoration/triadpainter.h"
 #include "renderer/frame/lighting.h"
 #include "renderer/gl/target.h"
+#include "renderer/objects/visibleparts.h"
 #include "renderer/paint/paintcontext.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
-#include <span>
 #include <utility>
 
 namespace vxrenderer {
@@ -183,19 +185,17 @@ void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned rend
         }
     }
     const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
-    const auto translucent = std::ranges::stable_partition(shown, isOpaque);
-    for (const SceneItem* item : std::span(shown.begin(), translucent.begin())) {
-        drawItem(*item, context);
-    }
-    if (!translucent.empty() && context.opacity > 0.0f) {
+    const auto firstTranslucent = std::stable_partition(shown.begin(), shown.end(), isOpaque);
+    const auto draw = [&](const SceneItem* item) { drawItem(*item, context); };
+    std::for_each(shown.begin(), firstTranslucent, draw);
+    if (firstTranslucent != shown.end() && context.opacity > 0.0f) {
         // What lies farther off comes first, by the middles of the items.
         const auto depthOf = [&](const SceneItem* item) { return (context.view.sceneToEye * centerOf(*item)).z; };
-        std::ranges::stable_sort(translucent, {}, depthOf);
+        std::stable_sort(firstTranslucent, shown.end(),
+                         [&](const SceneItem* one, const SceneItem* other) { return depthOf(one) < depthOf(other); });
         setBlending(true);
         glDepthMask(GL_FALSE);
-        for (const SceneItem* item : translucent) {
-            drawItem(*item, context);
-        }
+        std::for_each(firstTranslucent, shown.end(), draw);
         glDepthMask(GL_TRUE);
         setBlending(false);
     }
@@ -310,6 +310,43 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         triad->drawLetters(m_overlay, layout.orientationFonts);
     }
     dropUnused();
+}
+
+void SceneRenderer::keepShown(PickedObjectCollection& picked, const Frame& frame, const View& view,
+                              const Target& target)
+{
+    std::vector<PickedObject> results;
+    for (int i = 0; i < picked.getNumberOfPickedObjects(); ++i) {
+        results.push_back(picked.getPickedObject(i));
+    }
+    const bool areObjectsShown = frame.scene != nullptr && !view.area.isEmpty() && frame.appearance.opacity > 0.0f &&
+                                 (frame.canvas.getRenderMask() & RenderObjects) != 0;
+    std::vector<bool> shown(results.size(), areObjectsShown);
+    if (areObjectsShown) {
+        std::vector<ObjectItem> objects;
+        for (const SceneItem& item : collectItems(*frame.scene->getRoot())) {
+            if (const auto* object = std::get_if<ObjectItem>(&item)) {
+                objects.push_back(*object);
+            }
+        }
+        const PixelArea& area = view.area;
+        target.bindScene();
+        glViewport(area.x, target.getHeight() - area.y - area.height, area.width, area.height);
+        // With the light of the picture, since that decides about the shaders, and so about the last bits of depths.
+        m_meshes.begin(view,
+                       Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
+        std::vector<SceneIcon> icons;
+        std::vector<SceneLabel> labels;
+        shown = findShown(results, objects,
+                          {view, 1.0f, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance), m_uploads,
+                           m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
+    }
+    picked.reset();
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        if (shown[i]) {
+            picked.add(results[i]);
+        }
+    }
 }
 
 } // namespace vxrenderer

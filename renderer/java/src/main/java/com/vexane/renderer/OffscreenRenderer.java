@@ -7,6 +7,7 @@ import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.HardcopySettings;
 import com.vexane.graphics3d.MarkingSetups;
 import com.vexane.graphics3d.Overlay;
+import com.vexane.graphics3d.PickedObjectCollection;
 import com.vexane.graphics3d.RendererInfo;
 import com.vexane.graphics3d.Scene;
 import com.vexane.graphics3d.SceneGraphNode;
@@ -309,6 +310,24 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
+     * Removes from the results of a pick the parts and objects that the last picture drawn does not show: those that are
+     * completely behind others or outside of the view, and lines of which less than a quarter shows. Results of other
+     * kinds stay. The order stays as it is. Call it after {@link #draw()}, before the scene is changed.
+     *
+     * <p>Nothing is hidden by what is translucent. In a 2D view, where everything has the same depth, and where the scene
+     * is translucent, only what is outside of the view is removed.
+     *
+     * @param picked the results
+     * @return the number of results that are left
+     * @throws NullPointerException if the list is null
+     * @throws IllegalStateException if the list is closed
+     * @throws com.vexane.base.NativeException if nothing has been drawn since the size was set
+     */
+    public int keepVisible(PickedObjectCollection picked) {
+        return keepVisible(this, requireOpen(picked, "picked"));
+    }
+
+    /**
      * What the renderer of this process can do, or which of its requirements are not met. The first call may start the
      * graphics driver.
      *
@@ -393,6 +412,8 @@ public final class OffscreenRenderer extends NativePeer {
     private static native int getSamples(OffscreenRenderer peer);
 
     private static native void draw(OffscreenRenderer peer);
+
+    private static native int keepVisible(OffscreenRenderer peer, PickedObjectCollection picked);
 
     private static native void drawDraft(OffscreenRenderer peer);
 
