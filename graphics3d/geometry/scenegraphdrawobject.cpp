@@ -47,8 +47,14 @@ bool SceneGraphDrawObject::isValid() const
 
 void SceneGraphDrawObject::resetObject()
 {
-    m_labelledPart = -1;
+    forgetParts();
     m_parts.reset();
+}
+
+void SceneGraphDrawObject::forgetParts()
+{
+    m_labelledPart = -1;
+    m_objectPart = SelectablePart(PartSolid);
 }
 
 void SceneGraphDrawObject::mark(MarkingType action, bool on)
