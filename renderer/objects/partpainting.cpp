@@ -268,7 +268,8 @@ void PartPainting::drawDirections(const LineCollection& lines) const
         const auto& [position, direction] = *line.getDirectionMarker();
         const Vector3f tip = view.sceneToEye * position;
         const float pixels = m_context.scale * std::max(c_headPerWidth * marking.getLineWidth(), c_shortestHead);
-        addArrowHead(heads[row], tip, tip - view.sceneToEye * (position - direction), pixels * view.pixelSizeAt(tip));
+        addArrowHead(heads[static_cast<std::size_t>(row)], tip, tip - view.sceneToEye * (position - direction),
+                     pixels * view.pixelSizeAt(tip));
     }
     for (std::size_t i = 0; i < heads.size(); ++i) {
         const Marking& marking = m_context.objects.markings.getMarking(static_cast<MarkingType>(i));
