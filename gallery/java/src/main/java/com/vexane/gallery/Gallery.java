@@ -28,11 +28,14 @@ import com.vexane.gallery.pictures.LightsLockedAndFree;
 import com.vexane.gallery.pictures.LocalAxes;
 import com.vexane.gallery.pictures.LogarithmicAxes;
 import com.vexane.gallery.pictures.MarkingModes;
+import com.vexane.gallery.pictures.MarkingRules;
+import com.vexane.gallery.pictures.ModelMarkers;
 import com.vexane.gallery.pictures.NumberedPlate;
 import com.vexane.gallery.pictures.OceanIsotherms;
 import com.vexane.gallery.pictures.OceanProfile;
 import com.vexane.gallery.pictures.OceanSlices;
 import com.vexane.gallery.pictures.OverlayShapes;
+import com.vexane.gallery.pictures.PickedParts;
 import com.vexane.gallery.pictures.PlateWithHole;
 import com.vexane.gallery.pictures.PolarView;
 import com.vexane.gallery.pictures.PrincipalStress;
@@ -116,6 +119,9 @@ public final class Gallery {
             new NumberedPlate(),
             new SnapPoints(),
             new BracketMaterials(),
+            new ModelMarkers(),
+            new MarkingRules(),
+            new PickedParts(),
             new WorkPlanes(),
             new ProjectedGeometry(),
             new BallsAndProbes(),

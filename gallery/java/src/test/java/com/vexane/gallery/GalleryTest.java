@@ -31,12 +31,19 @@ class GalleryTest {
                 Collectors.counting())).values().stream().filter(count -> count >= 3).count();
     }
 
+    /** The percentage of pixels that differ from the one in the corner. */
+    private static double coverage(int[] pixels) {
+        return 100.0 * Arrays.stream(pixels).filter(pixel -> pixel != pixels[0]).count() / pixels.length;
+    }
+
     @Test
     void everyProgramDrawsItsPictures() throws IOException {
         List<Path> files = Gallery.draw(ROOT, folder, List.of(), 400, 250);
         String page = Files.readString(folder.resolve("index.html"));
         for (Path file : files) {
-            assertTrue(colors(pixels(file)) > 100, file + " shows hardly anything");
+            // Faces have many colours; a drawing of lines has few, but covers more than the smallest text would.
+            int[] pixels = pixels(file);
+            assertTrue(colors(pixels) > 100 || coverage(pixels) > 2.5, file + " shows hardly anything");
             assertTrue(page.contains("src=\"" + file.getFileName() + "\""), file + " is not on the page");
         }
         assertTrue(page.contains("final class EarthRelief"), "the page shows no code");
@@ -119,6 +126,16 @@ class GalleryTest {
         BufferedImage image = ImageIO.read(file.toFile());
         assertEquals(1600, image.getWidth());
         assertTrue(colors(image.getRGB(0, 0, 1600, 1000, null, 0, 1600)) > 500);
+    }
+
+    @Test
+    void theFirstPickMarksAFaceAndVertices() throws Exception {
+        Path file = folder.resolve("pick.png");
+        FirstPick.main(new String[] {ROOT.resolve("data/bracket_solid.txt").toString(), file.toString()});
+        BufferedImage image = ImageIO.read(file.toFile());
+        int[] pixels = image.getRGB(0, 0, 800, 500, null, 0, 800);
+        assertTrue(IntStream.of(pixels).filter(rgb -> (rgb & 0xffffff) == 0xff0000).count() > 500, "edges of the face");
+        assertTrue(IntStream.of(pixels).filter(rgb -> (rgb & 0xffffff) == 0x0000ff).count() > 200, "vertices");
     }
 
     @Test

@@ -13,8 +13,8 @@ import java.io.IOException;
 import java.util.Locale;
 
 @About(title = "An arc at three tolerances",
-        text = "The tolerance is a thousandth of the size of the geometry, here of two vertices outside of the pictures. "
-                + "An edge is halved until the middle of each segment is as close to the curve.")
+        text = "The tolerance is a thousandth of the size of the geometry, which two vertices outside of the pictures "
+                + "set. An edge is halved until the middle of each segment is as close to the curve.")
 public final class ArcTessellation implements Picture {
     private static final int SIDE = 600;
     private static final double[] TOLERANCES = {0.1, 0.02, 0.004};
