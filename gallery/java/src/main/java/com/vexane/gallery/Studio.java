@@ -22,7 +22,6 @@ import java.nio.file.Files;
 import java.nio.file.Path;
 import java.util.ArrayList;
 import java.util.List;
-import java.util.Locale;
 import java.util.Map;
 
 /**
@@ -38,7 +37,7 @@ public final class Studio implements AutoCloseable {
 
     private final Path root;
     private final Path output;
-    private final String name;
+    private final Class<? extends Picture> program;
     private final OffscreenRenderer renderer;
     private final Scene scene = new Scene();
     private final SceneGraphPlotGroup group = new SceneGraphPlotGroup();
@@ -56,14 +55,15 @@ public final class Studio implements AutoCloseable {
      * A picture that was saved.
      *
      * @param file its path
-     * @param caption what it shows, as opposed to the others of its program; may be empty
+     * @param caption what one sees and what the code shows; may be empty
+     * @param line the line of the program that saved it
      */
-    public record Shot(Path file, String caption) {}
+    public record Shot(Path file, String caption, int line) {}
 
     Studio(Path root, Path output, Class<? extends Picture> picture, int width, int height) {
         this.root = root;
         this.output = output;
-        this.name = picture.getSimpleName().replaceAll("(?<=[a-z0-9])(?=[A-Z])", "-").toLowerCase(Locale.ROOT);
+        this.program = picture;
         try (SceneGraphRoot sceneRoot = SceneGraphRoot.connect(scene)) {
             sceneRoot.setChild(group);
         }
@@ -297,7 +297,7 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Draws and saves the only picture of a program.
+     * Draws and saves a picture whose caption is the title of its program.
      *
      * @throws IOException if it cannot be written
      */
@@ -306,9 +306,9 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Draws and saves one of several pictures of a program.
+     * Draws and saves a picture.
      *
-     * @param caption what this one shows
+     * @param caption what one sees and what the code shows
      * @throws IOException if it cannot be written
      */
     public void save(String caption) throws IOException {
@@ -319,13 +319,21 @@ public final class Studio implements AutoCloseable {
     /**
      * The file of the next picture of a program, for pictures that are not written by {@code save}.
      *
-     * @param caption what it shows
+     * @param caption what one sees and what the code shows
      * @return the file to write
      */
     public Path file(String caption) {
-        Path file = output.resolve(name + (caption.isEmpty() ? "" : "-" + (shots.size() + 1)) + ".png");
-        shots.add(new Shot(file, caption));
+        String number = shots.isEmpty() ? "" : "-" + (shots.size() + 1);
+        Path file = output.resolve(Example.fileName(program.getSimpleName()) + number + ".png");
+        shots.add(new Shot(file, caption, currentLine()));
         return file;
+    }
+
+    /** The line that the {@code draw} of the program is at. */
+    private int currentLine() {
+        return StackWalker.getInstance().walk(frames -> frames
+                .filter(frame -> frame.getClassName().equals(program.getName()))
+                .mapToInt(StackWalker.StackFrame::getLineNumber).reduce((inner, outer) -> outer).orElse(0));
     }
 
     List<Shot> shots() {
