@@ -99,7 +99,8 @@ public final class Gallery {
             new FrequencyResponse(),
             new Hardcopy());
 
-    private static final int WIDTH = 1600;
+    /** Pixels of most pictures. */
+    static final int WIDTH = 1600;
     private static final int HEIGHT = 1000;
     /** Dots per inch of the pictures: texts of 12 points are 18 pixels high. */
     private static final int RESOLUTION = 108;

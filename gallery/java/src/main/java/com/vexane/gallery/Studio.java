@@ -38,6 +38,7 @@ public final class Studio implements AutoCloseable {
     private final Path root;
     private final Path output;
     private final Class<? extends Picture> program;
+    private final float scale;
     private final OffscreenRenderer renderer;
     private final Scene scene = new Scene();
     private final SceneGraphPlotGroup group = new SceneGraphPlotGroup();
@@ -67,6 +68,7 @@ public final class Studio implements AutoCloseable {
         try (SceneGraphRoot sceneRoot = SceneGraphRoot.connect(scene)) {
             sceneRoot.setChild(group);
         }
+        scale = (float) width / Gallery.WIDTH;
         renderer = OffscreenRenderer.create(width, height, SAMPLES);
         renderer.setScene(scene);
         canvas = Canvas3dSettings.connect(renderer);
@@ -140,6 +142,18 @@ public final class Studio implements AutoCloseable {
     public Studio show(SceneGraphPlot plot, String title) {
         plot.setTitle(TextFormat.MARKUP, title);
         group.addPlot(plot);
+        return this;
+    }
+
+    /**
+     * Makes the pictures that follow another size than 1600 by 1000 pixels. Drafts of the gallery scale it.
+     *
+     * @param width pixels
+     * @param height pixels
+     * @return this studio
+     */
+    public Studio size(int width, int height) {
+        renderer.resize(Math.round(width * scale), Math.round(height * scale));
         return this;
     }
 
