@@ -76,7 +76,10 @@ final class Site {
     }
 
     private void writeThumbnail(Path picture) throws IOException {
-        BufferedImage image = ImageIO.read(picture.toFile());
+        BufferedImage whole = ImageIO.read(picture.toFile());
+        // Of high sheets the upper part.
+        BufferedImage image =
+                whole.getSubimage(0, 0, whole.getWidth(), Math.min(whole.getWidth(), whole.getHeight()));
         int height = Math.max(1, image.getHeight() * THUMBNAIL_WIDTH / image.getWidth());
         BufferedImage small = new BufferedImage(THUMBNAIL_WIDTH, height, BufferedImage.TYPE_INT_RGB);
         small.getGraphics().drawImage(
