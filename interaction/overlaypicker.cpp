@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <ranges>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -210,9 +209,10 @@ bool OverlayPicker::pick(int x, int y, PickedObjectCollection& picked) const
 {
     const OverlayPlane plane = m_view.plane();
     bool hasHit = false;
-    for (const auto& object : std::views::reverse(m_overlay->getOverlayObjects())) {
-        if (const auto part = HitTest(*object, plane, PlanePoint::ofPixel(x, y)).run()) {
-            picked.addPickedOverlay(object->getObjectPickID(), part->first, part->second);
+    const auto& objects = m_overlay->getOverlayObjects();
+    for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
+        if (const auto part = HitTest(**object, plane, PlanePoint::ofPixel(x, y)).run()) {
+            picked.addPickedOverlay((*object)->getObjectPickID(), part->first, part->second);
             hasHit = true;
         }
     }

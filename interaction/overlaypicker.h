@@ -27,6 +27,9 @@ public:
     /// @throws std::invalid_argument for a height below 1
     void setCanvasHeight(int canvasHeight) { m_view.setCanvasHeight(canvasHeight); }
 
+    /// The plane of the overlay, for conversions of positions, as the current camera shows it now.
+    OverlayPlane plane() const { return m_view.plane(); }
+
     /// Appends the objects at a pixel with their pick ids, those that are drawn last first: each once, as the part that
     /// is hit, or as a whole. Points and handles are preferred to lines, lines to areas. An object is hit at most as
     /// far from its outline as the picking tolerance, and inside if it is filled. Takes time in proportion to the

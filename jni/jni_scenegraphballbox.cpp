@@ -22,9 +22,8 @@ VX_NATIVE(void, SceneGraphBallBox, setBox)(JNIEnv* env, jclass, jobject self, jd
 
 VX_NATIVE(void, SceneGraphBallBox, setBall)(JNIEnv* env, jclass, jobject self, jdoubleArray center, jdouble radius)
 {
-    native(env, "setBall", [&] {
-        peer<SceneGraphBallBox>(env, self).setBall(fromJava<std::vector<double>>(env, center), radius);
-    });
+    native(env, "setBall",
+           [&] { peer<SceneGraphBallBox>(env, self).setBall(fromJava<std::vector<double>>(env, center), radius); });
 }
 
 VX_NATIVE(void, SceneGraphBallBox, clear)(JNIEnv* env, jclass, jobject self)

@@ -14,8 +14,7 @@ VX_NATIVE(void, SceneGraphDrawProj, createNative)(JNIEnv* env, jclass, jobject s
 VX_NATIVE(void, SceneGraphDrawProj, fillObject)(JNIEnv* env, jclass, jobject self, jobject record)
 {
     native(env, "fillObject", [&] {
-        peer<SceneGraphDrawProj>(env, self).fillData(
-            anyPeer<vxdatacarrier::RenderDrawProj2D>(env, record, "record"));
+        peer<SceneGraphDrawProj>(env, self).fillData(anyPeer<vxdatacarrier::RenderDrawProj2D>(env, record, "record"));
     });
 }
 

@@ -13,19 +13,25 @@ boost::shared_ptr<SceneGraphBallBox> SceneGraphBallBox::create()
     return own(new SceneGraphBallBox());
 }
 
+void SceneGraphBallBox::markGeometryChanged()
+{
+    m_geometryChangeId.raise();
+    markChanged();
+}
+
 void SceneGraphBallBox::setBox(const std::vector<double>& min, const std::vector<double>& max)
 {
     std::vector<double> newMin = min;
     m_boxMax = max;
     m_boxMin = std::move(newMin);
-    markChanged();
+    markGeometryChanged();
 }
 
 void SceneGraphBallBox::setBall(const std::vector<double>& center, double radius)
 {
     m_ballCenter = center;
     m_radius = radius;
-    markChanged();
+    markGeometryChanged();
 }
 
 void SceneGraphBallBox::clear()
@@ -33,7 +39,7 @@ void SceneGraphBallBox::clear()
     m_ballCenter.clear();
     m_boxMin.clear();
     m_boxMax.clear();
-    markChanged();
+    markGeometryChanged();
 }
 
 void SceneGraphBallBox::getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/scenegraph/scenegraphobject.h"
 
 #include <vector>
@@ -30,6 +31,8 @@ public:
     /// The coordinates as they were set; none without a box.
     const std::vector<double>& getBoxMin() const { return m_boxMin; }
     const std::vector<double>& getBoxMax() const { return m_boxMax; }
+    /// Counts the changes of ball and box, without those of colours.
+    int getGeometryChangeId() const { return m_geometryChangeId.get(); }
 
     void getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
                       PickedObjectCollection& result, bool inside) const override;
@@ -39,10 +42,13 @@ public:
 private:
     SceneGraphBallBox();
 
+    void markGeometryChanged();
+
     double m_radius = 0.0;
     std::vector<double> m_ballCenter;
     std::vector<double> m_boxMin;
     std::vector<double> m_boxMax;
+    ChangeNumber m_geometryChangeId;
 };
 
 } // namespace vxgraphics3d

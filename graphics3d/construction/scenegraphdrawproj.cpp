@@ -1,6 +1,7 @@
 #include "graphics3d/construction/scenegraphdrawproj.h"
 
 #include "datacarrier/renderdrawproj2d.h"
+#include "graphics3d/geometry/partfill.h"
 
 #include <cstdint>
 #include <limits>
@@ -9,8 +10,6 @@
 #include <utility>
 #include <vector>
 
-using vxdatacarrier::BoundingBox2D;
-using vxdatacarrier::Coords2D;
 using vxdatacarrier::Curve2D;
 using vxdatacarrier::RenderDrawProj2D;
 
@@ -87,39 +86,6 @@ struct TwoClasses {
     Collection& of(int kind) { return kind == RenderDrawProj2D::c_primary ? primary : secondary; }
 };
 
-BoundingBox flatBox(const BoundingBox2D& box)
-{
-    return {box.m_xMin, box.m_xMax, box.m_yMin, box.m_yMax, 0.0f, 0.0f};
-}
-
-/// @param points is overwritten, and kept from curve to curve for its memory
-void addCurve(const Curve2D& curve, LineCollection& lines, std::vector<Vector3f>& points)
-{
-    if (!curve.m_isValid) {
-        lines.addPart(0);
-        return;
-    }
-    const int index = lines.addPart(static_cast<int>(numSegmentVertices(curve) / 2));
-    points.clear();
-    for (int i = 0; i < curve.m_numVertices; ++i) {
-        const Coords2D& vertex = curve.m_vertices[static_cast<std::size_t>(i)];
-        points.emplace_back(vertex.x, vertex.y, 0.0f);
-    }
-    lines.appendPartPolyline(index, points.data(), curve.m_numVertices);
-    lines.setPartBoundingBox(index, flatBox(curve.m_box));
-}
-
-template <class Collection>
-void mergeMarked(BoundingBox& box, const Collection& parts, int include, int exclude)
-{
-    for (int i = 0; i < parts.getNumParts(); ++i) {
-        const int flags = parts.getMarkFlags(i);
-        if ((include == 0 || (flags & include) != 0) && (flags & exclude) == 0) {
-            box.merge(parts.getPart(i).getBoundingBox());
-        }
-    }
-}
-
 } // namespace
 
 SceneGraphDrawProj::SceneGraphDrawProj(int id) : SceneGraphObject(ObjectDrawProj), m_id(id) {}
@@ -135,10 +101,10 @@ void SceneGraphDrawProj::fillData(const RenderDrawProj2D& record)
 {
     check(record);
     TwoClasses<LineCollection> lines(record.m_curveKinds.get(), record.m_numCurves);
-    std::vector<Vector3f> vertices;
+    std::vector<Vector3f> polyline;
     for (int i = 0; i < record.m_numCurves; ++i) {
         const auto row = static_cast<std::size_t>(i);
-        addCurve(record.m_curves[row], lines.of(record.m_curveKinds[row]), vertices);
+        addLine(lines.of(record.m_curveKinds[row]), record.m_curves[row], polyline);
     }
     TwoClasses<PointCollection> points(record.m_pointKinds.get(), record.m_numPoints);
     for (int i = 0; i < record.m_numPoints; ++i) {
@@ -158,7 +124,7 @@ void SceneGraphDrawProj::fillData(const RenderDrawProj2D& record)
     m_geometryChangeId.raise();
     snapVertices() = std::move(snaps);
     updateNodeSnapVertices();
-    setBoundingBox(flatBox(record.m_box));
+    setBoundingBox(boxOf(record.m_box));
 }
 
 void SceneGraphDrawProj::getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&,
@@ -167,10 +133,10 @@ void SceneGraphDrawProj::getSelection(const SelectionFrustrum&, const CanvasPick
 
 void SceneGraphDrawProj::getMarkedBoundingBox(BoundingBox& box, int include, int exclude) const
 {
-    mergeMarked(box, m_primaryLines, include, exclude);
-    mergeMarked(box, m_secondaryLines, include, exclude);
-    mergeMarked(box, m_primaryPoints, include, exclude);
-    mergeMarked(box, m_secondaryPoints, include, exclude);
+    m_primaryLines.mergeMarkedBoxes(box, include, exclude);
+    m_secondaryLines.mergeMarkedBoxes(box, include, exclude);
+    m_primaryPoints.mergeMarkedBoxes(box, include, exclude);
+    m_secondaryPoints.mergeMarkedBoxes(box, include, exclude);
 }
 
 } // namespace vxgraphics3d

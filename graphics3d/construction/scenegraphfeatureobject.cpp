@@ -13,6 +13,7 @@ boost::shared_ptr<SceneGraphFeatureObject> SceneGraphFeatureObject::create()
 
 void SceneGraphFeatureObject::takePlane()
 {
+    m_geometryChangeId.raise();
     setBoundingBox(m_plane.getBox());
     markChanged();
 }
@@ -38,8 +39,8 @@ void SceneGraphFeatureObject::setRevolveOperation(const float* data)
     takePlane();
 }
 
-void SceneGraphFeatureObject::getSelection(const SelectionFrustrum&, const CanvasPickSettings&,
-                                           PickedObjectCollection&, bool) const
+void SceneGraphFeatureObject::getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&,
+                                           bool) const
 {}
 
 void SceneGraphFeatureObject::getMarkedBoundingBox(BoundingBox& box, int include, int exclude) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics3d/construction/workplane.h"
+#include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/scenegraph/scenegraphobject.h"
 
 namespace vxgraphics3d {
@@ -27,6 +28,8 @@ public:
 
     bool isVisible() const { return m_visible; }
     const WorkPlane& getPlane() const { return m_plane; }
+    /// Counts the changes of the plane, without those of colours.
+    int getGeometryChangeId() const { return m_geometryChangeId.get(); }
 
     void getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
                       PickedObjectCollection& result, bool inside) const override;
@@ -40,6 +43,7 @@ private:
 
     bool m_visible = true;
     WorkPlane m_plane;
+    ChangeNumber m_geometryChangeId;
 };
 
 } // namespace vxgraphics3d

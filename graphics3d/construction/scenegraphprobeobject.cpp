@@ -25,7 +25,7 @@ void SceneGraphProbeObject::setProbe(float x, float y, float z)
     m_probe = {x, y, z};
     m_probePoints.allocateParts(1);
     m_probePoints.addPart(m_probe);
-    markChanged();
+    markGeometryChanged();
 }
 
 void SceneGraphProbeObject::setLinePoints(float x0, float y0, float z0, float x1, float y1, float z1, float fraction)
@@ -37,6 +37,12 @@ void SceneGraphProbeObject::setLinePoints(float x0, float y0, float z0, float x1
     m_endPoints.addPart(m_lineStart);
     m_endPoints.addPart(m_lineEnd);
     recomputeLine();
+    markGeometryChanged();
+}
+
+void SceneGraphProbeObject::markGeometryChanged()
+{
+    m_geometryChangeId.raise();
     markChanged();
 }
 
@@ -57,7 +63,7 @@ void SceneGraphProbeObject::clear()
     m_endPoints.allocateParts(0);
     m_probePoints.allocateParts(0);
     m_dashPoints.allocateParts(0);
-    markChanged();
+    markGeometryChanged();
 }
 
 void SceneGraphProbeObject::getSelection(const SelectionFrustrum&, const CanvasPickSettings&, PickedObjectCollection&,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics3d/foundation/changenumber.h"
 #include "graphics3d/parts/pointcollection.h"
 #include "graphics3d/scenegraph/scenegraphobject.h"
 
@@ -36,6 +37,8 @@ public:
     const Vector3f& getLineEnd() const { return m_lineEnd; }
     const Vector3f& getProbe() const { return m_probe; }
     float getLineFraction() const { return m_lineFraction; }
+    /// Counts the changes of point and line, without those of colours.
+    int getGeometryChangeId() const { return m_geometryChangeId.get(); }
 
     void getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings& settings,
                       PickedObjectCollection& result, bool inside) const override;
@@ -46,6 +49,7 @@ private:
     SceneGraphProbeObject();
 
     void recomputeLine();
+    void markGeometryChanged();
 
     PointCollection m_endPoints;
     PointCollection m_probePoints;
@@ -54,6 +58,7 @@ private:
     Vector3f m_lineEnd;
     Vector3f m_probe;
     float m_lineFraction = 0.0f;
+    ChangeNumber m_geometryChangeId;
 };
 
 } // namespace vxgraphics3d

@@ -38,8 +38,8 @@ public:
     WorkPlane() = default;
     explicit WorkPlane(const float* data) { setup(data); }
 
-    /// Sets the plane and builds the grid, whose cells are about square. A rectangle without area has no grid. Operation
-    /// and offsets stay.
+    /// Sets the plane and builds the grid, whose cells are about square. A rectangle without area has no grid.
+    /// Operation and offsets stay.
     /// @param data 13 values: the origin, a point on the x axis, a further point of the plane, and in coordinates of
     ///        the plane the rectangle's x from and to, y from and to
     /// @throws std::invalid_argument if the grid would have more than `c_maxGridLines` lines; then nothing has changed
@@ -83,10 +83,7 @@ public:
     /// Revolution: the direction of the axis, the unit vector at right angles to it in the plane, the normal that
     /// belongs to both, the start of the axis; then four times the distance of a dash from the start, and the gap
     /// between dashes.
-    std::span<const Vector3f> getOffsets() const
-    {
-        return {m_offsets.get(), static_cast<std::size_t>(m_numOffsets)};
-    }
+    std::span<const Vector3f> getOffsets() const { return {m_offsets.get(), static_cast<std::size_t>(m_numOffsets)}; }
     /// The square root of the rectangle's area.
     float getSize() const { return m_size; }
     float getSymbolScale() const { return m_symbolScale; }

@@ -13,7 +13,7 @@ namespace {
 //     m = |nx (px - qx)| + |ny (py - qy)| + |nz (pz - qz)|,
 // plus at most 3 / 2^149 if products are too small for normal floats. The limits of the vertices give bounds of s and m
 // over all of them, which are computed in double with an error below 2^-49 m. So the sign of the float result is
-// certain for every vertex if the bound of s is further from 0 than the margin below, which is twice of what is needed.
+// certain for every vertex if the bound of s is further from 0 than the margin below, which is twice what is needed.
 constexpr double c_relativeMargin = 0x1p-21;
 constexpr double c_absoluteMargin = 0x1p-140;
 

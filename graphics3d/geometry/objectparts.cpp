@@ -13,17 +13,6 @@ namespace {
 
 using vxdatacarrier::AdjacencyRecord;
 
-template <class Parts>
-void mergeBoxes(BoundingBox& box, const Parts& parts, int include, int exclude)
-{
-    for (int i = 0; i < parts.getNumParts(); ++i) {
-        const int flags = parts.getPart(i).getDisplayFlags();
-        if ((include == 0 || (flags & include) != 0) && (flags & exclude) == 0) {
-            box.merge(parts.getPart(i).getBoundingBox());
-        }
-    }
-}
-
 void fillCollections(const vxdatacarrier::Geometry1D& record, ObjectParts& parts)
 {
     if (parts.has(PartLine)) {
@@ -110,7 +99,7 @@ void ObjectParts::fillRelations(const Record& record)
             }
             AdjacentParts& adjacents =
                 m_adjacents[static_cast<std::size_t>(level)][static_cast<std::size_t>(adjacentLevel)];
-            adjacents.allocate(numRows, relation->m_numValues);
+            adjacents.allocate(numRows, relation->m_numRows == 0 ? 0 : relation->m_numValues);
             for (int row = 0; row < numRows; ++row) {
                 const auto [start, count] =
                     relation->m_numRows == 0 ? AdjacencyRecord::Row() : relation->m_rows[static_cast<std::size_t>(row)];
@@ -182,11 +171,39 @@ void ObjectParts::requirePart(int level, int index) const
     }
 }
 
+const SelectablePart& ObjectParts::getPart(int level, int index) const
+{
+    switch (level) {
+    case PartPoint:
+        return m_points.getPart(index);
+    case PartLine:
+        return m_lines->getPart(index);
+    case PartSheet:
+        return m_sheets->getPart(index);
+    default:
+        return m_subdomains.getPart(index);
+    }
+}
+
+const boost::shared_ptr<SceneObjectLabel>& ObjectParts::getLabel(int level, int index) const
+{
+    switch (level) {
+    case PartPoint:
+        return m_points.getPart(index).getLabel();
+    case PartLine:
+        return m_lines->getPart(index).getLabel();
+    case PartSheet:
+        return m_sheets->getPart(index).getLabel();
+    default:
+        return m_subdomains.getPart(index).getLabel();
+    }
+}
+
 void ObjectParts::getMarkedBoundingBox(BoundingBox& box, int include, int exclude) const
 {
-    mergeBoxes(box, *m_sheets, include, exclude);
-    mergeBoxes(box, *m_lines, include, exclude);
-    mergeBoxes(box, m_points, include, exclude);
+    m_sheets->mergeMarkedBoxes(box, include, exclude);
+    m_lines->mergeMarkedBoxes(box, include, exclude);
+    m_points.mergeMarkedBoxes(box, include, exclude);
 }
 
 } // namespace vxgraphics3d

@@ -48,6 +48,10 @@ public:
     int getNumParts(int level) const;
     /// @throws std::out_of_range if there is no part of the level with that index
     void requirePart(int level, int index) const;
+    /// A part of a level, from `PartPoint` to `PartSolid`, which must exist.
+    const SelectablePart& getPart(int level, int index) const;
+    /// The label of a part, which must exist; null if it has none.
+    const boost::shared_ptr<SceneObjectLabel>& getLabel(int level, int index) const;
     /// Counts the fills and resets.
     int getChangeId() const { return m_changeId.get(); }
 

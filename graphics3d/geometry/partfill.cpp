@@ -1,33 +1,19 @@
 #include "graphics3d/geometry/partfill.h"
 
+#include "graphics3d/geometry/coordinates.h"
 #include "graphics3d/parts/linecollection.h"
 #include "graphics3d/parts/pointcollection.h"
 #include "graphics3d/parts/sheetcollection.h"
 #include "graphics3d/parts/subdomaincollection.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <span>
-#include <vector>
 
 namespace vxgraphics3d {
 namespace {
 
 using namespace vxdatacarrier;
-
-Vector3f widened(float x)
-{
-    return {x, 0.0f, 0.0f};
-}
-
-Vector3f widened(const Coords2D& p)
-{
-    return {p.x, p.y, 0.0f};
-}
-
-Vector3f widened(const Coords3D& p)
-{
-    return {p.x, p.y, p.z};
-}
 
 template <class Coords>
 void appendPoints(PointCollection& points, const Coords* coords, int count)
@@ -38,26 +24,29 @@ void appendPoints(PointCollection& points, const Coords* coords, int count)
     }
 }
 
+/// @param polyline for the vertices; its memory is used again
+template <class Curve>
+void appendLine(LineCollection& lines, const Curve& curve, std::vector<Vector3f>& polyline)
+{
+    const int numVertices = curve.m_isValid ? curve.m_numVertices : 0;
+    polyline.clear();
+    for (int i = 0; i < numVertices; ++i) {
+        polyline.push_back(widened(curve.m_vertices[static_cast<std::size_t>(i)]));
+    }
+    const int index = lines.addPart(std::max(numVertices - 1, 0));
+    lines.appendPartPolyline(index, polyline.data(), numVertices);
+    if (curve.m_isValid) {
+        lines.setPartBoundingBox(index, boxOf(curve.m_box));
+    }
+}
+
 template <class Curve>
 void appendLines(LineCollection& lines, const Curve* curves, int count)
 {
     lines.allocateParts(count);
     std::vector<Vector3f> polyline;
     for (const Curve& curve : std::span(curves, static_cast<std::size_t>(count))) {
-        if (!curve.m_isValid || curve.m_numVertices < 1) {
-            const int index = lines.addPart(0);
-            if (curve.m_isValid) {
-                lines.setPartBoundingBox(index, boxOf(curve.m_box));
-            }
-            continue;
-        }
-        polyline.clear();
-        for (int i = 0; i < curve.m_numVertices; ++i) {
-            polyline.push_back(widened(curve.m_vertices[static_cast<std::size_t>(i)]));
-        }
-        const int index = lines.addPart(curve.m_numVertices - 1);
-        lines.appendPartPolyline(index, polyline.data(), curve.m_numVertices);
-        lines.setPartBoundingBox(index, boxOf(curve.m_box));
+        appendLine(lines, curve, polyline);
     }
 }
 
@@ -138,6 +127,11 @@ void fillLines(LineCollection& lines, const Curve2D* curves, int count)
 void fillLines(LineCollection& lines, const Curve3D* curves, int count)
 {
     appendLines(lines, curves, count);
+}
+
+void addLine(LineCollection& lines, const Curve2D& curve, std::vector<Vector3f>& polyline)
+{
+    appendLine(lines, curve, polyline);
 }
 
 void fillSheets(SheetCollection& sheets, const Geometry2D& record)

@@ -5,6 +5,8 @@
 #include "datacarrier/geometry3d.h"
 #include "graphics3d/foundation/boundingbox.h"
 
+#include <vector>
+
 namespace vxgraphics3d {
 
 class LineCollection;
@@ -27,6 +29,9 @@ void fillPoints(PointCollection& points, const vxdatacarrier::Geometry3D& record
 void fillLines(LineCollection& lines, const vxdatacarrier::Curve1D* curves, int count);
 void fillLines(LineCollection& lines, const vxdatacarrier::Curve2D* curves, int count);
 void fillLines(LineCollection& lines, const vxdatacarrier::Curve3D* curves, int count);
+/// Adds a single line.
+/// @param polyline for the vertices; its memory is used again
+void addLine(LineCollection& lines, const vxdatacarrier::Curve2D& curve, std::vector<Vector3f>& polyline);
 /// Vertices in the plane get the normal (0, 0, 1).
 void fillSheets(SheetCollection& sheets, const vxdatacarrier::Geometry2D& record);
 void fillSheets(SheetCollection& sheets, const vxdatacarrier::Geometry3D& record);

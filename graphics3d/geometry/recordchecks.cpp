@@ -1,5 +1,7 @@
 #include "graphics3d/geometry/recordchecks.h"
 
+#include "datacarrier/rendermeshcollection.h"
+#include "graphics3d/geometry/meshrecords.h"
 #include "graphics3d/geometry/recordrelations.h"
 
 #include <algorithm>
@@ -35,6 +37,31 @@ void checkArray(const std::unique_ptr<T[]>& array, int count, const std::string&
     }
 }
 
+unsigned highestCorner(const Triangle& t)
+{
+    // As unsigned numbers, negative indices are the highest.
+    return std::max({static_cast<unsigned>(t.a), static_cast<unsigned>(t.b), static_cast<unsigned>(t.c)});
+}
+
+unsigned highestCorner(const Quad& q)
+{
+    return std::max({static_cast<unsigned>(q.a), static_cast<unsigned>(q.b), static_cast<unsigned>(q.c),
+                     static_cast<unsigned>(q.d)});
+}
+
+template <class Element>
+void checkCorners(std::span<const Element> elements, int numVertices, const std::string& what)
+{
+    unsigned highest = 0;
+    for (const Element& element : elements) {
+        highest = std::max(highest, highestCorner(element));
+    }
+    if (!elements.empty() && highest >= static_cast<unsigned>(numVertices)) {
+        throw std::out_of_range(what + " refers to vertex " + std::to_string(static_cast<int>(highest)) + " of " +
+                                std::to_string(numVertices) + ".");
+    }
+}
+
 template <class Sheets>
 void checkSheets(const Sheets& sheets, int numSheets)
 {
@@ -45,17 +72,8 @@ void checkSheets(const Sheets& sheets, int numSheets)
         }
         checkArray(sheet.m_vertices, sheet.m_numVertices, "vertices of " + numbered("sheet", i));
         checkArray(sheet.m_triangles, sheet.m_numTriangles, "triangles of " + numbered("sheet", i));
-        unsigned highest = 0;
-        for (const Triangle& t : std::span(sheet.m_triangles.get(), static_cast<std::size_t>(sheet.m_numTriangles))) {
-            // As unsigned numbers, negative indices are the highest.
-            highest =
-                std::max({highest, static_cast<unsigned>(t.a), static_cast<unsigned>(t.b), static_cast<unsigned>(t.c)});
-        }
-        if (sheet.m_numTriangles > 0 && highest >= static_cast<unsigned>(sheet.m_numVertices)) {
-            throw std::out_of_range("A triangle of " + numbered("sheet", i) + " refers to vertex " +
-                                    std::to_string(static_cast<int>(highest)) + " of " +
-                                    std::to_string(sheet.m_numVertices) + ".");
-        }
+        checkCorners(entries(sheet.m_triangles, sheet.m_numTriangles), sheet.m_numVertices,
+                     "A triangle of " + numbered("sheet", i));
     }
 }
 
@@ -115,7 +133,75 @@ void checkRelations(const Record& record, ObjectPartType highest)
     }
 }
 
+/// Checks the meshes of a collection one by one. Counts below 0 are none.
+class MeshCheck {
+public:
+    MeshCheck(int numLines, int numSheets) : m_numLines(numLines), m_numSheets(numSheets) {}
+
+    template <class Coords>
+    void operator()(const RenderLineMesh<Coords>& mesh)
+    {
+        checkPart(mesh, "line", m_numLines);
+        checkCoordinates(mesh, "mesh of " + numbered("line", mesh.m_partIndex));
+    }
+
+    template <class Coords>
+    void operator()(const RenderSheetMesh<Coords>& mesh)
+    {
+        checkPart(mesh, "sheet", m_numSheets);
+        const std::string name = "mesh of " + numbered("sheet", mesh.m_partIndex);
+        checkCoordinates(mesh, name);
+        checkArray(mesh.m_triangles, std::max(mesh.m_numTriangles, 0), "triangles in the " + name);
+        checkArray(mesh.m_quads, std::max(mesh.m_numQuads, 0), "quadrilaterals in the " + name);
+        const auto triangles = entries(mesh.m_triangles, mesh.m_numTriangles);
+        const auto quads = entries(mesh.m_quads, mesh.m_numQuads);
+        if (3 * triangles.size() + 4 * quads.size() > std::numeric_limits<int>::max() / 2) {
+            throw std::invalid_argument("The " + name + " has too many elements.");
+        }
+        const int numCoordinates = std::max(mesh.m_numCoordinates, 0);
+        checkCorners(triangles, numCoordinates, "A triangle in the " + name);
+        checkCorners(quads, numCoordinates, "A quadrilateral in the " + name);
+    }
+
+private:
+    static void checkPart(const RenderMesh& mesh, const char* kind, int numParts)
+    {
+        if (mesh.m_partIndex < 0 || mesh.m_partIndex >= numParts) {
+            throw std::out_of_range("There is a mesh for " + numbered(kind, mesh.m_partIndex) + " of " +
+                                    std::to_string(numParts) + ".");
+        }
+    }
+
+    template <class Coords>
+    static void checkCoordinates(const RenderLineMesh<Coords>& mesh, const std::string& name)
+    {
+        checkArray(mesh.m_coordinates, std::max(mesh.m_numCoordinates, 0), "coordinates in the " + name);
+    }
+
+    int m_numLines;
+    int m_numSheets;
+};
+
 } // namespace
+
+void checkSnapCoordinates(const Geometry2D& record)
+{
+    if (record.m_snapY.size() < record.m_snapX.size()) {
+        throw std::invalid_argument("The record has " + std::to_string(record.m_snapX.size()) +
+                                    " snap coordinates x, but " + std::to_string(record.m_snapY.size()) + " y.");
+    }
+}
+
+void checkMeshes(const RenderMeshCollection& meshes, int numLines, int numSheets)
+{
+    MeshCheck check(numLines, numSheets);
+    for (const auto& mesh : meshes.m_meshes) {
+        if (!mesh) {
+            throw std::invalid_argument("The collection contains a null mesh.");
+        }
+        withMesh(*mesh, check);
+    }
+}
 
 void checkRecord(const Geometry1D& record, ObjectPartType highest)
 {
@@ -137,10 +223,6 @@ void checkRecord(const Geometry2D& record, ObjectPartType highest)
     if (highest >= PartSheet) {
         checkArray(record.m_sheets, record.m_numSheets, "sheets");
         checkSheets(record.m_sheets, record.m_numSheets);
-    }
-    if (record.m_snapY.size() < record.m_snapX.size()) {
-        throw std::invalid_argument("The record has " + std::to_string(record.m_snapX.size()) +
-                                    " snap coordinates x, but " + std::to_string(record.m_snapY.size()) + " y.");
     }
     checkRelations(record, highest);
 }

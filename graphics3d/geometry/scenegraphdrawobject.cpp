@@ -8,18 +8,17 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <ranges>
 
 namespace vxgraphics3d {
 namespace {
 
-/// Which of the parts has the highest value above 0, the first of equals, or -1.
-template <class Indices, class ValueOf>
-int indexOfHighest(const Indices& indices, ValueOf valueOf)
+/// Which index below a number has the highest value above 0, the first of equals, or -1.
+template <class ValueOf>
+int indexOfHighest(int number, ValueOf valueOf)
 {
     int best = -1;
     float highest = 0.0f;
-    for (const int index : indices) {
+    for (int index = 0; index < number; ++index) {
         const float value = valueOf(index);
         if (value > highest) {
             highest = value;
@@ -32,8 +31,7 @@ int indexOfHighest(const Indices& indices, ValueOf valueOf)
 template <class Parts>
 int indexOfLargest(const Parts& parts)
 {
-    return indexOfHighest(std::views::iota(0, parts.getNumParts()),
-                          [&](int i) { return parts.getPart(i).getBoundingBox().getL1Norm(); });
+    return indexOfHighest(parts.getNumParts(), [&](int i) { return parts.getPart(i).getBoundingBox().getL1Norm(); });
 }
 
 } // namespace
@@ -133,8 +131,7 @@ void SceneGraphDrawObject::setLabel(const std::string& name)
         break;
     case PartLine: {
         const LineCollection& lines = m_parts.getLines();
-        part = indexOfHighest(std::views::iota(0, lines.getNumParts()),
-                              [&](int i) { return lines.getPart(i).getLength(); });
+        part = indexOfHighest(lines.getNumParts(), [&](int i) { return lines.getPart(i).getLength(); });
         isLabelled = part >= 0 && m_parts.lines().setPartLabel(part, text);
         break;
     }
@@ -156,10 +153,15 @@ void SceneGraphDrawObject::setLabel(const std::string& name)
 bool SceneGraphDrawObject::setSubdomainLabel(int subdomain, const vxbase::UString& text)
 {
     const SheetCollection& sheets = m_parts.getSheets();
-    const int sheet = indexOfHighest(m_parts.getAdjacents(PartSolid, PartSheet).of(subdomain),
-                                     [&](int i) { return sheets.getPart(i).getBoundingBox().getL1Norm(); });
+    const auto adjacent = m_parts.getAdjacents(PartSolid, PartSheet).of(subdomain);
+    const auto sheetAt = [&](int i) -> const auto&
+    {
+        return sheets.getPart(adjacent[static_cast<std::size_t>(i)]);
+    };
+    const int largest = indexOfHighest(static_cast<int>(adjacent.size()),
+                                       [&](int i) { return sheetAt(i).getBoundingBox().getL1Norm(); });
     Vector3f position;
-    return sheet >= 0 && sheets.getPart(sheet).computeLabelPosition(position) &&
+    return largest >= 0 && sheetAt(largest).computeLabelPosition(position) &&
            m_parts.subdomains().setPartLabel(subdomain, text, position);
 }
 

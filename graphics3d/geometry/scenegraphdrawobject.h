@@ -3,6 +3,7 @@
 #include "base/ustring.h"
 #include "graphics3d/foundation/errorlog.h"
 #include "graphics3d/geometry/objectparts.h"
+#include "graphics3d/geometry/recordchecks.h"
 #include "graphics3d/scenegraph/scenegraphobject.h"
 
 #include <new>
@@ -80,6 +81,7 @@ void SceneGraphDrawObject::fillParts(const Record& record, vxbase::LogText<> mis
     if (record.m_id != m_id) {
         logError(mismatch);
     }
+    checkSnapCoordinates(record);
     try {
         m_parts.fill(record);
     } catch (const std::bad_alloc&) {

@@ -1,8 +1,9 @@
 #include "graphics3d/overlays/overlaydrawcurve.h"
 
+#include "graphics3d/overlays/elementat.h"
+
 #include <cmath>
-#include <stdexcept>
-#include <string>
+#include <cstddef>
 
 namespace vxgraphics3d {
 namespace {
@@ -12,16 +13,6 @@ constexpr std::size_t c_maxControlPoints = 5;
 constexpr int c_numCurveVertices = 20;
 
 static_assert(sizeof(Vector3f) == 3 * sizeof(float), "renderers read polylines as floats");
-
-template <class Element>
-const Element& elementAt(const std::vector<Element>& elements, int index, const char* what)
-{
-    if (index < 0 || index >= static_cast<int>(elements.size())) {
-        throw std::out_of_range("There is no " + std::string(what) + " " + std::to_string(index) + ": there are " +
-                                std::to_string(elements.size()) + ".");
-    }
-    return elements[static_cast<std::size_t>(index)];
-}
 
 /// With this weight of the middle control point the curve is an arc of a circle where the polygon has a right angle
 /// between sides of equal length.

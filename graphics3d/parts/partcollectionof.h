@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ustring.h"
+#include "graphics3d/foundation/boundingbox.h"
 #include "graphics3d/parts/iselectablepartcollection.h"
 #include "graphics3d/parts/markcounts.h"
 
@@ -64,6 +65,18 @@ public:
     /// The number of parts with a primary mark of their own.
     int getNumPrimary() const { return m_marks.getNumPrimary(); }
     int getNumLabels() const { return m_numLabels; }
+
+    /// Merges into `box` the boxes of the parts that have no display flag of `exclude` and, unless `include` is 0, one
+    /// of `include`.
+    void mergeMarkedBoxes(BoundingBox& box, int include, int exclude) const
+    {
+        for (int i = 0; i < m_numParts; ++i) {
+            const int flags = getPart(i).getDisplayFlags();
+            if ((include == 0 || (flags & include) != 0) && (flags & exclude) == 0) {
+                box.merge(getPart(i).getBoundingBox());
+            }
+        }
+    }
 
     // Final, so that calls for a known collection need no dispatch.
 

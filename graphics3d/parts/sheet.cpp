@@ -138,7 +138,7 @@ bool Sheet::computeLabelPosition(Vector3f& position, Vector3f& normal) const
         float lowest = 1.0f;
         for (int i = 0; i < numTriangles && lowest > limit; ++i) {
             const Facet triangle = facet(i);
-            if (triangle.normal == Vector3f()) {
+            if (!(triangle.normal.length() > 0.0f)) {
                 continue;
             }
             lowest = std::min(lowest, meanNormal.dot(triangle.normal));

@@ -40,6 +40,14 @@ TextFile openFile(std::string path)
     return TextFile(std::move(path));
 }
 
+bool hasCoordinates(int count, const std::string& fileName)
+{
+    if (count == 0) {
+        reportQuietly(c_wholeFile, "No coordinates in file %s", fileName.c_str());
+    }
+    return count != 0;
+}
+
 bool refuseExcess(const char* parts, int rowNumber)
 {
     reportQuietly(rowNumber, "More %s than counted at row %d", parts, rowNumber);
@@ -94,17 +102,16 @@ bool SceneObjectFileReader::readSolidFile(RenderDraw3D& record, const Vector3f& 
 bool SceneObjectFileReader::readCounts()
 {
     std::size_t section = coordinates;
-    while (const char* row = m_file.nextRow()) {
-        if (row[0] == '%' && (!findTag(m_tags, section, row, m_file.rowNumber(), m_file.name()) ||
-                              !readCount(row, static_cast<ReadState>(section)))) {
+    while (const char* row = m_file.nextTagRow()) {
+        if (!findTag(m_tags, section, row, m_file.rowNumber(), m_file.name()) ||
+            !readCount(row, static_cast<ReadState>(section))) {
             return false;
         }
     }
     if (m_file.hasTooManyRows()) {
         return false;
     }
-    if (m_counts[coordinates] == 0) {
-        reportQuietly(c_wholeFile, "No coordinates in file %s", m_file.name().c_str());
+    if (!hasCoordinates(m_counts[coordinates], m_file.name())) {
         return false;
     }
     for (const int count : m_counts) {
@@ -185,7 +192,7 @@ bool SceneObjectFileReader::readParts(RenderDraw3D& record)
         }
     }
     finishState(record, state);
-    return !m_file.hasTooManyRows();
+    return !m_file.hasTooManyRows() && hasCoordinates(m_numCoordinates, m_file.name());
 }
 
 void SceneObjectFileReader::enterState(ReadState& state, ReadState section)
@@ -302,9 +309,7 @@ bool SceneObjectFileReader::takeTriangle(RenderDraw3D& record, Row row)
         !areCoordinates(row.indices, 3, row.number)) {
         return false;
     }
-    const auto corner = [&](int i) -> Coordinate& {
-        return m_coordinates[static_cast<std::size_t>(row.indices[i])];
-    };
+    const auto corner = [&](int i) -> Coordinate& { return m_coordinates[static_cast<std::size_t>(row.indices[i])]; };
     const Vector3f& a = corner(0).position;
     const Vector3f& b = corner(1).position;
     const Vector3f& c = corner(2).position;
@@ -358,7 +363,8 @@ bool SceneObjectFileReader::takeVertex(RenderDraw3D& record, Row row)
 bool SceneObjectFileReader::takeAdjacent(AdjacencyRecord& relation, int numValues, Row row)
 {
     const auto [part, value] = std::pair(row.indices[0], row.indices[1]);
-    if (!isIndex(part, relation.m_numRows, "row", row.number) || !isIndex(value, numValues, "value", row.number)) {
+    if (!isIndex(part, relation.m_numRows, "part", row.number) ||
+        !isIndex(value, numValues, "adjacent part", row.number)) {
         return false;
     }
     if (relation.m_numUsed == relation.m_numValues) {

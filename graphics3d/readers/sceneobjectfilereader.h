@@ -84,12 +84,12 @@ private:
     std::array<int, none> m_counts{};
     Vector3f m_offset;
     std::vector<Coordinate> m_coordinates;
-    int m_numCoordinates = 0;                    // read so far
-    std::array<FloatLimits, 3> m_limits;         // of the coordinates
-    std::vector<int> m_faceVertices;             // coordinates of the face that is being read, in order of first use
+    int m_numCoordinates = 0;            // read so far
+    std::array<FloatLimits, 3> m_limits; // of the coordinates
+    std::vector<int> m_faceVertices;     // coordinates of the face that is being read, in order of first use
     std::vector<vxdatacarrier::Triangle> m_faceTriangles; // its triangles, as vertices of the face
-    std::vector<Segment> m_edgeSegments;         // of the edge that is being read
-    int m_group = -1;                            // the face, edge or row that is being read, -1 for none
+    std::vector<Segment> m_edgeSegments;                  // of the edge that is being read
+    int m_group = -1;                                     // the face, edge or row that is being read, -1 for none
     int m_nextPoint = 0;
     int m_nextSheet = 0;
     int m_nextCurve = 0;

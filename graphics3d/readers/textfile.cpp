@@ -54,6 +54,19 @@ const char* TextFile::nextRow()
     return row;
 }
 
+const char* TextFile::nextTagRow()
+{
+    const char* row = nullptr;
+    do {
+        // A block has fewer rows than this number leaves.
+        if (m_rowNumber < std::numeric_limits<int>::max() / 2) {
+            m_rowNumber += m_rows.skipRowsWithout('%');
+        }
+        row = nextRow();
+    } while (row != nullptr && row[0] != '%');
+    return row;
+}
+
 int TextFile::nextPlainIndices(int* indices, int count, int maxRows)
 {
     const int numRows = m_rows.nextPlainIntegers(indices, count, limited(maxRows));

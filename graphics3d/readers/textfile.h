@@ -25,6 +25,8 @@ public:
     /// The next row, or null at the end of the file. It stays valid until the next call. Rows beyond the range of an
     /// int are refused: the first of them is reported and treated as the end of the file.
     const char* nextRow();
+    /// The next row that begins with "%", as `nextRow` returns it.
+    const char* nextTagRow();
     /// Whether the last row was refused because there were too many.
     bool hasTooManyRows() const { return m_rowNumber == std::numeric_limits<int>::max(); }
 

@@ -122,6 +122,36 @@ int TextRows::nextPlainReals(double* values, int numbersPerRow, int maxRows)
     });
 }
 
+int TextRows::skipRowsWithout(char first)
+{
+    *m_next = m_hidden;
+    const char* at = m_next;
+    const auto* found = static_cast<const char*>(std::memchr(at, first, static_cast<std::size_t>(m_end - at)));
+    const char* const stop = found != nullptr ? found : m_end;
+    // If each chunk has a line end, no row is longer than two chunks.
+    constexpr std::ptrdiff_t c_chunkSize = 64;
+    static_assert(2 * c_chunkSize < static_cast<std::ptrdiff_t>(c_maxLength));
+    int numRows = 0;
+    while (stop - at >= c_chunkSize) {
+        unsigned char numEnds = 0;
+        for (int i = 0; i < c_chunkSize; ++i) {
+            numEnds = static_cast<unsigned char>(numEnds + (at[i] == '\n' ? 1 : 0));
+        }
+        if (numEnds == 0) {
+            break;
+        }
+        numRows += numEnds;
+        at += c_chunkSize;
+    }
+    while (at != m_next && at[-1] != '\n') {
+        --at;
+    }
+    m_next += at - m_next;
+    m_hidden = *m_next;
+    *m_next = '\0';
+    return numRows;
+}
+
 void TextRows::rewind()
 {
     m_next = m_end = m_block.get();

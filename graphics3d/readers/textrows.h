@@ -33,6 +33,11 @@ public:
     /// The same for reals: decimal numbers of few enough digits.
     int nextPlainReals(double* values, int numbersPerRow, int maxRows);
 
+    /// Skips the next rows in the block up to one that may begin with a character, or may be long. This is the fast
+    /// path for rows that `next` would return for nothing.
+    /// @return the number of rows; the row after them is returned next
+    int skipRowsWithout(char first);
+
     /// Goes back to the start of the stream.
     void rewind();
 

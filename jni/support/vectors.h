@@ -6,9 +6,17 @@
 #include <jni.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <vector>
 
 namespace vxgraphics3d {
+
+/// A vector of any number of entries: the first two are x and y, the last of all further ones is z. Missing ones are 0.
+inline Vector3f vectorOf(const std::vector<double>& entries)
+{
+    const std::size_t count = entries.size();
+    return {count > 0 ? entries[0] : 0.0, count > 1 ? entries[1] : 0.0, count > 2 ? entries.back() : 0.0};
+}
 
 /// Writes the components of a vector to the first three elements of a Java array.
 /// @return 1

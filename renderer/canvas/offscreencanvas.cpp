@@ -248,7 +248,7 @@ void OffscreenCanvas::setMarkingMode(MarkingSetups::MarkingMode mode)
 void OffscreenCanvas::zoomExtents()
 {
     dropDisposedScene();
-    if (!m_sceneView || !m_sceneView->getScene()->getBoundingBox().isValid()) {
+    if (!m_sceneView) {
         return;
     }
     const Appearance look = appearance();

@@ -29,6 +29,11 @@ float View::pixelSize() const
     return 2.0f / (projection.get(1, 1) * static_cast<float>(area.width));
 }
 
+float View::pixelSizeAt(const vxgraphics3d::Vector3f& eyePoint) const
+{
+    return pixelSize() * (projection.get(4, 3) * eyePoint.z + projection.get(4, 4));
+}
+
 DepthShift View::nearer(float pixels) const
 {
     const float pixel = pixelSize();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics3d/foundation/matrixf.h"
+#include "graphics3d/foundation/vector3f.h"
 #include "renderer/frame/pixelarea.h"
 
 namespace vxgraphics3d {
@@ -28,6 +29,8 @@ struct View {
 
     /// The size of a pixel in the eye's coordinates, for each unit of w.
     float pixelSize() const;
+    /// The size of a pixel in the eye's coordinates, at a point of them.
+    float pixelSizeAt(const vxgraphics3d::Vector3f& eyePoint) const;
 
     /// How far lines of a width in pixels are drawn before their points, to be seen whole on faces through them.
     ///

@@ -1,6 +1,11 @@
 #include "renderer/objects/objectpainter.h"
 
+#include "renderer/objects/ballboxpainter.h"
 #include "renderer/objects/drawobjectpainter.h"
+#include "renderer/objects/probepainter.h"
+#include "renderer/objects/projectionpainter.h"
+#include "renderer/objects/workplanepainter.h"
+#include "renderer/objects/physicspainter.h"
 
 namespace vxrenderer {
 
@@ -8,6 +13,11 @@ ObjectPainters makeObjectPainters()
 {
     ObjectPainters painters;
     painters.push_back(std::make_unique<DrawObjectPainter>());
+    painters.push_back(std::make_unique<WorkPlanePainter>());
+    painters.push_back(std::make_unique<ProjectionPainter>());
+    painters.push_back(std::make_unique<ProbePainter>());
+    painters.push_back(std::make_unique<BallBoxPainter>());
+    painters.push_back(std::make_unique<PhysicsPainter>());
     return painters;
 }
 

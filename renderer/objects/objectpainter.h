@@ -21,6 +21,9 @@ public:
     virtual ~ObjectPainter() = default;
 
     virtual bool draws(vxgraphics3d::SceneGraphObject::ObjectType type) const = 0;
+    /// Whether the objects are seen through in every picture. They are blended over what is opaque then, which must
+    /// come first.
+    virtual bool isTranslucent() const { return false; }
     /// Draws an object of such a type, which is active. It may be empty.
     virtual void draw(const ObjectItem& object, const PaintContext& context) const = 0;
 };

@@ -1,12 +1,15 @@
 #include "renderer/objects/partpainting.h"
 
+#include "graphics3d/foundation/image.h"
 #include "graphics3d/geometry/objectparts.h"
 #include "graphics3d/parts/markingmodesetup.h"
 #include "graphics3d/parts/pointcollection.h"
 #include "graphics3d/parts/sceneobjectlabel.h"
 #include "graphics3d/parts/sheetcollection.h"
 #include "renderer/frame/view.h"
+#include "renderer/objects/arrowhead.h"
 #include "renderer/paint/linepainter.h"
+#include "renderer/upload/imagetextures.h"
 #include "renderer/upload/uploadcache.h"
 
 #include <algorithm>
@@ -19,14 +22,11 @@ namespace {
 
 using namespace vxgraphics3d;
 
-/// Numbers of the uploads of an object.
-enum Upload : int { UploadSheets, UploadLines, UploadPoints };
-
 /// Length of the arrow heads on lines, in pixels of the screen for each pixel of width and at least.
 constexpr float c_headPerWidth = 4.0f;
 constexpr float c_shortestHead = 9.0f;
-/// Half the width of an arrow head for each unit of length.
-constexpr float c_headSlope = 0.45f;
+/// Images of materials on the longest side of an object.
+constexpr float c_imagesPerObject = 4.0f;
 
 std::vector<MeshPart> meshPartsOf(const SheetCollection& sheets)
 {
@@ -38,7 +38,36 @@ std::vector<MeshPart> meshPartsOf(const SheetCollection& sheets)
     return parts;
 }
 
-/// The segments of all lines, with the numbers of the lines as texture coordinates.
+/// Sheets that show the same image, or none.
+using RangesByImage = std::map<boost::shared_ptr<Image>, std::vector<PartRange>>;
+
+RangesByImage rangesByImage(const SheetCollection& sheets, const PartPainting::Images& images)
+{
+    RangesByImage ranges;
+    const auto isUsed = [&](const auto& material) {
+        const auto image = images.find(material.first);
+        return image != images.end() && image->second;
+    };
+    if (std::ranges::none_of(sheets.getMaterials(), isUsed)) {
+        ranges[nullptr] = {{0, static_cast<std::size_t>(sheets.getNumParts())}};
+        return ranges;
+    }
+    for (int i = 0; i < sheets.getNumParts(); ++i) {
+        const boost::shared_ptr<std::string>& material = sheets.getPart(i).getMaterial();
+        const auto image = material ? images.find(*material) : images.end();
+        std::vector<PartRange>& found = ranges[image != images.end() ? image->second : nullptr];
+        const auto number = static_cast<std::size_t>(i);
+        if (!found.empty() && found.back().first + found.back().count == number) {
+            ++found.back().count;
+        } else {
+            found.push_back({number, 1});
+        }
+    }
+    return ranges;
+}
+
+} // namespace
+
 std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
 {
     std::vector<LineMesh::Piece> pieces;
@@ -62,8 +91,6 @@ std::vector<Instance> instancesOf(const PointCollection& points)
     }
     return instances;
 }
-
-} // namespace
 
 MarkingType rowOfMesh(unsigned flags)
 {
@@ -106,8 +133,22 @@ PartRows PartPainting::rowsOf(const StyleOf& styleOf, const std::optional<Color>
     return rows;
 }
 
+PartRows PartPainting::faceRows(const std::optional<Color>& color) const
+{
+    return rowsOf([](const Marking& row) { return Style{row.getSheetColor(), 0.0f}; }, color);
+}
+
+PartRows PartPainting::lineRows(const std::optional<Color>& color) const
+{
+    return rowsOf(
+        [](const Marking& row) {
+            return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)};
+        },
+        color);
+}
+
 template <class Parts>
-const PartTable* PartPainting::tableOf(int number, const Parts& parts) const
+const PartTable& PartPainting::tableOf(int number, const Parts& parts) const
 {
     std::vector<std::uint8_t> rows(static_cast<std::size_t>(parts.getNumParts()), RowNormal);
     if (parts.getNumMarked() > 0) {
@@ -135,13 +176,13 @@ void PartPainting::drawLabels(const Parts& parts, bool isBeside) const
     }
 }
 
-void PartPainting::drawAll(const ObjectParts& parts) const
+void PartPainting::drawAll(const ObjectParts& parts, const Images& images) const
 {
     const auto colorOf = [&](int level) -> std::optional<Color> {
         const bool isHighest = std::min(parts.getHighestLevel(), PartSheet) == level;
         return isHighest && m_object->isObjectColorUsed() ? std::optional(m_object->getObjectColor()) : std::nullopt;
     };
-    drawSheets(parts.getSheets(), parts.getChangeId(), colorOf(PartSheet));
+    drawSheets(parts.getSheets(), parts.getChangeId(), colorOf(PartSheet), images);
     drawLines(parts.getLines(), parts.getChangeId(), colorOf(PartLine));
     drawPoints(parts.getPoints(), parts.getChangeId(), colorOf(PartPoint));
     if (m_context.objects.showLineDirections) {
@@ -155,13 +196,26 @@ void PartPainting::drawAll(const ObjectParts& parts) const
     }
 }
 
-void PartPainting::drawSheets(const SheetCollection& sheets, int changeId, const std::optional<Color>& color) const
+void PartPainting::drawSheets(const SheetCollection& sheets, int changeId, const std::optional<Color>& color,
+                              const Images& images) const
 {
-    if (sheets.getNumTriangles() > 0) {
-        const Mesh* mesh =
-            m_context.uploads.mesh(m_object, UploadSheets, changeId, [&] { return meshPartsOf(sheets); });
-        const PartRows rows = rowsOf([](const Marking& row) { return Style{row.getSheetColor(), 0.0f}; }, color);
-        m_context.drawMesh(mesh, tableOf(UploadSheets, sheets), rows, m_look);
+    if (sheets.getNumTriangles() < 1) {
+        return;
+    }
+    const Mesh* mesh = m_context.uploads.mesh(m_object, UploadSheets, changeId, [&] { return meshPartsOf(sheets); });
+    PartRows rows = faceRows(color);
+    const PartTable& table = tableOf(UploadSheets, sheets);
+    const BoundingBox& box = m_object->getStoredBoundingBox();
+    const Vector3f corner = box.getMin();
+    const Vector3f size = box.getMax() - corner;
+    const float longest = std::max({size.x, size.y, size.z});
+    for (const auto& [image, ranges] : rangesByImage(sheets, images)) {
+        const bool isTextured = m_context.images.bind(image) && longest > 0.0f;
+        if (isTextured) {
+            const float density = image->getScale() > 0.0f ? image->getScale() : 1.0f;
+            rows.imagePlace = {corner.x, corner.y, corner.z, density * c_imagesPerObject / longest};
+        }
+        m_context.drawMesh(mesh, {table, rows, ranges, isTextured}, m_look);
     }
 }
 
@@ -175,7 +229,7 @@ void PartPainting::drawLines(const LineCollection& lines, int changeId, const st
                 return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)};
             },
             color);
-        m_context.drawLines(pieces, tableOf(UploadLines, lines), rows, m_look);
+        m_context.drawLines(pieces, {tableOf(UploadLines, lines), rows}, m_look);
     }
 }
 
@@ -189,14 +243,13 @@ void PartPainting::drawPoints(const PointCollection& points, int changeId, const
                 return Style{row.getPointColor(), std::max(row.getPointSize(), 1.0f)};
             },
             color);
-        m_context.drawSymbols(positions, tableOf(UploadPoints, points), rows, RenderSymbol::circle, m_look);
+        m_context.drawSymbols(positions, {tableOf(UploadPoints, points), rows}, RenderSymbol::circle, m_look);
     }
 }
 
 void PartPainting::drawDirections(const LineCollection& lines) const
 {
     const View& view = m_context.view;
-    const float pixelSize = view.pixelSize() * m_context.scale;
     std::array<std::vector<LineSegment>, PartRows::c_numRows> heads;
     for (int i = 0; i < lines.getNumParts(); ++i) {
         const Line& line = lines.getPart(i);
@@ -207,20 +260,8 @@ void PartPainting::drawDirections(const LineCollection& lines) const
         }
         const auto& [position, direction] = *line.getDirectionMarker();
         const Vector3f tip = view.sceneToEye * position;
-        const Vector3f before = view.sceneToEye * (position - direction);
-        // What points at the eye has no direction in the picture.
-        Vector3f along = tip - before;
-        along.z = 0.0f;
-        if (!(along.lengthSquared() > 0.0f)) {
-            continue;
-        }
-        along.normalize();
-        const float w = view.projection.get(4, 3) * tip.z + view.projection.get(4, 4);
-        const float length = pixelSize * w * std::max(c_headPerWidth * marking.getLineWidth(), c_shortestHead);
-        const Vector3f side(-along.y * c_headSlope, along.x * c_headSlope, 0.0f);
-        for (const Vector3f& wing : {side, -side}) {
-            heads[static_cast<std::size_t>(row)].push_back({tip, tip + length * (wing - along)});
-        }
+        const float pixels = m_context.scale * std::max(c_headPerWidth * marking.getLineWidth(), c_shortestHead);
+        addArrowHead(heads[row], tip, tip - view.sceneToEye * (position - direction), pixels * view.pixelSizeAt(tip));
     }
     for (std::size_t i = 0; i < heads.size(); ++i) {
         const Marking& marking = m_context.objects.markings.getMarking(static_cast<MarkingType>(i));

@@ -4,20 +4,32 @@
 #include "graphics3d/parts/marking.h"
 #include "renderer/objects/objectpainter.h"
 #include "renderer/paint/paintcontext.h"
+#include "renderer/upload/instancebuffer.h"
+#include "renderer/upload/linemesh.h"
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace vxgraphics3d {
+class Image;
 class LineCollection;
+class MeshableLineCollection;
+class MeshableSheetCollection;
 class ObjectParts;
 class PointCollection;
 class SheetCollection;
 } // namespace vxgraphics3d
 
 namespace vxrenderer {
+
+/// The segments of all lines, with the numbers of the lines as texture coordinates.
+std::vector<LineMesh::Piece> piecesOf(const vxgraphics3d::LineCollection& lines);
+/// The positions of all points.
+std::vector<Instance> instancesOf(const vxgraphics3d::PointCollection& points);
 
 /// The row of the marking table for a part whose mesh is drawn: that of its marks without the mesh.
 vxgraphics3d::MarkingType rowOfMesh(unsigned flags);
@@ -28,23 +40,40 @@ vxgraphics3d::MarkingType rowOfMesh(unsigned flags);
 /// at once, hidden ones are left out on the graphics hardware.
 class PartPainting {
 public:
+    /// The images of materials by their names; some may be null.
+    using Images = std::map<std::string, boost::shared_ptr<vxgraphics3d::Image>>;
+
     PartPainting(const ObjectItem& object, const PaintContext& context);
 
     /// Draws everything: faces, lines and points, and directions and labels if the picture shows them. Parts of the
     /// highest level have the object's own colour where it is used and they are not marked.
-    void drawAll(const vxgraphics3d::ObjectParts& parts) const;
+    void drawAll(const vxgraphics3d::ObjectParts& parts, const Images& images = {}) const;
 
-    /// Faces that are not marked have `color` if there is one.
+    /// Faces that are not marked have `color` if there is one, and those of a material the image of its name on it.
     void drawSheets(const vxgraphics3d::SheetCollection& sheets, int changeId,
-                    const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
+                    const std::optional<vxgraphics3d::Color>& color = std::nullopt, const Images& images = {}) const;
     void drawLines(const vxgraphics3d::LineCollection& lines, int changeId,
                    const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
     void drawPoints(const vxgraphics3d::PointCollection& points, int changeId,
                     const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
+    /// The meshes of faces, with the edges of their elements, and of lines, with their vertices. A part with a mesh has
+    /// the row of its marks without the mesh.
+    void drawMeshes(const vxgraphics3d::MeshableSheetCollection& sheets,
+                    const vxgraphics3d::MeshableLineCollection& lines, int changeId) const;
     /// Arrow heads on lines that have a direction, in the colours of the lines.
     void drawDirections(const vxgraphics3d::LineCollection& lines) const;
 
 private:
+    /// Numbers of the uploads of an object.
+    enum Upload : int {
+        UploadSheets,
+        UploadLines,
+        UploadPoints,
+        UploadSheetMeshes,
+        UploadLineMeshes,
+        UploadMeshVertices
+    };
+
     /// What a row says of one kind of part.
     struct Style {
         vxgraphics3d::Color color;
@@ -54,9 +83,15 @@ private:
     using StyleOf = std::function<Style(const vxgraphics3d::Marking& row)>;
 
     PartRows rowsOf(const StyleOf& styleOf, const std::optional<vxgraphics3d::Color>& color) const;
+    PartRows faceRows(const std::optional<vxgraphics3d::Color>& color) const;
+    PartRows lineRows(const std::optional<vxgraphics3d::Color>& color) const;
     int rankOf(int layer) const;
     template <class Parts>
-    const PartTable* tableOf(int number, const Parts& parts) const;
+    const PartTable& tableOf(int number, const Parts& parts) const;
+    template <class Parts>
+    const PartTable& meshTableOf(int number, const Parts& parts) const;
+    void drawSheetMeshes(const vxgraphics3d::MeshableSheetCollection& sheets, int changeId) const;
+    void drawLineMeshes(const vxgraphics3d::MeshableLineCollection& lines, int changeId) const;
     /// @param isBeside whether texts lie next to their points, not on them
     template <class Parts>
     void drawLabels(const Parts& parts, bool isBeside) const;

@@ -38,7 +38,8 @@ constexpr float c_dotPart = 0.9f;
 constexpr float c_squarePart = 0.8f;
 
 /// Opacity of the fill of an object without colours of its own, and of the polygon of a curve.
-constexpr int c_faintAlpha = 64;
+constexpr int c_fillAlpha = 64;
+constexpr int c_polygonAlpha = 128;
 
 Color withAlpha(Color color, int alpha)
 {
@@ -56,7 +57,7 @@ public:
           m_toClip(context.view.projection * context.view.sceneToEye * object.getTransformation()),
           m_outlineColor(object.isColorUsed() ? object.getOutlineColor() : context.appearance.textColor()),
           m_fillColor(object.isColorUsed() ? object.getFillColor()
-                                           : withAlpha(context.appearance.textColor(), c_faintAlpha))
+                                           : withAlpha(context.appearance.textColor(), c_fillAlpha))
     {
         const float size = object.getLineSize();
         m_lineSize = size > 0.0f ? std::min(size, c_widest) : 0.0f;
@@ -68,12 +69,12 @@ public:
         case OverlayObject::TypePoint: {
             const auto& point = as<OverlayPoint>();
             drawSymbol(RenderSymbol::circle, point.getX(), point.getY(),
-                       std::max(m_lineSize, c_smallestDot) / c_dotPart);
+                       std::max(m_lineSize, c_smallestDot) / c_dotPart, 1.0f);
             break;
         }
         case OverlayObject::TypeSymbol: {
             const auto& symbol = as<OverlaySymbol>();
-            drawSymbol(symbol.getSymbol(), symbol.getX(), symbol.getY(), c_symbolSize);
+            drawSymbol(symbol.getSymbol(), symbol.getX(), symbol.getY(), c_symbolSize, std::max(m_lineSize, 1.0f));
             break;
         }
         case OverlayObject::TypeLine:
@@ -120,13 +121,13 @@ private:
     }
 
     /// A symbol, with a border around it if it is both outlined and filled.
-    void drawSymbol(RenderSymbol symbol, double x, double y, float size) const
+    void drawSymbol(RenderSymbol symbol, double x, double y, float size, float border) const
     {
         const Vector3f position[] = {{x, y, 0.0}};
         if (m_object.isOutlined()) {
             drawSymbols(position, symbol, size, m_outlineColor);
         }
-        const float inner = m_object.isOutlined() ? size - 2.0f * std::max(m_lineSize, 1.0f) : size;
+        const float inner = m_object.isOutlined() ? size - 2.0f * border : size;
         if (m_object.isFilled() && inner > 0.0f) {
             drawSymbols(position, symbol, inner, m_fillColor);
         }
@@ -195,7 +196,7 @@ private:
         if (curve.isOutlined()) {
             const Color markingColor =
                 curve.isColorUsed() ? curve.getMarkingColor() : m_context.appearance.readable(curve.getMarkingColor());
-            drawLines(shape.polygons, 1.0f, withAlpha(m_outlineColor, c_faintAlpha));
+            drawLines(shape.polygons, 1.0f, withAlpha(m_outlineColor, c_polygonAlpha));
             drawLines(shape.lines, m_lineSize, m_outlineColor);
             drawLines(shape.markedLines, m_lineSize + static_cast<float>(curve.getMarkedLineSize()), markingColor);
             const float markedSize = c_pointSize + static_cast<float>(curve.getMarkedPointSize());

@@ -51,7 +51,7 @@ flat out vec3 partColor;
 
 void takeLook()
 {
-    PartRow row = partRow(int(texturePlaces.x));
+    PartRow row = partRows[rowOfPart(int(texturePlaces.x))];
     width = row.size;
     shift = row.towardsEye;
     isShown = row.isVisible;
@@ -162,7 +162,7 @@ LinePainter::LinePainter()
         m_material.attach(*program);
     }
     m_rows.attach(m_partProgram);
-    PartRows::attachTable(m_partProgram);
+    PartRows::attachTextures(m_partProgram);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     const auto describe = [](LineMesh::Attribute attribute, std::ptrdiff_t offset) {
@@ -209,12 +209,11 @@ void LinePainter::draw(const LineMesh& lines, const Frame& frame, const Material
     lines.draw();
 }
 
-void LinePainter::draw(const LineMesh& lines, const PartTable& parts, const PartRows& rows, const Frame& frame,
-                       const Material& material) const
+void LinePainter::draw(const LineMesh& lines, const PartLook& parts, const Frame& frame, const Material& material) const
 {
     setUp(m_partProgram, frame, material, !material.isTranslucent());
-    m_rows.set(rows);
-    parts.bind();
+    m_rows.set(parts.rows);
+    parts.table.bind();
     lines.draw();
 }
 

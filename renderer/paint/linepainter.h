@@ -14,7 +14,6 @@
 namespace vxrenderer {
 
 class LineMesh;
-class PartTable;
 
 /// A straight line between two points.
 struct LineSegment {
@@ -50,8 +49,7 @@ public:
     void draw(const LineMesh& lines, const Frame& frame, const Material& material) const;
     /// Draws the lines of an object, whose pieces have the numbers of their parts as texture coordinates. Width and
     /// distance to faces are those of the rows.
-    void draw(const LineMesh& lines, const PartTable& parts, const PartRows& rows, const Frame& frame,
-              const Material& material) const;
+    void draw(const LineMesh& lines, const PartLook& parts, const Frame& frame, const Material& material) const;
 
 private:
     struct LineBlock;

@@ -157,7 +157,7 @@ const GlProgram& MeshPainter::program(const MeshShader& shader)
         m_material.attach(known->second);
         if (shader.hasParts) {
             m_rows.attach(known->second);
-            PartRows::attachTable(known->second);
+            PartRows::attachTextures(known->second);
         }
     }
     return known->second;
@@ -194,15 +194,15 @@ void MeshPainter::draw(const Mesh& mesh, const InstanceBuffer& instances, const 
     drawFaces(material.isTranslucent(), [&] { mesh.draw(instances); });
 }
 
-void MeshPainter::draw(const Mesh& mesh, const PartTable& parts, const PartRows& rows, const Matrixf& toEye,
-                       const Material& material)
+void MeshPainter::draw(const Mesh& mesh, const PartLook& parts, const Matrixf& toEye, const Material& material)
 {
     MeshShader shader = m_lightShader;
     shader.hasParts = true;
+    shader.isTextured = parts.isTextured;
     setUp(mesh, shader, toEye, material);
-    m_rows.set(rows);
-    parts.bind();
-    drawFaces(material.isTranslucent(), [&] { mesh.draw(); });
+    m_rows.set(parts.rows);
+    parts.table.bind();
+    drawFaces(material.isTranslucent(), [&] { mesh.draw(parts.ranges); });
 }
 
 float MeshPainter::largestInPixels(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye) const

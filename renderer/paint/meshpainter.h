@@ -17,9 +17,9 @@ namespace vxrenderer {
 
 class InstanceBuffer;
 class Mesh;
-class PartTable;
 class SphereBuffer;
 struct Lighting;
+struct PartLook;
 struct View;
 
 /// Draws the faces of plots and objects, lit and seen from both sides.
@@ -35,9 +35,8 @@ public:
     /// Draws a mesh once for each instance.
     void draw(const Mesh& mesh, const InstanceBuffer& instances, const vxgraphics3d::Matrixf& toEye,
               const Material& material);
-    /// Draws the parts of an object.
-    void draw(const Mesh& mesh, const PartTable& parts, const PartRows& rows, const vxgraphics3d::Matrixf& toEye,
-              const Material& material);
+    /// Draws parts of an object.
+    void draw(const Mesh& mesh, const PartLook& parts, const vxgraphics3d::Matrixf& toEye, const Material& material);
     /// Draws spheres or discs.
     /// @param radiusScale multiplies their radii
     void draw(const SphereBuffer& spheres, float radiusScale, const vxgraphics3d::Matrixf& toEye,

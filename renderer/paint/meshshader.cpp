@@ -96,10 +96,14 @@ void main()
 constexpr const char* c_partMain = R"(
 layout(location = 10) in uint part;
 flat out vec3 partColor;
+flat out int partRow;
+out vec3 imagePosition;
 
 void main()
 {
-    PartRow row = partRow(int(part));
+    partRow = rowOfPart(int(part));
+    PartRow row = partRows[partRow];
+    imagePosition = (position - imagePlace.xyz) * imagePlace.w;
     vec4 eye = modelView * vec4(position, 1.0);
     eyePosition = eye.xyz;
     slopePosition = eye.xyz;
@@ -157,12 +161,23 @@ vec3 surfaceColor(float u)
 }
 )";
 
+// The image lies in the coordinate plane that the triangle is closest to, upright seen from outside of a box.
 constexpr const char* c_partColor = R"(
+uniform sampler2D materialImage;
 flat in vec3 partColor;
+flat in int partRow;
+in vec3 imagePosition;
 
 vec3 surfaceColor(float u)
 {
-    return partColor;
+    if (!c_isTextured) {
+        return partColor;
+    }
+    vec3 p = imagePosition;
+    vec3 slope = abs(cross(dFdx(p), dFdy(p)));
+    vec2 place = slope.z >= max(slope.x, slope.y) ? p.xy : slope.x >= slope.y ? p.yz : p.xz;
+    vec4 texel = texture(materialImage, vec2(place.x, -place.y));
+    return partRow == 0 ? partColor * (1.0 - texel.a) + texel.rgb : partColor;
 }
 )";
 
@@ -232,8 +247,9 @@ std::string MeshShader::fragmentSource() const
     return std::string(shape == Shape::triangles ? "" : "#extension GL_ARB_sample_shading : enable\n") +
            constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
            constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
-           constant("hasHighlights", hasHighlights) + "const int c_numLights = " + std::to_string(numLights) + ";\n" +
-           shapeConstants() + c_viewBlock + Material::c_source + c_light + mainOfFragments();
+           constant("hasHighlights", hasHighlights) + constant("isTextured", isTextured) +
+           "const int c_numLights = " + std::to_string(numLights) + ";\n" + shapeConstants() + c_viewBlock +
+           Material::c_source + c_light + mainOfFragments();
 }
 
 } // namespace vxrenderer

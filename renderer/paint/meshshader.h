@@ -22,6 +22,8 @@ struct MeshShader {
     bool isInstanced = false;
     /// Whether vertices have the numbers of parts, which have rows of the marking table.
     bool hasParts = false;
+    /// Whether parts that are not marked show the image of their material.
+    bool isTextured = false;
     /// Whether some values are hidden.
     bool isRestricted = false;
     bool isLit = false;

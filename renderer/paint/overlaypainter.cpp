@@ -1,6 +1,7 @@
 #include "renderer/paint/overlaypainter.h"
 
 #include "renderer/paint/material.h"
+#include "renderer/upload/imagetextures.h"
 
 #include <cmath>
 #include <cstddef>
@@ -38,6 +39,8 @@ const int c_tableSize = 1024;
 
 uniform sampler1D colorTable;
 uniform sampler2D glyphs;
+// With colours multiplied by alpha.
+uniform sampler2D image;
 in vec2 place;
 out vec4 result;
 
@@ -48,8 +51,11 @@ void main()
     } else if (mode == 1) {
         int texel = clamp(int(place.y * float(c_tableSize)), 0, c_tableSize - 1);
         result = vec4(texelFetch(colorTable, texel, 0).rgb, 1.0);
-    } else {
+    } else if (mode == 2) {
         result = vec4(color.rgb, color.a * texelFetch(glyphs, ivec2(place), 0).r);
+    } else {
+        vec4 texel = texture(image, place);
+        result = vec4(texel.rgb / max(texel.a, 1.0 / 255.0), texel.a);
     }
 }
 )";
@@ -57,6 +63,7 @@ void main()
 constexpr int c_plainMode = 0;
 constexpr int c_colorTableMode = 1;
 constexpr int c_glyphMode = 2;
+constexpr int c_imageMode = 3;
 
 } // namespace
 
@@ -77,6 +84,7 @@ OverlayPainter::OverlayPainter(UploadCounts& counts)
 {
     m_block.attach(m_program);
     m_program.setSampler("glyphs", 1);
+    m_program.setSampler("image", ImageTextures::c_unit);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glEnableVertexAttribArray(0);
@@ -122,10 +130,16 @@ void OverlayPainter::drawQuads(int mode, const Color& color, float depth)
     m_quads.clear();
 }
 
-void OverlayPainter::fillRect(const PixelRect& rect, const Color& color)
+void OverlayPainter::fillRect(const PixelRect& rect, const Color& color, float depth)
 {
     addQuad(rect, {});
-    drawQuads(c_plainMode, color);
+    drawQuads(c_plainMode, color, depth);
+}
+
+void OverlayPainter::drawImage(const PixelRect& rect, float depth)
+{
+    addQuad(rect, {0.0f, 0.0f, 1.0f, 1.0f});
+    drawQuads(c_imageMode, {}, depth);
 }
 
 void OverlayPainter::strokeRect(const PixelRect& rect, float width, const Color& color)

@@ -31,7 +31,10 @@ public:
     /// Prepares for drawing into a picture of this size.
     void begin(int width, int height);
 
-    void fillRect(const PixelRect& rect, const vxgraphics3d::Color& color);
+    /// @param depth from -1, at the eye, to 1: what it is compared with where a depth test is on
+    void fillRect(const PixelRect& rect, const vxgraphics3d::Color& color, float depth = 0.0f);
+    /// The image that is bound for `ImageTextures::c_unit`.
+    void drawImage(const PixelRect& rect, float depth);
     /// A border along the inner side of a rectangle.
     /// @param width of the border, in pixels
     void strokeRect(const PixelRect& rect, float width, const vxgraphics3d::Color& color);

@@ -5,6 +5,7 @@
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/symbolpainter.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vxrenderer {
@@ -50,11 +51,13 @@ void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width
 }
 
 void PaintContext::drawSegments(std::span<const LineSegment> segments, const vxgraphics3d::Matrixf& toClip,
-                                const vxgraphics3d::Color& color, float width) const
+                                const vxgraphics3d::Color& color, float width, float over) const
 {
     vxgraphics3d::Color faint = color;
     faint.alpha = static_cast<int>(std::lround(255.0f * opacity));
-    lines.draw(segments, {toClip, view.area.width, view.area.height, width * scale, view.aboveFaces(width * scale)},
+    lines.draw(segments,
+               {toClip, view.area.width, view.area.height, width * scale,
+                view.aboveFaces(std::max(width, 1.1f * over) * scale)},
                faint);
 }
 
@@ -66,26 +69,26 @@ void PaintContext::drawSymbols(const InstanceBuffer* positions, const Look& look
     }
 }
 
-void PaintContext::drawMesh(const Mesh* mesh, const PartTable* parts, const PartRows& rows, const Look& look) const
+void PaintContext::drawMesh(const Mesh* mesh, const PartLook& parts, const Look& look) const
 {
-    if (mesh != nullptr && parts != nullptr) {
-        meshes.draw(*mesh, *parts, rows, look.toEye, faded(look.material, opacity));
+    if (mesh != nullptr) {
+        meshes.draw(*mesh, parts, look.toEye, faded(look.material, opacity));
     }
 }
 
-void PaintContext::drawLines(const LineMesh* mesh, const PartTable* parts, const PartRows& rows, const Look& look) const
+void PaintContext::drawLines(const LineMesh* mesh, const PartLook& parts, const Look& look) const
 {
-    if (mesh != nullptr && parts != nullptr) {
-        lines.draw(*mesh, *parts, rows, {view.projection * look.toEye, view.area.width, view.area.height, 1.0f},
+    if (mesh != nullptr) {
+        lines.draw(*mesh, parts, {view.projection * look.toEye, view.area.width, view.area.height, 1.0f},
                    faded(look.material, opacity));
     }
 }
 
-void PaintContext::drawSymbols(const InstanceBuffer* positions, const PartTable* parts, const PartRows& rows,
-                               RenderSymbol symbol, const Look& look) const
+void PaintContext::drawSymbols(const InstanceBuffer* positions, const PartLook& parts, RenderSymbol symbol,
+                               const Look& look) const
 {
-    if (positions != nullptr && parts != nullptr) {
-        symbols.draw(*positions, *parts, rows,
+    if (positions != nullptr) {
+        symbols.draw(*positions, parts,
                      {view.projection * look.toEye, view.area.width, view.area.height, symbol, 1.0f,
                       faded(look.material, opacity).color});
     }

@@ -5,6 +5,7 @@
 #include "graphics3d/foundation/rendersymbol.h"
 #include "renderer/paint/material.h"
 #include "renderer/paint/partrows.h"
+#include "renderer/paint/sceneicon.h"
 #include "renderer/paint/scenelabel.h"
 
 #include <span>
@@ -18,12 +19,12 @@ class MarkingModeSetup;
 namespace vxrenderer {
 
 class ColorTextures;
+class ImageTextures;
 class InstanceBuffer;
 class LineMesh;
 class LinePainter;
 class Mesh;
 class MeshPainter;
-class PartTable;
 class SphereBuffer;
 class SymbolPainter;
 class UploadCache;
@@ -61,9 +62,11 @@ struct PaintContext {
     ObjectStyle objects;
     UploadCache& uploads;
     ColorTextures& colorTextures;
+    ImageTextures& images;
     MeshPainter& meshes;
     const LinePainter& lines;
     const SymbolPainter& symbols;
+    std::vector<SceneIcon>& icons;
     std::vector<SceneLabel>& labels;
 
     void drawMesh(const Mesh* mesh, const Look& look) const;
@@ -75,20 +78,23 @@ struct PaintContext {
     void drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound = false) const;
     /// Lines that are copied for this call.
     /// @param toClip from their points to the area of the scene
+    /// @param over width of the widest lines, or size of the largest symbols, that they are drawn over
     void drawSegments(std::span<const LineSegment> segments, const vxgraphics3d::Matrixf& toClip,
-                      const vxgraphics3d::Color& color, float width) const;
+                      const vxgraphics3d::Color& color, float width, float over = 0.0f) const;
     /// A symbol at the position of each instance.
     /// @param size in pixels of the screen
     void drawSymbols(const InstanceBuffer* positions, const Look& look, RenderSymbol symbol, float size) const;
 
-    // The parts of an object, each as its row says. The material gives opacity and shininess alone.
+    // Parts of an object, each as its row says. The material gives opacity and shininess alone.
 
-    void drawMesh(const Mesh* mesh, const PartTable* parts, const PartRows& rows, const Look& look) const;
-    void drawLines(const LineMesh* mesh, const PartTable* parts, const PartRows& rows, const Look& look) const;
+    void drawMesh(const Mesh* mesh, const PartLook& parts, const Look& look) const;
+    void drawLines(const LineMesh* mesh, const PartLook& parts, const Look& look) const;
     /// A symbol at the position of each instance, which is a part.
-    void drawSymbols(const InstanceBuffer* positions, const PartTable* parts, const PartRows& rows, RenderSymbol symbol,
+    void drawSymbols(const InstanceBuffer* positions, const PartLook& parts, RenderSymbol symbol,
                      const Look& look) const;
 
+    /// The icon is drawn over everything that it is not hidden by, before the labels.
+    void drawIcon(SceneIcon icon) const { icons.push_back(std::move(icon)); }
     /// The label is drawn over everything that it is not hidden by.
     void drawLabel(SceneLabel label) const { labels.push_back(std::move(label)); }
 };

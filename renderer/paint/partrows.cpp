@@ -1,6 +1,7 @@
 #include "renderer/paint/partrows.h"
 
 #include "renderer/gl/glprogram.h"
+#include "renderer/upload/imagetextures.h"
 #include "renderer/upload/parttable.h"
 
 namespace vxrenderer {
@@ -15,20 +16,23 @@ struct PartRow {
 };
 layout(std140) uniform PartRows {
     PartRow partRows[10];
+    // A point with a corner of the image of a material, and repetitions of the image for each unit of length.
+    vec4 imagePlace;
 };
 uniform usampler2D partTable;
 
-// Of the part with a number.
-PartRow partRow(int part)
+// The number of the row of a part.
+int rowOfPart(int part)
 {
     int width = textureSize(partTable, 0).x;
-    return partRows[texelFetch(partTable, ivec2(part % width, part / width), 0).r];
+    return int(texelFetch(partTable, ivec2(part % width, part / width), 0).r);
 }
 )";
 
-void PartRows::attachTable(const GlProgram& program)
+void PartRows::attachTextures(const GlProgram& program)
 {
     program.setSampler("partTable", PartTable::c_unit);
+    program.setSampler("materialImage", ImageTextures::c_unit);
 }
 
 } // namespace vxrenderer

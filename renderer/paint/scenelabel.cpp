@@ -3,6 +3,7 @@
 #include "graphics3d/foundation/textutil.h"
 #include "renderer/frame/view.h"
 #include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/picturepoint.h"
 #include "renderer/text/titlemarkup.h"
 
 #include <algorithm>
@@ -30,18 +31,6 @@ TextLayout layoutOf(const vxbase::UString& text, FontSet& fonts)
     return layoutTitle(parseTitle(markup), fonts, {c_noLimit, c_noLimit});
 }
 
-/// The w of a point of the eye's coordinates after the projection: what lies at the eye or behind it has none above 0.
-float projectedW(const View& view, const Vector3f& eye)
-{
-    return view.projection.get(4, 1) * eye.x + view.projection.get(4, 2) * eye.y + view.projection.get(4, 3) * eye.z +
-           view.projection.get(4, 4);
-}
-
-bool isInView(const Vector3f& clip)
-{
-    return std::abs(clip.x) <= 1.0f && std::abs(clip.y) <= 1.0f && std::abs(clip.z) <= 1.0f;
-}
-
 /// A label that is in view.
 struct ShownLabel {
     const SceneLabel* label;
@@ -59,23 +48,17 @@ struct ShownLabel {
 
 std::optional<ShownLabel> shownLabel(const SceneLabel& label, const View& view, FontSet& fonts)
 {
-    const Vector3f eye = view.sceneToEye * label.point;
-    const float w = projectedW(view, eye);
-    const Vector3f clip = view.projection * eye;
-    if (!(w > 0.0f) || !isInView(clip)) {
+    if (!PicturePoint::of(label.point, view, 0.0f)) {
         return std::nullopt;
     }
     ShownLabel shown = {&label, layoutOf(label.text, fonts)};
-    // The surface that a label lies on rises before parts of the text. It is compared where it would be if it lay
-    // nearer by its own height, so that only what lies clearly in front of the point hides it. A text that does not lie
-    // on its point reaches farther.
-    const float unitsPerPixel = 2.0f * w / (view.projection.get(2, 2) * static_cast<float>(view.area.height));
+    // Only what lies clearly in front of the point hides the text. One that does not lie on its point reaches farther.
     const float reach = shown.text.height + (label.isBeside ? shown.text.width : 0.0f);
-    const Vector3f nearer = view.projection * (eye + Vector3f(0.0f, 0.0f, reach * unitsPerPixel));
-    shown.pointDepth = clip.z;
-    shown.depth = std::clamp(nearer.z, -1.0f, clip.z);
-    shown.x = static_cast<float>(view.area.x) + 0.5f * (1.0f + clip.x) * static_cast<float>(view.area.width);
-    shown.y = static_cast<float>(view.area.y) + 0.5f * (1.0f - clip.y) * static_cast<float>(view.area.height);
+    const PicturePoint place = *PicturePoint::of(label.point, view, reach);
+    shown.pointDepth = place.depth;
+    shown.depth = place.nearerDepth;
+    shown.x = place.x;
+    shown.y = place.y;
     shown.left = shown.x - 0.5f * shown.text.width;
     shown.top = shown.y - 0.5f * shown.text.height;
     return shown;

@@ -49,7 +49,7 @@ vec2 shift;
 
 bool takeLook()
 {
-    PartRow row = partRow(gl_InstanceID);
+    PartRow row = partRows[rowOfPart(gl_InstanceID)];
     symbolColor = row.color.rgb;
     symbolRadius = 0.5 * row.size;
     shift = row.towardsEye;
@@ -152,7 +152,7 @@ SymbolPainter::SymbolPainter()
     m_block.attach(m_program);
     m_block.attach(m_partProgram);
     m_rows.attach(m_partProgram);
-    PartRows::attachTable(m_partProgram);
+    PartRows::attachTextures(m_partProgram);
 }
 
 void SymbolPainter::draw(const InstanceBuffer& instances, const Frame& frame) const
@@ -163,11 +163,10 @@ void SymbolPainter::draw(const InstanceBuffer& instances, const Frame& frame) co
     InstanceBuffer::release();
 }
 
-void SymbolPainter::draw(const InstanceBuffer& instances, const PartTable& parts, const PartRows& rows,
-                         const Frame& frame) const
+void SymbolPainter::draw(const InstanceBuffer& instances, const PartLook& parts, const Frame& frame) const
 {
-    m_rows.set(rows);
-    parts.bind();
+    m_rows.set(parts.rows);
+    parts.table.bind();
     glBindVertexArray(m_array.name());
     instances.bind();
     draw(m_partProgram, frame, instances.size());

@@ -15,7 +15,6 @@
 namespace vxrenderer {
 
 class InstanceBuffer;
-class PartTable;
 
 /// Draws symbols of a size in pixels that face the eye, with smooth borders whether or not the target has several
 /// samples per pixel.
@@ -43,7 +42,7 @@ public:
     void draw(const InstanceBuffer& instances, const Frame& frame) const;
     void draw(const vxgraphics3d::Vector3f& position, const Frame& frame) const;
     /// Draws the points of an object, one instance for each. Size, colour and distance to faces are those of the rows.
-    void draw(const InstanceBuffer& instances, const PartTable& parts, const PartRows& rows, const Frame& frame) const;
+    void draw(const InstanceBuffer& instances, const PartLook& parts, const Frame& frame) const;
     /// Draws a symbol at each position; they are copied for this call.
     void draw(std::span<const vxgraphics3d::Vector3f> positions, const Frame& frame) const;
 

@@ -4,6 +4,7 @@
 #include "graphics3d/plots/scenegraphplotgroup.h"
 #include "graphics3d/scenegraph/scenegraphgroup.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
+#include "renderer/objects/objectbox.h"
 
 #include <boost/pointer_cast.hpp>
 
@@ -84,7 +85,19 @@ BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes)
         } else if (const auto* plot = std::get_if<PlotItem>(&item)) {
             box.merge(plot->plot->getBoundingBox());
         } else {
-            box.merge(std::get<ObjectItem>(item)->getBoundingBox());
+            box.merge(boxOf(*std::get<ObjectItem>(item)));
+        }
+    }
+    return box;
+}
+
+BoundingBox boxInSpace(const SceneGraphRoot& root, const std::vector<SceneItem>& items)
+{
+    BoundingBox box = root.getBoundingBox();
+    for (const SceneItem& item : items) {
+        const auto* object = std::get_if<ObjectItem>(&item);
+        if (object != nullptr && !(*object)->getBoundingBox().isValid()) {
+            box.merge(boxOf(**object));
         }
     }
     return box;
@@ -100,7 +113,7 @@ vxgraphics3d::Vector3f centerOf(const SceneItem& item)
     if (const auto* plot = std::get_if<PlotItem>(&item)) {
         return plot->plot->getBoundingBox().getCenter();
     }
-    return std::get<ObjectItem>(item)->getBoundingBox().getCenter();
+    return boxOf(*std::get<ObjectItem>(item)).getCenter();
 }
 
 } // namespace vxrenderer

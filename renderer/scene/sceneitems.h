@@ -26,6 +26,9 @@ std::vector<SceneItem> collectItems(const vxgraphics3d::SceneGraphRoot& root);
 ///                else is shown holds logarithms.
 vxgraphics3d::BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes);
 
+/// The box of a scene in space: that of its tree, and of the items whose nodes have none.
+vxgraphics3d::BoundingBox boxInSpace(const vxgraphics3d::SceneGraphRoot& root, const std::vector<SceneItem>& items);
+
 /// Whether there is something other than graphs.
 bool hasMoreThanGraphs(const std::vector<SceneItem>& items);
 

@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <span>
 #include <utility>
 
 namespace vxrenderer {
@@ -88,7 +89,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     if (frame.scene == nullptr) {
         return;
     }
-    layout.box = frame.isFlat() ? boxOf(layout.items, frame.logAxes()) : frame.scene->getBoundingBox();
+    layout.box =
+        frame.isFlat() ? boxOf(layout.items, frame.logAxes()) : boxInSpace(*frame.scene->getRoot(), layout.items);
     layout.area = divideSpace(frame, layout.space, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
@@ -115,7 +117,9 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
         axes->drawBehind(m_lines);
         setBlending(false);
     }
-    const std::vector<SceneLabel> labels = drawData(frame, layout);
+    std::vector<SceneIcon> icons;
+    std::vector<SceneLabel> labels;
+    drawData(frame, layout, icons, labels);
     // Lines hide nothing, and are not to be crossed by the grid.
     if (axes != nullptr && hasMoreThanGraphs(layout.items)) {
         setBlending(true);
@@ -124,23 +128,23 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     }
     glDisable(GL_SCISSOR_TEST);
     glViewport(0, 0, layout.width, layout.height);
+    drawIcons(std::move(icons), m_view, layout.width, layout.height, frame.appearance.scale, m_images, m_overlay);
     drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay);
 }
 
-std::vector<SceneLabel> SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout)
+void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
+                             std::vector<SceneLabel>& labels)
 {
-    std::vector<SceneLabel> labels;
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
     m_meshes.begin(m_view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
     drawItems(layout.items, frame.canvas.getRenderMask(),
               {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance),
-               m_uploads, m_colorTextures, m_meshes, m_lines, m_symbols, labels});
+               m_uploads, m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
     }
     glDisable(GL_DEPTH_TEST);
-    return labels;
 }
 
 void SceneRenderer::drawItem(const SceneItem& item, const PaintContext& context) const
@@ -160,6 +164,14 @@ void SceneRenderer::drawItem(const SceneItem& item, const PaintContext& context)
     }
 }
 
+bool SceneRenderer::isTranslucent(const SceneItem& item) const
+{
+    const auto* object = std::get_if<ObjectItem>(&item);
+    return object != nullptr && std::ranges::any_of(m_objectPainters, [&](const auto& painter) {
+               return painter->isTranslucent() && painter->draws((*object)->getObjectType());
+           });
+}
+
 void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned renderMask,
                               const PaintContext& context) const
 {
@@ -170,20 +182,20 @@ void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned rend
             shown.push_back(&item);
         }
     }
-    const auto drawAll = [&] {
-        for (const SceneItem* item : shown) {
-            drawItem(*item, context);
-        }
-    };
-    if (context.opacity >= 1.0f) {
-        drawAll();
-    } else if (context.opacity > 0.0f) {
+    const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
+    const auto translucent = std::ranges::stable_partition(shown, isOpaque);
+    for (const SceneItem* item : std::span(shown.begin(), translucent.begin())) {
+        drawItem(*item, context);
+    }
+    if (!translucent.empty() && context.opacity > 0.0f) {
         // What lies farther off comes first, by the middles of the items.
         const auto depthOf = [&](const SceneItem* item) { return (context.view.sceneToEye * centerOf(*item)).z; };
-        std::ranges::stable_sort(shown, {}, depthOf);
+        std::ranges::stable_sort(translucent, {}, depthOf);
         setBlending(true);
         glDepthMask(GL_FALSE);
-        drawAll();
+        for (const SceneItem* item : translucent) {
+            drawItem(*item, context);
+        }
         glDepthMask(GL_TRUE);
         setBlending(false);
     }
@@ -256,6 +268,7 @@ void SceneRenderer::dropUnused()
 {
     m_uploads.dropLost();
     m_colorTextures.dropLost();
+    m_images.dropLost();
     if (m_fontSets.getSize() > c_manyFontSets) {
         m_overlay.forgetFonts();
         m_fontSets.forget();

@@ -14,6 +14,7 @@
 #include "renderer/scene/framelayout.h"
 #include "renderer/text/fontsets.h"
 #include "renderer/upload/colortextures.h"
+#include "renderer/upload/imagetextures.h"
 #include "renderer/upload/uploadcache.h"
 #include "renderer/upload/uploadcounts.h"
 
@@ -28,6 +29,7 @@ class SceneGraphNode;
 namespace vxrenderer {
 
 struct PaintContext;
+struct SceneIcon;
 struct SceneLabel;
 class Target;
 
@@ -55,9 +57,12 @@ public:
 private:
     void updateTitle(const vxgraphics3d::Scene& scene);
     void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes);
-    /// @return the labels that are to be drawn over the scene
-    std::vector<SceneLabel> drawData(const Frame& frame, const FrameLayout& layout);
+    /// @param icons,labels receive those that are to be drawn over the scene
+    void drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
+                  std::vector<SceneLabel>& labels);
     void drawItem(const SceneItem& item, const PaintContext& context) const;
+    /// Whether an item is blended in every picture.
+    bool isTranslucent(const SceneItem& item) const;
     void drawItems(const std::vector<SceneItem>& items, unsigned renderMask, const PaintContext& context) const;
     void drawLightMarkers(const Frame& frame);
     void drawOverlays(const Frame& frame, const FrameLayout& layout);
@@ -70,6 +75,7 @@ private:
     View m_view;
     UploadCache m_uploads{m_counts};
     ColorTextures m_colorTextures{m_counts};
+    ImageTextures m_images{m_counts};
     PlotPainters m_plotPainters;
     ObjectPainters m_objectPainters;
     BackgroundPainter m_background;

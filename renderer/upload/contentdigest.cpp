@@ -88,4 +88,12 @@ std::uint64_t contentDigest(std::span<const float> records)
     return digest.value();
 }
 
+std::uint64_t contentDigest(std::span<const std::uint32_t> pixels, int width)
+{
+    Digest digest;
+    digest.add(pixels.data(), static_cast<std::ptrdiff_t>(pixels.size_bytes()));
+    digest.addNumber(width);
+    return digest.value();
+}
+
 } // namespace vxrenderer

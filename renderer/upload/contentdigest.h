@@ -18,5 +18,7 @@ namespace vxrenderer {
 std::uint64_t contentDigest(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
 /// The same for records of floats.
 std::uint64_t contentDigest(std::span<const float> records);
+/// The same for pixels in rows of a length.
+std::uint64_t contentDigest(std::span<const std::uint32_t> pixels, int width);
 
 } // namespace vxrenderer

@@ -86,6 +86,7 @@ void Mesh::load(std::span<const MeshPart> parts)
 {
     m_numIndices = 0;
     m_hasNormals = true;
+    m_partEnds.clear();
     std::size_t numVertices = 0;
     std::size_t numIndices = 0;
     for (const MeshPart& part : parts) {
@@ -109,6 +110,7 @@ void Mesh::load(std::span<const MeshPart> parts)
         for (int i = 0; i < part.vertices.getNumberOfVertices(); ++i) {
             vertices.push_back({records[i], number});
         }
+        m_partEnds.push_back(static_cast<std::uint32_t>(indices.size()));
         ++number;
     }
 
@@ -135,6 +137,20 @@ void Mesh::draw() const
     // Segments follow each other without gaps, and triangles may cross their borders.
     glBindVertexArray(m_array.name());
     glDrawElements(GL_TRIANGLES, m_numIndices, GL_UNSIGNED_INT, nullptr);
+}
+
+void Mesh::draw(std::span<const PartRange> ranges) const
+{
+    std::vector<GLsizei> counts;
+    std::vector<const void*> starts;
+    for (const PartRange& range : ranges) {
+        const std::uint32_t start = range.first > 0 ? m_partEnds[range.first - 1] : 0;
+        counts.push_back(static_cast<GLsizei>(m_partEnds[range.first + range.count - 1] - start));
+        starts.push_back(offsetPointer(static_cast<std::ptrdiff_t>(start * sizeof(std::uint32_t))));
+    }
+    glBindVertexArray(m_array.name());
+    glMultiDrawElements(GL_TRIANGLES, counts.data(), GL_UNSIGNED_INT, starts.data(),
+                        static_cast<GLsizei>(counts.size()));
 }
 
 void Mesh::draw(const InstanceBuffer& instances) const

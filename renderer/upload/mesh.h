@@ -2,7 +2,10 @@
 
 #include "renderer/gl/globject.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <span>
+#include <vector>
 
 namespace vxgraphics3d {
 class IndexBuffer;
@@ -35,6 +38,12 @@ struct MeshPart {
     const vxgraphics3d::IndexBuffer& triangles;
 };
 
+/// Parts of a mesh with consecutive numbers.
+struct PartRange {
+    std::size_t first;
+    std::size_t count;
+};
+
 /// Triangles on the graphics hardware: a vertex buffer and an index buffer.
 class Mesh {
 public:
@@ -54,12 +63,16 @@ public:
     void draw() const;
     /// Draws the mesh once for each instance.
     void draw(const InstanceBuffer& instances) const;
+    /// Draws some of the parts that the mesh was loaded with.
+    void draw(std::span<const PartRange> ranges) const;
 
 private:
     GlVertexArray m_array;
     GlBuffer m_vertices;
     GlBuffer m_indices;
     GLsizei m_numIndices = 0;
+    /// Where the indices of each part end; empty for a mesh without parts.
+    std::vector<std::uint32_t> m_partEnds;
     bool m_hasNormals = false;
 };
 

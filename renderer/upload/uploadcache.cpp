@@ -93,13 +93,13 @@ const SphereBuffer* UploadCache::spheres(const boost::shared_ptr<const void>& ow
         [&](SphereBuffer& spheres) { spheres.load(records, areDiscs); });
 }
 
-const PartTable* UploadCache::partTable(const boost::shared_ptr<const void>& owner, int number,
+const PartTable& UploadCache::partTable(const boost::shared_ptr<const void>& owner, int number,
                                         std::span<const std::uint8_t> rows)
 {
     Entry<PartTable>& entry = m_partTables[{owner.get(), number}];
     entry.owner = owner;
     m_counts.partTables += entry.upload.set(rows) ? 1 : 0;
-    return &entry.upload;
+    return entry.upload;
 }
 
 void UploadCache::dropLost()

@@ -51,7 +51,7 @@ public:
                      const std::function<std::vector<MeshPart>()>& make);
     /// How the parts look. It is compared with each call, and loaded if it has changed.
     /// @param rows of the marking table, one for each part
-    const PartTable* partTable(const boost::shared_ptr<const void>& owner, int number,
+    const PartTable& partTable(const boost::shared_ptr<const void>& owner, int number,
                                std::span<const std::uint8_t> rows);
     /// Single lines or line strips.
     const LineMesh* lines(const boost::shared_ptr<const void>& owner, int number, int changeId,

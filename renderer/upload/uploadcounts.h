@@ -10,6 +10,8 @@ struct UploadCounts {
     int glyphPictures = 0;
     /// Tables of the looks of parts, which marks change.
     int partTables = 0;
+    /// Images of materials and icons.
+    int images = 0;
 
     bool operator==(const UploadCounts&) const = default;
 };

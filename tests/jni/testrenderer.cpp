@@ -2,6 +2,8 @@
 #include "graphics3d/canvas/irenderercanvas.h"
 #include "graphics3d/canvas/irenderersetup.h"
 #include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/foundation/image.h"
+#include "graphics3d/geometry/scenegraphphysicsobject.h"
 #include "graphics3d/picking/canvaspicksettings.h"
 #include "graphics3d/plots/graph/graphline.h"
 #include "graphics3d/plots/graph/scenegraphplotgraph.h"
@@ -18,6 +20,7 @@
 
 #include <new>
 #include <set>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -227,6 +230,49 @@ VX_NATIVE(jstring, TestRenderer, describeGraph)(JNIEnv* env, jclass, jobject sel
                     line->m_legendDescription.toUtf8();
         }
         return toJavaNew(env, text);
+    });
+}
+
+VX_NATIVE(jstring, TestRenderer, describeModel)(JNIEnv* env, jclass, jobject self)
+{
+    return native(env, "describeModel", [&] {
+        const auto& model = peer<SceneGraphPhysicsObject>(env, self);
+        std::ostringstream text;
+        const auto writeFlags = [&](const auto& parts, const char* name) {
+            text << name << std::hex;
+            for (int i = 0; i < parts.getNumParts(); ++i) {
+                text << ' ' << parts.getPart(i).getMarkFlags();
+            }
+            text << std::dec << '\n';
+        };
+        writeFlags(model.getParts().getPoints(), "points");
+        writeFlags(model.getLines(), "lines");
+        writeFlags(model.getSheets(), "sheets");
+        writeFlags(model.getParts().getSubdomains(), "subdomains");
+        for (const auto& [name, count] : model.getSheets().getMaterials()) {
+            text << "material " << name << ' ' << count << '\n';
+        }
+        for (const auto& [name, image] : model.getImages()) {
+            text << "image " << name;
+            for (int i = 0; image && i < image->getWidth() * image->getHeight(); ++i) {
+                text << ' ' << std::hex << image->getData()[i] << std::dec;
+            }
+            text << '\n';
+        }
+        for (int level = 0; level < ObjectParts::c_numLevels; ++level) {
+            for (const auto& [index, marker] : model.getMarkers(level)) {
+                text << "marker " << level << ' ' << index << ' ' << marker->getPosition();
+                for (const Vector3f& direction : *marker->getDirections()) {
+                    text << ' ' << direction + Vector3f();
+                }
+                text << '\n';
+            }
+        }
+        for (const auto& connector : model.getConnectors()) {
+            text << "connector " << connector->getPosition() << ' ' << connector->getPoints().size() << '\n';
+        }
+        text << (model.isShowPhysicsMarkers() ? "" : "markers off\n");
+        return toJavaNew(env, text.str());
     });
 }
 

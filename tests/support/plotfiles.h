@@ -8,4 +8,8 @@ namespace vxgraphics3d {
 /// data. Numbers have `digits` significant digits.
 std::string gridPlotText(int columns, int rows, int digits);
 
+/// The text of a solid file with the same coordinates and triangles, those of each row of cells as a face, the lines
+/// between them as edges, and the ends of these as vertices.
+std::string gridSolidText(int columns, int rows, int digits);
+
 } // namespace vxgraphics3d

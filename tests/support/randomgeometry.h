@@ -7,12 +7,24 @@
 
 #include <cstddef>
 #include <memory>
+#include <set>
+#include <span>
 #include <vector>
 
 namespace vxgraphics3d {
 
+/// The values of a row of a relation, which may be absent.
+inline std::span<const int> valuesOf(const vxdatacarrier::AdjacencyRecord& relation, std::size_t row)
+{
+    if (relation.m_numRows == 0 || relation.m_rows[row].start < 0) {
+        return {};
+    }
+    return {relation.m_values.get() + relation.m_rows[row].start, static_cast<std::size_t>(relation.m_rows[row].count)};
+}
+
 /// Random geometry around a point: parts of all levels, some without geometry, that share their boundaries at random.
-/// The box of the record is exact.
+/// Relations are consistent: what bounds a part of a part bounds the part itself, and all inverses agree. The box of
+/// the record is exact.
 class RandomGeometry {
 public:
     RandomGeometry(RandomNumbers& random, const Vector3f& centre, float size)
@@ -45,6 +57,13 @@ public:
         relate(record.m_subdomainToSheet, record.m_numSubdomains, record.m_numSheets);
         relate(record.m_sheetToLine, record.m_numSheets, record.m_numCurves);
         relate(record.m_lineToPoint, record.m_numCurves, record.m_numPoints);
+        derive(record.m_sheetToPoint, record.m_sheetToLine, record.m_lineToPoint, record.m_numPoints);
+        derive(record.m_subdomainToLine, record.m_subdomainToSheet, record.m_sheetToLine, record.m_numCurves);
+        derive(record.m_subdomainToPoint, record.m_subdomainToSheet, record.m_sheetToPoint, record.m_numPoints);
+        invertAdjacency(record.m_pointToSheet, record.m_sheetToPoint, record.m_numPoints, record.m_numSheets);
+        invertAdjacency(record.m_pointToSubdomain, record.m_subdomainToPoint, record.m_numPoints,
+                        record.m_numSubdomains);
+        invertAdjacency(record.m_lineToSubdomain, record.m_subdomainToLine, record.m_numCurves, record.m_numSubdomains);
         invertAdjacency(record.m_sheetToSubdomain, record.m_subdomainToSheet, record.m_numSheets,
                         record.m_numSubdomains);
         invertAdjacency(record.m_lineToSheet, record.m_sheetToLine, record.m_numCurves, record.m_numSheets);
@@ -105,6 +124,31 @@ private:
             relation.m_rows[static_cast<std::size_t>(row)] = {relation.m_numUsed, count};
             for (int i = 0; i < count; ++i) {
                 relation.m_values[static_cast<std::size_t>(relation.m_numUsed++)] = m_random.integer(0, numTargets - 1);
+            }
+        }
+    }
+
+    /// The relation that follows from two others, with now and then a part more that is inside and bounds nothing else.
+    void derive(vxdatacarrier::AdjacencyRecord& relation, const vxdatacarrier::AdjacencyRecord& first,
+                const vxdatacarrier::AdjacencyRecord& second, int numTargets)
+    {
+        std::vector<std::set<int>> rows(static_cast<std::size_t>(first.m_numRows));
+        int numValues = 0;
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            for (const int middle : valuesOf(first, row)) {
+                const auto values = valuesOf(second, static_cast<std::size_t>(middle));
+                rows[row].insert(values.begin(), values.end());
+            }
+            if (numTargets > 0 && m_random.integer(0, 3) == 0) {
+                rows[row].insert(m_random.integer(0, numTargets - 1));
+            }
+            numValues += static_cast<int>(rows[row].size());
+        }
+        relation.allocate(first.m_numRows, numValues);
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            relation.m_rows[row] = {relation.m_numUsed, static_cast<int>(rows[row].size())};
+            for (const int value : rows[row]) {
+                relation.m_values[static_cast<std::size_t>(relation.m_numUsed++)] = value;
             }
         }
     }

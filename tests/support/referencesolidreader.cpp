@@ -2,16 +2,15 @@
 
 #include "graphics3d/readers/sceneobjectfilereader.h"
 #include "tests/support/capturedlog.h"
+#include "tests/support/solidcomparison.h"
 
 #include <algorithm>
 #include <array>
 #include <climits>
 #include <cstdio>
 #include <cstring>
-#include <list>
-#include <locale.h>
 #include <limits>
-#include <map>
+#include <locale.h>
 #include <memory>
 #include <stdlib.h>
 #include <string_view>
@@ -49,6 +48,8 @@ public:
         relation(4).allocate(m_counts[2], m_counts[4]);
         relation(5).allocate(m_counts[1], m_counts[5]);
         relation(6).allocate(m_counts[1], m_counts[6]);
+        m_normals.resize(size(m_counts[0]));
+        m_vertexMap.resize(size(m_counts[0]), -1);
         std::rewind(file);
         m_row = 0;
         int position = 0;
@@ -82,7 +83,7 @@ public:
         m_record.m_box.m_yMax = m_max.y;
         m_record.m_box.m_zMin = m_min.z;
         m_record.m_box.m_zMax = m_max.z;
-        return true;
+        return !m_coordinates.empty();
     }
 
 private:
@@ -215,8 +216,9 @@ private:
         const Vector3f c = coordinate(values[2]);
         const Vector3f normal = (c - b).cross(a - b).normalized();
         for (int i = 0; i < 3; ++i) {
-            m_normals[values[i]] += normal;
-            if (m_vertexMap.emplace(values[i], static_cast<int>(m_faceVertices.size())).second) {
+            m_normals[size(values[i])] += normal;
+            if (m_vertexMap[size(values[i])] < 0) {
+                m_vertexMap[size(values[i])] = static_cast<int>(m_faceVertices.size());
                 m_faceVertices.push_back(values[i]);
             }
         }
@@ -285,18 +287,20 @@ private:
         int next = 0;
         for (const int index : m_faceVertices) {
             const Vector3f v = coordinate(index);
-            const Vector3f& n = m_normals[index].normalize();
+            const Vector3f& n = m_normals[size(index)].normalize();
             sheet.m_vertices[size(next++)] = {v.x, v.y, v.z, n.x, n.y, n.z};
         }
         sheet.m_numTriangles = static_cast<int>(m_triangles.size());
         sheet.m_triangles = std::make_unique<Triangle[]>(m_triangles.size());
         next = 0;
         for (const Triple& corners : m_triangles) {
-            sheet.m_triangles[size(next++)] = {m_vertexMap[corners[0]], m_vertexMap[corners[1]],
-                                               m_vertexMap[corners[2]]};
+            sheet.m_triangles[size(next++)] = {m_vertexMap[size(corners[0])], m_vertexMap[size(corners[1])],
+                                               m_vertexMap[size(corners[2])]};
         }
         sheet.m_isValid = true;
-        m_vertexMap.clear();
+        for (const int index : m_faceVertices) {
+            m_vertexMap[size(index)] = -1;
+        }
         m_faceVertices.clear();
         m_triangles.clear();
     }
@@ -338,11 +342,11 @@ private:
     int m_state = c_none;
     int m_group = -1;
     std::vector<Vector3f> m_coordinates;
-    std::map<int, Vector3f> m_normals;
-    std::map<int, int> m_vertexMap;
-    std::list<int> m_faceVertices;
-    std::list<Triple> m_triangles;
-    std::list<std::array<int, 2>> m_segments;
+    std::vector<Vector3f> m_normals;
+    std::vector<int> m_vertexMap;
+    std::vector<int> m_faceVertices;
+    std::vector<Triple> m_triangles;
+    std::vector<std::array<int, 2>> m_segments;
     std::vector<int> m_values;
     int m_nextPoint = 0;
     int m_nextSheet = 0;
@@ -352,72 +356,12 @@ private:
     Vector3f m_max = -m_min;
 };
 
-template <class Value>
-bool same(const std::unique_ptr<Value[]>& a, int numA, const std::unique_ptr<Value[]>& b, int numB)
-{
-    return numA == numB && (numA == 0 || std::memcmp(a.get(), b.get(), static_cast<std::size_t>(numA) * sizeof(Value)) == 0);
-}
-
-bool same(const AdjacencyRecord& a, const AdjacencyRecord& b)
-{
-    return a.m_numUsed == b.m_numUsed && same(a.m_rows, a.m_numRows, b.m_rows, b.m_numRows) &&
-           same(a.m_values, a.m_numValues, b.m_values, b.m_numValues) &&
-           same(a.m_extra, a.m_numValues, b.m_extra, b.m_numValues);
-}
-
-bool same(const BoundingBox3D& a, const BoundingBox3D& b)
-{
-    return a.m_xMin == b.m_xMin && a.m_xMax == b.m_xMax && a.m_yMin == b.m_yMin && a.m_yMax == b.m_yMax &&
-           a.m_zMin == b.m_zMin && a.m_zMax == b.m_zMax;
-}
-
-bool same(const Sheet3D& a, const Sheet3D& b)
-{
-    return a.m_isValid == b.m_isValid && same(a.m_box, b.m_box) && a.m_upDomain == b.m_upDomain &&
-           a.m_downDomain == b.m_downDomain && same(a.m_vertices, a.m_numVertices, b.m_vertices, b.m_numVertices) &&
-           same(a.m_triangles, a.m_numTriangles, b.m_triangles, b.m_numTriangles);
-}
-
-bool same(const Curve3D& a, const Curve3D& b)
-{
-    return a.m_isValid == b.m_isValid && same(a.m_box, b.m_box) &&
-           same(a.m_vertices, a.m_numVertices, b.m_vertices, b.m_numVertices);
-}
-
-template <class Part>
-bool samePart(const std::unique_ptr<Part[]>& a, int numA, const std::unique_ptr<Part[]>& b, int numB)
-{
-    return numA == numB && std::equal(a.get(), a.get() + numA, b.get(), [](const Part& x, const Part& y) { return same(x, y); });
-}
-
 } // namespace
 
 bool readSolidPlainly(RenderDraw3D& record, const std::string& path, const Vector3f& offset, std::string& message)
 {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "r"), std::fclose);
     return file != nullptr && PlainReader(record, path, offset, message).read(file.get());
-}
-
-std::string differenceOf(const RenderDraw3D& a, const RenderDraw3D& b)
-{
-    return !same(a.m_box, b.m_box)                                                             ? "m_box"
-           : !samePart(a.m_subdomains, a.m_numSubdomains, b.m_subdomains, b.m_numSubdomains) ? "m_subdomains"
-           : !samePart(a.m_sheets, a.m_numSheets, b.m_sheets, b.m_numSheets)                 ? "m_sheets"
-           : !samePart(a.m_curves, a.m_numCurves, b.m_curves, b.m_numCurves)                 ? "m_curves"
-           : !same(a.m_points, a.m_numPoints, b.m_points, b.m_numPoints)                     ? "m_points"
-           : !same(a.m_subdomainToSheet, b.m_subdomainToSheet)                               ? "m_subdomainToSheet"
-           : !same(a.m_subdomainToLine, b.m_subdomainToLine)                                 ? "m_subdomainToLine"
-           : !same(a.m_subdomainToPoint, b.m_subdomainToPoint)                               ? "m_subdomainToPoint"
-           : !same(a.m_sheetToLine, b.m_sheetToLine)                                         ? "m_sheetToLine"
-           : !same(a.m_sheetToPoint, b.m_sheetToPoint)                                       ? "m_sheetToPoint"
-           : !same(a.m_lineToPoint, b.m_lineToPoint)                                         ? "m_lineToPoint"
-           : !same(a.m_pointToLine, b.m_pointToLine)                                         ? "m_pointToLine"
-           : !same(a.m_pointToSheet, b.m_pointToSheet)                                       ? "m_pointToSheet"
-           : !same(a.m_pointToSubdomain, b.m_pointToSubdomain)                               ? "m_pointToSubdomain"
-           : !same(a.m_lineToSheet, b.m_lineToSheet)                                         ? "m_lineToSheet"
-           : !same(a.m_lineToSubdomain, b.m_lineToSubdomain)                                 ? "m_lineToSubdomain"
-           : !same(a.m_sheetToSubdomain, b.m_sheetToSubdomain)                               ? "m_sheetToSubdomain"
-                                                                                             : "";
 }
 
 std::string differenceFromPlainSolid(const std::string& path, int& numGood)

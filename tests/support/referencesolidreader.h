@@ -13,10 +13,6 @@ namespace vxgraphics3d {
 bool readSolidPlainly(vxdatacarrier::RenderDraw3D& record, const std::string& path, const Vector3f& offset,
                       std::string& message);
 
-/// Names the first field in which two records differ, comparing numbers bitwise; empty if they are equal. Id, name and
-/// validity are not compared.
-std::string differenceOf(const vxdatacarrier::RenderDraw3D& a, const vxdatacarrier::RenderDraw3D& b);
-
 /// Reads a solid file with both readers, and names the first difference in result, record and log.
 /// @param numGood is increased if the file was accepted
 std::string differenceFromPlainSolid(const std::string& path, int& numGood);

@@ -1,11 +1,11 @@
 #include "graphics3d/geometry/partpicking.h"
 
 #include "graphics3d/cameras/camera2d.h"
-#include "graphics3d/geometry/partmarking.h"
 #include "graphics3d/geometry/scenegraphdrawobjectcurve.h"
 #include "graphics3d/geometry/scenegraphdrawobjectface.h"
 #include "graphics3d/geometry/scenegraphdrawobjectpoint.h"
 #include "graphics3d/geometry/scenegraphdrawobjectsolid.h"
+#include "graphics3d/geometry/scenegraphphysicsobject.h"
 #include "graphics3d/picking/canvaspicksettings.h"
 #include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/picking/selectionfrustrum.h"
@@ -222,29 +222,6 @@ private:
 // --- random scenes
 // ----------------------------------------------------------------------------------------------------
 
-class PhysicsLeaf : public SceneGraphObject {
-public:
-    static boost::shared_ptr<PhysicsLeaf> create(int id) { return own(new PhysicsLeaf(id)); }
-    void fillData(const vxdatacarrier::RenderGeom3D& record, const BoundingBox& box)
-    {
-        m_parts.fill(record);
-        setBoundingBox(box);
-    }
-    const ObjectParts& getParts() const { return m_parts; }
-    PartMarking marking() { return PartMarking(m_parts); }
-    void getSelection(const SelectionFrustrum& frustrum, const CanvasPickSettings& settings,
-                      PickedObjectCollection& result, bool inside) const override
-    {
-        pickPhysicsObject(m_parts, m_id, frustrum, settings, result, inside);
-    }
-    void getMarkedBoundingBox(BoundingBox&, int, int) const override {}
-
-private:
-    explicit PhysicsLeaf(int id) : SceneGraphObject(ObjectPhysics), m_id(id) {}
-    int m_id;
-    ObjectParts m_parts{PartSolid};
-};
-
 /// A tree of groups with objects of all classes, some parts of which are hidden or unpickable.
 struct RandomScene {
     Scene scene;
@@ -282,10 +259,10 @@ private:
         if (kind == 4) {
             vxdatacarrier::RenderGeom3D record;
             geometry.fill(record);
-            const auto object = PhysicsLeaf::create(id);
-            object->fillData(record, boxOf(record.m_box));
+            const auto object = SceneGraphPhysicsObject::create(id);
+            object->fillData(record);
             markParts(object->getParts(), [&](int level, int index, SceneGraphObject::MarkingType action) {
-                object->marking().mark(level, index, action, true);
+                markPhysics(*object, level, index, action);
             });
             leaves.push_back({&object->getParts(), id, PickedObject::PickedPhysics, nullptr, path});
             return object;
@@ -334,9 +311,18 @@ private:
         }
     }
 
-    static BoundingBox boxOf(const vxdatacarrier::BoundingBox3D& box)
+    static void markPhysics(SceneGraphPhysicsObject& object, int level, int index, SceneGraphObject::MarkingType action)
     {
-        return {box.m_xMin, box.m_xMax, box.m_yMin, box.m_yMax, box.m_zMin, box.m_zMax};
+        switch (level) {
+        case PartPoint:
+            return object.markPoint(index, action);
+        case PartLine:
+            return object.markEdge(index, action);
+        case PartSheet:
+            return object.markBoundary(index, action);
+        default:
+            return object.markSubdomain(index, action);
+        }
     }
 
     RandomNumbers& m_random;

@@ -4,19 +4,17 @@
 #include "graphics3d/readers/postdatareader.h"
 #include "tests/support/capturederror.h"
 #include "tests/support/capturedlog.h"
+#include "tests/support/formatpage.h"
 #include "tests/support/temporaryfile.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
-#include <fstream>
 #include <future>
 #include <limits>
-#include <regex>
-#include <sstream>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -110,69 +108,40 @@ TEST(PlotData, hasTheSizesAndLimitsOfItsPage)
     }
 }
 
-/// The page on the format.
-std::string readPage()
+FormatPage page()
 {
-    std::ifstream stream(c_docsFolder + "plot-data-format.md");
-    std::ostringstream text;
-    text << stream.rdbuf();
-    return text.str();
-}
-
-/// All matches of a regular expression.
-std::vector<std::smatch> matchesOf(const std::regex& pattern, const std::string& text)
-{
-    return {std::sregex_iterator(text.begin(), text.end(), pattern), std::sregex_iterator()};
+    return {c_docsFolder, "plot-data-format.md", "plot-"};
 }
 
 /// A record of the kind that a sample is for.
 Record recordFor(const std::string& sample)
 {
     Record record;
-    record.m_plotKind = sample.rfind("plot-levels", 0) == 0 ? Record::IsoSurface : Record::Surface3d;
+    record.m_plotKind = sample.find("/plot-levels") != std::string::npos ? Record::IsoSurface : Record::Surface3d;
     return record;
 }
 
 TEST(PlotData, eachInvalidSampleGivesTheMessageAndTheRowThatThePageStates)
 {
-    const std::string page = readPage();
-    const std::regex tableRow(R"(\| `(.*)` \| (\d+|none) \| .* \| \[`.*`\]\(samples/(.*)\) \|)");
-    const std::vector<std::smatch> rows = matchesOf(tableRow, page);
-    EXPECT_EQ(rows.size(), 27u);
-    for (const std::smatch& row : rows) {
-        const std::string path = c_docsFolder + "samples/" + row.str(3);
-        std::string message = row.str(1);
-        if (const std::size_t at = message.find("FILE"); at != std::string::npos) {
-            message.replace(at, 4, path);
-        }
-        const CapturedLog log(ErrorLog::Level::error);
-        CapturedError standardError;
-        Record record = recordFor(row.str(3));
-        ReaderError error;
-        EXPECT_FALSE(readPostData(record, path, error)) << path;
-        EXPECT_EQ(log.messages(), std::vector{message}) << path;
-        EXPECT_EQ(error.message, message) << path;
-        EXPECT_EQ(error.row == 0 ? "none" : std::to_string(error.row), row.str(2)) << path;
-        EXPECT_EQ(standardError.take().substr(0, message.size()), message.rfind("Illegal", 0) == 0 ? "" : message)
-            << path;
-    }
+    EXPECT_EQ(page().faults().size(), 27u);
+    expectFaults(
+        page(),
+        [](const std::string& path, ReaderError& error) {
+            Record record = recordFor(path);
+            return readPostData(record, path, error);
+        },
+        [](std::string_view message) { return message.rfind("Illegal", 0) != 0; },
+        [](std::string_view) { return true; });
 }
 
 TEST(PlotData, everySampleIsOnThePageAndThoseShownThereAreValid)
 {
-    const std::string page = readPage();
-    int numShown = 0;
-    for (const auto& file : std::filesystem::directory_iterator(c_docsFolder + "samples")) {
-        const std::string name = file.path().filename();
-        if (page.find("<!-- from docs/samples/" + name + " -->") != std::string::npos) {
-            Record record = recordFor(name);
-            EXPECT_TRUE(readPostData(record, file.path())) << name;
-            ++numShown;
-        } else if (name.rfind("plot-", 0) == 0) {
-            EXPECT_NE(page.find("(samples/" + name + ")"), std::string::npos) << name;
-        }
+    const std::vector<std::string> samples = page().shownSamples();
+    EXPECT_EQ(samples.size(), 3u);
+    for (const std::string& path : samples) {
+        Record record = recordFor(path);
+        EXPECT_TRUE(readPostData(record, path)) << path;
     }
-    EXPECT_EQ(numShown, 3);
 }
 
 TEST(PlotData, treatsValuesThatAreNotFiniteAsThePageStates)

@@ -80,7 +80,23 @@ TEST(TextRows, areTheSameWhereverABlockEnds)
         }
         const File file = fileOf(bytes);
         TextRows rows(file.get());
-        EXPECT_EQ(allRows(rows), rowsByLibrary(bytes));
+        const std::vector<std::string> expected = rowsByLibrary(bytes);
+        EXPECT_EQ(allRows(rows), expected);
+        // Skipping passes over no row that begins with the character.
+        rows.rewind();
+        std::size_t number = 0;
+        while (true) {
+            const auto numSkipped = static_cast<std::size_t>(rows.skipRowsWithout('b'));
+            for (const std::size_t end = number + numSkipped; number < end; ++number) {
+                ASSERT_NE(expected[number][0], 'b');
+            }
+            const char* row = rows.next();
+            if (row == nullptr) {
+                break;
+            }
+            ASSERT_EQ(row, expected[number++]);
+        }
+        EXPECT_EQ(number, expected.size());
     }
 }
 

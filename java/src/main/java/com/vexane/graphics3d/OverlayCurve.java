@@ -8,7 +8,7 @@ package com.vexane.graphics3d;
  * Points are looked up in logarithmic time; {@link #clearMarkings()} and {@link #setEdgeMarking} take time in
  * proportion to the marks that they change.
  */
-public abstract sealed class OverlayCurve extends OverlayObject permits OverlayDrawCurve {
+public abstract sealed class OverlayCurve extends OverlayObject permits OverlayDrawCurve, OverlayRenderEdit2d {
     OverlayCurve() {}
 
     /** {@return the number of vertices} */

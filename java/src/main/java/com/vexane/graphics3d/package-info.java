@@ -29,6 +29,8 @@
  *       {@link SceneGraphDrawObjectSolid}, {@link SceneGraphDrawObjectFace}, {@link SceneGraphDrawObjectCurve} and
  *       {@link SceneGraphDrawObjectPoint}. {@link MarkingAction} and {@link ObjectPartType} say what is done to which
  *       parts.
+ *   <li>A {@link SceneGraphPhysicsObject} shows the geometry of a simulation model in the same way, with the meshes,
+ *       materials and markers of its parts.
  *   <li>A {@link SceneGraphPlot} shows the values of one record with a colour table, a legend and a title:
  *       {@link SceneGraphPlotSurface2d}, {@link SceneGraphPlotSurface3d}, {@link SceneGraphPlotDomain3d},
  *       {@link SceneGraphPlotSlice3d} and {@link SceneGraphPlotMesh3d}. Levels of a field are a
@@ -61,7 +63,8 @@
  *   <li>An {@link Overlay} is a list of shapes drawn over the scene, each an {@link OverlayObject}: {@link OverlayPoint},
  *       {@link OverlaySymbol}; {@link OverlayLine}, {@link OverlayRectangle} and {@link OverlayEllipse}, which are
  *       {@linkplain OverlayTwoPointsObject given by two points}; the {@link OverlayTransformation} frame; and an
- *       {@link OverlayCurve} to be edited, such as {@link OverlayDrawCurve}.
+ *       {@link OverlayCurve} to be edited, {@link OverlayDrawCurve} or
+ *       {@link OverlayRenderEdit2d}.
  *   <li>{@link HardcopySettings} are those of one export, an {@link Image} is filled by a renderer, and
  *       {@link RendererInfo} and {@link ContextData} describe the renderer and its drawing context.
  * </ul>

@@ -9,6 +9,8 @@ import com.vexane.base.NativeException;
 import com.vexane.base.NativePeer;
 import com.vexane.producer.PostDataObject;
 import com.vexane.producer.RenderDraw3D;
+import com.vexane.producer.RenderGeom3D;
+import com.vexane.producer.RenderMeshCollection;
 import java.io.File;
 import java.io.IOException;
 import java.lang.reflect.InvocationTargetException;
@@ -185,7 +187,7 @@ class HostileCallsTest {
             }
         }
 
-        /** Connects the parts to a scene with plots and solids, which requires everything to be usable. */
+        /** Connects the parts to a scene with plots, fills solids and models, which requires everything to be usable. */
         private void fill(PeerRecipes peers) {
             SceneGraphRoot root = peers.first(SceneGraphRoot.class);
             SceneGraphPlotGroup group = (SceneGraphPlotGroup) peers.another(SceneGraphPlotGroup.class);
@@ -203,6 +205,13 @@ class HostileCallsTest {
             for (NativePeer solid : peers.allOf(SceneGraphDrawObjectSolid.class)) {
                 ((SceneGraphDrawObjectSolid) solid).fillObject(peers.another(RenderDraw3D.class));
                 ((SceneGraphDrawObjectSolid) solid).markPart(ObjectPartType.SHEET, 0, MarkingAction.HIDDEN);
+            }
+            for (NativePeer peer : peers.allOf(SceneGraphPhysicsObject.class)) {
+                SceneGraphPhysicsObject model = (SceneGraphPhysicsObject) peer;
+                model.fillObject(peers.another(RenderGeom3D.class));
+                model.addMeshCollection(peers.another(RenderMeshCollection.class));
+                model.setPhysicsMarkerNormal("icon", ObjectPartType.SHEET, 0, true);
+                model.markBoundary(0, MarkingAction.HIDDEN);
             }
         }
 

@@ -8,6 +8,7 @@ import com.vexane.interaction.FrameInteraction;
 import com.vexane.interaction.OverlayPicker;
 import com.vexane.interaction.RubberBand;
 import com.vexane.producer.DataRole;
+import com.vexane.producer.EditGeometryBuilder;
 import com.vexane.producer.GeometryBuilder1D;
 import com.vexane.producer.GeometryBuilder2D;
 import com.vexane.producer.GeometryBuilder3D;
@@ -20,6 +21,7 @@ import com.vexane.producer.ProjectionBuilder2D;
 import com.vexane.producer.RenderDraw1D;
 import com.vexane.producer.RenderDraw2D;
 import com.vexane.producer.RenderDraw3D;
+import com.vexane.producer.RenderDrawEdit2D;
 import com.vexane.producer.RenderDrawProj2D;
 import com.vexane.producer.RenderGeom1D;
 import com.vexane.producer.RenderGeom2D;
@@ -82,6 +84,7 @@ final class PeerRecipes implements AutoCloseable {
         recipe(SceneGraphDrawObjectCurve.class, made -> new SceneGraphDrawObjectCurve(2));
         recipe(SceneGraphDrawObjectFace.class, made -> new SceneGraphDrawObjectFace(3));
         recipe(SceneGraphDrawObjectSolid.class, made -> new SceneGraphDrawObjectSolid(4));
+        recipe(SceneGraphPhysicsObject.class, made -> new SceneGraphPhysicsObject(5));
         recipe(SceneGraphPlotSurface2d.class, made -> new SceneGraphPlotSurface2d(1));
         recipe(SceneGraphPlotSurface3d.class, made -> new SceneGraphPlotSurface3d(2));
         recipe(SceneGraphPlotDomain3d.class, made -> new SceneGraphPlotDomain3d(3));
@@ -115,7 +118,17 @@ final class PeerRecipes implements AutoCloseable {
         recipe(OverlayEllipse.class, made -> new OverlayEllipse());
         recipe(OverlayTransformation.class, made -> new OverlayTransformation());
         recipe(OverlayDrawCurve.class, made -> new OverlayDrawCurve());
+        recipe(OverlayRenderEdit2d.class, made -> {
+            OverlayRenderEdit2d curve = new OverlayRenderEdit2d();
+            curve.connectRenderDrawEdit(made.first(RenderDrawEdit2D.class));
+            return curve;
+        });
         recipe(PostDataObject.class, made -> recordForEveryPlot());
+        recipe(RenderDrawEdit2D.class, made -> {
+            EditGeometryBuilder geometry = new EditGeometryBuilder();
+            geometry.addLine(geometry.addVertex(0, 0), geometry.addVertex(1, 1));
+            return geometry.build();
+        });
         recipe(RenderDraw1D.class, made -> rod().buildDraw(1, "Rod"));
         recipe(RenderDraw2D.class, made -> area().buildDraw(2, "Area"));
         recipe(RenderDraw3D.class, made -> shell().buildDraw(3, "Shell"));

@@ -94,6 +94,9 @@ public final class TestRenderer extends NativePeer {
     /** What the natives of a plot set and none of them returns. */
     static native String describe(SceneGraphPlot plot);
 
+    /** The flags of all parts of a model, its materials, images, markers and connectors, one a line. */
+    static native String describeModel(SceneGraphPhysicsObject model);
+
     /** The title over a plot group, in markup. */
     static native String titleOf(SceneGraphPlotGroup group);
 

@@ -1,5 +1,6 @@
 package com.vexane.gallery;
 
+import com.vexane.gallery.pictures.ArcTessellation;
 import com.vexane.gallery.pictures.ArrowScalings;
 import com.vexane.gallery.pictures.BracketEdges;
 import com.vexane.gallery.pictures.BracketMesh;
@@ -8,11 +9,14 @@ import com.vexane.gallery.pictures.BracketSlices;
 import com.vexane.gallery.pictures.BracketStress;
 import com.vexane.gallery.pictures.CityLabels;
 import com.vexane.gallery.pictures.DashedLines;
+import com.vexane.gallery.pictures.DrawnCurves;
 import com.vexane.gallery.pictures.EarthRelief;
 import com.vexane.gallery.pictures.EarthTogether;
 import com.vexane.gallery.pictures.EarthquakeMap;
 import com.vexane.gallery.pictures.Earthquakes;
+import com.vexane.gallery.pictures.EditedGeometry;
 import com.vexane.gallery.pictures.FourCameras;
+import com.vexane.gallery.pictures.FrameOverRotatedObject;
 import com.vexane.gallery.pictures.FrequencyResponse;
 import com.vexane.gallery.pictures.GraphAxes;
 import com.vexane.gallery.pictures.Hardcopy;
@@ -23,6 +27,7 @@ import com.vexane.gallery.pictures.LogarithmicAxes;
 import com.vexane.gallery.pictures.OceanIsotherms;
 import com.vexane.gallery.pictures.OceanProfile;
 import com.vexane.gallery.pictures.OceanSlices;
+import com.vexane.gallery.pictures.OverlayShapes;
 import com.vexane.gallery.pictures.PlateWithHole;
 import com.vexane.gallery.pictures.PolarView;
 import com.vexane.gallery.pictures.PrincipalStress;
@@ -97,6 +102,11 @@ public final class Gallery {
             new SymbolsAndStyles(),
             new LegendPositions(),
             new FrequencyResponse(),
+            new OverlayShapes(),
+            new FrameOverRotatedObject(),
+            new DrawnCurves(),
+            new EditedGeometry(),
+            new ArcTessellation(),
             new Hardcopy());
 
     /** Pixels of most pictures. */

@@ -71,6 +71,31 @@ public final class OverlayPicker extends NativePeer {
         return pick(this, x, y, requireOpen(picked, "picked"));
     }
 
+    /**
+     * Finds the position in the overlay that is seen at a pixel, in the plane z = 0.
+     *
+     * @param x column of the pointer
+     * @param y row of the pointer, from the top
+     * @return x and y at the middle of the pixel, or null if the plane is not seen there
+     */
+    public double[] locate(int x, int y) {
+        double[] out = new double[2];
+        return toPlane(this, x, y, out) ? out : null;
+    }
+
+    /**
+     * Finds the pixel at which a point of the scene is seen, also outside the picture.
+     *
+     * @param x the position in x
+     * @param y the position in y
+     * @param z the position in z
+     * @return column and row, or null if the point is not in front of the eye
+     */
+    public int[] pixelOf(double x, double y, double z) {
+        double[] out = new double[2];
+        return toPicture(this, x, y, z, out) ? new int[] {(int) Math.floor(out[0]), (int) Math.floor(out[1])} : null;
+    }
+
     @Override
     protected void cleanup() {
         cleanupNative(this);
@@ -82,6 +107,10 @@ public final class OverlayPicker extends NativePeer {
     private static native void cleanupNative(OverlayPicker peer);
 
     private static native void setCanvasHeight(OverlayPicker peer, int canvasHeight);
+
+    private static native boolean toPlane(OverlayPicker peer, int x, int y, double[] out);
+
+    private static native boolean toPicture(OverlayPicker peer, double x, double y, double z, double[] out);
 
     private static native boolean pick(OverlayPicker peer, int x, int y, PickedObjectCollection picked);
 }

@@ -5,8 +5,8 @@ import java.nio.file.Path;
 import java.util.OptionalInt;
 
 /**
- * A plot file that cannot be opened or is invalid. The page on the plot data format lists the reasons with a sample of
- * each.
+ * A file of a plot or a solid that cannot be opened or is invalid. The pages on the plot data format and on the solid data
+ * format list the reasons with a sample of each.
  */
 public class PlotFileException extends IOException {
     private static final long serialVersionUID = 1;

@@ -7,6 +7,7 @@
  *       checks that they fit together, and makes the record.
  *   <li>A {@link PostDataObject} is the record, from which plots are filled. It can also be read from a file; a
  *       {@link PlotFileException} reports an invalid file.
+ *   <li>An {@link EditGeometryBuilder} makes a {@link RenderDrawEdit2D}, a geometry in the plane that can be edited.
  * </ul>
  *
  * <pre>{@code

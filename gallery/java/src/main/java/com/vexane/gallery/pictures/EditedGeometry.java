@@ -1,0 +1,78 @@
+package com.vexane.gallery.pictures;
+
+import com.vexane.gallery.About;
+import com.vexane.gallery.Picture;
+import com.vexane.gallery.Sheet;
+import com.vexane.gallery.Studio;
+import com.vexane.graphics3d.Overlay;
+import com.vexane.graphics3d.OverlayRenderEdit2d;
+import com.vexane.producer.EditGeometryBuilder;
+import com.vexane.producer.RenderDrawEdit2D;
+import java.io.IOException;
+
+@About(title = "A geometry before and after a vertex was dragged",
+        text = "Lines, arcs, an ellipse and free splines, with their control polygons. The three marked edges meet in "
+                + "vertex 3 and follow it; the arc becomes another rational curve. The others stay as they are.")
+public final class EditedGeometry implements Picture {
+    private static final int WIDTH = 900;
+    private static final int HEIGHT = 800;
+    private static final double[] CUBIC = {0, 0, 0, 0, 1, 1, 1, 1};
+
+    @Override
+    public void draw(Studio studio) throws IOException {
+        studio.renderer().resize(WIDTH, HEIGHT);
+        studio.flat();
+        studio.camera2d().setViewLimits(-0.5f, 7, -0.6f, 5.6f);
+        Sheet sheet = new Sheet(2);
+        try (Overlay overlay = new Overlay(); OverlayRenderEdit2d curve = new OverlayRenderEdit2d();
+                RenderDrawEdit2D geometry = plate()) {
+            curve.connectRenderDrawEdit(geometry);
+            curve.setUseColor(true);
+            curve.setOutlineColor(40, 60, 90, 255);
+            curve.setMarkingColor(220, 90, 20, 255);
+            curve.setLineSize(2.5f);
+            curve.setDisplayVertexNumbers(true);
+            overlay.addOverlayObject(curve, 1);
+            studio.renderer().setOverlay(overlay);
+            curve.setVertex(3, 4, 4);
+            markModified(curve);
+            geometry.clearModified();
+            studio.nameAxes("Before", "");
+            studio.renderer().draw();
+            sheet.add(studio.renderer());
+
+            curve.setVertex(3, 5.2, 4.7);
+            markModified(curve);
+            studio.nameAxes("Vertex 3 dragged to the upper right", "");
+            studio.renderer().draw();
+            sheet.add(studio.renderer());
+        }
+        sheet.write(studio.file(""));
+    }
+
+    private static void markModified(OverlayRenderEdit2d curve) {
+        curve.clearMarkings();
+        for (int edge = 0; edge < curve.getNumberOfEdges(); ++edge) {
+            if (curve.isEdgeModified(edge)) {
+                curve.setEdgeMarking(edge, true);
+            }
+        }
+    }
+
+    private static RenderDrawEdit2D plate() {
+        EditGeometryBuilder builder = new EditGeometryBuilder();
+        int[] corners = {builder.addVertex(0, 0), builder.addVertex(6, 0), builder.addVertex(6, 2),
+            builder.addVertex(4, 4), builder.addVertex(1, 4), builder.addVertex(0, 3)};
+        builder.addLine(corners[0], corners[1]);
+        builder.addLine(corners[1], corners[2]);
+        builder.addArc(corners[2], corners[3], 4, 2);
+        builder.addSpline(corners[3], corners[4], 3, CUBIC, new double[] {4, 3, 2, 1}, new double[] {4, 5, 3, 4});
+        builder.addArc(corners[4], corners[5], 1, 3);
+        builder.addLine(corners[5], corners[0]);
+        builder.addSpline(corners[3], corners[1], 2, new double[] {0, 0, 0, 1, 1, 1}, new double[] {4, 3.6, 6},
+                new double[] {4, 1.4, 0}, new double[] {1, 1.5, 1});
+        int hole = builder.addVertex(2.9, 1.6);
+        builder.addEllipse(hole, hole, 1.9, 1.6, 1, 0.6, 0);
+        return builder.build();
+    }
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "renderer/objects/objectpainter.h"
+
+namespace vxrenderer {
+
+/// Draws work planes: the grid with its border, arrows along the axes, and the symbol of the operation. An extrusion is
+/// a disc with an arrow to each height, a revolution its dashed axis with an arrow around it.
+class WorkPlanePainter : public ObjectPainter {
+public:
+    bool draws(vxgraphics3d::SceneGraphObject::ObjectType type) const override;
+    void draw(const ObjectItem& object, const PaintContext& context) const override;
+};
+
+} // namespace vxrenderer
