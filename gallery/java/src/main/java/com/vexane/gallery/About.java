@@ -10,7 +10,7 @@ import java.lang.annotation.Target;
  *
  * <p>The rest of the page is the program itself. Line comments that follow an empty line, a picture, or the head of the
  * class or of {@code draw} are prose between blocks of code; all other comments are part of the code. Names between
- * backticks are set as code. A picture is shown below the statement of {@code draw} that saved it.
+ * backticks are set as code. A picture is shown below the statement that saved it.
  */
 @Retention(RetentionPolicy.RUNTIME)
 @Target(ElementType.TYPE)

@@ -7,8 +7,10 @@ import java.io.UncheckedIOException;
 import java.nio.file.Files;
 import java.nio.file.Path;
 import java.nio.file.StandardCopyOption;
+import java.util.ArrayDeque;
 import java.util.ArrayList;
 import java.util.Comparator;
+import java.util.Deque;
 import java.util.LinkedHashMap;
 import java.util.List;
 import java.util.Map;
@@ -124,16 +126,20 @@ final class Site {
         StringBuilder html = new StringBuilder(HEAD.formatted(Html.escaped(about.title()) + " - Gallery"));
         html.append(neighbours(index)).append("<main>\n<h1>").append(Html.escaped(about.title()))
                 .append("</h1>\n<p class=\"lead\">").append(Html.prose(about.text())).append("</p>\n");
-        List<Studio.Shot> shots = new ArrayList<>(example.shots());
+        Deque<Studio.Shot> shots = new ArrayDeque<>(example.shots().stream()
+                .sorted(Comparator.comparingInt(Studio.Shot::line)).toList());
         for (Listing.Part part : example.parts()) {
             if (part.isProse()) {
                 html.append("<p>").append(Html.prose(part.text())).append("</p>\n");
                 continue;
             }
             html.append("<pre><code>").append(JavaColors.html(part.text())).append("</code></pre>\n");
-            while (!shots.isEmpty() && shots.get(0).line() <= part.lastLine()) {
-                html.append(figure(shots.remove(0), example));
+            while (!shots.isEmpty() && shots.peek().line() <= part.lastLine()) {
+                html.append(figure(shots.poll(), example));
             }
+        }
+        for (Studio.Shot shot : shots) {
+            html.append(figure(shot, example));
         }
         html.append("</main>\n<footer>\n<dl>\n");
         item(html, "Program", programs(example));

@@ -343,11 +343,11 @@ public final class Studio implements AutoCloseable {
         return file;
     }
 
-    /** The line that the {@code draw} of the program is at. */
+    /** The line of the program that is being run. */
     private int currentLine() {
         return StackWalker.getInstance().walk(frames -> frames
                 .filter(frame -> frame.getClassName().equals(program.getName()))
-                .mapToInt(StackWalker.StackFrame::getLineNumber).reduce((inner, outer) -> outer).orElse(0));
+                .mapToInt(StackWalker.StackFrame::getLineNumber).findFirst().orElse(Integer.MAX_VALUE));
     }
 
     List<Shot> shots() {
