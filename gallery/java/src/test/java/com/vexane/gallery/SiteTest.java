@@ -4,6 +4,7 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import java.awt.image.BufferedImage;
 import java.io.IOException;
 import java.net.URI;
 import java.nio.file.Files;
@@ -14,7 +15,9 @@ import java.util.Set;
 import java.util.regex.MatchResult;
 import java.util.regex.Pattern;
 import java.util.stream.Stream;
+import javax.imageio.ImageIO;
 import org.junit.jupiter.api.Test;
+import org.junit.jupiter.api.io.TempDir;
 
 class SiteTest {
     private static final Pattern TARGET = Pattern.compile("(?:href|src)=\"([^\"]*)\"");
@@ -44,6 +47,16 @@ class SiteTest {
         }
         assertEquals(pictures.stream().map(file -> file.getFileName().toString()).sorted().toList(),
                 shown.stream().sorted().toList());
+    }
+
+    /** The texts are on the page in this order. */
+    static void checkOrder(Path page, String... texts) throws IOException {
+        String html = Files.readString(page);
+        int from = 0;
+        for (String text : texts) {
+            from = html.indexOf(text, from);
+            assertTrue(from >= 0, page + " lacks " + text + " or has it too early");
+        }
     }
 
     private static final String PROGRAM = """
@@ -127,5 +140,44 @@ class SiteTest {
     @Test
     void setsNamesBetweenBackticksAsCode() {
         assertEquals("a &lt; <code>b &amp;&amp; &quot;c&quot;</code> &gt; d", Html.prose("a < `b && \"c\"` > d"));
+    }
+
+    @About(title = "A <b>", text = "T", section = Section.RECIPES, pages = "x/p-q")
+    private static final class Titled {}
+
+    private static void write(Path file, String text) throws IOException {
+        Files.createDirectories(file.getParent());
+        Files.writeString(file, text);
+    }
+
+    @Test
+    void linksToTheReferenceWhereItWasMadeAndElseToTheSources(@TempDir Path root) throws IOException {
+        String program = PROGRAM.replace("java.util.List", "com.vexane.producer.Kind.Inner");
+        for (String file : List.of("gallery/style.css", "docs/first-picture.md", "docs/common-tasks.md", "docs/x/p-q.md",
+                "producer/java/src/main/java/com/vexane/producer/Kind.java")) {
+            write(root.resolve(file), "# Title of " + file + "\n");
+        }
+        write(root.resolve("gallery/java/src/main/java/com/vexane/gallery/pictures/Two.java"), program);
+        Path picture = root.resolve("out/site/two.png");
+        Files.createDirectories(picture.getParent());
+        ImageIO.write(new BufferedImage(8, 20, BufferedImage.TYPE_INT_RGB), "png", picture.toFile());
+        Site site = new Site(root, picture.getParent(), List.of(new Example(Titled.class.getAnnotation(About.class), "Two",
+                program, List.of(new Studio.Shot(picture, "", 20)))));
+
+        site.write();
+        String html = Files.readString(root.resolve("out/site/two.html"));
+        assertTrue(html.contains("<h1>A &lt;b&gt;</h1>"), html);
+        assertTrue(html.contains("<figcaption>A &lt;b&gt;.</figcaption>"), html);
+        assertTrue(html.contains("<a href=\"../../docs/x/p-q.md\">Title of docs/x/p-q.md</a>"), html);
+        assertTrue(html.contains("<a href=\"../../producer/java/src/main/java/com/vexane/producer/Kind.java\">Kind</a>"), html);
+        assertEquals(program, Files.readString(root.resolve("out/site/programs/Two.java")));
+        assertEquals(480, ImageIO.read(root.resolve("out/site/thumbnails/two.png").toFile()).getHeight());
+
+        write(root.resolve("out/docs/cpp/md_docs_x_p_q.html"), "");
+        write(root.resolve("out/docs/java/com.vexane.producer/com/vexane/producer/Kind.html"), "");
+        site.write();
+        html = Files.readString(root.resolve("out/site/two.html"));
+        assertTrue(html.contains("href=\"../docs/cpp/md_docs_x_p_q.html\""), html);
+        assertTrue(html.contains("href=\"../docs/java/com.vexane.producer/com/vexane/producer/Kind.html\""), html);
     }
 }

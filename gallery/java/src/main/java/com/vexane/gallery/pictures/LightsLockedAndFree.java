@@ -13,7 +13,7 @@ import com.vexane.graphics3d.SpotLightSource;
 import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
-@About(title = "Lights that stay with the camera, and lights that stay with the scene",
+@About(title = "Lights that stay with the camera or with the scene",
         text = "A light moves with the camera or stays with the scene. There are three kinds of it, each "
                 + "with a marker.",
         section = Section.VIEWS,
