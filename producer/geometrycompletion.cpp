@@ -36,7 +36,7 @@ std::tuple<float, float, float> keyOf(const Coords3D& at)
 template <class Geometry>
 void completeLinesAndPoints(Geometry& record)
 {
-    if (record.m_lineToPoint.m_numRows == 0 && record.m_pointToLine.m_numRows == 0) {
+    if (isAbsent(record.m_lineToPoint) && isAbsent(record.m_pointToLine)) {
         std::map<decltype(keyOf(record.m_points[0])), int> points;
         for (int i = 0; i < record.m_numPoints; ++i) {
             const auto key = keyOf(record.m_points[static_cast<std::size_t>(i)]);
@@ -69,8 +69,7 @@ template <class Geometry>
 void completeSheets(Geometry& record)
 {
     completePair(record.m_sheetToLine, record.m_lineToSheet, record.m_numSheets, record.m_numCurves);
-    if (record.m_sheetToPoint.m_numRows == 0 && record.m_pointToSheet.m_numRows == 0 &&
-        record.m_sheetToLine.m_numRows != 0 && record.m_lineToPoint.m_numRows != 0) {
+    if (isAbsent(record.m_sheetToPoint) && isAbsent(record.m_pointToSheet) && !isAbsent(record.m_sheetToLine)) {
         record.m_sheetToPoint = join(record.m_sheetToLine, record.m_lineToPoint, record.m_numPoints);
     }
     completePair(record.m_sheetToPoint, record.m_pointToSheet, record.m_numSheets, record.m_numPoints);
@@ -123,14 +122,14 @@ void completeSubdomainRelations(Geometry3D& record)
     if (record.m_numSubdomains == 0) {
         return;
     }
-    if (record.m_subdomainToSheet.m_numRows == 0 && record.m_sheetToSubdomain.m_numRows == 0) {
+    if (isAbsent(record.m_subdomainToSheet) && isAbsent(record.m_sheetToSubdomain)) {
         record.m_sheetToSubdomain = domainsOfSheets(record);
     }
     completePair(record.m_subdomainToSheet, record.m_sheetToSubdomain, record.m_numSubdomains, record.m_numSheets);
     const auto derive = [&](AdjacencyRecord& fromSubdomain, AdjacencyRecord& toSubdomain,
                             const AdjacencyRecord& fromSheet, int numParts) {
-        if (fromSubdomain.m_numRows == 0 && toSubdomain.m_numRows == 0 && record.m_subdomainToSheet.m_numRows != 0 &&
-            fromSheet.m_numRows != 0) {
+        if (isAbsent(fromSubdomain) && isAbsent(toSubdomain) && !isAbsent(record.m_subdomainToSheet) &&
+            !isAbsent(fromSheet)) {
             fromSubdomain = join(record.m_subdomainToSheet, fromSheet, numParts);
         }
         completePair(fromSubdomain, toSubdomain, record.m_numSubdomains, numParts);

@@ -17,7 +17,8 @@ namespace vxproducer {
 /// - a relation whose inverse is given or derived
 /// - the snap coordinates: those of the points
 ///
-/// What is there stays as it is. A relation stays absent if there is nothing that it follows from.
+/// What is there stays as it is; a relation whose rows are all empty counts as absent. A relation stays absent if there
+/// is nothing that it follows from.
 /// @throws std::invalid_argument or std::out_of_range if the indices in relations, or the domains of sheets, are out of
 ///         range. The record is then only partly complete.
 VX_API void complete(vxdatacarrier::Geometry1D& record);

@@ -88,15 +88,15 @@ AdjacencyRecord copyOf(const AdjacencyRecord& relation)
 void completePair(AdjacencyRecord& relation, AdjacencyRecord& inverse, int numRows, int numValues)
 {
     AdjacencyRecord made;
-    if (inverse.m_numRows != 0) {
+    if (!isAbsent(inverse)) {
         invertAdjacency(made, inverse, numRows, numValues);
-        if (relation.m_numRows == 0) {
+        if (isAbsent(relation)) {
             relation = std::move(made);
         }
     }
     if (relation.m_numRows != 0) {
         invertAdjacency(made, relation, numValues, numRows);
-        if (inverse.m_numRows == 0) {
+        if (isAbsent(inverse)) {
             inverse = std::move(made);
         }
     }

@@ -15,6 +15,12 @@ using RelationRows = std::vector<std::vector<int>>;
 /// @throws std::length_error for more values than an int can count
 vxdatacarrier::AdjacencyRecord toRelation(const RelationRows& rows);
 
+/// Whether a relation has nothing to say: one without rows, or one whose rows are all empty.
+inline bool isAbsent(const vxdatacarrier::AdjacencyRecord& relation)
+{
+    return relation.m_numValues == 0;
+}
+
 /// The rows of a relation; empty for an absent one.
 RelationRows rowsOf(const vxdatacarrier::AdjacencyRecord& relation);
 

@@ -90,8 +90,8 @@ public:
         }
     }
 
-    /// Corner i of 8: 0 to 3 go around the low z face from the minimum corner. On the high z face, 4 is above 1, 5 above
-    /// 0, 6 above 2 and 7 above 3. Any other i gives (0, 0, 0).
+    /// Corner i of 8: 0 to 3 go around the low z face from the minimum corner. On the high z face, 4 is above 1, 5
+    /// above 0, 6 above 2 and 7 above 3. Any other i gives (0, 0, 0).
     Vector3f getVertex(int i) const;
     /// The sum of the three edge lengths.
     float getL1Norm() const { return 2.0f * (m_halfSize.x + m_halfSize.y + m_halfSize.z); }

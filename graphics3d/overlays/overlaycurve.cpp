@@ -22,8 +22,7 @@ std::optional<OverlayCurve::ControlPoint> OverlayCurve::findControlPoint(int id)
         return std::nullopt;
     }
     const ControlPoint point = m_controlPoints[static_cast<std::size_t>(id)];
-    // The control point may have another id by now.
-    return getControlPointId(point.first, point.second) == id ? std::optional(point) : std::nullopt;
+    return point == c_noControlPoint ? std::nullopt : std::optional(point);
 }
 
 int OverlayCurve::getControlPointId(int edge, int index) const
@@ -42,9 +41,13 @@ void OverlayCurve::clearMarkings()
 int OverlayCurve::takeControlPointId(int edge, int index)
 {
     const ControlPoint point(edge, index);
-    m_controlPoints.resize(static_cast<std::size_t>(m_nextControlPointId) + 1, point);
+    m_controlPoints.resize(static_cast<std::size_t>(m_nextControlPointId) + 1);
+    const auto [entry, isNew] = m_controlPointIds.try_emplace(point, m_nextControlPointId);
+    if (!isNew) {
+        m_controlPoints[static_cast<std::size_t>(entry->second)] = c_noControlPoint;
+        entry->second = m_nextControlPointId;
+    }
     m_controlPoints.back() = point;
-    m_controlPointIds[point] = m_nextControlPointId;
     return m_nextControlPointId++;
 }
 

@@ -78,6 +78,8 @@ protected:
     void markEdge(int edge, int startVertex, int endVertex, bool on);
 
 private:
+    static constexpr ControlPoint c_noControlPoint{-1, -1};
+
     static void setMark(std::set<int>& marks, int number, bool on);
 
     std::set<int> m_markedPoints;
@@ -90,7 +92,7 @@ private:
     bool m_displayVertexNumbers = false;
     int m_nextControlPointId = 0;
     std::map<ControlPoint, int> m_controlPointIds;
-    /// The control points by id, so that an id is found without a search.
+    /// The control points by id, so that an id is found without a search; none for an id that is no longer in use.
     std::vector<ControlPoint> m_controlPoints;
 };
 

@@ -10,7 +10,7 @@ namespace {
 
 /// A curve of a higher degree is not drawn; one more control point than that is accepted.
 constexpr std::size_t c_maxControlPoints = 5;
-constexpr int c_numCurveVertices = 20;
+constexpr std::size_t c_numCurveVertices = 20;
 
 static_assert(sizeof(Vector3f) == 3 * sizeof(float), "renderers read polylines as floats");
 
@@ -164,9 +164,10 @@ void OverlayDrawCurve::updateRenderData(int edge)
     } else if (numPoints == 3 || numPoints == 4) {
         const Vector3f c1 = source.controlPoints[1].toVector();
         const Vector3f c2 = source.controlPoints[2].toVector();
-        for (int i = 0; i < c_numCurveVertices; ++i) {
+        vertices.resize(c_numCurveVertices);
+        for (std::size_t i = 0; i < c_numCurveVertices; ++i) {
             const float t = static_cast<float>(i) / static_cast<float>(c_numCurveVertices - 1);
-            vertices.push_back(numPoints == 3 ? quadraticPoint(start, c1, end, t) : cubicPoint(start, c1, c2, end, t));
+            vertices[i] = numPoints == 3 ? quadraticPoint(start, c1, end, t) : cubicPoint(start, c1, c2, end, t);
         }
     }
 }

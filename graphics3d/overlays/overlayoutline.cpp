@@ -12,12 +12,26 @@
 namespace vxgraphics3d {
 namespace {
 
-void appendPolyline(std::vector<Vector3f>& lines, const float* xyz, int count)
+std::size_t countLineEnds(int numVertices)
+{
+    return numVertices < 2 ? 0 : 2 * static_cast<std::size_t>(numVertices - 1);
+}
+
+/// Writes the lines of a polyline of three floats per vertex, and returns the end of what it has written.
+Vector3f* writePolyline(Vector3f* lines, const float* xyz, int count)
 {
     for (int i = 1; i < count; ++i, xyz += 3) {
-        lines.emplace_back(xyz[0], xyz[1], xyz[2]);
-        lines.emplace_back(xyz[3], xyz[4], xyz[5]);
+        *lines++ = {xyz[0], xyz[1], xyz[2]};
+        *lines++ = {xyz[3], xyz[4], xyz[5]};
     }
+    return lines;
+}
+
+void appendPolyline(std::vector<Vector3f>& lines, const float* xyz, int count)
+{
+    const std::size_t first = lines.size();
+    lines.resize(first + countLineEnds(count));
+    writePolyline(lines.data() + first, xyz, count);
 }
 
 std::vector<Vector3f> linesAround(const std::array<Vector3f, 4>& corners)
@@ -32,6 +46,19 @@ void appendEdge(std::vector<Vector3f>& lines, const OverlayCurve& curve, int edg
     int count = 0;
     const float* xyz = curve.getRenderVertices(count, edge);
     appendPolyline(lines, xyz, count);
+}
+
+std::size_t countLineEnds(const OverlayCurve& curve)
+{
+    std::size_t numEnds = 0;
+    for (int edge = 0; edge < curve.getNEdges(); ++edge) {
+        if (curve.isEdgeRendered(edge)) {
+            int count = 0;
+            curve.getRenderVertices(count, edge);
+            numEnds += countLineEnds(count);
+        }
+    }
+    return numEnds;
 }
 
 ControlPointRange shownControlPoints(const OverlayCurve& curve, int edge)
@@ -77,9 +104,13 @@ std::vector<Vector3f> outlineOf(const OverlayObject& object)
     case OverlayObject::TypeRenderEdit:
     case OverlayObject::TypeDrawCurve: {
         const auto& curve = static_cast<const OverlayCurve&>(object);
+        lines.resize(countLineEnds(curve));
+        Vector3f* line = lines.data();
         for (int edge = 0; edge < curve.getNEdges(); ++edge) {
             if (curve.isEdgeRendered(edge)) {
-                appendEdge(lines, curve, edge);
+                int count = 0;
+                const float* xyz = curve.getRenderVertices(count, edge);
+                line = writePolyline(line, xyz, count);
             }
         }
         break;

@@ -3,6 +3,7 @@
 #include "base/export.h"
 #include "graphics3d/foundation/vector3f.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -17,6 +18,9 @@ VX_API std::vector<Vector3f> outlineOf(const OverlayObject& object);
 
 /// Appends the lines of one edge of a curve.
 VX_API void appendEdge(std::vector<Vector3f>& lines, const OverlayCurve& curve, int edge);
+
+/// The number of points in the outline of a curve.
+VX_API std::size_t countLineEnds(const OverlayCurve& curve);
 
 /// The control points of an edge by which it is changed, as a range of indices. Without those that have no influence on
 /// it: the first and the last one of an edge that begins and ends at its vertices.

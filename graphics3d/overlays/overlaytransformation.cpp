@@ -45,9 +45,9 @@ void OverlayTransformation::getTransformedHandlePos(int handle, std::vector<doub
     if (out.size() < 3) {
         throw std::invalid_argument("The position of a handle needs an array of 3 elements.");
     }
-    out[0] = position.x;
-    out[1] = position.y;
-    out[2] = position.z;
+    out[0] = static_cast<double>(position.x);
+    out[1] = static_cast<double>(position.y);
+    out[2] = static_cast<double>(position.z);
 }
 
 const float* OverlayTransformation::getVertices(const BoundingBox& box, int& count) const

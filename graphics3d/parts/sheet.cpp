@@ -26,7 +26,9 @@ constexpr float c_widestAngle = 2.0943952f;
 struct Vector3d {
     double x, y, z;
 
-    explicit Vector3d(const Vector3f& v) : x(v.x), y(v.y), z(v.z) {}
+    explicit Vector3d(const Vector3f& v)
+        : x(static_cast<double>(v.x)), y(static_cast<double>(v.y)), z(static_cast<double>(v.z))
+    {}
     Vector3d(double ax, double ay, double az) : x(ax), y(ay), z(az) {}
     Vector3d operator-(const Vector3d& other) const { return {x - other.x, y - other.y, z - other.z}; }
     double dot(const Vector3d& other) const { return x * other.x + y * other.y + z * other.z; }

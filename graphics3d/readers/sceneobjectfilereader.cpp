@@ -223,10 +223,11 @@ bool SceneObjectFileReader::readPlainRows(RenderDraw3D& record, ReadState state)
         while (const int numRows = m_file.nextPlainReals(values, 3, c_maxRows)) {
             const int firstRow = m_file.rowNumber() - numRows + 1;
             for (int i = 0; i < numRows; ++i) {
-                const double* at = values + 3 * i;
-                if (!takeCoordinate({at[0], at[1], at[2]}, firstRow + i)) {
+                if (!isCoordinateExpected(firstRow + i)) {
                     return false;
                 }
+                const double* at = values + 3 * i;
+                takeCoordinate({at[0], at[1], at[2]});
             }
         }
     } else {
@@ -244,7 +245,11 @@ bool SceneObjectFileReader::readRow(RenderDraw3D& record, ReadState state, const
 {
     if (state == coordinates) {
         Vector3f position;
-        return getVector3f(position, row, m_file.rowNumber()) && takeCoordinate(position, m_file.rowNumber());
+        if (!isCoordinateExpected(m_file.rowNumber()) || !getVector3f(position, row, m_file.rowNumber())) {
+            return false;
+        }
+        takeCoordinate(position);
+        return true;
     }
     int indices[4];
     return getIndices(indices, c_numIndices[state], row, m_file.rowNumber()) && takeRows(record, state, indices, 1);
@@ -278,19 +283,23 @@ bool SceneObjectFileReader::takeRows(RenderDraw3D& record, ReadState state, cons
     }
 }
 
-bool SceneObjectFileReader::takeCoordinate(const Vector3f& position, int rowNumber)
+bool SceneObjectFileReader::isCoordinateExpected(int rowNumber) const
 {
-    if (m_numCoordinates == m_counts[coordinates]) {
-        keepReason(rowNumber, "More coordinates than counted at row %d", rowNumber);
-        return false;
+    if (m_numCoordinates < m_counts[coordinates]) {
+        return true;
     }
+    keepReason(rowNumber, "More coordinates than counted at row %d", rowNumber);
+    return false;
+}
+
+void SceneObjectFileReader::takeCoordinate(const Vector3f& position)
+{
     Vector3f& taken = m_coordinates[static_cast<std::size_t>(m_numCoordinates)].position;
     taken = position + m_offset;
     m_limits[0].widen(taken.x);
     m_limits[1].widen(taken.y);
     m_limits[2].widen(taken.z);
     ++m_numCoordinates;
-    return true;
 }
 
 bool SceneObjectFileReader::takeTriangle(RenderDraw3D& record, Row row)

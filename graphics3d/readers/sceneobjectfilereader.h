@@ -71,7 +71,8 @@ private:
     bool readPlainRows(vxdatacarrier::RenderDraw3D& record, ReadState state);
     bool readRow(vxdatacarrier::RenderDraw3D& record, ReadState state, const char* row);
     bool takeRows(vxdatacarrier::RenderDraw3D& record, ReadState state, const int* indices, int numRows);
-    bool takeCoordinate(const Vector3f& position, int rowNumber);
+    bool isCoordinateExpected(int rowNumber) const;
+    void takeCoordinate(const Vector3f& position);
     bool takeTriangle(vxdatacarrier::RenderDraw3D& record, Row row);
     bool takeSegment(vxdatacarrier::RenderDraw3D& record, Row row);
     bool takeVertex(vxdatacarrier::RenderDraw3D& record, Row row);

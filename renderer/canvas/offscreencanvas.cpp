@@ -9,12 +9,13 @@
 #include "graphics3d/overlays/overlay.h"
 #include "graphics3d/picking/canvaspicksettings.h"
 #include "graphics3d/scene/scene.h"
-#include "graphics3d/scenegraph/scenegraphnode.h"
+#include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/settings/contextdata.h"
 #include "renderer/canvas/glrendererinfo.h"
 #include "renderer/canvas/pngencoder.h"
 #include "renderer/gl/target.h"
+#include "renderer/scene/sceneitems.h"
 #include "renderer/scene/scenerenderer.h"
 
 #include <boost/make_shared.hpp>
@@ -248,7 +249,7 @@ void OffscreenCanvas::setMarkingMode(MarkingSetups::MarkingMode mode)
 void OffscreenCanvas::zoomExtents()
 {
     dropDisposedScene();
-    if (!m_sceneView) {
+    if (!m_sceneView || collectItems(*m_sceneView->getScene()->getRoot()).empty()) {
         return;
     }
     const Appearance look = appearance();
@@ -294,15 +295,20 @@ std::size_t OffscreenCanvas::imageSize() const
     return bytesOf(*m_target);
 }
 
+void OffscreenCanvas::requireImage() const
+{
+    if (m_drawnTarget == nullptr) {
+        throw std::logic_error("There is no image: nothing was drawn since the size was given.");
+    }
+}
+
 void OffscreenCanvas::readImage(std::uint8_t* pixels, std::size_t numBytes) const
 {
     if (numBytes != imageSize()) {
         throw std::invalid_argument("The image takes " + std::to_string(imageSize()) + " bytes, not " +
                                     std::to_string(numBytes) + ".");
     }
-    if (m_drawnTarget == nullptr) {
-        throw std::logic_error("There is no image: nothing was drawn since the size was given.");
-    }
+    requireImage();
     const EglContext::Current current(m_context);
     m_drawnTarget->read(pixels);
     requireNoFault();
@@ -313,6 +319,16 @@ std::vector<std::uint8_t> OffscreenCanvas::encodePng() const
     std::vector<std::uint8_t> pixels(imageSize());
     readImage(pixels.data(), pixels.size());
     return vxrenderer::encodePng(pixels.data(), getWidth(), getHeight(), {});
+}
+
+void OffscreenCanvas::keepVisible(PickedObjectCollection& picked)
+{
+    dropDisposedScene();
+    requireImage();
+    const EglContext::Current current(m_context);
+    const Appearance look = appearance();
+    m_renderer->keepShown(picked, frameOf(camera(), look), m_view, *m_drawnTarget);
+    requireNoFault();
 }
 
 std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings& settings, int width, int height)

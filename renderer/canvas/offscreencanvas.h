@@ -22,6 +22,7 @@ namespace vxgraphics3d {
 class BoundingBox;
 class HardcopySettings;
 class ICameraTransforms;
+class PickedObjectCollection;
 class Overlay;
 class Scene;
 class SceneGraphNode;
@@ -109,6 +110,15 @@ public:
     /// @throws std::logic_error if nothing was drawn since the canvas was made or resized
     std::vector<std::uint8_t> encodePng() const;
 
+    /// Removes from the results of a pick the parts and objects that the picture drawn last does not show: those that are
+    /// completely behind others or outside of the view, and lines of which less than a quarter shows. Results of other
+    /// kinds stay. The order stays as it is. The scene must not have been changed since the picture was drawn.
+    ///
+    /// Nothing is hidden by what is translucent. In a 2D view, where everything has the same depth, and where the scene
+    /// is translucent, only what is outside of the view is removed.
+    /// @throws std::logic_error if nothing was drawn since the canvas was made or resized
+    void keepVisible(vxgraphics3d::PickedObjectCollection& picked);
+
     /// Draws the view at another size as the settings of the export ask, and gives the bytes of an image file. The view
     /// itself stays as it is.
     /// @throws std::invalid_argument for a size below 1 or beyond what the driver allows
@@ -129,6 +139,7 @@ private:
     Appearance appearance() const;
     void dropDisposedScene();
     int wantedSamples() const;
+    void requireImage() const;
     void makeTarget(int width, int height);
     const Target& draftTarget();
 

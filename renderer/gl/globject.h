@@ -51,6 +51,15 @@ inline void deleteRenderbuffer(GLuint name)
     glDeleteRenderbuffers(1, &name);
 }
 
+inline void makeQuery(GLuint* name)
+{
+    glGenQueries(1, name);
+}
+inline void deleteQuery(GLuint name)
+{
+    glDeleteQueries(1, &name);
+}
+
 } // namespace detail
 
 /// Owner of one object of the graphics interface. It is made and destroyed while the context is current.
@@ -87,6 +96,7 @@ using GlBuffer = GlObject<detail::makeBuffer, detail::deleteBuffer>;
 using GlVertexArray = GlObject<detail::makeVertexArray, detail::deleteVertexArray>;
 using GlTexture = GlObject<detail::makeTexture, detail::deleteTexture>;
 using GlFramebuffer = GlObject<detail::makeFramebuffer, detail::deleteFramebuffer>;
+using GlQuery = GlObject<detail::makeQuery, detail::deleteQuery>;
 using GlRenderbuffer = GlObject<detail::makeRenderbuffer, detail::deleteRenderbuffer>;
 
 } // namespace vxrenderer

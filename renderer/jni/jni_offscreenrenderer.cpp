@@ -3,6 +3,8 @@
 #include "base/java/peerhandle.h"
 #include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/overlays/overlay.h"
+#include "graphics3d/parts/markingsetups.h"
+#include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphnode.h"
 #include "renderer/canvas/glrendererinfo.h"
@@ -17,7 +19,9 @@ using namespace vxbase;
 using namespace vxrenderer;
 using vxgraphics3d::HardcopySettings;
 using vxgraphics3d::IRendererCanvas;
+using vxgraphics3d::MarkingSetups;
 using vxgraphics3d::Overlay;
+using vxgraphics3d::PickedObjectCollection;
 using vxgraphics3d::Scene;
 using vxgraphics3d::SceneGraphNode;
 
@@ -79,9 +83,24 @@ VX_NATIVE(void, OffscreenRenderer, zoomExtents)(JNIEnv* env, jclass, jobject sel
     guarded(env, [&] { canvas(env, self).zoomExtents(); });
 }
 
+VX_NATIVE(void, OffscreenRenderer, setMarkingMode)(JNIEnv* env, jclass, jobject self, jint mode)
+{
+    // Java counts modes from 1.
+    guarded(env, [&] { canvas(env, self).setMarkingMode(static_cast<MarkingSetups::MarkingMode>(mode - 1)); });
+}
+
 VX_NATIVE(void, OffscreenRenderer, resize)(JNIEnv* env, jclass, jobject self, jint width, jint height)
 {
     guarded(env, [&] { canvas(env, self).resize(width, height); });
+}
+
+VX_NATIVE(jint, OffscreenRenderer, keepVisible)(JNIEnv* env, jclass, jobject self, jobject picked)
+{
+    return guarded(env, [&] {
+        auto& results = peer<PickedObjectCollection>(env, picked, "picked");
+        canvas(env, self).keepVisible(results);
+        return results.getNumberOfPickedObjects();
+    });
 }
 
 VX_NATIVE(jint, OffscreenRenderer, getWidth)(JNIEnv* env, jclass, jobject self)
@@ -144,11 +163,13 @@ VX_NATIVE(jstring, OffscreenRenderer, describeDriver)(JNIEnv* env, jclass, jobje
 VX_NATIVE(void, OffscreenRenderer, getUploadCounts)(JNIEnv* env, jclass, jobject self, jintArray out)
 {
     guarded(env, [&] {
-        jintArrayRH::atLeast(env, out, 3);
+        jintArrayRH::atLeast(env, out, 5);
         const UploadCounts& counts = canvas(env, self).getUploadCounts();
         const jintArrayRH holder(env, out);
         holder.get()[0] = counts.meshes;
         holder.get()[1] = counts.colorTables;
         holder.get()[2] = counts.glyphPictures;
+        holder.get()[3] = counts.partTables;
+        holder.get()[4] = counts.images;
     });
 }

@@ -7,8 +7,8 @@
 
 namespace vxrenderer {
 
-/// Adds the two lines of an arrow head that lies in the plane of the picture. All are in the eye's coordinates. An arrow
-/// that points at the eye has no head.
+/// Adds the two lines of an arrow head that lies in the plane of the picture. All are in the eye's coordinates. An
+/// arrow that points at the eye has no head.
 inline void addArrowHead(std::vector<LineSegment>& segments, const vxgraphics3d::Vector3f& tip,
                          const vxgraphics3d::Vector3f& direction, float length)
 {

@@ -2,10 +2,10 @@
 
 #include "renderer/objects/ballboxpainter.h"
 #include "renderer/objects/drawobjectpainter.h"
+#include "renderer/objects/physicspainter.h"
 #include "renderer/objects/probepainter.h"
 #include "renderer/objects/projectionpainter.h"
 #include "renderer/objects/workplanepainter.h"
-#include "renderer/objects/physicspainter.h"
 
 namespace vxrenderer {
 

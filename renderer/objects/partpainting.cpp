@@ -16,6 +16,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 
 namespace vxrenderer {
 namespace {
@@ -66,6 +67,16 @@ RangesByImage rangesByImage(const SheetCollection& sheets, const PartPainting::I
     return ranges;
 }
 
+/// Adds the segments of a line, with its number as texture coordinate.
+void addPieces(const Line& line, int index, std::vector<LineMesh::Piece>& pieces)
+{
+    const VertexBufferCoords& vertices = line.getVertices();
+    const auto number = static_cast<float>(index);
+    for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
+        pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
+    }
+}
+
 } // namespace
 
 std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
@@ -73,11 +84,7 @@ std::vector<LineMesh::Piece> piecesOf(const LineCollection& lines)
     std::vector<LineMesh::Piece> pieces;
     pieces.reserve(static_cast<std::size_t>(lines.getNumVertices() / 2));
     for (int i = 0; i < lines.getNumParts(); ++i) {
-        const VertexBufferCoords& vertices = lines.getPart(i).getVertices();
-        const auto number = static_cast<float>(i);
-        for (int v = 0; v + 1 < vertices.getNumberOfVertices(); v += 2) {
-            pieces.push_back({vertices.getCoord(v), vertices.getCoord(v + 1), number, number});
-        }
+        addPieces(lines.getPart(i), i, pieces);
     }
     return pieces;
 }
@@ -143,6 +150,15 @@ PartRows PartPainting::lineRows(const std::optional<Color>& color) const
     return rowsOf(
         [](const Marking& row) {
             return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)};
+        },
+        color);
+}
+
+PartRows PartPainting::pointRows(const std::optional<Color>& color) const
+{
+    return rowsOf(
+        [](const Marking& row) {
+            return Style{row.getPointColor(), std::max(row.getPointSize(), 1.0f)};
         },
         color);
 }
@@ -224,11 +240,7 @@ void PartPainting::drawLines(const LineCollection& lines, int changeId, const st
     if (lines.getNumVertices() > 0) {
         const LineMesh* pieces =
             m_context.uploads.lines(m_object, UploadLines, changeId, [&] { return piecesOf(lines); });
-        const PartRows rows = rowsOf(
-            [](const Marking& row) {
-                return Style{row.getLineColor(), std::max(row.getLineWidth(), 1.0f)};
-            },
-            color);
+        const PartRows rows = lineRows(color);
         m_context.drawLines(pieces, {tableOf(UploadLines, lines), rows}, m_look);
     }
 }
@@ -238,12 +250,45 @@ void PartPainting::drawPoints(const PointCollection& points, int changeId, const
     if (points.getNumParts() > 0) {
         const InstanceBuffer* positions =
             m_context.uploads.instances(m_object, UploadPoints, changeId, [&] { return instancesOf(points); });
-        const PartRows rows = rowsOf(
-            [](const Marking& row) {
-                return Style{row.getPointColor(), std::max(row.getPointSize(), 1.0f)};
-            },
-            color);
+        const PartRows rows = pointRows(color);
         m_context.drawSymbols(positions, {tableOf(UploadPoints, points), rows}, RenderSymbol::circle, m_look);
+    }
+}
+
+void PartPainting::drawOne(const ObjectParts& parts, int level, int index) const
+{
+    PartTable table;
+    const auto setRow = [&](const SelectablePart& part) {
+        const auto row = static_cast<std::uint8_t>(MarkingModeSetup::getMarkingType(part.getDisplayFlags()));
+        table.set({&row, 1});
+    };
+    if (level == PartSolid) {
+        for (const int sheet : parts.getAdjacents(PartSolid, PartSheet).of(index)) {
+            drawOne(parts, PartSheet, sheet);
+        }
+    } else if (level == PartSheet) {
+        const Sheet& sheet = parts.getSheets().getPart(index);
+        const MeshPart part = {sheet.getVertices(), sheet.getTriangles()};
+        Mesh mesh;
+        mesh.load({&part, 1});
+        setRow(sheet);
+        const PartRange all = {0, 1};
+        m_context.drawMesh(&mesh, {table, faceRows(), {&all, 1}}, m_look);
+    } else if (level == PartLine) {
+        const Line& line = parts.getLines().getPart(index);
+        std::vector<LineMesh::Piece> pieces;
+        addPieces(line, 0, pieces);
+        LineMesh mesh;
+        mesh.load(std::move(pieces));
+        setRow(line);
+        m_context.drawLines(&mesh, {table, lineRows()}, m_look);
+    } else if (level == PartPoint) {
+        const Point& point = parts.getPoints().getPart(index);
+        const Instance instance = {.position = point.getPosition(), .axis = {}, .u = 0.0f};
+        InstanceBuffer position;
+        position.load({&instance, 1});
+        setRow(point);
+        m_context.drawSymbols(&position, {table, pointRows()}, RenderSymbol::circle, m_look);
     }
 }
 

@@ -60,6 +60,8 @@ public:
     /// the row of its marks without the mesh.
     void drawMeshes(const vxgraphics3d::MeshableSheetCollection& sheets,
                     const vxgraphics3d::MeshableLineCollection& lines, int changeId) const;
+    /// Draws a single part, as if it were drawn with all parts of its kind; a subdomain by its sheets.
+    void drawOne(const vxgraphics3d::ObjectParts& parts, int level, int index) const;
     /// Arrow heads on lines that have a direction, in the colours of the lines.
     void drawDirections(const vxgraphics3d::LineCollection& lines) const;
 
@@ -83,8 +85,9 @@ private:
     using StyleOf = std::function<Style(const vxgraphics3d::Marking& row)>;
 
     PartRows rowsOf(const StyleOf& styleOf, const std::optional<vxgraphics3d::Color>& color) const;
-    PartRows faceRows(const std::optional<vxgraphics3d::Color>& color) const;
-    PartRows lineRows(const std::optional<vxgraphics3d::Color>& color) const;
+    PartRows faceRows(const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
+    PartRows lineRows(const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
+    PartRows pointRows(const std::optional<vxgraphics3d::Color>& color = std::nullopt) const;
     int rankOf(int layer) const;
     template <class Parts>
     const PartTable& tableOf(int number, const Parts& parts) const;

@@ -78,7 +78,8 @@ void drawMarkers(const SceneGraphPhysicsObject& object, const PaintContext& cont
             float number = 0.0f;
             for (auto marker = first; marker != markers.upper_bound(first->first); ++marker, ++number) {
                 addDirections(*marker->second, context, lines);
-                context.drawIcon({marker->second->getPosition(), marker->second->getImage(),number - 0.5f * (count - 1.0f), over});
+                context.drawIcon(
+                    {marker->second->getPosition(), marker->second->getImage(), number - 0.5f * (count - 1.0f), over});
             }
         }
     }

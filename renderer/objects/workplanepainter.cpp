@@ -60,12 +60,18 @@ struct Arrows {
         const float length = arrow.length();
         if (length > 0.0f) {
             const Vector3f head = arrow * (std::min(headLength, c_longestHead * length) / length);
-            // The line ends in the head, over whose tip it would reach.
-            pieces.push_back({from, to - head * 0.5f});
+            // The line ends at the head, since lines are seen on faces around them.
+            pieces.push_back({from, to - head});
             addHead(to, head);
         }
     }
-    void addHead(const Vector3f& tip, const Vector3f& head) { heads.push_back({tip - head, head, 0.0f}); }
+    /// A head of some length; none is added for an arrow without direction.
+    void addHead(const Vector3f& tip, const Vector3f& head)
+    {
+        if (head.lengthSquared() > 0.0f) {
+            heads.push_back({tip - head, head, 0.0f});
+        }
+    }
 };
 
 /// An arrow to each height, from the disc.
@@ -84,13 +90,17 @@ Arrows revolutionOf(const WorkPlane& plane)
     const auto offsets = plane.getOffsets();
     const Vector3f axis = offsets[0];
     const Vector3f start = offsets[3];
-    const float headLength = c_headLength * plane.getSize();
+    const float length = offsets.back().x;
+    const float turnHead = c_headLength * plane.getSize();
+    const float axisHead = std::min(turnHead, c_longestHead * length);
     Arrows arrows;
     for (const Vector3f& dash : offsets.subspan(4)) {
-        arrows.pieces.push_back({start + axis * (dash.x - dash.y), start + axis * dash.x});
+        const float end = std::min(dash.x, length - axisHead);
+        if (dash.x - dash.y < end) {
+            arrows.pieces.push_back({start + axis * (dash.x - dash.y), start + axis * end});
+        }
     }
-    const float length = offsets.back().x;
-    arrows.addHead(start + axis * length, axis * std::min(headLength, c_longestHead * length));
+    arrows.addHead(start + axis * length, axis * axisHead);
 
     const Vector3f middle = start + axis * (0.5f * length);
     const float radius = c_turnRadius * plane.getSize();
@@ -103,8 +113,8 @@ Arrows revolutionOf(const WorkPlane& plane)
             {around(static_cast<float>(i) / c_numTurnPieces), around(static_cast<float>(i + 1) / c_numTurnPieces)});
     }
     // A straight head on a circle points a little inwards, so that its middle lies on the circle.
-    const float lean = 0.5f * headLength / (2.0f * std::numbers::pi_v<float> * c_turn * radius);
-    const Vector3f along = (around(1.0f + lean) - around(1.0f - lean)).normalized() * headLength;
+    const float lean = 0.5f * turnHead / (2.0f * std::numbers::pi_v<float> * c_turn * radius);
+    const Vector3f along = (around(1.0f + lean) - around(1.0f - lean)).normalized() * turnHead;
     arrows.addHead(around(1.0f) + along, along);
     return arrows;
 }

@@ -10,6 +10,7 @@ using vxgraphics3d::Vector3f;
 
 CurveShape::CurveShape(const OverlayCurve& curve)
 {
+    lines.reserve(countLineEnds(curve));
     for (int edge = 0; edge < curve.getNEdges(); ++edge) {
         if (curve.isEdgeRendered(edge)) {
             addEdge(curve, edge);

@@ -103,9 +103,11 @@ BoundingBox boxInSpace(const SceneGraphRoot& root, const std::vector<SceneItem>&
     return box;
 }
 
-bool hasMoreThanGraphs(const std::vector<SceneItem>& items)
+bool hasPlotsBesidesGraphs(const std::vector<SceneItem>& items)
 {
-    return std::ranges::any_of(items, [](const SceneItem& item) { return graphOf(item) == nullptr; });
+    return std::ranges::any_of(items, [](const SceneItem& item) {
+        return std::holds_alternative<PlotItem>(item) && graphOf(item) == nullptr;
+    });
 }
 
 vxgraphics3d::Vector3f centerOf(const SceneItem& item)

@@ -29,8 +29,8 @@ vxgraphics3d::BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes
 /// The box of a scene in space: that of its tree, and of the items whose nodes have none.
 vxgraphics3d::BoundingBox boxInSpace(const vxgraphics3d::SceneGraphRoot& root, const std::vector<SceneItem>& items);
 
-/// Whether there is something other than graphs.
-bool hasMoreThanGraphs(const std::vector<SceneItem>& items);
+/// Whether there is a plot that is not a graph, and may cover the grid.
+bool hasPlotsBesidesGraphs(const std::vector<SceneItem>& items);
 
 /// The middle of the box of an item.
 vxgraphics3d::Vector3f centerOf(const SceneItem& item);

@@ -5,6 +5,7 @@
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/boundingbox.h"
 #include "graphics3d/parts/markingsetups.h"
+#include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/scene/scene.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
@@ -13,9 +14,11 @@
 #include "renderer/decoration/triadpainter.h"
 #include "renderer/frame/lighting.h"
 #include "renderer/gl/target.h"
+#include "renderer/objects/visibleparts.h"
 #include "renderer/paint/paintcontext.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <span>
 #include <utility>
@@ -120,8 +123,8 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     std::vector<SceneIcon> icons;
     std::vector<SceneLabel> labels;
     drawData(frame, layout, icons, labels);
-    // Lines hide nothing, and are not to be crossed by the grid.
-    if (axes != nullptr && hasMoreThanGraphs(layout.items)) {
+    // Lines of graphs and the geometry of objects are not to be crossed by the grid.
+    if (axes != nullptr && hasPlotsBesidesGraphs(layout.items)) {
         setBlending(true);
         axes->drawOver(m_lines);
         setBlending(false);
@@ -310,6 +313,43 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         triad->drawLetters(m_overlay, layout.orientationFonts);
     }
     dropUnused();
+}
+
+void SceneRenderer::keepShown(PickedObjectCollection& picked, const Frame& frame, const View& view,
+                              const Target& target)
+{
+    std::vector<PickedObject> results;
+    for (int i = 0; i < picked.getNumberOfPickedObjects(); ++i) {
+        results.push_back(picked.getPickedObject(i));
+    }
+    const bool areObjectsShown = frame.scene != nullptr && !view.area.isEmpty() && frame.appearance.opacity > 0.0f &&
+                                 (frame.canvas.getRenderMask() & RenderObjects) != 0;
+    std::vector<bool> shown(results.size(), areObjectsShown);
+    if (areObjectsShown) {
+        std::vector<ObjectItem> objects;
+        for (const SceneItem& item : collectItems(*frame.scene->getRoot())) {
+            if (const auto* object = std::get_if<ObjectItem>(&item)) {
+                objects.push_back(*object);
+            }
+        }
+        const PixelArea& area = view.area;
+        target.bindScene();
+        glViewport(area.x, target.getHeight() - area.y - area.height, area.width, area.height);
+        // With the light of the picture, since that decides about the shaders, and so about the last bits of depths.
+        m_meshes.begin(view,
+                       Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
+        std::vector<SceneIcon> icons;
+        std::vector<SceneLabel> labels;
+        shown = findShown(results, objects,
+                          {view, 1.0f, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance), m_uploads,
+                           m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
+    }
+    picked.reset();
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        if (shown[i]) {
+            picked.add(results[i]);
+        }
+    }
 }
 
 } // namespace vxrenderer

@@ -23,8 +23,9 @@
 #include <vector>
 
 namespace vxgraphics3d {
+class PickedObjectCollection;
 class SceneGraphNode;
-}
+} // namespace vxgraphics3d
 
 namespace vxrenderer {
 
@@ -49,6 +50,12 @@ public:
     /// Draws a frame. Without a scene only the background is drawn.
     /// @param layout of this frame, for the size of the target
     void draw(const Frame& frame, const FrameLayout& layout, const Target& target);
+
+    /// Removes from the results of a pick the parts and objects that the picture drawn last into a target does not show,
+    /// see `findShown`. The scene must not have been changed since.
+    /// @param view of that picture
+    void keepShown(vxgraphics3d::PickedObjectCollection& picked, const Frame& frame, const View& view,
+                   const Target& target);
 
     const UploadCounts& getUploadCounts() const { return m_counts; }
     /// The view of the frame drawn last.

@@ -66,7 +66,8 @@ GeometryParts randomParts(unsigned seed)
         parts.sheets.push_back(std::move(sheet));
         std::vector<int> lines;
         for (int line = 0; line < numCurves; ++line) {
-            if (random.integer(0, 1) == 0) {
+            // At least one, so that the relation is not absent.
+            if (line == 0 || random.integer(0, 1) == 0) {
                 lines.push_back(line);
             }
         }

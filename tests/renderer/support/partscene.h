@@ -56,13 +56,17 @@ protected:
 
     static constexpr int c_size = 400;
 
-    static vxgraphics3d::MarkingSetups& markings() { return *vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getMarkingSetupsPtr(); }
+    static vxgraphics3d::MarkingSetups& markings()
+    {
+        return *vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getMarkingSetupsPtr();
+    }
     static int rank(int row) { return row % 3; }
     static void setRow(int row, int layer, float lineWidth = 5.0f)
     {
         const auto color = [row](int kind) { return vxgraphics3d::Color::fromRgb(colorOf(row, kind)); };
-        markings().setMarkingSetup(vxgraphics3d::MarkingSetups::MarkingMode1, static_cast<vxgraphics3d::MarkingType>(row), color(0), color(1),
-                                   lineWidth, color(2), 11.0f, vxgraphics3d::Color::fromRgb(0xff00ff), layer);
+        markings().setMarkingSetup(vxgraphics3d::MarkingSetups::MarkingMode1,
+                                   static_cast<vxgraphics3d::MarkingType>(row), color(0), color(1), lineWidth, color(2),
+                                   11.0f, vxgraphics3d::Color::fromRgb(0xff00ff), layer);
     }
 
     template <class Object, class Record = vxdatacarrier::RenderDraw3D>

@@ -2,10 +2,13 @@ package com.vexane.gallery;
 
 import com.vexane.gallery.pictures.ArcTessellation;
 import com.vexane.gallery.pictures.ArrowScalings;
+import com.vexane.gallery.pictures.BallsAndProbes;
 import com.vexane.gallery.pictures.BracketEdges;
+import com.vexane.gallery.pictures.BracketMaterials;
 import com.vexane.gallery.pictures.BracketMesh;
 import com.vexane.gallery.pictures.BracketPath;
 import com.vexane.gallery.pictures.BracketSlices;
+import com.vexane.gallery.pictures.BracketSolid;
 import com.vexane.gallery.pictures.BracketStress;
 import com.vexane.gallery.pictures.CityLabels;
 import com.vexane.gallery.pictures.DashedLines;
@@ -24,6 +27,8 @@ import com.vexane.gallery.pictures.LegendPositions;
 import com.vexane.gallery.pictures.LightsLockedAndFree;
 import com.vexane.gallery.pictures.LocalAxes;
 import com.vexane.gallery.pictures.LogarithmicAxes;
+import com.vexane.gallery.pictures.MarkingModes;
+import com.vexane.gallery.pictures.NumberedPlate;
 import com.vexane.gallery.pictures.OceanIsotherms;
 import com.vexane.gallery.pictures.OceanProfile;
 import com.vexane.gallery.pictures.OceanSlices;
@@ -31,11 +36,14 @@ import com.vexane.gallery.pictures.OverlayShapes;
 import com.vexane.gallery.pictures.PlateWithHole;
 import com.vexane.gallery.pictures.PolarView;
 import com.vexane.gallery.pictures.PrincipalStress;
+import com.vexane.gallery.pictures.ProjectedGeometry;
 import com.vexane.gallery.pictures.RaisedEdges;
 import com.vexane.gallery.pictures.ResizeBehaviours;
 import com.vexane.gallery.pictures.SeaTemperature;
 import com.vexane.gallery.pictures.SeaTemperatureBands;
 import com.vexane.gallery.pictures.SeaTemperatureYear;
+import com.vexane.gallery.pictures.SnapPoints;
+import com.vexane.gallery.pictures.StressInSolid;
 import com.vexane.gallery.pictures.SymbolsAndStyles;
 import com.vexane.gallery.pictures.TerrainColors;
 import com.vexane.gallery.pictures.TerrainContours;
@@ -48,6 +56,7 @@ import com.vexane.gallery.pictures.Vortex;
 import com.vexane.gallery.pictures.WindArrows;
 import com.vexane.gallery.pictures.WindRibbons;
 import com.vexane.gallery.pictures.WindTubes;
+import com.vexane.gallery.pictures.WorkPlanes;
 import com.vexane.graphics3d.Canvas3dGlobalSettings;
 import java.io.IOException;
 import java.nio.file.Files;
@@ -102,6 +111,15 @@ public final class Gallery {
             new SymbolsAndStyles(),
             new LegendPositions(),
             new FrequencyResponse(),
+            new BracketSolid(),
+            new MarkingModes(),
+            new StressInSolid(),
+            new NumberedPlate(),
+            new SnapPoints(),
+            new BracketMaterials(),
+            new WorkPlanes(),
+            new ProjectedGeometry(),
+            new BallsAndProbes(),
             new OverlayShapes(),
             new FrameOverRotatedObject(),
             new DrawnCurves(),

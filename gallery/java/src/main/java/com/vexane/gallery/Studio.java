@@ -7,6 +7,8 @@ import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.DirectionLightSource;
 import com.vexane.graphics3d.GridBoxSettings;
 import com.vexane.graphics3d.Scene;
+import com.vexane.graphics3d.SceneGraphGroup;
+import com.vexane.graphics3d.SceneGraphObject;
 import com.vexane.graphics3d.SceneGraphPlot;
 import com.vexane.graphics3d.SceneGraphPlotGroup;
 import com.vexane.graphics3d.SceneGraphRoot;
@@ -40,6 +42,8 @@ public final class Studio implements AutoCloseable {
     private final Class<? extends Picture> program;
     private final float scale;
     private final OffscreenRenderer renderer;
+    /** Plots and objects; null as long as there are plots only. */
+    private SceneGraphGroup objects;
     private final Scene scene = new Scene();
     private final SceneGraphPlotGroup group = new SceneGraphPlotGroup();
     private final Canvas3dSettings canvas;
@@ -154,6 +158,25 @@ public final class Studio implements AutoCloseable {
      */
     public Studio size(int width, int height) {
         renderer.resize(Math.round(width * scale), Math.round(height * scale));
+        return this;
+    }
+
+    /**
+     * Shows an object, in addition to what is shown before. The scene then has plots and objects side by side, and no
+     * title of plots.
+     *
+     * @param object the object
+     * @return this studio
+     */
+    public Studio show(SceneGraphObject object) {
+        if (objects == null) {
+            objects = new SceneGraphGroup();
+            try (SceneGraphRoot sceneRoot = SceneGraphRoot.connect(scene)) {
+                sceneRoot.setChild(objects);
+            }
+            objects.addChild(group);
+        }
+        objects.addChild(object);
         return this;
     }
 
@@ -359,6 +382,9 @@ public final class Studio implements AutoCloseable {
     public void close() {
         if (!group.isClosed()) {
             group.removeAllPlots();
+        }
+        if (objects != null) {
+            objects.close();
         }
         List.of(lamp, light, settings, axes, grid, camera2d, camera3d, canvas, renderer, group, scene)
                 .forEach(peer -> peer.close());

@@ -5,7 +5,9 @@ import com.vexane.base.NativePeer;
 import com.vexane.graphics3d.Camera3d;
 import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.HardcopySettings;
+import com.vexane.graphics3d.MarkingSetups;
 import com.vexane.graphics3d.Overlay;
+import com.vexane.graphics3d.PickedObjectCollection;
 import com.vexane.graphics3d.RendererInfo;
 import com.vexane.graphics3d.Scene;
 import com.vexane.graphics3d.SceneGraphNode;
@@ -29,12 +31,12 @@ import java.util.Objects;
  *
  * <p>The view owns settings, to which peers connect: {@link Canvas3dSettings#connect Canvas3dSettings} and through them
  * cameras, backgrounds, grid box, axes and fonts; {@link com.vexane.graphics3d.SceneSettings#connect SceneSettings} for
- * title, legends, opacity and light switches while a scene is shown; {@link com.vexane.graphics3d.ContextData#connect
+ * title, legends, labels, markers, opacity and light switches while a scene is shown; {@link com.vexane.graphics3d.ContextData#connect
  * ContextData} for the properties of the drawing context. A new view is white. Sizes of fonts are in points at the
  * resolution of the screen or of the export. The bits of the render mask are the {@code RENDER_} constants.
  *
- * <p>Buffers of the scene are uploaded to the graphics hardware once, and again when their plots are filled again. A
- * picture after a change of legend limits, colours or view uploads nothing. Plots, titles and legends are read while a
+ * <p>Buffers of the scene are uploaded to the graphics hardware once, and again when their plots or objects are filled
+ * again. A picture after a change of legend limits, colours or view uploads nothing; after marks, only a byte per part. Plots, titles and legends are read while a
  * picture is drawn, so another thread must not change the scene meanwhile. Calls may come from any thread, one at
  * a time.
  *
@@ -61,6 +63,9 @@ public final class OffscreenRenderer extends NativePeer {
 
     /** Bit of the render mask: the background; without it, the background is black. */
     public static final int RENDER_BACKGROUND = 0x40;
+
+    /** Bit of the render mask: objects of geometry. */
+    public static final int RENDER_OBJECTS = 0x80;
 
     private static final int BYTES_PER_PIXEL = 4;
 
@@ -154,6 +159,17 @@ public final class OffscreenRenderer extends NativePeer {
      */
     public void setFramedNode(SceneGraphNode node) {
         setFramedNode(this, node == null ? null : requireOpen(node, "node"));
+    }
+
+    /**
+     * Selects the table of {@link MarkingSetups} by which the parts of objects are drawn from the next picture on, at
+     * first {@link MarkingSetups.Mode#FIRST}.
+     *
+     * @param mode the table
+     * @throws NullPointerException if the mode is null
+     */
+    public void setMarkingMode(MarkingSetups.Mode mode) {
+        setMarkingMode(this, mode.number());
     }
 
     /**
@@ -294,6 +310,24 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
+     * Removes from the results of a pick the parts and objects that the last picture drawn does not show: those that are
+     * completely behind others or outside of the view, and lines of which less than a quarter shows. Results of other
+     * kinds stay. The order stays as it is. Call it after {@link #draw()}, before the scene is changed.
+     *
+     * <p>Nothing is hidden by what is translucent. In a 2D view, where everything has the same depth, and where the scene
+     * is translucent, only what is outside of the view is removed.
+     *
+     * @param picked the results
+     * @return the number of results that are left
+     * @throws NullPointerException if the list is null
+     * @throws IllegalStateException if the list is closed
+     * @throws com.vexane.base.NativeException if nothing has been drawn since the size was set
+     */
+    public int keepVisible(PickedObjectCollection picked) {
+        return keepVisible(this, requireOpen(picked, "picked"));
+    }
+
+    /**
      * What the renderer of this process can do, or which of its requirements are not met. The first call may start the
      * graphics driver.
      *
@@ -319,19 +353,21 @@ public final class OffscreenRenderer extends NativePeer {
      * cost}
      */
     public UploadCounts countUploads() {
-        int[] counts = new int[3];
+        int[] counts = new int[5];
         getUploadCounts(this, counts);
-        return new UploadCounts(counts[0], counts[1], counts[2]);
+        return new UploadCounts(counts[0], counts[1], counts[2], counts[3], counts[4]);
     }
 
     /**
      * Uploads since the renderer was made.
      *
-     * @param meshes vertex and index buffers of plots
+     * @param meshes vertex and index buffers of plots and objects
      * @param colorTables textures of colour tables
      * @param glyphPictures pictures of the characters of a font
+     * @param partTables tables with a byte per part of an object, which marks change
+     * @param images images of materials and icons
      */
-    public record UploadCounts(int meshes, int colorTables, int glyphPictures) {}
+    public record UploadCounts(int meshes, int colorTables, int glyphPictures, int partTables, int images) {}
 
     @Override
     protected void cleanup() {
@@ -365,6 +401,8 @@ public final class OffscreenRenderer extends NativePeer {
 
     private static native void zoomExtents(OffscreenRenderer peer);
 
+    private static native void setMarkingMode(OffscreenRenderer peer, int mode);
+
     private static native void resize(OffscreenRenderer peer, int width, int height);
 
     private static native int getWidth(OffscreenRenderer peer);
@@ -374,6 +412,8 @@ public final class OffscreenRenderer extends NativePeer {
     private static native int getSamples(OffscreenRenderer peer);
 
     private static native void draw(OffscreenRenderer peer);
+
+    private static native int keepVisible(OffscreenRenderer peer, PickedObjectCollection picked);
 
     private static native void drawDraft(OffscreenRenderer peer);
 
