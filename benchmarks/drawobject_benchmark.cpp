@@ -247,8 +247,9 @@ void marks(benchmark::State& state, Action action)
     for (auto _ : state) {
         markFaces([&](int face, bool on) { solid->mark(PartSheet, face, action, on); });
     }
+    const std::size_t allocations = numAllocations() - before;
     state.counters["allowed"] = 1.5;
-    state.counters["allocations"] = static_cast<double>(numAllocations() - before);
+    state.counters["allocations"] = static_cast<double>(allocations);
 }
 
 void marksLimit(benchmark::State& state, Action action)

@@ -3,12 +3,15 @@
 #include "graphics3d/geometry/scenegraphdrawobject.h"
 #include "graphics3d/geometry/scenegraphphysicsobject.h"
 #include "graphics3d/picking/canvaspicksettings.h"
+#include "graphics3d/picking/pickedobjectcollection.h"
 #include "graphics3d/scene/scene.h"
 #include "interaction/sceneobjects.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <optional>
+#include <set>
+#include <utility>
 
 namespace vxinteraction {
 namespace {
@@ -40,6 +43,7 @@ public:
 
     void addFrom(const SceneGraphDrawObject& object)
     {
+        m_asked.emplace(false, object.getId());
         if (!isReachable(object.getObjectPart())) {
             return;
         }
@@ -62,6 +66,7 @@ public:
     void addFrom(const SceneGraphPhysicsObject& object)
     {
         const int id = object.getId();
+        m_asked.emplace(true, id);
         const auto add = [&](PartType type, int index, Hit hit) {
             hit.object.setPickedObjectPhysics(id, type, index);
             m_hits.push_back(hit);
@@ -71,6 +76,15 @@ public:
         } else if (m_settings.pickTarget != CanvasPickSettings::PickObject) {
             addPartsOf(object.getParts(), c_allKinds, add);
         }
+    }
+
+    /// Whether a result of the scene is of an object that has been asked here already.
+    bool hasAsked(const PickedObject& object) const
+    {
+        const PickedObject::ObjectType type = object.getObjectType();
+        const bool isPhysics = type == PickedObject::PickedPhysics;
+        return (isPhysics || (type >= PickedObject::PickedSolid && type <= PickedObject::PickedPoint)) &&
+               m_asked.contains({isPhysics, object.getObjectId()});
     }
 
     std::vector<PickedObject> sorted()
@@ -216,6 +230,8 @@ private:
     const SelectionFrustrum& m_frustum;
     const CanvasPickSettings& m_settings;
     std::vector<Hit> m_hits;
+    /// Whether they are physics objects, and their ids.
+    std::set<std::pair<bool, int>> m_asked;
     /// The vertices of the current sheet.
     std::vector<ClickView::Vertex> m_vertices;
 };
@@ -236,7 +252,15 @@ std::vector<PickedObject> pickTouched(const Scene& scene, const ClickView& view,
             pick.addFrom(*physics);
         }
     });
-    return pick.sorted();
+    std::vector<PickedObject> objects = pick.sorted();
+    PickedObjectCollection others;
+    scene.getSelection(frustum, settings, others);
+    for (int i = 0; i < others.getNumberOfPickedObjects(); ++i) {
+        if (!pick.hasAsked(others.getPickedObject(i))) {
+            objects.push_back(others.getPickedObject(i));
+        }
+    }
+    return objects;
 }
 
 } // namespace vxinteraction

@@ -11,10 +11,8 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <set>
 #include <stdexcept>
 #include <string>
-#include <tuple>
 #include <utility>
 
 namespace vxinteraction {
@@ -53,11 +51,6 @@ SelectionFrustrum frustumOf(const ICameraTransforms& camera, const PixelRectangl
     return {camera, pixels.left, pixels.top, pixels.right, pixels.bottom};
 }
 
-auto keyOf(const PickedObject& object)
-{
-    return std::tuple(object.getObjectType(), object.getObjectId(), object.getPartType(), object.getPartId());
-}
-
 } // namespace
 
 PickInteraction::PickInteraction(boost::shared_ptr<const Canvas3dSettings> settings,
@@ -85,20 +78,9 @@ int PickInteraction::click(const Scene& scene, PickedObjectCollection& result, i
     }
     const ICameraTransforms& camera = m_settings->getCameraTransforms();
     const PixelRectangle area = pixelsAround(x, y, x, y, tolerance());
-    const SelectionFrustrum frustum = frustumOf(camera, area);
-    std::set<decltype(keyOf(PickedObject()))> found;
-    for (const PickedObject& object :
-         pickTouched(scene, ClickView(camera, pointer.left, pointer.bottom, area), frustum, *m_pickSettings)) {
+    for (const PickedObject& object : pickTouched(scene, ClickView(camera, pointer.left, pointer.bottom, area),
+                                                  frustumOf(camera, area), *m_pickSettings)) {
         result.add(object);
-        found.insert(keyOf(object));
-    }
-    PickedObjectCollection inside;
-    scene.getSelection(frustum, *m_pickSettings, inside);
-    for (int i = 0; i < inside.getNumberOfPickedObjects(); ++i) {
-        const PickedObject& object = inside.getPickedObject(i);
-        if (!found.contains(keyOf(object))) {
-            result.add(object);
-        }
     }
     return result.getNumberOfPickedObjects();
 }

@@ -81,8 +81,8 @@ public:
     /// plane; each further entry is the vector from the plane to one height.
     ///
     /// Revolution: the direction of the axis, the unit vector at right angles to it in the plane, the normal that
-    /// belongs to both, the start of the axis; then four times the distance of a dash from the start, and the gap
-    /// between dashes.
+    /// belongs to both, the start of the axis; then four dashes, each as the distance of its end from the start, and
+    /// its length. The last one ends where the axis does.
     std::span<const Vector3f> getOffsets() const { return {m_offsets.get(), static_cast<std::size_t>(m_numOffsets)}; }
     /// The square root of the rectangle's area.
     float getSize() const { return m_size; }

@@ -154,21 +154,11 @@ void ObjectParts::reset()
     m_changeId.raise();
 }
 
-int ObjectParts::getNumParts(int level) const
-{
-    const int counts[] = {m_points.getNumParts(), m_lines->getNumParts(), m_sheets->getNumParts(),
-                          m_subdomains.getNumParts()};
-    return counts[level];
-}
-
-void ObjectParts::requirePart(int level, int index) const
+void ObjectParts::throwNoPart(int level, int index) const
 {
     constexpr const char* names[] = {"point", "line", "sheet", "subdomain"};
-    const int numParts = getNumParts(level);
-    if (index < 0 || index >= numParts) {
-        throw std::out_of_range(std::string("There is no ") + names[level] + " " + std::to_string(index) + " among " +
-                                std::to_string(numParts) + ".");
-    }
+    throw std::out_of_range(std::string("There is no ") + names[level] + " " + std::to_string(index) + " among " +
+                            std::to_string(getNumParts(level)) + ".");
 }
 
 const SelectablePart& ObjectParts::getPart(int level, int index) const

@@ -47,7 +47,12 @@ public:
     /// The number of parts of a level, from `PartPoint` to `PartSolid`.
     int getNumParts(int level) const;
     /// @throws std::out_of_range if there is no part of the level with that index
-    void requirePart(int level, int index) const;
+    void requirePart(int level, int index) const
+    {
+        if (index < 0 || index >= getNumParts(level)) {
+            throwNoPart(level, index);
+        }
+    }
     /// A part of a level, from `PartPoint` to `PartSolid`, which must exist.
     const SelectablePart& getPart(int level, int index) const;
     /// The label of a part, which must exist; null if it has none.
@@ -75,6 +80,7 @@ public:
     void getMarkedBoundingBox(BoundingBox& box, int include, int exclude) const;
 
 private:
+    [[noreturn]] void throwNoPart(int level, int index) const;
     template <class Record>
     void fillFrom(const Record& record);
     template <class Record>
@@ -89,5 +95,19 @@ private:
     std::array<std::array<AdjacentParts, c_numLevels>, c_numLevels> m_adjacents;
     ChangeNumber m_changeId;
 };
+
+inline int ObjectParts::getNumParts(int level) const
+{
+    switch (level) {
+    case PartPoint:
+        return m_points.getNumParts();
+    case PartLine:
+        return m_lines->getNumParts();
+    case PartSheet:
+        return m_sheets->getNumParts();
+    default:
+        return m_subdomains.getNumParts();
+    }
+}
 
 } // namespace vxgraphics3d

@@ -1,6 +1,6 @@
 #include "graphics3d/geometry/partmarking.h"
 
-#include <cstddef>
+#include <span>
 
 namespace vxgraphics3d {
 namespace {
@@ -33,25 +33,17 @@ void withLevel(ObjectParts& parts, int level, Use use)
 }
 
 template <class Parts>
-void countAdjacent(Parts& parts, const AdjacentParts& adjacents, int source, PartMarking::Action action, bool on)
+void countAdjacent(Parts& parts, std::span<const int> adjacents, PartMarking::Action action, bool on)
 {
     if (action == SceneGraphObject::MarkingPrimary) {
-        for (const int index : adjacents.of(source)) {
+        for (const int index : adjacents) {
             parts.adjacentPrimaryMark(on, index);
         }
     } else {
-        for (const int index : adjacents.of(source)) {
+        for (const int index : adjacents) {
             parts.adjacentSecondaryMark(on, index);
         }
     }
-}
-
-template <class Parts>
-bool controlAdjacent(Parts& parts, int index, PartMarking::Action action, bool on, int sourceLevel, int sourceFlags)
-{
-    return action == SceneGraphObject::MarkingHidden
-               ? parts.adjacentHiddenMark(on, index, sourceLevel, sourceFlags)
-               : parts.adjacentUnpickableMark(on, index, sourceLevel, sourceFlags);
 }
 
 } // namespace
@@ -99,7 +91,7 @@ void PartMarking::apply(Parts& parts, int level, int index, Action action, bool 
     if (isCounted(action)) {
         propagateCount(level, index, action, on);
     } else {
-        propagateThreshold(level, index, action, on, parts.getMarkFlags(index));
+        propagateThreshold(index, {level, parts.getMarkFlags(index), action, on});
     }
     if (on) {
         parts.setMark(ownMark, true, index);
@@ -109,54 +101,57 @@ void PartMarking::apply(Parts& parts, int level, int index, Action action, bool 
 void PartMarking::propagateCount(int level, int index, Action action, bool on)
 {
     if (level > PartSheet) {
-        countAdjacent(m_parts.sheets(), m_parts.getAdjacents(level, PartSheet), index, action, on);
+        countAdjacent(m_parts.sheets(), m_parts.getAdjacents(level, PartSheet).of(index), action, on);
     }
     if (level > PartLine) {
-        countAdjacent(m_parts.lines(), m_parts.getAdjacents(level, PartLine), index, action, on);
+        countAdjacent(m_parts.lines(), m_parts.getAdjacents(level, PartLine).of(index), action, on);
     }
     if (level > PartPoint) {
-        countAdjacent(m_parts.points(), m_parts.getAdjacents(level, PartPoint), index, action, on);
+        countAdjacent(m_parts.points(), m_parts.getAdjacents(level, PartPoint).of(index), action, on);
     }
 }
 
-void PartMarking::propagateThreshold(int level, int index, Action action, bool on, int sourceFlags)
+void PartMarking::propagateThreshold(int index, const Source& source)
 {
-    for (int lower = level - 1; lower >= PartPoint; --lower) {
-        for (const int adjacent : m_parts.getAdjacents(level, lower).of(index)) {
-            if (adjacentThreshold(lower, adjacent, action, on, level, sourceFlags)) {
-                cascade(lower, adjacent, action, on);
-            }
+    if (source.level > PartSheet) {
+        controlAdjacent(m_parts.sheets(), PartSheet, index, source);
+    }
+    if (source.level > PartLine) {
+        controlAdjacent(m_parts.lines(), PartLine, index, source);
+    }
+    if (source.level > PartPoint) {
+        controlAdjacent(m_parts.points(), PartPoint, index, source);
+    }
+}
+
+/// Propagates to the adjacent parts of one level, and from those whose mark changes to the parts one level below.
+template <class Parts>
+void PartMarking::controlAdjacent(Parts& parts, int level, int index, const Source& source)
+{
+    const std::span<const int> adjacents = m_parts.getAdjacents(source.level, level).of(index);
+    for (const int adjacent : adjacents) {
+        parts.getPart(adjacent).prefetchMarks();
+    }
+    for (const int adjacent : adjacents) {
+        const bool isChanged = source.action == SceneGraphObject::MarkingHidden
+                                   ? parts.adjacentHiddenMark(source.on, adjacent, source.level, source.flags)
+                                   : parts.adjacentUnpickableMark(source.on, adjacent, source.level, source.flags);
+        if (isChanged && level > PartPoint) {
+            // Without the mark that has just changed, in both directions. The unpickable one is not among them.
+            const unsigned changed = source.action == SceneGraphObject::MarkingHidden ? MarkHiddenAdjacent : 0u;
+            const unsigned flags = parts.getMarkFlags(adjacent) & ~changed;
+            cascade(adjacent, {level, static_cast<int>(flags), source.action, source.on});
         }
-    }
-}
-
-bool PartMarking::adjacentThreshold(int level, int index, Action action, bool on, int sourceLevel, int sourceFlags)
-{
-    switch (level) {
-    case PartPoint:
-        return controlAdjacent(m_parts.points(), index, action, on, sourceLevel, sourceFlags);
-    case PartLine:
-        return controlAdjacent(m_parts.lines(), index, action, on, sourceLevel, sourceFlags);
-    default:
-        return controlAdjacent(m_parts.sheets(), index, action, on, sourceLevel, sourceFlags);
     }
 }
 
 /// The adjacent mark of a part has changed, which concerns the parts one level below.
-void PartMarking::cascade(int level, int index, Action action, bool on)
+void PartMarking::cascade(int index, const Source& source)
 {
-    if (level == PartPoint) {
-        return;
-    }
-    const unsigned flags =
-        level == PartLine ? m_parts.getLines().getMarkFlags(index) : m_parts.getSheets().getMarkFlags(index);
-    // Without the mark that has just changed, in both directions.
-    const unsigned changed = action == SceneGraphObject::MarkingHidden ? MarkHiddenAdjacent : 0u;
-    const int lower = level - 1;
-    for (const int adjacent : m_parts.getAdjacents(level, lower).of(index)) {
-        if (adjacentThreshold(lower, adjacent, action, on, level, static_cast<int>(flags & ~changed))) {
-            cascade(lower, adjacent, action, on);
-        }
+    if (source.level == PartSheet) {
+        controlAdjacent(m_parts.lines(), PartLine, index, source);
+    } else {
+        controlAdjacent(m_parts.points(), PartPoint, index, source);
     }
 }
 

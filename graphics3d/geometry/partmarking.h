@@ -31,9 +31,17 @@ private:
     template <class Parts>
     void apply(Parts& parts, int level, int index, Action action, bool on);
     void propagateCount(int level, int index, Action action, bool on);
-    void propagateThreshold(int level, int index, Action action, bool on, int sourceFlags);
-    bool adjacentThreshold(int level, int index, Action action, bool on, int sourceLevel, int sourceFlags);
-    void cascade(int level, int index, Action action, bool on);
+    /// A part whose mark spreads to the parts below.
+    struct Source {
+        int level;
+        int flags; ///< without the mark that spreads
+        Action action;
+        bool on;
+    };
+    void propagateThreshold(int index, const Source& source);
+    template <class Parts>
+    void controlAdjacent(Parts& parts, int level, int index, const Source& source);
+    void cascade(int index, const Source& source);
 
     ObjectParts& m_parts;
 };

@@ -36,19 +36,19 @@ public:
     /// Takes a geometry in place of the present one, and gives ids to all control points of edges that are not hidden.
     /// Ids are never used again; those of the previous geometry whose edge and index have a new id are unknown, and
     /// marks stay.
-    /// @throws std::invalid_argument if the record is null or an edge that is not hidden is no B-spline
+    /// @throws std::invalid_argument if the record is null or an edge that is not hidden is not a B-spline
     /// @throws std::out_of_range if an edge has a vertex that does not exist
     void connectRenderDrawEdit(boost::shared_ptr<Record> record);
 
     /// Moves a vertex, and with it the first or last control points of all edges that begin or end there. All these
     /// are flagged as modified.
-    /// @throws std::invalid_argument if such an edge is no B-spline
+    /// @throws std::invalid_argument if such an edge is not a B-spline
     void setVertex(int vertex, double x, double y) override;
     void getVertex(int vertex, std::vector<double>& out) const override;
     Vector3f getVertex(int vertex) const override;
     /// Moves a control point, which keeps its weight, and flags its edge as modified. The first and the last one of an
     /// edge that has a vertex there move the vertex.
-    /// @throws std::invalid_argument if an edge that changes is no B-spline
+    /// @throws std::invalid_argument if an edge that changes is not a B-spline
     void setControlPoint(int edge, int index, double x, double y) override;
     /// Writes x, y and weight to the first three elements.
     void getControlPoint(int edge, int index, std::vector<double>& out) const override;
@@ -71,7 +71,7 @@ public:
     void getEdgeData(int edge, std::vector<std::vector<double>>& out) const;
 
     /// Builds the polyline of an edge again, with the present tolerance. That of a hidden edge is empty.
-    /// @throws std::invalid_argument if the edge is no B-spline
+    /// @throws std::invalid_argument if the edge is not a B-spline
     void evaluateSegment(int edge);
 
     /// How far the middle of a polyline's segment may be from the curve, in x and in y.

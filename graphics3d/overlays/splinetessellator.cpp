@@ -53,19 +53,20 @@ CurvePoint curvePoint(const Edge& edge, double u, double* memory)
 
 bool isInside(const BoundingBox2D& box, double x, double y)
 {
-    return double{box.m_xMin} <= x && x <= double{box.m_xMax} && double{box.m_yMin} <= y && y <= double{box.m_yMax};
+    return static_cast<double>(box.m_xMin) <= x && x <= static_cast<double>(box.m_xMax) &&
+           static_cast<double>(box.m_yMin) <= y && y <= static_cast<double>(box.m_yMax);
 }
 
 bool isInside(const BoundingBox2D& box, const Vector3f& point)
 {
-    return isInside(box, double{point.x}, double{point.y});
+    return isInside(box, static_cast<double>(point.x), static_cast<double>(point.y));
 }
 
 /// Whether the chord from a to b may stand for the curve with the given middle.
 bool isFlat(const Vector3f& a, const CurvePoint& middle, const Vector3f& b, double tolerance)
 {
-    const double x = double{(a.x + b.x) / 2};
-    const double y = double{(a.y + b.y) / 2};
+    const double x = static_cast<double>((a.x + b.x) / 2);
+    const double y = static_cast<double>((a.y + b.y) / 2);
     return std::abs(middle.x - x) <= tolerance && std::abs(middle.y - y) <= tolerance;
 }
 

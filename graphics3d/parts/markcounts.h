@@ -2,10 +2,11 @@
 
 #include "base/export.h"
 #include "graphics3d/parts/markflags.h"
+#include "graphics3d/parts/selectablepart.h"
+
+#include <cstddef>
 
 namespace vxgraphics3d {
-
-class SelectablePart;
 
 /// Sets and removes the marks of the parts of one collection, and counts the parts that have any, so that a renderer
 /// can leave out what shows marked parts. No operation looks at more than one part.
@@ -42,5 +43,59 @@ private:
     int m_numMarked = 0;
     int m_numPrimary = 0;
 };
+
+// What a mark does to each adjacent part is inline, and has no branches that depend on the part: marks without pattern
+// would mispredict them.
+
+inline void MarkCounts::adjacentPrimaryMark(SelectablePart& part, bool on)
+{
+    adjacentMark(part, on, part.m_adjacentMarks.primary, MarkPrimaryAdjacent);
+}
+
+inline void MarkCounts::adjacentSecondaryMark(SelectablePart& part, bool on)
+{
+    adjacentMark(part, on, part.m_adjacentMarks.secondary, MarkSecondaryAdjacent);
+}
+
+inline void MarkCounts::adjacentMark(SelectablePart& part, bool on, int& count, MarkFlags mark)
+{
+    const int wasMarked = part.getDisplayFlags() != 0 ? 1 : 0;
+    if (!on && wasMarked == 0) {
+        return;
+    }
+    count += on ? 1 : -1;
+    part.setMark(mark, count > 0);
+    m_numMarked += (part.getDisplayFlags() != 0 ? 1 : 0) - wasMarked;
+}
+
+inline bool MarkCounts::adjacentHiddenMark(SelectablePart& part, bool on, int level, int sourceFlags)
+{
+    const int wasMarked = part.getDisplayFlags() != 0 ? 1 : 0;
+    const bool isChanged = controlMark(part, on, level, sourceFlags, part.m_adjacentMarks.hidden, MarkHiddenAdjacent);
+    m_numMarked += (part.getDisplayFlags() != 0 ? 1 : 0) - wasMarked;
+    return isChanged;
+}
+
+inline bool MarkCounts::adjacentUnpickableMark(SelectablePart& part, bool on, int level, int sourceFlags)
+{
+    return controlMark(part, on, level, sourceFlags, part.m_adjacentMarks.unpickable, MarkUnpickableAdjacent);
+}
+
+inline bool MarkCounts::controlMark(SelectablePart& part, bool on, int level, int sourceFlags, int& count,
+                                    MarkFlags mark)
+{
+    const int step = on ? 1 : -1;
+    const bool isReachable = (static_cast<unsigned>(sourceFlags) & SelectablePart::c_unreachable) == 0;
+    part.m_adjacentCounts[static_cast<std::size_t>(level)] -= isReachable ? step : 0;
+    if (level != part.m_controlLevel) {
+        return false;
+    }
+    count += step;
+    const bool wasSet = part.isMarked(mark);
+    const bool isAll = count >= part.m_controlCount;
+    const bool isChanged = wasSet != isAll && isAll == on;
+    part.m_markFlags ^= isChanged ? static_cast<unsigned>(mark) : 0u;
+    return isChanged;
+}
 
 } // namespace vxgraphics3d

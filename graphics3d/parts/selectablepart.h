@@ -52,6 +52,12 @@ public:
     /// The number of adjacent parts of a level that are neither hidden nor unpickable; 1 for the part's own level.
     int getAdjacentCount(int level) const { return m_adjacentCounts.at(static_cast<std::size_t>(level)); }
     const AdjacentMarks& getAdjacentMarks() const { return m_adjacentMarks; }
+    /// Has the processor fetch the marks, which are about to change. The parts of a row are all over the memory.
+    void prefetchMarks() const
+    {
+        __builtin_prefetch(&m_markFlags, 1);
+        __builtin_prefetch(&m_adjacentMarks, 1);
+    }
 
 protected:
     /// Drops all marks, its own and those from adjacent parts. The collection does not count that.
@@ -59,6 +65,11 @@ protected:
 
 private:
     friend class MarkCounts;
+
+    void setMark(MarkFlags mark, bool on)
+    {
+        m_markFlags = on ? m_markFlags | mark : m_markFlags & ~static_cast<unsigned>(mark);
+    }
 
     int m_dimension;
     BoundingBox m_boundingBox;

@@ -91,7 +91,7 @@ VX_NATIVE(jint, PickInteraction, mark)
         if (action < SceneGraphObject::MarkingPrimary || action > SceneGraphObject::MarkingUnpickable) {
             throw std::invalid_argument("There is no marking action " + std::to_string(action) + ".");
         }
-        return markPicked(sceneOf(env, scene), resultOf(env, picked),
+        return markPicked(peer<Scene>(env, scene), resultOf(env, picked),
                           static_cast<SceneGraphObject::MarkingType>(action), on != JNI_FALSE);
     });
 }

@@ -110,9 +110,9 @@ public:
     /// @throws std::logic_error if nothing was drawn since the canvas was made or resized
     std::vector<std::uint8_t> encodePng() const;
 
-    /// Removes from the results of a pick the parts and objects that the picture drawn last does not show: those that are
-    /// completely behind others or outside of the view, and lines of which less than a quarter shows. Results of other
-    /// kinds stay. The order stays as it is. The scene must not have been changed since the picture was drawn.
+    /// Removes from the results of a pick the parts and objects that the picture drawn last does not show: those that
+    /// are completely behind others or outside of the view, and lines of which less than a quarter shows. Results of
+    /// other kinds stay. The order stays as it is. The scene must not have been changed since the picture was drawn.
     ///
     /// Nothing is hidden by what is translucent. In a 2D view, where everything has the same depth, and where the scene
     /// is translucent, only what is outside of the view is removed.

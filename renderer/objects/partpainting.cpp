@@ -16,7 +16,6 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <utility>
 
 namespace vxrenderer {
 namespace {
@@ -255,43 +254,6 @@ void PartPainting::drawPoints(const PointCollection& points, int changeId, const
     }
 }
 
-void PartPainting::drawOne(const ObjectParts& parts, int level, int index) const
-{
-    PartTable table;
-    const auto setRow = [&](const SelectablePart& part) {
-        const auto row = static_cast<std::uint8_t>(MarkingModeSetup::getMarkingType(part.getDisplayFlags()));
-        table.set({&row, 1});
-    };
-    if (level == PartSolid) {
-        for (const int sheet : parts.getAdjacents(PartSolid, PartSheet).of(index)) {
-            drawOne(parts, PartSheet, sheet);
-        }
-    } else if (level == PartSheet) {
-        const Sheet& sheet = parts.getSheets().getPart(index);
-        const MeshPart part = {sheet.getVertices(), sheet.getTriangles()};
-        Mesh mesh;
-        mesh.load({&part, 1});
-        setRow(sheet);
-        const PartRange all = {0, 1};
-        m_context.drawMesh(&mesh, {table, faceRows(), {&all, 1}}, m_look);
-    } else if (level == PartLine) {
-        const Line& line = parts.getLines().getPart(index);
-        std::vector<LineMesh::Piece> pieces;
-        addPieces(line, 0, pieces);
-        LineMesh mesh;
-        mesh.load(std::move(pieces));
-        setRow(line);
-        m_context.drawLines(&mesh, {table, lineRows()}, m_look);
-    } else if (level == PartPoint) {
-        const Point& point = parts.getPoints().getPart(index);
-        const Instance instance = {.position = point.getPosition(), .axis = {}, .u = 0.0f};
-        InstanceBuffer position;
-        position.load({&instance, 1});
-        setRow(point);
-        m_context.drawSymbols(&position, {table, pointRows()}, RenderSymbol::circle, m_look);
-    }
-}
-
 void PartPainting::drawDirections(const LineCollection& lines) const
 {
     const View& view = m_context.view;
@@ -306,7 +268,8 @@ void PartPainting::drawDirections(const LineCollection& lines) const
         const auto& [position, direction] = *line.getDirectionMarker();
         const Vector3f tip = view.sceneToEye * position;
         const float pixels = m_context.scale * std::max(c_headPerWidth * marking.getLineWidth(), c_shortestHead);
-        addArrowHead(heads[row], tip, tip - view.sceneToEye * (position - direction), pixels * view.pixelSizeAt(tip));
+        addArrowHead(heads[static_cast<std::size_t>(row)], tip, tip - view.sceneToEye * (position - direction),
+                     pixels * view.pixelSizeAt(tip));
     }
     for (std::size_t i = 0; i < heads.size(); ++i) {
         const Marking& marking = m_context.objects.markings.getMarking(static_cast<MarkingType>(i));

@@ -16,11 +16,14 @@
 
 namespace vxgraphics3d {
 class Image;
+class Line;
 class LineCollection;
 class MeshableLineCollection;
 class MeshableSheetCollection;
 class ObjectParts;
+class Point;
 class PointCollection;
+class Sheet;
 class SheetCollection;
 } // namespace vxgraphics3d
 
@@ -60,7 +63,7 @@ public:
     /// the row of its marks without the mesh.
     void drawMeshes(const vxgraphics3d::MeshableSheetCollection& sheets,
                     const vxgraphics3d::MeshableLineCollection& lines, int changeId) const;
-    /// Draws a single part, as if it were drawn with all parts of its kind; a subdomain by its sheets.
+    /// Draws a single part with its mesh, as if it were drawn with all parts of its kind; a subdomain by its sheets.
     void drawOne(const vxgraphics3d::ObjectParts& parts, int level, int index) const;
     /// Arrow heads on lines that have a direction, in the colours of the lines.
     void drawDirections(const vxgraphics3d::LineCollection& lines) const;
@@ -94,6 +97,9 @@ private:
     template <class Parts>
     const PartTable& meshTableOf(int number, const Parts& parts) const;
     void drawSheetMeshes(const vxgraphics3d::MeshableSheetCollection& sheets, int changeId) const;
+    void drawSheet(const vxgraphics3d::Sheet& sheet) const;
+    void drawLine(const vxgraphics3d::Line& line) const;
+    void drawPoint(const vxgraphics3d::Point& point) const;
     void drawLineMeshes(const vxgraphics3d::MeshableLineCollection& lines, int changeId) const;
     /// @param isBeside whether texts lie next to their points, not on them
     template <class Parts>

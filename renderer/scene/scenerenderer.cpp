@@ -20,7 +20,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <optional>
-#include <span>
 #include <utility>
 
 namespace vxrenderer {
@@ -186,19 +185,17 @@ void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned rend
         }
     }
     const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
-    const auto translucent = std::ranges::stable_partition(shown, isOpaque);
-    for (const SceneItem* item : std::span(shown.begin(), translucent.begin())) {
-        drawItem(*item, context);
-    }
-    if (!translucent.empty() && context.opacity > 0.0f) {
+    const auto firstTranslucent = std::stable_partition(shown.begin(), shown.end(), isOpaque);
+    const auto draw = [&](const SceneItem* item) { drawItem(*item, context); };
+    std::for_each(shown.begin(), firstTranslucent, draw);
+    if (firstTranslucent != shown.end() && context.opacity > 0.0f) {
         // What lies farther off comes first, by the middles of the items.
         const auto depthOf = [&](const SceneItem* item) { return (context.view.sceneToEye * centerOf(*item)).z; };
-        std::ranges::stable_sort(translucent, {}, depthOf);
+        std::stable_sort(firstTranslucent, shown.end(),
+                         [&](const SceneItem* one, const SceneItem* other) { return depthOf(one) < depthOf(other); });
         setBlending(true);
         glDepthMask(GL_FALSE);
-        for (const SceneItem* item : translucent) {
-            drawItem(*item, context);
-        }
+        std::for_each(firstTranslucent, shown.end(), draw);
         glDepthMask(GL_TRUE);
         setBlending(false);
     }

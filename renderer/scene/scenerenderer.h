@@ -51,8 +51,8 @@ public:
     /// @param layout of this frame, for the size of the target
     void draw(const Frame& frame, const FrameLayout& layout, const Target& target);
 
-    /// Removes from the results of a pick the parts and objects that the picture drawn last into a target does not show,
-    /// see `findShown`. The scene must not have been changed since.
+    /// Removes from the results of a pick the parts and objects that the picture drawn last into a target does not
+    /// show, see `findShown`. The scene must not have been changed since.
     /// @param view of that picture
     void keepShown(vxgraphics3d::PickedObjectCollection& picked, const Frame& frame, const View& view,
                    const Target& target);

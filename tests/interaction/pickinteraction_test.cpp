@@ -176,6 +176,30 @@ TEST(PickInteraction, clicksPreferASheetUnderThePointerToOneInFrontOfItNextToThe
     EXPECT_EQ(picking.click(c_sheet, 302, 50), (Picks{{0, 1}, {1, 0}, {0, 0}}));
 }
 
+TEST(PickInteraction, clicksAskOtherNodesLast)
+{
+    class Note : public SceneGraphObject {
+    public:
+        static boost::shared_ptr<Note> create() { return own(new Note); }
+        void getSelection(const SelectionFrustrum& frustum, const CanvasPickSettings&, PickedObjectCollection& result,
+                          bool) const override
+        {
+            if (frustum.isInside(0.5f, 0.5f, 0.0f)) {
+                result.addPickedOverlay(8, PartTypePoint, 1);
+            }
+        }
+        void getMarkedBoundingBox(BoundingBox&, int, int) const override {}
+
+    private:
+        Note() : SceneGraphObject(ObjectProbe) { setBoundingBox({0.0f, 1.0f, 0.0f, 1.0f, 0.0f, 0.0f}); }
+    };
+    Picking picking(std::vector<float>{});
+    picking.group->addChild(Note::create());
+    picking.add<SceneGraphDrawObjectSolid>(0.0f);
+    EXPECT_EQ(picking.click(c_sheet, 249, 50), (Picks{{0, 0}, {8, 1}}));
+    EXPECT_EQ(picking.click(c_sheet, 230, 50), (Picks{{0, 0}}));
+}
+
 TEST(PickInteraction, clicksFindSubdomainsByTheirSheets)
 {
     Picking picking(std::vector<float>{});

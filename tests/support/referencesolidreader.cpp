@@ -189,8 +189,8 @@ private:
                               : takeAdjacent(values[0], values[1]);
     }
 
-    bool isCoordinate(int index) const { return index >= 0 && index < m_counts[0]; }
-    /// Coordinates that were counted, but not read, are 0.
+    bool isCoordinate(int index) const { return index >= 0 && index < m_counts[0] && !m_coordinates.empty(); }
+    /// Coordinates that were counted, but not read, are 0, if any were read.
     Vector3f coordinate(int index) const
     {
         return size(index) < m_coordinates.size() ? m_coordinates[size(index)] : Vector3f();

@@ -19,12 +19,12 @@ import com.vexane.base.NativePeer;
  * <p>The geometry is a record of the producer, which is not copied: edits change the record and flag there what they
  * have changed, and the owner of the record clears the flags. The record's peer may be closed.
  *
- * <p>The control points of edges that are not hidden have ids, given when the record is connected: in the order of edges
- * and of their control points, beginning with 0 and going on where those of the previous record ended.
+ * <p>The control points of edges that are not hidden get ids when the record is connected: in the order of edges and of
+ * their control points, from 0 on, or from where those of the previous record ended.
  *
- * <p>Edges are drawn as polylines whose distance from the curve depends on the size of the geometry: about a thousandth of it. Each
- * edit takes time in proportion to the edges that change, and little more for each of the others. Before a record is
- * connected, there are no vertices and edges.
+ * <p>Edges are drawn as polylines that differ from the curves by about a thousandth of the size of the geometry. An edit
+ * takes time in proportion to the edges that change, and a little for each of the others. Before a record is connected,
+ * there are no vertices and edges.
  */
 public final class OverlayRenderEdit2d extends OverlayCurve {
     /** Makes an object without geometry. */

@@ -9,6 +9,7 @@ import com.vexane.base.NativeException;
 import com.vexane.base.NativePeer;
 import com.vexane.producer.PostDataObject;
 import com.vexane.producer.RenderDraw3D;
+import com.vexane.producer.RenderDrawProj2D;
 import com.vexane.producer.RenderGeom3D;
 import com.vexane.producer.RenderMeshCollection;
 import java.io.File;
@@ -205,6 +206,9 @@ class HostileCallsTest {
             for (NativePeer solid : peers.allOf(SceneGraphDrawObjectSolid.class)) {
                 ((SceneGraphDrawObjectSolid) solid).fillObject(peers.another(RenderDraw3D.class));
                 ((SceneGraphDrawObjectSolid) solid).markPart(ObjectPartType.SHEET, 0, MarkingAction.HIDDEN);
+            }
+            for (NativePeer projection : peers.allOf(SceneGraphDrawProj.class)) {
+                ((SceneGraphDrawProj) projection).fillObject(peers.another(RenderDrawProj2D.class));
             }
             for (NativePeer peer : peers.allOf(SceneGraphPhysicsObject.class)) {
                 SceneGraphPhysicsObject model = (SceneGraphPhysicsObject) peer;

@@ -6,6 +6,7 @@ import com.vexane.interaction.CurveDrawing;
 import com.vexane.interaction.CurveEditing;
 import com.vexane.interaction.FrameInteraction;
 import com.vexane.interaction.OverlayPicker;
+import com.vexane.interaction.PickInteraction;
 import com.vexane.interaction.RubberBand;
 import com.vexane.producer.DataRole;
 import com.vexane.producer.EditGeometryBuilder;
@@ -139,6 +140,7 @@ final class PeerRecipes implements AutoCloseable {
                 .addCurve(ProjectionBuilder2D.PRIMARY, AXIS, AXIS).build(4, "Section"));
         recipe(RenderMeshCollection.class, made -> meshes());
         recipe(CameraInteraction.class, made -> CameraInteraction.connect(made.first(TestRenderer.class), 48));
+        recipe(PickInteraction.class, made -> PickInteraction.connect(made.first(TestRenderer.class), 48));
         recipe(FrameInteraction.class, made -> FrameInteraction.connect(
                 made.first(TestRenderer.class), made.first(OverlayTransformation.class), 48));
         recipe(CurveDrawing.class, made -> CurveDrawing.connect(

@@ -33,6 +33,7 @@ import com.vexane.gallery.pictures.OceanIsotherms;
 import com.vexane.gallery.pictures.OceanProfile;
 import com.vexane.gallery.pictures.OceanSlices;
 import com.vexane.gallery.pictures.OverlayShapes;
+import com.vexane.gallery.pictures.PickedParts;
 import com.vexane.gallery.pictures.PlateWithHole;
 import com.vexane.gallery.pictures.PolarView;
 import com.vexane.gallery.pictures.PrincipalStress;
@@ -117,6 +118,7 @@ public final class Gallery {
             new NumberedPlate(),
             new SnapPoints(),
             new BracketMaterials(),
+            new PickedParts(),
             new WorkPlanes(),
             new ProjectedGeometry(),
             new BallsAndProbes(),

@@ -262,6 +262,15 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
+     * The scene that the pictures show.
+     *
+     * @return a peer that the studio closes
+     */
+    public Scene scene() {
+        return scene;
+    }
+
+    /**
      * The settings of the view.
      *
      * @return a peer that the studio closes, like those of all that follow

@@ -119,4 +119,14 @@ class GalleryTest {
         assertEquals(1600, image.getWidth());
         assertTrue(colors(image.getRGB(0, 0, 1600, 1000, null, 0, 1600)) > 500);
     }
+
+    @Test
+    void theFirstPickMarksAFaceAndVertices() throws Exception {
+        Path file = folder.resolve("pick.png");
+        FirstPick.main(new String[] {ROOT.resolve("data/bracket_solid.txt").toString(), file.toString()});
+        BufferedImage image = ImageIO.read(file.toFile());
+        int[] pixels = image.getRGB(0, 0, 800, 500, null, 0, 800);
+        assertTrue(IntStream.of(pixels).filter(rgb -> (rgb & 0xffffff) == 0xff0000).count() > 500, "edges of the face");
+        assertTrue(IntStream.of(pixels).filter(rgb -> (rgb & 0xffffff) == 0x0000ff).count() > 200, "vertices");
+    }
 }

@@ -15,6 +15,8 @@
  * interaction.release();
  * }</pre>
  *
+ * <p>A {@link PickInteraction} finds what a click touches and what a rectangle contains, and marks what was found.
+ *
  * <p>Each {@link OverlayInteraction} changes an object of a view's overlay: {@link FrameInteraction} moves and scales a
  * frame, {@link CurveDrawing} draws a curve point by point, {@link CurveEditing} moves its vertices and control points. A
  * {@link RubberBand} is a rectangle that the user drags open, and an {@link OverlayPicker} finds the objects under the

@@ -87,8 +87,8 @@ public final class RenderDrawEdit2D extends NativePeer {
      * Computes the polyline of an edge as an overlay does, at a tolerance of the caller's choice.
      *
      * @param edge the edge, from 0
-     * @param tolerance how far the middle of a segment may be from the curve, in x and in y; an edge is split in its knots
-     *     and then at most 101 times
+     * @param tolerance how far the middle of a segment may be from the curve, in x and in y; an edge is split at its
+     *     knots, and then at most 101 times
      * @return the vertices in single precision, as arrays of x and y
      */
     public double[][] tessellate(int edge, double tolerance) {

@@ -14,8 +14,8 @@ import java.io.IOException;
 import java.util.Locale;
 
 @About(title = "An arc at three tolerances",
-        text = "The tolerance of a tessellation is a thousandth of the size of the geometry, here of two "
-                + "vertices outside of the pictures.",
+        text = "The tolerance of a tessellation is a thousandth of the size of the geometry, which two "
+                + "vertices outside of the pictures set.",
         section = Section.OVERLAYS,
         pages = "editing")
 public final class ArcTessellation implements Picture {

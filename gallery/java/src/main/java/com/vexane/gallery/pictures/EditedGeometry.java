@@ -7,6 +7,8 @@ import com.vexane.gallery.Sheet;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.Overlay;
 import com.vexane.graphics3d.OverlayRenderEdit2d;
+import com.vexane.interaction.CurveEditing;
+import com.vexane.interaction.OverlayPicker;
 import com.vexane.producer.EditGeometryBuilder;
 import com.vexane.producer.RenderDrawEdit2D;
 import java.io.IOException;
@@ -25,28 +27,31 @@ public final class EditedGeometry implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
         studio.renderer().resize(WIDTH, HEIGHT);
-        studio.flat();
-        studio.camera2d().setViewLimits(-0.5f, 7, -0.6f, 5.6f);
+        studio.flat().nameAxes("Before", "");
         Sheet sheet = new Sheet(2);
         try (Overlay overlay = new Overlay(); OverlayRenderEdit2d curve = new OverlayRenderEdit2d();
-                RenderDrawEdit2D geometry = plate()) {
+                RenderDrawEdit2D geometry = plate();
+                CurveEditing editing = CurveEditing.connect(studio.renderer(), curve, HEIGHT);
+                OverlayPicker picker = OverlayPicker.connect(studio.renderer(), overlay, HEIGHT)) {
             curve.connectRenderDrawEdit(geometry);
+            overlay.addOverlayObject(curve, 1);
+            studio.renderer().setOverlay(overlay);
             curve.setUseColor(true);
             curve.setOutlineColor(40, 60, 90, 255);
             curve.setMarkingColor(220, 90, 20, 255);
             curve.setLineSize(2.5f);
             curve.setDisplayVertexNumbers(true);
-            overlay.addOverlayObject(curve, 1);
-            studio.renderer().setOverlay(overlay);
-            curve.setVertex(3, 4, 4);
-            markModified(curve);
-            geometry.clearModified();
-            studio.nameAxes("Before", "");
+            studio.renderer().draw(); // gives the camera its area
+            studio.camera2d().setViewLimits(-0.5f, 7, -0.6f, 5.6f);
             studio.renderer().draw();
             sheet.add(studio.renderer());
 
-            // Moving a vertex changes the edges that end in it and marks them as modified.
-            curve.setVertex(3, 5.2, 4.7);
+            // A press, a drag and a release in pixels, as a mouse would make them. Moving a vertex changes the edges that end in
+            // it and marks them as modified.
+            int[] pointer = picker.pixelOf(4, 4, 0);
+            editing.press(pointer[0], pointer[1]);
+            editing.drag(pointer[0] + 120, pointer[1] - 70);
+            editing.release();
             markModified(curve);
             studio.nameAxes("Vertex 3 dragged to the upper right", "");
             studio.renderer().draw();
@@ -56,7 +61,6 @@ public final class EditedGeometry implements Picture {
     }
 
     private static void markModified(OverlayRenderEdit2d curve) {
-        curve.clearMarkings();
         for (int edge = 0; edge < curve.getNumberOfEdges(); ++edge) {
             if (curve.isEdgeModified(edge)) {
                 curve.setEdgeMarking(edge, true);
@@ -70,7 +74,7 @@ public final class EditedGeometry implements Picture {
             builder.addVertex(4, 4), builder.addVertex(1, 4), builder.addVertex(0, 3)};
         builder.addLine(corners[0], corners[1]);
         builder.addLine(corners[1], corners[2]);
-        builder.addArc(corners[2], corners[3], 4, 2);
+        builder.addArc(corners[2], corners[3], 4, 2); // counter-clockwise about (4, 2)
         builder.addSpline(corners[3], corners[4], 3, CUBIC, new double[] {4, 3, 2, 1}, new double[] {4, 5, 3, 4});
         builder.addArc(corners[4], corners[5], 1, 3);
         builder.addLine(corners[5], corners[0]);
