@@ -120,7 +120,6 @@ void SceneGraphDrawObject::setSnapVertices(const std::vector<double>& x, const s
 
 void SceneGraphDrawObject::setLabel(const std::string& name)
 {
-    m_labelledPart = -1;
     const vxbase::UString text(name);
     int part = -1;
     bool isLabelled = false;

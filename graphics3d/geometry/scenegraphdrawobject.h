@@ -88,6 +88,8 @@ void SceneGraphDrawObject::fillParts(const Record& record, vxbase::LogText<> mis
         m_labelledPart = -1;
         throw;
     }
+    // The parts have no labels yet, even if one of the following steps fails.
+    m_labelledPart = -1;
 }
 
 } // namespace vxgraphics3d

@@ -185,6 +185,33 @@ class PhysicsObjectTest {
         assertThrows(NullPointerException.class, () -> model.setPhysicsConnector(null, ObjectPartType.LINE, new int[0]));
     }
 
+    /** The samples of the page on physics objects. */
+    @Test
+    void hasAMarkerOfEachKind() {
+        RenderGeom3D record = triangleInSpace().buildGeom();
+        int[] pixels = new int[32 * 32];
+        int face = 0;
+        int edge = 0;
+        try (record) {
+            model.fillObject(record);
+        }
+        model.setMaterial(ObjectPartType.SUBDOMAIN, 0, "steel");
+        model.setImage("force", pixels, 32, 32, 1); // before the markers that show it
+        model.setPhysicsMarker("force", ObjectPartType.SHEET, face);
+        model.setPhysicsMarkerNormal("force", ObjectPartType.SHEET, face, true); // against the normal
+        model.setPhysicsMarkerSys("force", ObjectPartType.LINE, edge, new double[][] {{1, 0, 0}, {0, 1, 1}});
+        model.setPhysicsMarkerBoundSys("force", ObjectPartType.SHEET, face, false, true, 3, 2);
+        model.setPhysicsConnector("spring", ObjectPartType.SHEET, new int[] {face, face});
+        assertEquals(4, linesOf("marker ").lines().count());
+        assertEquals("connector [0.666667 0.666667 0] 2", linesOf("connector"));
+
+        model.clearPhysicsMarkers(); // before a fill, which deletes the parts
+        try (RenderGeom3D next = triangleInSpace().buildGeom()) {
+            model.fillObject(next);
+        }
+        assertEquals("", linesOf("marker "));
+    }
+
     @Test
     void isFoundAgainUnderItsParent() {
         try (SceneGraphGroup group = new SceneGraphGroup()) {

@@ -28,6 +28,8 @@ import com.vexane.gallery.pictures.LightsLockedAndFree;
 import com.vexane.gallery.pictures.LocalAxes;
 import com.vexane.gallery.pictures.LogarithmicAxes;
 import com.vexane.gallery.pictures.MarkingModes;
+import com.vexane.gallery.pictures.MarkingRules;
+import com.vexane.gallery.pictures.ModelMarkers;
 import com.vexane.gallery.pictures.NumberedPlate;
 import com.vexane.gallery.pictures.OceanIsotherms;
 import com.vexane.gallery.pictures.OceanProfile;
@@ -118,6 +120,8 @@ public final class Gallery {
             new NumberedPlate(),
             new SnapPoints(),
             new BracketMaterials(),
+            new ModelMarkers(),
+            new MarkingRules(),
             new PickedParts(),
             new WorkPlanes(),
             new ProjectedGeometry(),

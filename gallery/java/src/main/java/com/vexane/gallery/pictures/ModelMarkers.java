@@ -1,0 +1,104 @@
+package com.vexane.gallery.pictures;
+
+import com.vexane.gallery.About;
+import com.vexane.gallery.Picture;
+import com.vexane.gallery.Studio;
+import com.vexane.graphics3d.MarkingAction;
+import com.vexane.graphics3d.ObjectPartType;
+import com.vexane.graphics3d.SceneGraphPhysicsObject;
+import com.vexane.producer.RenderDraw3D;
+import com.vexane.producer.RenderGeom3D;
+import java.io.IOException;
+import java.nio.file.Files;
+import java.util.Comparator;
+import java.util.List;
+import java.util.stream.IntStream;
+import java.util.stream.Stream;
+
+@About(title = "Markers and connectors",
+        text = "The bracket as a model with its physics: icons alone, with the normal of a face, with given directions and with "
+                + "a coordinate system around the normal, and a connector between two faces.")
+public final class ModelMarkers implements Picture {
+    private static final int ICON = 28;
+
+    @Override
+    public void draw(Studio studio) throws IOException {
+        List<int[]> sides = Files.readAllLines(studio.data("bracket_domains.csv")).stream().skip(1)
+                .map(row -> IntStream.of(1, 2).map(i -> Integer.parseInt(row.split(",")[i]) - 1).toArray()).toList();
+        int[] up = sides.stream().mapToInt(pair -> pair[0]).toArray();
+        int[] down = sides.stream().mapToInt(pair -> pair[1]).toArray();
+        try (SceneGraphPhysicsObject model = new SceneGraphPhysicsObject(1);
+                RenderDraw3D solid = RenderDraw3D.read(1, "Bracket", studio.data("bracket_solid.txt"));
+                RenderGeom3D record = RenderGeom3D.of(solid, up, down)) {
+            model.fillObject(record);
+            for (String name : List.of("fixed", "force", "sensor", "system", "coupling")) {
+                model.setImage(name, icon(name), ICON, ICON, 1);
+            }
+            int plate = nearest(solid, 6, 0, 60);
+            int web = nearest(solid, 70, -15, 0);
+            int slope = between(solid, new double[] {15.3, -13, 46.3}, new double[] {138.8, 13, 24});
+            int ring = nearest(solid, 152, -18.5, 0);
+            model.setPhysicsMarker("fixed", ObjectPartType.SHEET, plate);
+            model.setPhysicsMarkerNormal("force", ObjectPartType.SHEET, ring, false);
+            model.setPhysicsMarkerSys("sensor", ObjectPartType.SHEET, web, new double[][] {{1, 0, 0}, {0, -1, 0}});
+            model.setPhysicsMarkerBoundSys("system", ObjectPartType.SHEET, slope, false, true, 3, 0);
+            model.setPhysicsConnector("coupling", ObjectPartType.SHEET, new int[] {plate, ring},
+                    new double[] {120, 30, 90});
+            studio.settings().setShowPhysicsMarkers(true);
+            studio.show(model).hideAxes().view(-35, 25);
+            studio.save("The four kinds of markers, and a connector between the plate and the ring.");
+
+            model.markBoundary(web, MarkingAction.PRIMARY);
+            model.markSubdomain(1, MarkingAction.SECONDARY);
+            studio.save("A face has a primary mark and the bush a secondary one.");
+
+            model.clearPhysicsMarkers();
+            model.markSubdomain(0, MarkingAction.HIDDEN);
+            studio.save("The domain of the bracket is hidden. Its faces that bound the bush as well stay, as does the bush.");
+        }
+    }
+
+    /** The face whose vertices are nearest to a point, on average. */
+    private static int nearest(RenderDraw3D solid, double... point) {
+        return IntStream.range(0, solid.getNumSheets()).boxed()
+                .min(Comparator.comparingDouble(face -> distance(solid.getSheet(face), point))).orElseThrow();
+    }
+
+    /** The face that has vertices next to two points. */
+    private static int between(RenderDraw3D solid, double[]... points) {
+        return IntStream.range(0, solid.getNumSheets()).boxed().min(Comparator.comparingDouble(face -> Stream.of(points)
+                .mapToDouble(point -> shortest(solid.getSheet(face), point)).sum())).orElseThrow();
+    }
+
+    private static double shortest(float[][] vertices, double[] point) {
+        return IntStream.range(0, vertices[0].length).mapToDouble(i -> Math.hypot(
+                Math.hypot(vertices[0][i] - point[0], vertices[1][i] - point[1]), vertices[2][i] - point[2]))
+                .min().orElse(Double.MAX_VALUE);
+    }
+
+    private static double distance(float[][] vertices, double[] point) {
+        double sum = 0;
+        for (int i = 0; i < vertices[0].length; ++i) {
+            sum += Math.hypot(Math.hypot(vertices[0][i] - point[0], vertices[1][i] - point[1]), vertices[2][i] - point[2]);
+        }
+        return vertices[0].length == 0 ? Double.MAX_VALUE : sum / vertices[0].length;
+    }
+
+    /** A disc with a sign in the middle, different for each name. */
+    private static int[] icon(String name) {
+        int color = 0xff000000 | 0x9e3779 * name.hashCode() >>> 8 & 0x7f7f7f | 0xff303030;
+        return IntStream.range(0, ICON * ICON).map(i -> {
+            double x = i % ICON - 0.5 * (ICON - 1);
+            double y = i / ICON - 0.5 * (ICON - 1);
+            double radius = Math.hypot(x, y);
+            boolean isSign = switch (name) {
+                case "fixed" -> Math.abs(x) < 7 && Math.abs(y) < 3;
+                case "force" -> Math.abs(x) < 2.5 && Math.abs(y) < 8 || y < -2 && Math.abs(x) < 10 + y;
+                case "sensor" -> radius < 5;
+                case "system" -> Math.abs(x) < 2 && Math.abs(y) < 8 || Math.abs(y) < 2 && Math.abs(x) < 8;
+                default -> radius > 4 && radius < 8;
+            };
+            return radius > 0.5 * ICON ? 0 : isSign ? 0xffffffff : color;
+        }).toArray();
+    }
+}
