@@ -32,12 +32,14 @@ std::vector<Polygon> randomPolygons(benchmark::State& state)
 /// A curve of cubic edges, each between two vertices of its own. The ids of its control points are 0 to 4 n - 1.
 void addEdges(OverlayDrawCurve& curve, const std::vector<Polygon>& polygons)
 {
-    const auto addVertex = [&](const Vector3f& point) { return curve.addVertex(double{point.x}, double{point.y}); };
+    const auto addVertex = [&](const Vector3f& point) {
+        return curve.addVertex(static_cast<double>(point.x), static_cast<double>(point.y));
+    };
     for (const Polygon& polygon : polygons) {
         const int start = addVertex(polygon.front());
         const int edge = curve.addEdge(start, addVertex(polygon.back()));
         for (const Vector3f& point : polygon) {
-            curve.addControlPoint(edge, double{point.x}, double{point.y});
+            curve.addControlPoint(edge, static_cast<double>(point.x), static_cast<double>(point.y));
         }
     }
 }
@@ -68,7 +70,8 @@ void dragControlPoints(benchmark::State& state)
         int id = 1;
         for (const Polygon& polygon : polygons) {
             const auto point = curve.findControlPoint(id);
-            curve.setControlPoint(point->first, point->second, double{polygon[1].x}, double{polygon[1].y});
+            curve.setControlPoint(point->first, point->second, static_cast<double>(polygon[1].x),
+                                  static_cast<double>(polygon[1].y));
             id += 4;
         }
         benchmark::ClobberMemory();

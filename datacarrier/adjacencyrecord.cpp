@@ -1,6 +1,7 @@
 #include "datacarrier/adjacencyrecord.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -8,17 +9,24 @@
 namespace vxdatacarrier {
 namespace {
 
-/// Calls `each(row, value)` for all values of all rows, in their order. Throws if a row or a value is out of range.
+/// Calls `each(row, value)` for all values of all rows, in their order. Throws if an array is missing, if a row or a
+/// value is out of range, or if the rows have more values than there are.
 template <class Each>
 void forEachValue(const AdjacencyRecord& source, int numTargets, Each each)
 {
+    if ((source.m_numRows > 0 && !source.m_rows) || (source.m_numValues > 0 && !source.m_values)) {
+        throw std::invalid_argument("The relation has no array of its rows or values.");
+    }
+    std::int64_t total = 0;
     for (int row = 0; row < source.m_numRows; ++row) {
         const auto [start, count] = source.m_rows[static_cast<std::size_t>(row)];
         if (start < 0) {
             continue;
         }
-        if (count < 0 || start > source.m_numValues - count) {
-            throw std::out_of_range("Row " + std::to_string(row) + " of the relation is outside its values.");
+        total += count;
+        if (count < 0 || start > source.m_numValues - count || total > source.m_numValues) {
+            throw std::out_of_range("Row " + std::to_string(row) +
+                                    " of the relation is outside its values or overlaps another row.");
         }
         for (int i = start; i < start + count; ++i) {
             const int value = source.m_values[static_cast<std::size_t>(i)];

@@ -35,7 +35,7 @@ struct VX_API AdjacencyRecord {
 /// @param numTargetRows the number of parts of the kind that the values of `source` refer to
 /// @param numSourceRows the number of parts that the rows of `source` belong to; without rows, all lists are empty
 /// @throws std::invalid_argument or std::out_of_range, and changes nothing, if the relation has rows, but not
-///         `numSourceRows`, or if a row or a value is out of range
+///         `numSourceRows`, if an array is missing, if rows overlap, or if a row or a value is out of range
 VX_API void invertAdjacency(AdjacencyRecord& target, const AdjacencyRecord& source, int numTargetRows,
                             int numSourceRows);
 

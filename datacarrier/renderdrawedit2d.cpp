@@ -10,6 +10,8 @@ namespace vxdatacarrier {
 
 namespace {
 
+/// Far beyond any use. The time of an evaluation grows with the square of the degree, at as many points.
+constexpr int c_highestDegree = 100;
 constexpr float c_inf = std::numeric_limits<float>::infinity();
 
 /// The limits of points, an empty range at first.
@@ -78,6 +80,9 @@ void RenderDrawEdit2D::Edge::requireCurve(std::size_t number) const
     requireControlPoints(number);
     if (m_degree < 1) {
         refuse(number, "degree " + std::to_string(m_degree) + " is below 1");
+    }
+    if (m_degree > c_highestDegree) {
+        refuse(number, "degree " + std::to_string(m_degree) + " is above " + std::to_string(c_highestDegree));
     }
     if (m_numControlPoints <= m_degree) {
         refuse(number, "controlPoints has " + std::to_string(m_numControlPoints) +

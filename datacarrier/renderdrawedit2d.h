@@ -38,8 +38,8 @@ public:
         /// @param number the number of the edge, for the message
         /// @throws std::invalid_argument with a text that names edge and array
         void requireControlPoints(std::size_t number) const;
-        /// The same for an edge that is not a B-spline: a degree below 1, control points or knots that are too few or
-        /// too many, knots that are not finite or decrease, or no length of the last span.
+        /// The same for an edge that is not a B-spline: a degree below 1 or above 100, control points or knots that are
+        /// too few or too many, knots that are not finite or decrease, or no length of the last span.
         void requireCurve(std::size_t number) const;
 
         /// Neither drawn nor editable.

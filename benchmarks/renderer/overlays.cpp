@@ -34,12 +34,12 @@ boost::shared_ptr<OverlayDrawCurve> makeCurve(benchmark::State& state)
     vxgraphics3d::RandomNumbers random(2);
     const auto curve = boost::make_shared<OverlayDrawCurve>();
     for (int i = 0; i < state.range(0); ++i) {
-        const double x = double{random.uniform(0.0f, 1.0f)};
-        const double y = double{random.uniform(0.0f, 1.0f)};
+        const double x = static_cast<double>(random.uniform(0.0f, 1.0f));
+        const double y = static_cast<double>(random.uniform(0.0f, 1.0f));
         const int start = curve->addVertex(x, y);
         const int edge = curve->addEdge(start, curve->addVertex(x + 0.015, y));
         for (const double step : {0.0, 0.005, 0.01, 0.015}) {
-            curve->addControlPoint(edge, x + step, y + double{random.uniform(-0.01f, 0.01f)});
+            curve->addControlPoint(edge, x + step, y + static_cast<double>(random.uniform(-0.01f, 0.01f)));
         }
     }
     return curve;

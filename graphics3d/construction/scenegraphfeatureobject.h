@@ -8,7 +8,7 @@ namespace vxgraphics3d {
 
 /// A leaf of the scene tree that shows a work plane, with the symbol of an operation on it. It cannot be picked.
 ///
-/// Set the plane first: before that nothing is shown, and the operations are computed for the plane of the moment.
+/// Set the plane first: before that nothing is shown, and the operations are computed for the current plane.
 class VX_API SceneGraphFeatureObject : public SceneGraphObject {
 public:
     /// The bit of the masks of `getMarkedBoundingBox` that means work planes.

@@ -36,7 +36,7 @@ struct GridCells {
     int rows = 0;
 };
 
-/// Computed in single precision, in which a square has equal numbers of rows and columns whatever its size.
+/// Computed in single precision, in which a square of any size has equal numbers of rows and columns.
 GridCells cellsOf(float width, float height)
 {
     const float step = std::sqrt(width * height) / c_cellsOfSquare;

@@ -68,7 +68,7 @@ void addParts(const Parts& parts, const Region& region, Add add)
     }
 }
 
-/// Calls `add` with the index of each part of the kind that a target stands for that answers and is inside.
+/// Calls `add` with the type and index of each part of the target's kind that can be picked and is inside.
 template <class Add>
 void addPartsOf(int target, const ObjectParts& parts, const Region& region, Add add)
 {
@@ -138,7 +138,7 @@ int maskOf(int level)
     return bits[level];
 }
 
-/// The bits of the mask that stand for a target among the parts of an object.
+/// The bits of the mask of which one is required for a target, by the parts of an object.
 int maskOf(int target, ObjectPartType highest)
 {
     switch (target) {

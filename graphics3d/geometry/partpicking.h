@@ -14,7 +14,7 @@ struct CanvasPickSettings;
 
 /// Adds the whole draw object or its points, lines or sheets to the result, as the settings ask for. The whole object
 /// is found if all its points that answer are inside, of which there must be one, or else all its lines, or else all
-/// its sheets. Parts are added as parts of a solid, of whichever class the object is.
+/// its sheets. Parts are added as parts of a solid, regardless of the class of the object.
 /// @param inside whether the object is known to be inside the frustum
 void pickDrawObject(const ObjectParts& parts, int id, const SelectionFrustrum& frustrum,
                     const CanvasPickSettings& settings, PickedObjectCollection& result, bool inside);

@@ -22,7 +22,7 @@ public:
     PhysicsMarker(const SelectablePart& part, const Vector3f& position, boost::shared_ptr<Image> image,
                   const std::vector<Vector3f>& directions);
     /// A marker with a right-handed coordinate system whose tangent is as close to a coordinate axis as a direction at
-    /// right angles to the normal can be. If the axis is parallel to the normal, the next axis takes its place.
+    /// right angles to the normal can be. If the axis is parallel to the normal, the next axis is used.
     ///
     /// With t for the tangent, n for the normal and b for n x t, the directions are
     ///

@@ -47,8 +47,14 @@ bool SceneGraphDrawObject::isValid() const
 
 void SceneGraphDrawObject::resetObject()
 {
-    m_labelledPart = -1;
+    forgetParts();
     m_parts.reset();
+}
+
+void SceneGraphDrawObject::forgetParts()
+{
+    m_labelledPart = -1;
+    m_objectPart = SelectablePart(PartSolid);
 }
 
 void SceneGraphDrawObject::mark(MarkingType action, bool on)
@@ -120,7 +126,6 @@ void SceneGraphDrawObject::setSnapVertices(const std::vector<double>& x, const s
 
 void SceneGraphDrawObject::setLabel(const std::string& name)
 {
-    m_labelledPart = -1;
     const vxbase::UString text(name);
     int part = -1;
     bool isLabelled = false;

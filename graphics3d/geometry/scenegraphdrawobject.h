@@ -64,6 +64,8 @@ protected:
     void setLabel(const std::string& name);
 
 private:
+    /// The parts have been replaced: there is no label, and the object as a whole has no marks.
+    void forgetParts();
     void setSnapVertices(const std::vector<double>& x, const std::vector<double>* y);
     bool setSubdomainLabel(int subdomain, const vxbase::UString& text);
     bool isSolid() const { return m_parts.has(PartSolid); }
@@ -85,9 +87,11 @@ void SceneGraphDrawObject::fillParts(const Record& record, vxbase::LogText<> mis
     try {
         m_parts.fill(record);
     } catch (const std::bad_alloc&) {
-        m_labelledPart = -1;
+        forgetParts();
         throw;
     }
+    // The parts have no labels yet, even if one of the following steps fails.
+    forgetParts();
 }
 
 } // namespace vxgraphics3d

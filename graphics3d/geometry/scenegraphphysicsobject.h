@@ -69,7 +69,7 @@ public:
     /// over. The change number of the node does not change, only those of the parts.
     /// @throws std::bad_cast if a mesh is not of the class that its type requires
     /// @throws std::invalid_argument or std::out_of_range if a mesh is not consistent, or for a part that does not
-    /// exist If it throws one of these, nothing has changed.
+    ///         exist. If it throws one of these, nothing has changed.
     void addMeshCollection(const vxdatacarrier::RenderMeshCollection& meshes);
     void deleteAllMeshes();
 
@@ -99,7 +99,7 @@ public:
     void markPoint(int index, MarkingType action) { mark(PartPoint, index, action, true); }
     void unmarkPoint(int index, MarkingType action) { mark(PartPoint, index, action, false); }
 
-    /// Counts a change of the node for every subdomain whose hidden mark is removed, and one more for any mark.
+    /// Counts a change of the node; for hidden marks, one more for every subdomain.
     void unmarkAllSubdomains(MarkingType action);
     void unmarkAllBoundaries(MarkingType action) { unmarkAll(PartSheet, action); }
     void unmarkAllEdges(MarkingType action) { unmarkAll(PartLine, action); }

@@ -33,7 +33,7 @@ public:
     OverlayRenderEdit2d() : OverlayCurve(TypeRenderEdit) {}
     ~OverlayRenderEdit2d() override;
 
-    /// Takes a geometry in place of the present one, and gives ids to all control points of edges that are not hidden.
+    /// Replaces the current geometry, and gives ids to all control points of edges that are not hidden.
     /// Ids are never used again; those of the previous geometry whose edge and index have a new id are unknown, and
     /// marks stay.
     /// @throws std::invalid_argument if the record is null or an edge that is not hidden is not a B-spline
@@ -70,7 +70,7 @@ public:
     /// x, y and weight of all control points of an edge, one row for each.
     void getEdgeData(int edge, std::vector<std::vector<double>>& out) const;
 
-    /// Builds the polyline of an edge again, with the present tolerance. That of a hidden edge is empty.
+    /// Builds the polyline of an edge again, with the current tolerance. That of a hidden edge is empty.
     /// @throws std::invalid_argument if the edge is not a B-spline
     void evaluateSegment(int edge);
 

@@ -62,7 +62,7 @@ bool isInside(const BoundingBox2D& box, const Vector3f& point)
     return isInside(box, static_cast<double>(point.x), static_cast<double>(point.y));
 }
 
-/// Whether the chord from a to b may stand for the curve with the given middle.
+/// Whether the chord from a to b may replace the curve with the given middle.
 bool isFlat(const Vector3f& a, const CurvePoint& middle, const Vector3f& b, double tolerance)
 {
     const double x = static_cast<double>((a.x + b.x) / 2);

@@ -32,7 +32,7 @@ public:
     ///         beyond the end.
     bool pointAlongLine(float fraction, Vector3f& position, Vector3f& normal, Vector3f& direction) const;
 
-    /// Labels the line with a new label in its middle; without vertices it gets none and loses the one it has.
+    /// Labels the line with a new label in its middle; without vertices, its label is removed.
     /// @return whether it has a label now
     bool setLabel(const vxbase::UString& text);
     void removeLabel() { m_label.remove(); }

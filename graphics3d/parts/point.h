@@ -15,7 +15,7 @@ public:
     /// Sets the position and drops all marks.
     void setPosition(float x, float y, float z) { setPosition(Vector3f(x, y, z)); }
     void setPosition(const Vector3f& position);
-    /// Labels the point with a new label; without a position it gets none and loses the one it has.
+    /// Labels the point with a new label; without a position, its label is removed.
     /// @return whether it has a label now
     bool setLabel(const vxbase::UString& text);
     void removeLabel() { m_label.remove(); }

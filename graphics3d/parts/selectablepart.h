@@ -10,7 +10,7 @@
 namespace vxgraphics3d {
 
 /// What every part of an object has that can be marked, hidden and picked by itself: its level, box, marks, and the
-/// counts of adjacent parts that decide over the marks which it gets from them.
+/// counts of adjacent parts that determine the marks which it gets from them.
 ///
 /// The levels are the dimensions 0 to 3. The adjacent parts of the lowest higher level that has any are the part's
 /// control: once all of them are hidden or unpickable, so is the part. A plain value, which its collection changes so
@@ -52,7 +52,7 @@ public:
     /// The number of adjacent parts of a level that are neither hidden nor unpickable; 1 for the part's own level.
     int getAdjacentCount(int level) const { return m_adjacentCounts.at(static_cast<std::size_t>(level)); }
     const AdjacentMarks& getAdjacentMarks() const { return m_adjacentMarks; }
-    /// Has the processor fetch the marks, which are about to change. The parts of a row are all over the memory.
+    /// Prefetches the marks, which are about to change: the parts of a row are scattered in memory.
     void prefetchMarks() const
     {
         __builtin_prefetch(&m_markFlags, 1);

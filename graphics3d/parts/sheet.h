@@ -31,7 +31,7 @@ public:
     /// The same with the unit normal of the triangle at that point.
     bool computeLabelPosition(Vector3f& position, Vector3f& normal) const;
 
-    /// Labels the sheet with a new label; without geometry it gets none and loses the one it has.
+    /// Labels the sheet with a new label; without geometry, its label is removed.
     /// @return whether it has a label now
     bool setLabel(const vxbase::UString& text);
     void removeLabel() { m_label.remove(); }

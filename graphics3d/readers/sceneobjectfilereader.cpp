@@ -30,8 +30,8 @@ constexpr int c_maxRows = 128;
 // Integers in a row of each section.
 constexpr int c_numIndices[] = {0, 4, 3, 1, 2, 2, 2};
 
-// Parts that a count promises and the file does not have take memory as well. There may be some, but not so many that a
-// short file exhausts it.
+// Parts that a count promises and the file does not have take memory as well. This many are accepted, so that a short
+// file cannot exhaust the memory.
 constexpr long c_maxMissing = 65536;
 
 TextFile openFile(std::string path)

@@ -39,31 +39,40 @@ std::vector<MeshPart> meshPartsOf(const SheetCollection& sheets)
 }
 
 /// Sheets that show the same image, or none.
-using RangesByImage = std::map<boost::shared_ptr<Image>, std::vector<PartRange>>;
+struct ImageRanges {
+    boost::shared_ptr<Image> image;
+    std::vector<PartRange> ranges;
+};
 
-RangesByImage rangesByImage(const SheetCollection& sheets, const PartPainting::Images& images)
+/// All sheets, the images in the order of the first sheets that show them.
+std::vector<ImageRanges> rangesByImage(const SheetCollection& sheets, const PartPainting::Images& images)
 {
-    RangesByImage ranges;
     const auto isUsed = [&](const auto& material) {
         const auto image = images.find(material.first);
         return image != images.end() && image->second;
     };
     if (std::ranges::none_of(sheets.getMaterials(), isUsed)) {
-        ranges[nullptr] = {{0, static_cast<std::size_t>(sheets.getNumParts())}};
-        return ranges;
+        return {{nullptr, {{0, static_cast<std::size_t>(sheets.getNumParts())}}}};
     }
+    std::vector<ImageRanges> found;
+    std::map<boost::shared_ptr<Image>, std::size_t> positions;
     for (int i = 0; i < sheets.getNumParts(); ++i) {
         const boost::shared_ptr<std::string>& material = sheets.getPart(i).getMaterial();
-        const auto image = material ? images.find(*material) : images.end();
-        std::vector<PartRange>& found = ranges[image != images.end() ? image->second : nullptr];
+        const auto named = material ? images.find(*material) : images.end();
+        const boost::shared_ptr<Image> image = named != images.end() ? named->second : nullptr;
+        const auto [position, isNew] = positions.try_emplace(image, found.size());
+        if (isNew) {
+            found.push_back({image, {}});
+        }
+        std::vector<PartRange>& ranges = found[position->second].ranges;
         const auto number = static_cast<std::size_t>(i);
-        if (!found.empty() && found.back().first + found.back().count == number) {
-            ++found.back().count;
+        if (!ranges.empty() && ranges.back().first + ranges.back().count == number) {
+            ++ranges.back().count;
         } else {
-            found.push_back({number, 1});
+            ranges.push_back({number, 1});
         }
     }
-    return ranges;
+    return found;
 }
 
 /// Adds the segments of a line, with its number as texture coordinate.

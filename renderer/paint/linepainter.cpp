@@ -28,49 +28,51 @@ centroid out float u;
 // In units of half the width: the distance from the start along the line, its length, and the distance from its middle.
 // Only round ends need it.
 out vec3 cap;
-
-// How the line looks.
-float width;
-vec2 shift;
-bool isShown;
 )";
 
 // All lines look alike, except for the colour, which may be that of their data.
-constexpr const char* c_oneLook = R"(
-void takeLook()
+constexpr const char* c_linesStart = R"(
+void main()
 {
-    width = lineWidth;
-    shift = towardsEye;
-    isShown = true;
-}
 )";
 
-// Lines are parts of an object, with their numbers instead of texture coordinates.
-constexpr const char* c_partLook = R"(
+// Lines are parts of an object, with their numbers instead of texture coordinates. Their rows say what the block says
+// of other lines, under the same names. The shader of other lines is not touched by that: drivers round a shader's
+// numbers in another way when its text differs.
+constexpr const char* c_renamed = R"(
+#define lineWidth commonWidth
+#define towardsEye commonTowardsEye
+)";
+constexpr const char* c_namedAgain = R"(
+#undef lineWidth
+#undef towardsEye
+)";
+constexpr const char* c_partsStart = R"(
 flat out vec3 partColor;
 
-void takeLook()
+void main()
 {
     PartRow row = partRows[rowOfPart(int(texturePlaces.x))];
-    width = row.size;
-    shift = row.towardsEye;
-    isShown = row.isVisible;
+    float lineWidth = row.size;
+    vec2 towardsEye = row.towardsEye;
     partColor = row.color.rgb;
-}
+    if (!row.isVisible) {
+        u = 0.0;
+        cap = vec3(0.0);
+        gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
+        return;
+    }
 )";
 
 // The part of a line in front of the near plane is cut off here: its ends are moved aside by pixels, and what lies
 // behind the eye has no position on the screen.
 constexpr const char* c_vertexMain = R"(
-void main()
-{
-    takeLook();
     vec4 a = toClip * vec4(from, 1.0);
     vec4 b = toClip * vec4(to, 1.0);
     float depthA = a.z + a.w;
     float depthB = b.z + b.w;
     vec2 places = texturePlaces;
-    if (!isShown || (depthA < 0.0 && depthB < 0.0)) {
+    if (depthA < 0.0 && depthB < 0.0) {
         u = 0.0;
         cap = vec3(0.0);
         gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
@@ -94,29 +96,18 @@ void main()
     vec2 offset = (gl_VertexID & 1) == 0 ? side : -side;
     offset += reach * (isEnd ? along : -along);
     u = isEnd ? places.y : places.x;
-    cap = roundness * vec3((isEnd ? size / width + reach : -reach), size / width,
+    cap = roundness * vec3((isEnd ? size / lineWidth + reach : -reach), size / lineWidth,
                            (gl_VertexID & 1) == 0 ? 1.0 : -1.0);
-    place.xy += width * offset / viewport * place.w;
+    place.xy += lineWidth * offset / viewport * place.w;
     // The near plane cuts lines off only where it cuts off what they lie on.
-    place.z = max((place.z + shift.x * place.w) / (1.0 + shift.y), -place.w);
+    place.z = max((place.z + towardsEye.x * place.w) / (1.0 + towardsEye.y), -place.w);
     gl_Position = place;
-}
-)";
-
-constexpr const char* c_dataColor = R"(
-vec3 lineColor(float u)
-{
-    return materialColor(u);
 }
 )";
 
 constexpr const char* c_partColor = R"(
 flat in vec3 partColor;
-
-vec3 lineColor(float u)
-{
-    return partColor;
-}
+#define materialColor(u) partColor
 )";
 
 constexpr const char* c_fragmentMain = R"(
@@ -131,7 +122,7 @@ void main()
     if (isHidden(u) || isRoundedOff) {
         discard;
     }
-    result = vec4(lineColor(u), uniformColor.a);
+    result = vec4(materialColor(u), uniformColor.a);
 }
 )";
 
@@ -151,11 +142,13 @@ struct LinePainter::LineBlock {
 };
 
 LinePainter::LinePainter()
-    : m_program("lines", (std::string(c_vertexInputs) + c_oneLook + c_vertexMain).c_str(),
-                (std::string(Material::c_source) + c_dataColor + c_fragmentMain).c_str()),
-      m_partProgram("the lines of objects",
-                    (std::string(c_vertexInputs) + PartRows::c_source + c_partLook + c_vertexMain).c_str(),
-                    (std::string(Material::c_source) + c_partColor + c_fragmentMain).c_str())
+    : m_program("lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
+                (std::string(Material::c_source) + c_fragmentMain).c_str()),
+      m_partProgram(
+          "the lines of objects",
+          (std::string(c_renamed) + c_vertexInputs + c_namedAgain + PartRows::c_source + c_partsStart + c_vertexMain)
+              .c_str(),
+          (std::string(Material::c_source) + c_partColor + c_fragmentMain).c_str())
 {
     for (const GlProgram* program : {&m_program, &m_partProgram}) {
         m_line.attach(*program);

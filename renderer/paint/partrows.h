@@ -1,8 +1,5 @@
 #pragma once
 
-#include "graphics3d/foundation/color.h"
-#include "renderer/frame/view.h"
-
 #include <epoxy/gl.h>
 
 #include <array>

@@ -157,6 +157,7 @@ TEST(EditGeometryBuilder, refusesWhatDoesNotFitTogether)
     refuseSpline([](EditSpline& s) { s.weights[1] = 0; }, "weights[1] is not a finite number above 0");
     refuseSpline([nan](EditSpline& s) { s.x[1] = nan; }, "x[1] or y[1], times its weight, is not finite");
     refuseSpline([](EditSpline& s) { s.degree = 0; }, "degree 0 is below 1");
+    refuseSpline([](EditSpline& s) { s.degree = 101; }, "degree 101 is above 100");
     refuseSpline([](EditSpline& s) { s.degree = 3; }, "controlPoints has 3 entries, which are too few for degree 3");
     refuseSpline([](EditSpline& s) { s = EditSpline(); }, "there are no control points");
     refuseSpline([](EditSpline& s) { s.knots.pop_back(); },

@@ -210,6 +210,10 @@ TEST(SceneGraphDrawObjectSolid, labelsItsLargestSubdomainOnTheLargestSheet)
     solid->fillData(record);
     EXPECT_EQ(solid->getLabelledPart(), -1);
     EXPECT_TRUE(solid->isValid());
+
+    solid->mark(c_hidden, true);
+    solid->fillData(record);
+    EXPECT_EQ(solid->getObjectPart().getMarkFlags(), 0u) << "what is shown again can be picked again";
 }
 
 TEST(SceneGraphDrawObject, refusesAnInconsistentRecordAndKeepsWhatItHas)

@@ -33,7 +33,7 @@ public final class OverlayRenderEdit2d extends OverlayCurve {
     }
 
     /**
-     * Takes a geometry in place of the present one. Marks stay.
+     * Replaces the current geometry. Marks stay.
      *
      * @param record the peer of a geometry for editing
      * @throws com.vexane.base.NativeException if the peer is not such a record, or if an edge of the record is not a

@@ -15,8 +15,8 @@ import java.util.Objects;
  * }
  * }</pre>
  *
- * <p>Nothing is shown before the plane is set. Set it first: the operations are computed for the plane of the moment
- * and stay as they are when it changes. An operation replaces the other one. A work plane cannot be picked.
+ * <p>Nothing is shown before the plane is set. Set it first: the operations are computed for the current plane and
+ * stay as they are when it changes. An operation replaces the other one. A work plane cannot be picked.
  */
 public final class SceneGraphFeatureObject extends SceneGraphObject {
     /** Makes an object without a plane that belongs to no scene. */

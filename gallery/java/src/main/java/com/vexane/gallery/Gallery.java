@@ -64,11 +64,12 @@ import com.vexane.graphics3d.Canvas3dGlobalSettings;
 import java.io.IOException;
 import java.nio.file.Files;
 import java.nio.file.Path;
+import java.util.ArrayList;
 import java.util.Arrays;
 import java.util.List;
 import java.util.stream.Collectors;
 
-/** Draws all pictures and the contact sheet, in one virtual machine and without a screen. */
+/** Draws all pictures and writes their pages, in one virtual machine and without a screen. */
 public final class Gallery {
     private static final List<Picture> PICTURES = List.of(
             new TerrainFlat(),
@@ -132,7 +133,8 @@ public final class Gallery {
             new ArcTessellation(),
             new Hardcopy());
 
-    private static final int WIDTH = 1600;
+    /** Pixels of most pictures. */
+    static final int WIDTH = 1600;
     private static final int HEIGHT = 1000;
     /** Dots per inch of the pictures: texts of 12 points are 18 pixels high. */
     private static final int RESOLUTION = 108;
@@ -168,18 +170,16 @@ public final class Gallery {
     /** Draws the named pictures, or all if no name is given, and returns their files. */
     static List<Path> draw(Path root, Path output, List<String> names, int width, int height) throws IOException {
         Files.createDirectories(output);
-        ContactSheet sheet = new ContactSheet();
-        List<Path> files = new java.util.ArrayList<>();
+        List<Example> examples = new ArrayList<>();
         Canvas3dGlobalSettings.setOnScreenResolution(RESOLUTION);
         for (Picture picture : PICTURES) {
             if (names.isEmpty() || names.contains(nameOf(picture))) {
-                List<Studio.Shot> shots = shoot(picture, root, output, width, height);
-                sheet.add(picture.getClass().getAnnotation(About.class), shots, source(picture, root));
-                shots.forEach(shot -> files.add(shot.file()));
+                examples.add(new Example(picture.getClass().getAnnotation(About.class), nameOf(picture),
+                        source(picture, root), shoot(picture, root, output, width, height)));
             }
         }
-        sheet.write(output.resolve("index.html"));
-        return files;
+        new Site(root, output, examples).write();
+        return examples.stream().flatMap(example -> example.shots().stream()).map(Studio.Shot::file).toList();
     }
 
     private static List<Studio.Shot> shoot(Picture picture, Path root, Path output, int width, int height)

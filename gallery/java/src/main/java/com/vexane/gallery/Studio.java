@@ -24,7 +24,6 @@ import java.nio.file.Files;
 import java.nio.file.Path;
 import java.util.ArrayList;
 import java.util.List;
-import java.util.Locale;
 import java.util.Map;
 
 /**
@@ -40,7 +39,8 @@ public final class Studio implements AutoCloseable {
 
     private final Path root;
     private final Path output;
-    private final String name;
+    private final Class<? extends Picture> program;
+    private final float scale;
     private final OffscreenRenderer renderer;
     /** Plots and objects; null as long as there are plots only. */
     private SceneGraphGroup objects;
@@ -60,17 +60,19 @@ public final class Studio implements AutoCloseable {
      * A picture that was saved.
      *
      * @param file its path
-     * @param caption what it shows, as opposed to the others of its program; may be empty
+     * @param caption what one sees and what the code shows; may be empty
+     * @param line the line of the program that saved it
      */
-    public record Shot(Path file, String caption) {}
+    public record Shot(Path file, String caption, int line) {}
 
     Studio(Path root, Path output, Class<? extends Picture> picture, int width, int height) {
         this.root = root;
         this.output = output;
-        this.name = picture.getSimpleName().replaceAll("(?<=[a-z0-9])(?=[A-Z])", "-").toLowerCase(Locale.ROOT);
+        this.program = picture;
         try (SceneGraphRoot sceneRoot = SceneGraphRoot.connect(scene)) {
             sceneRoot.setChild(group);
         }
+        scale = (float) width / Gallery.WIDTH;
         renderer = OffscreenRenderer.create(width, height, SAMPLES);
         renderer.setScene(scene);
         canvas = Canvas3dSettings.connect(renderer);
@@ -144,6 +146,18 @@ public final class Studio implements AutoCloseable {
     public Studio show(SceneGraphPlot plot, String title) {
         plot.setTitle(TextFormat.MARKUP, title);
         group.addPlot(plot);
+        return this;
+    }
+
+    /**
+     * Makes the pictures that follow another size than 1600 by 1000 pixels. Drafts of the gallery scale it.
+     *
+     * @param width pixels
+     * @param height pixels
+     * @return this studio
+     */
+    public Studio size(int width, int height) {
+        renderer.resize(Math.round(width * scale), Math.round(height * scale));
         return this;
     }
 
@@ -329,7 +343,7 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Draws and saves the only picture of a program.
+     * Draws and saves a picture whose caption is the title of its program.
      *
      * @throws IOException if it cannot be written
      */
@@ -338,9 +352,9 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Draws and saves one of several pictures of a program.
+     * Draws and saves a picture.
      *
-     * @param caption what this one shows
+     * @param caption what one sees and what the code shows
      * @throws IOException if it cannot be written
      */
     public void save(String caption) throws IOException {
@@ -351,13 +365,21 @@ public final class Studio implements AutoCloseable {
     /**
      * The file of the next picture of a program, for pictures that are not written by {@code save}.
      *
-     * @param caption what it shows
+     * @param caption what one sees and what the code shows
      * @return the file to write
      */
     public Path file(String caption) {
-        Path file = output.resolve(name + (caption.isEmpty() ? "" : "-" + (shots.size() + 1)) + ".png");
-        shots.add(new Shot(file, caption));
+        String number = shots.isEmpty() ? "" : "-" + (shots.size() + 1);
+        Path file = output.resolve(Example.fileName(program.getSimpleName()) + number + ".png");
+        shots.add(new Shot(file, caption, currentLine()));
         return file;
+    }
+
+    /** The line of the program that is being run. */
+    private int currentLine() {
+        return StackWalker.getInstance().walk(frames -> frames
+                .filter(frame -> frame.getClassName().equals(program.getName()))
+                .mapToInt(StackWalker.StackFrame::getLineNumber).findFirst().orElse(Integer.MAX_VALUE));
     }
 
     List<Shot> shots() {

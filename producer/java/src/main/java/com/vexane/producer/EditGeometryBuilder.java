@@ -94,7 +94,7 @@ public final class EditGeometryBuilder {
      *
      * @param startVertex the vertex at which the first control point is, or {@link #NO_VERTEX}
      * @param endVertex the vertex at which the last control point is, or {@link #NO_VERTEX}
-     * @param degree the degree, at least 1
+     * @param degree the degree, 1 to 100
      * @param knots non-decreasing, as many as control points plus the degree plus 1; an end that has a vertex begins or
      *     ends with {@code degree + 1} equal knots
      * @param x the control points in x
@@ -110,7 +110,7 @@ public final class EditGeometryBuilder {
      *
      * @param startVertex the vertex at which the first control point is, or {@link #NO_VERTEX}
      * @param endVertex the vertex at which the last control point is, or {@link #NO_VERTEX}
-     * @param degree the degree, at least 1
+     * @param degree the degree, 1 to 100
      * @param knots non-decreasing, as many as control points plus the degree plus 1; an end that has a vertex begins or
      *     ends with {@code degree + 1} equal knots
      * @param x the control points in x

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Sheet;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.Overlay;
@@ -13,8 +14,10 @@ import java.io.IOException;
 import java.util.Locale;
 
 @About(title = "An arc at three tolerances",
-        text = "The tolerance is a thousandth of the size of the geometry, which two vertices outside of the pictures "
-                + "set. An edge is halved until the middle of each segment is as close to the curve.")
+        text = "The tolerance of a tessellation is a thousandth of the size of the geometry, which two "
+                + "vertices outside of the pictures set.",
+        section = Section.OVERLAYS,
+        pages = "editing")
 public final class ArcTessellation implements Picture {
     private static final int SIDE = 600;
     private static final double[] TOLERANCES = {0.1, 0.02, 0.004};
@@ -28,9 +31,11 @@ public final class ArcTessellation implements Picture {
             drawArc(studio, tolerance);
             sheet.add(studio.renderer());
         }
-        sheet.write(studio.file(""));
+        sheet.write(studio.file("The smaller the tolerance, the more points. The names of the axes give both."));
     }
 
+    // An edge is halved until the middle of each segment is closer to the curve than the tolerance. The points of the
+    // tessellation are drawn over the curve.
     private static void drawArc(Studio studio, double tolerance) {
         EditGeometryBuilder builder = new EditGeometryBuilder();
         int arc = builder.addArc(builder.addVertex(1, 0), builder.addVertex(0, -1), 0, 0);

@@ -16,9 +16,9 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "Scaling and anchors of arrows",
-        text = "Vectors whose lengths halve from row to row, from 1 at the top to 1/128, in the five scalings (rows) and "
-                + "with the three anchors (columns). Each vector belongs to the point where the vertical line crosses its "
-                + "row. The logarithmic range is 100.")
+        text = "Vectors whose lengths halve from row to row, from 1 at the top to 1/128, in the five "
+                + "scalings and with the three anchors.",
+        pages = "plots/vector-plots")
 public final class ArrowScalings implements Picture {
     private static final int ROWS = 8;
     private static final double WIDTH = 2.2;
@@ -26,6 +26,7 @@ public final class ArrowScalings implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // The vectors of the test, and two points without vectors that extend the view to both sides.
         double[] x = new double[ROWS + 2];
         double[] y = new double[ROWS + 2];
         double[] length = new double[ROWS + 2];
@@ -36,12 +37,13 @@ public final class ArrowScalings implements Picture {
             length[i] = Math.pow(0.5, i);
             halvings[i] = i;
         }
-        // Two points without vectors extend the view to both sides.
         x[ROWS] = -WIDTH / 2;
         x[ROWS + 1] = WIDTH / 2;
         y[ROWS + 1] = HEIGHT;
-        // The vertical line is a vector of its own plot.
         double[] end = {0, 0};
+
+        // A second plot draws the vertical line as one vector without a head. The logarithmic scaling gets a range of
+        // 100: vectors shorter than a hundredth of the longest one have no length.
         try (SceneGraphPlotArrow2d plot = new SceneGraphPlotArrow2d(1);
                 SceneGraphPlotArrow2d line = new SceneGraphPlotArrow2d(2);
                 PostDataObject vectors = new PostDataBuilder(PlotKind.GENERAL).role(DataRole.VECTOR_X, 0)
@@ -71,6 +73,9 @@ public final class ArrowScalings implements Picture {
             plot.setHeadLength(0.2f);
             plot.setShaftRadius(0.025f);
             line.setCommonArrowScale(1.3f);
+
+            // Each view is drawn into a small picture, and a `Sheet` puts them together. Scalings and anchors change
+            // what a fill has made, so the fill is repeated for each.
             for (SceneGraphPlotArrow.Scaling scaling : SceneGraphPlotArrow.Scaling.values()) {
                 for (SceneGraphPlotArrow.Anchor anchor : SceneGraphPlotArrow.Anchor.values()) {
                     plot.fillPlot(vectors);
@@ -82,7 +87,9 @@ public final class ArrowScalings implements Picture {
                     sheet.add(studio.renderer());
                 }
             }
-            sheet.write(studio.file(""));
+            sheet.write(studio.file("Rows are scalings, columns are anchors. Each vector belongs to the point where "
+                    + "the vertical line crosses its row: anchors put its tail, its middle or its tip "
+                    + "there."));
         }
     }
 }

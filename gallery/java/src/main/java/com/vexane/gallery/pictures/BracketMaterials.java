@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.MarkingAction;
 import com.vexane.graphics3d.ObjectPartType;
@@ -16,13 +17,16 @@ import java.util.function.IntBinaryOperator;
 import java.util.stream.IntStream;
 
 @About(title = "Materials with images",
-        text = "The bracket as a model of two domains: brushed steel, and a bush of bronze. Each image is laid on the faces "
-                + "from the direction that they face most, and four of them fit along the longest side of the object.")
+        text = "The bracket as a model of two domains: brushed steel, and a bush of bronze.",
+        section = Section.OBJECTS,
+        pages = "geometry/building-geometry")
 public final class BracketMaterials implements Picture {
     private static final int SIDE = 256;
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // A second file has, for each face, the domains on its two sides. With them the solid becomes a geometry with
+        // domains.
         List<int[]> sides = Files.readAllLines(studio.data("bracket_domains.csv")).stream().skip(1)
                 .map(row -> IntStream.of(1, 2).map(i -> Integer.parseInt(row.split(",")[i]) - 1).toArray()).toList();
         int[] up = sides.stream().mapToInt(pair -> pair[0]).toArray();
@@ -39,10 +43,13 @@ public final class BracketMaterials implements Picture {
                 return isLight ? 0xffd9a45b : 0xffb9813a;
             }), SIDE, SIDE, 1);
             studio.show(model).hideAxes().view(-35, 25);
-            studio.save("Both domains with the images of their materials.");
+            studio.save("Both domains with the images of their materials. An image is laid on each face from the "
+                    + "direction that the face is turned to most, and four of them fit along the longest side of the "
+                    + "object.");
 
+            // Marks and materials are independent of each other.
             model.markSubdomain(1, MarkingAction.PRIMARY);
-            studio.save("A mark has priority over the material: the bush is marked.");
+            studio.save("The bush is marked: a mark has priority over the material.");
         }
     }
 

@@ -14,12 +14,15 @@ import java.io.IOException;
 import java.util.Arrays;
 import java.util.stream.IntStream;
 
-@About(title = "The mesh of the bracket",
-        text = "The mesh for the computation of its stress, coloured at each point by the worst "
-                + "quality of the tetrahedra around it.")
+@About(title = "A finite element mesh",
+        text = "The mesh on which the stress of the bracket was computed. The colour of a point is the "
+                + "lowest quality of the tetrahedra around it.",
+        pages = "plots/scalar-plots")
 public final class BracketMesh implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
+        // A record of a mesh has groups of elements of one kind: faces, then the edges that are their wireframe, then
+        // points. The points are those with a quality below 0.3.
         PlotFile file = PlotFile.read(studio.data("bracket_volume.txt"));
         double[] quality = file.smallestOfTetrahedra();
         PostDataGroup faces = new PostDataGroup().coordinates(file.coordinates()).elements(file.triangles())
@@ -33,19 +36,24 @@ public final class BracketMesh implements Picture {
         try (SceneGraphPlotMesh3d plot = new SceneGraphPlotMesh3d(1, 3);
                 PostDataObject record = new PostDataBuilder(PlotKind.MESH_3D).role(DataRole.COLOR, 0)
                         .addGroup(faces).addGroup(edges).addGroup(points).build()) {
+            studio.size(1400, 1000);
             plot.setColorTable("viridis", studio.colors("viridis"), true);
             plot.fillPlot(record);
             plot.setWireframeColor(0x202830);
+            studio.nameAxes("x in mm", "y in mm", "z in mm");
             studio.show(plot, "Quality of tetrahedra").view(-35, 25);
-            studio.save("Faces with their wireframe.");
+            studio.save("Faces in the colours of their quality, with their wireframe in one dark colour.");
 
+            // The wireframe can be switched off.
             plot.setDisplayWireframe(false);
-            studio.save("Without the wireframe.");
+            studio.save("Without the wireframe the colours are easier to compare.");
 
+            // So can the faces. The plot then has one colour, and the points of the third group become visible.
             plot.setDisplayInterior(false);
             plot.setDisplayWireframe(true);
             plot.setColor(0xd02020);
-            studio.save("Without the faces: the points whose tetrahedra are worst are cubes in the colour of the plot.");
+            studio.save("Wireframe alone. The points at the worst tetrahedra are small cubes in the colour of the "
+                    + "plot.");
         }
     }
 }

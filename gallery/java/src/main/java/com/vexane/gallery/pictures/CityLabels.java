@@ -15,8 +15,8 @@ import java.io.IOException;
 import java.util.Arrays;
 
 @About(title = "Cities of the world",
-        text = "Texts at points, with spheres to mark them. What lies in front of a city hides its name, "
-                + "and a name moves to another side of its city where it would cover the name of another.")
+        text = "Texts at points, with spheres to mark the points.",
+        pages = "plots/point-and-line-plots")
 public final class CityLabels implements Picture {
     /** Above the highest mountains of the relief. */
     private static final double RADIUS = 1.045;
@@ -36,6 +36,8 @@ public final class CityLabels implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // Latitude and longitude become points above the globe. Spheres and texts are two plots that are filled from
+        // one record.
         double[][] points = new double[3][CITIES.length];
         for (int i = 0; i < CITIES.length; ++i) {
             double latitude = Math.toRadians(CITIES[i].latitude());
@@ -60,8 +62,11 @@ public final class CityLabels implements Picture {
             names.fillPlot(record);
             names.setLabels(Arrays.stream(CITIES).map(City::name).toArray(String[]::new));
             names.setColor(0x101010);
+            studio.size(1200, 1000);
             studio.hideAxes();
-            studio.show(globe, "").show(marks, "").show(names, "").view(20, 35).save();
+            studio.show(globe, "").show(marks, "").show(names, "").view(20, 35);
+            studio.save("Cities from Reykjav\u00edk to Mumbai. What lies in front of a city hides its name, and a name "
+                    + "moves to another side of its city where it would cover another name.");
         }
     }
 }

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.Overlay;
 import com.vexane.graphics3d.OverlayDrawCurve;
@@ -16,9 +17,10 @@ import java.util.ArrayList;
 import java.util.List;
 
 @About(title = "Drawn curves",
-        text = "Edges of an overlay curve with their polygons: a straight line with two control points, an arc with three, a "
-                + "cubic curve with four. The arc below is marked with its vertices and control points. Below them a closed "
-                + "outline of all three kinds with a hole, filled.")
+        text = "Edges of overlay curves with their control polygons, of degree 1, 2 and 3, and a filled "
+                + "outline with a hole.",
+        section = Section.OVERLAYS,
+        pages = "overlays")
 public final class DrawnCurves implements Picture {
     private static final double[][] LINE = {{0, 0}, {3, 2}};
     private static final double[][] ARC = {{0, 0}, {3, 0}, {3, 3}};
@@ -75,11 +77,14 @@ public final class DrawnCurves implements Picture {
                 curve.setDisplayVertexNumbers(true);
                 curve.setDisplayEdgeNumbers(true);
             }
+
+            // Marking an edge shows its vertices and control points.
             OverlayDrawCurve marked = newCurve(overlay, 0x2ca02c);
             addChain(marked, 1, 0.8, ARC);
             marked.setMarkingColor(230, 60, 0, 255);
             marked.setEdgeMarking(0, true);
 
+            // Chains of edges that end where they begin are filled. A chain inside another one is a hole.
             OverlayDrawCurve filled = newCurve(overlay, 0x333333);
             addChain(filled, 7, 0.8, new double[][] {{0, 0}, {6, 0}}, new double[][] {{6, 0}, {8, 0}, {8, 2}},
                     new double[][] {{8, 2}, {8, 6}, {2, 0}, {2, 4}}, new double[][] {{2, 4}, {0, 4}, {0, 0}});
@@ -88,7 +93,8 @@ public final class DrawnCurves implements Picture {
             filled.setFilled(true);
             filled.setFillColor(255, 190, 90, 160);
             studio.renderer().setOverlay(overlay);
-            studio.save();
+            studio.save("Above: a straight line with two control points, an arc with three, a cubic curve with four. "
+                    + "Below: the arc marked, and an outline of all three kinds with a triangular hole.");
         } finally {
             curves.forEach(OverlayDrawCurve::close);
             curves.clear();

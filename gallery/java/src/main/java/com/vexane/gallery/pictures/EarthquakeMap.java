@@ -16,11 +16,13 @@ import java.util.Arrays;
 import java.util.Map;
 
 @About(title = "Earthquakes on a map",
-        text = "The same week as discs over the oceans, which are a surface in one colour. Radii are in "
-                + "degrees of the map.")
+        text = "The same week as discs over the oceans. The oceans are a surface in one colour.",
+        pages = "plots/point-and-line-plots")
 public final class EarthquakeMap implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
+        // Radii are in units of the axes: degrees of the map. The map begins in the Atlantic, so longitudes are shifted
+        // to its range.
         CsvFile quakes = CsvFile.read(studio.data("earth_quakes.csv"));
         double[] radii = Arrays.stream(quakes.column("magnitude")).map(m -> 0.3 * Math.pow(1.5, m)).toArray();
         double[] longitude = Arrays.stream(quakes.column("longitude")).map(EarthquakeMap::onMap).toArray();
@@ -31,13 +33,16 @@ public final class EarthquakeMap implements Picture {
                 PostDataObject map = studio.read("sea_temperature_2d.txt", PlotKind.SURFACE_2D, Map.of(DataRole.COLOR, 0));
                 PostDataObject record = new PostDataBuilder(PlotKind.GENERAL).role(DataRole.COLOR, 0)
                         .role(DataRole.RADIUS, 1).addGroup(points).build()) {
+            studio.size(1600, 900);
             sea.fillPlot(map);
             sea.setColor(0xa9c6dd);
             sea.setShowLegend(false);
             discs.setColorTable("plasma", studio.colors("plasma"), true);
             discs.fillPlot(record);
             studio.nameAxes("Longitude in degrees", "Latitude in degrees");
-            studio.show(sea, "").show(discs, "Magnitude").flat().save();
+            studio.show(sea, "").show(discs, "Magnitude").flat();
+            studio.save("Earthquakes on the borders of the Pacific. Radius and colour both show the magnitude; only "
+                    + "the discs have a legend.");
         }
     }
 

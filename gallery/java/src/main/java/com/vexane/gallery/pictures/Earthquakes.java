@@ -10,11 +10,14 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "A week of earthquakes",
-        text = "One sphere per earthquake of magnitude 1 to 6.4. The radius grows with the magnitude, "
-                + "the colour shows the depth. Spheres are round however large they are drawn.")
+        text = "One sphere per earthquake of magnitude 1 to 6.4. The radius grows with the magnitude, and "
+                + "the colour shows the depth.",
+        pages = "plots/point-and-line-plots")
 public final class Earthquakes implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
+        // Two plots are in one scene: the globe in one colour without a legend, and the spheres. `Globe.earthquakes`
+        // makes their record with the roles `COLOR` and `RADIUS`.
         try (SceneGraphPlotSurface3d globe = new SceneGraphPlotSurface3d(1);
                 SceneGraphPlotSphere3d spheres = new SceneGraphPlotSphere3d(2);
                 PostDataObject relief = PlotFile.read(studio.data("earth_relief_3d.txt")).surface3d();
@@ -25,9 +28,15 @@ public final class Earthquakes implements Picture {
             spheres.setColorTable("inferno", studio.colors("inferno"), true);
             spheres.setReverseColorTable(true);
             spheres.fillPlot(record);
+            studio.size(1200, 1000);
             studio.hideAxes();
-            studio.show(globe, "").show(spheres, "Depth in km").view(-115, 25).save("North America.");
-            studio.view(150, -5).save("The western Pacific.");
+            studio.show(globe, "").show(spheres, "Depth in km").view(-115, 25);
+            studio.save("North America, where earthquakes follow the west coast. Most of them are shallow, which is "
+                    + "yellow.");
+
+            // The renderer finds the surface of a sphere for each pixel, so spheres are round at every size.
+            studio.view(150, -5);
+            studio.save("The western Pacific, with deep earthquakes in red and black.");
         }
     }
 }

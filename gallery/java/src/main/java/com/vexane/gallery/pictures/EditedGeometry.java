@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Sheet;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.Overlay;
@@ -13,8 +14,11 @@ import com.vexane.producer.RenderDrawEdit2D;
 import java.io.IOException;
 
 @About(title = "A geometry before and after a vertex was dragged",
-        text = "Lines, arcs, an ellipse and free splines, with their control polygons. The three marked edges meet in "
-                + "vertex 3 and follow it; the arc becomes another rational curve. The others stay as they are.")
+        text = "Lines, arcs, an ellipse and free splines, with their control polygons. The three marked "
+                + "edges meet in vertex 3 and follow it; the arc becomes another rational curve. The others "
+                + "stay as they are.",
+        section = Section.OVERLAYS,
+        pages = {"editing", "overlays"})
 public final class EditedGeometry implements Picture {
     private static final int WIDTH = 900;
     private static final int HEIGHT = 800;
@@ -42,6 +46,8 @@ public final class EditedGeometry implements Picture {
             studio.renderer().draw();
             sheet.add(studio.renderer());
 
+            // A press, a drag and a release in pixels, as a mouse would make them. Moving a vertex changes the edges that end in
+            // it and marks them as modified.
             int[] pointer = picker.pixelOf(4, 4, 0);
             editing.press(pointer[0], pointer[1]);
             editing.drag(pointer[0] + 120, pointer[1] - 70);
@@ -51,7 +57,7 @@ public final class EditedGeometry implements Picture {
             studio.renderer().draw();
             sheet.add(studio.renderer());
         }
-        sheet.write(studio.file(""));
+        sheet.write(studio.file("Left before, right after: the modified edges are orange, with their control points."));
     }
 
     private static void markModified(OverlayRenderEdit2d curve) {

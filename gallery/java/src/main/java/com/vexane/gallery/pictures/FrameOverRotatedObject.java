@@ -3,6 +3,7 @@ package com.vexane.gallery.pictures;
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
 import com.vexane.gallery.PlotFile;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.Overlay;
 import com.vexane.graphics3d.OverlayTransformation;
@@ -19,9 +20,10 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "The frame over a rotated object",
-        text = "The frame of an overlay encloses a pale gear before it is moved. It is rotated, and its upper right handle "
-                + "is being dragged, so the gear is drawn again as the frame's transformation makes it. Over a bracket in "
-                + "space the frame shows all edges of the box; its handles are in the plane z = 0.")
+        text = "The frame of an overlay, in space around a bracket, and in the plane while a gear is moved "
+                + "with its handles.",
+        section = Section.OVERLAYS,
+        pages = "overlays")
 public final class FrameOverRotatedObject implements Picture {
     private static final int POINTS = 240;
 
@@ -83,7 +85,8 @@ public final class FrameOverRotatedObject implements Picture {
             bracket.fillPlot(record);
         }
         bracket.setColor(0xb8bcc4);
-        studio.show(bracket, "The frame of an object in space").view(-35, 25).save("In space");
+        studio.show(bracket, "The frame of an object in space").view(-35, 25);
+        studio.save("In space the frame shows all edges of the box; its handles are in the plane z = 0.");
     }
 
     private static void drawFlat(Studio studio, Overlay overlay, OverlayTransformation frame) throws IOException {
@@ -106,13 +109,16 @@ public final class FrameOverRotatedObject implements Picture {
             studio.camera2d().setViewLimits(-5, 14, -5, 7);
             studio.renderer().draw(); // moves the handles to the box
 
+            // A press on the upper right handle and a drag, as a mouse would make them. The interaction then has the
+            // transformation of the frame, and the gear is drawn again with it.
             double[] corner = frame.getHandlePosition(4);
             int[] pointer = picker.pixelOf(corner[0], corner[1], corner[2]);
             interaction.press(pointer[0], pointer[1]);
             interaction.drag(pointer[0] + height / 4, pointer[1] - height / 20);
             fill(after, transformed(gear(), interaction.getTransformation()), 0x9db4d8);
             studio.show(after, "");
-            studio.save("Flat");
+            studio.save("The pale gear is where it was before; the frame shows it translated, rotated and scaled, with "
+                    + "the blue gear inside.");
             interaction.release();
             contentGroup.removeAllPlots();
         }

@@ -14,14 +14,15 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "A frequency response with the unit circle",
-        text = "The open loop of a control with dead time in the complex plane, computed in the program. Outside of the unit circle "
-                + "the gain is above 1. Markers are at decades of the frequency.")
+        text = "The open loop of a control with dead time in the complex plane, for three dead times.",
+        pages = "plots/graph-plots")
 public final class FrequencyResponse implements Picture {
     private static final int POINTS = 2000;
     private static final double[] DELAYS = {0.1, 0.4, 0.8};
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // Graphs need not be functions of x: a line goes through its points in their order.
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL).role(DataRole.HEIGHT, 0);
         for (double delay : DELAYS) {
             double[] real = new double[POINTS];
@@ -37,6 +38,8 @@ public final class FrequencyResponse implements Picture {
             builder.addGroup(new PostDataGroup().coordinates(real).data(imaginary));
         }
         try (SceneGraphPlotGraph plot = new SceneGraphPlotGraph(1); PostDataObject record = builder.build()) {
+
+            // The plot can draw the unit circle. Both axes have the same scale here, so it is round.
             plot.fillPlot(record);
             plot.setCycleColor(true, 0);
             plot.setLineWidth(3);
@@ -47,10 +50,12 @@ public final class FrequencyResponse implements Picture {
             for (int i = 0; i < DELAYS.length; ++i) {
                 plot.setLegendDescription(i, "dead time " + DELAYS[i] + " s");
             }
+            studio.size(1200, 900);
             studio.nameAxes("Real part", "Imaginary part");
             studio.axes().setAxisType(AxisSetup.AxisType.GRAPH);
             studio.show(plot, "Frequency response of an open loop").flat();
-            studio.save();
+            studio.save("Outside of the unit circle the gain is above 1. The longer the dead time, the farther the "
+                    + "line turns before it enters the circle.");
         }
     }
 }

@@ -3,6 +3,7 @@ package com.vexane.gallery.pictures;
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
 import com.vexane.gallery.PlotFile;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.HardcopySettings;
@@ -11,14 +12,17 @@ import com.vexane.graphics3d.TextItem;
 import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
-@About(title = "A hardcopy at 300 dpi beside the picture on the screen",
-        text = "The screen shows the part half transparent on a shaded background. The export is 18 by 12 "
-                + "centimetres on white, with letters of its own size; its file carries resolution, title and creator.")
+@About(title = "A hardcopy at 300 dpi",
+        text = "The same scene on the screen and exported for paper, with its own size, fonts and "
+                + "background.",
+        section = Section.RECIPES,
+        pages = {"common-tasks", "renderer"})
 public final class Hardcopy implements Picture {
     private static final int DPI = 300;
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // On the screen the part is half transparent on a shaded background.
         PlotFile file = PlotFile.read(studio.data("bracket_stress_3d.txt"));
         try (SceneGraphPlotSurface3d plot = new SceneGraphPlotSurface3d(1);
                 PostDataObject record = file.surface3d();
@@ -29,8 +33,11 @@ public final class Hardcopy implements Picture {
             studio.canvas().setShadedBackground(Canvas3dSettings.RenderMode.VIEW_3D, 0x6f8fb5, 0xf4f6f8);
             studio.canvas().setShowAxisOrientationIndicator(true);
             studio.settings().setGlobalOpacity(0.6f);
-            studio.show(plot, "Stress \\sigma_{v} in MPa").view(-35, 25).save("The picture on the screen.");
+            studio.show(plot, "Stress \\sigma_{v} in MPa").view(-35, 25);
+            studio.save("The picture on the screen.");
 
+            // `HardcopySettings` say what the export shows and in which fonts. Resolution, title and creator are
+            // written into the file.
             hardcopy.setDpi(DPI);
             hardcopy.setMultisampleSetting(4);
             hardcopy.setTitleShown(true);
@@ -43,7 +50,8 @@ public final class Hardcopy implements Picture {
             hardcopy.setFileTitle("Stress in a loaded bracket");
             hardcopy.setFileCreator("Gallery");
             studio.renderer().writeHardcopy(
-                    studio.file("The export."), hardcopy, pixels(18), pixels(12));
+                    studio.file("The export: 18 by 12 centimetres at 300 dpi, on white, with letters of its own size."),
+                    hardcopy, pixels(18), pixels(12));
         }
     }
 

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Sheet;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.AxisSetup;
@@ -16,13 +17,16 @@ import com.vexane.producer.PostDataGroup;
 import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
-@About(title = "Where the legend of lines goes",
-        text = "Each row has another layout, each column another corner.")
+@About(title = "Positions of a legend",
+        text = "The legend of lines in all layouts and positions.",
+        section = Section.VIEWS,
+        pages = "plots/graph-plots")
 public final class LegendPositions implements Picture {
     private static final int POINTS = 60;
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // Three damped oscillations are the contents.
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL).role(DataRole.HEIGHT, 0);
         for (int line = 1; line <= 3; ++line) {
             double[] x = new double[POINTS];
@@ -45,6 +49,9 @@ public final class LegendPositions implements Picture {
                 plot.setLegendDescription(i, "mode " + (i + 1));
             }
             studio.show(plot, "").graph();
+
+            // A strategy chooses the layout and a position the corner. The numbers are those of the renderer; the model
+            // only stores them.
             studio.canvas().setFont(Canvas3dSettings.Text.LEGEND_TICK, "default", 8);
             studio.canvas().setFont(Canvas3dSettings.Text.AXIS_TICK, "default", 8);
             studio.renderer().resize(studio.renderer().getWidth() / 2, studio.renderer().getHeight() / 2);
@@ -58,7 +65,7 @@ public final class LegendPositions implements Picture {
                     sheet.add(studio.renderer());
                 }
             }
-            sheet.write(studio.file(""));
+            sheet.write(studio.file("Each row has another layout, each column another corner."));
         }
     }
 }

@@ -3,6 +3,7 @@ package com.vexane.gallery.pictures;
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
 import com.vexane.gallery.PlotFile;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.Canvas3dSettings;
 import com.vexane.graphics3d.PointLightSource;
@@ -12,14 +13,16 @@ import com.vexane.graphics3d.SpotLightSource;
 import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
-@About(title = "Lights that stay with the camera, and lights that stay with the scene",
-        text = "The first two pictures are lit by a lamp that is locked to the camera: turning the view moves the "
-                + "shadows over the part. Then the lamp is released where it stands: the next view shows the part "
-                + "from its dark side. Last, a lamp of each kind with its marker: white light from one direction, a "
-                + "green point and a magenta spot.")
+@About(title = "Lights that stay with the camera or with the scene",
+        text = "A light moves with the camera or stays with the scene. There are three kinds of it, each "
+                + "with a marker.",
+        section = Section.VIEWS,
+        pages = {"common-tasks", "renderer"})
 public final class LightsLockedAndFree implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
+        // A scene has ambient light and lamps. The lamp of the studio is locked to the camera; here it comes from the
+        // left, without much ambient light.
         PlotFile file = PlotFile.read(studio.data("bracket_stress_3d.txt"));
         try (SceneGraphPlotSurface3d plot = new SceneGraphPlotSurface3d(1);
                 PostDataObject record = file.surface3d();
@@ -34,11 +37,20 @@ public final class LightsLockedAndFree implements Picture {
             studio.lamp().setIntensity(0.9f);
             studio.canvas().setShowAxisOrientationIndicator(true);
             studio.show(plot, "");
-            studio.view(-35, 25).save("Locked to the camera.");
-            studio.view(-95, 25).save("The camera turned by 60 degrees: the light has come along.");
-            studio.lamp().releaseFromCamera(studio.camera3d());
-            studio.view(-35, 25).save("Released and turned back: the light has stayed.");
+            studio.view(-35, 25);
+            studio.save("Locked to the camera, the light comes from the left of the viewer.");
 
+            // The camera turns by 60 degrees.
+            studio.view(-95, 25);
+            studio.save("The light has come along: it still comes from the left of the viewer.");
+
+            // Released, the lamp keeps the direction that it has at this moment.
+            studio.lamp().releaseFromCamera(studio.camera3d());
+            studio.view(-35, 25);
+            studio.save("Turned back to the first view, the part is seen from its dark side: the light has stayed.");
+
+            // Besides directional light there are points, which shine to all sides, and spots, which shine into a cone.
+            // Markers show where they are.
             studio.lamp().setFromDirection(true, 0.2f, -0.6f, 1);
             studio.lamp().setIntensity(0.35f);
             point.setPosition(true, 100, -80, 60);
@@ -61,7 +73,8 @@ public final class LightsLockedAndFree implements Picture {
             studio.hideAxes();
             studio.view(-35, 25);
             studio.camera3d().zoomCenter(0.6f);
-            studio.save("Three kinds of light with their markers; the spot is selected.");
+            studio.save("White light from one direction, a green point and a magenta spot, with their markers. The "
+                    + "spot is selected.");
         }
     }
 }

@@ -14,8 +14,8 @@ import java.io.IOException;
 import java.util.Arrays;
 
 @About(title = "Coordinate systems along a helix",
-        text = "Red points along the helix, green to its axis and blue at right angles to both. Without data for "
-                + "colours, the three axes have those at the start, in the middle and at the end of the table.")
+        text = "Local coordinate systems at points of a helix.",
+        pages = "plots/vector-plots")
 public final class LocalAxes implements Picture {
     private static final int FRAMES = 24;
     private static final int STEPS = 8;
@@ -23,6 +23,8 @@ public final class LocalAxes implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // Tangent, normal and binormal of the helix are known in closed form. Every eighth point gets a coordinate
+        // system.
         int count = FRAMES * STEPS;
         double[][] line = new double[3][count];
         double[][] points = new double[3][FRAMES];
@@ -45,6 +47,8 @@ public final class LocalAxes implements Picture {
                 }
             }
         }
+
+        // The record has three directions per point and no lengths: all axes are equally long.
         PostDataGroup frames = new PostDataGroup().coordinates(points);
         PostDataBuilder record = new PostDataBuilder(PlotKind.GENERAL).addGroup(frames);
         for (int i = 0; i < 9; ++i) {
@@ -56,11 +60,15 @@ public final class LocalAxes implements Picture {
         PostDataBuilder helix = new PostDataBuilder(PlotKind.LINES_3D).role(DataRole.COLOR, 0)
                 .role(DataRole.RADIUS, 0)
                 .addGroup(new PostDataGroup().coordinates(line).polylineElements(count).data(radii));
+
+        // The content `COORDINATE_SYSTEMS` draws one arrow per axis where principal values have pairs. Without data for
+        // colours, the axes have those at the start, in the middle and at the end of the table.
         try (SceneGraphPlotPrincipal plot =
                         new SceneGraphPlotPrincipal(3, SceneGraphPlotPrincipal.Content.COORDINATE_SYSTEMS, 1);
                 SceneGraphPlotTube3d tube = new SceneGraphPlotTube3d(2);
                 PostDataObject systems = record.build();
                 PostDataObject lines = helix.build()) {
+            studio.size(1100, 1000);
             plot.setColorTable("red, green, blue", new double[][] {{0.9, 0.1, 0.1}, {0.1, 0.7, 0.1}, {0.1, 0.2, 0.9}},
                     false);
             plot.setShowLegend(false);
@@ -68,7 +76,8 @@ public final class LocalAxes implements Picture {
             tube.setColor(0x909090);
             tube.fillPlot(lines);
             studio.show(tube, "").show(plot, "Local axes of a helix");
-            studio.view(-55, 30).save();
+            studio.view(-55, 30);
+            studio.save("Red points along the helix, green to its axis, and blue at right angles to both.");
         }
     }
 }

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.SceneGraphPlotSurface2d;
 import com.vexane.producer.DataRole;
@@ -12,15 +13,18 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "A flat view with both axes logarithmic",
-        text = "The gain of a low-pass filter of second order over frequency and quality, computed in the program. "
-                + "On logarithmic axes a surface holds the logarithms of its coordinates; the axes label them by "
-                + "their values.")
+        text = "The gain of a low-pass filter of second order over frequency and quality factor, in a flat "
+                + "view.",
+        section = Section.VIEWS,
+        pages = {"common-tasks", "plots/graph-plots"})
 public final class LogarithmicAxes implements Picture {
     private static final int COLUMNS = 401;
     private static final int ROWS = 201;
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // On logarithmic axes a surface holds the logarithms of its coordinates, so the data are computed on a grid of
+        // logarithms.
         double[] logFrequency = new double[COLUMNS * ROWS];
         double[] logQuality = new double[COLUMNS * ROWS];
         double[] gain = new double[COLUMNS * ROWS];
@@ -36,6 +40,9 @@ public final class LogarithmicAxes implements Picture {
                 .coordinates(logFrequency, logQuality)
                 .gridElements(COLUMNS, ROWS)
                 .data(gain);
+
+        // The axes are set to be logarithmic and label positions by their values. The scales of both axes are
+        // independent of each other, and the limits of the view are logarithms too.
         try (SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
                 PostDataObject record =
                         new PostDataBuilder(PlotKind.SURFACE_2D).role(DataRole.COLOR, 0).addGroup(map).build()) {
@@ -43,6 +50,7 @@ public final class LogarithmicAxes implements Picture {
             plot.setSymmetricColorTable(true);
             plot.fillPlot(record);
             plot.setLegendLimits(-40, 40);
+            studio.size(1200, 800);
             studio.axes().setXAxisLog(true);
             studio.axes().setYAxisLog(true);
             studio.nameAxes("Frequency in Hz", "Quality factor");
@@ -50,7 +58,8 @@ public final class LogarithmicAxes implements Picture {
             studio.camera2d().setPreserveAspectRatio(false);
             studio.flat();
             studio.camera2d().setViewLimits(0.5f, 5.5f, -1.25f, 1.25f);
-            studio.save();
+            studio.save("Below 1000 Hz the gain is 0 dB (grey), above it falls off (blue). Filters of a high quality "
+                    + "factor have resonance (red).");
         }
     }
 }

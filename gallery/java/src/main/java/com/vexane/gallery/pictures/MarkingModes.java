@@ -2,12 +2,13 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.MarkingAction;
-import com.vexane.graphics3d.MarkingSetups;
 import com.vexane.graphics3d.MarkingSetups.Marking;
 import com.vexane.graphics3d.MarkingSetups.Mode;
 import com.vexane.graphics3d.MarkingSetups.Row;
+import com.vexane.graphics3d.MarkingSetups;
 import com.vexane.graphics3d.ObjectPartType;
 import com.vexane.graphics3d.SceneGraphDrawObjectFace;
 import com.vexane.producer.GeometryBuilder3D;
@@ -20,15 +21,18 @@ import java.util.List;
 import java.util.Map;
 
 @About(title = "Marks in three tables",
-        text = "A roof of five by three panels. The second panel from the left in the middle row has a primary mark, the fourth "
-                + "a secondary one, and the one between them both; a corner panel is hidden. Edges and vertices show what they "
-                + "touch.")
+        text = "Three tables say what marked parts look like. The roof of five by three panels has parts "
+                + "with primary and secondary marks.",
+        section = Section.OBJECTS,
+        pages = "geometry/draw-objects")
 public final class MarkingModes implements Picture {
     private static final int COLUMNS = 5;
     private static final int ROWS = 3;
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // The second panel from the left in the middle row gets a primary mark, the fourth a secondary one, and the one
+        // between them both. A corner panel is hidden.
         try (SceneGraphDrawObjectFace roof = new SceneGraphDrawObjectFace(1);
                 MarkingSetups markings = MarkingSetups.connect();
                 RenderDraw3D record = record()) {
@@ -39,11 +43,15 @@ public final class MarkingModes implements Picture {
             roof.markPart(ObjectPartType.SHEET, COLUMNS + 3, MarkingAction.SECONDARY);
             roof.markPart(ObjectPartType.SHEET, COLUMNS - 1, MarkingAction.HIDDEN);
             studio.show(roof).hideAxes().view(-70, 38);
-            studio.save("The first table, the one that a view uses at first.");
+            studio.save("The first table, which a view uses initially: red, blue, and green for both. The edges follow "
+                    + "the panels that they touch.");
 
+            // Each view has a marking mode, which selects the table.
             studio.renderer().setMarkingMode(Mode.THIRD);
-            studio.save("The third table, with wider lines.");
+            studio.save("The third table has wider lines.");
 
+            // The rows of a table can be changed. All views share the tables, so the former rows are kept, and set
+            // again at the end.
             Map<Row, Marking> former = new EnumMap<>(Row.class);
             for (Row row : Row.values()) {
                 former.put(row, markings.getMarking(Mode.SECOND, row));
@@ -54,7 +62,8 @@ public final class MarkingModes implements Picture {
                     new Marking(0xf6ae2d, 0xf6ae2d, 5, 0xf6ae2d, 11, 0xffffff, 2));
             markings.setMarkingHidden(Mode.SECOND, Row.SECONDARY);
             studio.renderer().setMarkingMode(Mode.SECOND);
-            studio.save("The second table with rows of our own, in which what has a secondary mark alone is hidden.");
+            studio.save("The second table with rows of our own, in which panels with a secondary mark alone are "
+                    + "hidden.");
             former.forEach((row, marking) -> {
                 if (row == Row.MESHED || row == Row.HIDDEN) {
                     markings.setMarkingHidden(Mode.SECOND, row);
@@ -69,6 +78,7 @@ public final class MarkingModes implements Picture {
         return 1.2 - 0.25 * (x - 0.5 * COLUMNS) * (x - 0.5 * COLUMNS);
     }
 
+    // The record: points, curves, sheets of triangles, and which curves bound which sheet.
     private static RenderDraw3D record() {
         GeometryBuilder3D builder = new GeometryBuilder3D();
         double[][] points = new double[3][(COLUMNS + 1) * (ROWS + 1)];

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.MarkingAction;
 import com.vexane.graphics3d.SceneGraphPhysicsObject;
@@ -11,20 +12,24 @@ import com.vexane.producer.SheetGeometry;
 import java.io.IOException;
 
 @About(title = "Numbers and directions of boundaries",
-        text = "A duct in two domains, with the numbers of all domains, boundaries and points, and arrows along the boundaries. "
-                + "The second domain and what it touches are marked; numbers have the colours of their marks.")
+        text = "A duct in two domains, with the numbers of all domains, boundaries and points, and arrows "
+                + "along the boundaries.",
+        section = Section.OBJECTS,
+        pages = {"geometry/building-geometry", "geometry/draw-objects"})
 public final class NumberedPlate implements Picture {
     private static final int STEPS = 24;
     private static final double RADIUS = 2;
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // Labels and directions are settings of the view. The second domain is marked.
         try (SceneGraphPhysicsObject model = new SceneGraphPhysicsObject(1); RenderGeom2D record = record()) {
             model.fillObject2D(record);
             model.markBoundary(1, MarkingAction.PRIMARY);
             studio.settings().setShowLabels(true);
             studio.settings().setShowLineDirections(true);
-            studio.show(model).nameAxes("x in m", "y in m").flat().save();
+            studio.show(model).nameAxes("x in m", "y in m").flat();
+            studio.save("The marked domain and what it touches are red. Numbers have the colours of their marks.");
         }
     }
 

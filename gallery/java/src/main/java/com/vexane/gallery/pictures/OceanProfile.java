@@ -19,11 +19,12 @@ import java.util.List;
 import java.util.stream.IntStream;
 
 @About(title = "Profiles with gaps and a logarithmic axis",
-        text = "The temperature of the ocean over depth, at the stations of a file. The axis of depth is logarithmic: the fill has "
-                + "made lines for it already.")
+        text = "The temperature of the ocean over depth, at the stations of a file.",
+        pages = "plots/graph-plots")
 public final class OceanProfile implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
+        // Each station is a group. The file has all of them in one table, and the stations end at different depths.
         CsvFile file = CsvFile.read(studio.data("ocean_profile.csv"));
         String[] station = file.texts("station");
         double[] depth = file.column("depth");
@@ -47,11 +48,15 @@ public final class OceanProfile implements Picture {
             for (int i = 0; i < stations.size(); ++i) {
                 plot.setLegendDescription(i, stations.get(i));
             }
+
+            // A fill makes the lines for linear and for logarithmic axes, so switching an axis needs no fill.
+            studio.size(1200, 750);
             studio.nameAxes("Depth in m", "Temperature in \u00b0C");
             studio.axes().setXAxisLog(true);
             studio.axes().setLegendLayoutStrategy(AxisSetup.LegendLayoutStrategy.RENDERER_0);
             studio.show(plot, "Temperature of the ocean over depth").graph();
-            studio.save();
+            studio.save("Warm stations cool down between 100 and 1000 m; only the Mediterranean keeps 13 degrees down "
+                    + "to its floor. The depth is on a logarithmic axis.");
         }
     }
 }

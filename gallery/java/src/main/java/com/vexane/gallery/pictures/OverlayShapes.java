@@ -3,6 +3,7 @@ package com.vexane.gallery.pictures;
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
 import com.vexane.gallery.PlotFile;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.Overlay;
 import com.vexane.graphics3d.OverlayEllipse;
@@ -20,13 +21,15 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "Shapes over a map",
-        text = "An overlay with a shape of each kind over the temperature of the sea: the region by which El Nino is "
-                + "recognised as a translucent rectangle, the warm pool of the Pacific as an ellipse, the equator as a line, "
-                + "Hawaii as a symbol and Easter Island as a point. At the lower right a rubber band is being dragged open; "
-                + "it has no colours of its own.")
+        text = "An overlay with a shape of each kind over the temperature of the sea, and a rubber band on "
+                + "the screen.",
+        section = Section.OVERLAYS,
+        pages = "overlays")
 public final class OverlayShapes implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
+        // The map is a plot of the scene. Shapes belong to an `Overlay`, which lies over the scene; a second overlay in
+        // pixels holds the rubber band.
         PlotFile file = PlotFile.read(studio.data("sea_temperature_2d.txt"));
         PostDataGroup sea = new PostDataGroup()
                 .coordinates(file.coordinates()[0], file.coordinates()[1])
@@ -49,6 +52,7 @@ public final class OverlayShapes implements Picture {
             studio.nameAxes("Longitude in degrees", "Latitude in degrees");
             studio.show(plot, "Temperature in \\degree C").flat();
 
+            // Shapes are in the coordinates of the axes. Colours include an opacity.
             equator.setStart(20, 0);
             equator.setEnd(380, 0);
             equator.setUseColor(true);
@@ -87,13 +91,17 @@ public final class OverlayShapes implements Picture {
             overlay.addOverlayObject(easterIsland, 5);
             studio.renderer().setOverlay(overlay);
 
+            // The rubber band follows a press and a drag in pixels. It has no colours of its own, so it gets those of
+            // the renderer.
             rectangle.setFilled(true);
             int width = studio.renderer().getWidth();
             int height = studio.renderer().getHeight();
             band.press(width * 60 / 100, height * 62 / 100);
             band.drag(width * 75 / 100, height * 78 / 100);
             studio.renderer().setScreenOverlay(screen);
-            studio.save();
+            studio.save("The region by which El Nino is recognised as a translucent rectangle, the warm pool of the "
+                    + "Pacific as an ellipse, the equator as a line, Hawaii as a symbol and Easter Island as a "
+                    + "point. At the lower right a rubber band is being dragged open.");
         }
     }
 }

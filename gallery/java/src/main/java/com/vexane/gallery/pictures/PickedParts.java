@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.CanvasPickSettings.Mask;
 import com.vexane.graphics3d.CanvasPickSettings.Target;
@@ -25,8 +26,11 @@ import java.util.EnumSet;
 import java.util.List;
 
 @About(title = "Picked with the mouse",
-        text = "What a click or a rectangle finds, marked in the first colour. A rectangle finds what is completely inside, and "
-                + "by itself also what is behind other faces. A click finds what it touches, the nearest first.")
+        text = "What a click or a rectangle finds, marked in the first colour. A rectangle finds what is "
+                + "completely inside, and by itself also what is behind other faces. A click finds what it "
+                + "touches, the nearest first.",
+        section = Section.OBJECTS,
+        pages = "picking")
 public final class PickedParts implements Picture {
     private static final int BODIES = 3;
 
@@ -83,7 +87,7 @@ public final class PickedParts implements Picture {
 
         /** Marks what the picture shows in the first colour, and what is behind it in the second. */
         void drawWithHidden(double[] area) throws IOException {
-            draw(Target.SHEET, area, true, "Target sheet: the faces inside that the picture shows");
+            draw(Target.SHEET, area, true, "Target sheet: the faces inside that the picture shows.");
             int[] pixels = pixels(area);
             picking.rectangle(studio.scene(), hits, pixels[0], pixels[1], pixels[2], pixels[3]);
             try (PickedObjectCollection visible = new PickedObjectCollection()) {
@@ -93,7 +97,7 @@ public final class PickedParts implements Picture {
                 PickInteraction.mark(studio.scene(), hits, MarkingAction.SECONDARY);
                 PickInteraction.unmark(studio.scene(), visible, MarkingAction.SECONDARY);
                 PickInteraction.mark(studio.scene(), visible, MarkingAction.PRIMARY);
-                studio.view(145, 25).save("The same from behind: a pick goes through, and finds the others as well");
+                studio.view(145, 25).save("The same from behind: a pick goes through, and finds the others as well.");
                 PickInteraction.unmark(studio.scene(), visible, MarkingAction.PRIMARY);
                 PickInteraction.unmark(studio.scene(), hits, MarkingAction.SECONDARY);
             }
@@ -109,8 +113,8 @@ public final class PickedParts implements Picture {
             studio.show(bracket).view(-35, 25);
             pick.drawWithHidden(area);
             studio.view(-35, 25);
-            pick.draw(Target.LINE, area, true, "Target line: the visible edges inside");
-            pick.draw(Target.POINT, area, true, "Target point: the visible vertices inside");
+            pick.draw(Target.LINE, area, true, "Target line: the visible edges inside.");
+            pick.draw(Target.POINT, area, true, "Target point: the visible vertices inside.");
 
             int x = studio.renderer().getWidth() / 2;
             int y = studio.renderer().getHeight() * 9 / 20;
@@ -123,7 +127,7 @@ public final class PickedParts implements Picture {
             PickInteraction.mark(studio.scene(), pick.hits, MarkingAction.SECONDARY);
             bracket.unmarkPart(ObjectPartType.SHEET, pick.hits.get(0).partId(), MarkingAction.SECONDARY);
             bracket.markPart(ObjectPartType.SHEET, pick.hits.get(0).partId(), MarkingAction.PRIMARY);
-            studio.save("A click at the symbol: the nearest face in the first colour, those behind it in the second");
+            studio.save("A click at the symbol: the nearest face in the first colour, those behind it in the second.");
             screen.removeOverlayObject(pointer);
             bracket.setActive(false);
         }
@@ -141,7 +145,7 @@ public final class PickedParts implements Picture {
             model.fillObject(record);
             studio.show(model);
             pick.draw(Target.SUBDOMAIN, new double[] {0.49, 0.42, 0.71, 0.74}, false,
-                    "Target subdomain: the bush is inside");
+                    "Target subdomain: the bush is inside.");
             model.setActive(false);
         }
     }
@@ -159,7 +163,7 @@ public final class PickedParts implements Picture {
         }
         studio.view(-35, 25);
         pick.draw(Target.OBJECT, new double[] {0.35, 0.08, 0.97, 0.65}, false,
-                    "Target object: those of which all vertices, edges or faces are inside");
+                    "Target object: those of which all vertices, edges or faces are inside.");
         for (SceneGraphDrawObjectSolid body : bodies) {
             body.setActive(false);
             body.close();

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.SceneGraphPlotMesh3d;
 import com.vexane.graphics3d.SceneGraphPlotPointLabel;
@@ -16,9 +17,10 @@ import java.util.Arrays;
 import java.util.stream.IntStream;
 
 @About(title = "A plate with a hole",
-        text = "Kirsch's solution for a plate that is pulled to the left and to the right: a mesh in the plane coloured by "
-                + "the stress around the hole, with principal stresses at some points. Above and below the hole the stress "
-                + "is three times that of the plate, beside it the plate is compressed.")
+        text = "Kirsch's solution for a plate with a hole that is pulled to the left and to the right: a "
+                + "mesh, principal stresses and labels in one flat view.",
+        section = Section.RECIPES,
+        pages = {"plots/scalar-plots", "plots/vector-plots", "plots/point-and-line-plots"})
 public final class PlateWithHole implements Picture {
     private static final int RINGS = 16;
     private static final int SPOKES = 48;
@@ -30,6 +32,8 @@ public final class PlateWithHole implements Picture {
     /** By axis: the principal stress, then its direction. */
     private final double[][][] principal = new double[2][3][count];
 
+    // The stress is known in closed form. Rings of points become denser towards the hole. Principal stresses and
+    // directions follow from the radial, the circumferential and the shear stress.
     public PlateWithHole() {
         for (int i = 0; i < count; ++i) {
             double r = Math.pow(OUTER_RADIUS, (double) (i / SPOKES) / RINGS);
@@ -51,7 +55,7 @@ public final class PlateWithHole implements Picture {
         }
     }
 
-    /** Triangles, then their edges as the wireframe. */
+    // A mesh in the plane: a group of triangles, then a group with their edges as the wireframe.
     private PostDataObject mesh() {
         int[][] triangles = new int[3][2 * RINGS * SPOKES];
         int[][] edges = new int[2][2 * RINGS * SPOKES + SPOKES];
@@ -75,6 +79,7 @@ public final class PlateWithHole implements Picture {
                 .build();
     }
 
+    // In the plane a principal direction has two components.
     private PostDataObject stresses() {
         // Every third spoke of every third ring.
         int[] chosen = IntStream.range(0, count).filter(i -> i / SPOKES % 3 == 1 && i % SPOKES % 3 == 0).toArray();
@@ -98,6 +103,7 @@ public final class PlateWithHole implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // The three plots lie over each other in the order in which they are shown.
         try (SceneGraphPlotMesh3d plate = new SceneGraphPlotMesh3d(1, 2);
                 SceneGraphPlotPrincipal arrows =
                         new SceneGraphPlotPrincipal(2, SceneGraphPlotPrincipal.Content.PRINCIPAL_VALUES, 2);
@@ -106,6 +112,7 @@ public final class PlateWithHole implements Picture {
                 PostDataObject stresses = stresses();
                 PostDataObject places = new PostDataBuilder(PlotKind.POINT_LABEL_2D)
                         .addGroup(new PostDataGroup().coordinates(new double[][] {{0, 0.6}, {0.6, 0}})).build()) {
+            studio.size(1200, 1000);
             plate.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plate.fillPlot(mesh);
             plate.setWireframeColor(0xb0b0b0);
@@ -118,7 +125,9 @@ public final class PlateWithHole implements Picture {
             labels.setColor(0x202020);
             studio.nameAxes("x in radii of the hole", "y in radii of the hole");
             studio.show(plate, "Stress around the hole, 1 being that of the plate").show(arrows, "").show(labels, "");
-            studio.flat().save();
+            studio.flat();
+            studio.save("Above and below the hole the stress is three times that of the plate (red), and beside it the "
+                    + "plate is compressed (blue). Arrows show the principal stresses at some points.");
         }
     }
 }

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.AxisSetup;
 import com.vexane.graphics3d.Camera2d;
@@ -14,8 +15,10 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "A polar view",
-        text = "The pressure that a row of four loudspeakers gives off, by direction and by distance in wavelengths. "
-                + "The limits of a polar view are radii.")
+        text = "The sound pressure around a row of four loudspeakers, by direction and by distance in "
+                + "wavelengths.",
+        section = Section.VIEWS,
+        pages = {"common-tasks", "camera-mathematics"})
 public final class PolarView implements Picture {
     private static final int ANGLES = 721;
     private static final int RADII = 241;
@@ -23,6 +26,7 @@ public final class PolarView implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // The pressure is the sum of four spherical waves, computed on rings around the middle.
         double[] x = new double[ANGLES * RADII];
         double[] y = new double[ANGLES * RADII];
         double[] level = new double[ANGLES * RADII];
@@ -40,6 +44,9 @@ public final class PolarView implements Picture {
             }
             level[i] = 20 * Math.log10(Math.max(1e-3, Math.hypot(real, imaginary)));
         }
+
+        // `gridElements` makes the triangles of a regular grid; here its rows are rings. The type of the axes and the
+        // mode of the camera are both polar, and the limits of the view are radii.
         PostDataGroup disc = new PostDataGroup().coordinates(x, y).gridElements(ANGLES, RADII).data(level);
         try (SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
                 PostDataObject record =
@@ -47,12 +54,14 @@ public final class PolarView implements Picture {
             plot.setColorTable("magma", studio.colors("magma"), true);
             plot.fillPlot(record);
             plot.setLegendLimits(-40, 15);
+            studio.size(1200, 1000);
             studio.nameAxes("", "Distance in wavelengths");
             studio.axes().setAxisType(AxisSetup.AxisType.POLAR);
             studio.show(plot, "Pressure level in dB").flat();
             studio.camera2d().setUseMode(Camera2d.UseMode.POLAR);
             studio.camera2d().setPolarLimits((float) FARTHEST, 0);
-            studio.save();
+            studio.save("The row is vertical. It radiates most to the left and the right, less along its own axis, and "
+                    + "hardly at all near 45 degrees.");
         }
     }
 }

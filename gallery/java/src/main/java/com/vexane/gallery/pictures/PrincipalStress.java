@@ -16,12 +16,12 @@ import java.io.IOException;
 import java.util.Arrays;
 
 @About(title = "Principal stresses in the bracket",
-        text = "At each point three pairs of arrows, which point outwards for tension and inwards for compression. "
-                + "Colours are those of the first, second and third principal stress. The edges of the faces are thin "
-                + "tubes.")
+        text = "The principal stresses in the bracket: three pairs of arrows at each point.",
+        pages = "plots/vector-plots")
 public final class PrincipalStress implements Picture {
     private static final double EDGE_RADIUS = 0.35;
 
+    // At each point, each of the three principal stresses is a length and a direction of three components.
     private static PostDataObject stresses(CsvFile file) {
         PostDataGroup points = new PostDataGroup().coordinates(file.columns("x", "y", "z"));
         PostDataBuilder record = new PostDataBuilder(PlotKind.GENERAL);
@@ -37,6 +37,7 @@ public final class PrincipalStress implements Picture {
         return record.addGroup(points).build();
     }
 
+    // The edges of the faces are thin tubes that show where the points are.
     private static PostDataObject edges(PlotFile file) {
         double[] radii = new double[file.data().length];
         Arrays.fill(radii, EDGE_RADIUS);
@@ -47,11 +48,14 @@ public final class PrincipalStress implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // A table of three colours without interpolation gives each principal stress its own: red, green and blue for
+        // the first, second and third.
         try (SceneGraphPlotPrincipal plot =
                         new SceneGraphPlotPrincipal(3, SceneGraphPlotPrincipal.Content.PRINCIPAL_VALUES, 1);
                 SceneGraphPlotTube3d frame = new SceneGraphPlotTube3d(2);
                 PostDataObject stresses = stresses(CsvFile.read(studio.data("bracket_principal.csv")));
                 PostDataObject edges = edges(PlotFile.read(studio.data("bracket_stress_3d.txt")))) {
+            studio.size(1400, 1000);
             plot.setColorTable("principal axes", new double[][] {{0.8, 0.1, 0.1}, {0.2, 0.6, 0.2}, {0.1, 0.3, 0.8}},
                     false);
             plot.setShowLegend(false);
@@ -59,8 +63,11 @@ public final class PrincipalStress implements Picture {
             plot.fillPlot(stresses);
             frame.setColor(0xb0b0b0);
             frame.fillPlot(edges);
+            studio.nameAxes("x in mm", "y in mm", "z in mm");
             studio.show(frame, "").show(plot, "Principal stresses");
-            studio.view(-35, 25).save();
+            studio.view(-35, 25);
+            studio.save("Arrows point outwards for tension and inwards for compression. The flange is pulled at its "
+                    + "upper side (red) and compressed at its lower side (blue).");
         }
     }
 }

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.SceneGraphDrawProj;
 import com.vexane.producer.ProjectionBuilder2D;
@@ -9,8 +10,10 @@ import com.vexane.producer.RenderDrawProj2D;
 import java.io.IOException;
 
 @About(title = "Projected geometry",
-        text = "A flange in a plane: what the plane cuts is in the first class, what lies behind it in the second. The points "
-                + "are vertices to snap to.")
+        text = "A flange in a plane: what the plane cuts is in the first class, what lies behind it in the "
+                + "second. The points are vertices to snap to.",
+        section = Section.OBJECTS,
+        pages = "geometry/building-geometry")
 public final class ProjectedGeometry implements Picture {
     private static final int SIDES = 96;
     private static final int BOLTS = 6;
@@ -18,9 +21,11 @@ public final class ProjectedGeometry implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // An object of projected geometry draws the classes in different colours.
         try (SceneGraphDrawProj flange = new SceneGraphDrawProj(1); RenderDrawProj2D record = record()) {
             flange.fillObject(record);
-            studio.nameAxes("x in mm", "y in mm").show(flange).flat().save();
+            studio.nameAxes("x in mm", "y in mm").show(flange).flat();
+            studio.save("What the plane cuts is red, what lies behind it is blue.");
         }
     }
 

@@ -12,13 +12,14 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "A net over the plane",
-        text = "Edges of squares in the plane, raised by height data. Heights are scaled to the width of "
-                + "the plot by the fill, and to a third of that by the height scale of the plot.")
+        text = "Edges of squares in the plane, raised and coloured by the same data.",
+        pages = "plots/point-and-line-plots")
 public final class RaisedEdges implements Picture {
     private static final int SIDE = 61;
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // A hill and a smaller hollow over a grid of points. The elements are the lines between neighbours.
         int count = SIDE * SIDE;
         double[][] points = new double[2][count];
         double[] heights = new double[count];
@@ -36,6 +37,9 @@ public final class RaisedEdges implements Picture {
                 }
             }
         }
+
+        // The fill scales heights to the width of the plot; the height scale of the plot then reduces them to about a
+        // third.
         PostDataGroup net = new PostDataGroup().coordinates(points).elements(lines).data(heights);
         try (SceneGraphPlotEdge2d edges = new SceneGraphPlotEdge2d(1);
                 PostDataObject record = new PostDataBuilder(PlotKind.GENERAL).role(DataRole.COLOR, 0)
@@ -43,7 +47,8 @@ public final class RaisedEdges implements Picture {
             edges.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             edges.fillPlot(record);
             edges.setHeightScale(0.35f);
-            studio.show(edges, "Height").view(-60, 30).save();
+            studio.show(edges, "Height").view(-60, 30);
+            studio.save("The net over the plane, with the hill in red and the hollow in blue.");
         }
     }
 }

@@ -3,6 +3,7 @@ package com.vexane.gallery.pictures;
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
 import com.vexane.gallery.PlotFile;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Sheet;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.Camera3d;
@@ -14,9 +15,10 @@ import com.vexane.graphics3d.TextFormat;
 import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
-@About(title = "What becomes of a view when its window changes shape",
-        text = "Each row is one resize behaviour: the view was made in the left window, and the same window was then "
-                + "made flat and made narrow.")
+@About(title = "Resize behaviours",
+        text = "What becomes of a view when its window changes shape.",
+        section = Section.VIEWS,
+        pages = "camera-mathematics")
 public final class ResizeBehaviours implements Picture {
     private static final int[][] SHAPES = {{400, 300}, {500, 200}, {220, 300}};
 
@@ -25,6 +27,7 @@ public final class ResizeBehaviours implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // Small pictures need small fonts and no legend.
         PlotFile file = PlotFile.read(studio.data("bracket_stress_3d.txt"));
         try (SceneGraphPlotSurface3d plot = new SceneGraphPlotSurface3d(1);
                 PostDataObject record = file.surface3d()) {
@@ -37,6 +40,9 @@ public final class ResizeBehaviours implements Picture {
             studio.canvas().setFont(Canvas3dSettings.Text.AXIS_TITLE, "default", 7);
             studio.show(plot, "");
             studio.camera3d().setProjectionType(Camera3d.ProjectionType.ORTHOGRAPHIC);
+
+            // For each behaviour the view is made in the first window, and the window is then resized. The override
+            // decides which dimension keeps its scale.
             Sheet sheet = new Sheet(SHAPES.length);
             for (ResizeBehaviour behaviour : ResizeBehaviour.values()) {
                 plot.setTitle(TextFormat.PLAIN, behaviour.toString());
@@ -51,7 +57,8 @@ public final class ResizeBehaviours implements Picture {
                     sheet.add(studio.renderer());
                 }
             }
-            sheet.write(studio.file(""));
+            sheet.write(studio.file("Each row is one behaviour: the view was made in the left window, and the same "
+                    + "window was then made flat and made narrow. Grey is outside of the pictures."));
         }
     }
 }

@@ -13,12 +13,14 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "Temperature of the sea surface in January",
-        text = "A map of the world by longitude and latitude; the continents and a stretch of the southern "
-                + "Pacific without data are holes. The values are handed over by the producer, which keeps "
-                + "their unit.")
+        text = "A map of the world by longitude and latitude. The continents, and a part of the southern "
+                + "Pacific without data, are holes in the mesh.",
+        pages = {"common-tasks", "plot-data-format"})
 public final class SeaTemperature implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
+        // `PlotFile` reads the file without scaling its values, and the producer makes the record from its arrays. So
+        // the legend shows degrees, which a plot that the library reads itself would not have.
         PlotFile file = PlotFile.read(studio.data("sea_temperature_2d.txt"));
         PostDataGroup sea = new PostDataGroup()
                 .coordinates(file.coordinates()[0], file.coordinates()[1])
@@ -29,8 +31,11 @@ public final class SeaTemperature implements Picture {
                         new PostDataBuilder(PlotKind.SURFACE_2D).role(DataRole.COLOR, 0).addGroup(sea).build()) {
             plot.setColorTable("inferno", studio.colors("inferno"), true);
             plot.fillPlot(record);
+            studio.size(1600, 900);
             studio.nameAxes("Longitude in degrees", "Latitude in degrees");
-            studio.show(plot, "Temperature in \\degree C").flat().save();
+            studio.show(plot, "Temperature in \\degree C").flat();
+            studio.save("Warm water is bright. A unit has the same length on both axes of a flat view, unless the "
+                    + "camera is set up differently.");
         }
     }
 }

@@ -15,11 +15,12 @@ import java.io.IOException;
 import java.util.List;
 
 @About(title = "Lines with a legend",
-        text = "The temperature of the sea surface over the year, at seven latitudes. Each line is a group of the record and has "
-                + "a colour, a symbol and a text in the legend.")
+        text = "The temperature of the sea surface over the year, at seven latitudes.",
+        pages = "plots/graph-plots")
 public final class SeaTemperatureYear implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
+        // Each line is a group of the record: a coordinate for x, and data with the role `HEIGHT` for y.
         CsvFile file = CsvFile.read(studio.data("sea_temperature_year.csv"));
         List<String> latitudes = file.names().subList(1, file.names().size());
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL).role(DataRole.HEIGHT, 0);
@@ -27,6 +28,9 @@ public final class SeaTemperatureYear implements Picture {
             builder.addGroup(new PostDataGroup().coordinates(file.column("month")).data(file.column(latitude)));
         }
         try (SceneGraphPlotGraph plot = new SceneGraphPlotGraph(1); PostDataObject record = builder.build()) {
+
+            // Lines get their colours and symbols in turn from a cycle. Markers are at the points of the data instead
+            // of at equal distances, and the legend has a text per line.
             plot.fillPlot(record);
             plot.setCycleColor(true, 0);
             plot.setMarkerType(true, RenderSymbol.CIRCLE);
@@ -36,12 +40,16 @@ public final class SeaTemperatureYear implements Picture {
             for (int i = 0; i < latitudes.size(); ++i) {
                 plot.setLegendDescription(i, latitudes.get(i));
             }
+            studio.size(1200, 750);
             studio.nameAxes("Month", "Temperature in \u00b0C");
+
+            // A grid line per month and every five degrees.
             studio.axes().setAutoSpacing(false);
             studio.axes().setXSpacing(1);
             studio.axes().setYSpacing(5);
             studio.show(plot, "Temperature of the sea surface over the year").graph();
-            studio.save();
+            studio.save("Northern latitudes are warmest in August and southern ones in February; near the equator the "
+                    + "temperature hardly changes.");
         }
     }
 }

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.SceneGraphDrawObjectFace;
 import com.vexane.graphics3d.SceneGraphPlotPointLabel;
@@ -17,14 +18,17 @@ import java.util.Locale;
 import java.util.stream.IntStream;
 
 @About(title = "Vertices to snap to",
-        text = "The cross section of a rail as a face. Its points are the vertices that a pointer snaps to, here with their "
-                + "coordinates from the record, in double precision.")
+        text = "The cross section of a rail as a face, with the vertices that a pointer snaps to.",
+        section = Section.OBJECTS,
+        pages = {"geometry/draw-objects", "geometry/building-geometry"})
 public final class SnapPoints implements Picture {
     private static final double[] X = {-75, 75, 75, 12, 8, 36, 36, -36, -36, -8, -12, -75};
     private static final double[] Y = {0, 0, 11, 28, 128, 141.5, 172, 172, 141.5, 128, 28, 11};
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // The face and the labels at its points are an object and a plot in one scene. The texts come from the snap
+        // points of the record, which has double precision.
         try (SceneGraphDrawObjectFace rail = new SceneGraphDrawObjectFace(1);
                 SceneGraphPlotPointLabel labels = new SceneGraphPlotPointLabel(2, 2);
                 RenderDraw2D record = record();
@@ -36,7 +40,8 @@ public final class SnapPoints implements Picture {
             labels.fillPlot(points);
             labels.setLabels(textsOf(record.getSnapPoints()));
             labels.setColor(0x203040);
-            studio.nameAxes("x in mm", "y in mm").show(labels, "").show(rail).flat().save();
+            studio.nameAxes("x in mm", "y in mm").show(labels, "").show(rail).flat();
+            studio.save("The rail in one colour of the object, with the coordinates of its vertices.");
         }
     }
 

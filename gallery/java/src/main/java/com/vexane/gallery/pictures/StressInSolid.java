@@ -3,6 +3,7 @@ package com.vexane.gallery.pictures;
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
 import com.vexane.gallery.PlotFile;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.MarkingAction;
 import com.vexane.graphics3d.ObjectPartType;
@@ -18,11 +19,13 @@ import java.io.IOException;
 import java.util.stream.IntStream;
 
 @About(title = "A plot and a solid in one scene",
-        text = "Sections of the stress in the bracket, between the faces of its back half and all of its edges there. "
-                + "Depths decide what covers what, as within one object.")
+        text = "Sections of the stress in the bracket between the faces and edges of its back half.",
+        section = Section.RECIPES,
+        pages = {"geometry/draw-objects", "plots/scalar-plots"})
 public final class StressInSolid implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
+        // The sections become one group each, as in every slice plot.
         PlotFile file = PlotFile.read(studio.data("bracket_stress_slices.txt"));
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL).role(DataRole.COLOR, 0);
         for (PlotFile slice : file.split(file.coordinates()[0])) {
@@ -40,7 +43,8 @@ public final class StressInSolid implements Picture {
             // The faces with a part before the middle plane of the bracket.
             IntStream.range(0, geometry.getNumSheets()).filter(face -> lowest(geometry.getSheet(face)[1]) < -0.1)
                     .forEach(face -> solid.markPart(ObjectPartType.SHEET, face, MarkingAction.HIDDEN));
-            studio.show(slices, "Stress \\sigma_{v} in MPa").show(solid).view(-35, 25).save();
+            studio.show(slices, "Stress \\sigma_{v} in MPa").show(solid).view(-35, 25);
+            studio.save("A plot and a solid in one scene: depths decide what covers what, as within one object.");
         }
     }
 

@@ -17,12 +17,13 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "Symbols and styles of lines",
-        text = "All symbols and styles: markers at equal distances along waves, and lines of one to six pixels in each style.")
+        text = "All symbols and all line styles of graphs.",
+        pages = "plots/graph-plots")
 public final class SymbolsAndStyles implements Picture {
     private static final int POINTS = 200;
     private static final int[] WIDTHS = {1, 2, 4, 6};
 
-    /** Waves one above the other, the first one at the top. */
+    // Waves one above the other, the first one at the top.
     private static PostDataObject waves(double top, int count) {
         PostDataBuilder builder = new PostDataBuilder(PlotKind.GENERAL).role(DataRole.HEIGHT, 0);
         for (int line = 0; line < count; ++line) {
@@ -39,6 +40,8 @@ public final class SymbolsAndStyles implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // Eight lines that begin with `CIRCLE` show all symbols in their order. Markers are at equal distances along
+        // the line.
         studio.renderer().resize(studio.renderer().getWidth() / 2, studio.renderer().getHeight());
         studio.axes().setLegendLayoutStrategy(AxisSetup.LegendLayoutStrategy.RENDERER_2);
         Sheet sheet = new Sheet(2);
@@ -57,6 +60,8 @@ public final class SymbolsAndStyles implements Picture {
             sheet.add(studio.renderer());
             symbols.setActive(false);
         }
+
+        // Four plots have lines of different widths, each in all styles.
         for (int i = 0; i < WIDTHS.length; ++i) {
             try (SceneGraphPlotGraph styles = new SceneGraphPlotGraph(2 + i);
                     PostDataObject record = waves(5 * (WIDTHS.length - i), 4)) {
@@ -74,6 +79,6 @@ public final class SymbolsAndStyles implements Picture {
         studio.graph();
         studio.renderer().draw();
         sheet.add(studio.renderer());
-        sheet.write(studio.file(""));
+        sheet.write(studio.file("Left: the symbols. Right: the styles in widths of 1, 2, 4 and 6 pixels."));
     }
 }

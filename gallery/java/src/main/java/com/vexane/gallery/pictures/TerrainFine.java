@@ -11,11 +11,14 @@ import java.io.IOException;
 import java.util.Map;
 
 @About(title = "One corner in full detail",
-        text = "70000 points are more than 16 bits can count, so the index buffer has 32 bits. The colours show "
-                + "the slope, the height the elevation.")
+        text = "One corner of the range at a higher resolution. Colour and height come from different data: "
+                + "the slope and the elevation.",
+        pages = {"vertex-layouts", "plot-data-format"})
 public final class TerrainFine implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
+        // 70000 points are more than 16 bits can count. The fill notices that and makes an index buffer of 32 bits;
+        // smaller plots have 16 bits and half the memory.
         Map<DataRole, Integer> roles = Map.of(DataRole.COLOR, 0, DataRole.HEIGHT, 1);
         try (SceneGraphPlotSurface2d plot = new SceneGraphPlotSurface2d(1);
                 PostDataObject record = studio.read("terrain_fine_2d.txt", PlotKind.SURFACE_2D, roles)) {
@@ -23,7 +26,8 @@ public final class TerrainFine implements Picture {
             plot.fillPlot(record);
             plot.setHeightScale(0.25f);
             studio.nameAxes("x in km", "y in km", "z, enlarged");
-            studio.show(plot, "Slope, 1 being the steepest").view(-120, 40).save();
+            studio.show(plot, "Slope, 1 being the steepest").view(-120, 40);
+            studio.save("Flanks are bright and valley floors dark, on a surface that is raised by the elevation.");
         }
     }
 }

@@ -13,12 +13,13 @@ import java.io.IOException;
 import java.util.stream.IntStream;
 
 @About(title = "A closed tube and a tube with ends",
-        text = "A knot on a torus, whose last line leads back to its first point, and a helix with a hemisphere at each "
-                + "end. Radius and colour are data of the points.")
+        text = "A knot on a torus, whose last line leads back to its first point, and a helix with a "
+                + "hemisphere at each end.",
+        pages = "plots/vector-plots")
 public final class Tubes implements Picture {
     private static final int POINTS = 600;
 
-    /** A tube through points whose position, colour and radius follow an angle from 0 to 2 pi. */
+    // The elements are lines from point to point. If the last one leads back to the first point, the tube is closed.
     private static PostDataObject tube(boolean closed, double[][] points, double[] colors, double[] radii) {
         int count = colors.length;
         int[] from = IntStream.range(0, closed ? count : count - 1).toArray();
@@ -28,6 +29,7 @@ public final class Tubes implements Picture {
                 .build();
     }
 
+    // Radius and colour are data of the points, so the thickness can change along the tube.
     private static PostDataObject knot() {
         double[][] points = new double[3][POINTS];
         double[] colors = new double[POINTS];
@@ -61,6 +63,7 @@ public final class Tubes implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // Both plots are filled in the same way; the record decides which tube is closed.
         try (SceneGraphPlotTube3d closed = new SceneGraphPlotTube3d(1);
                 SceneGraphPlotTube3d open = new SceneGraphPlotTube3d(2);
                 PostDataObject knot = knot();
@@ -71,11 +74,13 @@ public final class Tubes implements Picture {
             }
             open.setShowLegend(false);
             studio.show(closed, "Colour of the points").show(open, "");
-            studio.view(-70, 35).save("As filled.");
+            studio.view(-70, 35);
+            studio.save("The closed knot and the open helix, in the colour of their height.");
 
+            // A factor changes all radii. It needs no record.
             closed.setRadiusScaleFactor(0.4f);
             open.setRadiusScaleFactor(0.4f);
-            studio.save("With a smaller scale of the radius, for which no record is needed.");
+            studio.save("The same tubes with 0.4 times their radius.");
         }
     }
 }

@@ -13,12 +13,14 @@ import java.io.IOException;
 import java.util.Arrays;
 
 @About(title = "Tubes in the plane",
-        text = "The first six overtones of a string. Colour is the deflection, and the width of a band the steepness. "
-                + "The same lines with heights are tubes in space.")
+        text = "Six modes of a vibrating string. The colour is the deflection, and the width of a band the "
+                + "steepness.",
+        pages = "plots/vector-plots")
 public final class TubesFlat implements Picture {
     private static final int LINES = 6;
     private static final int POINTS = 200;
 
+    // The points have two coordinates. With the height role the same lines are raised and become tubes in space.
     private static PostDataObject overtones(boolean raised) {
         double[][] points = new double[2][LINES * POINTS];
         double[] deflections = new double[LINES * POINTS];
@@ -45,15 +47,18 @@ public final class TubesFlat implements Picture {
         try (SceneGraphPlotTube2d plot = new SceneGraphPlotTube2d(1);
                 PostDataObject flat = overtones(false);
                 PostDataObject raised = overtones(true)) {
+            studio.size(1400, 900);
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(flat);
             studio.nameAxes("position", "number of the overtone");
             studio.show(plot, "Deflection").flat();
-            studio.save("Flat bands with round ends.");
+            studio.save("Flat bands with round ends: wide and grey at the nodes, narrow and coloured between them.");
 
+            // The same plot is filled from the other record.
             plot.fillPlot(raised);
             plot.setHeightScale(0.4f);
-            studio.view(-60, 35).save("Raised by the deflection.");
+            studio.view(-60, 35);
+            studio.save("Tubes that are raised by the deflection.");
         }
     }
 }

@@ -13,11 +13,12 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "A vortex",
-        text = "The flow about a vortex with a viscous core, as arrows in the plane: at the distance r it goes round with "
-                + "the speed (1 - exp(-r^2)) / r, which is highest, 0.638, at r = 1.121.")
+        text = "The flow around a vortex with a viscous core, as arrows in the plane.",
+        pages = "plots/vector-plots")
 public final class Vortex implements Picture {
     private static final int SIDE = 25;
 
+    // At the distance r the flow goes round with the speed (1 - exp(-r^2)) / r. It is highest, 0.638, at r = 1.121.
     private static PostDataObject flow() {
         double[][] points = new double[2][SIDE * SIDE];
         double[][] velocity = new double[2][SIDE * SIDE];
@@ -40,6 +41,8 @@ public final class Vortex implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // Radii and the length of the head are fractions of the length of the longest arrow. With the anchor in the
+        // middle, each arrow turns around its point.
         try (SceneGraphPlotArrow2d plot = new SceneGraphPlotArrow2d(1); PostDataObject record = flow()) {
             plot.setColorTable("viridis", studio.colors("viridis"), true);
             plot.setShaftRadius(0.06f);
@@ -47,8 +50,11 @@ public final class Vortex implements Picture {
             plot.setHeadLength(0.4f);
             plot.fillPlot(record);
             plot.setAnchorPoint(SceneGraphPlotArrow.Anchor.CENTER);
+            studio.size(1200, 1000);
             studio.nameAxes("x", "y");
-            studio.show(plot, "Speed").flat().save();
+            studio.show(plot, "Speed").flat();
+            studio.save("The speed is highest on a ring around the core and falls off outwards; in the core there is "
+                    + "hardly any flow.");
         }
     }
 }

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.SceneGraphDrawProj;
 import com.vexane.graphics3d.SceneGraphFeatureObject;
@@ -10,13 +11,16 @@ import com.vexane.producer.RenderDrawProj2D;
 import java.io.IOException;
 
 @About(title = "Work planes",
-        text = "A drawing in a work plane and what is to be made of it: a bracket by extrusion to two heights, and a vase by "
-                + "revolution. The grid of a plane has cells that are about square.")
+        text = "A drawing in a work plane and what is to be made of it: a bracket by extrusion, and a vase "
+                + "by revolution.",
+        section = Section.OBJECTS,
+        pages = "geometry/building-geometry")
 public final class WorkPlanes implements Picture {
     private static final int ARC = 16;
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // The plane is given by its origin, two directions and its extent. Its grid has cells that are about square.
         studio.hideAxes().settings().setShowLabels(true);
         try (SceneGraphFeatureObject plane = new SceneGraphFeatureObject();
                 SceneGraphDrawProj drawing = new SceneGraphDrawProj(1)) {
@@ -26,14 +30,16 @@ public final class WorkPlanes implements Picture {
                 drawing.fillObject(record);
             }
             plane.setExtrude(new float[] {1, 45, -15});
-            studio.view(-60, 30).save("Extrusion");
+            studio.view(-60, 30);
+            studio.save("A bracket and the two directions of its extrusion, with the three axes of the plane.");
 
             plane.setWorkPlane(new float[] {0, 0, 0, 1, 0, 0, 0, 1, 0, -50, 50, 0, 120});
             try (RenderDrawProj2D record = vase()) {
                 drawing.fillObject(record);
             }
             plane.setRevolve(new float[] {0, 0, 0, 1});
-            studio.view(-60, 40).save("Revolution");
+            studio.view(-60, 40);
+            studio.save("The outline of a vase with its mirror image and the axis of revolution.");
         }
     }
 
