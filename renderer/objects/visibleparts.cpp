@@ -59,7 +59,7 @@ Pickables pickablesOf(std::span<const ObjectItem> objects)
 /// The part of a line's samples by which it counts as shown.
 constexpr GLuint c_shownPart = 4;
 
-/// What stands for a result in an object: parts of one level.
+/// The parts of an object, all of one level, by which a result is judged.
 struct Shape {
     const Pickable& object;
     ObjectPartType level;
