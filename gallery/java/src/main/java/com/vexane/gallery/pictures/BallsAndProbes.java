@@ -18,7 +18,7 @@ import java.io.IOException;
 @About(title = "Balls, boxes and probes",
         text = "With a ball and a box a program shows what it will select. A probe has a point and a line.",
         section = Section.OBJECTS,
-        pages = "geometry/draw-objects")
+        pages = "geometry/construction")
 public final class BallsAndProbes implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {

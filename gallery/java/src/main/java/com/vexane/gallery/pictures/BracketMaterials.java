@@ -19,7 +19,7 @@ import java.util.stream.IntStream;
 @About(title = "Materials with images",
         text = "The bracket as a model of two domains: brushed steel, and a bush of bronze.",
         section = Section.OBJECTS,
-        pages = "geometry/building-geometry")
+        pages = {"geometry/physics-object", "geometry/marking"})
 public final class BracketMaterials implements Picture {
     private static final int SIDE = 256;
 

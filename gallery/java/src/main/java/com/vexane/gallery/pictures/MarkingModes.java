@@ -24,7 +24,7 @@ import java.util.Map;
         text = "Three tables say what marked parts look like. The roof of five by three panels has parts "
                 + "with primary and secondary marks.",
         section = Section.OBJECTS,
-        pages = "geometry/draw-objects")
+        pages = {"geometry/marking", "geometry/draw-objects"})
 public final class MarkingModes implements Picture {
     private static final int COLUMNS = 5;
     private static final int ROWS = 3;

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.MarkingAction;
 import com.vexane.graphics3d.ObjectPartType;
@@ -19,7 +20,10 @@ import java.util.List;
 import java.util.stream.IntStream;
 
 @About(title = "How marks spread",
-        text = "A model in the plane, of six domains, and below it one on an axis, of three. Every part has its number.")
+        text = "A model in the plane, of six domains, and below it one on an axis, of three. Every part has "
+                + "its number.",
+        section = Section.OBJECTS,
+        pages = "geometry/marking")
 public final class MarkingRules implements Picture {
     private static final int COLUMNS = 3;
     private static final int ROWS = 2;

@@ -2,6 +2,7 @@ package com.vexane.gallery.pictures;
 
 import com.vexane.gallery.About;
 import com.vexane.gallery.Picture;
+import com.vexane.gallery.Section;
 import com.vexane.gallery.Studio;
 import com.vexane.graphics3d.MarkingAction;
 import com.vexane.graphics3d.ObjectPartType;
@@ -16,8 +17,11 @@ import java.util.stream.IntStream;
 import java.util.stream.Stream;
 
 @About(title = "Markers and connectors",
-        text = "The bracket as a model with its physics: icons alone, with the normal of a face, with given directions and with "
-                + "a coordinate system around the normal, and a connector between two faces.")
+        text = "The bracket as a model with its physics: icons alone, with the normal of a face, with given "
+                + "directions and with a coordinate system around the normal, and a connector between two "
+                + "faces.",
+        section = Section.OBJECTS,
+        pages = "geometry/physics-object")
 public final class ModelMarkers implements Picture {
     private static final int ICON = 28;
 

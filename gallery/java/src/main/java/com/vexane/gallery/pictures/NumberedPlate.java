@@ -15,7 +15,7 @@ import java.io.IOException;
         text = "A duct in two domains, with the numbers of all domains, boundaries and points, and arrows "
                 + "along the boundaries.",
         section = Section.OBJECTS,
-        pages = {"geometry/building-geometry", "geometry/draw-objects"})
+        pages = {"geometry/physics-object", "geometry/building-geometry"})
 public final class NumberedPlate implements Picture {
     private static final int STEPS = 24;
     private static final double RADIUS = 2;

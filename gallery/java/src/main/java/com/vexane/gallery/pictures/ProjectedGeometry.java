@@ -13,7 +13,7 @@ import java.io.IOException;
         text = "A flange in a plane: what the plane cuts is in the first class, what lies behind it in the "
                 + "second. The points are vertices to snap to.",
         section = Section.OBJECTS,
-        pages = "geometry/building-geometry")
+        pages = "geometry/construction")
 public final class ProjectedGeometry implements Picture {
     private static final int SIDES = 96;
     private static final int BOLTS = 6;

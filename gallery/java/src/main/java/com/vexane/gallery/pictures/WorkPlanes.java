@@ -14,7 +14,7 @@ import java.io.IOException;
         text = "A drawing in a work plane and what is to be made of it: a bracket by extrusion, and a vase "
                 + "by revolution.",
         section = Section.OBJECTS,
-        pages = "geometry/building-geometry")
+        pages = "geometry/construction")
 public final class WorkPlanes implements Picture {
     private static final int ARC = 16;
 
