@@ -41,9 +41,8 @@ public:
 
     /// Picks what the square around the pointer touches, which has the picking tolerance on each side. The nearest
     /// comes first: sheets that the pixel under the pointer shows before everything that is only near to it; then in
-    /// the order of the way to the part, which is the depth of its point nearest to the pointer, and the distance from
-    /// there to the line through the pixel. Nodes that are not known here answer as `Scene::getSelection` asks them,
-    /// after all others.
+    /// the order of the depth of the point of the part nearest to the pointer, and of the distance from there to the
+    /// line through the pixel. Nodes that are not known here are found as by `Scene::getSelection`, after all others.
     int click(const vxgraphics3d::Scene& scene, vxgraphics3d::PickedObjectCollection& result, int x, int y) const;
     /// Picks what is completely inside the rectangle between two pixels, which belong to it, in the order of the tree:
     /// the result of `Scene::getSelection`.

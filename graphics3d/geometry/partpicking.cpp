@@ -87,8 +87,8 @@ void addPartsOf(int target, const ObjectParts& parts, const Region& region, Add 
     }
 }
 
-/// Whether all parts of a collection that answer are inside.
-/// @param ofNone the result if none of them answers
+/// Whether all pickable parts of a collection are inside.
+/// @param ofNone the result if none of them can be picked
 template <class Parts>
 bool holdsAll(const Parts& parts, const Region& region, bool ofNone)
 {
@@ -177,7 +177,7 @@ void addWholeSubdomains(const ObjectParts& parts, Add add)
     }
 }
 
-/// Calls `add` for each subdomain whose sheets that answer are all inside. Each sheet is tested once, however many
+/// Calls `add` for each subdomain whose pickable sheets are all inside. Each sheet is tested once, however many
 /// subdomains it bounds. Marks of the subdomains themselves are not considered.
 template <class Add>
 void addEnclosedSubdomains(const ObjectParts& parts, const Region& region, Add add)

@@ -82,7 +82,7 @@ public:
     /// @throws std::out_of_range if there is no such mode
     void setMarkingMode(vxgraphics3d::MarkingSetups::MarkingMode mode);
     /// Draws an overlay over the scene, in the coordinates of the scene, or none for null. Shapes are drawn through
-    /// whatever is in front of them. With logarithmic axes the coordinates are logarithms.
+    /// everything in front of them. With logarithmic axes the coordinates are logarithms.
     void setOverlay(boost::shared_ptr<vxgraphics3d::Overlay> overlay) { m_overlay = std::move(overlay); }
     /// Draws an overlay over the whole picture, in pixels from its top left corner, or none for null. It is not part of
     /// exports.

@@ -31,7 +31,7 @@ struct ShapeContext {
     std::vector<SceneLabel>& labels;
 };
 
-/// Draws the shapes of overlays: over each other in the order of the list, and over whatever is there.
+/// Draws the shapes of overlays: over each other in the order of the list, and over everything else.
 ///
 /// A shape is filled first, then outlined. An object that does not use its own colours is drawn in black or white,
 /// whichever contrasts with the background, and its fill lets a quarter of that through. Sizes are pixels of the
