@@ -65,9 +65,9 @@ public final class PickInteraction extends NativePeer {
 
     /**
      * Picks what a click touches: the parts, or the objects, that are in the pixel under the pointer or not further from
-     * it than the picking tolerance. Sheets that the pixel itself shows come first. Otherwise the order is that of the
-     * way to the part: the depth of the point of the part that is nearest to the pointer, and the distance from there to
-     * the line of sight.
+     * it than the picking tolerance. Sheets that the pixel itself shows come first. Otherwise the order is that of
+     * the depth of the point of the part that is nearest to the pointer, and of the distance from there to the line of
+     * sight.
      *
      * @param scene the scene that the view shows
      * @param result the list, whose contents are replaced
