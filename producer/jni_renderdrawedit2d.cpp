@@ -163,8 +163,8 @@ VX_NATIVE(jobjectArray, RenderDrawEdit2D, tessellate)
         vxgraphics3d::SplineTessellator tessellator;
         std::vector<std::vector<double>> rows(2);
         for (const auto& point : tessellator.tessellate(source, tolerance, everything)) {
-            rows[0].push_back(double{point.x});
-            rows[1].push_back(double{point.y});
+            rows[0].push_back(static_cast<double>(point.x));
+            rows[1].push_back(static_cast<double>(point.y));
         }
         return toJavaNew(env, rows);
     });
