@@ -31,7 +31,7 @@ boost::shared_ptr<Record> makeRecord()
         const double x = i % c_side;
         const double y = i / c_side;
         record->m_vertices.push_back({.x = x, .y = y});
-        const auto shift = [&] { return double{random.uniform(-2, 2)}; };
+        const auto shift = [&] { return static_cast<double>(random.uniform(-2, 2)); };
         EditEdge edge = editEdge(
             3, {{x, y, 1}, {x + shift(), y, 2}, {x + shift(), y + 0.5, 0.5}, {x + shift(), y + 1, 1}, {x, y, 1}});
         edge.m_startVertex = edge.m_endVertex = i / 4 * 4;
@@ -51,7 +51,8 @@ void collectParameters(const EditEdge& edge, double u, double v, double toleranc
     };
     const CurvePoint middle = curvePoint(edge, m);
     const Vector3f chord = (at(u) + at(v)) / 2.0f;
-    if (std::max(std::abs(middle.x - double{chord.x}), std::abs(middle.y - double{chord.y})) > tolerance) {
+    if (std::max(std::abs(middle.x - static_cast<double>(chord.x)), std::abs(middle.y - static_cast<double>(chord.y))) >
+        tolerance) {
         collectParameters(edge, u, m, tolerance, parameters);
         collectParameters(edge, m, v, tolerance, parameters);
     }

@@ -91,8 +91,8 @@ TEST(EditGeometryBuilder, buildsArcsOfWholeAndPartialEllipses)
         double turned = 0;
         double before = -2.5;
         for (int i = 0; i < count; ++i, xyz += 3) {
-            const double dx = double{xyz[0]} - ellipse.centreX;
-            const double dy = double{xyz[1]} - ellipse.centreY;
+            const double dx = static_cast<double>(xyz[0]) - ellipse.centreX;
+            const double dy = static_cast<double>(xyz[1]) - ellipse.centreY;
             const double u = (dx * std::cos(ellipse.angle) + dy * std::sin(ellipse.angle)) / ellipse.semiAxisX;
             const double v = (dy * std::cos(ellipse.angle) - dx * std::sin(ellipse.angle)) / ellipse.semiAxisY;
             EXPECT_NEAR(std::hypot(u, v), 1, 2e-6) << edge << ' ' << i;

@@ -37,9 +37,9 @@ inline EditEdge randomEdge(RandomNumbers& random, int degree)
     std::vector<std::array<double, 3>> points(static_cast<std::size_t>(degree + random.integer(1, 8)));
     const float range = random.uniform(0, 6);
     for (auto& [x, y, w] : points) {
-        x = double{random.uniform(0, 1)};
-        y = double{random.uniform(0, 1)};
-        w = std::pow(10.0, double{random.uniform(-range, range)});
+        x = static_cast<double>(random.uniform(0, 1));
+        y = static_cast<double>(random.uniform(0, 1));
+        w = std::pow(10.0, static_cast<double>(random.uniform(-range, range)));
     }
     EditEdge edge = editEdge(degree, points);
     const std::size_t last = edge.m_knots.size() - static_cast<std::size_t>(degree) - 2;

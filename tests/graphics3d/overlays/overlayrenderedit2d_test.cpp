@@ -144,7 +144,7 @@ TEST(OverlayRenderEdit2d, movesAControlPointWithoutVertexAlone)
     EXPECT_EQ(pointOf(curve, 4, 0), (std::vector<double>{0, 9, 1}));
     EXPECT_EQ(pointOf(curve, 1, 1), (std::vector<double>{4, -7, 2}));
     EXPECT_EQ(polylineOf(curve, 4).front(), Vector3f(0.0f, 9.0f, 0.0f));
-    EXPECT_EQ(curve.getTolerance(), double{std::sqrt(16.0f * 4.0f)} / 1000) << "the limits follow";
+    EXPECT_EQ(curve.getTolerance(), static_cast<double>(std::sqrt(16.0f * 4.0f)) / 1000) << "the limits follow";
     EXPECT_TRUE(std::none_of(record->m_vertices.begin(), record->m_vertices.end(),
                              [](const Record::Vertex& vertex) { return vertex.m_modified; }));
     EXPECT_FALSE(curve.isEdgeModified(0));
@@ -180,8 +180,8 @@ TEST(OverlayRenderEdit2d, marksEdgesWithTheirVerticesAndKeepsMarksOverAnotherRec
 /// An edit at random: a vertex, or a control point.
 void editSomething(RandomNumbers& random, OverlayRenderEdit2d& curve)
 {
-    const double x = double{random.uniform(-1, 2)};
-    const double y = double{random.uniform(-1, 2)};
+    const double x = static_cast<double>(random.uniform(-1, 2));
+    const double y = static_cast<double>(random.uniform(-1, 2));
     if (random.integer(0, 1) == 0) {
         curve.setVertex(random.integer(0, curve.getNVertices() - 1), x, y);
     } else {
@@ -196,7 +196,7 @@ TEST(OverlayRenderEdit2d, keepsPolylinesEqualToAnEvaluationAtTheToleranceOfTheir
     for (int run = 0; run < 30; ++run) {
         const auto record = boost::make_shared<Record>();
         for (int i = 0; i < 5; ++i) {
-            addVertex(*record, double{random.uniform(0, 1)}, double{random.uniform(0, 1)});
+            addVertex(*record, static_cast<double>(random.uniform(0, 1)), static_cast<double>(random.uniform(0, 1)));
         }
         for (int i = 0; i < 12; ++i) {
             addEdge(*record, randomEdge(random, 1 + i), random.integer(-1, 4), random.integer(-1, 4));

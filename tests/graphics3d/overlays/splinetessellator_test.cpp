@@ -37,17 +37,17 @@ std::vector<Vector3f> polylineOf(const EditEdge& edge, double tolerance, const B
 /// The definition of the B-spline of a degree at a knot, where 0 / 0 is 0.
 long double basis(const EditEdge& edge, std::size_t i, int degree, long double u)
 {
-    const auto& knots = edge.m_knots;
+    const auto knot = [&](std::size_t index) { return static_cast<long double>(edge.m_knots[index]); };
     if (degree == 0) {
-        const bool isLast = knots[i] < knots[i + 1] && knots[i + 1] == knots.back() && u == knots.back();
-        return (knots[i] <= u && u < knots[i + 1]) || isLast ? 1 : 0;
+        const long double last = knot(edge.m_knots.size() - 1);
+        const bool isLast = knot(i) < knot(i + 1) && knot(i + 1) == last && u == last;
+        return (knot(i) <= u && u < knot(i + 1)) || isLast ? 1 : 0;
     }
     const auto part = [&](long double above, long double below, std::size_t next) {
         return below == 0 ? 0 : above / below * basis(edge, next, degree - 1, u);
     };
     const std::size_t end = i + static_cast<std::size_t>(degree);
-    return part(u - knots[i], static_cast<long double>(knots[end]) - knots[i], i) +
-           part(knots[end + 1] - u, static_cast<long double>(knots[end + 1]) - knots[i + 1], i + 1);
+    return part(u - knot(i), knot(end) - knot(i), i) + part(knot(end + 1) - u, knot(end + 1) - knot(i + 1), i + 1);
 }
 
 TEST(SplineTessellator, evaluatesTheDefinitionOfRationalSplines)
@@ -56,12 +56,12 @@ TEST(SplineTessellator, evaluatesTheDefinitionOfRationalSplines)
     for (int degree = 1; degree <= 12; ++degree) {
         const EditEdge edge = randomEdge(random, degree);
         for (const float at : {0.0f, random.uniform(0, 1), std::floor(random.uniform(0, 4)) / 4, 1.0f}) {
-            const double u = edge.m_knots.back() * double{at};
+            const double u = edge.m_knots.back() * static_cast<double>(at);
             std::array<long double, 3> sums = {};
             for (std::size_t i = 0; i < edge.m_controlPoints[0].size(); ++i) {
-                const long double value = basis(edge, i, degree, u);
+                const long double value = basis(edge, i, degree, static_cast<long double>(u));
                 for (std::size_t row = 0; row < 3; ++row) {
-                    sums[row] += value * edge.m_controlPoints[row][i];
+                    sums[row] += value * static_cast<long double>(edge.m_controlPoints[row][i]);
                 }
             }
             const CurvePoint point = curvePoint(edge, u);
@@ -133,16 +133,17 @@ public:
     }
     bool isInside(const CurvePoint& point) const
     {
-        return point.x >= double{m_box.m_xMin} && point.x <= double{m_box.m_xMax} && point.y >= double{m_box.m_yMin} &&
-               point.y <= double{m_box.m_yMax};
+        return point.x >= static_cast<double>(m_box.m_xMin) && point.x <= static_cast<double>(m_box.m_xMax) &&
+               point.y >= static_cast<double>(m_box.m_yMin) && point.y <= static_cast<double>(m_box.m_yMax);
     }
-    bool isInside(double u) const { return isInside({double{at(u).x}, double{at(u).y}}); }
+    bool isInside(double u) const { return isInside({static_cast<double>(at(u).x), static_cast<double>(at(u).y)}); }
     /// How far the middle of a part is from that of its chord, in x or y.
     double deviation(double u, double v) const
     {
         const CurvePoint middle = curvePoint(m_edge, (u + v) / 2);
         const Vector3f mean = (at(u) + at(v)) / 2.0f;
-        return std::max(std::abs(middle.x - double{mean.x}), std::abs(middle.y - double{mean.y}));
+        return std::max(std::abs(middle.x - static_cast<double>(mean.x)),
+                        std::abs(middle.y - static_cast<double>(mean.y)));
     }
 
 private:
@@ -176,7 +177,7 @@ TEST(SplineTessellator, equalsTheRecursionAndKeepsTheTolerance)
         const EditEdge edge = randomEdge(random, 1 + run % 12);
         const float side = run % 3 == 0 ? 0.5f : 1.0f;
         const BoundingBox2D box = boxOf(0, side, 0, side);
-        const double tolerance = std::pow(10.0, double{random.uniform(-4, -1)});
+        const double tolerance = std::pow(10.0, static_cast<double>(random.uniform(-4, -1)));
         const std::vector<Vector3f>& polyline = tessellator.tessellate(edge, tolerance, box);
         const Recursion recursion(edge, tolerance, box);
         ASSERT_EQ(polyline.size(), recursion.parameters().size()) << run;
