@@ -46,7 +46,7 @@ class GalleryTest {
         SiteTest.checkPages(folder, files);
         SiteTest.checkOrder(folder.resolve("terrain-contours.html"), "fillPlot(lineRecord);", "\"terrain-contours.png\"",
                 "fillPlot(bandRecord);", "\"terrain-contours-2.png\"", "fillPlot(spatialRecord);",
-                "\"terrain-contours-3.png\"", "Each line lies at the height of its level.", "Contours.java", "scalar-plots");
+                "\"terrain-contours-3.png\"", "Each line lies at the height of its level.", "Contours.java", "scalar");
     }
 
     /** How many pixels differ in two pictures of equal size. */
