@@ -190,6 +190,16 @@ private:
     int m_numSheets;
 };
 
+template <class Record>
+void checkPointsAndCurves(const Record& record, ObjectPartType highest)
+{
+    checkArray(record.m_points, record.m_numPoints, "points");
+    if (highest >= PartLine) {
+        checkArray(record.m_curves, record.m_numCurves, "curves");
+        checkCurves(record.m_curves, record.m_numCurves);
+    }
+}
+
 } // namespace
 
 void checkSnapCoordinates(const Geometry2D& record)
@@ -213,21 +223,13 @@ void checkMeshes(const RenderMeshCollection& meshes, int numLines, int numSheets
 
 void checkRecord(const Geometry1D& record, ObjectPartType highest)
 {
-    checkArray(record.m_points, record.m_numPoints, "points");
-    if (highest >= PartLine) {
-        checkArray(record.m_curves, record.m_numCurves, "curves");
-        checkCurves(record.m_curves, record.m_numCurves);
-    }
+    checkPointsAndCurves(record, highest);
     checkRelations(record, highest);
 }
 
 void checkRecord(const Geometry2D& record, ObjectPartType highest)
 {
-    checkArray(record.m_points, record.m_numPoints, "points");
-    if (highest >= PartLine) {
-        checkArray(record.m_curves, record.m_numCurves, "curves");
-        checkCurves(record.m_curves, record.m_numCurves);
-    }
+    checkPointsAndCurves(record, highest);
     if (highest >= PartSheet) {
         checkArray(record.m_sheets, record.m_numSheets, "sheets");
         checkSheets(record.m_sheets, record.m_numSheets);
@@ -237,11 +239,7 @@ void checkRecord(const Geometry2D& record, ObjectPartType highest)
 
 void checkRecord(const Geometry3D& record, ObjectPartType highest)
 {
-    checkArray(record.m_points, record.m_numPoints, "points");
-    if (highest >= PartLine) {
-        checkArray(record.m_curves, record.m_numCurves, "curves");
-        checkCurves(record.m_curves, record.m_numCurves);
-    }
+    checkPointsAndCurves(record, highest);
     if (highest >= PartSheet) {
         checkArray(record.m_sheets, record.m_numSheets, "sheets");
         checkSheets(record.m_sheets, record.m_numSheets);

@@ -217,7 +217,7 @@ private:
         }
     }
 
-    /// Black or white, whichever can be told from a colour.
+    /// Black on light colours, white on dark ones.
     static Color contrastTo(const Color& color)
     {
         const int luminance = 3 * color.red + 6 * color.green + color.blue;
