@@ -15,6 +15,7 @@
 #include "renderer/canvas/glrendererinfo.h"
 #include "renderer/canvas/pngencoder.h"
 #include "renderer/gl/target.h"
+#include "renderer/scene/scenefit.h"
 #include "renderer/scene/sceneitems.h"
 #include "renderer/scene/scenerenderer.h"
 
@@ -28,17 +29,6 @@ namespace vxrenderer {
 namespace {
 
 using namespace vxgraphics3d;
-
-/// A box is not made smaller than this part of its area to leave space for labels.
-constexpr float c_smallestPart = 0.5f;
-
-/// How much larger a view has to be, so that what fills the area fills its inner part.
-float scaleToInner(const SceneArea& area)
-{
-    const auto part = [](int inner, int whole) { return static_cast<float>(inner) / static_cast<float>(whole); };
-    return 1.0f / std::max(c_smallestPart, std::min(part(area.inner.width, area.whole.width),
-                                                    part(area.inner.height, area.whole.height)));
-}
 
 /// Whether a pixel of the camera's area has the same size in the world however large the area is.
 template <class Camera>
@@ -253,20 +243,15 @@ void OffscreenCanvas::zoomExtents()
         return;
     }
     const Appearance look = appearance();
-    const FrameLayout layout = m_renderer->layOut(frameOf(camera(), look), getWidth(), getHeight());
-    const SceneArea& area = layout.area;
-    const BoundingBox& box = layout.box;
-    if (area.whole.isEmpty() || !box.isValid()) {
+    const Frame frame = frameOf(camera(), look);
+    const FrameLayout layout = m_renderer->layOut(frame, getWidth(), getHeight());
+    if (layout.area.whole.isEmpty() || !layout.box.isValid()) {
         return;
     }
-    if (renderModeOf(*m_settings) == Canvas3dSettings::RenderMode2d) {
-        m_settings->camera2d()->moveToBoundingBox(box, Canvas3dGlobalSettings::getInstance()->getZoomToExtentMargin());
+    if (frame.isFlat()) {
+        fitCamera(*m_settings->camera2d(), layout);
     } else {
-        Camera3d& camera = *m_settings->camera3d();
-        camera.setRotationPoint(box.getCenter());
-        camera.moveToBoundingBox(box, box, 0.0f);
-        camera.setAdditionalScale(0.5f, 0.5f, scaleToInner(area));
-        camera.mergeAdditionalTransformation();
+        fitCamera(*m_settings->camera3d(), frame, layout);
     }
 }
 

@@ -91,8 +91,9 @@ public:
     /// node that no longer exists counts as null.
     void setFramedNode(const boost::shared_ptr<vxgraphics3d::SceneGraphNode>& node) { m_framedNode = node; }
 
-    /// Looks at the whole scene with the camera of the current mode: a 3D camera keeps its direction and turns about
-    /// the middle of the scene from now on. Without a scene, or with one that is empty, nothing happens.
+    /// Looks at the whole scene with the camera of the current mode, as large as the picture allows (`fitCamera`): a 3D
+    /// camera keeps its direction and turns about the middle of the scene from now on. Without a scene, or with one
+    /// that is empty, nothing happens.
     void zoomExtents();
 
     /// Draws the picture.

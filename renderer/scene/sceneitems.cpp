@@ -2,13 +2,20 @@
 
 #include "graphics3d/plots/graph/scenegraphplotgraph.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
+#include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/scenegraph/scenegraphgroup.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/objects/objectbox.h"
+#include "renderer/objects/objectpoints.h"
+#include "renderer/plots/heightfactor.h"
+#include "renderer/plots/plotpoints.h"
 
 #include <boost/pointer_cast.hpp>
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 
 namespace vxrenderer {
 namespace {
@@ -20,6 +27,9 @@ using vxgraphics3d::SceneGraphObject;
 using vxgraphics3d::SceneGraphPlotGraph;
 using vxgraphics3d::SceneGraphPlotGroup;
 using vxgraphics3d::SceneGraphRoot;
+
+/// The relative difference of factors that are the same except for rounding.
+constexpr double c_sameScale = 1e-3;
 
 void addPlots(const SceneGraphNode& node, std::vector<SceneItem>& items)
 {
@@ -101,6 +111,49 @@ BoundingBox boxInSpace(const SceneGraphRoot& root, const std::vector<SceneItem>&
         }
     }
     return box;
+}
+
+void visitPoints(const std::vector<SceneItem>& items, const Frame& frame, const TakePoints& take)
+{
+    const unsigned mask = frame.canvas.getRenderMask();
+    const auto& markings = vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getMarkingSetups().getMarkingModeSetup(
+        frame.appearance.markingMode);
+    for (const SceneItem& item : items) {
+        if (const auto* plot = std::get_if<PlotItem>(&item)) {
+            if ((mask & RenderPlots) != 0) {
+                visitPlotPoints(*plot->plot, take);
+            }
+        } else if ((mask & RenderObjects) != 0) {
+            visitObjectPoints(*std::get<ObjectItem>(item), markings, take);
+        }
+    }
+}
+
+AxisUnits heightUnitsOf(const std::vector<SceneItem>& items)
+{
+    std::optional<AxisUnits> shared;
+    for (const SceneItem& item : items) {
+        const auto* shown = std::get_if<PlotItem>(&item);
+        if (shown == nullptr) {
+            return {};
+        }
+        const vxgraphics3d::SceneGraphPlot& plot = *shown->plot;
+        if (!(plot.getBoundingBox().getHalfSizeZ() > 0.0f)) {
+            continue;
+        }
+        const std::optional<double> factor = heightFactorOf(plot);
+        if (!factor) {
+            return {};
+        }
+        const AxisUnits units = {static_cast<double>(plot.getPlotPlaneOffset()),
+                                 *factor * static_cast<double>(plot.getHeightScale())};
+        if (shared && std::abs(shared->scale - units.scale) > c_sameScale * units.scale) {
+            return {};
+        }
+        const bool isSame = !shared || shared->offset == units.offset;
+        shared = {isSame ? units.offset : 0.0, units.scale};
+    }
+    return shared.value_or(AxisUnits());
 }
 
 bool hasPlotsBesidesGraphs(const std::vector<SceneItem>& items)

@@ -2,6 +2,7 @@
 
 #include "base/ustring.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/boundingbox.h"
 #include "graphics3d/parts/markingsetups.h"
@@ -10,14 +11,17 @@
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/viewing/icameratransforms.h"
+#include "renderer/decoration/cutframe.h"
 #include "renderer/decoration/lightmarkers.h"
 #include "renderer/decoration/triadpainter.h"
 #include "renderer/frame/lighting.h"
+#include "renderer/frame/seenextent.h"
 #include "renderer/gl/target.h"
 #include "renderer/objects/visibleparts.h"
 #include "renderer/paint/paintcontext.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <optional>
 #include <utility>
@@ -49,6 +53,12 @@ ObjectStyle styleOf(const Appearance& appearance)
     const MarkingSetups& markings = Canvas3dGlobalSettings::getInstance()->getMarkingSetups();
     return {markings.getMarkingModeSetup(appearance.markingMode), appearance.showLabels, appearance.showLineDirections,
             appearance.showPhysicsMarkers};
+}
+
+bool isFinite(const BoundingBox& box)
+{
+    const auto isFiniteAt = [](const Vector3f& point) { return std::isfinite(point.x + point.y + point.z); };
+    return isFiniteAt(box.getCenter()) && isFiniteAt(box.getHalfSize());
 }
 
 } // namespace
@@ -93,10 +103,18 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     }
     layout.box =
         frame.isFlat() ? boxOf(layout.items, frame.logAxes()) : boxInSpace(*frame.scene->getRoot(), layout.items);
-    layout.area = divideSpace(frame, layout.space, layout.width, layout.height, layout.axisFonts);
+    if (!isFinite(layout.box)) {
+        PointBox finite;
+        visitPoints(layout.items, frame, [&](const PointRun& points) { finite.add(points); });
+        layout.box = finite.get();
+    }
+    layout.heightUnits = heightUnitsOf(layout.items);
+    layout.area =
+        divideSpace(frame, layout.space, layout.wideSpace, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
-        const float middle = static_cast<float>(area.x) + 0.5f * static_cast<float>(area.width);
+        const PixelArea& inner = layout.area.inner;
+        const float middle = static_cast<float>(inner.x) + 0.5f * static_cast<float>(inner.width);
         const float rightmost = static_cast<float>(layout.width - layout.space.x) - layout.title.width;
         layout.titleLeft =
             std::max(std::min(middle - 0.5f * layout.title.width, rightmost), static_cast<float>(layout.space.x));
@@ -122,6 +140,10 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     std::vector<SceneIcon> icons;
     std::vector<SceneLabel> labels;
     drawData(frame, layout, icons, labels);
+    if (!frame.isFlat() || axes == nullptr) {
+        drawCutFrame(m_view, layout.width, layout.height, frame.appearance.scale,
+                     frame.canvas.getGridBoxSettingsPtr()->getGridColor(), m_lines);
+    }
     // Lines of graphs and the geometry of objects are not to be crossed by the grid.
     if (axes != nullptr && hasPlotsBesidesGraphs(layout.items)) {
         setBlending(true);
@@ -285,7 +307,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
     if (!layout.area.whole.isEmpty()) {
         m_view = View::of(frame.camera, layout.area.whole, frame.isFlat());
         if (frame.appearance.showAxes) {
-            axes.emplace(frame, m_view, layout.width, layout.height, layout.axisFonts);
+            axes.emplace(frame, m_view, layout.width, layout.height, layout.axisFonts, layout.heightUnits);
         }
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
             triad.emplace(frame, m_view);
