@@ -426,8 +426,8 @@ private:
         if (isFlat(lineAxis)) {
             return;
         }
-        const double beside = c_besideEdge * m_em / std::max(longestEdge(tickAxis), 1.0) *
-                              (m_high[tickAxis] - m_low[tickAxis]);
+        const double beside =
+            c_besideEdge * m_em / std::max(longestEdge(tickAxis), 1.0) * (m_high[tickAxis] - m_low[tickAxis]);
         for (const double tick : m_axes[tickAxis].ticks) {
             if (tick - m_low[tickAxis] < beside || m_high[tickAxis] - tick < beside) {
                 continue;
@@ -510,7 +510,8 @@ private:
         std::vector<double> minor =
             makeMinorValues(low, high, first, step, c_minorTickDistance * m_em / length * (high - low));
         std::ranges::transform(minor, minor.begin(), [&](double value) { return units.coordinateOf(value); });
-        std::ranges::copy_if(axis.ticks, std::back_inserter(minor), [&](double tick) { return !axis.isLabelled(tick); });
+        std::ranges::copy_if(axis.ticks, std::back_inserter(minor),
+                             [&](double tick) { return !axis.isLabelled(tick); });
         for (const double tick : minor) {
             if (const std::optional<Pixel> place = placeOnEdge(index, tick)) {
                 addTickLine(m_layout.minorTicks, *place, axis.edge->outward, c_minorTickLength);
@@ -522,10 +523,10 @@ private:
     {
         const PixelArea& picture = m_input.picture;
         const LabelRect rect = rectOf(label, m_metrics);
-        return picture.isEmpty() || (rect.left >= static_cast<float>(picture.x) &&
-                                     rect.top >= static_cast<float>(picture.y) &&
-                                     rect.right <= static_cast<float>(picture.x + picture.width) &&
-                                     rect.bottom <= static_cast<float>(picture.y + picture.height));
+        return picture.isEmpty() ||
+               (rect.left >= static_cast<float>(picture.x) && rect.top >= static_cast<float>(picture.y) &&
+                rect.right <= static_cast<float>(picture.x + picture.width) &&
+                rect.bottom <= static_cast<float>(picture.y + picture.height));
     }
 
     /// A name is next to the numbers, in the middle of what is seen of its edge, or near that where it would cover a

@@ -60,8 +60,8 @@ AxisMargins gridBoxMargins(const GridBoxInput& input, const AxisMetrics& metrics
 /// A face is behind the scene if its normal points away from the eye; faces seen edge-on have no grid. Lines that would
 /// run right beside an edge of the box are left out. Each axis with an extent on the screen is labelled along one edge
 /// on the outline of the box, the lowest or else the leftmost one, and only where that lies within the area. It has at
-/// least two numbers; where there is no space for them, they are moved apart. A box that reaches behind the eye keeps its grid but has no labels; an
-/// empty box, one behind the eye, or one that is not finite has nothing.
+/// least two numbers; where there is no space for them, they are moved apart. A box that reaches behind the eye keeps
+/// its grid but has no labels; an empty box, one behind the eye, or one that is not finite has nothing.
 GridBoxLayout layoutGridBox(const GridBoxInput& input, const PixelArea& area, const AxisMetrics& metrics);
 
 } // namespace vxrenderer

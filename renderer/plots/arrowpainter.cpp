@@ -196,8 +196,10 @@ void forEachDrawnArrow(const SceneGraphPlotArrow& plot, const TakeArrow& take)
     forEachDrawn(plot, LengthScale(plot, sizes.longest), [&](const Arrow& arrow) {
         const Vector3f tail = arrow.anchor - arrow.direction * (anchor * arrow.length);
         const Vector3f tip = tail + arrow.direction * arrow.length;
-        const float unit = hasEqualHeads ? std::min(sizes.longest, arrow.length / sizes.shape.m_headLength) : arrow.length;
-        take(tail, tip, std::min(sizes.shape.m_headLength * unit / arrow.length, 1.0f), sizes.shape.m_headRadius * unit);
+        const float unit =
+            hasEqualHeads ? std::min(sizes.longest, arrow.length / sizes.shape.m_headLength) : arrow.length;
+        take(tail, tip, std::min(sizes.shape.m_headLength * unit / arrow.length, 1.0f),
+             sizes.shape.m_headRadius * unit);
     });
 }
 

@@ -65,6 +65,15 @@ struct Overhang {
 
     double across() const { return left + right; }
     double along() const { return top + bottom; }
+
+    /// Reduced to what labels may take of a rectangle, on all sides of a direction alike.
+    Overhang limitedTo(double width, double height) const
+    {
+        const double x = std::min(1.0, c_mostForLabels * width / across());
+        const double y = std::min(1.0, c_mostForLabels * height / along());
+        return {across() > 0.0 ? x * left : 0.0, along() > 0.0 ? y * top : 0.0, across() > 0.0 ? x * right : 0.0,
+                along() > 0.0 ? y * bottom : 0.0};
+    }
 };
 
 /// The part of an area that is left by a margin around its middle, and at most by labels.
@@ -167,24 +176,24 @@ private:
 
     /// Magnifies and moves the image so that it fills the target with this space for labels.
     /// @return by how many pixels an end of the scene has moved
-    double move(const Overhang& overhang)
+    double move(const Overhang& labels)
     {
         const Rect before = seenRect();
         const double width = m_target.right - m_target.left;
         const double height = m_target.bottom - m_target.top;
-        const auto spaceFor = [](double whole, double labels) { return std::max(whole - labels, c_mostForLabels * whole); };
-        const double zoom = std::min({spaceFor(width, overhang.across()) / (before.right - before.left),
-                                      spaceFor(height, overhang.along()) / (before.bottom - before.top),
-                                      m_largest / pixelsAcross()});
+        const Overhang overhang = labels.limitedTo(width, height);
+        const double zoom =
+            std::min({(width - overhang.across()) / (before.right - before.left),
+                      (height - overhang.along()) / (before.bottom - before.top), m_largest / pixelsAcross()});
         const bool isPoint = std::max(before.right - before.left, before.bottom - before.top) < c_pointSize;
         if (!isPoint && zoom > 0.0 && std::isfinite(zoom)) {
             magnify(zoom);
         }
         const Rect zoomed = seenRect();
-        const double right = 0.5 * (m_target.left + m_target.right - zoomed.left - zoomed.right + overhang.left -
-                                    overhang.right);
-        const double down = 0.5 * (m_target.top + m_target.bottom - zoomed.top - zoomed.bottom + overhang.top -
-                                   overhang.bottom);
+        const double right =
+            0.5 * (m_target.left + m_target.right - zoomed.left - zoomed.right + overhang.left - overhang.right);
+        const double down =
+            0.5 * (m_target.top + m_target.bottom - zoomed.top - zoomed.bottom + overhang.top - overhang.bottom);
         m_camera.setRelativeViewOffset(m_camera.getRelativeViewOffsetX() + static_cast<float>(right / m_area.width),
                                        m_camera.getRelativeViewOffsetY() - static_cast<float>(down / m_area.height));
         const Rect after = seenRect();

@@ -1,8 +1,8 @@
 #include "renderer/scene/sceneitems.h"
 
+#include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/plots/graph/scenegraphplotgraph.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
-#include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/scenegraph/scenegraphgroup.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"

@@ -109,8 +109,7 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
         layout.box = finite.get();
     }
     layout.heightUnits = heightUnitsOf(layout.items);
-    layout.area =
-        divideSpace(frame, layout.space, layout.wideSpace, layout.width, layout.height, layout.axisFonts);
+    layout.area = divideSpace(frame, layout.space, layout.wideSpace, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
         const PixelArea& inner = layout.area.inner;
