@@ -7,7 +7,6 @@
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/foundation/boundingbox.h"
-#include "graphics3d/scene/scene.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/axes/axes2d.h"
 #include "renderer/axes/gridbox.h"
@@ -44,16 +43,16 @@ Axes2dInput axes2dInput(const Frame& frame, int width, int height)
             Canvas3dGlobalSettings::getInstance()->getGridbox2dTickPrecision()};
 }
 
-GridBoxInput gridBoxInput(const Frame& frame, const AxisUnits& heightUnits, const PixelArea& picture)
+GridBoxInput gridBoxInput(const Frame& frame, const BoxedScene& scene, const PixelArea& picture)
 {
     const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
     const auto nameOf = [&](AxisOrientationIndicator::Axis axis) { return plainText(indicator.getLabel(axis)); };
-    return {frame.scene->getBoundingBox(),
+    return {scene.box,
             frame.camera,
             {nameOf(AxisOrientationIndicator::AxisX), nameOf(AxisOrientationIndicator::AxisY),
              nameOf(AxisOrientationIndicator::AxisZ)},
             Canvas3dGlobalSettings::getInstance()->getGridbox3dTickPrecision(),
-            {AxisUnits(), AxisUnits(), heightUnits},
+            {AxisUnits(), AxisUnits(), scene.heightUnits},
             picture};
 }
 
@@ -106,22 +105,23 @@ SceneArea divideSpace(const Frame& frame, const PixelArea& space, const PixelAre
     return {isStretched || space.isEmpty() ? space : wide, space};
 }
 
-GridBoxLayout layOutGridBox(const Frame& frame, const PixelArea& area, const AxisFonts& fonts,
-                            const AxisUnits& heightUnits, const PixelArea& picture)
+GridBoxLayout layOutGridBox(const Frame& frame, const BoxedScene& scene, const PixelArea& area, const AxisFonts& fonts,
+                            const PixelArea& picture)
 {
-    return layoutGridBox(gridBoxInput(frame, heightUnits, picture), area, fonts.metrics());
+    return layoutGridBox(gridBoxInput(frame, scene, picture), area, fonts.metrics());
 }
 
 PixelArea spaceInGridBox(const Frame& frame, const PixelArea& area, const AxisFonts& fonts)
 {
-    const AxisMargins margins = gridBoxMargins(gridBoxInput(frame, {}, {}), fonts.metrics());
+    const BoundingBox anyBox;
+    const AxisMargins margins = gridBoxMargins(gridBoxInput(frame, {anyBox, {}}, {}), fonts.metrics());
     return {area.x + static_cast<int>(margins.left), area.y + static_cast<int>(margins.top),
             area.width - static_cast<int>(margins.left + margins.right),
             area.height - static_cast<int>(margins.top + margins.bottom)};
 }
 
-AxesPainter::AxesPainter(const Frame& frame, const View& view, int width, int height, const AxisFonts& fonts,
-                         const AxisUnits& heightUnits)
+AxesPainter::AxesPainter(const Frame& frame, const BoxedScene& scene, const View& view, int width, int height,
+                         const AxisFonts& fonts)
     : m_width(width),
       m_height(height),
       m_view(view),
@@ -134,7 +134,7 @@ AxesPainter::AxesPainter(const Frame& frame, const View& view, int width, int he
     if (view.isFlat) {
         layOutAxes2d(frame, view, fonts);
     } else {
-        takeGridBox(layOutGridBox(frame, view.area, fonts, heightUnits, {0, 0, width, height}),
+        takeGridBox(layOutGridBox(frame, scene, view.area, fonts, {0, 0, width, height}),
                     frame.appearance.showGrid);
     }
 }

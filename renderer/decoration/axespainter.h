@@ -37,11 +37,16 @@ struct SceneArea {
 SceneArea divideSpace(const Frame& frame, const PixelArea& space, const PixelArea& wide, int width, int height,
                       const AxisFonts& fonts);
 
+/// What the grid box of a 3D view encloses, and what the numbers of its z axis are.
+struct BoxedScene {
+    const vxgraphics3d::BoundingBox& box;
+    AxisUnits heightUnits;
+};
+
 /// The grid box of a 3D view.
-/// @param heightUnits what the numbers of the z axis are
 /// @param picture what labels must not reach beyond, or empty
-GridBoxLayout layOutGridBox(const Frame& frame, const PixelArea& area, const AxisFonts& fonts,
-                            const AxisUnits& heightUnits, const PixelArea& picture);
+GridBoxLayout layOutGridBox(const Frame& frame, const BoxedScene& scene, const PixelArea& area, const AxisFonts& fonts,
+                            const PixelArea& picture);
 /// What the labels of a grid box leave of an area in every view of it.
 PixelArea spaceInGridBox(const Frame& frame, const PixelArea& area, const AxisFonts& fonts);
 
@@ -50,9 +55,9 @@ class AxesPainter {
 public:
     /// @param view of the frame, whose camera has its area
     /// @param width,height of the whole picture
-    /// @param heightUnits what the numbers of the z axis of a 3D view are
-    AxesPainter(const Frame& frame, const View& view, int width, int height, const AxisFonts& fonts,
-                const AxisUnits& heightUnits);
+    /// @param scene of a 3D view
+    AxesPainter(const Frame& frame, const BoxedScene& scene, const View& view, int width, int height,
+                const AxisFonts& fonts);
 
     /// What lies behind the data. The viewport is the area of the scene.
     void drawBehind(const LinePainter& painter) const;

@@ -1,6 +1,5 @@
 #include "renderer/plots/plotpoints.h"
 
-#include "graphics3d/buffers/vertexbuffer.h"
 #include "graphics3d/foundation/boundingbox.h"
 #include "graphics3d/plots/graph/graphline.h"
 #include "graphics3d/plots/graph/scenegraphplotgraph.h"

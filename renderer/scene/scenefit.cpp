@@ -9,6 +9,7 @@
 #include "renderer/decoration/axespainter.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/seenextent.h"
+#include "renderer/plots/plotpoints.h"
 #include "renderer/scene/framelayout.h"
 #include "renderer/scene/sceneitems.h"
 
@@ -134,7 +135,7 @@ private:
     /// With the labels that the picture would cut.
     GridBoxLayout gridBox() const
     {
-        return layOutGridBox(m_frame, m_area, m_layout.axisFonts, m_layout.heightUnits, {});
+        return layOutGridBox(m_frame, {m_layout.box, m_layout.heightUnits}, m_area, m_layout.axisFonts, {});
     }
 
     // Pixels for a unit of the extent.
@@ -255,12 +256,22 @@ void fitCamera(Camera3d& camera, const Frame& frame, const FrameLayout& layout)
 
 void fitCamera(Camera2d& camera, const FrameLayout& layout)
 {
+    // The boxes of graphs say how they are drawn; those of other plots do not enclose their arrows.
+    PointBox drawn;
+    for (const SceneItem& item : layout.items) {
+        const auto* plot = std::get_if<PlotItem>(&item);
+        if (plot != nullptr && plot->plot->getType() != PlotType::graph) {
+            visitPlotPoints(*plot->plot, [&drawn](const PointRun& points) { drawn.add(points); });
+        }
+    }
+    BoundingBox box = layout.box;
+    box.merge(drawn.get());
     const PixelArea& whole = layout.area.whole;
     const PixelArea& inner = layout.area.inner;
     // Half of the margin on each side, as in space.
     const float margin = 0.5f * marginOf(*Canvas3dGlobalSettings::getInstance());
     if (inner.width == whole.width && inner.height == whole.height) {
-        camera.moveToBoundingBox(layout.box, margin);
+        camera.moveToBoundingBox(box, margin);
         return;
     }
     const auto setArea = [&](const PixelArea& area) {
@@ -268,7 +279,7 @@ void fitCamera(Camera2d& camera, const FrameLayout& layout)
                              area.height);
     };
     setArea(inner);
-    camera.moveToBoundingBox(layout.box, margin);
+    camera.moveToBoundingBox(box, margin);
     // The same pixels per unit in the whole area.
     const float unitX = (camera.getActualMaxX() - camera.getActualMinX()) / static_cast<float>(inner.width);
     const float unitY = (camera.getActualMaxY() - camera.getActualMinY()) / static_cast<float>(inner.height);

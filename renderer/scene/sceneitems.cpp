@@ -6,6 +6,7 @@
 #include "graphics3d/scenegraph/scenegraphgroup.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "renderer/frame/seenextent.h"
 #include "renderer/objects/objectbox.h"
 #include "renderer/objects/objectpoints.h"
 #include "renderer/plots/heightfactor.h"
@@ -42,6 +43,16 @@ void addPlots(const SceneGraphNode& node, std::vector<SceneItem>& items)
             items.push_back(PlotItem{group, plot->second});
         }
     }
+}
+
+/// The box of an interactive plot, which has none of its own; empty for all others.
+BoundingBox boxOfInteractive(const vxgraphics3d::SceneGraphPlot& plot)
+{
+    PointBox points;
+    if (plot.getType() == vxgraphics3d::PlotType::interactive) {
+        visitPlotPoints(plot, [&points](const PointRun& run) { points.add(run); });
+    }
+    return points.get();
 }
 
 const SceneGraphPlotGraph* graphOf(const SceneItem& item)
@@ -94,6 +105,7 @@ BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes)
             }
         } else if (const auto* plot = std::get_if<PlotItem>(&item)) {
             box.merge(plot->plot->getBoundingBox());
+            box.merge(boxOfInteractive(*plot->plot));
         } else {
             box.merge(boxOf(*std::get<ObjectItem>(item)));
         }
@@ -108,6 +120,9 @@ BoundingBox boxInSpace(const SceneGraphRoot& root, const std::vector<SceneItem>&
         const auto* object = std::get_if<ObjectItem>(&item);
         if (object != nullptr && !(*object)->getBoundingBox().isValid()) {
             box.merge(boxOf(**object));
+        }
+        if (const auto* plot = std::get_if<PlotItem>(&item)) {
+            box.merge(boxOfInteractive(*plot->plot));
         }
     }
     return box;

@@ -29,7 +29,7 @@ std::vector<SceneItem> collectItems(const vxgraphics3d::SceneGraphRoot& root);
 ///                else is shown holds logarithms.
 vxgraphics3d::BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes);
 
-/// The box of a scene in space: that of its tree, and of the items whose nodes have none.
+/// The box of a scene in space: that of its tree, and of the items that have none of their own.
 vxgraphics3d::BoundingBox boxInSpace(const vxgraphics3d::SceneGraphRoot& root, const std::vector<SceneItem>& items);
 
 /// Passes on the points of all items that a frame draws.

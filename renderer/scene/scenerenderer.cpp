@@ -11,13 +11,13 @@
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/viewing/icameratransforms.h"
-#include "renderer/decoration/cutframe.h"
 #include "renderer/decoration/lightmarkers.h"
 #include "renderer/decoration/triadpainter.h"
 #include "renderer/frame/lighting.h"
 #include "renderer/frame/seenextent.h"
 #include "renderer/gl/target.h"
 #include "renderer/objects/visibleparts.h"
+#include "renderer/paint/cutframe.h"
 #include "renderer/paint/paintcontext.h"
 
 #include <algorithm>
@@ -306,7 +306,8 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
     if (!layout.area.whole.isEmpty()) {
         m_view = View::of(frame.camera, layout.area.whole, frame.isFlat());
         if (frame.appearance.showAxes) {
-            axes.emplace(frame, m_view, layout.width, layout.height, layout.axisFonts, layout.heightUnits);
+            axes.emplace(frame, BoxedScene{layout.box, layout.heightUnits}, m_view, layout.width, layout.height,
+                         layout.axisFonts);
         }
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
             triad.emplace(frame, m_view);

@@ -134,13 +134,11 @@ TEST_F(SceneFitTest, sceneAndLabelsFillThePictureFromAllSides)
     const std::array<double, 3> sizes[] = {{1.0, 1.0, 1.0}, {100.0, 3.0, 20.0}, {2.0, 1.5, 0.0}, {1e-5, 1e-6, 1e-3}};
     for (const auto& size : sizes) {
         m_scene.group->removeAllPlots();
-        add(folded(8, [&size](double x, double y) {
-            return std::array{size[0] * x, size[1] * y, size[2] * y};
-        }));
+        add(folded(8, [&size](double x, double y) { return std::array{size[0] * x, size[1] * y, size[2] * y}; }));
         for (const auto type : {Camera3d::ProjectionPerspective, Camera3d::ProjectionOrthographic}) {
             camera().setProjectionType(type);
-            for (const auto& [azimuth, elevation] : {std::pair(-60.0, 30.0), std::pair(20.0, 10.0),
-                                                     std::pair(130.0, 70.0), std::pair(-90.0, 90.0)}) {
+            for (const auto& [azimuth, elevation] :
+                 {std::pair(-60.0, 30.0), std::pair(20.0, 10.0), std::pair(130.0, 70.0), std::pair(-90.0, 90.0)}) {
                 for (const bool hasAxes : {true, false}) {
                     hasAxes ? m_canvas.getCanvas3dSettings()->addRenderMask(RenderAxes)
                             : m_canvas.getCanvas3dSettings()->removeRenderMask(RenderAxes);
@@ -269,11 +267,13 @@ TEST_F(SceneFitTest, aFlatSceneFillsItsFrame)
 TEST_F(SceneFitTest, aLargerSceneReachesTheBordersAndIsFramedWhereItIsCut)
 {
     m_canvas.getCanvas3dSettings()->setRenderMask(RenderPlots | RenderLegends | RenderBackground);
-    const auto plot = m_scene.add<SceneGraphPlotSurface3d>(1, [] {
-        GridRecord record;
-        record.height = [](double, double) { return 0.0; };
-        return record;
-    }(), {0x80ff80});
+    const auto plot = m_scene.add<SceneGraphPlotSurface3d>(1,
+                                                           [] {
+                                                               GridRecord record;
+                                                               record.height = [](double, double) { return 0.0; };
+                                                               return record;
+                                                           }(),
+                                                           {0x80ff80});
     lookFrom(m_canvas, -90.0, 90.0);
     const auto darkIn = [](const Picture& picture, int column) {
         int count = 0;

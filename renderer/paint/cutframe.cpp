@@ -1,4 +1,4 @@
-#include "renderer/decoration/cutframe.h"
+#include "renderer/paint/cutframe.h"
 
 #include "renderer/gl/globject.h"
 #include "renderer/paint/linepainter.h"
