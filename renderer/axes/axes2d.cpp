@@ -171,10 +171,32 @@ private:
 
     static double toDouble(float value) { return static_cast<double>(value); }
 
+    /// A position within the limits of the camera.
+    /// @param pixel counted from the low limit
+    static double limitAt(int pixel, int size, float low, float high)
+    {
+        return pixel == 0      ? toDouble(low)
+               : pixel == size ? toDouble(high)
+                               : toDouble(low) + (toDouble(high) - toDouble(low)) * pixel / size;
+    }
+
+    const PixelArea& cameraArea() const { return m_input.cameraArea.isEmpty() ? m_area : m_input.cameraArea; }
+
+    double limitX(int pixel) const
+    {
+        return limitAt(pixel - cameraArea().x, cameraArea().width, m_input.camera.getActualMinX(),
+                       m_input.camera.getActualMaxX());
+    }
+    /// Rows count from the top.
+    double limitY(int pixel) const
+    {
+        return limitAt(cameraArea().y + cameraArea().height - pixel, cameraArea().height,
+                       m_input.camera.getActualMinY(), m_input.camera.getActualMaxY());
+    }
+
     AxisScale yScale() const
     {
-        const Camera2d& camera = m_input.camera;
-        return scaleOf(toDouble(camera.getActualMinY()), toDouble(camera.getActualMaxY()), toDouble(m_bottom - m_top),
+        return scaleOf(limitY(m_area.y + m_area.height), limitY(m_area.y), toDouble(m_bottom - m_top),
                        m_setup.getYAxisLog(), m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
     }
 
@@ -186,9 +208,8 @@ private:
 
     void layoutStraight()
     {
-        const Camera2d& camera = m_input.camera;
         const AxisScale x =
-            scaleOf(toDouble(camera.getActualMinX()), toDouble(camera.getActualMaxX()), toDouble(m_right - m_left),
+            scaleOf(limitX(m_area.x), limitX(m_area.x + m_area.width), toDouble(m_right - m_left),
                     m_setup.getXAxisLog(), m_setup.getXAxisSpacing(), m_setup.getExtraX(), &LabelSize::width);
         const AxisScale y = yScale();
         const AxisTicks xTicks = makeAxisTicks(x);

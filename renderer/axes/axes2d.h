@@ -37,6 +37,8 @@ struct Axes2dInput {
     int pictureHeight = 0;
     /// Significant digits of tick labels.
     int digits = 4;
+    /// What the camera draws to, where straight axes enclose a part of it; empty where they enclose all.
+    PixelArea cameraArea{};
 };
 
 /// The space that tick labels and titles need around the area, whatever the view shows. It follows from titles, kind of

@@ -30,6 +30,9 @@ namespace {
 
 using namespace vxgraphics3d;
 
+/// How often a flat view is fitted at most.
+constexpr int c_mostFits = 4;
+
 /// Whether a pixel of the camera's area has the same size in the world however large the area is.
 template <class Camera>
 bool keepsPixels(const Camera& camera)
@@ -244,14 +247,20 @@ void OffscreenCanvas::zoomExtents()
     }
     const Appearance look = appearance();
     const Frame frame = frameOf(camera(), look);
-    const FrameLayout layout = m_renderer->layOut(frame, getWidth(), getHeight());
-    if (layout.area.whole.isEmpty() || !layout.box.isValid()) {
-        return;
-    }
-    if (frame.isFlat()) {
+    PixelArea fitted;
+    for (int round = 0; round < c_mostFits; ++round) {
+        const FrameLayout layout = m_renderer->layOut(frame, getWidth(), getHeight());
+        const PixelArea& area = layout.area.whole;
+        if (area.isEmpty() || !layout.box.isValid() || area == fitted) {
+            return;
+        }
+        if (!frame.isFlat()) {
+            fitCamera(*m_settings->camera3d(), frame, layout);
+            return;
+        }
+        // The area of a flat view depends on the numbers of its axes, and these on the limits.
         fitCamera(*m_settings->camera2d(), layout);
-    } else {
-        fitCamera(*m_settings->camera3d(), frame, layout);
+        fitted = area;
     }
 }
 

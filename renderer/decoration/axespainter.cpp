@@ -94,15 +94,15 @@ SceneArea divideSpace(const Frame& frame, const PixelArea& space, const PixelAre
 {
     if (frame.isFlat() && frame.appearance.showAxes) {
         const PixelArea area = axes2dArea(axes2dInput(frame, width, height), space, fonts.metrics());
-        return {area, area};
+        return {area, area, area};
     }
     if (frame.isPolar()) {
-        return {centeredSquare(space), centeredSquare(space)};
+        return {centeredSquare(space), centeredSquare(space), centeredSquare(space)};
     }
     // Limits of a flat view follow the shape of its area, unless both axes have one scale.
     const bool isStretched = frame.isFlat() && (frame.camera2d().getCameraMode() != Camera2d::ModeOrdinary ||
                                                 !frame.camera2d().isPreserveAspectRatio());
-    return {isStretched || space.isEmpty() ? space : wide, space};
+    return {isStretched || space.isEmpty() ? space : wide, space, space};
 }
 
 GridBoxLayout layOutGridBox(const Frame& frame, const BoxedScene& scene, const PixelArea& area, const AxisFonts& fonts,
@@ -114,7 +114,7 @@ GridBoxLayout layOutGridBox(const Frame& frame, const BoxedScene& scene, const P
 PixelArea spaceInGridBox(const Frame& frame, const PixelArea& area, const AxisFonts& fonts)
 {
     const BoundingBox anyBox;
-    const AxisMargins margins = gridBoxMargins(gridBoxInput(frame, {anyBox, {}}, {}), fonts.metrics());
+    const AxisMargins margins = gridBoxMargins(gridBoxInput(frame, {anyBox}, {}), fonts.metrics());
     return {area.x + static_cast<int>(margins.left), area.y + static_cast<int>(margins.top),
             area.width - static_cast<int>(margins.left + margins.right),
             area.height - static_cast<int>(margins.top + margins.bottom)};
@@ -132,10 +132,9 @@ AxesPainter::AxesPainter(const Frame& frame, const BoxedScene& scene, const View
       m_hasHalo(frame.isFlat() && (frame.isPolar() || frame.canvas.getAxisSetupPtr()->isPolar()))
 {
     if (view.isFlat) {
-        layOutAxes2d(frame, view, fonts);
+        layOutAxes2d(frame, scene.frame, view, fonts);
     } else {
-        takeGridBox(layOutGridBox(frame, scene, view.area, fonts, {0, 0, width, height}),
-                    frame.appearance.showGrid);
+        takeGridBox(layOutGridBox(frame, scene, view.area, fonts, {0, 0, width, height}), frame.appearance.showGrid);
     }
 }
 
@@ -150,9 +149,11 @@ void AxesPainter::takeGridBox(GridBoxLayout layout, bool isGridShown)
     m_labels = std::move(layout.labels);
 }
 
-void AxesPainter::layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts)
+void AxesPainter::layOutAxes2d(const Frame& frame, const PixelArea& enclosed, const View& view, const AxisFonts& fonts)
 {
-    Axes2dLayout layout = layoutAxes2d(axes2dInput(frame, m_width, m_height), view.area, fonts.metrics());
+    Axes2dInput input = axes2dInput(frame, m_width, m_height);
+    input.cameraArea = view.area;
+    Axes2dLayout layout = layoutAxes2d(input, enclosed, fonts.metrics());
     if (frame.appearance.showGrid) {
         m_behind = std::move(layout.grid);
     }

@@ -29,6 +29,8 @@ struct SceneArea {
     PixelArea whole;
     /// The part of it that the whole scene fills, in space with its labels. A 2D view has its labels outside.
     PixelArea inner;
+    /// What the axes of a 2D view enclose, see `frameOfData`; in other views the inner part.
+    PixelArea frame;
 };
 
 /// Divides the space that a picture leaves for a scene and its axes.
@@ -37,10 +39,13 @@ struct SceneArea {
 SceneArea divideSpace(const Frame& frame, const PixelArea& space, const PixelArea& wide, int width, int height,
                       const AxisFonts& fonts);
 
-/// What the grid box of a 3D view encloses, and what the numbers of its z axis are.
+/// What the axes of a view enclose.
 struct BoxedScene {
+    /// In space: the box, and what the numbers of its z axis are.
     const vxgraphics3d::BoundingBox& box;
-    AxisUnits heightUnits;
+    AxisUnits heightUnits{};
+    /// In a 2D view.
+    PixelArea frame{};
 };
 
 /// The grid box of a 3D view.
@@ -55,7 +60,6 @@ class AxesPainter {
 public:
     /// @param view of the frame, whose camera has its area
     /// @param width,height of the whole picture
-    /// @param scene of a 3D view
     AxesPainter(const Frame& frame, const BoxedScene& scene, const View& view, int width, int height,
                 const AxisFonts& fonts);
 
@@ -71,7 +75,7 @@ public:
 private:
     void drawInArea(const LinePainter& painter, const vxgraphics3d::Color& color) const;
     void takeGridBox(GridBoxLayout layout, bool isGridShown);
-    void layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts);
+    void layOutAxes2d(const Frame& frame, const PixelArea& enclosed, const View& view, const AxisFonts& fonts);
 
     int m_width;
     int m_height;

@@ -137,7 +137,7 @@ PixelArea extendedToBorders(const PixelArea& space, int margin, int width, int h
 void placeLineLegend(const Frame& frame, FrameLayout& layout)
 {
     const LineLegendPlacement placement = lineLegendPlacementOf(frame);
-    const PixelArea& area = layout.area.inner;
+    const PixelArea& area = layout.area.frame;
     const int margin =
         placement.isInside ? static_cast<int>(std::round(c_margin * layout.legendStyle.tickFonts.fontSize())) : 0;
     if (placement.isInside && frame.appearance.showLegends) {

@@ -233,6 +233,12 @@ bool isSphereShown()
 
 } // namespace
 
+double marginOfFit()
+{
+    const auto margin = static_cast<double>(marginOf(*Canvas3dGlobalSettings::getInstance()));
+    return 0.5 * margin / (1.0 + margin);
+}
+
 void fitCamera(Camera3d& camera, const Frame& frame, const FrameLayout& layout)
 {
     camera.setRotationPoint(layout.box.getCenter());

@@ -19,6 +19,9 @@ struct FrameLayout;
 /// @param layout of the frame, with its area
 void fitCamera(vxgraphics3d::Camera3d& camera, const Frame& frame, const FrameLayout& layout);
 
+/// The free space on each side of a fitted scene, as a part of the area that it fills.
+double marginOfFit();
+
 /// The same for the box of a flat scene, whose labels are outside of the area of the camera.
 void fitCamera(vxgraphics3d::Camera2d& camera, const FrameLayout& layout);
 

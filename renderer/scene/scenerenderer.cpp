@@ -1,6 +1,8 @@
 #include "renderer/scene/scenerenderer.h"
 
 #include "base/ustring.h"
+#include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/canvas/axissetup.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
@@ -11,6 +13,7 @@
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/viewing/icameratransforms.h"
+#include "renderer/axes/dataframe.h"
 #include "renderer/decoration/lightmarkers.h"
 #include "renderer/decoration/triadpainter.h"
 #include "renderer/frame/lighting.h"
@@ -19,6 +22,7 @@
 #include "renderer/objects/visibleparts.h"
 #include "renderer/paint/cutframe.h"
 #include "renderer/paint/paintcontext.h"
+#include "renderer/scene/scenefit.h"
 
 #include <algorithm>
 #include <cmath>
@@ -59,6 +63,14 @@ bool isFinite(const BoundingBox& box)
 {
     const auto isFiniteAt = [](const Vector3f& point) { return std::isfinite(point.x + point.y + point.z); };
     return isFiniteAt(box.getCenter()) && isFiniteAt(box.getHalfSize());
+}
+
+/// Whether axes may enclose a part of the area alone. What an overlay shows has no box.
+bool hasFrameOfData(const Frame& frame)
+{
+    return frame.isFlat() && frame.appearance.showAxes && frame.overlay == nullptr &&
+           frame.camera2d().getCameraMode() == Camera2d::ModeOrdinary && frame.camera2d().isPreserveAspectRatio() &&
+           !frame.canvas.getAxisSetupPtr()->isPolar();
 }
 
 } // namespace
@@ -112,14 +124,17 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     layout.area = divideSpace(frame, layout.space, layout.wideSpace, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
-        const PixelArea& inner = layout.area.inner;
-        const float middle = static_cast<float>(inner.x) + 0.5f * static_cast<float>(inner.width);
-        const float rightmost = static_cast<float>(layout.width - layout.space.x) - layout.title.width;
-        layout.titleLeft =
-            std::max(std::min(middle - 0.5f * layout.title.width, rightmost), static_cast<float>(layout.space.x));
         frame.camera.setRenderArea(layout.width, layout.height, area.x, layout.height - area.y - area.height,
                                    area.width, area.height);
         frame.camera.setBoundingBox(layout.box);
+        if (hasFrameOfData(frame)) {
+            layout.area.frame = frameOfData(frame.camera2d(), area, layout.box, marginOfFit());
+        }
+        const PixelArea& enclosed = layout.area.frame;
+        const float middle = static_cast<float>(enclosed.x) + 0.5f * static_cast<float>(enclosed.width);
+        const float rightmost = static_cast<float>(layout.width - layout.space.x) - layout.title.width;
+        layout.titleLeft =
+            std::max(std::min(middle - 0.5f * layout.title.width, rightmost), static_cast<float>(layout.space.x));
         placeLineLegend(frame, layout);
     }
 }
@@ -306,8 +321,8 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
     if (!layout.area.whole.isEmpty()) {
         m_view = View::of(frame.camera, layout.area.whole, frame.isFlat());
         if (frame.appearance.showAxes) {
-            axes.emplace(frame, BoxedScene{layout.box, layout.heightUnits}, m_view, layout.width, layout.height,
-                         layout.axisFonts);
+            axes.emplace(frame, BoxedScene{layout.box, layout.heightUnits, layout.area.frame}, m_view, layout.width,
+                         layout.height, layout.axisFonts);
         }
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
             triad.emplace(frame, m_view);

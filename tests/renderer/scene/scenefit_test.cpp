@@ -1,6 +1,7 @@
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/camera3d.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/plots/vector/scenegraphplotsphere3d.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
@@ -262,6 +263,43 @@ TEST_F(SceneFitTest, aFlatSceneFillsItsFrame)
         EXPECT_NEAR(right - left, bottom - top, 0.5) << hasAxes;
         EXPECT_NEAR(top + bottom, 2 * area.y + area.height, 1.0) << hasAxes;
     }
+}
+
+TEST_F(SceneFitTest, theFrameOfAFittedMapFollowsItsData)
+{
+    PostDataObject record = folded(4, [](double x, double y) { return std::array{100.0 * x, 20.0 * y - 40.0, 0.0}; });
+    record.m_coordinates[0]->resize(2);
+    record.m_bounds->resize(2);
+    record.m_normals.clear();
+    record.m_plotKind = PostDataObject::Surface2d;
+    boost::shared_ptr<SceneGraphPlotSurface2d> plot(new SceneGraphPlotSurface2d(1));
+    m_scene.group->addPlot(plot);
+    plot->fillPlot(record);
+    plot->setColor(vxgraphics3d::Color::fromRgb(0xff8080));
+    showFlat(m_canvas, m_scene);
+    auto& flat = *m_canvas.getCanvas3dSettings()->camera2d();
+    flat.resetAxisViewScales();
+    m_canvas.getCanvas3dSettings()->getGridBoxSettingsPtr()->setShowGrid(false);
+    // Rows between the data and the line of the frame above them.
+    const auto rowsAbove = [&](const Picture& picture) {
+        const auto [x, y] = pixelOf(m_canvas, {53.0f, -20.0f, 0.0f});
+        int count = 0;
+        for (int row = static_cast<int>(y) - 2; row >= 0 && picture.at(static_cast<int>(x), row) == c_white; --row) {
+            ++count;
+        }
+        return count;
+    };
+    const Picture fitted = drawn(m_canvas);
+    const PixelArea area = m_canvas.getView().area;
+    EXPECT_GT(area.height, 250);
+    const int margin = static_cast<int>(std::lround(0.5 * 0.05 / 1.05 * area.width));
+    const double above = pixelOf(m_canvas, {0.0f, -20.0f, 0.0f})[1] - area.y;
+    EXPECT_GT(above, 80.0) << "so wide is the map";
+    EXPECT_NEAR(rowsAbove(fitted), margin - 2, 2);
+    flat.setAdditionalScale(0.5f, 0.5f, 1.2f);
+    flat.mergeAdditionalTransformation();
+    const Picture smaller = drawnAsIs(m_canvas);
+    EXPECT_GT(rowsAbove(smaller), 80) << "a view of its own is shown whole";
 }
 
 TEST_F(SceneFitTest, aLargerSceneReachesTheBordersAndIsFramedWhereItIsCut)
