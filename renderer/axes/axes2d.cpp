@@ -214,7 +214,8 @@ private:
         const AxisScale y = yScale();
         const AxisTicks xTicks = makeAxisTicks(x);
         const AxisTicks yTicks = ticksOfY(y);
-        addTitles(xTicks.exponent, yTicks.exponent, m_room.besideLabels(widthOf(yTicks)));
+        addXTitle(xTicks.exponent);
+        addYTitle(yTicks.exponent, m_room.besideLabels(widthOf(yTicks)));
         addSymmetryAxis(x);
         addXTicks(x, xTicks);
         addYTicks(y, yTicks);
@@ -307,12 +308,11 @@ private:
         return width;
     }
 
-    /// The titles, each with the power of ten of its axis; a power without a title is at the end of the axis.
-    /// @param toYTitle from the area to the title of y, which is next to the numbers
-    void addTitles(int xExponent, int yExponent, float toYTitle)
+    // Titles have the power of ten of their axis; a power without a title is at the end of the axis.
+
+    void addXTitle(int xExponent)
     {
         const float below = m_bottom + m_room.belowLabels();
-        const float beside = m_left - toYTitle;
         if (!m_setup.getXAxisTitle().empty()) {
             placeTitle({.markup = withPower(m_setup.getXAxisTitle(), xExponent),
                         .x = centerX(),
@@ -322,9 +322,14 @@ private:
         } else if (xExponent != 0) {
             placeTitle({.markup = powerOf(xExponent), .x = m_right, .y = below, .alignX = 1.0f, .alignY = 0.0f});
         }
+    }
+
+    /// @param distance from the area to the title, which is next to the numbers
+    void addYTitle(int yExponent, float distance)
+    {
         if (!m_setup.getYAxisTitle().empty()) {
             placeTitle({.markup = withPower(m_setup.getYAxisTitle(), yExponent),
-                        .x = beside,
+                        .x = m_left - distance,
                         .y = centerY(),
                         .alignX = 1.0f,
                         .isVertical = true,
@@ -333,6 +338,21 @@ private:
             placeTitle({.markup = powerOf(yExponent), .x = m_left, .y = above(), .alignX = 0.0f, .alignY = 1.0f});
             m_powerEnd = m_left + sizeOfMarkup(powerOf(yExponent), m_metrics.titles).width;
         }
+    }
+
+    /// The title of radii whose numbers are at the right of an upright line: at its left.
+    void addTitleOfRadii(int exponent, float x, float top, float bottom)
+    {
+        if (m_setup.getYAxisTitle().empty()) {
+            addYTitle(exponent, 0.0f);
+            return;
+        }
+        placeTitle({.markup = withPower(m_setup.getYAxisTitle(), exponent),
+                    .x = x - c_gap * m_room.em,
+                    .y = 0.5f * (top + bottom),
+                    .alignX = 1.0f,
+                    .isVertical = true,
+                    .room = bottom - top});
     }
 
     static std::string powerOf(int exponent) { return "\\times" + powerText(exponent); }
@@ -386,7 +406,8 @@ private:
                     static_cast<double>(m_input.camera.getActualPolarMax()), radius, m_setup.getYAxisLog(),
                     m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
         const AxisTicks ticks = makeAxisTicks(scale);
-        addTitles(0, ticks.exponent, m_room.besideLabels(m_room.labelWidth));
+        addXTitle(0);
+        addTitleOfRadii(ticks.exponent, centerX(), m_top, centerY());
         for (const AxisTick& tick : ticks.ticks) {
             const auto part = static_cast<double>(fraction(scale, tick.position));
             if (part * radius >= 1.0) {
@@ -445,7 +466,14 @@ private:
         const AxisScale scale = scaleOf(view.nearest(), view.farthest(), length, false, m_setup.getYAxisSpacing(),
                                         m_setup.getExtraY(), isSteep ? &LabelSize::height : &LabelSize::width);
         const AxisTicks ticks = makeAxisTicks(scale);
-        addTitles(0, ticks.exponent, m_room.besideLabels(m_room.labelWidth));
+        addXTitle(0);
+        const Pixel origin = view.at(0.0, 0.0);
+        const auto middle = static_cast<float>(origin.x);
+        const float lower = std::clamp(static_cast<float>(origin.y), m_top, m_bottom);
+        // Where the numbers are not along an upright line of some length, their title is at the left.
+        const bool isUpright = view.showsOrigin() && middle > m_left && lower - m_top > 0.3f * (m_bottom - m_top);
+        isUpright ? addTitleOfRadii(ticks.exponent, middle, m_top, lower)
+                  : addYTitle(ticks.exponent, m_room.besideLabels(m_room.labelWidth));
         const int step = degreesBetweenRays(view);
         for (double degrees = std::ceil(view.firstDegrees() / step) * step; degrees < view.lastDegrees();
              degrees += step) {
@@ -536,8 +564,9 @@ AxisMargins marginsWith(const Axes2dInput& input, const Room& room, float labelW
     const float gap = c_gap * room.em;
     AxisMargins margins;
     margins.bottom = room.belowLabels() + std::max(room.xTitle.height, room.labelHeight) + gap;
+    const bool hasTitle = room.yTitle.height > 0.0f && !isPolar(input);
     margins.left = room.besideLabels(labelWidth) +
-                   (room.yTitle.height > 0.0f ? std::max(room.yTitle.height, room.labelHeight) + gap : 0.0f);
+                   (hasTitle ? std::max(room.yTitle.height, room.labelHeight) + gap : 0.0f);
     if (isPolar(input) || isRound(input)) {
         margins.right = gap + room.labelWidth + gap;
         margins.top = gap + room.lineHeight + gap;
