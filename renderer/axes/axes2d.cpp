@@ -565,8 +565,8 @@ AxisMargins marginsWith(const Axes2dInput& input, const Room& room, float labelW
     AxisMargins margins;
     margins.bottom = room.belowLabels() + std::max(room.xTitle.height, room.labelHeight) + gap;
     const bool hasTitle = room.yTitle.height > 0.0f && !isPolar(input);
-    margins.left = room.besideLabels(labelWidth) +
-                   (hasTitle ? std::max(room.yTitle.height, room.labelHeight) + gap : 0.0f);
+    margins.left =
+        room.besideLabels(labelWidth) + (hasTitle ? std::max(room.yTitle.height, room.labelHeight) + gap : 0.0f);
     if (isPolar(input) || isRound(input)) {
         margins.right = gap + room.labelWidth + gap;
         margins.top = gap + room.lineHeight + gap;

@@ -45,8 +45,7 @@ PixelArea frameOfData(const vxgraphics3d::Camera2d& camera, const PixelArea& are
         return Range{static_cast<double>(low - viewLow) * pixels, static_cast<double>(high - viewLow) * pixels,
                      static_cast<double>(size)};
     };
-    const Range x =
-        rangeOf(box.getMin().x, box.getMax().x, camera.getActualMinX(), camera.getActualMaxX(), area.width);
+    const Range x = rangeOf(box.getMin().x, box.getMax().x, camera.getActualMinX(), camera.getActualMaxX(), area.width);
     // Rows count from the top.
     const Range y =
         rangeOf(-box.getMax().y, -box.getMin().y, -camera.getActualMaxY(), -camera.getActualMinY(), area.height);

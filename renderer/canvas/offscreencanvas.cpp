@@ -22,7 +22,9 @@
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
+#include <cmath>
 #include <stdexcept>
+#include <type_traits>
 #include <utility>
 
 namespace vxrenderer {
@@ -30,6 +32,8 @@ namespace {
 
 using namespace vxgraphics3d;
 
+/// The difference of views that are the same except for rounding, as a part of the picture.
+constexpr float c_sameView = 1e-3f;
 /// How often a flat view is fitted at most.
 constexpr int c_mostFits = 4;
 
@@ -264,6 +268,27 @@ void OffscreenCanvas::zoomExtents()
     }
 }
 
+bool OffscreenCanvas::isFitted(const Camera3d& camera) const
+{
+    Camera3d fitted = camera;
+    const Appearance look = appearance();
+    const Frame frame = frameOf(fitted, look);
+    const FrameLayout layout = m_renderer->layOut(frame, getWidth(), getHeight());
+    if (layout.area.whole.isEmpty() || !layout.box.isValid()) {
+        return false;
+    }
+    fitCamera(fitted, frame, layout);
+    const auto isSame = [](float a, float b, float unit) { return std::abs(a - b) <= c_sameView * std::abs(unit); };
+    const Matrixf& projection = fitted.getProjectionTransformRH();
+    const Matrixf& shown = camera.getProjectionTransformRH();
+    const Vector3f moved = fitted.getActualPosition() - camera.getActualPosition();
+    const float distance = (fitted.getActualPosition() - layout.box.getCenter()).length();
+    return isSame(projection.get(1, 1), shown.get(1, 1), shown.get(1, 1)) &&
+           isSame(fitted.getRelativeViewOffsetX(), camera.getRelativeViewOffsetX(), 1.0f) &&
+           isSame(fitted.getRelativeViewOffsetY(), camera.getRelativeViewOffsetY(), 1.0f) &&
+           moved.length() <= c_sameView * distance;
+}
+
 void OffscreenCanvas::draw(Quality quality)
 {
     dropDisposedScene();
@@ -340,6 +365,11 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
         frame.screenOverlay = nullptr;
         FrameLayout layout = m_renderer->layOut(frame, width, height);
         showTheSame(copy, camera);
+        if constexpr (std::is_same_v<decltype(copy), Camera3d>) {
+            if (!layout.area.whole.isEmpty() && layout.box.isValid() && m_sceneView && isFitted(camera)) {
+                fitCamera(copy, frame, layout);
+            }
+        }
         SceneRenderer::placeScene(frame, layout);
         m_renderer->draw(frame, layout, target);
     };

@@ -20,6 +20,7 @@
 
 namespace vxgraphics3d {
 class BoundingBox;
+class Camera3d;
 class HardcopySettings;
 class ICameraTransforms;
 class PickedObjectCollection;
@@ -121,7 +122,8 @@ public:
     void keepVisible(vxgraphics3d::PickedObjectCollection& picked);
 
     /// Draws the view at another size as the settings of the export ask, and gives the bytes of an image file. The view
-    /// itself stays as it is.
+    /// itself stays as it is. A view in space that `zoomExtents` has made is fitted to the picture again, whose labels
+    /// may have another size.
     /// @throws std::invalid_argument for a size below 1 or beyond what the driver allows
     /// @throws std::runtime_error if the driver reports a fault
     std::vector<std::uint8_t> encodeHardcopy(const vxgraphics3d::HardcopySettings& settings, int width, int height);
@@ -138,6 +140,8 @@ private:
     Frame frameOf(vxgraphics3d::ICameraTransforms& camera, const Appearance& appearance) const;
     const vxgraphics3d::BoundingBox* framedBox() const;
     Appearance appearance() const;
+    /// Whether the 3D camera shows the scene as `zoomExtents` leaves it.
+    bool isFitted(const vxgraphics3d::Camera3d& camera) const;
     void dropDisposedScene();
     int wantedSamples() const;
     void requireImage() const;
