@@ -113,7 +113,7 @@ flat in vec3 partColor;
 constexpr const char* c_fragmentMain = R"(
 centroid in float u;
 in vec3 cap;
-out vec4 result;
+OUTPUT vec4 result;
 
 void main()
 {
@@ -141,21 +141,42 @@ struct LinePainter::LineBlock {
     float unused = 0.0f;
 };
 
-LinePainter::LinePainter()
-    : m_program("lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
-                (std::string(Material::c_source) + c_fragmentMain).c_str()),
-      m_partProgram(
-          "the lines of objects",
-          (std::string(c_renamed) + c_vertexInputs + c_namedAgain + PartRows::c_source + c_partsStart + c_vertexMain)
-              .c_str(),
-          (std::string(Material::c_source) + c_partColor + c_fragmentMain).c_str())
+LinePainter::Programs::Programs(FragmentOutput output)
+    : lines("lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
+            withOutput(output, std::string(Material::c_source) + c_fragmentMain).c_str()),
+      parts("the lines of objects",
+            (std::string(c_renamed) + c_vertexInputs + c_namedAgain + PartRows::c_source + c_partsStart + c_vertexMain)
+                .c_str(),
+            withOutput(output, std::string(Material::c_source) + c_partColor + c_fragmentMain).c_str())
 {
-    for (const GlProgram* program : {&m_program, &m_partProgram}) {
+    if (output == FragmentOutput::layers) {
+        attachLayers(lines);
+        attachLayers(parts);
+    }
+}
+
+void LinePainter::attach(const Programs& programs) const
+{
+    for (const GlProgram* program : {&programs.lines, &programs.parts}) {
         m_line.attach(*program);
         m_material.attach(*program);
     }
-    m_rows.attach(m_partProgram);
-    PartRows::attachTextures(m_partProgram);
+    m_rows.attach(programs.parts);
+    PartRows::attachTextures(programs.parts);
+}
+
+void LinePainter::setOutput(FragmentOutput output)
+{
+    m_output = output;
+    if (output == FragmentOutput::layers && !m_layerPrograms) {
+        m_layerPrograms = std::make_unique<Programs>(output);
+        attach(*m_layerPrograms);
+    }
+}
+
+LinePainter::LinePainter()
+{
+    attach(m_programs);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     const auto describe = [](LineMesh::Attribute attribute, std::ptrdiff_t offset) {
@@ -189,7 +210,7 @@ void LinePainter::draw(std::span<const LineSegment> lines, const Frame& frame, c
         return;
     }
     const Material material = Material::of(color);
-    setUp(m_program, frame, material, !material.isTranslucent());
+    setUp(programs().lines, frame, material, !material.isTranslucent());
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(lines.size_bytes()), lines.data(), GL_STREAM_DRAW);
@@ -198,13 +219,13 @@ void LinePainter::draw(std::span<const LineSegment> lines, const Frame& frame, c
 
 void LinePainter::draw(const LineMesh& lines, const Frame& frame, const Material& material) const
 {
-    setUp(m_program, frame, material, !material.isTranslucent());
+    setUp(programs().lines, frame, material, !material.isTranslucent());
     lines.draw();
 }
 
 void LinePainter::draw(const LineMesh& lines, const PartLook& parts, const Frame& frame, const Material& material) const
 {
-    setUp(m_partProgram, frame, material, !material.isTranslucent());
+    setUp(programs().parts, frame, material, !material.isTranslucent());
     m_rows.set(parts.rows);
     parts.table.bind();
     lines.draw();

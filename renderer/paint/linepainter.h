@@ -5,10 +5,12 @@
 #include "renderer/frame/view.h"
 #include "renderer/gl/globject.h"
 #include "renderer/gl/glprogram.h"
+#include "renderer/paint/layeroutput.h"
 #include "renderer/paint/material.h"
 #include "renderer/paint/partrows.h"
 #include "renderer/upload/uniformblock.h"
 
+#include <memory>
 #include <span>
 
 namespace vxrenderer {
@@ -43,6 +45,9 @@ public:
 
     LinePainter();
 
+    /// Where the colours of what follows go, at first into the picture.
+    void setOutput(FragmentOutput output);
+
     /// Draws lines that are copied for this call.
     void draw(std::span<const LineSegment> lines, const Frame& frame, const vxgraphics3d::Color& color) const;
     /// Draws lines that stay on the graphics hardware.
@@ -54,10 +59,21 @@ public:
 private:
     struct LineBlock;
 
+    struct Programs {
+        explicit Programs(FragmentOutput output);
+
+        GlProgram lines;
+        GlProgram parts;
+    };
+
+    void attach(const Programs& programs) const;
+    const Programs& programs() const { return m_output == FragmentOutput::layers ? *m_layerPrograms : m_programs; }
     void setUp(const GlProgram& program, const Frame& frame, const Material& material, bool isClosed) const;
 
-    GlProgram m_program;
-    GlProgram m_partProgram;
+    FragmentOutput m_output = FragmentOutput::picture;
+    Programs m_programs{FragmentOutput::picture};
+    /// Made when they are used for the first time.
+    std::unique_ptr<Programs> m_layerPrograms;
     UniformBlock<LineBlock> m_line;
     UniformBlock<Material> m_material;
     UniformBlock<PartRows> m_rows;

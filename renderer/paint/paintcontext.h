@@ -46,11 +46,15 @@ struct Look {
     Material material;
 };
 
+/// Which faces, lines and symbols are drawn when the painters draw everything: in space, what is opaque comes first,
+/// and what is translucent is mixed over it, see `Transparency`.
+enum class Pass { all, opaque, translucent };
+
 /// What the painters of plots and objects draw with in one frame: they take from `uploads` what they consist of and
 /// draw it, in any order. Uploads that are null, because they cannot be drawn, are left out.
 ///
-/// A painter need not know whether the scene is translucent: materials lose some of their opacity here, and faces are
-/// blended in two steps, those that face away first, lines in one.
+/// A painter need not know whether the scene is translucent: materials lose some of their opacity here, and what does
+/// not belong to the pass is left out.
 struct PaintContext {
     const View& view;
     /// Of the scene, from 0 to 1; below 1, what lies behind shines through.
@@ -68,6 +72,9 @@ struct PaintContext {
     const SymbolPainter& symbols;
     std::vector<SceneIcon>& icons;
     std::vector<SceneLabel>& labels;
+    Pass pass = Pass::all;
+    /// Set in the pass of what is opaque if something translucent was left out; or null.
+    bool* isSomethingLeft = nullptr;
 
     void drawMesh(const Mesh* mesh, const Look& look) const;
     void drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const;
@@ -97,6 +104,9 @@ struct PaintContext {
     void drawIcon(SceneIcon icon) const { icons.push_back(std::move(icon)); }
     /// The label is drawn over everything that it is not hidden by.
     void drawLabel(SceneLabel label) const { labels.push_back(std::move(label)); }
+
+private:
+    bool isInPass(bool isTranslucent) const;
 };
 
 } // namespace vxrenderer

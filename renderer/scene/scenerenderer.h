@@ -10,6 +10,7 @@
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/overlaypainter.h"
 #include "renderer/paint/symbolpainter.h"
+#include "renderer/paint/transparency.h"
 #include "renderer/plots/plotpainter.h"
 #include "renderer/scene/framelayout.h"
 #include "renderer/text/fontsets.h"
@@ -63,14 +64,20 @@ public:
 
 private:
     void updateTitle(const vxgraphics3d::Scene& scene);
-    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes);
+    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes, const Target& target);
     /// @param icons,labels receive those that are to be drawn over the scene
-    void drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
+    void drawData(const Frame& frame, const FrameLayout& layout, const Target& target, std::vector<SceneIcon>& icons,
                   std::vector<SceneLabel>& labels);
+    /// Lets meshes be drawn in a view, in the light of the frame.
+    void beginMeshes(const Frame& frame, const View& view);
     void drawItem(const SceneItem& item, const PaintContext& context) const;
     /// Whether an item is blended in every picture.
     bool isTranslucent(const SceneItem& item) const;
-    void drawItems(const std::vector<SceneItem>& items, unsigned renderMask, const PaintContext& context) const;
+    /// Draws items without depths over each other, as in a flat view.
+    void drawFlat(std::vector<const SceneItem*> items, const PaintContext& context) const;
+    /// Draws what is opaque, and mixes what is translucent over it.
+    void drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
+                     PaintContext context);
     void drawLightMarkers(const Frame& frame);
     void drawOverlays(const Frame& frame, const FrameLayout& layout);
     void drawOverlay(const vxgraphics3d::Overlay& overlay, const vxgraphics3d::BoundingBox& framedBox, const View& view,
@@ -91,6 +98,7 @@ private:
     SymbolPainter m_symbols;
     ShapePainter m_shapes;
     OverlayPainter m_overlay{m_counts};
+    Transparency m_transparency;
     FontSets m_fontSets;
     boost::weak_ptr<const vxgraphics3d::SceneGraphNode> m_titleRoot;
     vxgraphics3d::LastChangeId m_lastTreeStructure;
