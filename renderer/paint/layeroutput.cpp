@@ -17,6 +17,7 @@ layout(std140) uniform Layers {
     int layersStep;
 };
 uniform sampler2D formerLayer;
+uniform sampler2D layerLimits;
 // The sums of weighted colours, and the depth of the next layer.
 layout(location = 0) out vec4 layerColor;
 // The sums of weights, and the number of fragments or the logarithm of what they let through together.
@@ -42,13 +43,14 @@ void main()
 {
     paintFragment();
     float nearness = 1.0 - c_depth;
+    float limit = texelFetch(layerLimits, ivec2(gl_FragCoord.xy), 0).r;
     bool isFirst = layersStep == 0;
     bool isTail = layersStep >= 2;
     float former = isFirst || layersStep == 3 ? 2.0 : texelFetch(formerLayer, ivec2(gl_FragCoord.xy), 0).a;
     bool isNext = !isTail && nearness < former - (isFirst ? 0.0 : c_sameDepth);
     bool isIn = !isFirst && nearness <= former && (isTail || !isNext);
     float alpha = clamp(result.a, 0.0, 1.0);
-    if (!(isNext || isIn) || !(alpha > 0.0)) {
+    if (!(isNext || isIn) || nearness < limit || !(alpha > 0.0)) {
         discard;
     }
     float steps = isTail ? 16384.0 : 65536.0;
@@ -75,7 +77,8 @@ std::string withOutput(FragmentOutput output, const std::string& source, bool wr
 void attachLayers(const GlProgram& program)
 {
     program.bindBlock(LayersBlock::c_block, LayersBlock::c_binding, sizeof(LayersBlock));
-    program.setSampler("formerLayer", LayersBlock::c_unit);
+    program.setSampler("formerLayer", LayersBlock::c_layerUnit);
+    program.setSampler("layerLimits", LayersBlock::c_limitUnit);
 }
 
 } // namespace vxrenderer

@@ -18,9 +18,12 @@ enum Step : int { StepFirst, StepLayer, StepRest, StepAll };
 /// Pixels of the buffers; larger pictures are mixed in bands of them. One takes 56 bytes.
 constexpr int c_mostPixels = 1 << 21;
 
-// Units of the textures besides that of the layer before, which all programs share.
-constexpr GLint c_coverUnit = 6;
-constexpr GLint c_depthUnit = 7;
+/// Layers are peeled off as long as they have more pixels than one of this number.
+constexpr int c_fewPixels = 1000;
+
+constexpr GLint c_coverUnit = 7;
+/// The depths of the scene are read where no layer is.
+constexpr GLint c_depthUnit = LayersBlock::c_layerUnit;
 
 constexpr const char* c_quadMain = R"(
 void main()
@@ -41,19 +44,21 @@ layout(std140) uniform Layers {
 
 constexpr const char* c_depthMain = R"(
 uniform sampler2D depths;
+out float limit;
 
 void main()
 {
-    gl_FragDepth = texelFetch(depths, ivec2(gl_FragCoord.xy) + layersOrigin, 0).r;
+    limit = 1.0 - texelFetch(depths, ivec2(gl_FragCoord.xy) + layersOrigin, 0).r;
 }
 )";
 
 constexpr const char* c_multisampledDepthMain = R"(
 uniform sampler2DMS depths;
+out float limit;
 
 void main()
 {
-    gl_FragDepth = texelFetch(depths, ivec2(gl_FragCoord.xy) + layersOrigin, layersSample).r;
+    limit = 1.0 - texelFetch(depths, ivec2(gl_FragCoord.xy) + layersOrigin, layersSample).r;
 }
 )";
 
@@ -63,14 +68,16 @@ uniform sampler2D formerCover;
 out vec4 result;
 )";
 
-// A fragment for each pixel in which a layer follows.
+// For each pixel in which a layer follows, a depth a little before it: what is in front of that is mixed already, and
+// need not be looked at again.
 constexpr const char* c_nextMain = R"(
 void main()
 {
-    if (texelFetch(formerLayer, ivec2(gl_FragCoord.xy), 0).a == 0.0) {
+    float nearness = texelFetch(formerLayer, ivec2(gl_FragCoord.xy), 0).a;
+    if (nearness == 0.0) {
         discard;
     }
-    result = vec4(0.0);
+    gl_FragDepth = 1.0 - nearness - 1.0 / 1048576.0;
 }
 )";
 
@@ -121,9 +128,9 @@ void bindTexture(GLint unit, GLenum kind, GLuint texture)
 
 void attachTexture(const GlTexture& texture, GLenum point, GLenum format, int width, int height)
 {
-    bindTexture(LayersBlock::c_unit, GL_TEXTURE_2D, texture.name());
-    glActiveTexture(GL_TEXTURE0 + static_cast<GLenum>(LayersBlock::c_unit));
-    const GLenum channels = format == GL_RG32F ? GL_RG : GL_RGBA;
+    bindTexture(LayersBlock::c_layerUnit, GL_TEXTURE_2D, texture.name());
+    glActiveTexture(GL_TEXTURE0 + static_cast<GLenum>(LayersBlock::c_layerUnit));
+    const GLenum channels = format == GL_R32F ? GL_RED : format == GL_RG32F ? GL_RG : GL_RGBA;
     glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(format), width, height, 0, channels, GL_FLOAT, nullptr);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
@@ -137,22 +144,6 @@ void requireComplete()
         throw std::runtime_error("The driver does not give the layers of what is translucent.");
     }
 }
-
-/// Asks whether anything is drawn during its lifetime.
-class AnyDrawn {
-public:
-    AnyDrawn() { glBeginQuery(GL_ANY_SAMPLES_PASSED, m_query.name()); }
-    bool end() const
-    {
-        glEndQuery(GL_ANY_SAMPLES_PASSED);
-        GLuint result = 0;
-        glGetQueryObjectuiv(m_query.name(), GL_QUERY_RESULT, &result);
-        return result != 0;
-    }
-
-private:
-    GlQuery m_query;
-};
 
 /// Where a sample is in its pixel, from its lower left corner.
 std::array<float, 2> positionOf(int sample, int numSamples)
@@ -199,7 +190,7 @@ struct Transparency::Buffers {
     Buffers(int bufferWidth, int bufferHeight) : width(bufferWidth), height(bufferHeight)
     {
         glBindRenderbuffer(GL_RENDERBUFFER, depth.name());
-        glRenderbufferStorage(GL_RENDERBUFFER, GL_DEPTH_COMPONENT24, width, height);
+        glRenderbufferStorage(GL_RENDERBUFFER, GL_DEPTH_COMPONENT32F, width, height);
         for (std::size_t i = 0; i < 2; ++i) {
             glBindFramebuffer(GL_FRAMEBUFFER, passes[i].name());
             attachTexture(layers[i], GL_COLOR_ATTACHMENT0, GL_RGBA32F, width, height);
@@ -211,6 +202,10 @@ struct Transparency::Buffers {
         }
         glBindFramebuffer(GL_FRAMEBUFFER, mixing.name());
         attachTexture(mixed, GL_COLOR_ATTACHMENT0, GL_RGBA16F, width, height);
+        glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, depth.name());
+        requireComplete();
+        glBindFramebuffer(GL_FRAMEBUFFER, limiting.name());
+        attachTexture(limits, GL_COLOR_ATTACHMENT0, GL_R32F, width, height);
         requireComplete();
     }
 
@@ -219,9 +214,12 @@ struct Transparency::Buffers {
     std::array<GlFramebuffer, 2> passes;
     std::array<GlTexture, 2> layers;
     GlTexture covers;
+    /// A little before the layer that is added up.
     GlRenderbuffer depth;
     GlFramebuffer mixing;
     GlTexture mixed;
+    GlFramebuffer limiting;
+    GlTexture limits;
 };
 
 /// Some rows of the area of the scene, and one sample of their pixels.
@@ -250,7 +248,7 @@ Transparency::Transparency()
     m_depthProgram.setSampler("depths", c_depthUnit);
     m_multisampledDepthProgram.setSampler("depths", c_depthUnit);
     for (const GlProgram* program : {&m_nextProgram, &m_layerProgram, &m_tailProgram, &m_coverProgram}) {
-        program->setSampler("formerLayer", LayersBlock::c_unit);
+        program->setSampler("formerLayer", LayersBlock::c_layerUnit);
         program->setSampler("formerCover", c_coverUnit);
     }
 }
@@ -293,7 +291,7 @@ void Transparency::draw(const Target& target, const View& view, int numLayers, c
                 glEnable(GL_SAMPLE_MASK);
                 glSampleMaski(0, GLbitfield{1} << block.sample);
             }
-            bindTexture(LayersBlock::c_unit, GL_TEXTURE_2D, m_buffers->mixed.name());
+            bindTexture(LayersBlock::c_layerUnit, GL_TEXTURE_2D, m_buffers->mixed.name());
             m_block.set(block);
             drawQuad(m_coverProgram);
             glDisable(GL_SAMPLE_MASK);
@@ -310,36 +308,34 @@ void Transparency::draw(const Target& target, const View& view, int numLayers, c
 void Transparency::drawSample(const Band& band, int numLayers, const Draw& draw) const
 {
     glViewport(0, 0, band.view.area.width, band.height);
-    glBindFramebuffer(GL_FRAMEBUFFER, m_buffers->mixing.name());
     glDisable(GL_BLEND);
+    glDisable(GL_DEPTH_TEST);
+    m_block.set(band.block);
+    glBindFramebuffer(GL_FRAMEBUFFER, m_buffers->limiting.name());
+    drawQuad(band.isMultisampled ? m_multisampledDepthProgram : m_depthProgram);
+    glBindFramebuffer(GL_FRAMEBUFFER, m_buffers->mixing.name());
     const std::array<float, 4> nothing = {0.0f, 0.0f, 0.0f, 1.0f};
     glClearBufferfv(GL_COLOR, 0, nothing.data());
-    // Both passes share the depths.
-    glBindFramebuffer(GL_FRAMEBUFFER, m_buffers->passes[0].name());
-    glEnable(GL_DEPTH_TEST);
+    const float nearest = 0.0f;
     glDepthMask(GL_TRUE);
-    glDepthFunc(GL_ALWAYS);
-    glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
-    m_block.set(band.block);
-    drawQuad(band.isMultisampled ? m_multisampledDepthProgram : m_depthProgram);
-    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
-    glDepthMask(GL_FALSE);
-    glDepthFunc(GL_LEQUAL);
+    glClearBufferfv(GL_DEPTH, 0, &nearest);
+    bindTexture(LayersBlock::c_limitUnit, GL_TEXTURE_2D, m_buffers->limits.name());
 
     if (numLayers < 1) {
         drawPass(band, 0, StepAll, draw);
         merge(0, true);
         return;
     }
+    const int few = band.view.area.width * band.height / c_fewPixels;
     drawPass(band, 0, StepFirst, draw);
     int pass = 0;
-    bool hasNext = hasNextLayer(pass);
-    while (hasNext && pass < numLayers) {
+    int numNext = countNextLayer(pass);
+    while (pass < numLayers && (numNext > few || (pass == 0 && numNext > 0))) {
         drawPass(band, ++pass, StepLayer, draw);
         merge(pass, false);
-        hasNext = hasNextLayer(pass);
+        numNext = countNextLayer(pass);
     }
-    if (hasNext) {
+    if (numNext > 0) {
         drawPass(band, ++pass, StepRest, draw);
         merge(pass, true);
     }
@@ -354,10 +350,12 @@ void Transparency::drawPass(const Band& band, int pass, int step, const Draw& dr
     // The area may be larger than the band: what is outside of it is cut off.
     glViewport(0, -band.firstRow, band.view.area.width, band.view.area.height);
     glEnable(GL_DEPTH_TEST);
+    glDepthMask(GL_FALSE);
+    glDepthFunc(GL_GEQUAL);
     glEnable(GL_BLEND);
     glBlendEquationSeparate(GL_FUNC_ADD, GL_MAX);
     glBlendFunc(GL_ONE, GL_ONE);
-    bindTexture(LayersBlock::c_unit, GL_TEXTURE_2D, m_buffers->layers[static_cast<std::size_t>((pass + 1) % 2)].name());
+    bindTexture(LayersBlock::c_layerUnit, GL_TEXTURE_2D, m_buffers->layers[static_cast<std::size_t>((pass + 1) % 2)].name());
     LayersBlock block = band.block;
     block.step = step;
     m_block.set(block);
@@ -368,22 +366,32 @@ void Transparency::drawPass(const Band& band, int pass, int step, const Draw& dr
     glViewport(0, 0, band.view.area.width, band.height);
 }
 
-bool Transparency::hasNextLayer(int pass) const
+int Transparency::countNextLayer(int pass) const
 {
     glBindFramebuffer(GL_FRAMEBUFFER, m_buffers->mixing.name());
+    bindTexture(LayersBlock::c_layerUnit, GL_TEXTURE_2D, m_buffers->layers[static_cast<std::size_t>(pass % 2)].name());
+    glEnable(GL_DEPTH_TEST);
+    glDepthMask(GL_TRUE);
+    glDepthFunc(GL_ALWAYS);
     glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
-    bindTexture(LayersBlock::c_unit, GL_TEXTURE_2D, m_buffers->layers[static_cast<std::size_t>(pass % 2)].name());
-    const AnyDrawn question;
+    // Where no layer follows, nothing can be behind this.
+    const float farthest = 1.0f;
+    glClearBufferfv(GL_DEPTH, 0, &farthest);
+    const GlQuery query;
+    glBeginQuery(GL_SAMPLES_PASSED, query.name());
     drawQuad(m_nextProgram);
-    const bool answer = question.end();
+    glEndQuery(GL_SAMPLES_PASSED);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
-    return answer;
+    glDisable(GL_DEPTH_TEST);
+    GLuint count = 0;
+    glGetQueryObjectuiv(query.name(), GL_QUERY_RESULT, &count);
+    return static_cast<int>(count);
 }
 
 void Transparency::merge(int pass, bool isTail) const
 {
     glBindFramebuffer(GL_FRAMEBUFFER, m_buffers->mixing.name());
-    bindTexture(LayersBlock::c_unit, GL_TEXTURE_2D, m_buffers->layers[static_cast<std::size_t>(pass % 2)].name());
+    bindTexture(LayersBlock::c_layerUnit, GL_TEXTURE_2D, m_buffers->layers[static_cast<std::size_t>(pass % 2)].name());
     bindTexture(c_coverUnit, GL_TEXTURE_2D, m_buffers->covers.name());
     glEnable(GL_BLEND);
     // Colours count as far as the layers in front let them through.

@@ -19,8 +19,9 @@ struct View;
 struct LayersBlock {
     static constexpr const char* c_block = "Layers";
     static constexpr GLuint c_binding = 11;
-    /// The texture unit of the layer before.
-    static constexpr GLint c_unit = 5;
+    /// The texture units of the layer before, and of the nearest depths that are opaque.
+    static constexpr GLint c_layerUnit = 5;
+    static constexpr GLint c_limitUnit = 6;
 
     /// The rows of the projection that depths come from: what z and w take from the depth in the eye's coordinates.
     std::array<float, 4> depthRows{};
@@ -68,7 +69,7 @@ private:
 
     void drawSample(const Band& band, int numLayers, const Draw& draw) const;
     void drawPass(const Band& band, int pass, int step, const Draw& draw) const;
-    bool hasNextLayer(int pass) const;
+    int countNextLayer(int pass) const;
     void merge(int pass, bool isTail) const;
     void drawQuad(const GlProgram& program) const;
 
