@@ -355,7 +355,8 @@ void Transparency::drawPass(const Band& band, int pass, int step, const Draw& dr
     glEnable(GL_BLEND);
     glBlendEquationSeparate(GL_FUNC_ADD, GL_MAX);
     glBlendFunc(GL_ONE, GL_ONE);
-    bindTexture(LayersBlock::c_layerUnit, GL_TEXTURE_2D, m_buffers->layers[static_cast<std::size_t>((pass + 1) % 2)].name());
+    bindTexture(LayersBlock::c_layerUnit, GL_TEXTURE_2D,
+                m_buffers->layers[static_cast<std::size_t>((pass + 1) % 2)].name());
     LayersBlock block = band.block;
     block.step = step;
     m_block.set(block);
