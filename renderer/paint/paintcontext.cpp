@@ -4,12 +4,17 @@
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/symbolpainter.h"
+#include "renderer/upload/mesh.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace vxrenderer {
 namespace {
+
+/// Dark enough on every colour of data, and no wider than a pixel of the screen.
+const vxgraphics3d::Color c_edgeColor{24, 24, 28, 255};
+constexpr float c_edgeWidth = 1.0f;
 
 Material faded(Material material, float opacity)
 {
@@ -23,6 +28,14 @@ void PaintContext::drawMesh(const Mesh* mesh, const Look& look) const
 {
     if (mesh != nullptr) {
         meshes.draw(*mesh, look.toEye, faded(look.material, opacity));
+    }
+}
+
+void PaintContext::drawBody(const Mesh* mesh, const Look& look) const
+{
+    drawMesh(mesh, look);
+    if (showFeatureEdges && mesh != nullptr && mesh->getFeatureEdges() != nullptr) {
+        drawLines(mesh->getFeatureEdges(), {look.toEye, look.material.inColor(c_edgeColor)}, c_edgeWidth);
     }
 }
 

@@ -57,6 +57,8 @@ struct PaintContext {
     float opacity;
     /// Pixels of the picture for a pixel of the screen, by which widths of lines are multiplied.
     float scale;
+    /// Whether creases and borders of bodies are drawn as lines.
+    bool showFeatureEdges;
     /// Which axes are logarithmic: bit 0 for x, bit 1 for y.
     int logAxes;
     ObjectStyle objects;
@@ -70,6 +72,8 @@ struct PaintContext {
     std::vector<SceneLabel>& labels;
 
     void drawMesh(const Mesh* mesh, const Look& look) const;
+    /// Draws the triangles of a body and, if wanted, its creases and borders as thin dark lines.
+    void drawBody(const Mesh* mesh, const Look& look) const;
     void drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const;
     /// @param radiusScale multiplies all radii
     void drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const;

@@ -106,7 +106,6 @@ public:
     std::uint32_t vertexOf(std::uint32_t corner) const { return m_indices[corner]; }
     /// The normal of the triangle of a corner, as long as twice its area.
     const Vector3f& areaOf(std::uint32_t corner) const { return m_areas[corner / 3]; }
-    Vector3f positionOf(std::uint32_t site) const { return m_records.position(site); }
 
 private:
     /// Computes areas and their sums.
@@ -188,7 +187,7 @@ public:
                 }
             }
             if (site < end && !(isSmooth && last - first == 2)) {
-                edges.emplace_back(m_surface.positionOf(site), m_surface.positionOf(end));
+                edges.emplace_back(site, end);
             }
         }
     }

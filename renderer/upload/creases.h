@@ -25,7 +25,8 @@ public:
         std::uint32_t source;
         vxgraphics3d::Vector3f normal;
     };
-    using Edge = std::pair<vxgraphics3d::Vector3f, vxgraphics3d::Vector3f>;
+    /// A vertex at each end.
+    using Edge = std::pair<std::uint32_t, std::uint32_t>;
 
     /// @param indices three for each triangle, counter-clockwise seen from the side of its normal; those of corners at
     ///        creases become those of the new vertices

@@ -24,8 +24,7 @@ public:
     bool isFinite(std::uint32_t index) const
     {
         const vxgraphics3d::Vector3f point = position(index);
-        const float u = m_layout.texture >= 0 ? at(index, m_layout.texture) : 0.0f;
-        return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z) && std::isfinite(u);
+        return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z) && std::isfinite(u(index));
     }
     /// Whether there is a normal that points somewhere.
     bool hasNormal(std::uint32_t index) const
@@ -34,11 +33,15 @@ public:
         return size > 0.0f && std::isfinite(size);
     }
 
+    /// The texture coordinate; 0 in a layout without.
+    float u(std::uint32_t index) const { return m_layout.texture >= 0 ? at(index, m_layout.texture) : 0.0f; }
+    const std::byte* record(std::uint32_t index) const { return m_first + index * m_layout.size; }
+
 private:
     float at(std::uint32_t index, std::ptrdiff_t offset) const
     {
         float value;
-        std::memcpy(&value, m_first + index * m_layout.size + offset, sizeof value);
+        std::memcpy(&value, record(index) + offset, sizeof value);
         return value;
     }
     vxgraphics3d::Vector3f vectorAt(std::uint32_t index, std::ptrdiff_t offset) const
