@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <numbers>
 #include <optional>
 #include <utility>
 
@@ -139,9 +140,11 @@ void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, std:
 {
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
+    m_uploads.setCreaseAngle(frame.appearance.style.creaseAngle * std::numbers::pi_v<float> / 180.0f);
     m_meshes.begin(m_view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
     drawItems(layout.items, frame.canvas.getRenderMask(),
-              {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance),
+              {m_view, frame.appearance.opacity, frame.appearance.scale,
+               frame.appearance.style.showFeatureEdges && !m_view.isFlat, frame.logAxes(), styleOf(frame.appearance),
                m_uploads, m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
@@ -338,8 +341,8 @@ void SceneRenderer::keepShown(PickedObjectCollection& picked, const Frame& frame
         std::vector<SceneIcon> icons;
         std::vector<SceneLabel> labels;
         shown = findShown(results, objects,
-                          {view, 1.0f, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance), m_uploads,
-                           m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
+                          {view, 1.0f, frame.appearance.scale, false, frame.logAxes(), styleOf(frame.appearance),
+                           m_uploads, m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
     }
     picked.reset();
     for (std::size_t i = 0; i < results.size(); ++i) {

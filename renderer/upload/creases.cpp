@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <numbers>
 #include <numeric>
 #include <tuple>
 
@@ -64,7 +65,11 @@ private:
 class Surface {
 public:
     Surface(const VertexRecords& records, std::uint32_t numVertices, std::span<const std::uint32_t> indices)
-        : m_records(records), m_indices(indices), m_areas(indices.size() / 3), m_sums(numVertices), m_sites(numVertices),
+        : m_records(records),
+          m_indices(indices),
+          m_areas(indices.size() / 3),
+          m_sums(numVertices),
+          m_sites(numVertices),
           m_isOpen(numVertices)
     {
         std::iota(m_sites.begin(), m_sites.end(), 0u);
@@ -162,7 +167,10 @@ private:
 /// Takes up the corners of one site after another.
 class Finder {
 public:
-    Finder(const Surface& surface, float angle) : m_surface(surface), m_cosine(std::cos(angle)) {}
+    // Triangles that are folded back on each other must not fall short of the cosine of the widest angle by rounding.
+    Finder(const Surface& surface, float angle)
+        : m_surface(surface), m_cosine(angle < std::numbers::pi_v<float> ? std::cos(angle) : -2.0f)
+    {}
 
     /// Joins the triangles at a site that are smooth at the edge between them, and reports all other edges that lead to
     /// higher sites.

@@ -30,7 +30,7 @@ public:
 
     /// @param indices three for each triangle, counter-clockwise seen from the side of its normal; those of corners at
     ///        creases become those of the new vertices
-    /// @param angle in radians, from which two triangles at an edge make a crease
+    /// @param angle in radians, from which two triangles at an edge make a crease; from pi on there are none
     Creases(const VertexRecords& records, std::uint32_t numVertices, std::span<std::uint32_t> indices, float angle);
 
     /// The new vertices, which are numbered on from the others.

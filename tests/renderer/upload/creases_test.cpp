@@ -34,10 +34,10 @@ struct Surface {
         }
     }
 
-    Creases creases()
+    Creases creases(float angle = c_angle)
     {
         const VertexRecords records(vertices, requireLayout(vertices));
-        return {records, static_cast<std::uint32_t>(vertices.getNumberOfVertices()), indices, c_angle};
+        return {records, static_cast<std::uint32_t>(vertices.getNumberOfVertices()), indices, angle};
     }
 };
 
@@ -110,9 +110,13 @@ TEST(Creases, aGlobeHasNoneNotEvenAtItsSeam)
 
 TEST(Creases, aVertexBelongsToAsManyFansAsSmoothPiecesMeetThere)
 {
-    // A roof of two slopes over a gable: 40 degrees at the ridge, and 30 degrees between the halves of one slope.
+    // A roof of two slopes, which meet at 40 degrees.
     const float down = -std::tan(20.0f * std::numbers::pi_v<float> / 180.0f);
-    Surface roof({{0.0f, 0.0f, 0.0f}, {0.0f, 1.0f, 0.0f}, {1.0f, 0.0f, down}, {1.0f, 1.0f, down}, {-1.0f, 0.0f, down},
+    Surface roof({{0.0f, 0.0f, 0.0f},
+                  {0.0f, 1.0f, 0.0f},
+                  {1.0f, 0.0f, down},
+                  {1.0f, 1.0f, down},
+                  {-1.0f, 0.0f, down},
                   {-1.0f, 1.0f, down}},
                  {0, 2, 3, 0, 3, 1, 0, 1, 5, 0, 5, 4});
     const Creases creases = roof.creases();
@@ -122,6 +126,16 @@ TEST(Creases, aVertexBelongsToAsManyFansAsSmoothPiecesMeetThere)
     const Vector3f slope = creases.getVertices()[roof.indices[0] - 6].normal;
     EXPECT_NEAR(std::acos(slope.z), 20.0f * std::numbers::pi_v<float> / 180.0f, 1e-5f);
     EXPECT_GT(slope.x, 0.0f);
+}
+
+TEST(Creases, withTheWidestAngleOnlyBordersAreLeft)
+{
+    Surface folded({{0.0f, 0.0f, 0.0f}, {0.3f, 1.0f, 0.7f}, {1.0f, 0.2f, 0.1f}, {0.9f, 0.3f, 0.1f}},
+                   {0, 2, 1, 0, 1, 3});
+    const Creases creases = folded.creases(std::numbers::pi_v<float>);
+    EXPECT_TRUE(creases.getVertices().empty());
+    EXPECT_EQ(creases.getEdges().size(), 4u);
+    EXPECT_FALSE(folded.creases().getVertices().empty());
 }
 
 TEST(Creases, trianglesWithVerticesOfTheirOwnStillMeetAtTheirEdges)
