@@ -35,7 +35,7 @@ void SurfacePainter::draw(const PlotItem& item, const PaintContext& context) con
     } else {
         // The steepest slope of a map is no crease.
         const auto& plot = static_cast<const SceneGraphPlotSurface&>(*item.plot);
-        context.drawMesh(
+        context.drawBody(
             context.uploads.mesh(item.plot, 0, plot.getGeometryChangeId(), plot.getVertices(), plot.getTriangles()),
             *look);
     }

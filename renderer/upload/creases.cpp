@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <compare>
 #include <cstddef>
 #include <numbers>
 #include <numeric>
@@ -60,108 +61,116 @@ private:
     std::vector<std::uint32_t> m_parents;
 };
 
-/// The triangles of a surface by the sites of their corners: vertices of a border at one position have a common site,
-/// the lowest of them.
+/// The triangles of a surface at the sites that may have a crease or a border. Vertices of a border at one position
+/// have a common site, the lowest of them; every other vertex is a site of its own.
 class Surface {
 public:
-    Surface(const VertexRecords& records, std::uint32_t numVertices, std::span<const std::uint32_t> indices)
-        : m_records(records),
-          m_indices(indices),
-          m_areas(indices.size() / 3),
-          m_sums(numVertices),
-          m_sites(numVertices),
-          m_isOpen(numVertices)
+    Surface(const VertexRecords& records, std::uint32_t numVertices, std::span<const std::uint32_t> indices,
+            float angle)
+        : m_records(records), m_indices(indices), m_isOpen(numVertices)
     {
-        std::iota(m_sites.begin(), m_sites.end(), 0u);
-        weld(addUp());
-    }
-
-    /// Looks for the sites that may have a crease or a border, and collects their corners.
-    void openRoughSites(float angle)
-    {
-        // Two triangles that make a crease cannot both be within half of its angle from the mean normal.
-        const float cosine = std::cos(0.5f * angle);
+        weld(bordersOf(numVertices));
+        openRoughSites(numVertices, angle);
         for (std::uint32_t corner = 0; corner < m_indices.size(); ++corner) {
-            const std::uint32_t site = siteOf(corner);
-            if (!m_isOpen[site] && !isWithin(cosine, areaOf(corner), m_sums[site])) {
-                m_isOpen[site] = true;
+            if (m_isOpen[m_indices[corner]]) {
+                m_corners.emplace_back(siteOf(corner), corner);
             }
         }
-        m_starts.assign(m_sites.size() + 1, 0);
-        for (std::uint32_t corner = 0; corner < m_indices.size(); ++corner) {
-            m_starts[siteOf(corner)] += m_isOpen[siteOf(corner)] ? 1u : 0u;
-        }
-        std::exclusive_scan(m_starts.begin(), m_starts.end(), m_starts.begin(), 0u);
-        m_corners.resize(m_starts.back());
-        std::vector<std::uint32_t> ends(m_starts);
-        for (std::uint32_t corner = 0; corner < m_indices.size(); ++corner) {
-            if (m_isOpen[siteOf(corner)]) {
-                m_corners[ends[siteOf(corner)]++] = corner;
-            }
-        }
+        std::ranges::sort(m_corners);
     }
 
-    std::uint32_t numSites() const { return static_cast<std::uint32_t>(m_sites.size()); }
-    /// The corners at a site; none if there is nothing to look for.
-    std::span<const std::uint32_t> cornersAt(std::uint32_t site) const
-    {
-        return std::span(m_corners).subspan(m_starts[site], m_starts[site + 1] - m_starts[site]);
-    }
-    std::uint32_t siteOf(std::uint32_t corner) const { return m_sites[m_indices[corner]]; }
+    /// Corners with their sites, in ascending order; only those of sites at which there is something to look for.
+    const std::vector<std::pair<std::uint32_t, std::uint32_t>>& getCorners() const { return m_corners; }
     std::uint32_t vertexOf(std::uint32_t corner) const { return m_indices[corner]; }
+    std::uint32_t siteOf(std::uint32_t corner) const
+    {
+        const std::uint32_t vertex = vertexOf(corner);
+        const auto welded = std::ranges::lower_bound(m_welded, vertex, {}, &Welded::first);
+        return welded != m_welded.end() && welded->first == vertex ? welded->second : vertex;
+    }
     /// The normal of the triangle of a corner, as long as twice its area.
-    const Vector3f& areaOf(std::uint32_t corner) const { return m_areas[corner / 3]; }
+    Vector3f areaOf(std::uint32_t corner) const
+    {
+        const std::uint32_t first = corner - corner % 3;
+        const Vector3f a = m_records.position(m_indices[first]);
+        return (m_records.position(m_indices[first + 1]) - a).cross(m_records.position(m_indices[first + 2]) - a);
+    }
+    /// Whether a vertex has the normal of a surface, except for less than half the angle of a crease.
+    bool hasNormalOf(const Vector3f& surface, std::uint32_t vertex) const
+    {
+        return isWithin(m_halfCosine, surface, m_records.normal(vertex));
+    }
+    bool hasNormals() const { return m_records.hasNormals(); }
 
 private:
-    /// Computes areas and their sums.
-    /// @return the vertices on borders
-    std::vector<std::uint32_t> addUp()
+    /// A vertex and its site.
+    using Welded = std::pair<std::uint32_t, std::uint32_t>;
+
+    std::vector<std::uint32_t> bordersOf(std::uint32_t numVertices) const
     {
         // Triangles all around a vertex have as many edges that lead to it as edges that lead away.
-        std::vector<std::uint64_t> balances(m_sums.size());
-        for (std::uint32_t corner = 0; corner < m_indices.size(); ++corner) {
-            if (corner % 3 == 0) {
-                const Vector3f a = m_records.position(m_indices[corner]);
-                m_areas[corner / 3] = (m_records.position(m_indices[corner + 1]) - a)
-                                          .cross(m_records.position(m_indices[corner + 2]) - a);
+        std::vector<std::uint64_t> balances(numVertices);
+        for (std::size_t i = 0; i < m_indices.size(); i += 3) {
+            const std::uint64_t codes[3] = {scattered(m_indices[i]), scattered(m_indices[i + 1]),
+                                            scattered(m_indices[i + 2])};
+            for (std::size_t k = 0; k < 3; ++k) {
+                balances[m_indices[i + k]] += codes[(k + 1) % 3] - codes[(k + 2) % 3];
             }
-            m_sums[m_indices[corner]] += areaOf(corner);
-            balances[m_indices[corner]] +=
-                scattered(m_indices[nextCorner(corner)]) - scattered(m_indices[previousCorner(corner)]);
         }
-        std::vector<std::uint32_t> border;
-        for (std::uint32_t vertex = 0; vertex < balances.size(); ++vertex) {
+        std::vector<std::uint32_t> borders;
+        for (std::uint32_t vertex = 0; vertex < numVertices; ++vertex) {
             if (balances[vertex] != 0) {
-                border.push_back(vertex);
+                borders.push_back(vertex);
             }
         }
-        return border;
+        return borders;
     }
 
-    void weld(std::vector<std::uint32_t> border)
+    void weld(std::vector<std::uint32_t> borders)
     {
         const auto keyOf = [this](std::uint32_t vertex) {
             const Vector3f p = m_records.position(vertex);
             return std::tuple(p.x, p.y, p.z);
         };
-        std::ranges::sort(border, {}, [&](std::uint32_t vertex) { return std::tuple(keyOf(vertex), vertex); });
-        for (std::size_t i = 0; i < border.size(); ++i) {
-            if (i > 0 && keyOf(border[i]) == keyOf(border[i - 1])) {
-                m_sites[border[i]] = m_sites[border[i - 1]];
-                m_sums[m_sites[border[i]]] += m_sums[border[i]];
+        std::ranges::sort(borders, {}, [&](std::uint32_t vertex) { return std::tuple(keyOf(vertex), vertex); });
+        std::uint32_t site = 0;
+        for (std::size_t i = 0; i < borders.size(); ++i) {
+            m_isOpen[borders[i]] = true;
+            if (i > 0 && keyOf(borders[i]) == keyOf(borders[i - 1])) {
+                m_welded.emplace_back(borders[i], site);
+            } else {
+                site = borders[i];
             }
-            m_isOpen[m_sites[border[i]]] = true;
+        }
+        std::ranges::sort(m_welded);
+    }
+
+    /// Two triangles that make a crease cannot both be within half of its angle from the normal of their vertex, nor
+    /// from any other direction.
+    void openRoughSites(std::uint32_t numVertices, float angle)
+    {
+        m_halfCosine = std::cos(0.5f * angle);
+        std::vector<Vector3f> sums(hasNormals() ? 0 : numVertices);
+        for (std::uint32_t corner = 0; !sums.empty() && corner < m_indices.size(); ++corner) {
+            sums[m_indices[corner]] += areaOf(corner);
+        }
+        for (std::uint32_t i = 0; i < m_indices.size(); i += 3) {
+            const Vector3f area = areaOf(i);
+            for (std::uint32_t corner = i; corner < i + 3; ++corner) {
+                const std::uint32_t vertex = m_indices[corner];
+                if (!(sums.empty() ? hasNormalOf(area, vertex) : isWithin(m_halfCosine, area, sums[vertex]))) {
+                    m_isOpen[vertex] = true;
+                }
+            }
         }
     }
 
     const VertexRecords& m_records;
     std::span<const std::uint32_t> m_indices;
-    std::vector<Vector3f> m_areas;
-    std::vector<Vector3f> m_sums;
-    std::vector<std::uint32_t> m_sites;
+    float m_halfCosine = 0.0f;
     std::vector<bool> m_isOpen;
-    std::vector<std::uint32_t> m_starts;
-    std::vector<std::uint32_t> m_corners;
+    std::vector<Welded> m_welded;
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> m_corners;
 };
 
 /// Takes up the corners of one site after another.
@@ -172,12 +181,23 @@ public:
         : m_surface(surface), m_cosine(angle < std::numbers::pi_v<float> ? std::cos(angle) : -2.0f)
     {}
 
-    /// Joins the triangles at a site that are smooth at the edge between them, and reports all other edges that lead to
-    /// higher sites.
-    void joinFans(std::uint32_t site, std::vector<Creases::Edge>& edges)
+    /// @param corners with their site
+    void begin(std::span<const std::pair<std::uint32_t, std::uint32_t>> corners)
     {
-        m_corners = m_surface.cornersAt(site);
+        m_site = corners.front().first;
+        m_corners.clear();
+        m_areas.clear();
+        for (const auto& [site, corner] : corners) {
+            m_corners.push_back(corner);
+            m_areas.push_back(m_surface.areaOf(corner));
+        }
         m_fans.reset(m_corners.size());
+    }
+
+    /// Joins the triangles that are smooth at the edge between them, and reports all other edges that lead to higher
+    /// sites.
+    void joinFans(std::vector<Creases::Edge>& edges)
+    {
         m_spokes.clear();
         for (std::uint32_t i = 0; i < m_corners.size(); ++i) {
             m_spokes.emplace_back(m_surface.siteOf(nextCorner(m_corners[i])), i);
@@ -189,18 +209,19 @@ public:
             bool isSmooth = false;
             for (last = first + 1; last < m_spokes.size() && m_spokes[last].first == end; ++last) {
                 const auto [a, b] = std::pair(m_spokes[last - 1].second, m_spokes[last].second);
-                isSmooth = isWithin(m_cosine, m_surface.areaOf(m_corners[a]), m_surface.areaOf(m_corners[b]));
+                isSmooth = isWithin(m_cosine, m_areas[a], m_areas[b]);
                 if (isSmooth) {
                     m_fans.join(a, b);
                 }
             }
-            if (site < end && !(isSmooth && last - first == 2)) {
-                edges.emplace_back(site, end);
+            if (m_site < end && !(isSmooth && last - first == 2)) {
+                edges.emplace_back(m_site, end);
             }
         }
     }
 
-    /// Gives a new vertex to each fan of a vertex that belongs to several.
+    /// Gives a new vertex to each fan of a vertex that belongs to several, and to a vertex of a crease that has the
+    /// normal of another side.
     /// @param change called with a corner and its new vertex
     template <class Change>
     void split(std::vector<Creases::Vertex>& vertices, Change change)
@@ -209,34 +230,44 @@ public:
         m_members.clear();
         for (std::uint32_t i = 0; i < m_corners.size(); ++i) {
             const std::uint32_t fan = m_fans.find(i);
-            m_normals[fan] += m_surface.areaOf(m_corners[i]);
-            m_members.emplace_back(m_surface.vertexOf(m_corners[i]), fan, m_corners[i]);
+            m_normals[fan] += m_areas[i];
+            m_members.push_back({m_surface.vertexOf(m_corners[i]), fan, m_corners[i]});
+        }
+        if (std::ranges::all_of(m_members, [&](const Member& it) { return it.fan == m_members.front().fan; })) {
+            return;
         }
         std::ranges::sort(m_members);
         for (auto first = m_members.begin(), last = first; first != m_members.end(); first = last) {
-            const std::uint32_t source = std::get<0>(*first);
-            last = std::find_if(first, m_members.end(), [&](const auto& it) { return std::get<0>(it) != source; });
-            if (std::get<1>(*first) == std::get<1>(*(last - 1))) {
+            last = std::find_if(first, m_members.end(), [&](const Member& it) { return it.vertex != first->vertex; });
+            if (first->fan == (last - 1)->fan && m_surface.hasNormalOf(m_normals[first->fan], first->vertex)) {
                 continue;
             }
             for (auto it = first; it != last; ++it) {
-                if (it == first || std::get<1>(*it) != std::get<1>(*(it - 1))) {
-                    vertices.push_back({source, m_normals[std::get<1>(*it)].normalized()});
+                if (it == first || it->fan != (it - 1)->fan) {
+                    vertices.push_back({it->vertex, m_normals[it->fan].normalized()});
                 }
-                change(std::get<2>(*it), static_cast<std::uint32_t>(vertices.size() - 1));
+                change(it->corner, static_cast<std::uint32_t>(vertices.size() - 1));
             }
         }
     }
 
 private:
+    struct Member {
+        std::uint32_t vertex;
+        std::uint32_t fan;
+        std::uint32_t corner;
+        auto operator<=>(const Member&) const = default;
+    };
+
     const Surface& m_surface;
     float m_cosine;
-    std::span<const std::uint32_t> m_corners;
+    std::uint32_t m_site = 0;
+    std::vector<std::uint32_t> m_corners;
+    std::vector<Vector3f> m_areas;
     Fans m_fans;
     /// The other end of an edge at the site, and the position of a corner in the list of the site.
     std::vector<std::pair<std::uint32_t, std::uint32_t>> m_spokes;
-    /// Vertex, fan and corner.
-    std::vector<std::tuple<std::uint32_t, std::uint32_t, std::uint32_t>> m_members;
+    std::vector<Member> m_members;
     std::vector<Vector3f> m_normals;
 };
 
@@ -244,14 +275,18 @@ private:
 
 Creases::Creases(const VertexRecords& records, std::uint32_t numVertices, std::span<std::uint32_t> indices, float angle)
 {
-    Surface surface(records, numVertices, indices);
-    surface.openRoughSites(angle);
+    const Surface surface(records, numVertices, indices, angle);
     Finder finder(surface, angle);
     // They take effect at the end: the search needs the indices as they were.
     std::vector<std::pair<std::uint32_t, std::uint32_t>> changes;
-    for (std::uint32_t site = 0; site < surface.numSites(); ++site) {
-        if (!surface.cornersAt(site).empty()) {
-            finder.joinFans(site, m_edges);
+    const std::span corners(surface.getCorners());
+    for (std::size_t first = 0, last = 0; first < corners.size(); first = last) {
+        for (last = first + 1; last < corners.size() && corners[last].first == corners[first].first;) {
+            ++last;
+        }
+        finder.begin(corners.subspan(first, last - first));
+        finder.joinFans(m_edges);
+        if (surface.hasNormals()) {
             finder.split(m_vertices, [&](std::uint32_t corner, std::uint32_t vertex) {
                 changes.emplace_back(corner, numVertices + vertex);
             });

@@ -131,7 +131,7 @@ void Mesh::upload(const VertexBuffer& vertices, const VertexLayout& layout, cons
     m_hasNormals = triangles.haveNormals();
 }
 
-void Mesh::load(std::span<const MeshPart> parts)
+void Mesh::loadBody(std::span<const MeshPart> parts, float creaseAngle)
 {
     m_numIndices = 0;
     m_featureEdges.reset();
@@ -165,6 +165,17 @@ void Mesh::load(std::span<const MeshPart> parts)
     }
 
     constexpr VertexLayout layout = {.vertexType = 0, .size = sizeof(PartVertex), .normal = sizeof(float[3])};
+    const auto* records = static_cast<const std::byte*>(static_cast<const void*>(vertices.data()));
+    const Creases creases(VertexRecords(records, layout), static_cast<std::uint32_t>(vertices.size()), indices,
+                          creaseAngle);
+    vertices.reserve(vertices.size() + creases.getVertices().size());
+    for (const Creases::Vertex& vertex : creases.getVertices()) {
+        PartVertex copy = vertices[vertex.source];
+        copy.vertex.nx = vertex.normal.x;
+        copy.vertex.ny = vertex.normal.y;
+        copy.vertex.nz = vertex.normal.z;
+        vertices.push_back(copy);
+    }
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_vertices.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(vertices.size() * sizeof(PartVertex)), vertices.data(),

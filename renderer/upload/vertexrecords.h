@@ -11,12 +11,13 @@
 
 namespace vxrenderer {
 
-/// Reads the records of a vertex buffer.
+/// Reads vertices of any layout.
 class VertexRecords {
 public:
     VertexRecords(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::VertexLayout& layout)
-        : m_first(static_cast<const std::byte*>(vertices.vertexPointer())), m_layout(layout)
+        : VertexRecords(static_cast<const std::byte*>(vertices.vertexPointer()), layout)
     {}
+    VertexRecords(const std::byte* first, const vxgraphics3d::VertexLayout& layout) : m_first(first), m_layout(layout) {}
 
     vxgraphics3d::Vector3f position(std::uint32_t index) const { return vectorAt(index, 0); }
     vxgraphics3d::Vector3f normal(std::uint32_t index) const { return vectorAt(index, m_layout.normal); }
@@ -26,6 +27,8 @@ public:
         const vxgraphics3d::Vector3f point = position(index);
         return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z) && std::isfinite(u(index));
     }
+    /// Whether the layout has normals.
+    bool hasNormals() const { return m_layout.normal >= 0; }
     /// Whether there is a normal that points somewhere.
     bool hasNormal(std::uint32_t index) const
     {
