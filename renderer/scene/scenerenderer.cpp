@@ -18,7 +18,9 @@
 #include "renderer/paint/paintcontext.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <numbers>
 #include <optional>
 #include <utility>
 
@@ -32,6 +34,8 @@ constexpr float c_markerWidth = 1.5f;
 constexpr float c_selectedMarkerWidth = 3.5f;
 /// Number of font sets kept before those of former sizes are given up.
 constexpr std::size_t c_manyFontSets = 24;
+/// Within which surfaces hide ambient light from each other, for each unit of the diagonal of the scene.
+constexpr float c_occlusionRadius = 0.06f;
 
 /// Whether what is drawn covers what is there by its alpha, or replaces it.
 void setBlending(bool on)
@@ -49,6 +53,20 @@ ObjectStyle styleOf(const Appearance& appearance)
     const MarkingSetups& markings = Canvas3dGlobalSettings::getInstance()->getMarkingSetups();
     return {markings.getMarkingModeSetup(appearance.markingMode), appearance.showLabels, appearance.showLineDirections,
             appearance.showPhysicsMarkers};
+}
+
+Lighting lightOf(const Frame& frame)
+{
+    return Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera);
+}
+
+/// The diagonal of a box as the eye sees it.
+float diagonalOf(const BoundingBox& box, const Matrixf& toEye)
+{
+    const Vector3f size = box.getMax() - box.getMin();
+    const auto along = [&](int axis) { return Vector3f(toEye.get(1, axis), toEye.get(2, axis), toEye.get(3, axis)); };
+    return std::sqrt(size.x * size.x * along(1).lengthSquared() + size.y * size.y * along(2).lengthSquared() +
+                     size.z * size.z * along(3).lengthSquared());
 }
 
 } // namespace
@@ -107,8 +125,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     }
 }
 
-void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes,
-                              const Target& target)
+void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const Target& target,
+                              const AxesPainter* axes)
 {
     const PixelArea& area = m_view.area;
     const int bottom = layout.height - area.y - area.height;
@@ -135,9 +153,69 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay);
 }
 
-void SceneRenderer::beginMeshes(const Frame& frame, const View& view)
+void SceneRenderer::lightFaces(const Frame& frame, const View& view, bool hasOcclusion)
 {
-    m_meshes.begin(view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
+    const Lighting light = lightOf(frame);
+    if (frame.appearance.style.isStudio) {
+        m_meshes.beginStudio(view, light, hasOcclusion ? m_occlusion.get() : nullptr);
+    } else {
+        m_meshes.begin(view, light);
+    }
+}
+
+bool SceneRenderer::findOcclusion(const Frame& frame, const FrameLayout& layout,
+                                  std::span<const SceneItem* const> items, const Target& target,
+                                  const PaintContext& context)
+{
+    if (!frame.appearance.style.isStudio || m_view.isFlat || !lightOf(frame).isUsed || items.empty() ||
+        !layout.box.isValid()) {
+        return false;
+    }
+    GLint viewport[4];
+    glGetIntegerv(GL_VIEWPORT, viewport);
+    if (!m_occlusion) {
+        m_occlusion = std::make_unique<AmbientOcclusion>();
+    }
+    const View view = m_occlusion->beginShapes(m_view);
+    m_meshes.beginShapes(view);
+    const PaintContext shapes = context.in(view, Stage::faces);
+    for (const SceneItem* item : items) {
+        drawItem(*item, shapes);
+    }
+    m_occlusion->finish(c_occlusionRadius * diagonalOf(layout.box, m_view.sceneToEye));
+    target.bindScene();
+    glViewport(viewport[0], viewport[1], viewport[2], viewport[3]);
+    glEnable(GL_SCISSOR_TEST);
+    return true;
+}
+
+std::vector<const SceneItem*> SceneRenderer::drawOpaque(std::span<const SceneItem* const> items, const Target& target,
+                                                        const PaintContext& context)
+{
+    std::vector<bool> isLeft(items.size());
+    const auto draw = [&](Stage stage) {
+        PaintContext part = context.in(context.view, stage);
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            bool isSomethingLeft = false;
+            part.isSomethingLeft = &isSomethingLeft;
+            drawItem(*items[i], part);
+            isLeft[i] = isLeft[i] || isSomethingLeft;
+        }
+    };
+    if (!context.showFeatureEdges || context.opacity < 1.0f || items.empty()) {
+        draw(Stage::everything);
+    } else {
+        draw(Stage::bodies);
+        m_silhouettes.draw(target, m_view, PaintContext::c_edgeWidth * context.scale, PaintContext::c_edgeColor);
+        draw(Stage::besidesBodies);
+    }
+    std::vector<const SceneItem*> left;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (isLeft[i]) {
+            left.push_back(items[i]);
+        }
+    }
+    return left;
 }
 
 void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
@@ -145,17 +223,13 @@ void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, cons
 {
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
-    beginMeshes(frame, m_view);
-    std::vector<const SceneItem*> shown;
-    for (const SceneItem& item : layout.items) {
-        const unsigned bit = std::holds_alternative<PlotItem>(item) ? RenderPlots : RenderObjects;
-        if ((frame.canvas.getRenderMask() & bit) != 0 && frame.appearance.opacity > 0.0f) {
-            shown.push_back(&item);
-        }
-    }
+    const RenderStyle& style = frame.appearance.style;
+    m_uploads.setCreaseAngle(style.creaseAngle * std::numbers::pi_v<float> / 180.0f);
     const PaintContext context = {m_view,
                                   frame.appearance.opacity,
                                   frame.appearance.scale,
+                                  style.showFeatureEdges && !m_view.isFlat,
+                                  Stage::everything,
                                   frame.logAxes(),
                                   styleOf(frame.appearance),
                                   m_uploads,
@@ -166,10 +240,25 @@ void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, cons
                                   m_symbols,
                                   icons,
                                   labels};
+    std::vector<const SceneItem*> shown;
+    for (const SceneItem& item : layout.items) {
+        const unsigned bit = std::holds_alternative<PlotItem>(item) ? RenderPlots : RenderObjects;
+        if ((frame.canvas.getRenderMask() & bit) != 0 && context.opacity > 0.0f) {
+            shown.push_back(&item);
+        }
+    }
+    m_hasOcclusion = false;
     if (m_view.isFlat) {
+        lightFaces(frame, m_view, false);
         drawFlat(std::move(shown), context);
     } else {
-        drawInSpace(shown, frame, target, context);
+        PaintContext opaque = context;
+        opaque.pass = Pass::opaque;
+        const bool hidesNothing = context.opacity < 1.0f;
+        m_hasOcclusion =
+            findOcclusion(frame, layout, hidesNothing ? std::span<const SceneItem* const>() : shown, target, opaque);
+        lightFaces(frame, m_view, m_hasOcclusion);
+        drawTranslucent(drawOpaque(shown, target, opaque), frame, target, context);
     }
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
@@ -217,20 +306,10 @@ void SceneRenderer::drawFlat(std::vector<const SceneItem*> items, const PaintCon
     }
 }
 
-void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
-                                PaintContext context)
+void SceneRenderer::drawTranslucent(std::span<const SceneItem* const> items, const Frame& frame, const Target& target,
+                                    const PaintContext& context)
 {
-    context.pass = Pass::opaque;
-    std::vector<const SceneItem*> translucent;
-    for (const SceneItem* item : items) {
-        bool isSomethingLeft = false;
-        context.isSomethingLeft = &isSomethingLeft;
-        drawItem(*item, context);
-        if (isSomethingLeft) {
-            translucent.push_back(item);
-        }
-    }
-    if (translucent.empty()) {
+    if (items.empty()) {
         m_transparency.release();
         return;
     }
@@ -242,14 +321,10 @@ void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, cons
     setOutput(FragmentOutput::layers);
     const int numLayers = frame.isDraft ? 0 : Transparency::c_fullLayers;
     m_transparency.draw(target, m_view, numLayers, [&](const View& view) {
-        // Those are drawn once, with what is opaque.
-        std::vector<SceneIcon> icons;
-        std::vector<SceneLabel> labels;
-        const PaintContext layers = {view,      context.opacity, context.scale, context.logAxes,  context.objects,
-                                     m_uploads, m_colorTextures, m_images,      m_meshes,         m_lines,
-                                     m_symbols, icons,           labels,        Pass::translucent};
-        beginMeshes(frame, view);
-        for (const SceneItem* item : translucent) {
+        lightFaces(frame, view, false);
+        PaintContext layers = context.in(view, Stage::withoutLabels);
+        layers.pass = Pass::translucent;
+        for (const SceneItem* item : items) {
             drawItem(*item, layers);
         }
     });
@@ -345,7 +420,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
             triad.emplace(frame, m_view);
         }
-        drawScene(frame, layout, axes ? &*axes : nullptr, target);
+        drawScene(frame, layout, target, axes ? &*axes : nullptr);
     }
     setBlending(true);
     if (axes) {
@@ -388,12 +463,13 @@ void SceneRenderer::keepShown(PickedObjectCollection& picked, const Frame& frame
         target.bindScene();
         glViewport(area.x, target.getHeight() - area.y - area.height, area.width, area.height);
         // With the light of the picture, since that decides about the shaders, and so about the last bits of depths.
-        beginMeshes(frame, view);
+        lightFaces(frame, view, m_hasOcclusion);
         std::vector<SceneIcon> icons;
         std::vector<SceneLabel> labels;
         shown = findShown(results, objects,
-                          {view, 1.0f, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance), m_uploads,
-                           m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
+                          {view, 1.0f, frame.appearance.scale, false, Stage::everything, frame.logAxes(),
+                           styleOf(frame.appearance), m_uploads, m_colorTextures, m_images, m_meshes, m_lines,
+                           m_symbols, icons, labels});
     }
     picked.reset();
     for (std::size_t i = 0; i < results.size(); ++i) {

@@ -205,8 +205,8 @@ TEST_F(TransparencyTest, whatIsBehindTheLastLayerIsMixedWithoutAJump)
     Rgb former = c_white;
     for (std::size_t numSquares = 1; numSquares <= 14; ++numSquares) {
         // The next square is added behind the others.
-        addSquare(triangles, 1.0 - 0.05 * static_cast<double>(numSquares),
-                  1.0 - 0.05 * static_cast<double>(numSquares), valueOf(numSquares % c_colors.size()));
+        addSquare(triangles, 1.0 - 0.05 * static_cast<double>(numSquares), 1.0 - 0.05 * static_cast<double>(numSquares),
+                  valueOf(numSquares % c_colors.size()));
         const auto plot = add(triangles);
         showUnlit(canvas, 0.25f);
         const Rgb shown = colorAt(canvas, drawn(canvas), {0.4f, 0.3f, 0.5f});
