@@ -46,6 +46,17 @@ struct Look {
     Material material;
 };
 
+/// What is drawn of the opaque items of a scene in one pass.
+enum class Stage {
+    everything,
+    /// The faces of bodies, whose silhouettes are found before the rest covers them.
+    bodies,
+    /// All that `bodies` leaves out.
+    besidesBodies,
+    /// All faces, and nothing else.
+    faces
+};
+
 /// What the painters of plots and objects draw with in one frame: they take from `uploads` what they consist of and
 /// draw it, in any order. Uploads that are null, because they cannot be drawn, are left out.
 ///
@@ -57,6 +68,9 @@ struct PaintContext {
     float opacity;
     /// Pixels of the picture for a pixel of the screen, by which widths of lines are multiplied.
     float scale;
+    /// Whether creases and borders of bodies are drawn as lines.
+    bool showFeatureEdges;
+    Stage stage;
     /// Which axes are logarithmic: bit 0 for x, bit 1 for y.
     int logAxes;
     ObjectStyle objects;
@@ -69,7 +83,21 @@ struct PaintContext {
     std::vector<SceneIcon>& icons;
     std::vector<SceneLabel>& labels;
 
+    /// Of the lines of bodies: dark enough on every colour of data, and hardly wider than a pixel of the screen.
+    static constexpr vxgraphics3d::Color c_edgeColor{24, 24, 28, 255};
+    static constexpr float c_edgeWidth = 1.2f;
+
+    /// The same in another view and stage.
+    PaintContext in(const View& itsView, Stage itsStage) const
+    {
+        return {itsView, opacity, scale, showFeatureEdges, itsStage, logAxes, objects, uploads, colorTextures,
+                images,  meshes,  lines, symbols,          icons,    labels};
+    }
+
     void drawMesh(const Mesh* mesh, const Look& look) const;
+    /// Draws the triangles of a body, which has a silhouette, and its creases and borders as thin dark lines, if
+    /// wanted.
+    void drawBody(const Mesh* mesh, const Look& look) const;
     void drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const;
     /// @param radiusScale multiplies all radii
     void drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const;
@@ -87,16 +115,31 @@ struct PaintContext {
 
     // Parts of an object, each as its row says. The material gives opacity and shininess alone.
 
-    void drawMesh(const Mesh* mesh, const PartLook& parts, const Look& look) const;
+    void drawBody(const Mesh* mesh, const PartLook& parts, const Look& look) const;
     void drawLines(const LineMesh* mesh, const PartLook& parts, const Look& look) const;
     /// A symbol at the position of each instance, which is a part.
     void drawSymbols(const InstanceBuffer* positions, const PartLook& parts, RenderSymbol symbol,
                      const Look& look) const;
 
     /// The icon is drawn over everything that it is not hidden by, before the labels.
-    void drawIcon(SceneIcon icon) const { icons.push_back(std::move(icon)); }
+    void drawIcon(SceneIcon icon) const
+    {
+        if (drawsLines()) {
+            icons.push_back(std::move(icon));
+        }
+    }
     /// The label is drawn over everything that it is not hidden by.
-    void drawLabel(SceneLabel label) const { labels.push_back(std::move(label)); }
+    void drawLabel(SceneLabel label) const
+    {
+        if (drawsLines()) {
+            labels.push_back(std::move(label));
+        }
+    }
+
+private:
+    bool drawsBodies() const { return stage != Stage::besidesBodies; }
+    bool drawsOtherFaces() const { return stage != Stage::bodies; }
+    bool drawsLines() const { return stage == Stage::everything || stage == Stage::besidesBodies; }
 };
 
 } // namespace vxrenderer

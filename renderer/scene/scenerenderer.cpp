@@ -18,7 +18,9 @@
 #include "renderer/paint/paintcontext.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <numbers>
 #include <optional>
 #include <utility>
 
@@ -32,6 +34,8 @@ constexpr float c_markerWidth = 1.5f;
 constexpr float c_selectedMarkerWidth = 3.5f;
 /// Number of font sets kept before those of former sizes are given up.
 constexpr std::size_t c_manyFontSets = 24;
+/// Within which surfaces hide ambient light from each other, for each unit of the diagonal of the scene.
+constexpr float c_occlusionRadius = 0.06f;
 
 /// Whether what is drawn covers what is there by its alpha, or replaces it.
 void setBlending(bool on)
@@ -49,6 +53,20 @@ ObjectStyle styleOf(const Appearance& appearance)
     const MarkingSetups& markings = Canvas3dGlobalSettings::getInstance()->getMarkingSetups();
     return {markings.getMarkingModeSetup(appearance.markingMode), appearance.showLabels, appearance.showLineDirections,
             appearance.showPhysicsMarkers};
+}
+
+Lighting lightOf(const Frame& frame)
+{
+    return Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera);
+}
+
+/// The diagonal of a box as the eye sees it.
+float diagonalOf(const BoundingBox& box, const Matrixf& toEye)
+{
+    const Vector3f size = box.getMax() - box.getMin();
+    const auto along = [&](int axis) { return Vector3f(toEye.get(1, axis), toEye.get(2, axis), toEye.get(3, axis)); };
+    return std::sqrt(size.x * size.x * along(1).lengthSquared() + size.y * size.y * along(2).lengthSquared() +
+                     size.z * size.z * along(3).lengthSquared());
 }
 
 } // namespace
@@ -107,7 +125,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     }
 }
 
-void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes)
+void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const Target& target,
+                              const AxesPainter* axes)
 {
     const PixelArea& area = m_view.area;
     const int bottom = layout.height - area.y - area.height;
@@ -121,7 +140,7 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     }
     std::vector<SceneIcon> icons;
     std::vector<SceneLabel> labels;
-    drawData(frame, layout, icons, labels);
+    drawData(frame, layout, target, icons, labels);
     // Lines of graphs and the geometry of objects are not to be crossed by the grid.
     if (axes != nullptr && hasPlotsBesidesGraphs(layout.items)) {
         setBlending(true);
@@ -134,15 +153,96 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay);
 }
 
-void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
-                             std::vector<SceneLabel>& labels)
+void SceneRenderer::lightFaces(const Frame& frame, const View& view, bool hasOcclusion)
+{
+    const Lighting light = lightOf(frame);
+    if (frame.appearance.style.isStudio) {
+        m_meshes.beginStudio(view, light, hasOcclusion ? m_occlusion.get() : nullptr);
+    } else {
+        m_meshes.begin(view, light);
+    }
+}
+
+bool SceneRenderer::findOcclusion(const Frame& frame, const FrameLayout& layout,
+                                  std::span<const SceneItem* const> items, const Target& target,
+                                  const PaintContext& context)
+{
+    if (!frame.appearance.style.isStudio || m_view.isFlat || !lightOf(frame).isUsed || items.empty() ||
+        !layout.box.isValid()) {
+        return false;
+    }
+    GLint viewport[4];
+    glGetIntegerv(GL_VIEWPORT, viewport);
+    if (!m_occlusion) {
+        m_occlusion = std::make_unique<AmbientOcclusion>();
+    }
+    const View view = m_occlusion->beginShapes(m_view);
+    m_meshes.beginShapes(view);
+    const PaintContext shapes = context.in(view, Stage::faces);
+    for (const SceneItem* item : items) {
+        drawItem(*item, shapes);
+    }
+    m_occlusion->finish(c_occlusionRadius * diagonalOf(layout.box, m_view.sceneToEye));
+    target.bindScene();
+    glViewport(viewport[0], viewport[1], viewport[2], viewport[3]);
+    glEnable(GL_SCISSOR_TEST);
+    return true;
+}
+
+void SceneRenderer::drawOpaque(std::span<const SceneItem* const> items, const Target& target,
+                               const PaintContext& context)
+{
+    const auto draw = [&](Stage stage) {
+        const PaintContext part = context.in(context.view, stage);
+        for (const SceneItem* item : items) {
+            drawItem(*item, part);
+        }
+    };
+    if (!context.showFeatureEdges || items.empty()) {
+        draw(Stage::everything);
+        return;
+    }
+    draw(Stage::bodies);
+    m_silhouettes.draw(target, m_view, PaintContext::c_edgeWidth * context.scale, PaintContext::c_edgeColor);
+    draw(Stage::besidesBodies);
+}
+
+void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
+                             std::vector<SceneIcon>& icons, std::vector<SceneLabel>& labels)
 {
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
-    m_meshes.begin(m_view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
-    drawItems(layout.items, frame.canvas.getRenderMask(),
-              {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance),
-               m_uploads, m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
+    const RenderStyle& style = frame.appearance.style;
+    m_uploads.setCreaseAngle(style.creaseAngle * std::numbers::pi_v<float> / 180.0f);
+    const PaintContext context = {m_view,
+                                  frame.appearance.opacity,
+                                  frame.appearance.scale,
+                                  style.showFeatureEdges && !m_view.isFlat,
+                                  Stage::everything,
+                                  frame.logAxes(),
+                                  styleOf(frame.appearance),
+                                  m_uploads,
+                                  m_colorTextures,
+                                  m_images,
+                                  m_meshes,
+                                  m_lines,
+                                  m_symbols,
+                                  icons,
+                                  labels};
+    std::vector<const SceneItem*> shown;
+    for (const SceneItem& item : layout.items) {
+        const unsigned bit = std::holds_alternative<PlotItem>(item) ? RenderPlots : RenderObjects;
+        if ((frame.canvas.getRenderMask() & bit) != 0) {
+            shown.push_back(&item);
+        }
+    }
+    const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
+    const auto firstTranslucent = std::stable_partition(shown.begin(), shown.end(), isOpaque);
+    const std::span opaque(shown.begin(), firstTranslucent);
+    m_hasOcclusion = findOcclusion(frame, layout, opaque, target, context);
+    lightFaces(frame, m_view, m_hasOcclusion);
+    drawOpaque(opaque, target, context);
+    drawTranslucent({firstTranslucent, shown.end()}, context);
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
     }
@@ -174,31 +274,20 @@ bool SceneRenderer::isTranslucent(const SceneItem& item) const
            });
 }
 
-void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned renderMask,
-                              const PaintContext& context) const
+void SceneRenderer::drawTranslucent(std::span<const SceneItem*> items, const PaintContext& context) const
 {
-    std::vector<const SceneItem*> shown;
-    for (const SceneItem& item : items) {
-        const unsigned bit = std::holds_alternative<PlotItem>(item) ? RenderPlots : RenderObjects;
-        if ((renderMask & bit) != 0) {
-            shown.push_back(&item);
-        }
+    if (items.empty() || context.opacity <= 0.0f) {
+        return;
     }
-    const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
-    const auto firstTranslucent = std::stable_partition(shown.begin(), shown.end(), isOpaque);
-    const auto draw = [&](const SceneItem* item) { drawItem(*item, context); };
-    std::for_each(shown.begin(), firstTranslucent, draw);
-    if (firstTranslucent != shown.end() && context.opacity > 0.0f) {
-        // What lies farther off comes first, by the middles of the items.
-        const auto depthOf = [&](const SceneItem* item) { return (context.view.sceneToEye * centerOf(*item)).z; };
-        std::stable_sort(firstTranslucent, shown.end(),
-                         [&](const SceneItem* one, const SceneItem* other) { return depthOf(one) < depthOf(other); });
-        setBlending(true);
-        glDepthMask(GL_FALSE);
-        std::for_each(firstTranslucent, shown.end(), draw);
-        glDepthMask(GL_TRUE);
-        setBlending(false);
-    }
+    // What lies farther off comes first, by the middles of the items.
+    const auto depthOf = [&](const SceneItem* item) { return (context.view.sceneToEye * centerOf(*item)).z; };
+    std::ranges::stable_sort(
+        items, [&](const SceneItem* one, const SceneItem* other) { return depthOf(one) < depthOf(other); });
+    setBlending(true);
+    glDepthMask(GL_FALSE);
+    std::ranges::for_each(items, [&](const SceneItem* item) { drawItem(*item, context); });
+    glDepthMask(GL_TRUE);
+    setBlending(false);
 }
 
 void SceneRenderer::drawLightMarkers(const Frame& frame)
@@ -290,7 +379,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
             triad.emplace(frame, m_view);
         }
-        drawScene(frame, layout, axes ? &*axes : nullptr);
+        drawScene(frame, layout, target, axes ? &*axes : nullptr);
     }
     setBlending(true);
     if (axes) {
@@ -333,13 +422,13 @@ void SceneRenderer::keepShown(PickedObjectCollection& picked, const Frame& frame
         target.bindScene();
         glViewport(area.x, target.getHeight() - area.y - area.height, area.width, area.height);
         // With the light of the picture, since that decides about the shaders, and so about the last bits of depths.
-        m_meshes.begin(view,
-                       Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
+        lightFaces(frame, view, m_hasOcclusion);
         std::vector<SceneIcon> icons;
         std::vector<SceneLabel> labels;
         shown = findShown(results, objects,
-                          {view, 1.0f, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance), m_uploads,
-                           m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
+                          {view, 1.0f, frame.appearance.scale, false, Stage::everything, frame.logAxes(),
+                           styleOf(frame.appearance), m_uploads, m_colorTextures, m_images, m_meshes, m_lines,
+                           m_symbols, icons, labels});
     }
     picked.reset();
     for (std::size_t i = 0; i < results.size(); ++i) {

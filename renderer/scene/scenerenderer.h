@@ -5,10 +5,12 @@
 #include "renderer/frame/view.h"
 #include "renderer/objects/objectpainter.h"
 #include "renderer/overlays/shapepainter.h"
+#include "renderer/paint/ambientocclusion.h"
 #include "renderer/paint/backgroundpainter.h"
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/silhouettepainter.h"
 #include "renderer/paint/symbolpainter.h"
 #include "renderer/plots/plotpainter.h"
 #include "renderer/scene/framelayout.h"
@@ -20,6 +22,8 @@
 
 #include <boost/weak_ptr.hpp>
 
+#include <memory>
+#include <span>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -63,14 +67,23 @@ public:
 
 private:
     void updateTitle(const vxgraphics3d::Scene& scene);
-    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes);
+    void drawScene(const Frame& frame, const FrameLayout& layout, const Target& target, const AxesPainter* axes);
     /// @param icons,labels receive those that are to be drawn over the scene
-    void drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
+    void drawData(const Frame& frame, const FrameLayout& layout, const Target& target, std::vector<SceneIcon>& icons,
                   std::vector<SceneLabel>& labels);
+    /// Lets faces be drawn in the light of a frame.
+    /// @param hasOcclusion whether it has been found for the view
+    void lightFaces(const Frame& frame, const View& view, bool hasOcclusion);
+    /// Finds the occlusion of the opaque items if the frame has studio light.
+    /// @return whether there is any
+    bool findOcclusion(const Frame& frame, const FrameLayout& layout, std::span<const SceneItem* const> items,
+                       const Target& target, const PaintContext& context);
+    /// Draws opaque items, with the silhouettes of bodies if the picture shows feature edges.
+    void drawOpaque(std::span<const SceneItem* const> items, const Target& target, const PaintContext& context);
+    void drawTranslucent(std::span<const SceneItem*> items, const PaintContext& context) const;
     void drawItem(const SceneItem& item, const PaintContext& context) const;
     /// Whether an item is blended in every picture.
     bool isTranslucent(const SceneItem& item) const;
-    void drawItems(const std::vector<SceneItem>& items, unsigned renderMask, const PaintContext& context) const;
     void drawLightMarkers(const Frame& frame);
     void drawOverlays(const Frame& frame, const FrameLayout& layout);
     void drawOverlay(const vxgraphics3d::Overlay& overlay, const vxgraphics3d::BoundingBox& framedBox, const View& view,
@@ -87,6 +100,10 @@ private:
     ObjectPainters m_objectPainters;
     BackgroundPainter m_background;
     MeshPainter m_meshes;
+    /// Null until a picture needs it.
+    std::unique_ptr<AmbientOcclusion> m_occlusion;
+    bool m_hasOcclusion = false;
+    SilhouettePainter m_silhouettes;
     LinePainter m_lines;
     SymbolPainter m_symbols;
     ShapePainter m_shapes;
