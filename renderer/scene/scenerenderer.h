@@ -3,6 +3,7 @@
 #include "graphics3d/foundation/lastchangeid.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/view.h"
+#include "renderer/gl/scenecopy.h"
 #include "renderer/objects/objectpainter.h"
 #include "renderer/overlays/shapepainter.h"
 #include "renderer/paint/backgroundpainter.h"
@@ -11,6 +12,7 @@
 #include "renderer/paint/overlaypainter.h"
 #include "renderer/paint/solidpainter.h"
 #include "renderer/paint/symbolpainter.h"
+#include "renderer/paint/transparency.h"
 #include "renderer/plots/plotpainter.h"
 #include "renderer/scene/framelayout.h"
 #include "renderer/text/fontsets.h"
@@ -21,6 +23,7 @@
 
 #include <boost/weak_ptr.hpp>
 
+#include <functional>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -64,14 +67,23 @@ public:
 
 private:
     void updateTitle(const vxgraphics3d::Scene& scene);
-    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes);
+    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes, const Target& target);
     /// @param icons,labels receive those that are to be drawn over the scene
-    void drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
-                  std::vector<SceneLabel>& labels);
+    void drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
+                  const std::function<void()>& trace, std::vector<SceneIcon>& icons, std::vector<SceneLabel>& labels);
+    void drawTrace(const AxesPainter& axes, const FrameLayout& layout);
+    /// Lets meshes be drawn in a view, in the light of the frame.
+    void beginMeshes(const Frame& frame, const View& view);
     void drawItem(const SceneItem& item, const PaintContext& context) const;
     /// Whether an item is blended in every picture.
     bool isTranslucent(const SceneItem& item) const;
-    void drawItems(const std::vector<SceneItem>& items, unsigned renderMask, const PaintContext& context) const;
+    /// Draws items without depths over each other, as in a flat view.
+    /// @param trace draws the trace of the grid over the faces of plots; may be empty
+    void drawFlat(std::vector<const SceneItem*> items, const std::function<void()>& trace,
+                  const PaintContext& context) const;
+    /// Draws what is opaque, and mixes what is translucent over it.
+    void drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
+                     PaintContext context);
     void drawLightMarkers(const Frame& frame);
     void drawOverlays(const Frame& frame, const FrameLayout& layout);
     void drawOverlay(const vxgraphics3d::Overlay& overlay, const vxgraphics3d::BoundingBox& framedBox, const View& view,
@@ -93,6 +105,8 @@ private:
     SolidPainter m_solids;
     ShapePainter m_shapes;
     OverlayPainter m_overlay{m_counts};
+    Transparency m_transparency;
+    SceneCopy m_sceneCopy;
     FontSets m_fontSets;
     boost::weak_ptr<const vxgraphics3d::SceneGraphNode> m_titleRoot;
     vxgraphics3d::LastChangeId m_lastTreeStructure;
