@@ -16,8 +16,8 @@ class VertexRecords;
 /// Files often give one normal to a vertex of several faces, so that an edge of a body is shaded as if it were round.
 /// Here each side of a crease gets vertices of its own: the triangles around a vertex fall into fans that are smooth,
 /// and each fan has the sum of the normals of its triangles, weighted by their areas. A vertex that belongs to one fan
-/// keeps the normal that it has, unless that is not the normal of this fan at all. Vertices at one position belong together where they are on a border, since parts of a
-/// surface often have vertices of their own.
+/// keeps the normal that it has, unless that is not the normal of this fan at all. Vertices at one position belong
+/// together where they are on a border, since parts of a surface often have vertices of their own.
 class Creases {
 public:
     /// A vertex of one fan: a copy of another vertex with another normal.
