@@ -203,8 +203,14 @@ void OffscreenCanvas::dropDisposedScene()
 Appearance OffscreenCanvas::appearance() const
 {
     Appearance look = Appearance::onScreen(*m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
-    look.markingMode = m_markingMode;
+    completeAppearance(look);
     return look;
+}
+
+void OffscreenCanvas::completeAppearance(Appearance& look) const
+{
+    look.markingMode = m_markingMode;
+    look.style = m_style;
 }
 
 ICameraTransforms& OffscreenCanvas::camera()
@@ -244,6 +250,12 @@ void OffscreenCanvas::setMarkingMode(MarkingSetups::MarkingMode mode)
         throw std::out_of_range("There is no marking mode " + std::to_string(mode) + ".");
     }
     m_markingMode = mode;
+}
+
+void OffscreenCanvas::setStyle(const RenderStyle& style)
+{
+    style.validate();
+    m_style = style;
 }
 
 void OffscreenCanvas::zoomExtents()
@@ -342,7 +354,7 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     const Target target(width, height, std::max(1, settings.getMultisampleSetting()));
     Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
-    look.markingMode = m_markingMode;
+    completeAppearance(look);
     // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;

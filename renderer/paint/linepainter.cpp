@@ -57,7 +57,7 @@ vec2 snapped(vec2 pixel)
 {
     vec2 corner = pixel + 0.5 * viewport;
     float width = floor(lineWidth + 0.5);
-    vec2 middle = width - 2.0 * floor(0.5 * width) > 0.5 ? floor(corner) + 0.5 : floor(corner + 0.5);
+    vec2 middle = width - 2.0 * floor(0.5 * width) > 0.5 ? ceil(corner) - 0.5 : floor(corner + 0.5);
     return middle - 0.5 * viewport;
 }
 

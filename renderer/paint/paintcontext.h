@@ -39,11 +39,6 @@ struct ObjectStyle {
     bool showPhysicsMarkers;
 };
 
-/// What painters draw at a time. Lines and symbols have smooth borders, which take in the colours of what was drawn
-/// before: they follow, with icons and labels, when everything else is there. Marks are instances and spheres, which the
-/// grid of a flat view does not cross as it crosses faces.
-enum class DrawPhase { all, faces, marks, lines };
-
 /// Where something is drawn, and how it looks.
 struct Look {
     /// From its vertices to the eye.
@@ -54,6 +49,28 @@ struct Look {
 /// Which faces, lines and symbols are drawn when the painters draw everything: in space, what is opaque comes first,
 /// and what is translucent is mixed over it, see `Transparency`.
 enum class Pass { all, opaque, translucent };
+
+/// What is drawn of the items of a scene in one stage of a pass: each bit is a kind of things.
+///
+/// Lines and symbols have smooth borders, which take in the colours of what was drawn before: they follow when all that
+/// is opaque is there.
+enum class Stage : unsigned {
+    /// The faces of bodies, whose silhouettes are found before the rest covers them.
+    bodies = 0x1,
+    otherFaces = 0x2,
+    /// Instances and spheres, which the grid of a flat view does not cross as it crosses faces.
+    marks = 0x4,
+    /// Lines and symbols.
+    lines = 0x8,
+    /// Labels and icons, which are drawn over the scene afterwards.
+    labels = 0x10,
+    plainFaces = bodies | otherFaces,
+    facesBesidesBodies = otherFaces | marks,
+    faces = plainFaces | marks,
+    linesAndLabels = lines | labels,
+    withoutLabels = faces | lines,
+    everything = faces | linesAndLabels
+};
 
 /// What the painters of plots and objects draw with in one frame: they take from `uploads` what they consist of and
 /// draw it, in any order. Uploads that are null, because they cannot be drawn, are left out.
@@ -66,6 +83,9 @@ struct PaintContext {
     float opacity;
     /// Pixels of the picture for a pixel of the screen, by which widths of lines are multiplied.
     float scale;
+    /// Whether creases and borders of bodies are drawn as lines.
+    bool showFeatureEdges;
+    Stage stage;
     /// Which axes are logarithmic: bit 0 for x, bit 1 for y.
     int logAxes;
     ObjectStyle objects;
@@ -77,13 +97,25 @@ struct PaintContext {
     const SymbolPainter& symbols;
     std::vector<SceneIcon>& icons;
     std::vector<SceneLabel>& labels;
-    /// Calls that belong to another phase do nothing.
-    DrawPhase phase = DrawPhase::all;
     Pass pass = Pass::all;
     /// Set in the pass of what is opaque if something translucent was left out; or null.
     bool* isSomethingLeft = nullptr;
 
+    /// Of the lines of bodies: dark enough on every colour of data, and hardly wider than a pixel of the screen.
+    static constexpr vxgraphics3d::Color c_edgeColor{24, 24, 28, 255};
+    static constexpr float c_edgeWidth = 1.2f;
+
+    /// The same in another view and stage.
+    PaintContext in(const View& itsView, Stage itsStage) const
+    {
+        return {itsView, opacity, scale, showFeatureEdges, itsStage, logAxes, objects, uploads,        colorTextures,
+                images,  meshes,  lines, symbols,          icons,    labels,  pass,    isSomethingLeft};
+    }
+
     void drawMesh(const Mesh* mesh, const Look& look) const;
+    /// Draws the triangles of a body, which has a silhouette, and its creases and borders as thin dark lines, if
+    /// wanted.
+    void drawBody(const Mesh* mesh, const Look& look) const;
     void drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const;
     /// @param radiusScale multiplies all radii
     void drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const;
@@ -101,7 +133,7 @@ struct PaintContext {
 
     // Parts of an object, each as its row says. The material gives opacity and shininess alone.
 
-    void drawMesh(const Mesh* mesh, const PartLook& parts, const Look& look) const;
+    void drawBody(const Mesh* mesh, const PartLook& parts, const Look& look) const;
     void drawLines(const LineMesh* mesh, const PartLook& parts, const Look& look) const;
     /// A symbol at the position of each instance, which is a part.
     void drawSymbols(const InstanceBuffer* positions, const PartLook& parts, RenderSymbol symbol,
@@ -110,21 +142,21 @@ struct PaintContext {
     /// The icon is drawn over everything that it is not hidden by, before the labels.
     void drawIcon(SceneIcon icon) const
     {
-        if (hasLabels()) {
+        if (draws(Stage::labels)) {
             icons.push_back(std::move(icon));
         }
     }
     /// The label is drawn over everything that it is not hidden by.
     void drawLabel(SceneLabel label) const
     {
-        if (hasLabels()) {
+        if (draws(Stage::labels)) {
             labels.push_back(std::move(label));
         }
     }
 
 private:
-    bool hasLabels() const { return phase == DrawPhase::all || phase == DrawPhase::lines; }
-    bool isDrawn(DrawPhase kind, bool isTranslucent) const;
+    bool isInPass(bool isTranslucent) const;
+    bool draws(Stage kind) const { return (static_cast<unsigned>(stage) & static_cast<unsigned>(kind)) != 0; }
 };
 
 } // namespace vxrenderer

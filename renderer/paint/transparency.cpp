@@ -279,7 +279,7 @@ void Transparency::draw(const Target& target, const View& view, int numLayers, c
             target.bindScene();
             const View sampleView = shifted(view, positionOf(block.sample, numSamples));
             bindTexture(c_depthUnit, numSamples > 1 ? GL_TEXTURE_2D_MULTISAMPLE : GL_TEXTURE_2D,
-                        target.getSceneDepths());
+                        target.getDepths().name());
             drawSample({sampleView, first, height, numSamples > 1, block}, numLayers, draw);
 
             target.bindScene();
@@ -355,7 +355,8 @@ void Transparency::drawPass(const Band& band, int pass, int step, const Draw& dr
     glEnable(GL_BLEND);
     glBlendEquationSeparate(GL_FUNC_ADD, GL_MAX);
     glBlendFunc(GL_ONE, GL_ONE);
-    bindTexture(LayersBlock::c_layerUnit, GL_TEXTURE_2D, m_buffers->layers[static_cast<std::size_t>((pass + 1) % 2)].name());
+    bindTexture(LayersBlock::c_layerUnit, GL_TEXTURE_2D,
+                m_buffers->layers[static_cast<std::size_t>((pass + 1) % 2)].name());
     LayersBlock block = band.block;
     block.step = step;
     m_block.set(block);

@@ -6,10 +6,12 @@
 #include "renderer/gl/scenecopy.h"
 #include "renderer/objects/objectpainter.h"
 #include "renderer/overlays/shapepainter.h"
+#include "renderer/paint/ambientocclusion.h"
 #include "renderer/paint/backgroundpainter.h"
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/silhouettepainter.h"
 #include "renderer/paint/solidpainter.h"
 #include "renderer/paint/symbolpainter.h"
 #include "renderer/paint/transparency.h"
@@ -24,6 +26,8 @@
 #include <boost/weak_ptr.hpp>
 
 #include <functional>
+#include <memory>
+#include <span>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -67,23 +71,32 @@ public:
 
 private:
     void updateTitle(const vxgraphics3d::Scene& scene);
-    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes, const Target& target);
+    void drawScene(const Frame& frame, const FrameLayout& layout, const Target& target, const AxesPainter* axes);
     /// @param icons,labels receive those that are to be drawn over the scene
     void drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
                   const std::function<void()>& trace, std::vector<SceneIcon>& icons, std::vector<SceneLabel>& labels);
     void drawTrace(const AxesPainter& axes, const FrameLayout& layout);
-    /// Lets meshes be drawn in a view, in the light of the frame.
-    void beginMeshes(const Frame& frame, const View& view);
-    void drawItem(const SceneItem& item, const PaintContext& context) const;
-    /// Whether an item is blended in every picture.
-    bool isTranslucent(const SceneItem& item) const;
-    /// Draws items without depths over each other, as in a flat view.
+    /// Lets faces be drawn in the light of a frame.
+    /// @param hasOcclusion whether it has been found for the view
+    void lightFaces(const Frame& frame, const View& view, bool hasOcclusion);
+    /// Finds the occlusion of the opaque items if the frame has studio light.
+    /// @return whether there is any
+    bool findOcclusion(const Frame& frame, const FrameLayout& layout, std::span<const SceneItem* const> items,
+                       const Target& target, const PaintContext& context);
+    /// Draws what is opaque, with the silhouettes of bodies if the picture shows feature edges.
+    /// @return the items of which something translucent is left
+    std::vector<const SceneItem*> drawOpaque(std::span<const SceneItem* const> items, const Target& target,
+                                             const PaintContext& context);
+    /// Mixes what is translucent over what is opaque.
+    void drawTranslucent(std::span<const SceneItem* const> items, const Frame& frame, const Target& target,
+                         const PaintContext& context);
+    /// Draws items over each other, without depths, as in a flat view.
     /// @param trace draws the trace of the grid over the faces of plots; may be empty
     void drawFlat(std::vector<const SceneItem*> items, const std::function<void()>& trace,
                   const PaintContext& context) const;
-    /// Draws what is opaque, and mixes what is translucent over it.
-    void drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
-                     PaintContext context);
+    void drawItem(const SceneItem& item, const PaintContext& context) const;
+    /// Whether an item is blended in every picture.
+    bool isTranslucent(const SceneItem& item) const;
     void drawLightMarkers(const Frame& frame);
     void drawOverlays(const Frame& frame, const FrameLayout& layout);
     void drawOverlay(const vxgraphics3d::Overlay& overlay, const vxgraphics3d::BoundingBox& framedBox, const View& view,
@@ -100,6 +113,10 @@ private:
     ObjectPainters m_objectPainters;
     BackgroundPainter m_background;
     MeshPainter m_meshes;
+    /// Null until a picture needs it.
+    std::unique_ptr<AmbientOcclusion> m_occlusion;
+    bool m_hasOcclusion = false;
+    SilhouettePainter m_silhouettes;
     LinePainter m_lines;
     SymbolPainter m_symbols;
     SolidPainter m_solids;

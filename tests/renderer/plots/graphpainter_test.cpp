@@ -123,7 +123,7 @@ TEST_F(GraphPainterTest, widthColorAndStyleOfLinesCostNoUpload)
     const std::vector<double> parts = {5.0 / 8.0, 1.0 / 3.0, 7.0 / 12.0};
     for (int style = 1; style < 4; ++style) {
         m_graph->setLineStyle(false, static_cast<LineStyle>(style));
-        EXPECT_NEAR(covered(drawn(m_canvas)), solid * parts[static_cast<std::size_t>(style - 1)], 0.03 * solid);
+        EXPECT_NEAR(covered(drawn(m_canvas)), solid * parts[static_cast<std::size_t>(style - 1)], 0.06 * solid);
     }
     m_graph->setLineStyle(false, LineStyle::solid);
     picture = drawn(m_canvas);
