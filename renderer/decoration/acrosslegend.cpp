@@ -110,7 +110,8 @@ void AcrossLegend::layOutStripes(const std::vector<double>& levels, const Legend
     const std::vector<std::string> labels = levelLabels(levels, style.tickDigits);
     float end = -AxisLabel::c_noLimit;
     for (std::size_t i = 0; i < labels.size(); ++i) {
-        Label label = {layoutOf(labels[i], style.tickFonts), (static_cast<double>(i) + 0.5) / static_cast<double>(levels.size())};
+        Label label = {layoutOf(labels[i], style.tickFonts),
+                       (static_cast<double>(i) + 0.5) / static_cast<double>(levels.size())};
         const float middle = std::lerp(m_barLeft, m_barRight, static_cast<float>(label.position));
         if (middle - 0.5f * label.text.width >= end) {
             end = middle + 0.5f * label.text.width + c_labelGap * em;

@@ -193,8 +193,8 @@ Matrixf AxesPainter::toClip() const
 
 void AxesPainter::drawAround(const LinePainter& painter) const
 {
-    drawLines(m_around, pixelsToClip(m_width, m_height), m_width, m_height, m_lineWidth,
-              m_labelColor, m_labelColor, painter);
+    drawLines(m_around, pixelsToClip(m_width, m_height), m_width, m_height, m_lineWidth, m_labelColor, m_labelColor,
+              painter);
 }
 
 void AxesPainter::drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const

@@ -48,8 +48,10 @@ float ColorBar::lineAt(double position) const
 {
     // The ends of the bar are the middles of the lines of its frame.
     const bool isAcross = m_style.isHorizontal;
-    const double low = isAcross ? static_cast<double>(m_rect.left) : static_cast<double>(m_rect.bottom - m_style.lineWidth);
-    const double high = isAcross ? static_cast<double>(m_rect.right - m_style.lineWidth) : static_cast<double>(m_rect.top);
+    const double low =
+        isAcross ? static_cast<double>(m_rect.left) : static_cast<double>(m_rect.bottom - m_style.lineWidth);
+    const double high =
+        isAcross ? static_cast<double>(m_rect.right - m_style.lineWidth) : static_cast<double>(m_rect.top);
     return static_cast<float>(std::round(low + position * (high - low)));
 }
 
@@ -147,11 +149,13 @@ void ColorBar::drawPointer(double position) const
     const float half = 0.5f * size;
     if (m_style.isHorizontal) {
         m_painter.fillPolygon(
-            std::array<PixelPoint, 3>{{{at, m_rect.top}, {at - half, m_rect.top - size}, {at + half, m_rect.top - size}}},
+            std::array<PixelPoint, 3>{
+                {{at, m_rect.top}, {at - half, m_rect.top - size}, {at + half, m_rect.top - size}}},
             m_style.color);
     } else {
         m_painter.fillPolygon(
-            std::array<PixelPoint, 3>{{{m_rect.left, at}, {m_rect.left - size, at - half}, {m_rect.left - size, at + half}}},
+            std::array<PixelPoint, 3>{
+                {{m_rect.left, at}, {m_rect.left - size, at - half}, {m_rect.left - size, at + half}}},
             m_style.color);
     }
 }

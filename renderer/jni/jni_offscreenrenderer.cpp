@@ -96,8 +96,8 @@ VX_NATIVE(void, OffscreenRenderer, zoomExtents)(JNIEnv* env, jclass, jobject sel
 
 VX_NATIVE(void, OffscreenRenderer, setMarkingMode)(JNIEnv* env, jclass, jobject self, jint mode)
 {
-    // Java counts modes from 1.
-    guarded(env, [&] { canvas(env, self).setMarkingMode(static_cast<MarkingSetups::MarkingMode>(mode - 1)); });
+    const jint number = mode > 0 ? mode - 1 : -1;
+    guarded(env, [&] { canvas(env, self).setMarkingMode(static_cast<MarkingSetups::MarkingMode>(number)); });
 }
 
 VX_NATIVE(void, OffscreenRenderer, setStudioLight)(JNIEnv* env, jclass, jobject self, jboolean on)

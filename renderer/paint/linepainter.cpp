@@ -351,8 +351,9 @@ void LinePainter::setOutput(FragmentOutput output)
 }
 
 LinePainter::LinePainter()
-    : m_shadedProgram("shaded lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
-                      withOutput(FragmentOutput::picture, std::string(Material::c_source) + c_coverage + c_shadedMain).c_str())
+    : m_shadedProgram(
+          "shaded lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
+          withOutput(FragmentOutput::picture, std::string(Material::c_source) + c_coverage + c_shadedMain).c_str())
 {
     attach(m_programs);
     m_line.attach(m_shadedProgram);

@@ -211,9 +211,9 @@ void MeshPainter::setUp(const Mesh& mesh, MeshShader shader, const Matrixf& toEy
 void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& material, float radiusScale)
 {
     shader.isRestricted = material.isRestricted();
-    shader.output = m_output;
     // What is blended is not among the surfaces that hide light from each other.
     shader.hasOcclusion = shader.hasOcclusion && !material.isTranslucent();
+    shader.output = m_output;
     program(shader).use();
     m_model.set({elementsOf(toEye), elementsOf(normalMatrixOf(toEye)), radiusScale});
     m_material.set(material);

@@ -20,8 +20,11 @@ Material faded(Material material, float opacity)
 
 } // namespace
 
-bool PaintContext::isInPass(bool isTranslucent) const
+bool PaintContext::isDrawn(DrawKind kind, bool isTranslucent) const
 {
+    if ((kinds & kind) == 0) {
+        return false;
+    }
     if (pass == Pass::opaque && isTranslucent && isSomethingLeft != nullptr) {
         *isSomethingLeft = true;
     }
@@ -31,7 +34,7 @@ bool PaintContext::isInPass(bool isTranslucent) const
 void PaintContext::drawMesh(const Mesh* mesh, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && draws(Stage::otherFaces) && isInPass(material.isTranslucent())) {
+    if (mesh != nullptr && isDrawn(DrawFaces, material.isTranslucent())) {
         meshes.draw(*mesh, look.toEye, material);
     }
 }
@@ -39,7 +42,7 @@ void PaintContext::drawMesh(const Mesh* mesh, const Look& look) const
 void PaintContext::drawBody(const Mesh* mesh, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && draws(Stage::bodies) && isInPass(material.isTranslucent())) {
+    if (mesh != nullptr && isDrawn(DrawBodies, material.isTranslucent())) {
         meshes.draw(*mesh, look.toEye, material);
     }
     if (showFeatureEdges && mesh != nullptr && mesh->getFeatureEdges() != nullptr) {
@@ -50,7 +53,7 @@ void PaintContext::drawBody(const Mesh* mesh, const Look& look) const
 void PaintContext::drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && instances != nullptr && draws(Stage::marks) && isInPass(material.isTranslucent())) {
+    if (mesh != nullptr && instances != nullptr && isDrawn(DrawMarks, material.isTranslucent())) {
         meshes.draw(*mesh, *instances, look.toEye, material);
     }
 }
@@ -58,7 +61,7 @@ void PaintContext::drawInstances(const Mesh* mesh, const InstanceBuffer* instanc
 void PaintContext::drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (spheres != nullptr && draws(Stage::marks) && isInPass(material.isTranslucent())) {
+    if (spheres != nullptr && isDrawn(DrawMarks, material.isTranslucent())) {
         meshes.draw(*spheres, radiusScale, look.toEye, material);
     }
 }
@@ -66,7 +69,7 @@ void PaintContext::drawSpheres(const SphereBuffer* spheres, float radiusScale, c
 void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && draws(Stage::lines) && isInPass(material.isTranslucent())) {
+    if (mesh != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         lines.draw(*mesh,
                    {view.projection * look.toEye, view.area.width, view.area.height, width * scale,
                     view.aboveFaces(width * scale), isRound},
@@ -77,12 +80,9 @@ void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width
 void PaintContext::drawSegments(std::span<const LineSegment> segments, const vxgraphics3d::Matrixf& toClip,
                                 const vxgraphics3d::Color& color, float width, float over) const
 {
-    if (!draws(Stage::lines)) {
-        return;
-    }
     vxgraphics3d::Color faint = color;
     faint.alpha = static_cast<int>(std::lround(255.0f * opacity));
-    if (isInPass(faint.alpha < 255)) {
+    if (isDrawn(DrawLines, faint.alpha < 255)) {
         lines.draw(segments,
                    {toClip, view.area.width, view.area.height, width * scale,
                     view.aboveFaces(std::max(width, 1.1f * over) * scale)},
@@ -93,7 +93,7 @@ void PaintContext::drawSegments(std::span<const LineSegment> segments, const vxg
 void PaintContext::drawSymbols(const InstanceBuffer* positions, const Look& look, RenderSymbol symbol, float size) const
 {
     const Material material = faded(look.material, opacity);
-    if (positions != nullptr && draws(Stage::lines) && isInPass(material.isTranslucent())) {
+    if (positions != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         symbols.draw(*positions, {view.projection * look.toEye, view.area.width, view.area.height, symbol, size * scale,
                                   material.color, view.aboveFaces(size * scale)});
     }
@@ -102,7 +102,7 @@ void PaintContext::drawSymbols(const InstanceBuffer* positions, const Look& look
 void PaintContext::drawBody(const Mesh* mesh, const PartLook& parts, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && draws(Stage::bodies) && isInPass(material.isTranslucent())) {
+    if (mesh != nullptr && isDrawn(DrawBodies, material.isTranslucent())) {
         meshes.draw(*mesh, parts, look.toEye, material);
     }
 }
@@ -110,7 +110,7 @@ void PaintContext::drawBody(const Mesh* mesh, const PartLook& parts, const Look&
 void PaintContext::drawLines(const LineMesh* mesh, const PartLook& parts, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && draws(Stage::lines) && isInPass(material.isTranslucent())) {
+    if (mesh != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         lines.draw(*mesh, parts, {view.projection * look.toEye, view.area.width, view.area.height, 1.0f}, material);
     }
 }
@@ -119,7 +119,7 @@ void PaintContext::drawSymbols(const InstanceBuffer* positions, const PartLook& 
                                const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (positions != nullptr && draws(Stage::lines) && isInPass(material.isTranslucent())) {
+    if (positions != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         symbols.draw(*positions, parts,
                      {view.projection * look.toEye, view.area.width, view.area.height, symbol, 1.0f, material.color});
     }

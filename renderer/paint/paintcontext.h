@@ -39,6 +39,20 @@ struct ObjectStyle {
     bool showPhysicsMarkers;
 };
 
+/// Kinds of what painters draw, as bits: a part of a frame may consist of some of them.
+enum DrawKind : unsigned {
+    /// Faces of bodies, which have silhouettes.
+    DrawBodies = 0x1,
+    /// Other faces.
+    DrawFaces = 0x2,
+    /// Instances and spheres, which the grid of a flat view does not cross as it crosses faces.
+    DrawMarks = 0x4,
+    /// Lines and symbols have smooth borders, which take in the colours of what was drawn before: they follow, with
+    /// icons and labels, when everything else is there.
+    DrawLines = 0x8,
+    DrawAll = 0xf
+};
+
 /// Where something is drawn, and how it looks.
 struct Look {
     /// From its vertices to the eye.
@@ -49,28 +63,6 @@ struct Look {
 /// Which faces, lines and symbols are drawn when the painters draw everything: in space, what is opaque comes first,
 /// and what is translucent is mixed over it, see `Transparency`.
 enum class Pass { all, opaque, translucent };
-
-/// What is drawn of the items of a scene in one stage of a pass: each bit is a kind of things.
-///
-/// Lines and symbols have smooth borders, which take in the colours of what was drawn before: they follow when all that
-/// is opaque is there.
-enum class Stage : unsigned {
-    /// The faces of bodies, whose silhouettes are found before the rest covers them.
-    bodies = 0x1,
-    otherFaces = 0x2,
-    /// Instances and spheres, which the grid of a flat view does not cross as it crosses faces.
-    marks = 0x4,
-    /// Lines and symbols.
-    lines = 0x8,
-    /// Labels and icons, which are drawn over the scene afterwards.
-    labels = 0x10,
-    plainFaces = bodies | otherFaces,
-    facesBesidesBodies = otherFaces | marks,
-    faces = plainFaces | marks,
-    linesAndLabels = lines | labels,
-    withoutLabels = faces | lines,
-    everything = faces | linesAndLabels
-};
 
 /// What the painters of plots and objects draw with in one frame: they take from `uploads` what they consist of and
 /// draw it, in any order. Uploads that are null, because they cannot be drawn, are left out.
@@ -85,7 +77,6 @@ struct PaintContext {
     float scale;
     /// Whether creases and borders of bodies are drawn as lines.
     bool showFeatureEdges;
-    Stage stage;
     /// Which axes are logarithmic: bit 0 for x, bit 1 for y.
     int logAxes;
     ObjectStyle objects;
@@ -97,6 +88,8 @@ struct PaintContext {
     const SymbolPainter& symbols;
     std::vector<SceneIcon>& icons;
     std::vector<SceneLabel>& labels;
+    /// The bits of what is drawn; calls for other kinds do nothing.
+    unsigned kinds = DrawAll;
     Pass pass = Pass::all;
     /// Set in the pass of what is opaque if something translucent was left out; or null.
     bool* isSomethingLeft = nullptr;
@@ -105,11 +98,11 @@ struct PaintContext {
     static constexpr vxgraphics3d::Color c_edgeColor{24, 24, 28, 255};
     static constexpr float c_edgeWidth = 1.2f;
 
-    /// The same in another view and stage.
-    PaintContext in(const View& itsView, Stage itsStage) const
+    /// Some kinds of the same, drawn in another view.
+    PaintContext in(const View& itsView, unsigned itsKinds, Pass itsPass) const
     {
-        return {itsView, opacity, scale, showFeatureEdges, itsStage, logAxes, objects, uploads,        colorTextures,
-                images,  meshes,  lines, symbols,          icons,    labels,  pass,    isSomethingLeft};
+        return {itsView, opacity, scale, showFeatureEdges, logAxes, objects, uploads,  colorTextures,
+                images,  meshes,  lines, symbols,          icons,   labels,  itsKinds, itsPass};
     }
 
     void drawMesh(const Mesh* mesh, const Look& look) const;
@@ -142,21 +135,22 @@ struct PaintContext {
     /// The icon is drawn over everything that it is not hidden by, before the labels.
     void drawIcon(SceneIcon icon) const
     {
-        if (draws(Stage::labels)) {
+        if (hasLabels()) {
             icons.push_back(std::move(icon));
         }
     }
     /// The label is drawn over everything that it is not hidden by.
     void drawLabel(SceneLabel label) const
     {
-        if (draws(Stage::labels)) {
+        if (hasLabels()) {
             labels.push_back(std::move(label));
         }
     }
 
 private:
-    bool isInPass(bool isTranslucent) const;
-    bool draws(Stage kind) const { return (static_cast<unsigned>(stage) & static_cast<unsigned>(kind)) != 0; }
+    /// Icons and labels of what is translucent are drawn with what is opaque.
+    bool hasLabels() const { return (kinds & DrawLines) != 0 && pass != Pass::translucent; }
+    bool isDrawn(DrawKind kind, bool isTranslucent) const;
 };
 
 } // namespace vxrenderer

@@ -128,8 +128,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     }
 }
 
-void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const Target& target,
-                              const AxesPainter* axes)
+void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes,
+                              const Target& target)
 {
     const PixelArea& area = m_view.area;
     const int bottom = layout.height - area.y - area.height;
@@ -154,7 +154,7 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay);
 }
 
-void SceneRenderer::lightFaces(const Frame& frame, const View& view, bool hasOcclusion)
+void SceneRenderer::beginMeshes(const Frame& frame, const View& view, bool hasOcclusion)
 {
     const Lighting light = lightOf(frame);
     if (frame.appearance.style.isStudio) {
@@ -165,11 +165,11 @@ void SceneRenderer::lightFaces(const Frame& frame, const View& view, bool hasOcc
 }
 
 bool SceneRenderer::findOcclusion(const Frame& frame, const FrameLayout& layout,
-                                  std::span<const SceneItem* const> items, const Target& target,
+                                  const std::vector<const SceneItem*>& items, const Target& target,
                                   const PaintContext& context)
 {
     if (!frame.appearance.style.isStudio || m_view.isFlat || !lightOf(frame).isUsed || items.empty() ||
-        !layout.box.isValid()) {
+        frame.appearance.opacity < 1.0f || !layout.box.isValid()) {
         return false;
     }
     GLint viewport[4];
@@ -179,7 +179,7 @@ bool SceneRenderer::findOcclusion(const Frame& frame, const FrameLayout& layout,
     }
     const View view = m_occlusion->beginShapes(m_view);
     m_meshes.beginShapes(view);
-    const PaintContext shapes = context.in(view, Stage::faces);
+    const PaintContext shapes = context.in(view, DrawBodies | DrawFaces | DrawMarks, Pass::opaque);
     for (const SceneItem* item : items) {
         drawItem(*item, shapes);
     }
@@ -188,36 +188,6 @@ bool SceneRenderer::findOcclusion(const Frame& frame, const FrameLayout& layout,
     glViewport(viewport[0], viewport[1], viewport[2], viewport[3]);
     glEnable(GL_SCISSOR_TEST);
     return true;
-}
-
-std::vector<const SceneItem*> SceneRenderer::drawOpaque(std::span<const SceneItem* const> items, const Target& target,
-                                                        const PaintContext& context)
-{
-    std::vector<bool> isLeft(items.size());
-    const auto draw = [&](Stage stage) {
-        PaintContext part = context.in(context.view, stage);
-        for (std::size_t i = 0; i < items.size(); ++i) {
-            bool isSomethingLeft = false;
-            part.isSomethingLeft = &isSomethingLeft;
-            drawItem(*items[i], part);
-            isLeft[i] = isLeft[i] || isSomethingLeft;
-        }
-    };
-    if (!context.showFeatureEdges || context.opacity < 1.0f || items.empty()) {
-        draw(Stage::faces);
-    } else {
-        draw(Stage::bodies);
-        m_silhouettes.draw(target, m_view, PaintContext::c_edgeWidth * context.scale, PaintContext::c_edgeColor);
-        draw(Stage::facesBesidesBodies);
-    }
-    draw(Stage::linesAndLabels);
-    std::vector<const SceneItem*> left;
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (isLeft[i]) {
-            left.push_back(items[i]);
-        }
-    }
-    return left;
 }
 
 void SceneRenderer::drawTrace(const AxesPainter& axes, const FrameLayout& layout)
@@ -236,13 +206,19 @@ void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, cons
 {
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
+    std::vector<const SceneItem*> shown;
+    for (const SceneItem& item : layout.items) {
+        const unsigned bit = std::holds_alternative<PlotItem>(item) ? RenderPlots : RenderObjects;
+        if ((frame.canvas.getRenderMask() & bit) != 0 && frame.appearance.opacity > 0.0f) {
+            shown.push_back(&item);
+        }
+    }
     const RenderStyle& style = frame.appearance.style;
     m_uploads.setCreaseAngle(style.creaseAngle * std::numbers::pi_v<float> / 180.0f);
     const PaintContext context = {m_view,
                                   frame.appearance.opacity,
                                   frame.appearance.scale,
                                   style.showFeatureEdges && !m_view.isFlat,
-                                  Stage::everything,
                                   frame.logAxes(),
                                   styleOf(frame.appearance),
                                   m_uploads,
@@ -253,25 +229,12 @@ void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, cons
                                   m_symbols,
                                   icons,
                                   labels};
-    std::vector<const SceneItem*> shown;
-    for (const SceneItem& item : layout.items) {
-        const unsigned bit = std::holds_alternative<PlotItem>(item) ? RenderPlots : RenderObjects;
-        if ((frame.canvas.getRenderMask() & bit) != 0 && context.opacity > 0.0f) {
-            shown.push_back(&item);
-        }
-    }
-    m_hasOcclusion = false;
+    m_hasOcclusion = findOcclusion(frame, layout, shown, target, context);
+    beginMeshes(frame, m_view, m_hasOcclusion);
     if (m_view.isFlat) {
-        lightFaces(frame, m_view, false);
         drawFlat(std::move(shown), trace, context);
     } else {
-        PaintContext opaque = context;
-        opaque.pass = Pass::opaque;
-        const bool hidesNothing = context.opacity < 1.0f;
-        m_hasOcclusion =
-            findOcclusion(frame, layout, hidesNothing ? std::span<const SceneItem* const>() : shown, target, opaque);
-        lightFaces(frame, m_view, m_hasOcclusion);
-        drawTranslucent(drawOpaque(shown, target, opaque), frame, target, context);
+        drawInSpace(shown, frame, target, context);
     }
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
@@ -309,22 +272,22 @@ void SceneRenderer::drawFlat(std::vector<const SceneItem*> items, const std::fun
 {
     const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
     const auto firstTranslucent = std::stable_partition(items.begin(), items.end(), isOpaque);
-    const auto isPlot = [](const SceneItem& item) { return std::holds_alternative<PlotItem>(item); };
-    const auto drawStage = [&](Stage stage, auto&& isWanted) {
-        const PaintContext part = context.in(context.view, stage);
+    const auto drawOpaque = [&](unsigned kinds, auto&& isWanted) {
+        const PaintContext some = context.in(context.view, kinds, Pass::all);
         std::for_each(items.begin(), firstTranslucent, [&](const SceneItem* item) {
             if (isWanted(*item)) {
-                drawItem(*item, part);
+                drawItem(*item, some);
             }
         });
     };
-    drawStage(Stage::plainFaces, isPlot);
+    const auto isPlot = [](const SceneItem& item) { return std::holds_alternative<PlotItem>(item); };
+    drawOpaque(DrawBodies | DrawFaces, isPlot);
     if (trace) {
         trace();
     }
-    drawStage(Stage::plainFaces, std::not_fn(isPlot));
-    for (const Stage stage : {Stage::marks, Stage::linesAndLabels}) {
-        drawStage(stage, [](const SceneItem&) { return true; });
+    drawOpaque(DrawBodies | DrawFaces, std::not_fn(isPlot));
+    for (const DrawKind kind : {DrawMarks, DrawLines}) {
+        drawOpaque(kind, [](const SceneItem&) { return true; });
     }
     if (firstTranslucent != items.end()) {
         const auto draw = [&](const SceneItem* item) { drawItem(*item, context); };
@@ -336,10 +299,25 @@ void SceneRenderer::drawFlat(std::vector<const SceneItem*> items, const std::fun
     }
 }
 
-void SceneRenderer::drawTranslucent(std::span<const SceneItem* const> items, const Frame& frame, const Target& target,
-                                    const PaintContext& context)
+void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
+                                const PaintContext& context)
 {
-    if (items.empty()) {
+    std::vector<const SceneItem*> translucent;
+    for (const DrawKind kind : {DrawBodies, DrawFaces, DrawMarks, DrawLines}) {
+        PaintContext opaque = context.in(m_view, kind, Pass::opaque);
+        for (const SceneItem* item : items) {
+            bool isSomethingLeft = false;
+            opaque.isSomethingLeft = &isSomethingLeft;
+            drawItem(*item, opaque);
+            if (isSomethingLeft && std::ranges::find(translucent, item) == translucent.end()) {
+                translucent.push_back(item);
+            }
+        }
+        if (kind == DrawBodies && context.showFeatureEdges && !items.empty()) {
+            m_silhouettes.draw(target, m_view, PaintContext::c_edgeWidth * context.scale, PaintContext::c_edgeColor);
+        }
+    }
+    if (translucent.empty()) {
         m_transparency.release();
         return;
     }
@@ -351,10 +329,9 @@ void SceneRenderer::drawTranslucent(std::span<const SceneItem* const> items, con
     setOutput(FragmentOutput::layers);
     const int numLayers = frame.isDraft ? 0 : Transparency::c_fullLayers;
     m_transparency.draw(target, m_view, numLayers, [&](const View& view) {
-        lightFaces(frame, view, false);
-        PaintContext layers = context.in(view, Stage::withoutLabels);
-        layers.pass = Pass::translucent;
-        for (const SceneItem* item : items) {
+        beginMeshes(frame, view, false);
+        const PaintContext layers = context.in(view, DrawAll, Pass::translucent);
+        for (const SceneItem* item : translucent) {
             drawItem(*item, layers);
         }
     });
@@ -372,9 +349,9 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
         rim.alpha = c_markerRimAlpha;
         const float rimWidth = width + 2.0f * frame.appearance.scale;
         const auto draw = [&](float lineWidth, float above, const Color& color) {
-            m_lines.draw(marker.lines,
-                         {m_view.projection, m_view.area.width, m_view.area.height, lineWidth, m_view.aboveFaces(above)},
-                         color);
+            m_lines.draw(
+                marker.lines,
+                {m_view.projection, m_view.area.width, m_view.area.height, lineWidth, m_view.aboveFaces(above)}, color);
         };
         draw(rimWidth, rimWidth, rim);
         draw(width, 1.2f * rimWidth, marker.color);
@@ -460,7 +437,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
             triad.emplace(frame, m_view, layout.orientationFonts);
         }
-        drawScene(frame, layout, target, axes ? &*axes : nullptr);
+        drawScene(frame, layout, axes ? &*axes : nullptr, target);
     }
     setBlending(true);
     if (axes) {
@@ -503,13 +480,12 @@ void SceneRenderer::keepShown(PickedObjectCollection& picked, const Frame& frame
         target.bindScene();
         glViewport(area.x, target.getHeight() - area.y - area.height, area.width, area.height);
         // With the light of the picture, since that decides about the shaders, and so about the last bits of depths.
-        lightFaces(frame, view, m_hasOcclusion);
+        beginMeshes(frame, view, m_hasOcclusion);
         std::vector<SceneIcon> icons;
         std::vector<SceneLabel> labels;
         shown = findShown(results, objects,
-                          {view, 1.0f, frame.appearance.scale, false, Stage::everything, frame.logAxes(),
-                           styleOf(frame.appearance), m_uploads, m_colorTextures, m_images, m_meshes, m_lines,
-                           m_symbols, icons, labels});
+                          {view, 1.0f, frame.appearance.scale, false, frame.logAxes(), styleOf(frame.appearance),
+                           m_uploads, m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
     }
     picked.reset();
     for (std::size_t i = 0; i < results.size(); ++i) {

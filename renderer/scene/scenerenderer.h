@@ -27,7 +27,6 @@
 
 #include <functional>
 #include <memory>
-#include <span>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -71,32 +70,29 @@ public:
 
 private:
     void updateTitle(const vxgraphics3d::Scene& scene);
-    void drawScene(const Frame& frame, const FrameLayout& layout, const Target& target, const AxesPainter* axes);
+    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes, const Target& target);
     /// @param icons,labels receive those that are to be drawn over the scene
     void drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
                   const std::function<void()>& trace, std::vector<SceneIcon>& icons, std::vector<SceneLabel>& labels);
     void drawTrace(const AxesPainter& axes, const FrameLayout& layout);
-    /// Lets faces be drawn in the light of a frame.
+    /// Lets faces be drawn in a view, in the light of the frame.
     /// @param hasOcclusion whether it has been found for the view
-    void lightFaces(const Frame& frame, const View& view, bool hasOcclusion);
-    /// Finds the occlusion of the opaque items if the frame has studio light.
+    void beginMeshes(const Frame& frame, const View& view, bool hasOcclusion);
+    /// Finds the occlusion of what is opaque if the frame has studio light.
     /// @return whether there is any
-    bool findOcclusion(const Frame& frame, const FrameLayout& layout, std::span<const SceneItem* const> items,
+    bool findOcclusion(const Frame& frame, const FrameLayout& layout, const std::vector<const SceneItem*>& items,
                        const Target& target, const PaintContext& context);
-    /// Draws what is opaque, with the silhouettes of bodies if the picture shows feature edges.
-    /// @return the items of which something translucent is left
-    std::vector<const SceneItem*> drawOpaque(std::span<const SceneItem* const> items, const Target& target,
-                                             const PaintContext& context);
-    /// Mixes what is translucent over what is opaque.
-    void drawTranslucent(std::span<const SceneItem* const> items, const Frame& frame, const Target& target,
-                         const PaintContext& context);
-    /// Draws items over each other, without depths, as in a flat view.
-    /// @param trace draws the trace of the grid over the faces of plots; may be empty
-    void drawFlat(std::vector<const SceneItem*> items, const std::function<void()>& trace,
-                  const PaintContext& context) const;
     void drawItem(const SceneItem& item, const PaintContext& context) const;
     /// Whether an item is blended in every picture.
     bool isTranslucent(const SceneItem& item) const;
+    /// Draws items without depths over each other, as in a flat view.
+    /// @param trace draws the trace of the grid over the faces of plots; may be empty
+    void drawFlat(std::vector<const SceneItem*> items, const std::function<void()>& trace,
+                  const PaintContext& context) const;
+    /// Draws what is opaque, with the silhouettes of bodies if the picture shows feature edges, and mixes what is
+    /// translucent over it.
+    void drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
+                     const PaintContext& context);
     void drawLightMarkers(const Frame& frame);
     void drawOverlays(const Frame& frame, const FrameLayout& layout);
     void drawOverlay(const vxgraphics3d::Overlay& overlay, const vxgraphics3d::BoundingBox& framedBox, const View& view,
