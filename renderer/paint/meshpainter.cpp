@@ -216,16 +216,10 @@ void MeshPainter::setUp(const Mesh& mesh, MeshShader shader, const Matrixf& toEy
 void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& material, float radiusScale)
 {
     shader.isRestricted = material.isRestricted();
-    shader.output = m_output;
-    const bool hasSteps = material.hasTable != 0 && material.hasSteps != 0;
-    const bool hasEdges = shader.shape == MeshShader::Shape::triangles && !shader.hasParts && !shader.isShape &&
-                          (shader.isRestricted || hasSteps);
-    if (hasEdges && m_numSamples > 1 && m_numSamples <= SampledEdges::c_mostSamples) {
-        shader.numSamples = m_numSamples;
-        shader.hasSteps = hasSteps;
-    }
     // What is blended is not among the surfaces that hide light from each other.
     shader.hasOcclusion = shader.hasOcclusion && !material.isTranslucent();
+    shader.output = m_output;
+    takeEdges(shader, material);
     program(shader).use();
     m_model.set({elementsOf(toEye), elementsOf(normalMatrixOf(toEye)), radiusScale});
     m_material.set(material);
@@ -257,6 +251,17 @@ void MeshPainter::draw(const Mesh& mesh, const PartLook& parts, const Matrixf& t
     m_rows.set(parts.rows);
     parts.table.bind();
     drawFaces(material, m_output, [&] { mesh.draw(parts.ranges); });
+}
+
+void MeshPainter::takeEdges(MeshShader& shader, const Material& material) const
+{
+    const bool hasSteps = material.hasTable != 0 && material.hasSteps != 0;
+    const bool hasEdges = shader.shape == MeshShader::Shape::triangles && !shader.hasParts && !shader.isShape &&
+                          (shader.isRestricted || hasSteps);
+    if (hasEdges && m_numSamples > 1 && m_numSamples <= SampledEdges::c_mostSamples) {
+        shader.numSamples = m_numSamples;
+        shader.hasSteps = hasSteps;
+    }
 }
 
 float MeshPainter::largestInPixels(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye) const

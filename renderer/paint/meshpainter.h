@@ -65,6 +65,9 @@ private:
     float largestInPixels(const SphereBuffer& spheres, float radiusScale, const vxgraphics3d::Matrixf& toEye) const;
     void use(MeshShader shader, const vxgraphics3d::Matrixf& toEye, const Material& material, float radiusScale);
 
+    /// Lets edges across triangles be smooth, where a material has any.
+    void takeEdges(MeshShader& shader, const Material& material) const;
+
     /// Made when they are used for the first time.
     std::map<MeshShader, GlProgram> m_programs;
     /// What the light of this frame asks for.
