@@ -17,7 +17,8 @@ public:
     VertexRecords(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::VertexLayout& layout)
         : VertexRecords(static_cast<const std::byte*>(vertices.vertexPointer()), layout)
     {}
-    VertexRecords(const std::byte* first, const vxgraphics3d::VertexLayout& layout) : m_first(first), m_layout(layout) {}
+    VertexRecords(const std::byte* first, const vxgraphics3d::VertexLayout& layout) : m_first(first), m_layout(layout)
+    {}
 
     vxgraphics3d::Vector3f position(std::uint32_t index) const { return vectorAt(index, 0); }
     vxgraphics3d::Vector3f normal(std::uint32_t index) const { return vectorAt(index, m_layout.normal); }
