@@ -55,10 +55,11 @@ constexpr int c_samples = 4;
 constexpr int c_fewPixels = 100000;
 
 /// Frames after the first one, in which nothing is uploaded: drawn and read back.
-void drawFrame(benchmark::State& state, Quality quality)
+void drawFrame(benchmark::State& state, Quality quality, const RenderStyle& style = {})
 {
     const Waves waves(static_cast<int>(state.range(0)));
     OffscreenCanvas canvas(c_width, c_height, c_samples);
+    canvas.setStyle(style);
     canvas.setScene(waves.scene.scene);
     lookFrom(canvas, -50.0, 30.0);
     canvas.zoomExtents();
@@ -169,6 +170,8 @@ void sizes(benchmark::internal::Benchmark* frames)
 }
 
 BENCHMARK_CAPTURE(drawFrame, full, Quality::full)->Name("drawFrame")->Apply(sizes);
+constexpr RenderStyle c_studio = {.isStudio = true, .showFeatureEdges = true};
+BENCHMARK_CAPTURE(drawFrame, studio, Quality::full, c_studio)->Name("drawStudio")->Apply(sizes);
 BENCHMARK_CAPTURE(drawBare, full, c_samples)->Name("drawFrame_limit")->Apply(sizes);
 BENCHMARK_CAPTURE(drawFrame, draft, Quality::draft)->Name("drawDraft")->Apply(sizes);
 BENCHMARK_CAPTURE(drawBare, draft, 1)->Name("drawDraft_limit")->Apply(sizes);
