@@ -292,7 +292,8 @@ void OffscreenCanvas::draw(Quality quality)
     m_drawnTarget = nullptr;
     const Target& target = quality == Quality::draft ? draftTarget() : *m_target;
     const Appearance look = appearance();
-    const Frame frame = frameOf(camera(), look);
+    Frame frame = frameOf(camera(), look);
+    frame.isDraft = quality == Quality::draft;
     m_renderer->draw(frame, m_renderer->layOut(frame, getWidth(), getHeight()), target);
     m_view = m_renderer->getView();
     if (m_sceneView) {
@@ -330,7 +331,10 @@ std::vector<std::uint8_t> OffscreenCanvas::encodePng() const
 {
     std::vector<std::uint8_t> pixels(imageSize());
     readImage(pixels.data(), pixels.size());
-    return vxrenderer::encodePng(pixels.data(), getWidth(), getHeight(), {});
+    PngSettings settings;
+    settings.dpi =
+        std::clamp(Canvas3dGlobalSettings::getInstance()->getOnScreenResolution(), 1, PngSettings::c_largestDpi);
+    return vxrenderer::encodePng(pixels.data(), getWidth(), getHeight(), settings);
 }
 
 void OffscreenCanvas::keepVisible(PickedObjectCollection& picked)

@@ -67,7 +67,8 @@ void attachDepths(const GlTexture& texture, int samples, int width, int height)
 Target::Target(int width, int height, int samples) : m_width(width), m_height(height), m_samples(1)
 {
     requireSize(width, height);
-    m_samples = std::clamp(samples, 1, std::max(1, limit(GL_MAX_SAMPLES)));
+    m_samples =
+        std::clamp(samples, 1, std::max(1, std::min(limit(GL_MAX_SAMPLES), limit(GL_MAX_DEPTH_TEXTURE_SAMPLES))));
 
     glBindFramebuffer(GL_FRAMEBUFFER, m_scene.name());
     attach(m_sceneColor, GL_COLOR_ATTACHMENT0, GL_RGBA8, m_samples, width, height);

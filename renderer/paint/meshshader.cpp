@@ -128,7 +128,7 @@ layout(std140) uniform Light {
     vec4 lightSpecular[c_maxLights];
     vec4 lightCones[c_maxLights];
 };
-out vec4 result;
+OUTPUT vec4 result;
 )";
 
 // The normal on the side that is seen is n, the point has the eye's coordinates.
@@ -279,12 +279,14 @@ std::string MeshShader::lightSource() const
 
 std::string MeshShader::fragmentSource() const
 {
-    return std::string(shape == Shape::triangles ? "" : "#extension GL_ARB_sample_shading : enable\n") +
-           constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
-           constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
-           constant("hasHighlights", hasHighlights) + constant("isTextured", isTextured) +
-           "const int c_numLights = " + std::to_string(numLights) + ";\n" + shapeConstants() + c_viewBlock +
-           Material::c_source + lightSource() + mainOfFragments();
+    const std::string source =
+        std::string(shape == Shape::triangles ? "" : "#extension GL_ARB_sample_shading : enable\n") +
+        constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
+        constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
+        constant("hasHighlights", hasHighlights) + constant("isTextured", isTextured) +
+        "const int c_numLights = " + std::to_string(numLights) + ";\n" + shapeConstants() + c_viewBlock +
+        Material::c_source + lightSource() + mainOfFragments();
+    return withOutput(output, source, shape != Shape::triangles);
 }
 
 } // namespace vxrenderer

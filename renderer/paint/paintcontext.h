@@ -39,6 +39,20 @@ struct ObjectStyle {
     bool showPhysicsMarkers;
 };
 
+/// Kinds of what painters draw, as bits: a part of a frame may consist of some of them.
+enum DrawKind : unsigned {
+    /// Faces of bodies, which have silhouettes.
+    DrawBodies = 0x1,
+    /// Other faces.
+    DrawFaces = 0x2,
+    /// Instances and spheres, which the grid of a flat view does not cross as it crosses faces.
+    DrawMarks = 0x4,
+    /// Lines and symbols have smooth borders, which take in the colours of what was drawn before: they follow, with
+    /// icons and labels, when everything else is there.
+    DrawLines = 0x8,
+    DrawAll = 0xf
+};
+
 /// Where something is drawn, and how it looks.
 struct Look {
     /// From its vertices to the eye.
@@ -46,22 +60,15 @@ struct Look {
     Material material;
 };
 
-/// What is drawn of the opaque items of a scene in one pass.
-enum class Stage {
-    everything,
-    /// The faces of bodies, whose silhouettes are found before the rest covers them.
-    bodies,
-    /// All that `bodies` leaves out.
-    besidesBodies,
-    /// All faces, and nothing else.
-    faces
-};
+/// Which faces, lines and symbols are drawn when the painters draw everything: in space, what is opaque comes first,
+/// and what is translucent is mixed over it, see `Transparency`.
+enum class Pass { all, opaque, translucent };
 
 /// What the painters of plots and objects draw with in one frame: they take from `uploads` what they consist of and
 /// draw it, in any order. Uploads that are null, because they cannot be drawn, are left out.
 ///
-/// A painter need not know whether the scene is translucent: materials lose some of their opacity here, and faces are
-/// blended in two steps, those that face away first, lines in one.
+/// A painter need not know whether the scene is translucent: materials lose some of their opacity here, and what does
+/// not belong to the pass is left out.
 struct PaintContext {
     const View& view;
     /// Of the scene, from 0 to 1; below 1, what lies behind shines through.
@@ -70,7 +77,6 @@ struct PaintContext {
     float scale;
     /// Whether creases and borders of bodies are drawn as lines.
     bool showFeatureEdges;
-    Stage stage;
     /// Which axes are logarithmic: bit 0 for x, bit 1 for y.
     int logAxes;
     ObjectStyle objects;
@@ -82,16 +88,21 @@ struct PaintContext {
     const SymbolPainter& symbols;
     std::vector<SceneIcon>& icons;
     std::vector<SceneLabel>& labels;
+    /// The bits of what is drawn; calls for other kinds do nothing.
+    unsigned kinds = DrawAll;
+    Pass pass = Pass::all;
+    /// Set in the pass of what is opaque if something translucent was left out; or null.
+    bool* isSomethingLeft = nullptr;
 
     /// Of the lines of bodies: dark enough on every colour of data, and hardly wider than a pixel of the screen.
     static constexpr vxgraphics3d::Color c_edgeColor{24, 24, 28, 255};
     static constexpr float c_edgeWidth = 1.2f;
 
-    /// The same in another view and stage.
-    PaintContext in(const View& itsView, Stage itsStage) const
+    /// Some kinds of the same, drawn in another view.
+    PaintContext in(const View& itsView, unsigned itsKinds, Pass itsPass) const
     {
-        return {itsView, opacity, scale, showFeatureEdges, itsStage, logAxes, objects, uploads, colorTextures,
-                images,  meshes,  lines, symbols,          icons,    labels};
+        return {itsView, opacity, scale, showFeatureEdges, logAxes, objects, uploads,  colorTextures,
+                images,  meshes,  lines, symbols,          icons,   labels,  itsKinds, itsPass};
     }
 
     void drawMesh(const Mesh* mesh, const Look& look) const;
@@ -124,22 +135,22 @@ struct PaintContext {
     /// The icon is drawn over everything that it is not hidden by, before the labels.
     void drawIcon(SceneIcon icon) const
     {
-        if (drawsLines()) {
+        if (hasLabels()) {
             icons.push_back(std::move(icon));
         }
     }
     /// The label is drawn over everything that it is not hidden by.
     void drawLabel(SceneLabel label) const
     {
-        if (drawsLines()) {
+        if (hasLabels()) {
             labels.push_back(std::move(label));
         }
     }
 
 private:
-    bool drawsBodies() const { return stage != Stage::besidesBodies; }
-    bool drawsOtherFaces() const { return stage != Stage::bodies; }
-    bool drawsLines() const { return stage == Stage::everything || stage == Stage::besidesBodies; }
+    /// Icons and labels of what is translucent are drawn with what is opaque.
+    bool hasLabels() const { return (kinds & DrawLines) != 0 && pass != Pass::translucent; }
+    bool isDrawn(DrawKind kind, bool isTranslucent) const;
 };
 
 } // namespace vxrenderer

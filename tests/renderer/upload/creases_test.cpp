@@ -112,7 +112,11 @@ TEST(Creases, aVertexBelongsToAsManyFansAsSmoothPiecesMeetThere)
 {
     // A roof of two slopes, which meet at 40 degrees.
     const float down = -std::tan(20.0f * std::numbers::pi_v<float> / 180.0f);
-    Surface roof({{0.0f, 0.0f, 0.0f}, {0.0f, 1.0f, 0.0f}, {1.0f, 0.0f, down}, {1.0f, 1.0f, down}, {-1.0f, 0.0f, down},
+    Surface roof({{0.0f, 0.0f, 0.0f},
+                  {0.0f, 1.0f, 0.0f},
+                  {1.0f, 0.0f, down},
+                  {1.0f, 1.0f, down},
+                  {-1.0f, 0.0f, down},
                   {-1.0f, 1.0f, down}},
                  {0, 2, 3, 0, 3, 1, 0, 1, 5, 0, 5, 4});
     const Creases creases = roof.creases();
