@@ -65,8 +65,9 @@ jstring toJavaNew(JNIEnv* env, const std::string& text)
 
 jstring toJavaNew(JNIEnv* env, const UString& text)
 {
-    const std::vector<jchar> units(text.data(), text.data() + text.size());
-    const jstring made = env->NewString(units.data(), static_cast<jsize>(units.size()));
+    // With the final zero, so that there is an array even for an empty text.
+    const std::vector<jchar> units(text.data(), text.data() + text.size() + 1);
+    const jstring made = env->NewString(units.data(), static_cast<jsize>(text.size()));
     throwIfPending(env);
     return made;
 }

@@ -32,7 +32,7 @@ public:
     void removeAllChildren();
 
     /// Begin and end of the children, in ascending order of their ids. Valid until a child is added or removed.
-    std::pair<ChildTable::iterator, ChildTable::iterator> children() { return {m_children.begin(), m_children.end()}; }
+    std::pair<ChildTable::const_iterator, ChildTable::const_iterator> children() { return getChildren(); }
     std::pair<ChildTable::const_iterator, ChildTable::const_iterator> getChildren() const
     {
         return {m_children.begin(), m_children.end()};

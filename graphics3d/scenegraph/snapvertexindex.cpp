@@ -102,18 +102,37 @@ void SnapVertexIndex::sort()
 
 /// The order of an axis with further entries merged into it. These come newest first, so that the stable sort and the
 /// merge put the newest of equal coordinates first.
-std::vector<SnapVertexIndex::Entry> SnapVertexIndex::merged(Axis axis, std::vector<Entry> added) const
+std::vector<SnapVertexIndex::Entry> SnapVertexIndex::merged(Axis axis, const std::vector<Entry>& added) const
 {
-    for (Entry& entry : added) {
-        entry.coordinate = axis == AxisX ? entry.vertex->x : entry.vertex->y;
-    }
-    const auto before = [](const Entry& a, const Entry& b) {
-        return a.coordinate < b.coordinate || (std::isnan(a.coordinate) && !std::isnan(b.coordinate));
+    // Entries are large: what is sorted are their coordinates.
+    struct Key {
+        double coordinate;
+        const Entry* entry;
     };
-    std::stable_sort(added.begin(), added.end(), before);
+    std::vector<Key> keys;
+    keys.reserve(added.size());
+    for (const Entry& entry : added) {
+        keys.push_back({axis == AxisX ? entry.vertex->x : entry.vertex->y, &entry});
+    }
+    const auto before = [](double a, double b) { return a < b || (std::isnan(a) && !std::isnan(b)); };
+    std::stable_sort(keys.begin(), keys.end(),
+                     [&](const Key& a, const Key& b) { return before(a.coordinate, b.coordinate); });
+
     const std::vector<Entry>& present = m_orders[axis].entries;
-    std::vector<Entry> result(added.size() + present.size());
-    std::merge(added.begin(), added.end(), present.begin(), present.end(), result.begin(), before);
+    std::vector<Entry> result;
+    result.reserve(keys.size() + present.size());
+    const auto append = [&](const Key& key) {
+        result.push_back(*key.entry);
+        result.back().coordinate = key.coordinate;
+    };
+    auto key = keys.begin();
+    for (const Entry& entry : present) {
+        for (; key != keys.end() && !before(entry.coordinate, key->coordinate); ++key) {
+            append(*key);
+        }
+        result.push_back(entry);
+    }
+    std::for_each(key, keys.end(), append);
     return result;
 }
 

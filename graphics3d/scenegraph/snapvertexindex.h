@@ -74,7 +74,7 @@ private:
 
     void changed();
     void sort();
-    std::vector<Entry> merged(Axis axis, std::vector<Entry> added) const;
+    std::vector<Entry> merged(Axis axis, const std::vector<Entry>& added) const;
     static void step(Order& order, const Vector3f& point, float direction, Best& best);
 
     Runs m_runs;    ///< in the order of arrival

@@ -200,8 +200,14 @@ void OffscreenCanvas::dropDisposedScene()
 Appearance OffscreenCanvas::appearance() const
 {
     Appearance look = Appearance::onScreen(*m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
-    look.markingMode = m_markingMode;
+    completeAppearance(look);
     return look;
+}
+
+void OffscreenCanvas::completeAppearance(Appearance& look) const
+{
+    look.markingMode = m_markingMode;
+    look.style = m_style;
 }
 
 ICameraTransforms& OffscreenCanvas::camera()
@@ -241,6 +247,12 @@ void OffscreenCanvas::setMarkingMode(MarkingSetups::MarkingMode mode)
         throw std::out_of_range("There is no marking mode " + std::to_string(mode) + ".");
     }
     m_markingMode = mode;
+}
+
+void OffscreenCanvas::setStyle(const RenderStyle& style)
+{
+    style.validate();
+    m_style = style;
 }
 
 void OffscreenCanvas::zoomExtents()
@@ -299,7 +311,8 @@ void OffscreenCanvas::draw(Quality quality)
     m_drawnTarget = nullptr;
     const Target& target = quality == Quality::draft ? draftTarget() : *m_target;
     const Appearance look = appearance();
-    const Frame frame = frameOf(camera(), look);
+    Frame frame = frameOf(camera(), look);
+    frame.isDraft = quality == Quality::draft;
     m_renderer->draw(frame, m_renderer->layOut(frame, getWidth(), getHeight()), target);
     m_view = m_renderer->getView();
     if (m_sceneView) {
@@ -337,7 +350,10 @@ std::vector<std::uint8_t> OffscreenCanvas::encodePng() const
 {
     std::vector<std::uint8_t> pixels(imageSize());
     readImage(pixels.data(), pixels.size());
-    return vxrenderer::encodePng(pixels.data(), getWidth(), getHeight(), {});
+    PngSettings settings;
+    settings.dpi =
+        std::clamp(Canvas3dGlobalSettings::getInstance()->getOnScreenResolution(), 1, PngSettings::c_largestDpi);
+    return vxrenderer::encodePng(pixels.data(), getWidth(), getHeight(), settings);
 }
 
 void OffscreenCanvas::keepVisible(PickedObjectCollection& picked)
@@ -357,7 +373,7 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     const Target target(width, height, std::max(1, settings.getMultisampleSetting()));
     Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
-    look.markingMode = m_markingMode;
+    completeAppearance(look);
     // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;

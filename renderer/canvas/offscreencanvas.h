@@ -4,6 +4,7 @@
 #include "graphics3d/canvas/irenderercanvas.h"
 #include "graphics3d/parts/markingsetups.h"
 #include "renderer/canvas/sceneview.h"
+#include "renderer/frame/renderstyle.h"
 #include "renderer/frame/view.h"
 #include "renderer/gl/eglcontext.h"
 #include "renderer/upload/uploadcounts.h"
@@ -82,6 +83,10 @@ public:
     vxgraphics3d::MarkingSetups::MarkingMode getMarkingMode() const { return m_markingMode; }
     /// @throws std::out_of_range if there is no such mode
     void setMarkingMode(vxgraphics3d::MarkingSetups::MarkingMode mode);
+    const RenderStyle& getStyle() const { return m_style; }
+    /// Sets how the view and its exports are shaded from the next picture on.
+    /// @throws std::invalid_argument if a number is out of its range; the style then stays
+    void setStyle(const RenderStyle& style);
     /// Draws an overlay over the scene, in the coordinates of the scene, or none for null. Shapes are drawn through
     /// everything in front of them. With logarithmic axes the coordinates are logarithms.
     void setOverlay(boost::shared_ptr<vxgraphics3d::Overlay> overlay) { m_overlay = std::move(overlay); }
@@ -108,7 +113,7 @@ public:
     /// @throws std::invalid_argument if it is another one
     /// @throws std::logic_error if nothing was drawn since the canvas was made or resized
     void readImage(std::uint8_t* pixels, std::size_t numBytes) const;
-    /// The picture drawn last as the bytes of a PNG file.
+    /// The picture drawn last as the bytes of a PNG file, with the resolution of the screen.
     /// @throws std::logic_error if nothing was drawn since the canvas was made or resized
     std::vector<std::uint8_t> encodePng() const;
 
@@ -142,6 +147,8 @@ private:
     Appearance appearance() const;
     /// Whether the 3D camera shows the scene as `zoomExtents` leaves it.
     bool isFitted(const vxgraphics3d::Camera3d& camera) const;
+    /// Adds what the canvas itself holds.
+    void completeAppearance(Appearance& look) const;
     void dropDisposedScene();
     int wantedSamples() const;
     void requireImage() const;
@@ -169,6 +176,7 @@ private:
     /// The mode of the last picture, by which a mode that does not exist is reported once.
     int m_lastRenderMode = 0;
     vxgraphics3d::MarkingSetups::MarkingMode m_markingMode = vxgraphics3d::MarkingSetups::MarkingMode0;
+    RenderStyle m_style;
 };
 
 } // namespace vxrenderer

@@ -10,6 +10,7 @@
 
 namespace vxrenderer {
 
+struct Appearance;
 struct Frame;
 class LinePainter;
 class OverlayPainter;
@@ -65,28 +66,26 @@ public:
 
     /// What lies behind the data. The viewport is the area of the scene.
     void drawBehind(const LinePainter& painter) const;
-    /// A trace of the grid over the data of a flat view, which would hide it completely. The viewport is the area of
-    /// the scene.
+    /// A trace of the grid over the faces of a flat view, which would hide it completely, where depths of them are
+    /// nearer. It needs a copy of the scene. The viewport is the area of the scene.
     void drawOver(const LinePainter& painter) const;
     /// What lies around the data. The viewport is the whole picture.
     void drawAround(const LinePainter& painter) const;
     void drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const;
 
 private:
-    void drawInArea(const LinePainter& painter, const vxgraphics3d::Color& color) const;
+    vxgraphics3d::Matrixf toClip() const;
     void takeGridBox(GridBoxLayout layout, bool isGridShown);
     void layOutAxes2d(const Frame& frame, const PixelArea& enclosed, const View& view, const AxisFonts& fonts);
 
     int m_width;
     int m_height;
     View m_view;
-    /// Widths of lines follow the scale of the picture.
-    float m_scale;
+    /// Follows the scale of the picture.
+    float m_lineWidth;
+    const Appearance& m_appearance;
     vxgraphics3d::Color m_gridColor;
     vxgraphics3d::Color m_labelColor;
-    /// Drawn around labels that may lie on the data.
-    vxgraphics3d::Color m_haloColor;
-    bool m_hasHalo;
     /// In world coordinates of a 3D view, in pixels of a 2D one.
     std::vector<AxisLine> m_behind;
     /// In pixels.

@@ -17,7 +17,8 @@ GLint limit(GLenum name)
 
 void requireSize(int width, int height)
 {
-    const int largest = std::min(limit(GL_MAX_RENDERBUFFER_SIZE), limit(GL_MAX_VIEWPORT_DIMS));
+    const int largest =
+        std::min({limit(GL_MAX_RENDERBUFFER_SIZE), limit(GL_MAX_VIEWPORT_DIMS), limit(GL_MAX_TEXTURE_SIZE)});
     const std::string size = std::to_string(width) + " by " + std::to_string(height);
     if (width < 1 || height < 1) {
         throw std::invalid_argument("A picture needs at least one pixel in each direction, not " + size + ".");
@@ -43,17 +44,42 @@ void attach(const GlRenderbuffer& buffer, GLenum point, GLenum format, int sampl
     glFramebufferRenderbuffer(GL_FRAMEBUFFER, point, GL_RENDERBUFFER, buffer.name());
 }
 
+/// Makes depths and stencil a texture, so that shaders can read them. The number of samples must be that of the
+/// colours, for which drivers may take more than was asked for.
+void attachDepths(const GlTexture& texture, int samples, int width, int height)
+{
+    const GLenum kind = samples > 1 ? GL_TEXTURE_2D_MULTISAMPLE : GL_TEXTURE_2D;
+    glActiveTexture(GL_TEXTURE0);
+    glBindTexture(kind, texture.name());
+    if (samples > 1) {
+        glTexImage2DMultisample(kind, samples, GL_DEPTH24_STENCIL8, width, height, GL_TRUE);
+    } else {
+        glTexImage2D(kind, 0, GL_DEPTH24_STENCIL8, width, height, 0, GL_DEPTH_STENCIL, GL_UNSIGNED_INT_24_8, nullptr);
+        glTexParameteri(kind, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+        glTexParameteri(kind, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    }
+    glBindTexture(kind, 0);
+    glFramebufferTexture(GL_FRAMEBUFFER, GL_DEPTH_STENCIL_ATTACHMENT, texture.name(), 0);
+}
+
 } // namespace
 
 Target::Target(int width, int height, int samples) : m_width(width), m_height(height), m_samples(1)
 {
     requireSize(width, height);
-    m_samples = std::clamp(samples, 1, std::max(1, limit(GL_MAX_SAMPLES)));
+    m_samples =
+        std::clamp(samples, 1, std::max(1, std::min(limit(GL_MAX_SAMPLES), limit(GL_MAX_DEPTH_TEXTURE_SAMPLES))));
 
     glBindFramebuffer(GL_FRAMEBUFFER, m_scene.name());
     attach(m_sceneColor, GL_COLOR_ATTACHMENT0, GL_RGBA8, m_samples, width, height);
-    attach(m_sceneDepth, GL_DEPTH_STENCIL_ATTACHMENT, GL_DEPTH24_STENCIL8, m_samples, width, height);
+    GLint samplesOfColors = 0;
+    glGetRenderbufferParameteriv(GL_RENDERBUFFER, GL_RENDERBUFFER_SAMPLES, &samplesOfColors);
+    attachDepths(m_sceneDepth, samplesOfColors, width, height);
     requireComplete("scene buffer");
+
+    glBindFramebuffer(GL_FRAMEBUFFER, m_sceneColors.name());
+    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, m_sceneColor.name());
+    requireComplete("colours of the scene buffer");
 
     glBindFramebuffer(GL_FRAMEBUFFER, m_plain.name());
     attach(m_plainColor, GL_COLOR_ATTACHMENT0, GL_RGBA8, 1, width, height);
@@ -66,6 +92,11 @@ Target::Target(int width, int height, int samples) : m_width(width), m_height(he
 void Target::bindScene() const
 {
     glBindFramebuffer(GL_FRAMEBUFFER, m_scene.name());
+}
+
+void Target::bindSceneColors() const
+{
+    glBindFramebuffer(GL_FRAMEBUFFER, m_sceneColors.name());
 }
 
 void Target::beginScene() const

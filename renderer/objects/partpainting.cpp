@@ -194,8 +194,7 @@ void PartPainting::drawLabels(const Parts& parts, bool isBeside) const
             m_context.drawLabel({.point = part.getLabel()->getPosition(),
                                  .text = part.getLabel()->getText(),
                                  .color = marking.getLabelColor(),
-                                 .isBeside = isBeside,
-                                 .hasHalo = true});
+                                 .isBeside = isBeside});
         }
     }
 }
@@ -239,7 +238,7 @@ void PartPainting::drawSheets(const SheetCollection& sheets, int changeId, const
             const float density = image->getScale() > 0.0f ? image->getScale() : 1.0f;
             rows.imagePlace = {corner.x, corner.y, corner.z, density * c_imagesPerObject / longest};
         }
-        m_context.drawMesh(mesh, {table, rows, ranges, isTextured}, m_look);
+        m_context.drawBody(mesh, {table, rows, ranges, isTextured}, m_look);
     }
 }
 

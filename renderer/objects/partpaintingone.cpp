@@ -76,7 +76,7 @@ void PartPainting::drawSheet(const Sheet& sheet) const
     const auto draw = [&](const MeshPart& part, MarkingType row) {
         Mesh mesh;
         mesh.load({&part, 1});
-        m_context.drawMesh(&mesh, {RowTable(row).get(), faceRows(), {&all, 1}}, m_look);
+        m_context.drawBody(&mesh, {RowTable(row).get(), faceRows(), {&all, 1}}, m_look);
     };
     draw({sheet.getVertices(), sheet.getTriangles()}, rowOf(sheet));
     if (sheet.isMarked(MarkMeshed)) {

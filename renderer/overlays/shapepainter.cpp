@@ -109,7 +109,8 @@ private:
                                   m_context.view.area.height,
                                   width * m_context.appearance.scale,
                                   {},
-                                  true},
+                                  true,
+                                  m_context.view.isFlat},
                                  color);
         }
     }
@@ -212,7 +213,6 @@ private:
             label.color = m_outlineColor;
             label.isHideable = false;
             label.isBeside = true;
-            label.hasHalo = true;
             m_context.labels.push_back(std::move(label));
         }
     }

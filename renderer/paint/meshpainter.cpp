@@ -3,6 +3,7 @@
 #include "graphics3d/foundation/matrixf.h"
 #include "renderer/frame/lighting.h"
 #include "renderer/frame/view.h"
+#include "renderer/paint/ambientocclusion.h"
 #include "renderer/upload/mesh.h"
 #include "renderer/upload/parttable.h"
 #include "renderer/upload/spherebuffer.h"
@@ -77,11 +78,12 @@ MeshShader lightShaderOf(const View& view, const Lighting& light)
 /// those whose middle is not in view.
 constexpr float c_largestPoint = 6.0f;
 
-/// Draws opaque faces at once, translucent ones in two steps: those that face away, then those that face the eye.
+/// Draws opaque faces and those of layers at once, others in two steps: those that face away, then those that face the
+/// eye.
 template <class Draw>
-void drawFaces(bool isTranslucent, Draw&& draw)
+void drawFaces(const Material& material, FragmentOutput output, Draw&& draw)
 {
-    if (isTranslucent) {
+    if (material.isTranslucent() && output == FragmentOutput::picture) {
         glEnable(GL_CULL_FACE);
         for (const GLenum culled : {GLenum{GL_FRONT}, GLenum{GL_BACK}}) {
             glCullFace(culled);
@@ -135,14 +137,46 @@ void MeshPainter::begin(const View& view, const Lighting& light)
 {
     GLint numSamples = 0;
     glGetIntegerv(GL_SAMPLES, &numSamples);
+    m_numSamples = std::max(numSamples, 1);
+    m_samples.set(SampledEdges::of(numSamples));
     m_isFlat = view.isFlat;
     m_pixelSize = view.pixelSize();
     m_wRow = {view.projection.get(4, 1), view.projection.get(4, 2), view.projection.get(4, 3),
               view.projection.get(4, 4)};
     m_view.set({elementsOf(view.projection), roundingOf(view.area), view.isPerspective ? 1 : 0, view.isFlat ? 1 : 0,
-                view.pixelSize(), std::max(numSamples, 1)});
+                view.pixelSize(), m_numSamples});
     m_light.set({light.ambient, light.places, light.diffuse, light.specular, light.cones});
     m_lightShader = lightShaderOf(view, light);
+}
+
+void MeshPainter::beginStudio(const View& view, const Lighting& scene, const AmbientOcclusion* occlusion)
+{
+    StudioLight studio = StudioLight::of(scene);
+    Lighting lamps = scene;
+    for (Lighting::Vec4& light : lamps.diffuse) {
+        std::ranges::transform(light, light.begin(), [&](float channel) { return studio.lamps * channel; });
+    }
+    begin(view, lamps);
+    m_lightShader.isStudio = m_lightShader.isLit;
+    m_lightShader.hasOcclusion = m_lightShader.isLit && occlusion != nullptr;
+    if (m_lightShader.hasOcclusion) {
+        GLint viewport[4];
+        glGetIntegerv(GL_VIEWPORT, viewport);
+        const auto part = [](int texels, GLint pixels) {
+            return static_cast<float>(texels) / static_cast<float>(pixels);
+        };
+        studio.occlusionArea = {static_cast<float>(viewport[0]), static_cast<float>(viewport[1]),
+                                part(occlusion->getWidth(), viewport[2]), part(occlusion->getHeight(), viewport[3])};
+    }
+    studio.pixelSize = {view.pixelSize(), view.projection.get(4, 3), view.projection.get(4, 4), 0.0f};
+    m_studio.set(studio);
+}
+
+void MeshPainter::beginShapes(const View& view)
+{
+    begin(view, Lighting());
+    m_lightShader.isLit = true;
+    m_lightShader.isShape = true;
 }
 
 const GlProgram& MeshPainter::program(const MeshShader& shader)
@@ -155,6 +189,16 @@ const GlProgram& MeshPainter::program(const MeshShader& shader)
         m_light.attach(known->second);
         m_model.attach(known->second);
         m_material.attach(known->second);
+        if (shader.isStudio) {
+            m_studio.attach(known->second);
+            known->second.setSampler("occlusion", AmbientOcclusion::c_unit);
+        }
+        if (shader.numSamples > 1) {
+            m_samples.attach(known->second);
+        }
+        if (shader.output == FragmentOutput::layers) {
+            attachLayers(known->second);
+        }
         if (shader.hasParts) {
             m_rows.attach(known->second);
             PartRows::attachTextures(known->second);
@@ -172,6 +216,10 @@ void MeshPainter::setUp(const Mesh& mesh, MeshShader shader, const Matrixf& toEy
 void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& material, float radiusScale)
 {
     shader.isRestricted = material.isRestricted();
+    // What is blended is not among the surfaces that hide light from each other.
+    shader.hasOcclusion = shader.hasOcclusion && !material.isTranslucent();
+    shader.output = m_output;
+    takeEdges(shader, material);
     program(shader).use();
     m_model.set({elementsOf(toEye), elementsOf(normalMatrixOf(toEye)), radiusScale});
     m_material.set(material);
@@ -182,7 +230,7 @@ void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& m
 void MeshPainter::draw(const Mesh& mesh, const Matrixf& toEye, const Material& material)
 {
     setUp(mesh, m_lightShader, toEye, material);
-    drawFaces(material.isTranslucent(), [&] { mesh.draw(); });
+    drawFaces(material, m_output, [&] { mesh.draw(); });
 }
 
 void MeshPainter::draw(const Mesh& mesh, const InstanceBuffer& instances, const Matrixf& toEye,
@@ -191,7 +239,7 @@ void MeshPainter::draw(const Mesh& mesh, const InstanceBuffer& instances, const 
     MeshShader shader = m_lightShader;
     shader.isInstanced = true;
     setUp(mesh, shader, toEye, material);
-    drawFaces(material.isTranslucent(), [&] { mesh.draw(instances); });
+    drawFaces(material, m_output, [&] { mesh.draw(instances); });
 }
 
 void MeshPainter::draw(const Mesh& mesh, const PartLook& parts, const Matrixf& toEye, const Material& material)
@@ -202,7 +250,18 @@ void MeshPainter::draw(const Mesh& mesh, const PartLook& parts, const Matrixf& t
     setUp(mesh, shader, toEye, material);
     m_rows.set(parts.rows);
     parts.table.bind();
-    drawFaces(material.isTranslucent(), [&] { mesh.draw(parts.ranges); });
+    drawFaces(material, m_output, [&] { mesh.draw(parts.ranges); });
+}
+
+void MeshPainter::takeEdges(MeshShader& shader, const Material& material) const
+{
+    const bool hasSteps = material.hasTable != 0 && material.hasSteps != 0;
+    const bool hasEdges = shader.shape == MeshShader::Shape::triangles && !shader.hasParts && !shader.isShape &&
+                          (shader.isRestricted || hasSteps);
+    if (hasEdges && m_numSamples > 1 && m_numSamples <= SampledEdges::c_mostSamples) {
+        shader.numSamples = m_numSamples;
+        shader.hasSteps = hasSteps;
+    }
 }
 
 float MeshPainter::largestInPixels(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye) const

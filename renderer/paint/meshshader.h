@@ -1,5 +1,7 @@
 #pragma once
 
+#include "renderer/paint/layeroutput.h"
+
 #include <compare>
 #include <cstddef>
 #include <string>
@@ -27,6 +29,12 @@ struct MeshShader {
     /// Whether some values are hidden.
     bool isRestricted = false;
     bool isLit = false;
+    /// Whether normals are drawn instead of colours.
+    bool isShape = false;
+    /// Whether the light is that of `StudioLight`.
+    bool isStudio = false;
+    /// Whether some ambient light is hidden, see `AmbientOcclusion`.
+    bool hasOcclusion = false;
     /// Whether some vertices have no normal, so that the slope of the triangle is used instead.
     bool lacksNormals = false;
     std::size_t numLights = 0;
@@ -36,6 +44,12 @@ struct MeshShader {
     bool hasCones = false;
     /// Whether a light is mirrored.
     bool hasHighlights = false;
+    /// Samples of a pixel of which some may be hidden, or have another colour of a table that jumps; 1 for none.
+    int numSamples = 1;
+    /// Whether the colours are those of a table that jumps.
+    bool hasSteps = false;
+    /// Where the colours go.
+    FragmentOutput output = FragmentOutput::picture;
 
     auto operator<=>(const MeshShader&) const = default;
 
@@ -45,7 +59,9 @@ struct MeshShader {
 
 private:
     std::string shapeConstants() const;
+    std::string lightSource() const;
     std::string mainOfFragments() const;
+    std::string sampledSource() const;
 };
 
 } // namespace vxrenderer

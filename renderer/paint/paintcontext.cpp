@@ -4,6 +4,7 @@
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/symbolpainter.h"
+#include "renderer/upload/mesh.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,34 +20,60 @@ Material faded(Material material, float opacity)
 
 } // namespace
 
+bool PaintContext::isDrawn(DrawKind kind, bool isTranslucent) const
+{
+    if ((kinds & kind) == 0) {
+        return false;
+    }
+    if (pass == Pass::opaque && isTranslucent && isSomethingLeft != nullptr) {
+        *isSomethingLeft = true;
+    }
+    return pass == Pass::all || isTranslucent == (pass == Pass::translucent);
+}
+
 void PaintContext::drawMesh(const Mesh* mesh, const Look& look) const
 {
-    if (mesh != nullptr) {
-        meshes.draw(*mesh, look.toEye, faded(look.material, opacity));
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && isDrawn(DrawFaces, material.isTranslucent())) {
+        meshes.draw(*mesh, look.toEye, material);
+    }
+}
+
+void PaintContext::drawBody(const Mesh* mesh, const Look& look) const
+{
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && isDrawn(DrawBodies, material.isTranslucent())) {
+        meshes.draw(*mesh, look.toEye, material);
+    }
+    if (showFeatureEdges && mesh != nullptr && mesh->getFeatureEdges() != nullptr) {
+        drawLines(mesh->getFeatureEdges(), {look.toEye, look.material.inColor(c_edgeColor)}, c_edgeWidth);
     }
 }
 
 void PaintContext::drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const
 {
-    if (mesh != nullptr && instances != nullptr) {
-        meshes.draw(*mesh, *instances, look.toEye, faded(look.material, opacity));
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && instances != nullptr && isDrawn(DrawMarks, material.isTranslucent())) {
+        meshes.draw(*mesh, *instances, look.toEye, material);
     }
 }
 
 void PaintContext::drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const
 {
-    if (spheres != nullptr) {
-        meshes.draw(*spheres, radiusScale, look.toEye, faded(look.material, opacity));
+    const Material material = faded(look.material, opacity);
+    if (spheres != nullptr && isDrawn(DrawMarks, material.isTranslucent())) {
+        meshes.draw(*spheres, radiusScale, look.toEye, material);
     }
 }
 
 void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound) const
 {
-    if (mesh != nullptr) {
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         lines.draw(*mesh,
                    {view.projection * look.toEye, view.area.width, view.area.height, width * scale,
                     view.aboveFaces(width * scale), isRound},
-                   faded(look.material, opacity));
+                   material);
     }
 }
 
@@ -55,42 +82,46 @@ void PaintContext::drawSegments(std::span<const LineSegment> segments, const vxg
 {
     vxgraphics3d::Color faint = color;
     faint.alpha = static_cast<int>(std::lround(255.0f * opacity));
-    lines.draw(segments,
-               {toClip, view.area.width, view.area.height, width * scale,
-                view.aboveFaces(std::max(width, 1.1f * over) * scale)},
-               faint);
+    if (isDrawn(DrawLines, faint.alpha < 255)) {
+        lines.draw(segments,
+                   {toClip, view.area.width, view.area.height, width * scale,
+                    view.aboveFaces(std::max(width, 1.1f * over) * scale)},
+                   faint);
+    }
 }
 
 void PaintContext::drawSymbols(const InstanceBuffer* positions, const Look& look, RenderSymbol symbol, float size) const
 {
-    if (positions != nullptr) {
+    const Material material = faded(look.material, opacity);
+    if (positions != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         symbols.draw(*positions, {view.projection * look.toEye, view.area.width, view.area.height, symbol, size * scale,
-                                  faded(look.material, opacity).color, view.aboveFaces(size * scale)});
+                                  material.color, view.aboveFaces(size * scale)});
     }
 }
 
-void PaintContext::drawMesh(const Mesh* mesh, const PartLook& parts, const Look& look) const
+void PaintContext::drawBody(const Mesh* mesh, const PartLook& parts, const Look& look) const
 {
-    if (mesh != nullptr) {
-        meshes.draw(*mesh, parts, look.toEye, faded(look.material, opacity));
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && isDrawn(DrawBodies, material.isTranslucent())) {
+        meshes.draw(*mesh, parts, look.toEye, material);
     }
 }
 
 void PaintContext::drawLines(const LineMesh* mesh, const PartLook& parts, const Look& look) const
 {
-    if (mesh != nullptr) {
-        lines.draw(*mesh, parts, {view.projection * look.toEye, view.area.width, view.area.height, 1.0f},
-                   faded(look.material, opacity));
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
+        lines.draw(*mesh, parts, {view.projection * look.toEye, view.area.width, view.area.height, 1.0f}, material);
     }
 }
 
 void PaintContext::drawSymbols(const InstanceBuffer* positions, const PartLook& parts, RenderSymbol symbol,
                                const Look& look) const
 {
-    if (positions != nullptr) {
+    const Material material = faded(look.material, opacity);
+    if (positions != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         symbols.draw(*positions, parts,
-                     {view.projection * look.toEye, view.area.width, view.area.height, symbol, 1.0f,
-                      faded(look.material, opacity).color});
+                     {view.projection * look.toEye, view.area.width, view.area.height, symbol, 1.0f, material.color});
     }
 }
 

@@ -16,6 +16,7 @@
 #include "renderer/axes/dataframe.h"
 #include "renderer/decoration/lightmarkers.h"
 #include "renderer/decoration/triadpainter.h"
+#include "renderer/frame/contrast.h"
 #include "renderer/frame/lighting.h"
 #include "renderer/frame/seenextent.h"
 #include "renderer/gl/target.h"
@@ -27,6 +28,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <functional>
+#include <numbers>
 #include <optional>
 #include <utility>
 
@@ -38,8 +41,11 @@ using namespace vxgraphics3d;
 /// Widths of the lines of light markers, in pixels of the screen.
 constexpr float c_markerWidth = 1.5f;
 constexpr float c_selectedMarkerWidth = 3.5f;
+constexpr int c_markerRimAlpha = 110;
 /// Number of font sets kept before those of former sizes are given up.
 constexpr std::size_t c_manyFontSets = 24;
+/// Within which surfaces hide ambient light from each other, for each unit of the diagonal of the scene.
+constexpr float c_occlusionRadius = 0.06f;
 
 /// Whether what is drawn covers what is there by its alpha, or replaces it.
 void setBlending(bool on)
@@ -71,6 +77,20 @@ bool hasFrameOfData(const Frame& frame)
     return frame.isFlat() && frame.appearance.showAxes && frame.overlay == nullptr &&
            frame.camera2d().getCameraMode() == Camera2d::ModeOrdinary && frame.camera2d().isPreserveAspectRatio() &&
            !frame.canvas.getAxisSetupPtr()->isPolar();
+}
+
+Lighting lightOf(const Frame& frame)
+{
+    return Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera);
+}
+
+/// The diagonal of a box as the eye sees it.
+float diagonalOf(const BoundingBox& box, const Matrixf& toEye)
+{
+    const Vector3f size = box.getMax() - box.getMin();
+    const auto along = [&](int axis) { return Vector3f(toEye.get(1, axis), toEye.get(2, axis), toEye.get(3, axis)); };
+    return std::sqrt(size.x * size.x * along(1).lengthSquared() + size.y * size.y * along(2).lengthSquared() +
+                     size.z * size.z * along(3).lengthSquared());
 }
 
 } // namespace
@@ -139,7 +159,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     }
 }
 
-void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes)
+void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes,
+                              const Target& target)
 {
     const PixelArea& area = m_view.area;
     const int bottom = layout.height - area.y - area.height;
@@ -153,16 +174,14 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     }
     std::vector<SceneIcon> icons;
     std::vector<SceneLabel> labels;
-    drawData(frame, layout, icons, labels);
+    std::function<void()> trace;
+    if (axes != nullptr && hasPlotsBesidesGraphs(layout.items)) {
+        trace = [&] { drawTrace(*axes, layout); };
+    }
+    drawData(frame, layout, target, trace, icons, labels);
     if (!frame.isFlat() || axes == nullptr) {
         drawCutFrame(m_view, layout.width, layout.height, frame.appearance.scale,
                      frame.canvas.getGridBoxSettingsPtr()->getGridColor(), m_lines);
-    }
-    // Lines of graphs and the geometry of objects are not to be crossed by the grid.
-    if (axes != nullptr && hasPlotsBesidesGraphs(layout.items)) {
-        setBlending(true);
-        axes->drawOver(m_lines);
-        setBlending(false);
     }
     glDisable(GL_SCISSOR_TEST);
     glViewport(0, 0, layout.width, layout.height);
@@ -170,15 +189,88 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay);
 }
 
-void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
+void SceneRenderer::beginMeshes(const Frame& frame, const View& view, bool hasOcclusion)
+{
+    const Lighting light = lightOf(frame);
+    if (frame.appearance.style.isStudio) {
+        m_meshes.beginStudio(view, light, hasOcclusion ? m_occlusion.get() : nullptr);
+    } else {
+        m_meshes.begin(view, light);
+    }
+}
+
+bool SceneRenderer::findOcclusion(const Frame& frame, const FrameLayout& layout,
+                                  const std::vector<const SceneItem*>& items, const Target& target,
+                                  const PaintContext& context)
+{
+    if (!frame.appearance.style.isStudio || m_view.isFlat || !lightOf(frame).isUsed || items.empty() ||
+        frame.appearance.opacity < 1.0f || !layout.box.isValid()) {
+        return false;
+    }
+    GLint viewport[4];
+    glGetIntegerv(GL_VIEWPORT, viewport);
+    if (!m_occlusion) {
+        m_occlusion = std::make_unique<AmbientOcclusion>();
+    }
+    const View view = m_occlusion->beginShapes(m_view);
+    m_meshes.beginShapes(view);
+    const PaintContext shapes = context.in(view, DrawBodies | DrawFaces | DrawMarks, Pass::opaque);
+    for (const SceneItem* item : items) {
+        drawItem(*item, shapes);
+    }
+    m_occlusion->finish(c_occlusionRadius * diagonalOf(layout.box, m_view.sceneToEye));
+    target.bindScene();
+    glViewport(viewport[0], viewport[1], viewport[2], viewport[3]);
+    glEnable(GL_SCISSOR_TEST);
+    return true;
+}
+
+void SceneRenderer::drawTrace(const AxesPainter& axes, const FrameLayout& layout)
+{
+    m_sceneCopy.take(layout.width, layout.height);
+    glDepthMask(GL_FALSE);
+    glDepthFunc(GL_GREATER);
+    axes.drawOver(m_lines);
+    glDepthFunc(GL_LEQUAL);
+    glDepthMask(GL_TRUE);
+}
+
+void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
+                             const std::function<void()>& trace, std::vector<SceneIcon>& icons,
                              std::vector<SceneLabel>& labels)
 {
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
-    m_meshes.begin(m_view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
-    drawItems(layout.items, frame.canvas.getRenderMask(),
-              {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance),
-               m_uploads, m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
+    std::vector<const SceneItem*> shown;
+    for (const SceneItem& item : layout.items) {
+        const unsigned bit = std::holds_alternative<PlotItem>(item) ? RenderPlots : RenderObjects;
+        if ((frame.canvas.getRenderMask() & bit) != 0 && frame.appearance.opacity > 0.0f) {
+            shown.push_back(&item);
+        }
+    }
+    const RenderStyle& style = frame.appearance.style;
+    m_uploads.setCreaseAngle(style.creaseAngle * std::numbers::pi_v<float> / 180.0f);
+    const PaintContext context = {m_view,
+                                  frame.appearance.opacity,
+                                  frame.appearance.scale,
+                                  style.showFeatureEdges && !m_view.isFlat,
+                                  frame.logAxes(),
+                                  styleOf(frame.appearance),
+                                  m_uploads,
+                                  m_colorTextures,
+                                  m_images,
+                                  m_meshes,
+                                  m_lines,
+                                  m_symbols,
+                                  icons,
+                                  labels};
+    m_hasOcclusion = findOcclusion(frame, layout, shown, target, context);
+    beginMeshes(frame, m_view, m_hasOcclusion);
+    if (m_view.isFlat) {
+        drawFlat(std::move(shown), trace, context);
+    } else {
+        drawInSpace(shown, frame, target, context);
+    }
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
     }
@@ -210,31 +302,75 @@ bool SceneRenderer::isTranslucent(const SceneItem& item) const
            });
 }
 
-void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned renderMask,
-                              const PaintContext& context) const
+void SceneRenderer::drawFlat(std::vector<const SceneItem*> items, const std::function<void()>& trace,
+                             const PaintContext& context) const
 {
-    std::vector<const SceneItem*> shown;
-    for (const SceneItem& item : items) {
-        const unsigned bit = std::holds_alternative<PlotItem>(item) ? RenderPlots : RenderObjects;
-        if ((renderMask & bit) != 0) {
-            shown.push_back(&item);
-        }
-    }
     const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
-    const auto firstTranslucent = std::stable_partition(shown.begin(), shown.end(), isOpaque);
-    const auto draw = [&](const SceneItem* item) { drawItem(*item, context); };
-    std::for_each(shown.begin(), firstTranslucent, draw);
-    if (firstTranslucent != shown.end() && context.opacity > 0.0f) {
-        // What lies farther off comes first, by the middles of the items.
-        const auto depthOf = [&](const SceneItem* item) { return (context.view.sceneToEye * centerOf(*item)).z; };
-        std::stable_sort(firstTranslucent, shown.end(),
-                         [&](const SceneItem* one, const SceneItem* other) { return depthOf(one) < depthOf(other); });
+    const auto firstTranslucent = std::stable_partition(items.begin(), items.end(), isOpaque);
+    const auto drawOpaque = [&](unsigned kinds, auto&& isWanted) {
+        const PaintContext some = context.in(context.view, kinds, Pass::all);
+        std::for_each(items.begin(), firstTranslucent, [&](const SceneItem* item) {
+            if (isWanted(*item)) {
+                drawItem(*item, some);
+            }
+        });
+    };
+    const auto isPlot = [](const SceneItem& item) { return std::holds_alternative<PlotItem>(item); };
+    drawOpaque(DrawBodies | DrawFaces, isPlot);
+    if (trace) {
+        trace();
+    }
+    drawOpaque(DrawBodies | DrawFaces, std::not_fn(isPlot));
+    for (const DrawKind kind : {DrawMarks, DrawLines}) {
+        drawOpaque(kind, [](const SceneItem&) { return true; });
+    }
+    if (firstTranslucent != items.end()) {
+        const auto draw = [&](const SceneItem* item) { drawItem(*item, context); };
         setBlending(true);
         glDepthMask(GL_FALSE);
-        std::for_each(firstTranslucent, shown.end(), draw);
+        std::for_each(firstTranslucent, items.end(), draw);
         glDepthMask(GL_TRUE);
         setBlending(false);
     }
+}
+
+void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
+                                const PaintContext& context)
+{
+    std::vector<const SceneItem*> translucent;
+    for (const DrawKind kind : {DrawBodies, DrawFaces, DrawMarks, DrawLines}) {
+        PaintContext opaque = context.in(m_view, kind, Pass::opaque);
+        for (const SceneItem* item : items) {
+            bool isSomethingLeft = false;
+            opaque.isSomethingLeft = &isSomethingLeft;
+            drawItem(*item, opaque);
+            if (isSomethingLeft && std::ranges::find(translucent, item) == translucent.end()) {
+                translucent.push_back(item);
+            }
+        }
+        if (kind == DrawBodies && context.showFeatureEdges && !items.empty()) {
+            m_silhouettes.draw(target, m_view, PaintContext::c_edgeWidth * context.scale, PaintContext::c_edgeColor);
+        }
+    }
+    if (translucent.empty()) {
+        m_transparency.release();
+        return;
+    }
+    const auto setOutput = [this](FragmentOutput output) {
+        m_meshes.setOutput(output);
+        m_lines.setOutput(output);
+        m_symbols.setOutput(output);
+    };
+    setOutput(FragmentOutput::layers);
+    const int numLayers = frame.isDraft ? 0 : Transparency::c_fullLayers;
+    m_transparency.draw(target, m_view, numLayers, [&](const View& view) {
+        beginMeshes(frame, view, false);
+        const PaintContext layers = context.in(view, DrawAll, Pass::translucent);
+        for (const SceneItem* item : translucent) {
+            drawItem(*item, layers);
+        }
+    });
+    setOutput(FragmentOutput::picture);
 }
 
 void SceneRenderer::drawLightMarkers(const Frame& frame)
@@ -242,9 +378,18 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
     const BoundingBox& box = frame.scene->getBoundingBox();
     for (const LightMarker& marker : lightMarkers(*frame.scene->getSceneLight(), box, frame.camera)) {
         const float width = (marker.isSelected ? c_selectedMarkerWidth : c_markerWidth) * frame.appearance.scale;
-        m_lines.draw(marker.lines,
-                     {m_view.projection, m_view.area.width, m_view.area.height, width, m_view.aboveFaces(width)},
-                     marker.color);
+        m_solids.draw(marker.solids, m_view.projection);
+        // A rim lets them be seen on data of any colour.
+        Color rim = contrastingWith(marker.color);
+        rim.alpha = c_markerRimAlpha;
+        const float rimWidth = width + 2.0f * frame.appearance.scale;
+        const auto draw = [&](float lineWidth, float above, const Color& color) {
+            m_lines.draw(
+                marker.lines,
+                {m_view.projection, m_view.area.width, m_view.area.height, lineWidth, m_view.aboveFaces(above)}, color);
+        };
+        draw(rimWidth, rimWidth, rim);
+        draw(width, 1.2f * rimWidth, marker.color);
     }
 }
 
@@ -283,7 +428,8 @@ void SceneRenderer::drawOverlay(const Overlay& overlay, const BoundingBox& frame
 void SceneRenderer::drawDecoration(const FrameLayout& layout)
 {
     m_overlay.begin(layout.width, layout.height);
-    m_overlay.drawText(layout.title, layout.titleFonts, layout.titleLeft, layout.titleTop, layout.legendStyle.color);
+    m_overlay.drawText(layout.title, layout.titleFonts, layout.titleLeft, layout.titleTop,
+                       layout.legendStyle.textColors());
 
     float headHeight = 0.0f;
     for (const auto& legend : layout.legends) {
@@ -325,16 +471,16 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
                          layout.height, layout.axisFonts);
         }
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
-            triad.emplace(frame, m_view);
+            triad.emplace(frame, m_view, layout.orientationFonts);
         }
-        drawScene(frame, layout, axes ? &*axes : nullptr);
+        drawScene(frame, layout, axes ? &*axes : nullptr, target);
     }
     setBlending(true);
     if (axes) {
         axes->drawAround(m_lines);
     }
     if (triad) {
-        triad->drawAxes(m_lines, layout.width, layout.height);
+        triad->drawAxes(m_solids, layout.width, layout.height);
     }
     setBlending(false);
     drawOverlays(frame, layout);
@@ -344,7 +490,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         axes->drawLabels(m_overlay, layout.axisFonts);
     }
     if (triad) {
-        triad->drawLetters(m_overlay, layout.orientationFonts);
+        triad->drawLetters(m_overlay);
     }
     dropUnused();
 }
@@ -370,13 +516,12 @@ void SceneRenderer::keepShown(PickedObjectCollection& picked, const Frame& frame
         target.bindScene();
         glViewport(area.x, target.getHeight() - area.y - area.height, area.width, area.height);
         // With the light of the picture, since that decides about the shaders, and so about the last bits of depths.
-        m_meshes.begin(view,
-                       Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
+        beginMeshes(frame, view, m_hasOcclusion);
         std::vector<SceneIcon> icons;
         std::vector<SceneLabel> labels;
         shown = findShown(results, objects,
-                          {view, 1.0f, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance), m_uploads,
-                           m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
+                          {view, 1.0f, frame.appearance.scale, false, frame.logAxes(), styleOf(frame.appearance),
+                           m_uploads, m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
     }
     picked.reset();
     for (std::size_t i = 0; i < results.size(); ++i) {

@@ -3,13 +3,18 @@
 #include "graphics3d/foundation/lastchangeid.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/view.h"
+#include "renderer/gl/scenecopy.h"
 #include "renderer/objects/objectpainter.h"
 #include "renderer/overlays/shapepainter.h"
+#include "renderer/paint/ambientocclusion.h"
 #include "renderer/paint/backgroundpainter.h"
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/silhouettepainter.h"
+#include "renderer/paint/solidpainter.h"
 #include "renderer/paint/symbolpainter.h"
+#include "renderer/paint/transparency.h"
 #include "renderer/plots/plotpainter.h"
 #include "renderer/scene/framelayout.h"
 #include "renderer/text/fontsets.h"
@@ -20,6 +25,8 @@
 
 #include <boost/weak_ptr.hpp>
 
+#include <functional>
+#include <memory>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -63,14 +70,29 @@ public:
 
 private:
     void updateTitle(const vxgraphics3d::Scene& scene);
-    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes);
+    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes, const Target& target);
     /// @param icons,labels receive those that are to be drawn over the scene
-    void drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
-                  std::vector<SceneLabel>& labels);
+    void drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
+                  const std::function<void()>& trace, std::vector<SceneIcon>& icons, std::vector<SceneLabel>& labels);
+    void drawTrace(const AxesPainter& axes, const FrameLayout& layout);
+    /// Lets faces be drawn in a view, in the light of the frame.
+    /// @param hasOcclusion whether it has been found for the view
+    void beginMeshes(const Frame& frame, const View& view, bool hasOcclusion);
+    /// Finds the occlusion of what is opaque if the frame has studio light.
+    /// @return whether there is any
+    bool findOcclusion(const Frame& frame, const FrameLayout& layout, const std::vector<const SceneItem*>& items,
+                       const Target& target, const PaintContext& context);
     void drawItem(const SceneItem& item, const PaintContext& context) const;
     /// Whether an item is blended in every picture.
     bool isTranslucent(const SceneItem& item) const;
-    void drawItems(const std::vector<SceneItem>& items, unsigned renderMask, const PaintContext& context) const;
+    /// Draws items without depths over each other, as in a flat view.
+    /// @param trace draws the trace of the grid over the faces of plots; may be empty
+    void drawFlat(std::vector<const SceneItem*> items, const std::function<void()>& trace,
+                  const PaintContext& context) const;
+    /// Draws what is opaque, with the silhouettes of bodies if the picture shows feature edges, and mixes what is
+    /// translucent over it.
+    void drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
+                     const PaintContext& context);
     void drawLightMarkers(const Frame& frame);
     void drawOverlays(const Frame& frame, const FrameLayout& layout);
     void drawOverlay(const vxgraphics3d::Overlay& overlay, const vxgraphics3d::BoundingBox& framedBox, const View& view,
@@ -87,10 +109,17 @@ private:
     ObjectPainters m_objectPainters;
     BackgroundPainter m_background;
     MeshPainter m_meshes;
+    /// Null until a picture needs it.
+    std::unique_ptr<AmbientOcclusion> m_occlusion;
+    bool m_hasOcclusion = false;
+    SilhouettePainter m_silhouettes;
     LinePainter m_lines;
     SymbolPainter m_symbols;
+    SolidPainter m_solids;
     ShapePainter m_shapes;
     OverlayPainter m_overlay{m_counts};
+    Transparency m_transparency;
+    SceneCopy m_sceneCopy;
     FontSets m_fontSets;
     boost::weak_ptr<const vxgraphics3d::SceneGraphNode> m_titleRoot;
     vxgraphics3d::LastChangeId m_lastTreeStructure;

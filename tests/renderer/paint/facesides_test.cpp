@@ -124,16 +124,19 @@ protected:
 
 TEST_F(FaceSidesTest, aClosedSphereLooksTheSameWithoutItsBackFaces)
 {
-    for (const auto type : {Camera3d::ProjectionOrthographic, Camera3d::ProjectionPerspective}) {
-        camera().setProjectionType(type);
-        for (const double azimuth : {11.0, 57.0, 200.0}) {
-            lookFrom(m_canvas, azimuth, 23.0);
-            const Picture whole = pictureOf(sphere());
-            const PostDataObject front = withoutBackFaces(sphere());
-            m_plot->fillPlot(front);
-            EXPECT_EQ(numDifferent(drawnAsIs(m_canvas), whole), 0) << type << ' ' << azimuth;
-            EXPECT_LT((*front.m_elements[0])[0].size(), c_cells * c_cells * 3u / 2u);
-            EXPECT_GT(whole.countDrawn(0, 0, c_size, c_size), 10000);
+    for (const bool isStudio : {false, true}) {
+        m_canvas.setStyle({.isStudio = isStudio});
+        for (const auto type : {Camera3d::ProjectionOrthographic, Camera3d::ProjectionPerspective}) {
+            camera().setProjectionType(type);
+            for (const double azimuth : {11.0, 57.0, 200.0}) {
+                lookFrom(m_canvas, azimuth, 23.0);
+                const Picture whole = pictureOf(sphere());
+                const PostDataObject front = withoutBackFaces(sphere());
+                m_plot->fillPlot(front);
+                EXPECT_EQ(numDifferent(drawnAsIs(m_canvas), whole), 0) << type << ' ' << azimuth;
+                EXPECT_LT((*front.m_elements[0])[0].size(), c_cells * c_cells * 3u / 2u);
+                EXPECT_GT(whole.countDrawn(0, 0, c_size, c_size), 10000);
+            }
         }
     }
 }
@@ -170,9 +173,10 @@ TEST_F(FaceSidesTest, neitherTheOrderOfCornersNorTheDirectionOfNormalsNorAMirror
     EXPECT_EQ(numDifferent(pictureOf(record), expected), 0);
 }
 
-// A step up within a steep fall: the normals next to it are those of the fall.
+// A step up within a steep fall: the normals next to it are those of the fall, and no crease replaces them.
 TEST_F(FaceSidesTest, aStepWhoseNormalsPointToItsOtherSideIsLitLikeWhatSurroundsIt)
 {
+    m_canvas.setStyle({.creaseAngle = RenderStyle::c_widestAngle});
     GridRecord fall = grid(8);
     fall.height = [](double x, double) { return -5.0 * x + 6.0 * std::clamp(x - 0.5, 0.0, 0.125); };
     PostDataObject record = fall.make();
