@@ -145,10 +145,10 @@ private:
     Frame frameOf(vxgraphics3d::ICameraTransforms& camera, const Appearance& appearance) const;
     const vxgraphics3d::BoundingBox* framedBox() const;
     Appearance appearance() const;
-    /// Whether the 3D camera shows the scene as `zoomExtents` leaves it.
-    bool isFitted(const vxgraphics3d::Camera3d& camera) const;
     /// Adds what the canvas itself holds.
     void completeAppearance(Appearance& look) const;
+    /// Whether the 3D camera shows the scene as `zoomExtents` leaves it.
+    bool isFitted(const vxgraphics3d::Camera3d& camera) const;
     void dropDisposedScene();
     int wantedSamples() const;
     void requireImage() const;

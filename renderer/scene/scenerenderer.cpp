@@ -65,20 +65,6 @@ ObjectStyle styleOf(const Appearance& appearance)
             appearance.showPhysicsMarkers};
 }
 
-bool isFinite(const BoundingBox& box)
-{
-    const auto isFiniteAt = [](const Vector3f& point) { return std::isfinite(point.x + point.y + point.z); };
-    return isFiniteAt(box.getCenter()) && isFiniteAt(box.getHalfSize());
-}
-
-/// Whether axes may enclose a part of the area alone. What an overlay shows has no box.
-bool hasFrameOfData(const Frame& frame)
-{
-    return frame.isFlat() && frame.appearance.showAxes && frame.overlay == nullptr &&
-           frame.camera2d().getCameraMode() == Camera2d::ModeOrdinary && frame.camera2d().isPreserveAspectRatio() &&
-           !frame.canvas.getAxisSetupPtr()->isPolar();
-}
-
 Lighting lightOf(const Frame& frame)
 {
     return Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera);
@@ -91,6 +77,20 @@ float diagonalOf(const BoundingBox& box, const Matrixf& toEye)
     const auto along = [&](int axis) { return Vector3f(toEye.get(1, axis), toEye.get(2, axis), toEye.get(3, axis)); };
     return std::sqrt(size.x * size.x * along(1).lengthSquared() + size.y * size.y * along(2).lengthSquared() +
                      size.z * size.z * along(3).lengthSquared());
+}
+
+bool isFinite(const BoundingBox& box)
+{
+    const auto isFiniteAt = [](const Vector3f& point) { return std::isfinite(point.x + point.y + point.z); };
+    return isFiniteAt(box.getCenter()) && isFiniteAt(box.getHalfSize());
+}
+
+/// Whether axes may enclose a part of the area alone. What an overlay shows has no box.
+bool hasFrameOfData(const Frame& frame)
+{
+    return frame.isFlat() && frame.appearance.showAxes && frame.overlay == nullptr &&
+           frame.camera2d().getCameraMode() == Camera2d::ModeOrdinary && frame.camera2d().isPreserveAspectRatio() &&
+           !frame.canvas.getAxisSetupPtr()->isPolar();
 }
 
 } // namespace
@@ -203,7 +203,7 @@ bool SceneRenderer::findOcclusion(const Frame& frame, const FrameLayout& layout,
                                   const std::vector<const SceneItem*>& items, const Target& target,
                                   const PaintContext& context)
 {
-    if (!frame.appearance.style.isStudio || m_view.isFlat || !lightOf(frame).isUsed || items.empty() ||
+    if (!frame.appearance.style.isStudio || frame.isDraft || m_view.isFlat || !lightOf(frame).isUsed || items.empty() ||
         frame.appearance.opacity < 1.0f || !layout.box.isValid()) {
         return false;
     }
