@@ -56,10 +56,11 @@ constexpr int c_samples = 4;
 constexpr int c_fewPixels = 100000;
 
 /// Frames after the first one, in which nothing is uploaded: drawn and read back.
-void drawFrame(benchmark::State& state, Quality quality, float opacity)
+void drawFrame(benchmark::State& state, Quality quality, float opacity, const RenderStyle& style = {})
 {
     const Waves waves(static_cast<int>(state.range(0)));
     OffscreenCanvas canvas(c_width, c_height, c_samples);
+    canvas.setStyle(style);
     canvas.setScene(waves.scene.scene);
     canvas.getSceneSettings()->setGlobalOpacity(opacity);
     lookFrom(canvas, -50.0, 30.0);
@@ -145,6 +146,23 @@ void drawBare(benchmark::State& state, int samples)
     state.SetItemsProcessed(state.iterations() * waves.plot->getTriangles().getNumIndices() / 3);
 }
 
+/// The upload of a surface, with the search for its creases or, as the limit, without.
+void upload(benchmark::State& state, bool isBody)
+{
+    const Waves waves(static_cast<int>(state.range(0)));
+    const EglContext context;
+    const EglContext::Current current(context);
+    Mesh mesh;
+    for (auto _ : state) {
+        if (isBody) {
+            mesh.loadBody(waves.plot->getVertices(), waves.plot->getTriangles(), 0.6f);
+        } else {
+            mesh.load(waves.plot->getVertices(), waves.plot->getTriangles());
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * waves.plot->getTriangles().getNumIndices() / 3);
+}
+
 /// The highest use of memory while ten million points are drawn for the first time. Without graphics hardware the
 /// driver's copy of the buffers lies in main memory; beside it there is the picture, and nothing else.
 void drawTenMillion(benchmark::State& state)
@@ -172,6 +190,10 @@ void sizes(benchmark::internal::Benchmark* frames)
 
 BENCHMARK_CAPTURE(drawFrame, full, Quality::full, 1.0f)->Name("drawFrame")->Apply(sizes);
 BENCHMARK_CAPTURE(drawBare, full, c_samples)->Name("drawFrame_limit")->Apply(sizes);
+// In studio light with feature edges, beside the plain picture of the same surface.
+constexpr RenderStyle c_studio = {.isStudio = true, .showFeatureEdges = true};
+BENCHMARK_CAPTURE(drawFrame, studio, Quality::full, 1.0f, c_studio)->Name("drawStudio")->Apply(sizes);
+BENCHMARK_CAPTURE(drawFrame, full, Quality::full, 1.0f)->Name("drawStudio_limit")->Apply(sizes);
 BENCHMARK_CAPTURE(drawFrame, draft, Quality::draft, 1.0f)->Name("drawDraft")->Apply(sizes);
 BENCHMARK_CAPTURE(drawBare, draft, 1)->Name("drawDraft_limit")->Apply(sizes);
 // The surface seen through itself, in layers and in a draft as one.
@@ -179,6 +201,8 @@ BENCHMARK_CAPTURE(drawFrame, translucent, Quality::full, 0.5f)->Name("drawTransl
 BENCHMARK_CAPTURE(drawBare, translucent, c_samples)->Name("drawTranslucent_limit")->Apply(sizes);
 BENCHMARK_CAPTURE(drawFrame, translucentDraft, Quality::draft, 0.5f)->Name("drawTranslucentDraft")->Apply(sizes);
 BENCHMARK_CAPTURE(drawBare, translucentDraft, 1)->Name("drawTranslucentDraft_limit")->Apply(sizes);
+BENCHMARK_CAPTURE(upload, body, true)->Name("uploadBody")->Apply(sizes);
+BENCHMARK_CAPTURE(upload, mesh, false)->Name("uploadBody_limit")->Apply(sizes);
 BENCHMARK(drawTenMillion)->Name("draw_memory")->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace

@@ -45,7 +45,7 @@ void drawDashes(const GraphLine::Version& version, LineStyle style, float width,
     const auto areaWidth = static_cast<float>(context.view.area.width);
     const auto areaHeight = static_cast<float>(context.view.area.height);
     const Matrixf toClip = context.view.projection * context.view.sceneToEye;
-    LineDashes dashes(style, width * context.scale, areaWidth, areaHeight);
+    LineDashes dashes(style, width * context.scale, areaWidth, areaHeight, context.scale);
     const std::vector<int>& starts = version.strips.getSegmentStarts();
     for (std::size_t strip = 0; strip + 1 < starts.size(); ++strip) {
         for (int i = 0; i < starts[strip + 1] - starts[strip]; ++i) {
