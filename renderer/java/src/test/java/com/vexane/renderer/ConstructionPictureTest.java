@@ -57,7 +57,8 @@ class ConstructionPictureTest {
             assertTrue(countDrawn(plane) > grid);
             plane.setExtrude(new float[] {1, 0.5f});
             plane.setExtrude(new float[0]);
-            assertTrue(countDrawn(plane) > grid);
+            int extruded = countDrawn(plane);
+            assertTrue(extruded > grid, () -> "pixels: " + extruded + " and " + grid);
         }
     }
 
