@@ -12,16 +12,22 @@
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/settings/contextdata.h"
+#include "renderer/canvas/boxfilter.h"
 #include "renderer/canvas/glrendererinfo.h"
 #include "renderer/canvas/pngencoder.h"
 #include "renderer/gl/target.h"
+#include "renderer/scene/scenefit.h"
 #include "renderer/scene/sceneitems.h"
 #include "renderer/scene/scenerenderer.h"
 
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
 #include <stdexcept>
+#include <type_traits>
 #include <utility>
 
 namespace vxrenderer {
@@ -29,16 +35,10 @@ namespace {
 
 using namespace vxgraphics3d;
 
-/// A box is not made smaller than this part of its area to leave space for labels.
-constexpr float c_smallestPart = 0.5f;
-
-/// How much larger a view has to be, so that what fills the area fills its inner part.
-float scaleToInner(const SceneArea& area)
-{
-    const auto part = [](int inner, int whole) { return static_cast<float>(inner) / static_cast<float>(whole); };
-    return 1.0f / std::max(c_smallestPart, std::min(part(area.inner.width, area.whole.width),
-                                                    part(area.inner.height, area.whole.height)));
-}
+/// The difference of views that are the same except for rounding, as a part of the picture.
+constexpr float c_sameView = 1e-3f;
+/// How often a flat view is fitted at most.
+constexpr int c_mostFits = 4;
 
 /// Whether a pixel of the camera's area has the same size in the world however large the area is.
 template <class Camera>
@@ -94,6 +94,27 @@ void requireNoFault()
 std::size_t bytesOf(const Target& target)
 {
     return std::size_t(4) * static_cast<std::size_t>(target.getWidth()) * static_cast<std::size_t>(target.getHeight());
+}
+
+/// The target of an export.
+/// @param factor pixels in each direction that are drawn for one of the export
+/// @throws std::invalid_argument for a size that the driver does not allow
+Target hardcopyTarget(int width, int height, int factor, int samples)
+{
+    const auto enlarged = [factor](int size) {
+        constexpr std::int64_t c_largest = std::numeric_limits<int>::max();
+        return static_cast<int>(std::min(std::int64_t(size) * factor, c_largest));
+    };
+    try {
+        return Target(width < 1 ? width : enlarged(width), height < 1 ? height : enlarged(height), samples);
+    } catch (const std::invalid_argument& refusal) {
+        if (factor == 1 || width < 1 || height < 1) {
+            throw;
+        }
+        throw std::invalid_argument("The export has " + std::to_string(width) + " by " + std::to_string(height) +
+                                    " pixels, and for each of them " + std::to_string(factor) + " by " +
+                                    std::to_string(factor) + " are drawn. " + refusal.what());
+    }
 }
 
 } // namespace
@@ -265,21 +286,43 @@ void OffscreenCanvas::zoomExtents()
         return;
     }
     const Appearance look = appearance();
-    const FrameLayout layout = m_renderer->layOut(frameOf(camera(), look), getWidth(), getHeight());
-    const SceneArea& area = layout.area;
-    const BoundingBox& box = layout.box;
-    if (area.whole.isEmpty() || !box.isValid()) {
-        return;
+    const Frame frame = frameOf(camera(), look);
+    PixelArea fitted;
+    for (int round = 0; round < c_mostFits; ++round) {
+        const FrameLayout layout = m_renderer->layOut(frame, getWidth(), getHeight());
+        const PixelArea& area = layout.area.whole;
+        if (area.isEmpty() || !layout.box.isValid() || area == fitted) {
+            return;
+        }
+        if (!frame.isFlat()) {
+            fitCamera(*m_settings->camera3d(), frame, layout);
+            return;
+        }
+        // The area of a flat view depends on the numbers of its axes, and these on the limits.
+        fitCamera(*m_settings->camera2d(), layout);
+        fitted = area;
     }
-    if (renderModeOf(*m_settings) == Canvas3dSettings::RenderMode2d) {
-        m_settings->camera2d()->moveToBoundingBox(box, Canvas3dGlobalSettings::getInstance()->getZoomToExtentMargin());
-    } else {
-        Camera3d& camera = *m_settings->camera3d();
-        camera.setRotationPoint(box.getCenter());
-        camera.moveToBoundingBox(box, box, 0.0f);
-        camera.setAdditionalScale(0.5f, 0.5f, scaleToInner(area));
-        camera.mergeAdditionalTransformation();
+}
+
+bool OffscreenCanvas::isFitted(const Camera3d& camera) const
+{
+    Camera3d fitted = camera;
+    const Appearance look = appearance();
+    const Frame frame = frameOf(fitted, look);
+    const FrameLayout layout = m_renderer->layOut(frame, getWidth(), getHeight());
+    if (layout.area.whole.isEmpty() || !layout.box.isValid()) {
+        return false;
     }
+    fitCamera(fitted, frame, layout);
+    const auto isSame = [](float a, float b, float unit) { return std::abs(a - b) <= c_sameView * std::abs(unit); };
+    const Matrixf& projection = fitted.getProjectionTransformRH();
+    const Matrixf& shown = camera.getProjectionTransformRH();
+    const Vector3f moved = fitted.getActualPosition() - camera.getActualPosition();
+    const float distance = (fitted.getActualPosition() - layout.box.getCenter()).length();
+    return isSame(projection.get(1, 1), shown.get(1, 1), shown.get(1, 1)) &&
+           isSame(fitted.getRelativeViewOffsetX(), camera.getRelativeViewOffsetX(), 1.0f) &&
+           isSame(fitted.getRelativeViewOffsetY(), camera.getRelativeViewOffsetY(), 1.0f) &&
+           moved.length() <= c_sameView * distance;
 }
 
 void OffscreenCanvas::draw(Quality quality)
@@ -351,17 +394,24 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
 {
     dropDisposedScene();
     const EglContext::Current current(m_context);
-    const Target target(width, height, std::max(1, settings.getMultisampleSetting()));
+    const int factor = m_style.supersampling;
+    const Target target = hardcopyTarget(width, height, factor, std::max(1, settings.getMultisampleSetting()));
     Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
     completeAppearance(look);
+    look.enlarge(factor);
     // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;
         Frame frame = frameOf(copy, look);
         frame.screenOverlay = nullptr;
-        FrameLayout layout = m_renderer->layOut(frame, width, height);
+        FrameLayout layout = m_renderer->layOut(frame, target.getWidth(), target.getHeight());
         showTheSame(copy, camera);
+        if constexpr (std::is_same_v<decltype(copy), Camera3d>) {
+            if (!layout.area.whole.isEmpty() && layout.box.isValid() && m_sceneView && isFitted(camera)) {
+                fitCamera(copy, frame, layout);
+            }
+        }
         SceneRenderer::placeScene(frame, layout);
         m_renderer->draw(frame, layout, target);
     };
@@ -374,6 +424,9 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     std::vector<std::uint8_t> pixels(bytesOf(target));
     target.read(pixels.data());
     requireNoFault();
+    if (factor > 1) {
+        pixels = reduced(pixels, width, factor);
+    }
     return vxrenderer::encodePng(
         pixels.data(), width, height,
         {.dpi = settings.getDpi(), .title = settings.getFileTitle(), .creator = settings.getFileCreator()});

@@ -21,6 +21,7 @@
 
 namespace vxgraphics3d {
 class BoundingBox;
+class Camera3d;
 class HardcopySettings;
 class ICameraTransforms;
 class PickedObjectCollection;
@@ -96,8 +97,9 @@ public:
     /// node that no longer exists counts as null.
     void setFramedNode(const boost::shared_ptr<vxgraphics3d::SceneGraphNode>& node) { m_framedNode = node; }
 
-    /// Looks at the whole scene with the camera of the current mode: a 3D camera keeps its direction and turns about
-    /// the middle of the scene from now on. Without a scene, or with one that is empty, nothing happens.
+    /// Looks at the whole scene with the camera of the current mode, as large as the picture allows (`fitCamera`): a 3D
+    /// camera keeps its direction and turns about the middle of the scene from now on. Without a scene, or with one
+    /// that is empty, nothing happens.
     void zoomExtents();
 
     /// Draws the picture.
@@ -125,7 +127,8 @@ public:
     void keepVisible(vxgraphics3d::PickedObjectCollection& picked);
 
     /// Draws the view at another size as the settings of the export ask, and gives the bytes of an image file. The view
-    /// itself stays as it is.
+    /// itself stays as it is. A view in space that `zoomExtents` has made is fitted to the picture again, whose labels
+    /// may have another size.
     /// @throws std::invalid_argument for a size below 1 or beyond what the driver allows
     /// @throws std::runtime_error if the driver reports a fault
     std::vector<std::uint8_t> encodeHardcopy(const vxgraphics3d::HardcopySettings& settings, int width, int height);
@@ -144,6 +147,8 @@ private:
     Appearance appearance() const;
     /// Adds what the canvas itself holds.
     void completeAppearance(Appearance& look) const;
+    /// Whether the 3D camera shows the scene as `zoomExtents` leaves it.
+    bool isFitted(const vxgraphics3d::Camera3d& camera) const;
     void dropDisposedScene();
     int wantedSamples() const;
     void requireImage() const;

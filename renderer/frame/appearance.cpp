@@ -136,6 +136,15 @@ bool Appearance::isBackdropUneven() const
     return backdrop.image || contrastTo(backdrop, textColor()) < c_textContrast;
 }
 
+void Appearance::enlarge(int factor)
+{
+    pixelsPerInch *= static_cast<float>(factor);
+    scale *= static_cast<float>(factor);
+    for (Font& font : fonts) {
+        font.size *= factor;
+    }
+}
+
 Appearance Appearance::onScreen(const Canvas3dSettings& canvas, const SceneSettings* scene)
 {
     Appearance appearance;

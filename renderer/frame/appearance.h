@@ -102,6 +102,9 @@ struct Appearance {
     /// Whether texts need a halo even on the background, because it has an image or is too varied for one colour.
     bool isBackdropUneven() const;
 
+    /// Enlarges the picture, with everything in it, by a whole factor.
+    void enlarge(int factor);
+
     /// The picture on the screen.
     /// @param scene the settings of the scene in this view, or null without a scene
     static Appearance onScreen(const vxgraphics3d::Canvas3dSettings& canvas, const vxgraphics3d::SceneSettings* scene);
