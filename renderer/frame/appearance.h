@@ -87,7 +87,8 @@ struct Appearance {
     /// A colour chosen by the user, or `textColor` where it could not be read on the background: that of an export is
     /// not the one that the colour was chosen for.
     vxgraphics3d::Color readable(const vxgraphics3d::Color& wanted) const;
-    /// A colour that can be distinguished from the background: the one chosen by the user, or one nearer to `textColor`.
+    /// A colour that can be distinguished from the background: the one chosen by the user, or one nearer to
+    /// `textColor`.
     vxgraphics3d::Color visible(const vxgraphics3d::Color& wanted, double contrast = c_gridContrast) const;
     /// The colour of the fainter lines of a grid over the background, which are still distinguished from it.
     /// @param grid colour of its other lines
@@ -101,6 +102,9 @@ struct Appearance {
     /// Whether texts need a halo even on the background, because it has an image or is too varied for one colour.
     bool isBackdropUneven() const;
 
+    /// Side of a pixel of the finished picture, in pixels: more than 1 for one that is drawn enlarged. Straight lines
+    /// begin and end at its multiples.
+    int pixel = 1;
     /// Enlarges the picture, with everything in it, by a whole factor.
     void enlarge(int factor);
 
