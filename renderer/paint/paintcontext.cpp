@@ -25,10 +25,11 @@ bool PaintContext::isDrawn(DrawKind kind, bool isTranslucent) const
     if ((kinds & kind) == 0) {
         return false;
     }
-    if (pass == Pass::opaque && isTranslucent && isSomethingLeft != nullptr) {
+    const bool isLayer = isTranslucent || (areLinesLayers && kind == DrawLines);
+    if (pass == Pass::opaque && isLayer && isSomethingLeft != nullptr) {
         *isSomethingLeft = true;
     }
-    return pass == Pass::all || isTranslucent == (pass == Pass::translucent);
+    return pass == Pass::all || isLayer == (pass == Pass::translucent);
 }
 
 PartRows PaintContext::rowsDrawn(DrawKind kind, const PartRows& rows, const Material& material) const

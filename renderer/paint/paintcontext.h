@@ -102,6 +102,9 @@ struct PaintContext {
     Pass pass = Pass::all;
     /// Set in the pass of what is opaque if something translucent was left out; or null.
     bool* isSomethingLeft = nullptr;
+    /// Whether lines and symbols are drawn with what is translucent: their borders cover pixels in part, and would hide
+    /// what is translucent behind them there.
+    bool areLinesLayers = false;
 
     /// Of the lines of bodies: dark enough on every colour of data, and hardly wider than a pixel of the screen.
     static constexpr vxgraphics3d::Color c_edgeColor{24, 24, 28, 255};

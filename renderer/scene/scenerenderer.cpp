@@ -340,8 +340,11 @@ void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, cons
                                 const PaintContext& context)
 {
     std::vector<const SceneItem*> translucent;
+    bool areLinesLayers = false;
     for (const DrawKind kind : {DrawBodies, DrawFaces, DrawMarks, DrawLines}) {
         PaintContext opaque = context.in(m_view, kind, Pass::opaque);
+        areLinesLayers = kind == DrawLines && !translucent.empty();
+        opaque.areLinesLayers = areLinesLayers;
         for (const SceneItem* item : items) {
             bool isSomethingLeft = false;
             opaque.isSomethingLeft = &isSomethingLeft;
@@ -367,7 +370,8 @@ void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, cons
     const int numLayers = frame.isDraft ? 0 : Transparency::c_fullLayers;
     m_transparency->draw(target, m_view, numLayers, [&](const View& view) {
         beginMeshes(frame, view, false);
-        const PaintContext layers = context.in(view, DrawAll, Pass::translucent);
+        PaintContext layers = context.in(view, DrawAll, Pass::translucent);
+        layers.areLinesLayers = areLinesLayers;
         for (const SceneItem* item : translucent) {
             drawItem(*item, layers);
         }
