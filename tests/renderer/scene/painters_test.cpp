@@ -269,6 +269,27 @@ TEST_F(PaintersTest, translucentLinesAreBlendedOnceAlsoWherePiecesMeet)
     EXPECT_EQ(column(shown, 0.5f).size(), 10u);
 }
 
+TEST_F(PaintersTest, bordersOfLinesMixWithTranslucentFacesBehindThem)
+{
+    const Path<vxgraphics3d::IndexBufferLineStrips> strip;
+    const Square square(4.0f);
+    drawPlotsBy([&](const PlotItem& item, const PaintContext& context) {
+        Look look = *lookOf(item, context);
+        look.toEye.rotateZ(0.13f);
+        context.drawLines(context.uploads.lines(item.plot, 0, 1, strip.vertices, strip.lines),
+                          {look.toEye, Material::of(Color::fromRgb(0xff0000))}, 4.0f);
+        look.material = Material::of(Color{0, 0, 255, 128});
+        look.toEye.translate(0.0f, 0.0f, -0.3f);
+        context.drawMesh(context.uploads.mesh(item.plot, 0, 1, square.vertices, square.triangles), look);
+    });
+    const std::set<Rgb> colors = colorsOf(picture());
+    EXPECT_TRUE(colors.contains(c_red)) << "lines themselves are opaque";
+    EXPECT_GT(colors.size(), 6u) << "their borders are smooth";
+    for (const Rgb& color : colors) {
+        EXPECT_LE(color[1], 128) << "nowhere is the white of the background seen past the face";
+    }
+}
+
 TEST_F(PaintersTest, linesAreSeenWholeOnFacesThroughThemAndHiddenByFacesInFront)
 {
     const Path<vxgraphics3d::IndexBufferLineStrips> strip;
