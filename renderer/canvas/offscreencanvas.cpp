@@ -318,7 +318,10 @@ std::vector<std::uint8_t> OffscreenCanvas::encodePng() const
 {
     std::vector<std::uint8_t> pixels(imageSize());
     readImage(pixels.data(), pixels.size());
-    return vxrenderer::encodePng(pixels.data(), getWidth(), getHeight(), {});
+    PngSettings settings;
+    settings.dpi =
+        std::clamp(Canvas3dGlobalSettings::getInstance()->getOnScreenResolution(), 1, PngSettings::c_largestDpi);
+    return vxrenderer::encodePng(pixels.data(), getWidth(), getHeight(), settings);
 }
 
 void OffscreenCanvas::keepVisible(PickedObjectCollection& picked)

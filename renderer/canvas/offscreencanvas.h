@@ -106,7 +106,7 @@ public:
     /// @throws std::invalid_argument if it is another one
     /// @throws std::logic_error if nothing was drawn since the canvas was made or resized
     void readImage(std::uint8_t* pixels, std::size_t numBytes) const;
-    /// The picture drawn last as the bytes of a PNG file.
+    /// The picture drawn last as the bytes of a PNG file, with the resolution of the screen.
     /// @throws std::logic_error if nothing was drawn since the canvas was made or resized
     std::vector<std::uint8_t> encodePng() const;
 

@@ -15,7 +15,6 @@ namespace vxrenderer {
 namespace {
 
 constexpr double c_metresPerInch = 0.0254;
-constexpr int c_largestDpi = 1000000;
 
 /// What the callbacks of the encoder share with `encodePng`.
 struct Encoding {
@@ -96,6 +95,9 @@ bool encode(const Encoder& encoder, const std::uint8_t* rgba, int width, int hei
     const int colorType = settings.hasAlpha ? PNG_COLOR_TYPE_RGB_ALPHA : PNG_COLOR_TYPE_RGB;
     png_set_IHDR(encoder.png(), encoder.info(), static_cast<png_uint_32>(width), static_cast<png_uint_32>(height), 8,
                  colorType, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+    // Colours are those of a screen, so that other programs show and print them alike; the older chunks say the same to
+    // programs that do not know sRGB.
+    png_set_sRGB_gAMA_and_cHRM(encoder.png(), encoder.info(), PNG_sRGB_INTENT_RELATIVE);
     if (settings.dpi > 0) {
         const auto perMetre = static_cast<png_uint_32>(std::lround(settings.dpi / c_metresPerInch));
         png_set_pHYs(encoder.png(), encoder.info(), perMetre, perMetre, PNG_RESOLUTION_METER);
@@ -117,7 +119,7 @@ bool encode(const Encoder& encoder, const std::uint8_t* rgba, int width, int hei
 
 std::vector<std::uint8_t> encodePng(const std::uint8_t* rgba, int width, int height, const PngSettings& settings)
 {
-    if (width < 1 || height < 1 || settings.dpi < 0 || settings.dpi > c_largestDpi) {
+    if (width < 1 || height < 1 || settings.dpi < 0 || settings.dpi > PngSettings::c_largestDpi) {
         throw std::invalid_argument("An image of " + std::to_string(width) + " by " + std::to_string(height) +
                                     " pixels at " + std::to_string(settings.dpi) + " dpi cannot be written.");
     }

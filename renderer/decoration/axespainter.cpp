@@ -27,8 +27,8 @@ using namespace vxgraphics3d;
 
 /// Width of lines in pixels of the screen.
 constexpr float c_lineWidth = 1.0f;
-/// What is left of the opacity of lines between labelled values.
-constexpr int c_minorAlpha = 90;
+/// What lines between labelled values have of the colour of the others.
+constexpr double c_minorPart = 0.35;
 /// Opacity of the trace of a grid over the data.
 constexpr int c_traceAlpha = 130;
 
@@ -54,9 +54,9 @@ GridBoxInput gridBoxInput(const Frame& frame)
             Canvas3dGlobalSettings::getInstance()->getGridbox3dTickPrecision()};
 }
 
-/// Draws lines in one colour, first the faint ones.
+/// Draws lines, first the faint ones.
 void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int width, int height, float lineWidth,
-               const Color& color, const LinePainter& painter)
+               const Color& color, const Color& minorColor, const LinePainter& painter)
 {
     for (const bool isMinor : {true, false}) {
         std::vector<LineSegment> segments;
@@ -66,10 +66,15 @@ void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int wi
                 segments.push_back({line.from, line.to});
             }
         }
-        Color faint = color;
-        faint.alpha = isMinor ? color.alpha * c_minorAlpha / 255 : color.alpha;
-        painter.draw(segments, {toClip, width, height, lineWidth}, faint);
+        painter.draw(segments, {toClip, width, height, lineWidth}, isMinor ? minorColor : color);
     }
+}
+
+/// Lines of flat views are whole pixels wide, so that all have the same profile and sharp borders.
+float widthOfLines(const Frame& frame)
+{
+    const float width = c_lineWidth * frame.appearance.scale;
+    return frame.isFlat() ? std::max(std::round(width), 1.0f) : width;
 }
 
 /// Moves a line along a side of the picture onto whole pixels, over two of which it would be spread in half its colour:
@@ -111,11 +116,10 @@ AxesPainter::AxesPainter(const Frame& frame, const View& view, int width, int he
     : m_width(width),
       m_height(height),
       m_view(view),
-      m_scale(frame.appearance.scale),
-      m_gridColor(frame.canvas.getGridBoxSettingsPtr()->getGridColor()),
-      m_labelColor(frame.appearance.readable(frame.canvas.getGridBoxSettingsPtr()->getLabelColor())),
-      m_haloColor(frame.appearance.backdrop.top),
-      m_hasHalo(frame.isFlat() && (frame.isPolar() || frame.canvas.getAxisSetupPtr()->isPolar()))
+      m_lineWidth(widthOfLines(frame)),
+      m_appearance(frame.appearance),
+      m_gridColor(frame.appearance.visibleGrid(frame.canvas.getGridBoxSettingsPtr()->getGridColor())),
+      m_labelColor(frame.appearance.readable(frame.canvas.getGridBoxSettingsPtr()->getLabelColor()))
 {
     if (view.isFlat) {
         layOutAxes2d(frame, view, fonts);
@@ -146,7 +150,7 @@ void AxesPainter::layOutAxes2d(const Frame& frame, const View& view, const AxisF
     m_labels = std::move(layout.labels);
     for (std::vector<AxisLine>* lines : {&m_behind, &m_around}) {
         for (AxisLine& line : *lines) {
-            snapToPixels(line, c_lineWidth * m_scale);
+            snapToPixels(line, m_lineWidth);
         }
     }
 }
@@ -174,13 +178,14 @@ void AxesPainter::drawInArea(const LinePainter& painter, const Color& color) con
         toClip = pixelsToClip(m_view.area.width, m_view.area.height);
         toClip.translate(-static_cast<float>(m_view.area.x), -static_cast<float>(m_view.area.y), 0.0f);
     }
-    drawLines(m_behind, toClip, m_view.area.width, m_view.area.height, c_lineWidth * m_scale, color, painter);
+    drawLines(m_behind, toClip, m_view.area.width, m_view.area.height, m_lineWidth, color,
+              m_appearance.faintGrid(color, c_minorPart), painter);
 }
 
 void AxesPainter::drawAround(const LinePainter& painter) const
 {
-    drawLines(m_around, pixelsToClip(m_width, m_height), m_width, m_height, c_lineWidth * m_scale,
-              m_view.isFlat ? m_labelColor : m_gridColor, painter);
+    drawLines(m_around, pixelsToClip(m_width, m_height), m_width, m_height, m_lineWidth,
+              m_labelColor, m_labelColor, painter);
 }
 
 void AxesPainter::drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const
@@ -193,19 +198,13 @@ void AxesPainter::drawLabels(OverlayPainter& painter, const AxisFonts& fonts) co
         const float height = label.isVertical ? text.width : text.height;
         const float left = label.x - label.alignX * width;
         const float top = label.y - label.alignY * height;
-        const auto draw = [&](float x, float y, const Color& color) {
-            if (label.isVertical) {
-                painter.drawTextUpwards(text, font, x, y + height, color);
-            } else {
-                painter.drawText(text, font, x, y, color);
-            }
-        };
-        for (int aside = -1; m_hasHalo && aside <= 1; ++aside) {
-            for (int below = -1; below <= 1; ++below) {
-                draw(left + static_cast<float>(aside), top + static_cast<float>(below), m_haloColor);
-            }
+        const TextColors colors = {m_labelColor,
+                                   m_appearance.haloOf(m_labelColor, static_cast<double>(top) / m_height)};
+        if (label.isVertical) {
+            painter.drawTextUpwards(text, font, left, top + height, colors);
+        } else {
+            painter.drawText(text, font, left, top, colors);
         }
-        draw(left, top, m_labelColor);
     }
 }
 

@@ -9,6 +9,7 @@
 
 namespace vxrenderer {
 
+struct Appearance;
 struct Frame;
 class LinePainter;
 class OverlayPainter;
@@ -58,13 +59,11 @@ private:
     int m_width;
     int m_height;
     View m_view;
-    /// Widths of lines follow the scale of the picture.
-    float m_scale;
+    /// Follows the scale of the picture.
+    float m_lineWidth;
+    const Appearance& m_appearance;
     vxgraphics3d::Color m_gridColor;
     vxgraphics3d::Color m_labelColor;
-    /// Drawn around labels that may lie on the data.
-    vxgraphics3d::Color m_haloColor;
-    bool m_hasHalo;
     /// In world coordinates of a 3D view, in pixels of a 2D one.
     std::vector<AxisLine> m_behind;
     /// In pixels.

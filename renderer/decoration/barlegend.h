@@ -1,6 +1,7 @@
 #pragma once
 
 #include "renderer/decoration/legend.h"
+#include "renderer/decoration/legendmarks.h"
 #include "renderer/decoration/legendscale.h"
 #include "renderer/decoration/legendtexts.h"
 #include "renderer/text/textlayout.h"
@@ -9,32 +10,29 @@
 
 namespace vxrenderer {
 
-/// The legend of a continuous scale: a bar with the part of the colour table that is in use, round values next to it,
-/// and above it the title of the plot and the power of ten that the values have to be multiplied by.
+/// The legend of a continuous scale: an upright bar with the part of the colour table that is in use, round values next
+/// to it, and above it the title of the plot and the power of ten that the values have to be multiplied by. An end
+/// beyond which there are values is a triangle. Where the extremes of the data are shown, marks point at them.
 class BarLegend : public Legend {
 public:
     BarLegend(const PlotItem& item, const LegendStyle& style, float maxWidth, float height);
 
     float getWidth() const override { return m_width; }
+    float getHeight() const override { return m_height; }
     float getHeadHeight() const override { return m_headHeight; }
     void draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left, float top,
               float headHeight) const override;
 
 private:
-    struct Label {
-        TextLayout text;
-        /// 0 at the lower end of the bar, 1 at its upper end.
-        double height;
-    };
-
     PlotItem m_item;
     LegendScale m_scale;
     float m_height;
     LegendTexts m_texts;
+    LegendMarks m_marks;
     float m_width = 0.0f;
     float m_headHeight = 0.0f;
     TextLayout m_power;
-    std::vector<Label> m_labels;
+    std::vector<TextLayout> m_labels; // of the ticks
 };
 
 } // namespace vxrenderer

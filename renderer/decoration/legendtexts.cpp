@@ -3,8 +3,9 @@
 #include "base/ustring.h"
 #include "graphics3d/foundation/textutil.h"
 #include "graphics3d/plots/scenegraphplot.h"
-#include "renderer/axes/ticks.h"
+#include "renderer/axes/axislayout.h"
 #include "renderer/decoration/legend.h"
+#include "renderer/decoration/legendmarks.h"
 #include "renderer/paint/overlaypainter.h"
 
 #include <algorithm>
@@ -27,21 +28,38 @@ constexpr const char* c_downwards = "\xE2\x96\xBC ";
 
 } // namespace
 
+TextLayout layOutLegendTitle(const vxgraphics3d::SceneGraphPlot& plot, const LegendStyle& style, float maxWidth,
+                             float height)
+{
+    UString text = plot.getTitle();
+    if (text.empty()) {
+        return {};
+    }
+    if (!style.showTitle) {
+        const std::string unit = unitOf(text.toUtf8());
+        if (!unit.empty()) {
+            text = UString(unit);
+        }
+    }
+    UString markup;
+    vxgraphics3d::TextUtil::prepareTitle(text, markup, plot.getTitleFormat());
+    return layoutTitle(parseTitle(markup), style.titleFonts, {maxWidth, c_titlePart * height});
+}
+
 LegendTexts::LegendTexts(const vxgraphics3d::SceneGraphPlot& plot, const LegendStyle& style, float maxWidth,
                          float height)
+    : title(layOutLegendTitle(plot, style, maxWidth, height))
+{}
+
+void LegendTexts::setExtremes(const std::string& smallestText, const std::string& largestText, const LegendStyle& style)
 {
-    if (style.showTitle && !plot.getTitle().empty()) {
-        UString markup;
-        vxgraphics3d::TextUtil::prepareTitle(plot.getTitle(), markup, plot.getTitleFormat());
-        title = layoutTitle(parseTitle(markup), style.titleFonts, {maxWidth, c_titlePart * height});
-    }
     if (style.showMinMax) {
-        const auto layOut = [&](const char* mark, double value) {
-            return layoutTitle(parseTitle(UString(mark + numberText(value, style.minMaxDigits))), style.tickFonts,
-                               {maxWidth, height});
+        const auto layOut = [&](const char* mark, const std::string& text) {
+            return layoutTitle(parseTitle(UString(mark + text)), style.tickFonts,
+                               {AxisLabel::c_noLimit, AxisLabel::c_noLimit});
         };
-        largest = layOut(c_upwards, plot.getValueMax());
-        smallest = layOut(c_downwards, plot.getValueMin());
+        largest = layOut(c_upwards, largestText);
+        smallest = layOut(c_downwards, smallestText);
     }
 }
 
@@ -64,10 +82,10 @@ float LegendTexts::footHeight(const LegendStyle& style) const
 void LegendTexts::draw(OverlayPainter& painter, const LegendStyle& style, float left, float headTop, float footBottom,
                        const TextLayout& line) const
 {
-    painter.drawText(title, style.titleFonts, left, headTop, style.color);
-    painter.drawText(line, style.tickFonts, left, headTop + title.height, style.color);
-    painter.drawText(largest, style.tickFonts, left, headTop + title.height + line.height, style.color);
-    painter.drawText(smallest, style.tickFonts, left, footBottom - smallest.height, style.color);
+    painter.drawText(title, style.titleFonts, left, headTop, style.textColors());
+    painter.drawText(line, style.tickFonts, left, headTop + title.height, style.textColors());
+    painter.drawText(largest, style.tickFonts, left, headTop + title.height + line.height, style.textColors());
+    painter.drawText(smallest, style.tickFonts, left, footBottom - smallest.height, style.textColors());
 }
 
 } // namespace vxrenderer

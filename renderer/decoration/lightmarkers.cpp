@@ -9,6 +9,7 @@
 #include "graphics3d/viewing/icameratransforms.h"
 #include "renderer/frame/lightplaces.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -18,17 +19,28 @@ namespace {
 using namespace vxgraphics3d;
 
 // All in units of the radius of the scene.
-constexpr float c_starSize = 0.06f;
-constexpr float c_coneLength = 0.4f;
+constexpr float c_bulbRadius = 0.035f;
+/// Where the rays of a bulb begin and end, in units of its radius.
+constexpr float c_raysFrom = 1.5f;
+constexpr float c_raysTo = 2.4f;
+constexpr float c_footRadius = 0.03f;
+constexpr float c_shortestCone = 0.4f;
+constexpr float c_longestCone = 4.0f;
 constexpr float c_arrowStart = 1.5f;
 constexpr float c_arrowLength = 0.4f;
-constexpr float c_arrowHead = 0.08f;
+constexpr float c_arrowHead = 0.14f;
+constexpr float c_arrowHeadRadius = 0.05f;
+constexpr float c_arrowRadius = 0.018f;
+/// The lines beside an arrow: their distance from it, and how near to the middle of the scene they go.
+constexpr float c_beside = 0.12f;
+constexpr float c_besideEnd = 0.0f;
 /// An arrow comes nearer to the middle of the scene in these steps, and not nearer than this, to lie within the view.
 constexpr float c_arrowStep = 0.05f;
 constexpr float c_nearestArrowStart = 0.5f;
 /// Part of the view from its middle to its borders that counts as in sight.
 constexpr float c_visiblePart = 0.97f;
-constexpr int c_coneSides = 24;
+constexpr int c_circleSides = 48;
+constexpr int c_coneLines = 8;
 constexpr float c_degree = std::numbers::pi_v<float> / 180.0f;
 
 /// Two unit vectors at right angles to a third and to each other.
@@ -39,12 +51,40 @@ struct Sides {
     explicit Sides(const Vector3f& axis) : first(axis.orthogonal()), second(axis.cross(first)) {}
 };
 
-void addStar(std::vector<LineSegment>& lines, const Vector3f& place, float size)
+/// The part of a turn of a circle of some sides, as a unit vector.
+Vector3f turned(const Sides& sides, int side)
 {
-    for (const Vector3f& arm : {Vector3f(size, 0.0f, 0.0f), Vector3f(0.0f, size, 0.0f), Vector3f(0.0f, 0.0f, size),
-                                Vector3f(size, size, size) * 0.577f, Vector3f(-size, size, size) * 0.577f,
-                                Vector3f(size, -size, size) * 0.577f, Vector3f(size, size, -size) * 0.577f}) {
-        lines.push_back({place - arm, place + arm});
+    const float turn = 360.0f / c_circleSides * c_degree * static_cast<float>(side % c_circleSides);
+    return sides.first * std::cos(turn) + sides.second * std::sin(turn);
+}
+
+void addBulb(LightMarker& marker, const Vector3f& place, float radius)
+{
+    const float size = c_bulbRadius * radius;
+    marker.solids.push_back({Solid::Shape::ball, place, place, size, marker.color});
+}
+
+void addRays(LightMarker& marker, const Vector3f& place, float radius)
+{
+    constexpr float c_third = 0.577f;
+    for (const Vector3f& arm :
+         {Vector3f(1.0f, 0.0f, 0.0f), Vector3f(0.0f, 1.0f, 0.0f), Vector3f(0.0f, 0.0f, 1.0f),
+          Vector3f(c_third, c_third, c_third), Vector3f(-c_third, c_third, c_third),
+          Vector3f(c_third, -c_third, c_third), Vector3f(c_third, c_third, -c_third)}) {
+        const Vector3f from = arm * (c_raysFrom * c_bulbRadius * radius);
+        const Vector3f to = arm * (c_raysTo * c_bulbRadius * radius);
+        marker.lines.push_back({place + from, place + to});
+        marker.lines.push_back({place - from, place - to});
+    }
+}
+
+/// A line down to the bottom of the scene, with a ring around its foot.
+void addFoot(LightMarker& marker, const Vector3f& place, const Vector3f& foot, const Sides& ground, float radius)
+{
+    marker.lines.push_back({place, foot});
+    for (int side = 0; side < c_circleSides; ++side) {
+        const auto at = [&](int corner) { return foot + turned(ground, corner) * (c_footRadius * radius); };
+        marker.lines.push_back({at(side), at(side + 1)});
     }
 }
 
@@ -69,34 +109,38 @@ float arrowStart(const Matrixf& projection, const Vector3f& center, const Vector
     return c_nearestArrowStart;
 }
 
-void addArrow(std::vector<LineSegment>& lines, const Matrixf& projection, const Vector3f& center, const Vector3f& from,
+void addArrow(LightMarker& marker, const Matrixf& projection, const Vector3f& center, const Vector3f& from,
               float radius)
 {
     const float distance = arrowStart(projection, center, from, radius);
-    const Vector3f start = center + from * (distance * radius);
-    const Vector3f end = center + from * ((distance - c_arrowLength) * radius);
+    const auto at = [&](float where) { return center + from * (where * radius); };
+    const Vector3f start = at(distance);
+    const Vector3f neck = at(distance - c_arrowLength + c_arrowHead);
+    const Vector3f tip = at(distance - c_arrowLength);
+    addBulb(marker, start, radius);
+    marker.solids.push_back({Solid::Shape::cylinder, start, neck, c_arrowRadius * radius, marker.color});
+    marker.solids.push_back({Solid::Shape::cone, neck, tip, c_arrowHeadRadius * radius, marker.color});
     const Sides sides(from);
-    lines.push_back({start, end});
+    marker.lines.push_back({tip, at(c_besideEnd)});
     for (const Vector3f& side : {sides.first, -sides.first, sides.second, -sides.second}) {
-        lines.push_back({end, end + (from + side * 0.5f) * (c_arrowHead * radius)});
+        const Vector3f aside = side * (c_beside * radius);
+        marker.lines.push_back({start + aside, at(c_besideEnd) + aside});
     }
 }
 
-void addCone(std::vector<LineSegment>& lines, const Vector3f& tip, const Vector3f& axis, float angle, float radius)
+void addCone(LightMarker& marker, const Vector3f& tip, const Vector3f& axis, float angle, float length)
 {
     const Sides sides(axis);
-    const float length = c_coneLength * radius;
     const auto rim = [&](int side) {
-        const float turn = 360.0f / c_coneSides * c_degree * static_cast<float>(side);
-        const Vector3f out = sides.first * std::cos(turn) + sides.second * std::sin(turn);
-        return tip + (axis * std::cos(0.5f * angle) + out * std::sin(0.5f * angle)) * length;
+        return tip + (axis * std::cos(0.5f * angle) + turned(sides, side) * std::sin(0.5f * angle)) * length;
     };
-    for (int side = 0; side < c_coneSides; ++side) {
-        lines.push_back({rim(side), rim(side + 1)});
-        if (side % (c_coneSides / 4) == 0) {
-            lines.push_back({tip, rim(side)});
-        }
+    for (int side = 0; side < c_circleSides; ++side) {
+        marker.lines.push_back({rim(side), rim(side + 1)});
     }
+    for (int side = 0; side < c_circleSides; side += c_circleSides / c_coneLines) {
+        marker.lines.push_back({tip, rim(side)});
+    }
+    marker.lines.push_back({tip, tip + axis * length});
 }
 
 } // namespace
@@ -106,6 +150,7 @@ std::vector<LightMarker> lightMarkers(const SceneLight& light, const BoundingBox
     const LightPlaces eye(camera);
     const float size = camera.getViewBoundingBox(box).getHalfSize().length();
     const float radius = size > 0.0f ? size : 1.0f;
+    const Vector3f center = eye.toEye(box.getCenter());
     std::vector<LightMarker> markers;
     for (const auto& [id, source] : light.getLightSources()) {
         if (!source->isMarkerVisible()) {
@@ -117,20 +162,30 @@ std::vector<LightMarker> lightMarkers(const SceneLight& light, const BoundingBox
         switch (source->getType()) {
         case LightSource::LightDirection: {
             const auto& sun = static_cast<const DirectionLightSource&>(*source);
-            addArrow(marker.lines, camera.getProjectionTransformRH(), eye.toEye(box.getCenter()), eye.direction(sun),
-                     radius);
+            addArrow(marker, camera.getProjectionTransformRH(), center, eye.direction(sun), radius);
             break;
         }
         case LightSource::LightPoint: {
             const auto& lamp = static_cast<const PointLightSource&>(*source);
-            addStar(marker.lines, eye.place(lamp, lamp.getPosition()), c_starSize * radius);
+            const Vector3f place = eye.place(lamp, lamp.getPosition());
+            addBulb(marker, place, radius);
+            addRays(marker, place, radius);
+            if (!lamp.isLockedToCamera() && box.isValid()) {
+                Vector3f foot = lamp.getPosition();
+                foot.z = box.getMin().z;
+                const Vector3f up = camera.getRotationTransform() * Vector3f(0.0f, 0.0f, 1.0f);
+                addFoot(marker, place, eye.toEye(foot), Sides(up), radius);
+            }
             break;
         }
         case LightSource::LightSpot: {
             const auto& spot = static_cast<const SpotLightSource&>(*source);
             const Vector3f place = eye.place(spot, spot.getPosition());
-            addStar(marker.lines, place, c_starSize * radius);
-            addCone(marker.lines, place, eye.aim(spot), spot.getSpreadAngle(), radius);
+            const Vector3f aim = eye.aim(spot);
+            const float length =
+                std::clamp(aim.dot(center - place), c_shortestCone * radius, c_longestCone * radius);
+            addBulb(marker, place, radius);
+            addCone(marker, place, aim, spot.getSpreadAngle(), length);
             break;
         }
         }

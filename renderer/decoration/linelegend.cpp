@@ -17,7 +17,6 @@ namespace {
 using vxgraphics3d::Color;
 using vxgraphics3d::Vector3f;
 
-constexpr Color c_frame = {128, 128, 128, 255};
 constexpr int c_backgroundAlpha = 225;
 
 // All in units of the font size.
@@ -116,7 +115,7 @@ void LineLegendBox::draw(OverlayPainter& painter, const SymbolPainter& symbols, 
         Color background = style.background;
         background.alpha = c_backgroundAlpha;
         painter.fillRect(box, background);
-        painter.strokeRect(box, style.lineWidth, c_frame);
+        painter.strokeRect(box, style.lineWidth, style.frameColor);
     }
     for (const Row& row : m_rows) {
         const float x = boxLeft + row.x;
@@ -130,17 +129,13 @@ void LineLegendBox::draw(OverlayPainter& painter, const SymbolPainter& symbols, 
                       .symbol = row.entry.legend.line->m_marker,
                       .size = symbolSize(row.entry.lineWidth) * style.scale,
                       .color = channelsOf(color)});
-        const auto drawText = [&](float right, float down, const Color& textColor) {
-            painter.drawText(row.text, style.tickFonts, x + (c_sampleLength + c_textGap) * em + right,
-                             middle - 0.5f * row.text.height + down, textColor);
-        };
-        // Without a background, a margin keeps the text apart from the lines under it.
-        for (int aside = -1; m_placement.isInside && !m_placement.hasFrame && aside <= 1; ++aside) {
-            for (int below = -1; below <= 1; ++below) {
-                drawText(static_cast<float>(aside), static_cast<float>(below), style.background);
-            }
+        // Without a background, a rim keeps the text apart from the lines under it.
+        TextColors colors = style.textColors();
+        if (m_placement.isInside && !m_placement.hasFrame && !colors.halo) {
+            colors.halo = style.background;
         }
-        drawText(0.0f, 0.0f, style.color);
+        painter.drawText(row.text, style.tickFonts, x + (c_sampleLength + c_textGap) * em,
+                         middle - 0.5f * row.text.height, colors);
     }
 }
 

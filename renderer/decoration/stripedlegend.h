@@ -16,23 +16,24 @@ public:
     StripedLegend(const PlotItem& item, const LegendStyle& style, float maxWidth, float height);
 
     float getWidth() const override { return m_width; }
+    float getHeight() const override { return m_height; }
     float getHeadHeight() const override { return m_headHeight; }
     void draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left, float top,
               float headHeight) const override;
 
 private:
-    struct Stripe {
-        TextLayout label; ///< empty if it is left out
-        /// Position in the colour table, 0 to 1.
-        float color;
-    };
-
     PlotItem m_item;
     LegendTexts m_texts;
-    std::vector<Stripe> m_stripes; // from the bottom
+    // From the bottom upwards: positions in the colour table, and the labels, empty where they are left out.
+    std::vector<float> m_colors;
+    std::vector<TextLayout> m_labels;
+    float m_height;
     float m_stripeHeight;
     float m_width = 0.0f;
     float m_headHeight = 0.0f;
 };
+
+/// The positions in the colour table of the levels of a plot with a striped legend.
+std::vector<float> stripeColors(const vxgraphics3d::SceneGraphPlot& plot, const std::vector<double>& levels);
 
 } // namespace vxrenderer

@@ -3,56 +3,82 @@
 #include "base/ustring.h"
 #include "graphics3d/cameras/axisorientationindicator.h"
 #include "graphics3d/foundation/matrixf.h"
-#include "renderer/axes/labelplacer.h"
+#include "renderer/axes/axislayout.h"
+#include "renderer/frame/contrast.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/view.h"
 #include "renderer/paint/linepainter.h"
-#include "renderer/paint/overlaypainter.h"
+#include "renderer/text/titlemarkup.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace vxrenderer {
 namespace {
 
 using vxgraphics3d::AxisOrientationIndicator;
 
-/// From the tip of an axis to the middle of its letter, and from the border of the scene to the longest axis, in units
-/// of the size of the letters.
-constexpr float c_letterGap = 0.7f;
+/// From the border of the scene to the longest axis, and what is free around letters, in units of their size.
 constexpr float c_border = 1.5f;
+constexpr float c_gap = 0.2f;
+/// Of shafts, in units of the line width: bodies need some width for their shading.
+constexpr float c_shaftRadius = 0.75f;
+/// Of heads, in units of the length of an axis, and of the radius of the shaft.
+constexpr float c_headLength = 0.32f;
+constexpr float c_headRadius = 2.3f;
+
+Triad::Sizes sizesOf(const Frame& frame, const AxisOrientationIndicator& indicator)
+{
+    const float length = frame.appearance.millimetres(indicator.getAxisLength());
+    const float shaft = std::max(1.0f, c_shaftRadius * frame.appearance.millimetres(indicator.getLineWidth()));
+    return {length, shaft, c_headRadius * shaft, c_headLength * length};
+}
 
 } // namespace
 
-TriadPainter::TriadPainter(const Frame& frame, const View& view) : m_letterColor(frame.appearance.textColor())
+TriadPainter::TriadPainter(const Frame& frame, const View& view, FontSet& letters)
+    : m_fonts(letters),
+      m_letterColors(frame.appearance.textColor(), contrastingWith(frame.appearance.textColor())),
+      m_triad(frame.camera, sizesOf(frame, *frame.canvas.getAxisOrientationIndicatorPtr()))
 {
     const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
-    m_lineWidth = std::max(1.0f, frame.appearance.millimetres(indicator.getLineWidth()));
+    const float letterSize = letters.fontSize();
+    const float reach = m_triad.sizes.length + c_border * letterSize;
+    m_originX = static_cast<float>(view.area.x) + reach;
+    m_originY = static_cast<float>(view.area.y + view.area.height) - reach;
+    const float height = static_cast<float>(view.area.y + view.area.height);
+    m_letterColors.halo = frame.appearance.haloOf(m_letterColors.text, static_cast<double>(m_originY / height));
+
+    std::array<Triad::Letter, 3> sizes{};
+    std::array<PixelRect, 3> inks{};
+    const float gap = c_gap * letterSize;
+    const float around = 2.0f * (haloWidth(letterSize) + 1.0f);
     for (std::size_t i = 0; i < m_colors.size(); ++i) {
         const auto axis = static_cast<AxisOrientationIndicator::Axis>(i);
         m_colors[i] = indicator.getColor(axis);
-        m_letters[i] = indicator.getLabel(axis);
+        m_letters[i].text = layoutTitle(parseTitle(vxbase::UString(plainText(indicator.getLabel(axis)))), letters,
+                                        {AxisLabel::c_noLimit, AxisLabel::c_noLimit});
+        inks[i] = inkOf(m_letters[i].text, letters);
+        sizes[i] = {inks[i].right - inks[i].left + around, inks[i].bottom - inks[i].top + around};
     }
-    const auto letterSize = static_cast<float>(frame.appearance.font(vxgraphics3d::TextItem::TextAxisOrientation).size);
-    const float length = frame.appearance.millimetres(indicator.getAxisLength());
-    const float reach = length + c_border * letterSize;
-    m_triad = Triad::of(frame.camera, static_cast<float>(view.area.x) + reach,
-                        static_cast<float>(view.area.y + view.area.height) - reach, length, c_letterGap * letterSize);
-}
-
-void TriadPainter::drawAxes(const LinePainter& painter, int width, int height) const
-{
-    for (const Triad::Axis& axis : m_triad.axes) {
-        painter.draw(axis.lines, {pixelsToClip(width, height), width, height, m_lineWidth}, m_colors[axis.index]);
+    const std::array<Triad::Position, 3> positions = m_triad.placeLetters(sizes, gap);
+    for (std::size_t i = 0; i < m_letters.size(); ++i) {
+        m_letters[i].left = m_originX + positions[i].x - 0.5f * (inks[i].left + inks[i].right);
+        m_letters[i].top = m_originY - positions[i].y - 0.5f * (inks[i].top + inks[i].bottom);
     }
 }
 
-void TriadPainter::drawLetters(OverlayPainter& painter, FontSet& letters) const
+void TriadPainter::drawAxes(const SolidPainter& painter, int width, int height) const
 {
-    for (const Triad::Axis& axis : m_triad.axes) {
-        const TextLayout text = layoutTitle(parseTitle(vxbase::UString(plainText(m_letters[axis.index]))), letters,
-                                            {AxisLabel::c_noLimit, AxisLabel::c_noLimit});
-        painter.drawText(text, letters, axis.letterX - 0.5f * text.width, axis.letterY - 0.5f * text.height,
-                         m_letterColor);
+    vxgraphics3d::Matrixf toClip = pixelsToClip(width, height);
+    toClip.translate(m_originX, m_originY, 0.0f).scale(1.0f, -1.0f, 0.0f);
+    painter.draw(m_triad.solids(m_colors), toClip);
+}
+
+void TriadPainter::drawLetters(OverlayPainter& painter) const
+{
+    for (const Letter& letter : m_letters) {
+        painter.drawText(letter.text, m_fonts, letter.left, letter.top, m_letterColors);
     }
 }
 

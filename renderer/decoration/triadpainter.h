@@ -2,33 +2,41 @@
 
 #include "graphics3d/foundation/color.h"
 #include "renderer/decoration/triad.h"
+#include "renderer/paint/overlaypainter.h"
 
 #include <array>
-#include <string>
 
 namespace vxrenderer {
 
 struct Frame;
 struct View;
-class FontSet;
-class LinePainter;
-class OverlayPainter;
 
 /// The axis orientation indicator of a 3D view, laid out in the lower left corner of its scene for one frame.
 class TriadPainter {
 public:
-    TriadPainter(const Frame& frame, const View& view);
+    /// @param letters the fonts of its letters
+    TriadPainter(const Frame& frame, const View& view, FontSet& letters);
 
-    /// The viewport is the whole picture.
-    void drawAxes(const LinePainter& painter, int width, int height) const;
-    void drawLetters(OverlayPainter& painter, FontSet& letters) const;
+    /// Draws without a depth test; the viewport is the whole picture.
+    void drawAxes(const SolidPainter& painter, int width, int height) const;
+    void drawLetters(OverlayPainter& painter) const;
 
 private:
-    float m_lineWidth;
-    vxgraphics3d::Color m_letterColor;
+    struct Letter {
+        TextLayout text;
+        /// The position of its top left corner in the picture.
+        float left;
+        float top;
+    };
+
+    FontSet& m_fonts;
+    TextColors m_letterColors;
     std::array<vxgraphics3d::Color, 3> m_colors;
-    std::array<std::string, 3> m_letters;
+    /// In pixels of the picture.
+    float m_originX;
+    float m_originY;
     Triad m_triad;
+    std::array<Letter, 3> m_letters;
 };
 
 } // namespace vxrenderer

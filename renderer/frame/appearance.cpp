@@ -7,6 +7,7 @@
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/lights/scenesettingslight.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "renderer/frame/contrast.h"
 #include "renderer/frame/frame.h"
 
 #include <algorithm>
@@ -18,19 +19,14 @@ namespace {
 using namespace vxgraphics3d;
 
 constexpr float c_pointsPerInch = 72.0f;
-// Of 255.
-constexpr float c_darkLuminance = 110.0f;
-constexpr float c_leastContrast = 60.0f;
+/// What a grid aims at, so that it keeps the least contrast when its colour is rounded.
+constexpr double c_wantedGridContrast = 1.02 * c_gridContrast;
+constexpr int c_gridSteps = 20;
 
-float luminance(const Color& color)
+/// The contrast of a colour to the end of the backdrop that it is closer to.
+double contrastTo(const Appearance::Backdrop& backdrop, const Color& color)
 {
-    return 0.299f * static_cast<float>(color.red) + 0.587f * static_cast<float>(color.green) +
-           0.114f * static_cast<float>(color.blue);
-}
-
-float luminance(const Appearance::Backdrop& backdrop)
-{
-    return 0.5f * (luminance(backdrop.top) + luminance(backdrop.bottom));
+    return std::min(contrastOf(color, backdrop.top), contrastOf(color, backdrop.bottom));
 }
 
 int pixelsOf(int points, float pixelsPerInch)
@@ -83,12 +79,60 @@ Appearance::Backdrop backdropOf(const Canvas3dSettings& canvas)
 
 Color Appearance::textColor() const
 {
-    return Color::fromRgb(luminance(backdrop) < c_darkLuminance ? 0xffffff : 0x000000);
+    const Color black = Color::fromRgb(0x000000);
+    const Color white = Color::fromRgb(0xffffff);
+    return contrastTo(backdrop, black) >= contrastTo(backdrop, white) ? black : white;
 }
 
 Color Appearance::readable(const Color& wanted) const
 {
-    return std::abs(luminance(wanted) - luminance(backdrop)) < c_leastContrast ? textColor() : wanted;
+    return contrastTo(backdrop, wanted) < c_textContrast ? textColor() : wanted;
+}
+
+Color Appearance::visibleGrid(const Color& wanted) const
+{
+    Color best = wanted;
+    for (int step = 1; step <= c_gridSteps && contrastTo(backdrop, best) < c_wantedGridContrast; ++step) {
+        best = mixed(wanted, textColor(), static_cast<double>(step) / c_gridSteps);
+    }
+    best.alpha = wanted.alpha;
+    return best;
+}
+
+Color Appearance::faintGrid(const Color& grid, double part) const
+{
+    const auto contrastAt = [&](const Color& behind, double of) { return contrastOf(mixed(behind, grid, of), behind); };
+    double enough = part;
+    for (int step = 1; step <= c_gridSteps && std::min(contrastAt(backdrop.top, enough),
+                                                       contrastAt(backdrop.bottom, enough)) < c_wantedGridContrast;
+         ++step) {
+        enough = std::lerp(part, 1.0, static_cast<double>(step) / c_gridSteps);
+    }
+    Color faint = grid;
+    if (!backdrop.image && backdrop.top == backdrop.bottom) {
+        // Without alpha, lines that cross do not add up.
+        faint = mixed(backdrop.top, grid, enough);
+        faint.alpha = grid.alpha;
+    } else {
+        faint.alpha = static_cast<int>(std::lround(enough * grid.alpha));
+    }
+    return faint;
+}
+
+Color Appearance::backgroundAt(double part) const
+{
+    return mixed(backdrop.top, backdrop.bottom, std::clamp(part, 0.0, 1.0));
+}
+
+Color Appearance::haloOf(const Color& text, double part) const
+{
+    const Color behind = backgroundAt(part);
+    return backdrop.image || contrastOf(text, behind) < c_textContrast ? contrastingWith(text) : behind;
+}
+
+bool Appearance::isBackdropUneven() const
+{
+    return backdrop.image || contrastTo(backdrop, textColor()) < c_textContrast;
 }
 
 Appearance Appearance::onScreen(const Canvas3dSettings& canvas, const SceneSettings* scene)

@@ -80,9 +80,23 @@ struct Appearance {
     float millimetres(float length) const { return length * pixelsPerInch / 25.4f; }
     /// Black or white, whichever can be read on the background.
     vxgraphics3d::Color textColor() const;
-    /// A colour chosen by the user, or `textColor` where it could not be distinguished from the background: that of an
-    /// export is not the one that the colour was chosen for.
+    /// A colour chosen by the user, or `textColor` where it could not be read on the background: that of an export is
+    /// not the one that the colour was chosen for.
     vxgraphics3d::Color readable(const vxgraphics3d::Color& wanted) const;
+    /// The colour of a grid that can be distinguished from the background: the one chosen by the user, or one nearer to
+    /// `textColor`.
+    vxgraphics3d::Color visibleGrid(const vxgraphics3d::Color& wanted) const;
+    /// The colour of the fainter lines of a grid over the background, which are still distinguished from it.
+    /// @param grid colour of its other lines
+    /// @param part how much of that colour they have if it suffices
+    vxgraphics3d::Color faintGrid(const vxgraphics3d::Color& grid, double part) const;
+    /// The background, without its image, at a part of the height of the picture from its top.
+    vxgraphics3d::Color backgroundAt(double part) const;
+    /// The halo of a text that may lie on anything: not seen where it lies on the background.
+    /// @param part of the height of the picture, from its top, where the text is
+    vxgraphics3d::Color haloOf(const vxgraphics3d::Color& text, double part) const;
+    /// Whether texts need a halo even on the background, because it has an image or is too varied for one colour.
+    bool isBackdropUneven() const;
 
     /// The picture on the screen.
     /// @param scene the settings of the scene in this view, or null without a scene

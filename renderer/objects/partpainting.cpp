@@ -194,8 +194,7 @@ void PartPainting::drawLabels(const Parts& parts, bool isBeside) const
             m_context.drawLabel({.point = part.getLabel()->getPosition(),
                                  .text = part.getLabel()->getText(),
                                  .color = marking.getLabelColor(),
-                                 .isBeside = isBeside,
-                                 .hasHalo = true});
+                                 .isBeside = isBeside});
         }
     }
 }

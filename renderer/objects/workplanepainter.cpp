@@ -160,8 +160,7 @@ public:
                 m_context.drawLabel({.point = tip,
                                      .text = vxbase::UString(std::string(c_axisNames[axis])),
                                      .color = c_axisColors[axis],
-                                     .isBeside = true,
-                                     .hasHalo = true});
+                                     .isBeside = true});
             }
         }
     }

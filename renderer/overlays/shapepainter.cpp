@@ -212,7 +212,6 @@ private:
             label.color = m_outlineColor;
             label.isHideable = false;
             label.isBeside = true;
-            label.hasHalo = true;
             m_context.labels.push_back(std::move(label));
         }
     }

@@ -4,30 +4,61 @@
 #include "renderer/upload/parttable.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <string>
+#include <vector>
 
 namespace vxrenderer {
 namespace {
 
+// Lines are smooth by the part of each pixel that they cover, whatever the number of samples: the profile of a line is
+// the same in every pixel that it crosses in the same way.
 constexpr const char* c_vertexInputs = R"(
 layout(std140) uniform Line {
     mat4 toClip;
     vec2 viewport;
     float lineWidth;
-    // How far the ends reach beyond the points, in units of half the width.
+    // How far the ends reach beyond the points where no piece follows, in units of half the width.
     float reach;
     // What is added to z and w for each unit of w to bring a point nearer to the eye.
     vec2 towardsEye;
     float roundness;
+    // How far the rectangle of a piece reaches beyond the line, in pixels, to have all samples of the pixels that the
+    // line touches.
+    float fringe;
 };
 layout(location = 0) in vec3 from;
 layout(location = 1) in vec3 to;
 layout(location = 2) in vec2 texturePlaces;
+layout(location = 3) in vec3 before;
+layout(location = 4) in vec3 after;
 centroid out float u;
-// In units of half the width: the distance from the start along the line, its length, and the distance from its middle.
-// Only round ends need it.
-out vec3 cap;
+// In pixels from the start of the piece: along it, and aside from its middle.
+noperspective out vec2 local;
+// Length and half the width of the piece, how far its free ends reach, and whether ends are round.
+flat out vec4 shape;
+// In the directions of `local`, the normals of the borders to the pieces before and after; 0 at free ends.
+flat out vec4 borders;
+
+vec2 pixelOf(vec4 clip)
+{
+    return 0.5 * viewport * clip.xy / clip.w;
+}
+
+// A point, or where the way from it to another one enters the view through the near plane.
+vec4 inView(vec4 point, vec4 other)
+{
+    float depth = point.z + point.w;
+    return depth < 0.0 ? mix(point, other, depth / (depth - other.z - other.w)) : point;
+}
+
+void leaveOut()
+{
+    u = 0.0;
+    local = vec2(0.0);
+    shape = vec4(0.0);
+    borders = vec4(0.0);
+    gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
+}
 )";
 
 // All lines look alike, except for the colour, which may be that of their data.
@@ -57,15 +88,16 @@ void main()
     vec2 towardsEye = row.towardsEye;
     partColor = row.color.rgb;
     if (!row.isVisible) {
-        u = 0.0;
-        cap = vec3(0.0);
-        gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
+        leaveOut();
         return;
     }
 )";
 
 // The part of a line in front of the near plane is cut off here: its ends are moved aside by pixels, and what lies
 // behind the eye has no position on the screen.
+//
+// Two pieces that meet share the pixels along the line that halves their angle. Where the angle is so sharp, or a piece
+// so short, that this would cut off more than the corner, both have free ends.
 constexpr const char* c_vertexMain = R"(
     vec4 a = toClip * vec4(from, 1.0);
     vec4 b = toClip * vec4(to, 1.0);
@@ -73,32 +105,49 @@ constexpr const char* c_vertexMain = R"(
     float depthB = b.z + b.w;
     vec2 places = texturePlaces;
     if (depthA < 0.0 && depthB < 0.0) {
-        u = 0.0;
-        cap = vec3(0.0);
-        gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
+        leaveOut();
         return;
     }
+    vec4 wayIn = inView(toClip * vec4(before, 1.0), a);
+    vec4 wayOut = inView(toClip * vec4(after, 1.0), b);
     if (depthA < 0.0) {
         float part = depthA / (depthA - depthB);
         a = mix(a, b, part);
+        wayIn = a;
         places.x = mix(places.x, places.y, part);
     } else if (depthB < 0.0) {
         float part = depthB / (depthB - depthA);
         b = mix(b, a, part);
+        wayOut = b;
         places.y = mix(places.y, places.x, part);
     }
-    vec2 along = (b.xy / b.w - a.xy / a.w) * viewport;
+    vec2 along = pixelOf(b) - pixelOf(a);
     float size = length(along);
     along = size > 0.0 ? along / size : vec2(1.0, 0.0);
     vec2 side = vec2(-along.y, along.x);
+    float halfWidth = 0.5 * lineWidth;
+    vec2 reaches = vec2(reach > 0.0 ? reach * halfWidth + fringe : 0.0);
+    borders = vec4(0.0);
+    for (int end = 0; end < 2; ++end) {
+        vec2 next = end == 0 ? pixelOf(a) - pixelOf(wayIn) : pixelOf(wayOut) - pixelOf(b);
+        float nextSize = length(next);
+        float cosine = nextSize > 0.0 ? dot(along, next) / nextSize : -1.0;
+        float tangent = sqrt(max(1.0 - cosine, 0.0) / max(1.0 + cosine, 1e-6));
+        if (cosine > -0.6 && halfWidth * tangent <= min(size, nextSize)) {
+            vec2 normal = normalize(along + next / nextSize);
+            vec2 inPiece = vec2(dot(normal, along), dot(normal, side));
+            borders = end == 0 ? vec4(inPiece, borders.zw) : vec4(borders.xy, inPiece);
+            reaches[end] = (halfWidth + fringe) * tangent + fringe;
+        }
+    }
     bool isEnd = gl_VertexID > 1;
     vec4 place = isEnd ? b : a;
-    vec2 offset = (gl_VertexID & 1) == 0 ? side : -side;
-    offset += reach * (isEnd ? along : -along);
+    local = vec2(isEnd ? size + reaches.y : -reaches.x,
+                 (gl_VertexID & 1) == 0 ? halfWidth + fringe : -halfWidth - fringe);
+    shape = vec4(size, halfWidth, reach * halfWidth, roundness);
     u = isEnd ? places.y : places.x;
-    cap = roundness * vec3((isEnd ? size / lineWidth + reach : -reach), size / lineWidth,
-                           (gl_VertexID & 1) == 0 ? 1.0 : -1.0);
-    place.xy += lineWidth * offset / viewport * place.w;
+    vec2 offset = along * (isEnd ? reaches.y : -reaches.x) + side * local.y;
+    place.xy += 2.0 * offset / viewport * place.w;
     // The near plane cuts lines off only where it cuts off what they lie on.
     place.z = max((place.z + towardsEye.x * place.w) / (1.0 + towardsEye.y), -place.w);
     gl_Position = place;
@@ -110,21 +159,72 @@ flat in vec3 partColor;
 #define materialColor(u) partColor
 )";
 
-constexpr const char* c_fragmentMain = R"(
+constexpr const char* c_coverage = R"(
 centroid in float u;
-in vec3 cap;
+noperspective in vec2 local;
+flat in vec4 shape;
+flat in vec4 borders;
 out vec4 result;
 
-void main()
+// The part of the pixel that the line covers.
+float covered()
 {
-    float beyond = max(max(-cap.x, cap.x - cap.y), 0.0);
-    bool isRoundedOff = beyond > 0.0 && beyond * beyond + cap.z * cap.z > 1.0;
-    if (isHidden(u) || isRoundedOff) {
-        discard;
+    const float slack = 1.0 / 128.0;
+    float size = shape.x;
+    float halfWidth = shape.y;
+    vec2 fromEnd = local - vec2(size, 0.0);
+    if (dot(local, borders.xy) < -slack || dot(fromEnd, borders.zw) > slack) {
+        return 0.0;
     }
-    result = vec4(materialColor(u), uniformColor.a);
+    bool isStart = -local.x > fromEnd.x;
+    float beyond = isStart ? -local.x : fromEnd.x;
+    bool isFree = (isStart ? borders.xy : borders.zw) == vec2(0.0);
+    float aside = abs(local.y);
+    float part = 1.0;
+    if (shape.w > 0.0) {
+        aside = length(vec2(max(beyond, 0.0), aside));
+    } else if (isFree && shape.z > 0.0) {
+        part = clamp(shape.z + 0.5 - beyond, 0.0, 1.0);
+    }
+    return part * clamp(min(halfWidth, aside + 0.5) - max(-halfWidth, aside - 0.5), 0.0, 1.0);
 }
 )";
+
+constexpr const char* c_fragmentMain = R"(
+void main()
+{
+    float part = covered();
+    if (isHidden(u) || part < 0.5 / 255.0) {
+        discard;
+    }
+    result = vec4(materialColor(u), uniformColor.a * part);
+}
+)";
+
+/// From the middle of a pixel to where a line begins to touch it, and to its farthest sample from there.
+constexpr float c_fringe = 0.5f;
+constexpr float c_sampledFringe = 1.25f;
+
+/// What the lines of this class are blended by, which is part of how they are smooth.
+class Blending {
+public:
+    Blending() : m_wasOn(glIsEnabled(GL_BLEND) == GL_TRUE)
+    {
+        glEnable(GL_BLEND);
+        glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    }
+    ~Blending()
+    {
+        if (!m_wasOn) {
+            glDisable(GL_BLEND);
+        }
+    }
+    Blending(const Blending&) = delete;
+    Blending& operator=(const Blending&) = delete;
+
+private:
+    bool m_wasOn;
+};
 
 } // namespace
 
@@ -138,17 +238,17 @@ struct LinePainter::LineBlock {
     float reach;
     std::array<float, 2> towardsEye;
     float roundness;
-    float unused = 0.0f;
+    float fringe;
 };
 
 LinePainter::LinePainter()
     : m_program("lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
-                (std::string(Material::c_source) + c_fragmentMain).c_str()),
+                (std::string(Material::c_source) + c_coverage + c_fragmentMain).c_str()),
       m_partProgram(
           "the lines of objects",
           (std::string(c_renamed) + c_vertexInputs + c_namedAgain + PartRows::c_source + c_partsStart + c_vertexMain)
               .c_str(),
-          (std::string(Material::c_source) + c_partColor + c_fragmentMain).c_str())
+          (std::string(Material::c_source) + c_partColor + c_coverage + c_fragmentMain).c_str())
 {
     for (const GlProgram* program : {&m_program, &m_partProgram}) {
         m_line.attach(*program);
@@ -158,14 +258,7 @@ LinePainter::LinePainter()
     PartRows::attachTextures(m_partProgram);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
-    const auto describe = [](LineMesh::Attribute attribute, std::ptrdiff_t offset) {
-        const auto location = static_cast<GLuint>(attribute);
-        glEnableVertexAttribArray(location);
-        glVertexAttribPointer(location, 3, GL_FLOAT, GL_FALSE, sizeof(LineSegment), offsetPointer(offset));
-        glVertexAttribDivisor(location, 1);
-    };
-    describe(LineMesh::Attribute::from, offsetof(LineSegment, from));
-    describe(LineMesh::Attribute::to, offsetof(LineSegment, to));
+    JointedPiece::describe();
     glBindVertexArray(0);
 }
 
@@ -178,6 +271,9 @@ void LinePainter::setUp(const GlProgram& program, const Frame& frame, const Mate
     block.reach = isClosed ? 1.0f : 0.0f;
     block.towardsEye = {frame.towardsEye.z, frame.towardsEye.w};
     block.roundness = frame.isRound ? 1.0f : 0.0f;
+    GLint samples = 0;
+    glGetIntegerv(GL_SAMPLES, &samples);
+    block.fringe = samples > 1 ? c_sampledFringe : c_fringe;
     program.use();
     m_line.set(block);
     m_material.set(material);
@@ -190,15 +286,24 @@ void LinePainter::draw(std::span<const LineSegment> lines, const Frame& frame, c
     }
     const Material material = Material::of(color);
     setUp(m_program, frame, material, !material.isTranslucent());
+    std::vector<LinePiece> pieces;
+    pieces.reserve(lines.size());
+    for (const LineSegment& line : lines) {
+        pieces.push_back({line.from, line.to});
+    }
+    const std::vector<JointedPiece> joined = joinRuns(pieces);
+    const Blending blending;
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
-    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(lines.size_bytes()), lines.data(), GL_STREAM_DRAW);
-    glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, static_cast<GLsizei>(lines.size()));
+    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(joined.size() * sizeof(JointedPiece)), joined.data(),
+                 GL_STREAM_DRAW);
+    glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, static_cast<GLsizei>(joined.size()));
 }
 
 void LinePainter::draw(const LineMesh& lines, const Frame& frame, const Material& material) const
 {
     setUp(m_program, frame, material, !material.isTranslucent());
+    const Blending blending;
     lines.draw();
 }
 
@@ -207,6 +312,7 @@ void LinePainter::draw(const LineMesh& lines, const PartLook& parts, const Frame
     setUp(m_partProgram, frame, material, !material.isTranslucent());
     m_rows.set(parts.rows);
     parts.table.bind();
+    const Blending blending;
     lines.draw();
 }
 

@@ -22,7 +22,8 @@ struct LineSegment {
 };
 
 /// Draws lines of any width: a driver need not offer lines wider than one pixel, so each is a rectangle that faces the
-/// eye.
+/// eye. Lines are smooth with any number of samples, since each pixel takes as much of their colour as they cover of it:
+/// draw them after what lies behind them. Segments that follow each other are joined.
 class LinePainter {
 public:
     /// Where lines go, and how wide they are.
@@ -32,12 +33,12 @@ public:
         /// Size of the viewport in pixels.
         int width;
         int height;
-        /// In pixels. The ends of opaque lines reach half of it beyond the points, so that joints are closed; those of
-        /// translucent lines do not, so that joints are not blended twice.
+        /// In pixels. The free ends of opaque lines reach half of it beyond the points, so that corners are closed
+        /// where lines meet that are not joined; those of translucent lines do not, so that nothing is blended twice.
         float lineWidth;
         /// By how much lines are nearer to the eye than their points.
         DepthShift towardsEye{};
-        /// Whether ends that reach beyond their points are round, so that wide lines have round corners.
+        /// Whether free ends and corners are round.
         bool isRound = false;
     };
 

@@ -3,6 +3,7 @@
 #include "renderer/paint/material.h"
 #include "renderer/upload/imagetextures.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -19,6 +20,9 @@ layout(std140) uniform Overlay {
     vec2 pictureSize;
     int mode;
     float depth;
+    // Normals and distances of the sides of a polygon, positive within it.
+    vec4 sides[6];
+    int numSides;
 };
 )";
 
@@ -26,10 +30,12 @@ constexpr const char* c_vertexMain = R"(
 layout(location = 0) in vec2 position;
 layout(location = 1) in vec2 texturePlace;
 out vec2 place;
+out vec2 pixel;
 
 void main()
 {
     place = texturePlace;
+    pixel = position;
     gl_Position = vec4(position.x / pictureSize.x * 2.0 - 1.0, 1.0 - position.y / pictureSize.y * 2.0, depth, 1.0);
 }
 )";
@@ -42,7 +48,18 @@ uniform sampler2D glyphs;
 // With colours multiplied by alpha.
 uniform sampler2D image;
 in vec2 place;
+in vec2 pixel;
 out vec4 result;
+
+// How much of the pixel lies within the polygon, if there is one.
+float covered()
+{
+    float part = 1.0;
+    for (int i = 0; i < numSides; ++i) {
+        part = min(part, dot(sides[i].xy, pixel) + sides[i].z + 0.5);
+    }
+    return max(part, 0.0);
+}
 
 void main()
 {
@@ -57,6 +74,7 @@ void main()
         vec4 texel = texture(image, place);
         result = vec4(texel.rgb / max(texel.a, 1.0 / 255.0), texel.a);
     }
+    result.a *= covered();
 }
 )";
 
@@ -65,7 +83,52 @@ constexpr int c_colorTableMode = 1;
 constexpr int c_glyphMode = 2;
 constexpr int c_imageMode = 3;
 
+/// The moves of a text that together draw a rim of a width around it.
+std::vector<PixelPoint> haloOffsets(float width)
+{
+    std::vector<PixelPoint> offsets;
+    for (float y = -width; y <= width; ++y) {
+        for (float x = -width; x <= width; ++x) {
+            const float distance = std::hypot(x, y);
+            // The outer ring, with corners only where it is narrow, and one within a wide one.
+            const bool isOuter = distance <= width + 0.5f && distance > width - 0.6f;
+            const bool isInner = distance > 0.0f && std::abs(distance - 0.5f * width) < 0.5f;
+            if (isOuter || (width > 2.0f && isInner)) {
+                offsets.push_back({x, y});
+            }
+        }
+    }
+    return offsets;
+}
+
 } // namespace
+
+PixelRect inkOf(const TextLayout& text, FontSet& fonts)
+{
+    PixelRect ink = {};
+    bool isEmpty = true;
+    for (const PlacedCharacter& placed : text.characters) {
+        const Font::Glyph& glyph = *fonts.find(placed.character, placed.style).glyph;
+        if (glyph.width == 0) {
+            continue;
+        }
+        const float left = std::round(placed.x) + static_cast<float>(glyph.left);
+        const float top = std::round(placed.y) - static_cast<float>(glyph.top);
+        const PixelRect rect = {left, top, left + static_cast<float>(glyph.width),
+                                top + static_cast<float>(glyph.height)};
+        ink = isEmpty ? rect
+                      : PixelRect{std::min(ink.left, rect.left), std::min(ink.top, rect.top),
+                                  std::max(ink.right, rect.right), std::max(ink.bottom, rect.bottom)};
+        isEmpty = false;
+    }
+    return ink;
+}
+
+float haloWidth(float fontSize)
+{
+    constexpr float c_partOfFontSize = 0.1f;
+    return std::max(1.0f, std::round(c_partOfFontSize * fontSize));
+}
 
 struct OverlayPainter::OverlayBlock {
     static constexpr const char* c_block = "Overlay";
@@ -75,6 +138,9 @@ struct OverlayPainter::OverlayBlock {
     std::array<float, 2> pictureSize;
     std::int32_t mode;
     float depth;
+    std::array<std::array<float, 4>, c_mostCorners> sides{};
+    std::int32_t numSides = 0;
+    std::array<std::int32_t, 3> unused{};
 };
 
 OverlayPainter::OverlayPainter(UploadCounts& counts)
@@ -120,8 +186,13 @@ void OverlayPainter::addQuad(const std::array<Vertex, 4>& corners)
 
 void OverlayPainter::drawQuads(int mode, const Color& color, float depth)
 {
+    drawQuads({.color = channelsOf(color), .pictureSize = {m_width, m_height}, .mode = mode, .depth = depth});
+}
+
+void OverlayPainter::drawQuads(const OverlayBlock& block)
+{
     m_program.use();
-    m_block.set({channelsOf(color), {m_width, m_height}, mode, depth});
+    m_block.set(block);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(m_quads.size() * sizeof(Vertex)), m_quads.data(),
@@ -157,6 +228,53 @@ void OverlayPainter::fillWithColorTable(const PixelRect& rect, float bottomColor
     drawQuads(c_colorTableMode, {});
 }
 
+void OverlayPainter::fillWithColorTableAcross(const PixelRect& rect, float leftColor, float rightColor)
+{
+    addQuad({{{rect.left, rect.top, 0.0f, leftColor},
+              {rect.right, rect.top, 0.0f, rightColor},
+              {rect.right, rect.bottom, 0.0f, rightColor},
+              {rect.left, rect.bottom, 0.0f, leftColor}}});
+    drawQuads(c_colorTableMode, {});
+}
+
+void OverlayPainter::drawPolygon(std::span<const PixelPoint> corners, int mode, const Color& color, float tablePosition)
+{
+    OverlayBlock block = {.color = channelsOf(color), .pictureSize = {m_width, m_height}, .mode = mode, .depth = 0.0f};
+    PixelRect box = {corners[0].x, corners[0].y, corners[0].x, corners[0].y};
+    float area = 0.0f;
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        const PixelPoint& from = corners[i];
+        const PixelPoint& to = corners[(i + 1) % corners.size()];
+        area += from.x * to.y - to.x * from.y;
+        box = {std::min(box.left, from.x), std::min(box.top, from.y), std::max(box.right, from.x),
+               std::max(box.bottom, from.y)};
+    }
+    for (std::size_t i = 0; i < corners.size() && i < c_mostCorners; ++i) {
+        const PixelPoint& from = corners[i];
+        const PixelPoint& to = corners[(i + 1) % corners.size()];
+        const float length = std::hypot(to.x - from.x, to.y - from.y) * (area < 0.0f ? -1.0f : 1.0f);
+        if (length != 0.0f) {
+            const float x = (from.y - to.y) / length;
+            const float y = (to.x - from.x) / length;
+            block.sides[static_cast<std::size_t>(block.numSides)] = {x, y, -(x * from.x + y * from.y), 0.0f};
+            ++block.numSides;
+        }
+    }
+    addQuad({box.left - 1.0f, box.top - 1.0f, box.right + 1.0f, box.bottom + 1.0f},
+            {0.0f, tablePosition, 0.0f, tablePosition});
+    drawQuads(block);
+}
+
+void OverlayPainter::fillPolygon(std::span<const PixelPoint> corners, const Color& color)
+{
+    drawPolygon(corners, c_plainMode, color, 0.0f);
+}
+
+void OverlayPainter::fillPolygonWithColorTable(std::span<const PixelPoint> corners, float position)
+{
+    drawPolygon(corners, c_colorTableMode, {}, position);
+}
+
 void OverlayPainter::bindAtlas(const GlyphAtlas& atlas)
 {
     Atlas& copy = m_atlases[&atlas];
@@ -173,22 +291,26 @@ void OverlayPainter::bindAtlas(const GlyphAtlas& atlas)
     ++m_counts.glyphPictures;
 }
 
-void OverlayPainter::drawText(const TextLayout& text, FontSet& fonts, float left, float top, const Color& color,
+void OverlayPainter::drawText(const TextLayout& text, FontSet& fonts, float left, float top, const TextColors& colors,
                               float depth)
 {
-    drawGlyphs(text, fonts, color, depth, [&](const PixelRect& rect, const PixelRect& texture) {
-        const float x = std::round(left + rect.left);
-        const float y = std::round(top + rect.top);
-        addQuad({x, y, x + rect.right - rect.left, y + rect.bottom - rect.top}, texture);
+    const float x = std::round(left);
+    const float y = std::round(top);
+    drawGlyphs(text, fonts, colors, depth, [&](const PixelRect& rect, const PixelRect& texture, PixelPoint offset) {
+        const float glyphLeft = x + rect.left + offset.x;
+        const float glyphTop = y + rect.top + offset.y;
+        addQuad({glyphLeft, glyphTop, glyphLeft + rect.right - rect.left, glyphTop + rect.bottom - rect.top}, texture);
     });
 }
 
 void OverlayPainter::drawTextUpwards(const TextLayout& text, FontSet& fonts, float left, float bottom,
-                                     const Color& color)
+                                     const TextColors& colors)
 {
-    drawGlyphs(text, fonts, color, 0.0f, [&](const PixelRect& rect, const PixelRect& texture) {
-        const float x = std::round(left + rect.top);
-        const float y = std::round(bottom - rect.left);
+    const float firstX = std::round(left);
+    const float firstY = std::round(bottom);
+    drawGlyphs(text, fonts, colors, 0.0f, [&](const PixelRect& rect, const PixelRect& texture, PixelPoint offset) {
+        const float x = firstX + rect.top + offset.x;
+        const float y = firstY - rect.left + offset.y;
         const float right = x + rect.bottom - rect.top;
         const float upper = y - (rect.right - rect.left);
         addQuad({{{x, y, texture.left, texture.top},
@@ -199,8 +321,18 @@ void OverlayPainter::drawTextUpwards(const TextLayout& text, FontSet& fonts, flo
 }
 
 template <class AddGlyph>
-void OverlayPainter::drawGlyphs(const TextLayout& text, FontSet& fonts, const Color& color, float depth,
+void OverlayPainter::drawGlyphs(const TextLayout& text, FontSet& fonts, const TextColors& colors, float depth,
                                 AddGlyph&& addGlyph)
+{
+    if (colors.halo) {
+        drawGlyphs(text, fonts, *colors.halo, depth, haloOffsets(haloWidth(fonts.fontSize())), addGlyph);
+    }
+    drawGlyphs(text, fonts, colors.text, depth, std::array{PixelPoint{0.0f, 0.0f}}, addGlyph);
+}
+
+template <class AddGlyph>
+void OverlayPainter::drawGlyphs(const TextLayout& text, FontSet& fonts, const Color& color, float depth,
+                                std::span<const PixelPoint> offsets, AddGlyph&& addGlyph)
 {
     std::map<const GlyphAtlas*, std::vector<Vertex>> byAtlas;
     for (const PlacedCharacter& placed : text.characters) {
@@ -217,7 +349,9 @@ void OverlayPainter::drawGlyphs(const TextLayout& text, FontSet& fonts, const Co
         const auto height = static_cast<float>(glyph.height);
         std::vector<Vertex>& quads = byAtlas[&found.font->getAtlas()];
         m_quads.swap(quads);
-        addGlyph(PixelRect{x, y, x + width, y + height}, PixelRect{s, t, s + width, t + height});
+        for (const PixelPoint& offset : offsets) {
+            addGlyph(PixelRect{x, y, x + width, y + height}, PixelRect{s, t, s + width, t + height}, offset);
+        }
         m_quads.swap(quads);
     }
     for (auto& [atlas, quads] : byAtlas) {

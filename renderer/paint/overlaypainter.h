@@ -10,7 +10,10 @@
 #include "renderer/upload/uploadcounts.h"
 
 #include <array>
+#include <cstddef>
 #include <map>
+#include <optional>
+#include <span>
 #include <vector>
 
 namespace vxrenderer {
@@ -22,6 +25,30 @@ struct PixelRect {
     float right;
     float bottom;
 };
+
+/// A point of the picture in pixels, counted from its top left corner.
+struct PixelPoint {
+    float x;
+    float y;
+};
+
+/// Colours of a text and of the rim around it, which lets it be read on anything.
+struct TextColors {
+    vxgraphics3d::Color text;
+    /// Without a value there is no rim.
+    std::optional<vxgraphics3d::Color> halo;
+
+    /// Implicit, for texts without a rim.
+    TextColors(const vxgraphics3d::Color& ofText, std::optional<vxgraphics3d::Color> ofHalo = std::nullopt)
+        : text(ofText), halo(ofHalo)
+    {}
+};
+
+/// The rectangle that the strokes of a text cover, from its top left corner; empty for a blank text.
+PixelRect inkOf(const TextLayout& text, FontSet& fonts);
+
+/// How far the rim of a text reaches beyond its strokes, in whole pixels.
+float haloWidth(float fontSize);
 
 /// Draws rectangles, colour bars and text over the picture. Whole coordinates are borders of pixels.
 class OverlayPainter {
@@ -40,13 +67,20 @@ public:
     void strokeRect(const PixelRect& rect, float width, const vxgraphics3d::Color& color);
     /// The colours of the one-dimensional texture bound to unit 0, from the bottom of the rectangle to its top.
     void fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor);
+    /// The same from the left side of the rectangle to its right side.
+    void fillWithColorTableAcross(const PixelRect& rect, float leftColor, float rightColor);
     /// A text with its top left corner at a position; characters are placed on whole pixels.
     /// @param depth from -1, at the eye, to 1: what it is compared with where a depth test is on
-    void drawText(const TextLayout& text, FontSet& fonts, float left, float top, const vxgraphics3d::Color& color,
+    void drawText(const TextLayout& text, FontSet& fonts, float left, float top, const TextColors& colors,
                   float depth = 0.0f);
     /// A text that runs from bottom to top; the corner is where its first line begins.
-    void drawTextUpwards(const TextLayout& text, FontSet& fonts, float left, float bottom,
-                         const vxgraphics3d::Color& color);
+    void drawTextUpwards(const TextLayout& text, FontSet& fonts, float left, float bottom, const TextColors& colors);
+
+    /// A convex polygon of three to `c_mostCorners` corners, in either direction, with smooth borders.
+    void fillPolygon(std::span<const PixelPoint> corners, const vxgraphics3d::Color& color);
+    /// The same in the colour at a position, 0 to 1, of the one-dimensional texture bound to unit 0.
+    void fillPolygonWithColorTable(std::span<const PixelPoint> corners, float position);
+    static constexpr std::size_t c_mostCorners = 6;
 
     /// Frees the pictures of all glyphs: the fonts they belong to are gone.
     void forgetFonts() { m_atlases.clear(); }
@@ -70,9 +104,15 @@ private:
     /// Corners in a circle, the first one at the top left of its texture.
     void addQuad(const std::array<Vertex, 4>& corners);
     template <class AddGlyph>
+    void drawGlyphs(const TextLayout& text, FontSet& fonts, const TextColors& colors, float depth, AddGlyph&& addGlyph);
+    /// @param offsets a copy of each glyph is drawn at each of them
+    template <class AddGlyph>
     void drawGlyphs(const TextLayout& text, FontSet& fonts, const vxgraphics3d::Color& color, float depth,
-                    AddGlyph&& addGlyph);
+                    std::span<const PixelPoint> offsets, AddGlyph&& addGlyph);
     void drawQuads(int mode, const vxgraphics3d::Color& color, float depth = 0.0f);
+    void drawQuads(const OverlayBlock& block);
+    void drawPolygon(std::span<const PixelPoint> corners, int mode, const vxgraphics3d::Color& color,
+                     float tablePosition);
     void bindAtlas(const GlyphAtlas& atlas);
 
     UploadCounts& m_counts;

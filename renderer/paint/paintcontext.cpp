@@ -21,28 +21,28 @@ Material faded(Material material, float opacity)
 
 void PaintContext::drawMesh(const Mesh* mesh, const Look& look) const
 {
-    if (mesh != nullptr) {
+    if (mesh != nullptr && hasFaces()) {
         meshes.draw(*mesh, look.toEye, faded(look.material, opacity));
     }
 }
 
 void PaintContext::drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const
 {
-    if (mesh != nullptr && instances != nullptr) {
+    if (mesh != nullptr && instances != nullptr && hasFaces()) {
         meshes.draw(*mesh, *instances, look.toEye, faded(look.material, opacity));
     }
 }
 
 void PaintContext::drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const
 {
-    if (spheres != nullptr) {
+    if (spheres != nullptr && hasFaces()) {
         meshes.draw(*spheres, radiusScale, look.toEye, faded(look.material, opacity));
     }
 }
 
 void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound) const
 {
-    if (mesh != nullptr) {
+    if (mesh != nullptr && hasLines()) {
         lines.draw(*mesh,
                    {view.projection * look.toEye, view.area.width, view.area.height, width * scale,
                     view.aboveFaces(width * scale), isRound},
@@ -53,6 +53,9 @@ void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width
 void PaintContext::drawSegments(std::span<const LineSegment> segments, const vxgraphics3d::Matrixf& toClip,
                                 const vxgraphics3d::Color& color, float width, float over) const
 {
+    if (!hasLines()) {
+        return;
+    }
     vxgraphics3d::Color faint = color;
     faint.alpha = static_cast<int>(std::lround(255.0f * opacity));
     lines.draw(segments,
@@ -63,7 +66,7 @@ void PaintContext::drawSegments(std::span<const LineSegment> segments, const vxg
 
 void PaintContext::drawSymbols(const InstanceBuffer* positions, const Look& look, RenderSymbol symbol, float size) const
 {
-    if (positions != nullptr) {
+    if (positions != nullptr && hasLines()) {
         symbols.draw(*positions, {view.projection * look.toEye, view.area.width, view.area.height, symbol, size * scale,
                                   faded(look.material, opacity).color, view.aboveFaces(size * scale)});
     }
@@ -71,14 +74,14 @@ void PaintContext::drawSymbols(const InstanceBuffer* positions, const Look& look
 
 void PaintContext::drawMesh(const Mesh* mesh, const PartLook& parts, const Look& look) const
 {
-    if (mesh != nullptr) {
+    if (mesh != nullptr && hasFaces()) {
         meshes.draw(*mesh, parts, look.toEye, faded(look.material, opacity));
     }
 }
 
 void PaintContext::drawLines(const LineMesh* mesh, const PartLook& parts, const Look& look) const
 {
-    if (mesh != nullptr) {
+    if (mesh != nullptr && hasLines()) {
         lines.draw(*mesh, parts, {view.projection * look.toEye, view.area.width, view.area.height, 1.0f},
                    faded(look.material, opacity));
     }
@@ -87,7 +90,7 @@ void PaintContext::drawLines(const LineMesh* mesh, const PartLook& parts, const 
 void PaintContext::drawSymbols(const InstanceBuffer* positions, const PartLook& parts, RenderSymbol symbol,
                                const Look& look) const
 {
-    if (positions != nullptr) {
+    if (positions != nullptr && hasLines()) {
         symbols.draw(*positions, parts,
                      {view.projection * look.toEye, view.area.width, view.area.height, symbol, 1.0f,
                       faded(look.material, opacity).color});

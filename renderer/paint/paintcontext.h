@@ -39,6 +39,10 @@ struct ObjectStyle {
     bool showPhysicsMarkers;
 };
 
+/// What painters draw at a time. Lines and symbols have smooth borders, which take in the colours of what was drawn
+/// before: they follow when all faces are there. Translucent things are drawn whole.
+enum class DrawPhase { all, faces, lines };
+
 /// Where something is drawn, and how it looks.
 struct Look {
     /// From its vertices to the eye.
@@ -68,6 +72,8 @@ struct PaintContext {
     const SymbolPainter& symbols;
     std::vector<SceneIcon>& icons;
     std::vector<SceneLabel>& labels;
+    /// Calls that belong to another phase do nothing.
+    DrawPhase phase = DrawPhase::all;
 
     void drawMesh(const Mesh* mesh, const Look& look) const;
     void drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const;
@@ -94,9 +100,22 @@ struct PaintContext {
                      const Look& look) const;
 
     /// The icon is drawn over everything that it is not hidden by, before the labels.
-    void drawIcon(SceneIcon icon) const { icons.push_back(std::move(icon)); }
+    void drawIcon(SceneIcon icon) const
+    {
+        if (hasLines()) {
+            icons.push_back(std::move(icon));
+        }
+    }
     /// The label is drawn over everything that it is not hidden by.
-    void drawLabel(SceneLabel label) const { labels.push_back(std::move(label)); }
+    void drawLabel(SceneLabel label) const
+    {
+        if (hasLines()) {
+            labels.push_back(std::move(label));
+        }
+    }
+
+    bool hasFaces() const { return phase != DrawPhase::lines; }
+    bool hasLines() const { return phase != DrawPhase::faces; }
 };
 
 } // namespace vxrenderer

@@ -1,6 +1,7 @@
 #include "renderer/paint/scenelabel.h"
 
 #include "graphics3d/foundation/textutil.h"
+#include "renderer/frame/contrast.h"
 #include "renderer/frame/view.h"
 #include "renderer/paint/overlaypainter.h"
 #include "renderer/paint/picturepoint.h"
@@ -18,7 +19,6 @@
 namespace vxrenderer {
 namespace {
 
-using vxgraphics3d::Color;
 using vxgraphics3d::Vector3f;
 
 TextLayout layoutOf(const vxbase::UString& text, FontSet& fonts)
@@ -103,13 +103,14 @@ private:
     std::map<Cell, std::vector<PixelRect>> m_cells;
 };
 
-/// Half the size of what may mark a point, in pixels.
-constexpr float c_pointSize = 3.0f;
+/// Half the size of what may mark a point, in units of the font size.
+constexpr float c_pointSize = 0.25f;
 
 /// Moves labels next to their points, and leaves out those without a free side. Sorts all, the nearest first.
-void placeBeside(std::vector<ShownLabel>& labels)
+void placeBeside(std::vector<ShownLabel>& labels, float fontSize)
 {
     std::ranges::stable_sort(labels, {}, &ShownLabel::pointDepth);
+    const float pointSize = c_pointSize * fontSize;
     TakenSpace taken;
     std::erase_if(labels, [&](ShownLabel& shown) {
         if (!shown.label->isBeside) {
@@ -134,7 +135,7 @@ void placeBeside(std::vector<ShownLabel>& labels)
         };
         const auto free = std::ranges::find_if(moves, [&](const auto& move) { return !taken.overlaps(rectAt(move)); });
         // A point stays visible also if its text does not.
-        taken.take({shown.x - c_pointSize, shown.y - c_pointSize, shown.x + c_pointSize, shown.y + c_pointSize});
+        taken.take({shown.x - pointSize, shown.y - pointSize, shown.x + pointSize, shown.y + pointSize});
         if (free == moves.end()) {
             return true;
         }
@@ -144,25 +145,6 @@ void placeBeside(std::vector<ShownLabel>& labels)
         shown.top = rect.top;
         return false;
     });
-}
-
-Color contrastingWith(const Color& color)
-{
-    constexpr int c_middle = 128 * 1000;
-    return Color::fromRgb(299 * color.red + 587 * color.green + 114 * color.blue < c_middle ? 0xffffff : 0x000000);
-}
-
-/// Draws a text moved to all sides by the width of its rim.
-void drawHalo(const ShownLabel& shown, FontSet& fonts, OverlayPainter& painter)
-{
-    constexpr float c_partOfFontSize = 0.1f;
-    const float width = std::max(1.0f, std::round(c_partOfFontSize * fonts.fontSize()));
-    const Color color = contrastingWith(shown.label->color);
-    for (const float dy : {-width, 0.0f, width}) {
-        for (const float dx : {-width, 0.0f, width}) {
-            painter.drawText(shown.text, fonts, shown.left + dx, shown.top + dy, color, shown.depth);
-        }
-    }
 }
 
 } // namespace
@@ -176,12 +158,7 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
             shownLabels.push_back(std::move(*shown));
         }
     }
-    placeBeside(shownLabels);
-    for (ShownLabel& shown : shownLabels) {
-        // Whole pixels, so that the text and its rim are rounded alike.
-        shown.left = std::round(shown.left);
-        shown.top = std::round(shown.top);
-    }
+    placeBeside(shownLabels, fonts.fontSize());
     // What is nearer is drawn later.
     std::ranges::reverse(shownLabels);
     painter.begin(width, height);
@@ -192,10 +169,8 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
         } else {
             glDisable(GL_DEPTH_TEST);
         }
-        if (shown.label->hasHalo) {
-            drawHalo(shown, fonts, painter);
-        }
-        painter.drawText(shown.text, fonts, shown.left, shown.top, shown.label->color, shown.depth);
+        painter.drawText(shown.text, fonts, shown.left, shown.top,
+                         {shown.label->color, contrastingWith(shown.label->color)}, shown.depth);
     }
     glDisable(GL_DEPTH_TEST);
     glDepthMask(GL_TRUE);

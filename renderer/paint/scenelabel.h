@@ -12,7 +12,8 @@ class FontSet;
 class OverlayPainter;
 struct View;
 
-/// A text at a point of the scene, which keeps its size and faces the eye.
+/// A text at a point of the scene, which keeps its size and faces the eye. It has a rim in black or white, whichever
+/// contrasts with its colour, so that it can be read on lines and on any surface.
 struct SceneLabel {
     /// In world coordinates.
     vxgraphics3d::Vector3f point;
@@ -24,9 +25,6 @@ struct SceneLabel {
     /// Whether the text lies next to the point, on the first of its sides and corners where it covers no other such
     /// text; where all are taken, it is left out. Otherwise its middle lies at the point.
     bool isBeside = false;
-    /// Whether the text has a rim in black or white, whichever contrasts with its colour, so that it can be read on
-    /// lines and on any surface.
-    bool hasHalo = false;
 };
 
 /// Draws labels into the scene buffer, whose depths they are compared with, each as a whole: what a text lies on does

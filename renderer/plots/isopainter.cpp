@@ -37,8 +37,7 @@ void drawLabel(const SceneGraphPlotIso& plot, int level, const Material& materia
     point.z = point.z * plot.getHeightScale() + plot.getPlotPlaneOffset();
     context.drawLabel({.point = point,
                        .text = vxbase::UString(plot.getLabels()[at]),
-                       .color = plot.getLabelColor(),
-                       .hasHalo = true});
+                       .color = plot.getLabelColor()});
 }
 
 } // namespace

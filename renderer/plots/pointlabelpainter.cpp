@@ -27,7 +27,7 @@ void PointLabelPainter::draw(const PlotItem& item, const PaintContext& context) 
         Vector3f point = points.getPart(static_cast<int>(i)).getPosition();
         point.z = point.z * plot.getHeightScale() + plot.getPlotPlaneOffset();
         context.drawLabel(
-            {.point = point, .text = plot.getLabels()[i], .color = plot.getColor(), .isBeside = true, .hasHalo = true});
+            {.point = point, .text = plot.getLabels()[i], .color = plot.getColor(), .isBeside = true});
     }
 }
 

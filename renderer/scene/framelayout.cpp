@@ -3,6 +3,7 @@
 #include "graphics3d/canvas/axissetup.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/decoration/legendscale.h"
+#include "renderer/frame/contrast.h"
 #include "renderer/frame/frame.h"
 #include "renderer/text/fontsets.h"
 
@@ -26,6 +27,12 @@ constexpr float c_titlePart = 0.3f;
 constexpr float c_legendPart = 0.45f;
 /// Legends that would be lower than this, in units of the size of their numbers, are left out.
 constexpr float c_lowestLegend = 4.0f;
+/// In a picture that is this much wider than it is high, legends of colours lie below the scene: beside it their bars
+/// would be short.
+constexpr float c_wideAspect = 2.2f;
+/// The widest horizontal legend, in the same units.
+constexpr float c_widestBar = 60.0f;
+constexpr vxgraphics3d::Color c_frameColor = {70, 70, 70, 255};
 /// Part of the picture that the legend of lines may take beside, above or below the axes.
 constexpr float c_lineLegendPart = 0.35f;
 
@@ -42,13 +49,21 @@ std::vector<PlotItem> withLegends(const std::vector<SceneItem>& items)
     return plots;
 }
 
+/// The rim of texts beside the plot, where the background alone does not let them be read.
+std::optional<vxgraphics3d::Color> haloOnBackground(const Appearance& appearance)
+{
+    return appearance.isBackdropUneven() ? std::optional(contrastingWith(appearance.textColor())) : std::nullopt;
+}
+
 LegendStyle legendStyleOf(const Frame& frame, FontSet& titles, FontSet& ticks)
 {
     const vxgraphics3d::Canvas3dGlobalSettings& settings = *vxgraphics3d::Canvas3dGlobalSettings::getInstance();
     return {.titleFonts = titles,
             .tickFonts = ticks,
             .color = frame.appearance.textColor(),
+            .frameColor = frame.appearance.readable(c_frameColor),
             .background = frame.appearance.backdrop.top,
+            .halo = haloOnBackground(frame.appearance),
             .scale = frame.appearance.scale,
             .lineWidth = std::max(1.0f, std::round(frame.appearance.scale)),
             .showMinMax = frame.appearance.showMinMax,
@@ -56,24 +71,27 @@ LegendStyle legendStyleOf(const Frame& frame, FontSet& titles, FontSet& ticks)
             .minMaxDigits = settings.getLegendMinMaxPrecision()};
 }
 
-/// @return the width that the legends take together
-float layOutLegends(FrameLayout& layout, float em, float maxWidth, float height)
+/// Lays out legends side by side in a part of the picture, as many as fit, and makes its size that of all of them.
+void layOutLegends(FrameLayout& layout, float em, TextSpace& part)
 {
     const std::vector<PlotItem> plots = withLegends(layout.items);
-    // The title of a plot is part of the title of the picture. With a single legend that is enough.
-    layout.legendStyle.showTitle = plots.size() > 1 || layout.title.numLines == 0;
-    float width = 0.0f;
+    LegendStyle& style = layout.legendStyle;
+    style.showTitle = plots.size() > 1 || layout.title.numLines == 0;
+    const auto count = static_cast<float>(std::max<std::size_t>(plots.size(), 1));
+    const float most = style.isHorizontal
+                           ? std::min(c_widestBar * em, (part.width - (count - 1.0f) * layout.legendGap) / count)
+                           : std::min(c_legendTitleWidth * em, part.width);
+    TextSpace taken = {0.0f, 0.0f};
     for (const PlotItem& plot : plots) {
-        std::unique_ptr<Legend> legend =
-            makeLegend(plot, layout.legendStyle, std::min(c_legendTitleWidth * em, maxWidth), height);
-        const float wider = width + legend->getWidth() + (layout.legends.empty() ? 0.0f : layout.legendGap);
-        if (wider > maxWidth) {
+        std::unique_ptr<Legend> legend = makeLegend(plot, style, most, part.height);
+        const float wider = taken.width + legend->getWidth() + (layout.legends.empty() ? 0.0f : layout.legendGap);
+        if (wider > part.width + 1.0f || legend->getHeight() > part.height) {
             break;
         }
-        width = wider;
+        taken = {wider, std::max(taken.height, legend->getHeight())};
         layout.legends.push_back(std::move(legend));
     }
-    return width;
+    part = taken;
 }
 
 std::vector<LineLegendEntry> lineLegendsOf(const std::vector<SceneItem>& items)
@@ -184,16 +202,27 @@ FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, c
     }
 
     const float legendHeight = fullHeight - top - margin;
-    float legendWidth = 0.0f;
-    if (frame.appearance.showLegends && legendHeight >= c_lowestLegend * em) {
-        legendWidth = layOutLegends(layout, em, c_legendPart * fullWidth, legendHeight);
-    }
     layout.legendTop = top;
-    layout.legendLeft = fullWidth - margin - std::ceil(legendWidth);
-    const float right = layout.legends.empty() ? fullWidth - margin : layout.legendLeft - margin;
+    float right = fullWidth - margin;
+    float bottom = fullHeight - margin;
+    layout.legendStyle.isHorizontal = fullWidth >= c_wideAspect * fullHeight;
+    if (frame.appearance.showLegends && legendHeight >= c_lowestLegend * em) {
+        const bool isHorizontal = layout.legendStyle.isHorizontal;
+        TextSpace part = isHorizontal ? TextSpace{right - margin, c_legendPart * fullHeight}
+                                      : TextSpace{c_legendPart * fullWidth, legendHeight};
+        layOutLegends(layout, em, part);
+        if (isHorizontal && !layout.legends.empty()) {
+            layout.legendTop = bottom - std::ceil(part.height);
+            layout.legendLeft = std::round(0.5f * (fullWidth - part.width));
+            bottom = layout.legendTop - margin;
+        } else if (!layout.legends.empty()) {
+            layout.legendLeft = right - std::ceil(part.width);
+            right = layout.legendLeft - margin;
+        }
+    }
     layout.titleLeft = 0.5f * (fullWidth - layout.title.width);
     layout.space = {static_cast<int>(margin), static_cast<int>(top), static_cast<int>(right - margin),
-                    static_cast<int>(fullHeight - top - margin)};
+                    static_cast<int>(bottom - top)};
     if (frame.appearance.showLegends) {
         layOutLineLegend(frame, layout);
     }

@@ -12,6 +12,7 @@
 #include "graphics3d/viewing/icameratransforms.h"
 #include "renderer/decoration/lightmarkers.h"
 #include "renderer/decoration/triadpainter.h"
+#include "renderer/frame/contrast.h"
 #include "renderer/frame/lighting.h"
 #include "renderer/gl/target.h"
 #include "renderer/objects/visibleparts.h"
@@ -30,6 +31,7 @@ using namespace vxgraphics3d;
 /// Widths of the lines of light markers, in pixels of the screen.
 constexpr float c_markerWidth = 1.5f;
 constexpr float c_selectedMarkerWidth = 3.5f;
+constexpr int c_markerRimAlpha = 110;
 /// Number of font sets kept before those of former sizes are given up.
 constexpr std::size_t c_manyFontSets = 24;
 
@@ -186,8 +188,12 @@ void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned rend
     }
     const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
     const auto firstTranslucent = std::stable_partition(shown.begin(), shown.end(), isOpaque);
+    for (const DrawPhase phase : {DrawPhase::faces, DrawPhase::lines}) {
+        PaintContext inPhase = context;
+        inPhase.phase = phase;
+        std::for_each(shown.begin(), firstTranslucent, [&](const SceneItem* item) { drawItem(*item, inPhase); });
+    }
     const auto draw = [&](const SceneItem* item) { drawItem(*item, context); };
-    std::for_each(shown.begin(), firstTranslucent, draw);
     if (firstTranslucent != shown.end() && context.opacity > 0.0f) {
         // What lies farther off comes first, by the middles of the items.
         const auto depthOf = [&](const SceneItem* item) { return (context.view.sceneToEye * centerOf(*item)).z; };
@@ -206,9 +212,18 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
     const BoundingBox& box = frame.scene->getBoundingBox();
     for (const LightMarker& marker : lightMarkers(*frame.scene->getSceneLight(), box, frame.camera)) {
         const float width = (marker.isSelected ? c_selectedMarkerWidth : c_markerWidth) * frame.appearance.scale;
-        m_lines.draw(marker.lines,
-                     {m_view.projection, m_view.area.width, m_view.area.height, width, m_view.aboveFaces(width)},
-                     marker.color);
+        m_solids.draw(marker.solids, m_view.projection);
+        // A rim lets them be seen on data of any colour.
+        Color rim = contrastingWith(marker.color);
+        rim.alpha = c_markerRimAlpha;
+        const float rimWidth = width + 2.0f * frame.appearance.scale;
+        const auto draw = [&](float lineWidth, float above, const Color& color) {
+            m_lines.draw(marker.lines,
+                         {m_view.projection, m_view.area.width, m_view.area.height, lineWidth, m_view.aboveFaces(above)},
+                         color);
+        };
+        draw(rimWidth, rimWidth, rim);
+        draw(width, 1.2f * rimWidth, marker.color);
     }
 }
 
@@ -247,7 +262,8 @@ void SceneRenderer::drawOverlay(const Overlay& overlay, const BoundingBox& frame
 void SceneRenderer::drawDecoration(const FrameLayout& layout)
 {
     m_overlay.begin(layout.width, layout.height);
-    m_overlay.drawText(layout.title, layout.titleFonts, layout.titleLeft, layout.titleTop, layout.legendStyle.color);
+    m_overlay.drawText(layout.title, layout.titleFonts, layout.titleLeft, layout.titleTop,
+                       layout.legendStyle.textColors());
 
     float headHeight = 0.0f;
     for (const auto& legend : layout.legends) {
@@ -288,7 +304,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
             axes.emplace(frame, m_view, layout.width, layout.height, layout.axisFonts);
         }
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
-            triad.emplace(frame, m_view);
+            triad.emplace(frame, m_view, layout.orientationFonts);
         }
         drawScene(frame, layout, axes ? &*axes : nullptr);
     }
@@ -297,7 +313,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         axes->drawAround(m_lines);
     }
     if (triad) {
-        triad->drawAxes(m_lines, layout.width, layout.height);
+        triad->drawAxes(m_solids, layout.width, layout.height);
     }
     setBlending(false);
     drawOverlays(frame, layout);
@@ -307,7 +323,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         axes->drawLabels(m_overlay, layout.axisFonts);
     }
     if (triad) {
-        triad->drawLetters(m_overlay, layout.orientationFonts);
+        triad->drawLetters(m_overlay);
     }
     dropUnused();
 }

@@ -9,6 +9,7 @@
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/solidpainter.h"
 #include "renderer/paint/symbolpainter.h"
 #include "renderer/plots/plotpainter.h"
 #include "renderer/scene/framelayout.h"
@@ -89,6 +90,7 @@ private:
     MeshPainter m_meshes;
     LinePainter m_lines;
     SymbolPainter m_symbols;
+    SolidPainter m_solids;
     ShapePainter m_shapes;
     OverlayPainter m_overlay{m_counts};
     FontSets m_fontSets;

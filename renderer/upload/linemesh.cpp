@@ -9,7 +9,7 @@
 #include <cstring>
 #include <stdexcept>
 #include <string>
-#include <utility>
+#include <vector>
 
 namespace vxrenderer {
 namespace {
@@ -30,21 +30,21 @@ void forEachPiece(const IndexBuffer& indices, Add&& add)
     }
 }
 
+bool isFinite(const LinePiece& piece)
+{
+    const auto isPoint = [](const vxgraphics3d::Vector3f& point, float u) {
+        return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z) && std::isfinite(u);
+    };
+    return isPoint(piece.from, piece.uFrom) && isPoint(piece.to, piece.uTo);
+}
+
 } // namespace
 
 LineMesh::LineMesh()
 {
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_pieces.name());
-    const auto describe = [](Attribute attribute, GLint size, std::ptrdiff_t offset) {
-        const auto location = static_cast<GLuint>(attribute);
-        glEnableVertexAttribArray(location);
-        glVertexAttribPointer(location, size, GL_FLOAT, GL_FALSE, sizeof(Piece), offsetPointer(offset));
-        glVertexAttribDivisor(location, 1);
-    };
-    describe(Attribute::from, 3, offsetof(Piece, from));
-    describe(Attribute::to, 3, offsetof(Piece, to));
-    describe(Attribute::texture, 2, offsetof(Piece, uFrom));
+    JointedPiece::describe();
     glBindVertexArray(0);
 }
 
@@ -66,27 +66,32 @@ void LineMesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
         }
     };
     std::vector<Piece> pieces;
+    std::vector<int> corners;
     pieces.reserve(static_cast<std::size_t>(checked.size()));
     forEachPiece(indices, [&](int from, int to) {
         Piece piece;
         read(from, piece.from, piece.uFrom);
         read(to, piece.to, piece.uTo);
-        pieces.push_back(piece);
+        if (isFinite(piece)) {
+            pieces.push_back(piece);
+            corners.push_back(static_cast<int>(checked[from]));
+            corners.push_back(static_cast<int>(checked[to]));
+        }
     });
-    load(std::move(pieces));
+    load(indices.getType() == IndexBuffer::Lines ? joinPairs(pieces, corners) : joinRuns(pieces));
 }
 
 void LineMesh::load(std::vector<Piece> pieces)
 {
     m_numPieces = 0;
-    const auto isFinite = [](const vxgraphics3d::Vector3f& point, float u) {
-        return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z) && std::isfinite(u);
-    };
-    std::erase_if(pieces, [&](const Piece& piece) {
-        return !isFinite(piece.from, piece.uFrom) || !isFinite(piece.to, piece.uTo);
-    });
+    std::erase_if(pieces, [](const Piece& piece) { return !isFinite(piece); });
+    load(joinRuns(pieces));
+}
+
+void LineMesh::load(const std::vector<JointedPiece>& pieces)
+{
     glBindBuffer(GL_ARRAY_BUFFER, m_pieces.name());
-    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(pieces.size() * sizeof(Piece)), pieces.data(),
+    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(pieces.size() * sizeof(JointedPiece)), pieces.data(),
                  GL_STATIC_DRAW);
     if (glGetError() == GL_OUT_OF_MEMORY) {
         throw std::runtime_error("The driver has no memory for lines.");

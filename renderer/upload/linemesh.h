@@ -1,9 +1,8 @@
 #pragma once
 
-#include "graphics3d/foundation/vector3f.h"
 #include "renderer/gl/globject.h"
+#include "renderer/upload/linejoints.h"
 
-#include <cstddef>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -17,16 +16,7 @@ namespace vxrenderer {
 /// rectangle and carries both of its ends.
 class LineMesh {
 public:
-    /// A straight piece, with the texture coordinates of its ends.
-    struct Piece {
-        vxgraphics3d::Vector3f from;
-        vxgraphics3d::Vector3f to;
-        float uFrom = 0.0f;
-        float uTo = 0.0f;
-    };
-
-    /// Locations of the attributes in shaders of lines.
-    enum class Attribute : GLuint { from = 0, to = 1, texture = 2 };
+    using Piece = LinePiece;
 
     LineMesh();
 
@@ -37,7 +27,8 @@ public:
     /// @throws std::runtime_error if the driver has no memory for it
     void load(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
 
-    /// Copies pieces, without those that have something not finite.
+    /// Copies pieces, without those that have something not finite. Pieces that follow each other are joined, see
+    /// `joinRuns`.
     /// @throws std::runtime_error if the driver has no memory for it
     void load(std::vector<Piece> pieces);
 
@@ -45,10 +36,11 @@ public:
     void draw() const;
 
 private:
+    void load(const std::vector<JointedPiece>& pieces);
+
     GlVertexArray m_array;
     GlBuffer m_pieces;
     GLsizei m_numPieces = 0;
 };
-static_assert(sizeof(LineMesh::Piece) == 32 && offsetof(LineMesh::Piece, uFrom) == 24);
 
 } // namespace vxrenderer

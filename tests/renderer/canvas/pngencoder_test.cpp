@@ -28,6 +28,7 @@ TEST(PngEncoder, keepsPixelsResolutionAndTexts)
     EXPECT_EQ(file.numChannels, 4);
     EXPECT_EQ(file.pixels, pixels);
     EXPECT_EQ(file.perMetre, 11811u);
+    EXPECT_TRUE(file.isSrgb);
     EXPECT_EQ(file.texts, (std::map<std::string, std::string>{{"Title", "Stress"}, {"Creator", "R\xC3\xA9mi"}}));
 }
 

@@ -16,6 +16,7 @@ struct PngFile {
     int height = 0;
     int numChannels = 0;
     unsigned perMetre = 0;
+    bool isSrgb = false;
     std::map<std::string, std::string> texts;
     std::vector<std::uint8_t> pixels;
 
@@ -33,6 +34,7 @@ struct PngFile {
         height = static_cast<int>(png_get_image_height(png, info));
         numChannels = png_get_channels(png, info);
         perMetre = png_get_x_pixels_per_meter(png, info);
+        isSrgb = png_get_valid(png, info, PNG_INFO_sRGB) != 0;
         png_textp found = nullptr;
         const int numTexts = png_get_text(png, info, &found, nullptr);
         for (int i = 0; i < numTexts; ++i) {

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vxgraphics3d {
+class SceneGraphPlot;
+}
+
+namespace vxrenderer {
+
+struct LegendScale;
+
+/// How the numbers of one legend are written: all with the same power of ten, and with enough decimals.
+struct NumberFormat {
+    /// The numbers are to be multiplied by ten to this power.
+    int exponent = 0;
+    /// Digits after the point that each number has at least.
+    int decimals = 0;
+
+    /// A number in title markup. One that is too large or too small for the format has its own power of ten.
+    /// @param digits the most significant digits
+    std::string textOf(double value, int digits) const;
+};
+
+/// What is marked at the bar of a legend. Positions are 0 at its lower end and 1 at its upper one.
+struct LegendMarks {
+    struct Tick {
+        double position;
+        /// In title markup.
+        std::string label;
+    };
+
+    std::vector<Tick> ticks;
+    /// Between the labelled ones.
+    std::vector<double> minorTicks;
+    NumberFormat format;
+    /// The smallest and the largest value of the data, in the format of the ticks.
+    std::string smallest;
+    std::string largest;
+    /// Where they are; nothing for one beyond the ends.
+    std::optional<double> smallestAt;
+    std::optional<double> largestAt;
+    /// Whether values are shown that lie beyond the ends, in the colours of the ends.
+    bool isClippedBelow = false;
+    bool isClippedAbove = false;
+    /// The part of the bar with values that a restriction of the plot does not hide.
+    double shownFrom = 0.0;
+    double shownTo = 1.0;
+
+    /// @param aboutCount how many labelled ticks are wanted
+    /// @param digits,minMaxDigits significant digits of their labels, and of the smallest and the largest value
+    static LegendMarks of(const vxgraphics3d::SceneGraphPlot& plot, const LegendScale& scale, int aboutCount,
+                          int digits, int minMaxDigits);
+};
+
+/// The labels of levels, by which a legend of stripes is labelled: all with the same number of decimals, or as powers
+/// of ten where the levels are logarithmic and reach far.
+std::vector<std::string> levelLabels(const std::vector<double>& levels, int digits);
+
+/// Whether levels rise by one factor: at least three, all positive.
+bool areLogarithmic(const std::vector<double>& levels);
+
+/// The unit at the end of a title, as UTF-8: in brackets, or after the word "in". Empty if there is none.
+std::string unitOf(const std::string& title);
+
+} // namespace vxrenderer
