@@ -14,6 +14,7 @@
 #include "graphics3d/settings/contextdata.h"
 #include "renderer/canvas/glrendererinfo.h"
 #include "renderer/canvas/pngencoder.h"
+#include "renderer/export/vectorcanvas.h"
 #include "renderer/gl/target.h"
 #include "renderer/scene/sceneitems.h"
 #include "renderer/scene/scenerenderer.h"
@@ -21,6 +22,7 @@
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 
@@ -334,7 +336,8 @@ void OffscreenCanvas::keepVisible(PickedObjectCollection& picked)
     requireNoFault();
 }
 
-std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings& settings, int width, int height)
+std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings& settings, int width, int height,
+                                                          HardcopyFormat format)
 {
     dropDisposedScene();
     const EglContext::Current current(m_context);
@@ -342,6 +345,11 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
     look.markingMode = m_markingMode;
+    std::optional<VectorCanvas> vectors;
+    if (format != HardcopyFormat::png) {
+        vectors.emplace(format == HardcopyFormat::pdf ? VectorFormat::pdf : VectorFormat::svg, width, height,
+                        look.pixelsPerInch, settings.getFileTitle(), settings.getFileCreator());
+    }
     // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;
@@ -350,7 +358,11 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
         FrameLayout layout = m_renderer->layOut(frame, width, height);
         showTheSame(copy, camera);
         SceneRenderer::placeScene(frame, layout);
-        m_renderer->draw(frame, layout, target);
+        if (vectors) {
+            m_renderer->drawVectors(frame, layout, target, *vectors);
+        } else {
+            m_renderer->draw(frame, layout, target);
+        }
     };
     if (renderModeOf(*m_settings) == Canvas3dSettings::RenderMode2d) {
         drawWithCopy(*m_settings->getCamera2d());
@@ -358,6 +370,9 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
         drawWithCopy(*m_settings->getCamera3d());
     }
     requireNoFault();
+    if (vectors) {
+        return vectors->finish();
+    }
     std::vector<std::uint8_t> pixels(bytesOf(target));
     target.read(pixels.data());
     requireNoFault();

@@ -13,8 +13,7 @@
 #include "renderer/axes/gridbox.h"
 #include "renderer/axes/labelplacer.h"
 #include "renderer/frame/frame.h"
-#include "renderer/paint/linepainter.h"
-#include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/decorationcanvas.h"
 #include "renderer/text/titlemarkup.h"
 
 #include <algorithm>
@@ -56,7 +55,7 @@ GridBoxInput gridBoxInput(const Frame& frame)
 
 /// Draws lines, first the faint ones.
 void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int width, int height, float lineWidth,
-               const Color& color, const Color& minorColor, const LinePainter& painter)
+               const Color& color, const Color& minorColor, DecorationCanvas& canvas)
 {
     for (const bool isMinor : {true, false}) {
         std::vector<LineSegment> segments;
@@ -66,7 +65,7 @@ void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int wi
                 segments.push_back({line.from, line.to});
             }
         }
-        painter.draw(segments, {toClip, width, height, lineWidth}, isMinor ? minorColor : color);
+        canvas.drawLines(segments, {toClip, width, height, lineWidth}, isMinor ? minorColor : color);
     }
 }
 
@@ -155,21 +154,21 @@ void AxesPainter::layOutAxes2d(const Frame& frame, const View& view, const AxisF
     }
 }
 
-void AxesPainter::drawBehind(const LinePainter& painter) const
+void AxesPainter::drawBehind(DecorationCanvas& canvas) const
 {
-    drawInArea(painter, m_gridColor);
+    drawInArea(canvas, m_gridColor);
 }
 
-void AxesPainter::drawOver(const LinePainter& painter) const
+void AxesPainter::drawOver(DecorationCanvas& canvas) const
 {
     if (m_view.isFlat) {
         Color trace = m_gridColor;
         trace.alpha = c_traceAlpha;
-        drawInArea(painter, trace);
+        drawInArea(canvas, trace);
     }
 }
 
-void AxesPainter::drawInArea(const LinePainter& painter, const Color& color) const
+void AxesPainter::drawInArea(DecorationCanvas& canvas, const Color& color) const
 {
     Matrixf toClip = m_view.projection * m_view.sceneToEye;
     if (m_view.isFlat) {
@@ -179,16 +178,16 @@ void AxesPainter::drawInArea(const LinePainter& painter, const Color& color) con
         toClip.translate(-static_cast<float>(m_view.area.x), -static_cast<float>(m_view.area.y), 0.0f);
     }
     drawLines(m_behind, toClip, m_view.area.width, m_view.area.height, m_lineWidth, color,
-              m_appearance.faintGrid(color, c_minorPart), painter);
+              m_appearance.faintGrid(color, c_minorPart), canvas);
 }
 
-void AxesPainter::drawAround(const LinePainter& painter) const
+void AxesPainter::drawAround(DecorationCanvas& canvas) const
 {
-    drawLines(m_around, pixelsToClip(m_width, m_height), m_width, m_height, m_lineWidth,
-              m_labelColor, m_labelColor, painter);
+    drawLines(m_around, pixelsToClip(m_width, m_height), m_width, m_height, m_lineWidth, m_labelColor, m_labelColor,
+              canvas);
 }
 
-void AxesPainter::drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const
+void AxesPainter::drawLabels(DecorationCanvas& canvas, const AxisFonts& fonts) const
 {
     for (const AxisLabel& label : m_labels) {
         FontSet& font = label.isTitle ? fonts.titles : fonts.ticks;
@@ -201,9 +200,9 @@ void AxesPainter::drawLabels(OverlayPainter& painter, const AxisFonts& fonts) co
         const TextColors colors = {m_labelColor,
                                    m_appearance.haloOf(m_labelColor, static_cast<double>(top) / m_height)};
         if (label.isVertical) {
-            painter.drawTextUpwards(text, font, left, top + height, colors);
+            canvas.drawTextUpwards(text, font, left, top + height, colors);
         } else {
-            painter.drawText(text, font, left, top, colors);
+            canvas.drawText(text, font, left, top, colors);
         }
     }
 }

@@ -11,8 +11,7 @@ namespace vxrenderer {
 
 struct Appearance;
 struct Frame;
-class LinePainter;
-class OverlayPainter;
+class DecorationCanvas;
 
 /// Fonts of a picture's axes.
 struct AxisFonts {
@@ -43,16 +42,16 @@ public:
     AxesPainter(const Frame& frame, const View& view, int width, int height, const AxisFonts& fonts);
 
     /// What lies behind the data. The viewport is the area of the scene.
-    void drawBehind(const LinePainter& painter) const;
+    void drawBehind(DecorationCanvas& canvas) const;
     /// A trace of the grid over the data of a flat view, which would hide it completely. The viewport is the area of
     /// the scene.
-    void drawOver(const LinePainter& painter) const;
+    void drawOver(DecorationCanvas& canvas) const;
     /// What lies around the data. The viewport is the whole picture.
-    void drawAround(const LinePainter& painter) const;
-    void drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const;
+    void drawAround(DecorationCanvas& canvas) const;
+    void drawLabels(DecorationCanvas& canvas, const AxisFonts& fonts) const;
 
 private:
-    void drawInArea(const LinePainter& painter, const vxgraphics3d::Color& color) const;
+    void drawInArea(DecorationCanvas& canvas, const vxgraphics3d::Color& color) const;
     void layOutGridBox(const Frame& frame, const View& view, const AxisFonts& fonts);
     void layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts);
 

@@ -163,8 +163,8 @@ LegendMarks LegendMarks::of(const vxgraphics3d::SceneGraphPlot& plot, const Lege
     if (plot.hasValueRestrictions()) {
         shownLow = std::max(smallest, plot.getValueRestrictionMin());
         shownHigh = std::min(largest, plot.getValueRestrictionMax());
-        const auto [from, to] = std::minmax(scale.heightOf(plot.getValueRestrictionMin()),
-                                            scale.heightOf(plot.getValueRestrictionMax()));
+        const auto [from, to] =
+            std::minmax(scale.heightOf(plot.getValueRestrictionMin()), scale.heightOf(plot.getValueRestrictionMax()));
         if (scale.lowerValue != scale.upperValue) {
             marks.shownFrom = std::clamp(from, 0.0, 1.0);
             marks.shownTo = std::clamp(to, 0.0, 1.0);

@@ -67,10 +67,9 @@ void addBulb(LightMarker& marker, const Vector3f& place, float radius)
 void addRays(LightMarker& marker, const Vector3f& place, float radius)
 {
     constexpr float c_third = 0.577f;
-    for (const Vector3f& arm :
-         {Vector3f(1.0f, 0.0f, 0.0f), Vector3f(0.0f, 1.0f, 0.0f), Vector3f(0.0f, 0.0f, 1.0f),
-          Vector3f(c_third, c_third, c_third), Vector3f(-c_third, c_third, c_third),
-          Vector3f(c_third, -c_third, c_third), Vector3f(c_third, c_third, -c_third)}) {
+    for (const Vector3f& arm : {Vector3f(1.0f, 0.0f, 0.0f), Vector3f(0.0f, 1.0f, 0.0f), Vector3f(0.0f, 0.0f, 1.0f),
+                                Vector3f(c_third, c_third, c_third), Vector3f(-c_third, c_third, c_third),
+                                Vector3f(c_third, -c_third, c_third), Vector3f(c_third, c_third, -c_third)}) {
         const Vector3f from = arm * (c_raysFrom * c_bulbRadius * radius);
         const Vector3f to = arm * (c_raysTo * c_bulbRadius * radius);
         marker.lines.push_back({place + from, place + to});
@@ -182,8 +181,7 @@ std::vector<LightMarker> lightMarkers(const SceneLight& light, const BoundingBox
             const auto& spot = static_cast<const SpotLightSource&>(*source);
             const Vector3f place = eye.place(spot, spot.getPosition());
             const Vector3f aim = eye.aim(spot);
-            const float length =
-                std::clamp(aim.dot(center - place), c_shortestCone * radius, c_longestCone * radius);
+            const float length = std::clamp(aim.dot(center - place), c_shortestCone * radius, c_longestCone * radius);
             addBulb(marker, place, radius);
             addCone(marker, place, aim, spot.getSpreadAngle(), length);
             break;

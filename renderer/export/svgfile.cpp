@@ -43,7 +43,7 @@ std::string escaped(const std::string& text)
 
 std::string textsOf(const std::string& title, const std::string& creator)
 {
-    std::string texts;
+    std::string texts(1, '\n');
     if (!title.empty()) {
         texts += "<title>" + escaped(title) + "</title>\n";
     }
@@ -103,7 +103,7 @@ std::vector<std::uint8_t> completeSvg(const std::vector<std::uint8_t>& file, con
     const std::size_t root = text.find("<svg");
     const std::size_t end = root == std::string::npos ? root : text.find('>', root);
     if (end != std::string::npos) {
-        text.insert(end + 1, "\n" + textsOf(title, creator));
+        text.insert(end + 1, textsOf(title, creator));
     }
     return {text.begin(), text.end()};
 }

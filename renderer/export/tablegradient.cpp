@@ -58,8 +58,7 @@ std::vector<Run> runsOf(const ColorTable& table, float from, float to)
     for (int texel = texelOf(from);; texel += direction) {
         const int border = direction > 0 ? texel + 1 : texel;
         const double inTable = static_cast<double>(border) / ColorTable::c_numTexels;
-        const double end =
-            texel == last ? 1.0 : (inTable - static_cast<double>(from)) / static_cast<double>(to - from);
+        const double end = texel == last ? 1.0 : (inTable - static_cast<double>(from)) / static_cast<double>(to - from);
         const Rgb color = colorOf(texel);
         if (runs.empty() || runs.back().color != color) {
             runs.push_back({color, begin, end, 1});

@@ -5,11 +5,10 @@
 #include "renderer/export/svgfile.h"
 #include "renderer/export/tablegradient.h"
 
-#include <cairo-pdf.h>
-#include <cairo-svg.h>
-
 #include <algorithm>
 #include <array>
+#include <cairo-pdf.h>
+#include <cairo-svg.h>
 #include <cmath>
 #include <cstddef>
 #include <initializer_list>
@@ -166,8 +165,8 @@ VectorCanvas::VectorCanvas(VectorFormat format, int width, int height, float pix
     : m_format(format), m_page{0, 0, width, height}, m_area(m_page), m_title(title), m_creator(creator)
 {
     const double scale = c_pointsPerInch / static_cast<double>(pixelsPerInch);
-    const auto make = format == VectorFormat::pdf ? cairo_pdf_surface_create_for_stream
-                                                  : cairo_svg_surface_create_for_stream;
+    const auto make =
+        format == VectorFormat::pdf ? cairo_pdf_surface_create_for_stream : cairo_svg_surface_create_for_stream;
     m_surface.reset(make(vxTakeVectorBytes, &m_bytes, width * scale, height * scale), cairo_surface_destroy);
     require(cairo_surface_status(m_surface.get()));
     if (format == VectorFormat::pdf) {
@@ -294,9 +293,9 @@ void VectorCanvas::fillPolygon(std::span<const PixelPoint> corners, const Color&
 }
 
 void VectorCanvas::useColorTable(const boost::shared_ptr<const vxgraphics3d::SceneGraphPlotGroup>&, int,
-                                 const vxgraphics3d::ColorTable& table)
+                                 const boost::shared_ptr<const vxgraphics3d::ColorTable>& table)
 {
-    m_table = &table;
+    m_table = table;
 }
 
 void VectorCanvas::fillWithGradient(const PixelRect& rect, PixelPoint from, PixelPoint to, float fromColor,
@@ -424,13 +423,13 @@ void VectorCanvas::drawLines(std::span<const LineSegment> lines, const LinePaint
     setColor(color);
     cairo_set_line_width(m_context.get(), width);
     // As in the picture: the ends of translucent lines do not reach beyond their points.
-    cairo_set_line_cap(m_context.get(), color.alpha < 255  ? CAIRO_LINE_CAP_BUTT
-                                        : frame.isRound ? CAIRO_LINE_CAP_ROUND
-                                                        : CAIRO_LINE_CAP_SQUARE);
+    cairo_set_line_cap(m_context.get(), color.alpha < 255 ? CAIRO_LINE_CAP_BUTT
+                                        : frame.isRound   ? CAIRO_LINE_CAP_ROUND
+                                                          : CAIRO_LINE_CAP_SQUARE);
     std::optional<Point> last;
     for (const LineSegment& line : lines) {
-        const auto pixels = clipped(ClipPoint::of(frame.toClip, line.from), ClipPoint::of(frame.toClip, line.to),
-                                    m_area, width);
+        const auto pixels =
+            clipped(ClipPoint::of(frame.toClip, line.from), ClipPoint::of(frame.toClip, line.to), m_area, width);
         if (pixels) {
             // Pieces that continue each other are one line, with joints.
             if (last != pixels->first) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "renderer/export/translucentpicture.h"
 #include "renderer/export/vectorfonts.h"
 #include "renderer/paint/decorationcanvas.h"
 
@@ -16,17 +17,8 @@ namespace vxrenderer {
 
 enum class VectorFormat { pdf, svg };
 
-/// Pixels of a picture with an opacity.
-struct TranslucentPicture {
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-    /// 0xAARRGGBB with channels multiplied by alpha, the top row first.
-    std::vector<std::uint32_t> argb;
-};
-
-/// A page of a PDF or SVG file, on which decorations are drawn as vectors and texts. The same calls give the same bytes.
+/// A page of a PDF or SVG file, on which decorations are drawn as vectors and texts. The same calls give the same
+/// bytes.
 ///
 /// Only one exists at a time in the process; another thread that makes one waits.
 class VectorCanvas final : public DecorationCanvas {
@@ -52,7 +44,7 @@ public:
     void strokeRect(const PixelRect& rect, float width, const vxgraphics3d::Color& color) override;
     void fillPolygon(std::span<const PixelPoint> corners, const vxgraphics3d::Color& color) override;
     void useColorTable(const boost::shared_ptr<const vxgraphics3d::SceneGraphPlotGroup>& group, int handle,
-                       const vxgraphics3d::ColorTable& table) override;
+                       const boost::shared_ptr<const vxgraphics3d::ColorTable>& table) override;
     void fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor) override;
     void fillWithColorTableAcross(const PixelRect& rect, float leftColor, float rightColor) override;
     void fillPolygonWithColorTable(std::span<const PixelPoint> corners, float position) override;
@@ -82,7 +74,7 @@ private:
     std::vector<std::uint8_t> m_bytes;
     boost::shared_ptr<_cairo_surface> m_surface;
     boost::shared_ptr<_cairo> m_context;
-    const vxgraphics3d::ColorTable* m_table = nullptr;
+    boost::shared_ptr<const vxgraphics3d::ColorTable> m_table;
 };
 
 } // namespace vxrenderer

@@ -1,7 +1,8 @@
 #include "renderer/export/vectorfonts.h"
 
-#include <cairo-ft.h>
 #include <ft2build.h>
+
+#include <cairo-ft.h>
 #include FT_FREETYPE_H
 
 #include <memory>

@@ -38,7 +38,7 @@ public:
     /// Selects the colours for the following functions, until a text is drawn.
     /// @param group,handle under which the table is kept on the graphics hardware
     virtual void useColorTable(const boost::shared_ptr<const vxgraphics3d::SceneGraphPlotGroup>& group, int handle,
-                               const vxgraphics3d::ColorTable& table) = 0;
+                               const boost::shared_ptr<const vxgraphics3d::ColorTable>& table) = 0;
     /// The colours between two positions of the table, from the bottom of the rectangle to its top.
     virtual void fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor) = 0;
     /// The same from the left side of the rectangle to its right side.

@@ -22,8 +22,8 @@ struct LineSegment {
 };
 
 /// Draws lines of any width: a driver need not offer lines wider than one pixel, so each is a rectangle that faces the
-/// eye. Lines are smooth with any number of samples, since each pixel takes as much of their colour as they cover of it:
-/// draw them after what lies behind them. Segments that follow each other are joined.
+/// eye. Lines are smooth with any number of samples, since each pixel takes as much of their colour as they cover of
+/// it: draw them after what lies behind them. Segments that follow each other are joined.
 class LinePainter {
 public:
     /// Where lines go, and how wide they are.

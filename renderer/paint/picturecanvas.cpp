@@ -36,9 +36,9 @@ void PictureCanvas::fillPolygon(std::span<const PixelPoint> corners, const Color
 }
 
 void PictureCanvas::useColorTable(const boost::shared_ptr<const vxgraphics3d::SceneGraphPlotGroup>& group, int handle,
-                                  const vxgraphics3d::ColorTable& table)
+                                  const boost::shared_ptr<const vxgraphics3d::ColorTable>& table)
 {
-    m_textures.bind(group, handle, table);
+    m_textures.bind(group, handle, *table);
 }
 
 void PictureCanvas::fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor)

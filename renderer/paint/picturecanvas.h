@@ -23,7 +23,7 @@ public:
     void strokeRect(const PixelRect& rect, float width, const vxgraphics3d::Color& color) override;
     void fillPolygon(std::span<const PixelPoint> corners, const vxgraphics3d::Color& color) override;
     void useColorTable(const boost::shared_ptr<const vxgraphics3d::SceneGraphPlotGroup>& group, int handle,
-                       const vxgraphics3d::ColorTable& table) override;
+                       const boost::shared_ptr<const vxgraphics3d::ColorTable>& table) override;
     void fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor) override;
     void fillWithColorTableAcross(const PixelRect& rect, float leftColor, float rightColor) override;
     void fillPolygonWithColorTable(std::span<const PixelPoint> corners, float position) override;

@@ -3,6 +3,7 @@
 #include "graphics3d/foundation/textutil.h"
 #include "renderer/frame/contrast.h"
 #include "renderer/frame/view.h"
+#include "renderer/gl/globject.h"
 #include "renderer/paint/overlaypainter.h"
 #include "renderer/paint/picturepoint.h"
 #include "renderer/text/titlemarkup.h"
@@ -147,10 +148,36 @@ void placeBeside(std::vector<ShownLabel>& labels, float fontSize)
     });
 }
 
+/// Samples of a rectangle that pass the depth test.
+GLuint countSamples(const PixelRect& rect, float depth, OverlayPainter& painter)
+{
+    const GlQuery query;
+    glBeginQuery(GL_SAMPLES_PASSED, query.name());
+    painter.fillRect(rect, {0, 0, 0, 0}, depth);
+    glEndQuery(GL_SAMPLES_PASSED);
+    GLuint count = 0;
+    glGetQueryObjectuiv(query.name(), GL_QUERY_RESULT, &count);
+    return count;
+}
+
+/// Whether nothing in front of a label covers any of it.
+bool isFree(const ShownLabel& shown, float rim, OverlayPainter& painter)
+{
+    if (!shown.label->isHideable) {
+        return true;
+    }
+    const PixelRect rect = {shown.left - rim, shown.top - rim, shown.left + shown.text.width + rim,
+                            shown.top + shown.text.height + rim};
+    glDisable(GL_DEPTH_TEST);
+    const GLuint all = countSamples(rect, shown.depth, painter);
+    glEnable(GL_DEPTH_TEST);
+    return countSamples(rect, shown.depth, painter) == all;
+}
+
 } // namespace
 
 void drawLabels(std::span<const SceneLabel> labels, const View& view, int width, int height, FontSet& fonts,
-                OverlayPainter& painter)
+                OverlayPainter& painter, std::vector<PlacedLabel>* free)
 {
     std::vector<ShownLabel> shownLabels;
     for (const SceneLabel& label : labels) {
@@ -164,13 +191,17 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
     painter.begin(width, height);
     glDepthMask(GL_FALSE);
     for (const ShownLabel& shown : shownLabels) {
+        const TextColors colors = {shown.label->color, contrastingWith(shown.label->color)};
+        if (free != nullptr && isFree(shown, haloWidth(fonts.fontSize()), painter)) {
+            free->push_back({shown.text, shown.left, shown.top, colors});
+            continue;
+        }
         if (shown.label->isHideable) {
             glEnable(GL_DEPTH_TEST);
         } else {
             glDisable(GL_DEPTH_TEST);
         }
-        painter.drawText(shown.text, fonts, shown.left, shown.top,
-                         {shown.label->color, contrastingWith(shown.label->color)}, shown.depth);
+        painter.drawText(shown.text, fonts, shown.left, shown.top, colors, shown.depth);
     }
     glDisable(GL_DEPTH_TEST);
     glDepthMask(GL_TRUE);

@@ -152,8 +152,7 @@ private:
 
 } // namespace
 
-SolidPainter::SolidPainter()
-    : m_program("solids", (std::string(c_block) + c_vertexMain).c_str(), c_fragmentMain)
+SolidPainter::SolidPainter() : m_program("solids", (std::string(c_block) + c_vertexMain).c_str(), c_fragmentMain)
 {
     m_block.attach(m_program);
     glBindVertexArray(m_array.name());

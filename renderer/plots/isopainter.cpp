@@ -35,9 +35,7 @@ void drawLabel(const SceneGraphPlotIso& plot, int level, const Material& materia
     }
     Vector3f point = data.m_labelPosition;
     point.z = point.z * plot.getHeightScale() + plot.getPlotPlaneOffset();
-    context.drawLabel({.point = point,
-                       .text = vxbase::UString(plot.getLabels()[at]),
-                       .color = plot.getLabelColor()});
+    context.drawLabel({.point = point, .text = vxbase::UString(plot.getLabels()[at]), .color = plot.getLabelColor()});
 }
 
 } // namespace

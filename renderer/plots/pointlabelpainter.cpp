@@ -26,8 +26,7 @@ void PointLabelPainter::draw(const PlotItem& item, const PaintContext& context) 
     for (std::size_t i = 0; i < count; ++i) {
         Vector3f point = points.getPart(static_cast<int>(i)).getPosition();
         point.z = point.z * plot.getHeightScale() + plot.getPlotPlaneOffset();
-        context.drawLabel(
-            {.point = point, .text = plot.getLabels()[i], .color = plot.getColor(), .isBeside = true});
+        context.drawLabel({.point = point, .text = plot.getLabels()[i], .color = plot.getColor(), .isBeside = true});
     }
 }
 

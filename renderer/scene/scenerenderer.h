@@ -1,6 +1,8 @@
 #pragma once
 
 #include "graphics3d/foundation/lastchangeid.h"
+#include "renderer/decoration/axespainter.h"
+#include "renderer/decoration/triadpainter.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/view.h"
 #include "renderer/objects/objectpainter.h"
@@ -9,6 +11,7 @@
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/picturecanvas.h"
 #include "renderer/paint/solidpainter.h"
 #include "renderer/paint/symbolpainter.h"
 #include "renderer/plots/plotpainter.h"
@@ -21,6 +24,8 @@
 
 #include <boost/weak_ptr.hpp>
 
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -32,8 +37,10 @@ namespace vxrenderer {
 
 struct PaintContext;
 struct SceneIcon;
+struct PlacedLabel;
 struct SceneLabel;
 class Target;
+class VectorCanvas;
 
 /// Draws a scene, with its title, legends and axes, into a target.
 ///
@@ -52,6 +59,11 @@ public:
     /// @param layout of this frame, for the size of the target
     void draw(const Frame& frame, const FrameLayout& layout, const Target& target);
 
+    /// Draws a frame with its texts and lines as vectors. What the scene shows of surfaces and bodies is drawn into the
+    /// target and becomes a picture in it.
+    /// @param target of the size of the layout; its contents are lost
+    void drawVectors(const Frame& frame, const FrameLayout& layout, const Target& target, VectorCanvas& canvas);
+
     /// Removes from the results of a pick the parts and objects that the picture drawn last into a target does not
     /// show, see `findShown`. The scene must not have been changed since.
     /// @param view of that picture
@@ -64,7 +76,22 @@ public:
 
 private:
     void updateTitle(const vxgraphics3d::Scene& scene);
+    /// What is drawn around the data of a frame.
+    struct Surroundings {
+        std::optional<AxesPainter> axes;
+        std::optional<TriadPainter> triad;
+    };
+
+    /// Takes the view of a frame.
+    Surroundings layOutSurroundings(const Frame& frame, const FrameLayout& layout);
+    PictureCanvas pictureCanvas(const FrameLayout& layout);
     void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes);
+    /// Draws what vectors cannot show into a target, over a colour.
+    /// @param labels receives what may be drawn over it
+    std::vector<std::uint8_t> drawPicture(const Frame& frame, const FrameLayout& layout, const Target& target,
+                                          const vxgraphics3d::Color& background, const TriadPainter* triad,
+                                          std::vector<PlacedLabel>& labels);
+    void drawBackdrop(const Frame& frame, const FrameLayout& layout, const Target& target, VectorCanvas& canvas);
     /// @param icons,labels receive those that are to be drawn over the scene
     void drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
                   std::vector<SceneLabel>& labels);
@@ -73,10 +100,11 @@ private:
     bool isTranslucent(const SceneItem& item) const;
     void drawItems(const std::vector<SceneItem>& items, unsigned renderMask, const PaintContext& context) const;
     void drawLightMarkers(const Frame& frame);
-    void drawOverlays(const Frame& frame, const FrameLayout& layout);
+    /// @param free see `drawLabels`
+    void drawOverlays(const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free);
     void drawOverlay(const vxgraphics3d::Overlay& overlay, const vxgraphics3d::BoundingBox& framedBox, const View& view,
-                     const Frame& frame, const FrameLayout& layout);
-    void drawDecoration(const FrameLayout& layout);
+                     const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free);
+    void drawDecoration(const FrameLayout& layout, const Surroundings& around, DecorationCanvas& canvas);
     void dropUnused();
 
     UploadCounts m_counts;
