@@ -3,6 +3,7 @@
 
 #include "benchmarks/memory.h"
 #include "benchmarks/renderer/bareshader.h"
+#include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/lights/directionlightsource.h"
 #include "graphics3d/lights/scenelight.h"
 #include "renderer/frame/view.h"
@@ -55,11 +56,12 @@ constexpr int c_samples = 4;
 constexpr int c_fewPixels = 100000;
 
 /// Frames after the first one, in which nothing is uploaded: drawn and read back.
-void drawFrame(benchmark::State& state, Quality quality)
+void drawFrame(benchmark::State& state, Quality quality, float opacity)
 {
     const Waves waves(static_cast<int>(state.range(0)));
     OffscreenCanvas canvas(c_width, c_height, c_samples);
     canvas.setScene(waves.scene.scene);
+    canvas.getSceneSettings()->setGlobalOpacity(opacity);
     lookFrom(canvas, -50.0, 30.0);
     canvas.zoomExtents();
     if (drawnAsIs(canvas, quality).countDrawn(0, 0, c_width, c_height) < c_fewPixels) {
@@ -168,10 +170,15 @@ void sizes(benchmark::internal::Benchmark* frames)
     frames->Arg(224)->Arg(708)->Unit(benchmark::kMillisecond)->UseRealTime();
 }
 
-BENCHMARK_CAPTURE(drawFrame, full, Quality::full)->Name("drawFrame")->Apply(sizes);
+BENCHMARK_CAPTURE(drawFrame, full, Quality::full, 1.0f)->Name("drawFrame")->Apply(sizes);
 BENCHMARK_CAPTURE(drawBare, full, c_samples)->Name("drawFrame_limit")->Apply(sizes);
-BENCHMARK_CAPTURE(drawFrame, draft, Quality::draft)->Name("drawDraft")->Apply(sizes);
+BENCHMARK_CAPTURE(drawFrame, draft, Quality::draft, 1.0f)->Name("drawDraft")->Apply(sizes);
 BENCHMARK_CAPTURE(drawBare, draft, 1)->Name("drawDraft_limit")->Apply(sizes);
+// The surface seen through itself, in layers and in a draft as one.
+BENCHMARK_CAPTURE(drawFrame, translucent, Quality::full, 0.5f)->Name("drawTranslucent")->Apply(sizes);
+BENCHMARK_CAPTURE(drawBare, translucent, c_samples)->Name("drawTranslucent_limit")->Apply(sizes);
+BENCHMARK_CAPTURE(drawFrame, translucentDraft, Quality::draft, 0.5f)->Name("drawTranslucentDraft")->Apply(sizes);
+BENCHMARK_CAPTURE(drawBare, translucentDraft, 1)->Name("drawTranslucentDraft_limit")->Apply(sizes);
 BENCHMARK(drawTenMillion)->Name("draw_memory")->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace

@@ -282,7 +282,8 @@ void OffscreenCanvas::draw(Quality quality)
     m_drawnTarget = nullptr;
     const Target& target = quality == Quality::draft ? draftTarget() : *m_target;
     const Appearance look = appearance();
-    const Frame frame = frameOf(camera(), look);
+    Frame frame = frameOf(camera(), look);
+    frame.isDraft = quality == Quality::draft;
     m_renderer->draw(frame, m_renderer->layOut(frame, getWidth(), getHeight()), target);
     m_view = m_renderer->getView();
     if (m_sceneView) {

@@ -29,7 +29,9 @@ constexpr float c_lineWidth = 1.0f;
 /// What lines between labelled values have of the colour of the others.
 constexpr double c_minorPart = 0.35;
 /// Opacity of the trace of a grid over the data.
-constexpr int c_traceAlpha = 130;
+constexpr int c_traceAlpha = 100;
+/// Its depth in clip coordinates, behind all faces, so that it can be drawn where there are any.
+constexpr float c_traceDepth = 0.9999f;
 
 void append(std::vector<AxisLine>& lines, const std::vector<AxisLine>& more)
 {
@@ -156,29 +158,36 @@ void AxesPainter::layOutAxes2d(const Frame& frame, const View& view, const AxisF
 
 void AxesPainter::drawBehind(DecorationCanvas& canvas) const
 {
-    drawInArea(canvas, m_gridColor);
+    drawLines(m_behind, toClip(), m_view.area.width, m_view.area.height, m_lineWidth, m_gridColor,
+              m_appearance.faintGrid(m_gridColor, c_minorPart), canvas);
 }
 
-void AxesPainter::drawOver(DecorationCanvas& canvas) const
+void AxesPainter::drawOver(const LinePainter& painter) const
 {
-    if (m_view.isFlat) {
-        Color trace = m_gridColor;
-        trace.alpha = c_traceAlpha;
-        drawInArea(canvas, trace);
+    if (!m_view.isFlat) {
+        return;
     }
+    std::vector<LineSegment> segments;
+    for (const AxisLine& line : m_behind) {
+        if (!line.isMinor) {
+            segments.push_back({line.from, line.to});
+        }
+    }
+    Matrixf farthest = toClip();
+    farthest.translate(0.0f, 0.0f, c_traceDepth);
+    Color trace = m_gridColor;
+    trace.alpha = c_traceAlpha;
+    painter.drawShaded(segments, {farthest, m_view.area.width, m_view.area.height, m_lineWidth}, trace);
 }
 
-void AxesPainter::drawInArea(DecorationCanvas& canvas, const Color& color) const
+Matrixf AxesPainter::toClip() const
 {
-    Matrixf toClip = m_view.projection * m_view.sceneToEye;
-    if (m_view.isFlat) {
-        // The lines of a flat view count their pixels from the corner of the picture, the viewport from that of the
-        // area.
-        toClip = pixelsToClip(m_view.area.width, m_view.area.height);
-        toClip.translate(-static_cast<float>(m_view.area.x), -static_cast<float>(m_view.area.y), 0.0f);
+    if (!m_view.isFlat) {
+        return m_view.projection * m_view.sceneToEye;
     }
-    drawLines(m_behind, toClip, m_view.area.width, m_view.area.height, m_lineWidth, color,
-              m_appearance.faintGrid(color, c_minorPart), canvas);
+    // The lines of a flat view count their pixels from the corner of the picture, the viewport from that of the area.
+    Matrixf toClip = pixelsToClip(m_view.area.width, m_view.area.height);
+    return toClip.translate(-static_cast<float>(m_view.area.x), -static_cast<float>(m_view.area.y), 0.0f);
 }
 
 void AxesPainter::drawAround(DecorationCanvas& canvas) const

@@ -12,6 +12,7 @@ namespace vxrenderer {
 struct Appearance;
 struct Frame;
 class DecorationCanvas;
+class LinePainter;
 
 /// Fonts of a picture's axes.
 struct AxisFonts {
@@ -43,15 +44,15 @@ public:
 
     /// What lies behind the data. The viewport is the area of the scene.
     void drawBehind(DecorationCanvas& canvas) const;
-    /// A trace of the grid over the data of a flat view, which would hide it completely. The viewport is the area of
-    /// the scene.
-    void drawOver(DecorationCanvas& canvas) const;
+    /// A trace of the grid over the faces of a flat view, which would hide it completely, where depths of them are
+    /// nearer. It needs a copy of the scene. The viewport is the area of the scene.
+    void drawOver(const LinePainter& painter) const;
     /// What lies around the data. The viewport is the whole picture.
     void drawAround(DecorationCanvas& canvas) const;
     void drawLabels(DecorationCanvas& canvas, const AxisFonts& fonts) const;
 
 private:
-    void drawInArea(DecorationCanvas& canvas, const vxgraphics3d::Color& color) const;
+    vxgraphics3d::Matrixf toClip() const;
     void layOutGridBox(const Frame& frame, const View& view, const AxisFonts& fonts);
     void layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts);
 

@@ -164,14 +164,14 @@ LegendMarks LegendMarks::of(const vxgraphics3d::SceneGraphPlot& plot, const Lege
         shownLow = std::max(smallest, plot.getValueRestrictionMin());
         shownHigh = std::min(largest, plot.getValueRestrictionMax());
         const auto [from, to] =
-            std::minmax(scale.heightOf(plot.getValueRestrictionMin()), scale.heightOf(plot.getValueRestrictionMax()));
+            std::minmax({scale.heightOf(plot.getValueRestrictionMin()), scale.heightOf(plot.getValueRestrictionMax())});
         if (scale.lowerValue != scale.upperValue) {
             marks.shownFrom = std::clamp(from, 0.0, 1.0);
             marks.shownTo = std::clamp(to, 0.0, 1.0);
         }
     }
     if (shownLow <= shownHigh && scale.lowerValue != scale.upperValue) {
-        const auto [from, to] = std::minmax(scale.heightOf(shownLow), scale.heightOf(shownHigh));
+        const auto [from, to] = std::minmax({scale.heightOf(shownLow), scale.heightOf(shownHigh)});
         marks.isClippedBelow = from < -c_slack;
         marks.isClippedAbove = to > 1.0 + c_slack;
     }

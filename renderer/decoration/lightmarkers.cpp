@@ -80,7 +80,8 @@ void addRays(LightMarker& marker, const Vector3f& place, float radius)
 /// A line down to the bottom of the scene, with a ring around its foot.
 void addFoot(LightMarker& marker, const Vector3f& place, const Vector3f& foot, const Sides& ground, float radius)
 {
-    marker.lines.push_back({place, foot});
+    const Vector3f down = (foot - place).normalized();
+    marker.lines.push_back({place + down * (c_raysTo * c_bulbRadius * radius), foot});
     for (int side = 0; side < c_circleSides; ++side) {
         const auto at = [&](int corner) { return foot + turned(ground, corner) * (c_footRadius * radius); };
         marker.lines.push_back({at(side), at(side + 1)});
@@ -127,7 +128,8 @@ void addArrow(LightMarker& marker, const Matrixf& projection, const Vector3f& ce
     }
 }
 
-void addCone(LightMarker& marker, const Vector3f& tip, const Vector3f& axis, float angle, float length)
+/// @param bulb how far from the tip the lines begin
+void addCone(LightMarker& marker, const Vector3f& tip, const Vector3f& axis, float angle, float length, float bulb)
 {
     const Sides sides(axis);
     const auto rim = [&](int side) {
@@ -137,9 +139,9 @@ void addCone(LightMarker& marker, const Vector3f& tip, const Vector3f& axis, flo
         marker.lines.push_back({rim(side), rim(side + 1)});
     }
     for (int side = 0; side < c_circleSides; side += c_circleSides / c_coneLines) {
-        marker.lines.push_back({tip, rim(side)});
+        marker.lines.push_back({tip + (rim(side) - tip) * (bulb / length), rim(side)});
     }
-    marker.lines.push_back({tip, tip + axis * length});
+    marker.lines.push_back({tip + axis * bulb, tip + axis * length});
 }
 
 } // namespace
@@ -183,7 +185,7 @@ std::vector<LightMarker> lightMarkers(const SceneLight& light, const BoundingBox
             const Vector3f aim = eye.aim(spot);
             const float length = std::clamp(aim.dot(center - place), c_shortestCone * radius, c_longestCone * radius);
             addBulb(marker, place, radius);
-            addCone(marker, place, aim, spot.getSpreadAngle(), length);
+            addCone(marker, place, aim, spot.getSpreadAngle(), length, c_raysFrom * c_bulbRadius * radius);
             break;
         }
         }

@@ -25,8 +25,8 @@ TranslucentPicture TranslucentPicture::of(const std::vector<std::uint8_t>& onBla
 {
     const int height = static_cast<int>(onBlack.size() / 4) / width;
     const auto at = [&](int x, int y) {
-        const std::size_t offset = 4 * (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
-                                        static_cast<std::size_t>(x));
+        const std::size_t offset =
+            4 * (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x));
         return pixelOf(onBlack.data() + offset, onWhite.data() + offset);
     };
     int left = width;

@@ -18,7 +18,7 @@ double relativeLuminance(const Color& color)
 
 double contrastOf(const Color& one, const Color& other)
 {
-    const auto [low, high] = std::minmax(relativeLuminance(one), relativeLuminance(other));
+    const auto [low, high] = std::minmax({relativeLuminance(one), relativeLuminance(other)});
     return (high + 0.05) / (low + 0.05);
 }
 

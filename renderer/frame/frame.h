@@ -38,6 +38,8 @@ struct Frame {
     const vxgraphics3d::Overlay* screenOverlay = nullptr;
     /// What transformation frames of the overlay enclose; null for the whole scene.
     const vxgraphics3d::BoundingBox* framedBox = nullptr;
+    /// Whether another picture replaces this one at once, so that what is translucent need not be mixed in its order.
+    bool isDraft = false;
 
     /// Whether it is a 2D view.
     bool isFlat() const { return renderModeOf(canvas) == vxgraphics3d::Canvas3dSettings::RenderMode2d; }

@@ -17,7 +17,8 @@ GLint limit(GLenum name)
 
 void requireSize(int width, int height)
 {
-    const int largest = std::min(limit(GL_MAX_RENDERBUFFER_SIZE), limit(GL_MAX_VIEWPORT_DIMS));
+    const int largest =
+        std::min({limit(GL_MAX_RENDERBUFFER_SIZE), limit(GL_MAX_TEXTURE_SIZE), limit(GL_MAX_VIEWPORT_DIMS)});
     const std::string size = std::to_string(width) + " by " + std::to_string(height);
     if (width < 1 || height < 1) {
         throw std::invalid_argument("A picture needs at least one pixel in each direction, not " + size + ".");
@@ -43,16 +44,32 @@ void attach(const GlRenderbuffer& buffer, GLenum point, GLenum format, int sampl
     glFramebufferRenderbuffer(GL_FRAMEBUFFER, point, GL_RENDERBUFFER, buffer.name());
 }
 
+/// Depths are a texture, so that they can be read where something translucent is limited by them.
+void attachDepths(const GlTexture& depths, int samples, int width, int height)
+{
+    const GLenum kind = samples > 1 ? GL_TEXTURE_2D_MULTISAMPLE : GL_TEXTURE_2D;
+    glBindTexture(kind, depths.name());
+    if (samples > 1) {
+        glTexImage2DMultisample(kind, samples, GL_DEPTH24_STENCIL8, width, height, GL_TRUE);
+    } else {
+        glTexImage2D(kind, 0, GL_DEPTH24_STENCIL8, width, height, 0, GL_DEPTH_STENCIL, GL_UNSIGNED_INT_24_8, nullptr);
+        glTexParameteri(kind, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+        glTexParameteri(kind, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    }
+    glFramebufferTexture2D(GL_FRAMEBUFFER, GL_DEPTH_STENCIL_ATTACHMENT, kind, depths.name(), 0);
+}
+
 } // namespace
 
 Target::Target(int width, int height, int samples) : m_width(width), m_height(height), m_samples(1)
 {
     requireSize(width, height);
-    m_samples = std::clamp(samples, 1, std::max(1, limit(GL_MAX_SAMPLES)));
+    m_samples =
+        std::clamp(samples, 1, std::max(1, std::min(limit(GL_MAX_SAMPLES), limit(GL_MAX_DEPTH_TEXTURE_SAMPLES))));
 
     glBindFramebuffer(GL_FRAMEBUFFER, m_scene.name());
     attach(m_sceneColor, GL_COLOR_ATTACHMENT0, GL_RGBA8, m_samples, width, height);
-    attach(m_sceneDepth, GL_DEPTH_STENCIL_ATTACHMENT, GL_DEPTH24_STENCIL8, m_samples, width, height);
+    attachDepths(m_sceneDepth, m_samples, width, height);
     requireComplete("scene buffer");
 
     glBindFramebuffer(GL_FRAMEBUFFER, m_plain.name());

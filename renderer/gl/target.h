@@ -28,6 +28,9 @@ public:
     /// Lets what follows draw into the scene buffer, whose depths and stencil are cleared and whose
     /// colours are undefined.
     void beginScene() const;
+    /// The texture of the depths of the scene buffer, with its samples: of the kind `GL_TEXTURE_2D`, with several
+    /// samples `GL_TEXTURE_2D_MULTISAMPLE`.
+    GLuint getSceneDepths() const { return m_sceneDepth.name(); }
     /// Brings the scene into the plain buffer and lets what follows draw over it.
     void beginOverlay() const;
     /// Copies the plain buffer out: four bytes per pixel, red first, the top row first.
@@ -40,7 +43,7 @@ private:
     int m_samples;
     GlFramebuffer m_scene;
     GlRenderbuffer m_sceneColor;
-    GlRenderbuffer m_sceneDepth;
+    GlTexture m_sceneDepth;
     GlFramebuffer m_plain;
     GlRenderbuffer m_plainColor;
 };

@@ -1,5 +1,6 @@
 #include "renderer/paint/linepainter.h"
 
+#include "renderer/gl/scenecopy.h"
 #include "renderer/upload/linemesh.h"
 #include "renderer/upload/parttable.h"
 
@@ -164,7 +165,7 @@ centroid in float u;
 noperspective in vec2 local;
 flat in vec4 shape;
 flat in vec4 borders;
-out vec4 result;
+OUTPUT vec4 result;
 
 // The part of the pixel that the line covers.
 float covered()
@@ -201,6 +202,51 @@ void main()
 }
 )";
 
+// A line that is mixed with what is behind it, and made darker or lighter where it could not be told from that: in the
+// direction of its own colour unless that is at the end of the scale.
+constexpr const char* c_shadedMain = R"(
+uniform sampler2D behind;
+
+const float c_contrast = 1.55;
+
+vec3 linearOf(vec3 stored)
+{
+    return mix(stored / 12.92, pow((stored + 0.055) / 1.055, vec3(2.4)), greaterThan(stored, vec3(0.04045)));
+}
+
+vec3 storedOf(vec3 linear)
+{
+    return mix(linear * 12.92, 1.055 * pow(linear, vec3(1.0 / 2.4)) - 0.055, greaterThan(linear, vec3(0.0031308)));
+}
+
+float luminanceOf(vec3 linear)
+{
+    return dot(linear, vec3(0.2126, 0.7152, 0.0722));
+}
+
+void main()
+{
+    float part = covered();
+    if (part < 0.5 / 255.0) {
+        discard;
+    }
+    vec3 own = uniformColor.rgb;
+    vec3 under = texelFetch(behind, ivec2(gl_FragCoord.xy), 0).rgb;
+    vec3 color = mix(under, own, uniformColor.a);
+    vec3 linear = linearOf(under);
+    float light = luminanceOf(linear);
+    float ratio = (luminanceOf(linearOf(color)) + 0.05) / (light + 0.05);
+    if (max(ratio, 1.0 / ratio) < c_contrast) {
+        float darker = (light + 0.05) / c_contrast - 0.05;
+        float lighter = (light + 0.05) * c_contrast - 0.05;
+        bool isDarker = (luminanceOf(linearOf(own)) < light && darker > 0.0) || lighter > 1.0;
+        linear = isDarker ? linear * (darker / light) : mix(linear, vec3(1.0), (lighter - light) / (1.0 - light));
+        color = storedOf(linear);
+    }
+    result = vec4(color, part);
+}
+)";
+
 /// From the middle of a pixel to where a line begins to touch it, and to its farthest sample from there.
 constexpr float c_fringe = 0.5f;
 constexpr float c_sampledFringe = 1.25f;
@@ -208,10 +254,12 @@ constexpr float c_sampledFringe = 1.25f;
 /// What the lines of this class are blended by, which is part of how they are smooth.
 class Blending {
 public:
-    Blending() : m_wasOn(glIsEnabled(GL_BLEND) == GL_TRUE)
+    explicit Blending(FragmentOutput output) : m_wasOn(glIsEnabled(GL_BLEND) == GL_TRUE)
     {
-        glEnable(GL_BLEND);
-        glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+        if (output == FragmentOutput::picture) {
+            glEnable(GL_BLEND);
+            glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+        }
     }
     ~Blending()
     {
@@ -241,21 +289,48 @@ struct LinePainter::LineBlock {
     float fringe;
 };
 
-LinePainter::LinePainter()
-    : m_program("lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
-                (std::string(Material::c_source) + c_coverage + c_fragmentMain).c_str()),
-      m_partProgram(
-          "the lines of objects",
-          (std::string(c_renamed) + c_vertexInputs + c_namedAgain + PartRows::c_source + c_partsStart + c_vertexMain)
-              .c_str(),
-          (std::string(Material::c_source) + c_partColor + c_coverage + c_fragmentMain).c_str())
+LinePainter::Programs::Programs(FragmentOutput output)
+    : lines("lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
+            withOutput(output, std::string(Material::c_source) + c_coverage + c_fragmentMain).c_str()),
+      parts("the lines of objects",
+            (std::string(c_renamed) + c_vertexInputs + c_namedAgain + PartRows::c_source + c_partsStart + c_vertexMain)
+                .c_str(),
+            withOutput(output, std::string(Material::c_source) + c_partColor + c_coverage + c_fragmentMain).c_str())
 {
-    for (const GlProgram* program : {&m_program, &m_partProgram}) {
+    if (output == FragmentOutput::layers) {
+        attachLayers(lines);
+        attachLayers(parts);
+    }
+}
+
+void LinePainter::attach(const Programs& programs) const
+{
+    for (const GlProgram* program : {&programs.lines, &programs.parts}) {
         m_line.attach(*program);
         m_material.attach(*program);
     }
-    m_rows.attach(m_partProgram);
-    PartRows::attachTextures(m_partProgram);
+    m_rows.attach(programs.parts);
+    PartRows::attachTextures(programs.parts);
+}
+
+void LinePainter::setOutput(FragmentOutput output)
+{
+    m_output = output;
+    if (output == FragmentOutput::layers && !m_layerPrograms) {
+        m_layerPrograms = std::make_unique<Programs>(output);
+        attach(*m_layerPrograms);
+    }
+}
+
+LinePainter::LinePainter()
+    : m_shadedProgram(
+          "shaded lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
+          withOutput(FragmentOutput::picture, std::string(Material::c_source) + c_coverage + c_shadedMain).c_str())
+{
+    attach(m_programs);
+    m_line.attach(m_shadedProgram);
+    m_material.attach(m_shadedProgram);
+    m_shadedProgram.setSampler("behind", SceneCopy::c_unit);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     JointedPiece::describe();
@@ -281,18 +356,30 @@ void LinePainter::setUp(const GlProgram& program, const Frame& frame, const Mate
 
 void LinePainter::draw(std::span<const LineSegment> lines, const Frame& frame, const vxgraphics3d::Color& color) const
 {
+    const Material material = Material::of(color);
+    setUp(programs().lines, frame, material, !material.isTranslucent());
+    drawPieces(lines);
+}
+
+void LinePainter::drawShaded(std::span<const LineSegment> lines, const Frame& frame,
+                             const vxgraphics3d::Color& color) const
+{
+    setUp(m_shadedProgram, frame, Material::of(color), false);
+    drawPieces(lines);
+}
+
+void LinePainter::drawPieces(std::span<const LineSegment> lines) const
+{
     if (lines.empty()) {
         return;
     }
-    const Material material = Material::of(color);
-    setUp(m_program, frame, material, !material.isTranslucent());
     std::vector<LinePiece> pieces;
     pieces.reserve(lines.size());
     for (const LineSegment& line : lines) {
         pieces.push_back({line.from, line.to});
     }
     const std::vector<JointedPiece> joined = joinRuns(pieces);
-    const Blending blending;
+    const Blending blending(m_output);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(joined.size() * sizeof(JointedPiece)), joined.data(),
@@ -302,17 +389,17 @@ void LinePainter::draw(std::span<const LineSegment> lines, const Frame& frame, c
 
 void LinePainter::draw(const LineMesh& lines, const Frame& frame, const Material& material) const
 {
-    setUp(m_program, frame, material, !material.isTranslucent());
-    const Blending blending;
+    setUp(programs().lines, frame, material, !material.isTranslucent());
+    const Blending blending(m_output);
     lines.draw();
 }
 
 void LinePainter::draw(const LineMesh& lines, const PartLook& parts, const Frame& frame, const Material& material) const
 {
-    setUp(m_partProgram, frame, material, !material.isTranslucent());
+    setUp(programs().parts, frame, material, !material.isTranslucent());
     m_rows.set(parts.rows);
     parts.table.bind();
-    const Blending blending;
+    const Blending blending(m_output);
     lines.draw();
 }
 

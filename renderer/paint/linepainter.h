@@ -5,10 +5,12 @@
 #include "renderer/frame/view.h"
 #include "renderer/gl/globject.h"
 #include "renderer/gl/glprogram.h"
+#include "renderer/paint/layeroutput.h"
 #include "renderer/paint/material.h"
 #include "renderer/paint/partrows.h"
 #include "renderer/upload/uniformblock.h"
 
+#include <memory>
 #include <span>
 
 namespace vxrenderer {
@@ -44,8 +46,14 @@ public:
 
     LinePainter();
 
+    /// Where the colours of what follows go, at first into the picture.
+    void setOutput(FragmentOutput output);
+
     /// Draws lines that are copied for this call.
     void draw(std::span<const LineSegment> lines, const Frame& frame, const vxgraphics3d::Color& color) const;
+    /// Draws lines that are mixed by the alpha of their colour with the copy of the scene that is bound, see
+    /// `SceneCopy`, and made darker or lighter where they would not be distinguished from it.
+    void drawShaded(std::span<const LineSegment> lines, const Frame& frame, const vxgraphics3d::Color& color) const;
     /// Draws lines that stay on the graphics hardware.
     void draw(const LineMesh& lines, const Frame& frame, const Material& material) const;
     /// Draws the lines of an object, whose pieces have the numbers of their parts as texture coordinates. Width and
@@ -55,10 +63,23 @@ public:
 private:
     struct LineBlock;
 
-    void setUp(const GlProgram& program, const Frame& frame, const Material& material, bool isClosed) const;
+    struct Programs {
+        explicit Programs(FragmentOutput output);
 
-    GlProgram m_program;
-    GlProgram m_partProgram;
+        GlProgram lines;
+        GlProgram parts;
+    };
+
+    void attach(const Programs& programs) const;
+    const Programs& programs() const { return m_output == FragmentOutput::layers ? *m_layerPrograms : m_programs; }
+    void setUp(const GlProgram& program, const Frame& frame, const Material& material, bool isClosed) const;
+    void drawPieces(std::span<const LineSegment> lines) const;
+
+    FragmentOutput m_output = FragmentOutput::picture;
+    Programs m_programs{FragmentOutput::picture};
+    GlProgram m_shadedProgram;
+    /// Made when they are used for the first time.
+    std::unique_ptr<Programs> m_layerPrograms;
     UniformBlock<LineBlock> m_line;
     UniformBlock<Material> m_material;
     UniformBlock<PartRows> m_rows;

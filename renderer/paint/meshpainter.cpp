@@ -77,11 +77,12 @@ MeshShader lightShaderOf(const View& view, const Lighting& light)
 /// those whose middle is not in view.
 constexpr float c_largestPoint = 6.0f;
 
-/// Draws opaque faces at once, translucent ones in two steps: those that face away, then those that face the eye.
+/// Draws opaque faces and those of layers at once, others in two steps: those that face away, then those that face the
+/// eye.
 template <class Draw>
-void drawFaces(bool isTranslucent, Draw&& draw)
+void drawFaces(const Material& material, FragmentOutput output, Draw&& draw)
 {
-    if (isTranslucent) {
+    if (material.isTranslucent() && output == FragmentOutput::picture) {
         glEnable(GL_CULL_FACE);
         for (const GLenum culled : {GLenum{GL_FRONT}, GLenum{GL_BACK}}) {
             glCullFace(culled);
@@ -155,6 +156,9 @@ const GlProgram& MeshPainter::program(const MeshShader& shader)
         m_light.attach(known->second);
         m_model.attach(known->second);
         m_material.attach(known->second);
+        if (shader.output == FragmentOutput::layers) {
+            attachLayers(known->second);
+        }
         if (shader.hasParts) {
             m_rows.attach(known->second);
             PartRows::attachTextures(known->second);
@@ -172,6 +176,7 @@ void MeshPainter::setUp(const Mesh& mesh, MeshShader shader, const Matrixf& toEy
 void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& material, float radiusScale)
 {
     shader.isRestricted = material.isRestricted();
+    shader.output = m_output;
     program(shader).use();
     m_model.set({elementsOf(toEye), elementsOf(normalMatrixOf(toEye)), radiusScale});
     m_material.set(material);
@@ -182,7 +187,7 @@ void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& m
 void MeshPainter::draw(const Mesh& mesh, const Matrixf& toEye, const Material& material)
 {
     setUp(mesh, m_lightShader, toEye, material);
-    drawFaces(material.isTranslucent(), [&] { mesh.draw(); });
+    drawFaces(material, m_output, [&] { mesh.draw(); });
 }
 
 void MeshPainter::draw(const Mesh& mesh, const InstanceBuffer& instances, const Matrixf& toEye,
@@ -191,7 +196,7 @@ void MeshPainter::draw(const Mesh& mesh, const InstanceBuffer& instances, const 
     MeshShader shader = m_lightShader;
     shader.isInstanced = true;
     setUp(mesh, shader, toEye, material);
-    drawFaces(material.isTranslucent(), [&] { mesh.draw(instances); });
+    drawFaces(material, m_output, [&] { mesh.draw(instances); });
 }
 
 void MeshPainter::draw(const Mesh& mesh, const PartLook& parts, const Matrixf& toEye, const Material& material)
@@ -202,7 +207,7 @@ void MeshPainter::draw(const Mesh& mesh, const PartLook& parts, const Matrixf& t
     setUp(mesh, shader, toEye, material);
     m_rows.set(parts.rows);
     parts.table.bind();
-    drawFaces(material.isTranslucent(), [&] { mesh.draw(parts.ranges); });
+    drawFaces(material, m_output, [&] { mesh.draw(parts.ranges); });
 }
 
 float MeshPainter::largestInPixels(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye) const

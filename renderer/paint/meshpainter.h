@@ -24,11 +24,15 @@ struct View;
 
 /// Draws the faces of plots and objects, lit and seen from both sides.
 ///
-/// Opaque faces hide each other by their depths. Translucent ones are blended, those of a mesh that face away first.
+/// Opaque faces hide each other by their depths. Translucent ones go into layers, or are blended in a flat view, those
+/// of a mesh that face away first.
 class MeshPainter {
 public:
     /// Takes the view and the light of a frame.
     void begin(const View& view, const Lighting& lighting);
+
+    /// Where the colours of what follows go, at first into the picture.
+    void setOutput(FragmentOutput output) { m_output = output; }
 
     /// @param toEye from the vertices to the eye
     void draw(const Mesh& mesh, const vxgraphics3d::Matrixf& toEye, const Material& material);
@@ -57,6 +61,7 @@ private:
     std::map<MeshShader, GlProgram> m_programs;
     /// What the light of this frame asks for.
     MeshShader m_lightShader;
+    FragmentOutput m_output = FragmentOutput::picture;
     // Of the view of this frame.
     bool m_isFlat = false;
     float m_pixelSize = 1.0f;

@@ -127,7 +127,7 @@ layout(std140) uniform Light {
     vec4 lightSpecular[c_maxLights];
     vec4 lightCones[c_maxLights];
 };
-out vec4 result;
+OUTPUT vec4 result;
 
 // With n the normal on the side that is seen, at a point in the eye's coordinates.
 vec3 lit(vec3 color, vec3 n, vec3 point)
@@ -244,12 +244,14 @@ std::string MeshShader::mainOfFragments() const
 
 std::string MeshShader::fragmentSource() const
 {
-    return std::string(shape == Shape::triangles ? "" : "#extension GL_ARB_sample_shading : enable\n") +
-           constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
-           constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
-           constant("hasHighlights", hasHighlights) + constant("isTextured", isTextured) +
-           "const int c_numLights = " + std::to_string(numLights) + ";\n" + shapeConstants() + c_viewBlock +
-           Material::c_source + c_light + mainOfFragments();
+    const std::string source =
+        std::string(shape == Shape::triangles ? "" : "#extension GL_ARB_sample_shading : enable\n") +
+        constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
+        constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
+        constant("hasHighlights", hasHighlights) + constant("isTextured", isTextured) +
+        "const int c_numLights = " + std::to_string(numLights) + ";\n" + shapeConstants() + c_viewBlock +
+        Material::c_source + c_light + mainOfFragments();
+    return withOutput(output, source, shape != Shape::triangles);
 }
 
 } // namespace vxrenderer

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "renderer/paint/layeroutput.h"
+
 #include <compare>
 #include <cstddef>
 #include <string>
@@ -36,6 +38,8 @@ struct MeshShader {
     bool hasCones = false;
     /// Whether a light is mirrored.
     bool hasHighlights = false;
+    /// Where the colours go.
+    FragmentOutput output = FragmentOutput::picture;
 
     auto operator<=>(const MeshShader&) const = default;
 

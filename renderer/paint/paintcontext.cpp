@@ -19,81 +19,97 @@ Material faded(Material material, float opacity)
 
 } // namespace
 
+bool PaintContext::isDrawn(DrawPhase kind, bool isTranslucent) const
+{
+    if (phase != DrawPhase::all && phase != kind) {
+        return false;
+    }
+    if (pass == Pass::opaque && isTranslucent && isSomethingLeft != nullptr) {
+        *isSomethingLeft = true;
+    }
+    return pass == Pass::all || isTranslucent == (pass == Pass::translucent);
+}
+
 void PaintContext::drawMesh(const Mesh* mesh, const Look& look) const
 {
-    if (mesh != nullptr && hasFaces()) {
-        meshes.draw(*mesh, look.toEye, faded(look.material, opacity));
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && isDrawn(DrawPhase::faces, material.isTranslucent())) {
+        meshes.draw(*mesh, look.toEye, material);
     }
 }
 
 void PaintContext::drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const
 {
-    if (mesh != nullptr && instances != nullptr && hasFaces()) {
-        meshes.draw(*mesh, *instances, look.toEye, faded(look.material, opacity));
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && instances != nullptr && isDrawn(DrawPhase::marks, material.isTranslucent())) {
+        meshes.draw(*mesh, *instances, look.toEye, material);
     }
 }
 
 void PaintContext::drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const
 {
-    if (spheres != nullptr && hasFaces()) {
-        meshes.draw(*spheres, radiusScale, look.toEye, faded(look.material, opacity));
+    const Material material = faded(look.material, opacity);
+    if (spheres != nullptr && isDrawn(DrawPhase::marks, material.isTranslucent())) {
+        meshes.draw(*spheres, radiusScale, look.toEye, material);
     }
 }
 
 void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound) const
 {
-    if (mesh != nullptr && hasLines()) {
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && isDrawn(DrawPhase::lines, material.isTranslucent())) {
         lines.draw(*mesh,
                    {view.projection * look.toEye, view.area.width, view.area.height, width * scale,
                     view.aboveFaces(width * scale), isRound},
-                   faded(look.material, opacity));
+                   material);
     }
 }
 
 void PaintContext::drawSegments(std::span<const LineSegment> segments, const vxgraphics3d::Matrixf& toClip,
                                 const vxgraphics3d::Color& color, float width, float over) const
 {
-    if (!hasLines()) {
-        return;
-    }
     vxgraphics3d::Color faint = color;
     faint.alpha = static_cast<int>(std::lround(255.0f * opacity));
-    lines.draw(segments,
-               {toClip, view.area.width, view.area.height, width * scale,
-                view.aboveFaces(std::max(width, 1.1f * over) * scale)},
-               faint);
+    if (isDrawn(DrawPhase::lines, faint.alpha < 255)) {
+        lines.draw(segments,
+                   {toClip, view.area.width, view.area.height, width * scale,
+                    view.aboveFaces(std::max(width, 1.1f * over) * scale)},
+                   faint);
+    }
 }
 
 void PaintContext::drawSymbols(const InstanceBuffer* positions, const Look& look, RenderSymbol symbol, float size) const
 {
-    if (positions != nullptr && hasLines()) {
+    const Material material = faded(look.material, opacity);
+    if (positions != nullptr && isDrawn(DrawPhase::lines, material.isTranslucent())) {
         symbols.draw(*positions, {view.projection * look.toEye, view.area.width, view.area.height, symbol, size * scale,
-                                  faded(look.material, opacity).color, view.aboveFaces(size * scale)});
+                                  material.color, view.aboveFaces(size * scale)});
     }
 }
 
 void PaintContext::drawMesh(const Mesh* mesh, const PartLook& parts, const Look& look) const
 {
-    if (mesh != nullptr && hasFaces()) {
-        meshes.draw(*mesh, parts, look.toEye, faded(look.material, opacity));
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && isDrawn(DrawPhase::faces, material.isTranslucent())) {
+        meshes.draw(*mesh, parts, look.toEye, material);
     }
 }
 
 void PaintContext::drawLines(const LineMesh* mesh, const PartLook& parts, const Look& look) const
 {
-    if (mesh != nullptr && hasLines()) {
-        lines.draw(*mesh, parts, {view.projection * look.toEye, view.area.width, view.area.height, 1.0f},
-                   faded(look.material, opacity));
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && isDrawn(DrawPhase::lines, material.isTranslucent())) {
+        lines.draw(*mesh, parts, {view.projection * look.toEye, view.area.width, view.area.height, 1.0f}, material);
     }
 }
 
 void PaintContext::drawSymbols(const InstanceBuffer* positions, const PartLook& parts, RenderSymbol symbol,
                                const Look& look) const
 {
-    if (positions != nullptr && hasLines()) {
+    const Material material = faded(look.material, opacity);
+    if (positions != nullptr && isDrawn(DrawPhase::lines, material.isTranslucent())) {
         symbols.draw(*positions, parts,
-                     {view.projection * look.toEye, view.area.width, view.area.height, symbol, 1.0f,
-                      faded(look.material, opacity).color});
+                     {view.projection * look.toEye, view.area.width, view.area.height, symbol, 1.0f, material.color});
     }
 }
 

@@ -40,8 +40,9 @@ struct ObjectStyle {
 };
 
 /// What painters draw at a time. Lines and symbols have smooth borders, which take in the colours of what was drawn
-/// before: they follow when all faces are there. Translucent things are drawn whole.
-enum class DrawPhase { all, faces, lines };
+/// before: they follow, with icons and labels, when everything else is there. Marks are instances and spheres, which
+/// the grid of a flat view does not cross as it crosses faces.
+enum class DrawPhase { all, faces, marks, lines };
 
 /// Where something is drawn, and how it looks.
 struct Look {
@@ -50,11 +51,15 @@ struct Look {
     Material material;
 };
 
+/// Which faces, lines and symbols are drawn when the painters draw everything: in space, what is opaque comes first,
+/// and what is translucent is mixed over it, see `Transparency`.
+enum class Pass { all, opaque, translucent };
+
 /// What the painters of plots and objects draw with in one frame: they take from `uploads` what they consist of and
 /// draw it, in any order. Uploads that are null, because they cannot be drawn, are left out.
 ///
-/// A painter need not know whether the scene is translucent: materials lose some of their opacity here, and faces are
-/// blended in two steps, those that face away first, lines in one.
+/// A painter need not know whether the scene is translucent: materials lose some of their opacity here, and what does
+/// not belong to the pass is left out.
 struct PaintContext {
     const View& view;
     /// Of the scene, from 0 to 1; below 1, what lies behind shines through.
@@ -74,6 +79,9 @@ struct PaintContext {
     std::vector<SceneLabel>& labels;
     /// Calls that belong to another phase do nothing.
     DrawPhase phase = DrawPhase::all;
+    Pass pass = Pass::all;
+    /// Set in the pass of what is opaque if something translucent was left out; or null.
+    bool* isSomethingLeft = nullptr;
 
     void drawMesh(const Mesh* mesh, const Look& look) const;
     void drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const;
@@ -102,20 +110,21 @@ struct PaintContext {
     /// The icon is drawn over everything that it is not hidden by, before the labels.
     void drawIcon(SceneIcon icon) const
     {
-        if (hasLines()) {
+        if (hasLabels()) {
             icons.push_back(std::move(icon));
         }
     }
     /// The label is drawn over everything that it is not hidden by.
     void drawLabel(SceneLabel label) const
     {
-        if (hasLines()) {
+        if (hasLabels()) {
             labels.push_back(std::move(label));
         }
     }
 
-    bool hasFaces() const { return phase != DrawPhase::lines; }
-    bool hasLines() const { return phase != DrawPhase::faces; }
+private:
+    bool hasLabels() const { return phase == DrawPhase::all || phase == DrawPhase::lines; }
+    bool isDrawn(DrawPhase kind, bool isTranslucent) const;
 };
 
 } // namespace vxrenderer

@@ -79,7 +79,7 @@ constexpr const char* c_fragmentMain = R"(
 in vec2 offset;
 flat in vec3 symbolColor;
 flat in float symbolRadius;
-out vec4 result;
+OUTPUT vec4 result;
 
 float bars(vec2 p)
 {
@@ -142,24 +142,46 @@ struct SymbolPainter::SymbolBlock {
     std::array<float, 2> unused{};
 };
 
-SymbolPainter::SymbolPainter()
-    : m_program("symbols", (std::string(c_block) + c_position + c_oneLook + c_vertexMain).c_str(),
-                (std::string(c_block) + c_fragmentMain).c_str()),
-      m_partProgram("the points of objects",
-                    (std::string(c_block) + c_position + PartRows::c_source + c_partLook + c_vertexMain).c_str(),
-                    (std::string(c_block) + c_fragmentMain).c_str())
+SymbolPainter::Programs::Programs(FragmentOutput output)
+    : symbols("symbols", (std::string(c_block) + c_position + c_oneLook + c_vertexMain).c_str(),
+              withOutput(output, std::string(c_block) + c_fragmentMain).c_str()),
+      parts("the points of objects",
+            (std::string(c_block) + c_position + PartRows::c_source + c_partLook + c_vertexMain).c_str(),
+            withOutput(output, std::string(c_block) + c_fragmentMain).c_str())
 {
-    m_block.attach(m_program);
-    m_block.attach(m_partProgram);
-    m_rows.attach(m_partProgram);
-    PartRows::attachTextures(m_partProgram);
+    if (output == FragmentOutput::layers) {
+        attachLayers(symbols);
+        attachLayers(parts);
+    }
+}
+
+void SymbolPainter::attach(const Programs& programs) const
+{
+    m_block.attach(programs.symbols);
+    m_block.attach(programs.parts);
+    m_rows.attach(programs.parts);
+    PartRows::attachTextures(programs.parts);
+}
+
+SymbolPainter::SymbolPainter()
+{
+    attach(m_programs);
+}
+
+void SymbolPainter::setOutput(FragmentOutput output)
+{
+    m_output = output;
+    if (output == FragmentOutput::layers && !m_layerPrograms) {
+        m_layerPrograms = std::make_unique<Programs>(output);
+        attach(*m_layerPrograms);
+    }
 }
 
 void SymbolPainter::draw(const InstanceBuffer& instances, const Frame& frame) const
 {
     glBindVertexArray(m_array.name());
     instances.bind();
-    draw(m_program, frame, instances.size());
+    draw(programs().symbols, frame, instances.size());
     InstanceBuffer::release();
 }
 
@@ -169,7 +191,7 @@ void SymbolPainter::draw(const InstanceBuffer& instances, const PartLook& parts,
     parts.table.bind();
     glBindVertexArray(m_array.name());
     instances.bind();
-    draw(m_partProgram, frame, instances.size());
+    draw(programs().parts, frame, instances.size());
     InstanceBuffer::release();
 }
 
@@ -177,7 +199,7 @@ void SymbolPainter::draw(const vxgraphics3d::Vector3f& position, const Frame& fr
 {
     glBindVertexArray(m_array.name());
     glVertexAttrib3f(static_cast<GLuint>(Attribute::instancePosition), position.x, position.y, position.z);
-    draw(m_program, frame, 1);
+    draw(programs().symbols, frame, 1);
 }
 
 void SymbolPainter::draw(std::span<const vxgraphics3d::Vector3f> positions, const Frame& frame) const
@@ -192,7 +214,7 @@ void SymbolPainter::draw(std::span<const vxgraphics3d::Vector3f> positions, cons
     glEnableVertexAttribArray(location);
     glVertexAttribPointer(location, 3, GL_FLOAT, GL_FALSE, sizeof(vxgraphics3d::Vector3f), nullptr);
     glVertexAttribDivisor(location, 1);
-    draw(m_program, frame, static_cast<GLsizei>(positions.size()));
+    draw(programs().symbols, frame, static_cast<GLsizei>(positions.size()));
     glDisableVertexAttribArray(location);
 }
 
@@ -211,8 +233,10 @@ void SymbolPainter::draw(const GlProgram& program, const Frame& frame, GLsizei c
     program.use();
     m_block.set(block);
     const bool isBlending = glIsEnabled(GL_BLEND) == GL_TRUE;
-    glEnable(GL_BLEND);
-    glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    if (m_output == FragmentOutput::picture) {
+        glEnable(GL_BLEND);
+        glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    }
     glDrawArraysInstanced(GL_TRIANGLE_STRIP, 0, 4, count);
     if (!isBlending) {
         glDisable(GL_BLEND);

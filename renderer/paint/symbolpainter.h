@@ -6,10 +6,12 @@
 #include "renderer/frame/view.h"
 #include "renderer/gl/globject.h"
 #include "renderer/gl/glprogram.h"
+#include "renderer/paint/layeroutput.h"
 #include "renderer/paint/partrows.h"
 #include "renderer/upload/uniformblock.h"
 
 #include <array>
+#include <memory>
 #include <span>
 
 namespace vxrenderer {
@@ -38,6 +40,9 @@ public:
 
     SymbolPainter();
 
+    /// Where the colours of what follows go, at first into the picture.
+    void setOutput(FragmentOutput output);
+
     /// Draws a symbol at the position of each instance.
     void draw(const InstanceBuffer& instances, const Frame& frame) const;
     void draw(const vxgraphics3d::Vector3f& position, const Frame& frame) const;
@@ -49,11 +54,22 @@ public:
 private:
     struct SymbolBlock;
 
+    struct Programs {
+        explicit Programs(FragmentOutput output);
+
+        GlProgram symbols;
+        GlProgram parts;
+    };
+
+    void attach(const Programs& programs) const;
+    const Programs& programs() const { return m_output == FragmentOutput::layers ? *m_layerPrograms : m_programs; }
     /// Draws `count` symbols with the attributes that are set.
     void draw(const GlProgram& program, const Frame& frame, GLsizei count) const;
 
-    GlProgram m_program;
-    GlProgram m_partProgram;
+    FragmentOutput m_output = FragmentOutput::picture;
+    Programs m_programs{FragmentOutput::picture};
+    /// Made when they are used for the first time.
+    std::unique_ptr<Programs> m_layerPrograms;
     UniformBlock<SymbolBlock> m_block;
     UniformBlock<PartRows> m_rows;
     GlVertexArray m_array;

@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -109,7 +110,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     }
 }
 
-void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes)
+void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes,
+                              const Target& target)
 {
     PictureCanvas canvas = pictureCanvas(layout);
     canvas.enterArea(m_view.area);
@@ -120,27 +122,63 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     }
     std::vector<SceneIcon> icons;
     std::vector<SceneLabel> labels;
-    drawData(frame, layout, icons, labels);
-    // Lines of graphs and the geometry of objects are not to be crossed by the grid.
+    std::function<void()> trace;
     if (axes != nullptr && hasPlotsBesidesGraphs(layout.items)) {
-        setBlending(true);
-        axes->drawOver(canvas);
-        setBlending(false);
+        trace = [&] { drawTrace(*axes, layout); };
     }
+    drawData(frame, layout, target, trace, icons, labels);
     canvas.leaveArea();
     drawIcons(std::move(icons), m_view, layout.width, layout.height, frame.appearance.scale, m_images, m_overlay);
     drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay, nullptr);
 }
 
-void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
+void SceneRenderer::beginMeshes(const Frame& frame, const View& view)
+{
+    m_meshes.begin(view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
+}
+
+void SceneRenderer::drawTrace(const AxesPainter& axes, const FrameLayout& layout)
+{
+    m_sceneCopy.take(layout.width, layout.height);
+    glDepthMask(GL_FALSE);
+    glDepthFunc(GL_GREATER);
+    axes.drawOver(m_lines);
+    glDepthFunc(GL_LEQUAL);
+    glDepthMask(GL_TRUE);
+}
+
+void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
+                             const std::function<void()>& trace, std::vector<SceneIcon>& icons,
                              std::vector<SceneLabel>& labels)
 {
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
-    m_meshes.begin(m_view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
-    drawItems(layout.items, frame.canvas.getRenderMask(),
-              {m_view, frame.appearance.opacity, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance),
-               m_uploads, m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
+    beginMeshes(frame, m_view);
+    std::vector<const SceneItem*> shown;
+    for (const SceneItem& item : layout.items) {
+        const unsigned bit = std::holds_alternative<PlotItem>(item) ? RenderPlots : RenderObjects;
+        if ((frame.canvas.getRenderMask() & bit) != 0 && frame.appearance.opacity > 0.0f) {
+            shown.push_back(&item);
+        }
+    }
+    const PaintContext context = {m_view,
+                                  frame.appearance.opacity,
+                                  frame.appearance.scale,
+                                  frame.logAxes(),
+                                  styleOf(frame.appearance),
+                                  m_uploads,
+                                  m_colorTextures,
+                                  m_images,
+                                  m_meshes,
+                                  m_lines,
+                                  m_symbols,
+                                  icons,
+                                  labels};
+    if (m_view.isFlat) {
+        drawFlat(std::move(shown), trace, context);
+    } else {
+        drawInSpace(shown, frame, target, context);
+    }
     if (frame.appearance.showLightMarkers && !m_view.isFlat) {
         drawLightMarkers(frame);
     }
@@ -172,35 +210,79 @@ bool SceneRenderer::isTranslucent(const SceneItem& item) const
            });
 }
 
-void SceneRenderer::drawItems(const std::vector<SceneItem>& items, unsigned renderMask,
-                              const PaintContext& context) const
+void SceneRenderer::drawFlat(std::vector<const SceneItem*> items, const std::function<void()>& trace,
+                             const PaintContext& context) const
 {
-    std::vector<const SceneItem*> shown;
-    for (const SceneItem& item : items) {
-        const unsigned bit = std::holds_alternative<PlotItem>(item) ? RenderPlots : RenderObjects;
-        if ((renderMask & bit) != 0) {
-            shown.push_back(&item);
-        }
-    }
     const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
-    const auto firstTranslucent = std::stable_partition(shown.begin(), shown.end(), isOpaque);
-    for (const DrawPhase phase : {DrawPhase::faces, DrawPhase::lines}) {
+    const auto firstTranslucent = std::stable_partition(items.begin(), items.end(), isOpaque);
+    const auto drawOpaque = [&](DrawPhase phase, auto&& isWanted) {
         PaintContext inPhase = context;
         inPhase.phase = phase;
-        std::for_each(shown.begin(), firstTranslucent, [&](const SceneItem* item) { drawItem(*item, inPhase); });
+        std::for_each(items.begin(), firstTranslucent, [&](const SceneItem* item) {
+            if (isWanted(*item)) {
+                drawItem(*item, inPhase);
+            }
+        });
+    };
+    const auto isPlot = [](const SceneItem& item) { return std::holds_alternative<PlotItem>(item); };
+    drawOpaque(DrawPhase::faces, isPlot);
+    if (trace) {
+        trace();
     }
-    const auto draw = [&](const SceneItem* item) { drawItem(*item, context); };
-    if (firstTranslucent != shown.end() && context.opacity > 0.0f) {
-        // What lies farther off comes first, by the middles of the items.
-        const auto depthOf = [&](const SceneItem* item) { return (context.view.sceneToEye * centerOf(*item)).z; };
-        std::stable_sort(firstTranslucent, shown.end(),
-                         [&](const SceneItem* one, const SceneItem* other) { return depthOf(one) < depthOf(other); });
+    drawOpaque(DrawPhase::faces, std::not_fn(isPlot));
+    for (const DrawPhase phase : {DrawPhase::marks, DrawPhase::lines}) {
+        drawOpaque(phase, [](const SceneItem&) { return true; });
+    }
+    if (firstTranslucent != items.end()) {
+        const auto draw = [&](const SceneItem* item) { drawItem(*item, context); };
         setBlending(true);
         glDepthMask(GL_FALSE);
-        std::for_each(firstTranslucent, shown.end(), draw);
+        std::for_each(firstTranslucent, items.end(), draw);
         glDepthMask(GL_TRUE);
         setBlending(false);
     }
+}
+
+void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
+                                PaintContext context)
+{
+    context.pass = Pass::opaque;
+    std::vector<const SceneItem*> translucent;
+    for (const DrawPhase phase : {DrawPhase::faces, DrawPhase::marks, DrawPhase::lines}) {
+        context.phase = phase;
+        for (const SceneItem* item : items) {
+            bool isSomethingLeft = false;
+            context.isSomethingLeft = &isSomethingLeft;
+            drawItem(*item, context);
+            if (isSomethingLeft && std::ranges::find(translucent, item) == translucent.end()) {
+                translucent.push_back(item);
+            }
+        }
+    }
+    if (translucent.empty()) {
+        m_transparency.release();
+        return;
+    }
+    const auto setOutput = [this](FragmentOutput output) {
+        m_meshes.setOutput(output);
+        m_lines.setOutput(output);
+        m_symbols.setOutput(output);
+    };
+    setOutput(FragmentOutput::layers);
+    const int numLayers = frame.isDraft ? 0 : Transparency::c_fullLayers;
+    m_transparency.draw(target, m_view, numLayers, [&](const View& view) {
+        // Those are drawn once, with what is opaque.
+        std::vector<SceneIcon> icons;
+        std::vector<SceneLabel> labels;
+        const PaintContext layers = {view,      context.opacity, context.scale, context.logAxes, context.objects,
+                                     m_uploads, m_colorTextures, m_images,      m_meshes,        m_lines,
+                                     m_symbols, icons,           labels,        DrawPhase::all,  Pass::translucent};
+        beginMeshes(frame, view);
+        for (const SceneItem* item : translucent) {
+            drawItem(*item, layers);
+        }
+    });
+    setOutput(FragmentOutput::picture);
 }
 
 void SceneRenderer::drawLightMarkers(const Frame& frame)
@@ -317,7 +399,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
     const Surroundings around = layOutSurroundings(frame, layout);
     PictureCanvas canvas = pictureCanvas(layout);
     if (!layout.area.whole.isEmpty()) {
-        drawScene(frame, layout, around.axes ? &*around.axes : nullptr);
+        drawScene(frame, layout, around.axes ? &*around.axes : nullptr, target);
     }
     setBlending(true);
     if (around.axes) {
@@ -355,8 +437,7 @@ void SceneRenderer::keepShown(PickedObjectCollection& picked, const Frame& frame
         target.bindScene();
         glViewport(area.x, target.getHeight() - area.y - area.height, area.width, area.height);
         // With the light of the picture, since that decides about the shaders, and so about the last bits of depths.
-        m_meshes.begin(view,
-                       Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
+        beginMeshes(frame, view);
         std::vector<SceneIcon> icons;
         std::vector<SceneLabel> labels;
         shown = findShown(results, objects,

@@ -5,6 +5,7 @@
 #include "renderer/decoration/triadpainter.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/view.h"
+#include "renderer/gl/scenecopy.h"
 #include "renderer/objects/objectpainter.h"
 #include "renderer/overlays/shapepainter.h"
 #include "renderer/paint/backgroundpainter.h"
@@ -14,6 +15,7 @@
 #include "renderer/paint/picturecanvas.h"
 #include "renderer/paint/solidpainter.h"
 #include "renderer/paint/symbolpainter.h"
+#include "renderer/paint/transparency.h"
 #include "renderer/plots/plotpainter.h"
 #include "renderer/scene/framelayout.h"
 #include "renderer/text/fontsets.h"
@@ -25,6 +27,7 @@
 #include <boost/weak_ptr.hpp>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -85,20 +88,29 @@ private:
     /// Takes the view of a frame.
     Surroundings layOutSurroundings(const Frame& frame, const FrameLayout& layout);
     PictureCanvas pictureCanvas(const FrameLayout& layout);
-    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes);
+    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes, const Target& target);
     /// Draws what vectors cannot show into a target, over a colour.
     /// @param labels receives what may be drawn over it
     std::vector<std::uint8_t> drawPicture(const Frame& frame, const FrameLayout& layout, const Target& target,
-                                          const vxgraphics3d::Color& background, const TriadPainter* triad,
+                                          const vxgraphics3d::Color& background, const Surroundings& around,
                                           std::vector<PlacedLabel>& labels);
     void drawBackdrop(const Frame& frame, const FrameLayout& layout, const Target& target, VectorCanvas& canvas);
     /// @param icons,labels receive those that are to be drawn over the scene
-    void drawData(const Frame& frame, const FrameLayout& layout, std::vector<SceneIcon>& icons,
-                  std::vector<SceneLabel>& labels);
+    void drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
+                  const std::function<void()>& trace, std::vector<SceneIcon>& icons, std::vector<SceneLabel>& labels);
+    void drawTrace(const AxesPainter& axes, const FrameLayout& layout);
+    /// Lets meshes be drawn in a view, in the light of the frame.
+    void beginMeshes(const Frame& frame, const View& view);
     void drawItem(const SceneItem& item, const PaintContext& context) const;
     /// Whether an item is blended in every picture.
     bool isTranslucent(const SceneItem& item) const;
-    void drawItems(const std::vector<SceneItem>& items, unsigned renderMask, const PaintContext& context) const;
+    /// Draws items without depths over each other, as in a flat view.
+    /// @param trace draws the trace of the grid over the faces of plots; may be empty
+    void drawFlat(std::vector<const SceneItem*> items, const std::function<void()>& trace,
+                  const PaintContext& context) const;
+    /// Draws what is opaque, and mixes what is translucent over it.
+    void drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
+                     PaintContext context);
     void drawLightMarkers(const Frame& frame);
     /// @param free see `drawLabels`
     void drawOverlays(const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free);
@@ -121,6 +133,8 @@ private:
     SolidPainter m_solids;
     ShapePainter m_shapes;
     OverlayPainter m_overlay{m_counts};
+    Transparency m_transparency;
+    SceneCopy m_sceneCopy;
     FontSets m_fontSets;
     boost::weak_ptr<const vxgraphics3d::SceneGraphNode> m_titleRoot;
     vxgraphics3d::LastChangeId m_lastTreeStructure;

@@ -52,7 +52,7 @@ void SceneRenderer::drawBackdrop(const Frame& frame, const FrameLayout& layout, 
 
 std::vector<std::uint8_t> SceneRenderer::drawPicture(const Frame& frame, const FrameLayout& layout,
                                                      const Target& target, const Color& background,
-                                                     const TriadPainter* triad, std::vector<PlacedLabel>& labels)
+                                                     const Surroundings& around, std::vector<PlacedLabel>& labels)
 {
     labels.clear();
     target.beginScene();
@@ -62,14 +62,18 @@ std::vector<std::uint8_t> SceneRenderer::drawPicture(const Frame& frame, const F
         std::vector<SceneLabel> sceneLabels;
         PictureCanvas canvas = pictureCanvas(layout);
         canvas.enterArea(m_view.area);
-        drawData(frame, layout, icons, sceneLabels);
+        std::function<void()> trace;
+        if (around.axes && hasPlotsBesidesGraphs(layout.items)) {
+            trace = [&] { drawTrace(*around.axes, layout); };
+        }
+        drawData(frame, layout, target, trace, icons, sceneLabels);
         canvas.leaveArea();
         drawIcons(std::move(icons), m_view, layout.width, layout.height, frame.appearance.scale, m_images, m_overlay);
         drawLabels(sceneLabels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay, &labels);
         glDisable(GL_BLEND);
     }
-    if (triad != nullptr) {
-        triad->drawAxes(m_solids, layout.width, layout.height);
+    if (around.triad) {
+        around.triad->drawAxes(m_solids, layout.width, layout.height);
     }
     drawOverlays(frame, layout, &labels);
     return readPixels(target);
@@ -89,9 +93,8 @@ void SceneRenderer::drawVectors(const Frame& frame, const FrameLayout& layout, c
         inArea([&] { around.axes->drawBehind(canvas); });
     }
     std::vector<PlacedLabel> labels;
-    const TriadPainter* const triad = around.triad ? &*around.triad : nullptr;
-    const auto onBlack = drawPicture(frame, layout, target, Color::fromRgb(0), triad, labels);
-    const auto onWhite = drawPicture(frame, layout, target, Color::fromRgb(0xffffff), triad, labels);
+    const auto onBlack = drawPicture(frame, layout, target, Color::fromRgb(0), around, labels);
+    const auto onWhite = drawPicture(frame, layout, target, Color::fromRgb(0xffffff), around, labels);
     canvas.drawPicture(TranslucentPicture::of(onBlack, onWhite, layout.width));
     if (!m_view.area.isEmpty() && (frame.canvas.getRenderMask() & RenderPlots) != 0 &&
         areGraphsVectors(frame, layout.items)) {
@@ -103,9 +106,6 @@ void SceneRenderer::drawVectors(const Frame& frame, const FrameLayout& layout, c
         });
     }
     if (around.axes) {
-        if (hasPlotsBesidesGraphs(layout.items)) {
-            inArea([&] { around.axes->drawOver(canvas); });
-        }
         around.axes->drawAround(canvas);
     }
     for (const PlacedLabel& label : labels) {

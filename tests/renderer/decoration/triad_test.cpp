@@ -8,64 +8,126 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
 namespace vxrenderer {
 namespace {
 
+using vxgraphics3d::AxisOrientationIndicator;
 using vxgraphics3d::Camera3d;
+using vxgraphics3d::Color;
 using vxgraphics3d::Vector3f;
 
-void expectNear(const Vector3f& point, float x, float y)
+constexpr Triad::Sizes c_sizes = {50.0f, 2.0f, 5.0f, 15.0f};
+
+void expectNear(const Vector3f& point, const Vector3f& expected)
 {
-    EXPECT_NEAR(point.x, x, 1e-3f);
-    EXPECT_NEAR(point.y, y, 1e-3f);
-    EXPECT_EQ(point.z, 0.0f);
+    EXPECT_LT((point - expected).length(), 1e-3f) << point << ", not " << expected;
 }
 
-TEST(Triad, showsEachAxisWhereItPointsOnTheScreen)
+TEST(Triad, hasArrowsInTheDirectionsOfTheAxesFromFarToNear)
 {
     Camera3d camera;
-    // x towards the eye, y to the right, z upwards; the position of the camera and the stretching of axes do not
-    // matter.
-    camera.lookAt({10.0f, 0.0f, 0.0f}, {-1.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 1.0f});
+    // x towards the eye, y to the right, z upwards and a little away; the position of the camera and the stretching of
+    // axes do not matter.
+    camera.lookAt({10.0f, 0.0f, 0.0f}, {-0.8f, 0.0f, 0.6f}, {0.6f, 0.0f, 0.8f});
     camera.setAxisViewScales(1.0f, 2.0f, 3.0f);
-    const Triad triad = Triad::of(camera, 100.0f, 80.0f, 50.0f, 10.0f);
+    const std::array<Color, 3> colors = {Color::fromRgb(1), Color::fromRgb(2), Color::fromRgb(3)};
+    const std::vector<Solid> solids = Triad(camera, c_sizes).solids(colors);
+    using enum Solid::Shape;
     const struct {
-        std::size_t index;
-        float tipX, tipY, letterX, letterY;
-    } axes[] = {
-        {1, 150.0f, 80.0f, 160.0f, 80.0f}, {2, 100.0f, 30.0f, 100.0f, 20.0f}, {0, 100.0f, 80.0f, 107.0f, 73.0f}};
-    for (std::size_t i = 0; i < 3; ++i) {
+        Solid::Shape shape;
+        int color;
+        Vector3f from, to;
+    } expected[] = {{cone, 3, {0.0f, 28.0f, -21.0f}, {0.0f, 40.0f, -30.0f}},
+                    {cylinder, 3, {0.0f, 0.0f, 0.0f}, {0.0f, 28.0f, -21.0f}},
+                    {ball, 0x969696, {0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 0.0f}},
+                    {cylinder, 2, {0.0f, 0.0f, 0.0f}, {35.0f, 0.0f, 0.0f}},
+                    {cone, 2, {35.0f, 0.0f, 0.0f}, {50.0f, 0.0f, 0.0f}},
+                    {cylinder, 1, {0.0f, 0.0f, 0.0f}, {0.0f, 21.0f, 28.0f}},
+                    {cone, 1, {0.0f, 21.0f, 28.0f}, {0.0f, 30.0f, 40.0f}}};
+    ASSERT_EQ(solids.size(), std::size(expected));
+    for (std::size_t i = 0; i < solids.size(); ++i) {
         SCOPED_TRACE(i);
-        EXPECT_EQ(triad.axes[i].index, axes[i].index);
-        ASSERT_EQ(triad.axes[i].lines.size(), 3u);
-        expectNear(triad.axes[i].lines[0].from, 100.0f, 80.0f);
-        for (const LineSegment& line : triad.axes[i].lines) {
-            expectNear(line.to, axes[i].tipX, axes[i].tipY);
-        }
-        expectNear({triad.axes[i].letterX, triad.axes[i].letterY, 0.0f}, axes[i].letterX, axes[i].letterY);
+        EXPECT_EQ(solids[i].shape, expected[i].shape);
+        EXPECT_EQ(solids[i].color.toRgb(), expected[i].color);
+        expectNear(solids[i].from, expected[i].from);
+        expectNear(solids[i].to, expected[i].to);
     }
-    // Heads are 0.22 of the axis long and 0.09 wide on each side.
-    expectNear(triad.axes[0].lines[1].from, 139.0f, 75.5f);
-    expectNear(triad.axes[0].lines[2].from, 139.0f, 84.5f);
-    expectNear(triad.axes[1].lines[1].from, 95.5f, 41.0f);
-    expectNear(triad.axes[1].lines[2].from, 104.5f, 41.0f);
 }
 
-TEST(Triad, drawsTheNearestAxisLast)
+/// Pixels of the triad that are drawn in one picture and not in the other.
+std::vector<std::array<int, 2>> differences(const Picture& one, const Picture& other)
 {
-    Camera3d camera;
-    const auto order = [&](const Vector3f& direction) {
-        camera.lookAt({}, direction, {0.1f, 0.2f, 1.0f});
-        std::vector<std::size_t> indices;
-        for (const Triad::Axis& axis : Triad::of(camera, 0.0f, 0.0f, 1.0f, 1.0f).axes) {
-            indices.push_back(axis.index);
+    std::vector<std::array<int, 2>> pixels;
+    for (int y = 0; y < one.height; ++y) {
+        for (int x = 0; x < one.width; ++x) {
+            if (one.at(x, y) != other.at(x, y)) {
+                pixels.push_back({x, y});
+            }
         }
-        return indices;
+    }
+    return pixels;
+}
+
+TEST(Triad, lettersTouchNoAxisFromAnyDirection)
+{
+    OffscreenCanvas canvas(160, 160, 4);
+    TestScene scene;
+    scene.addSquare(1, 0xffffff);
+    showFromAbove(canvas, scene);
+    const auto settings = canvas.getCanvas3dSettings();
+    settings->setRenderMask(RenderBackground | RenderAxisOrientation);
+    auto& indicator = *settings->getAxisOrientationIndicatorPtr();
+    indicator.show(true);
+    const auto drawnWith = [&](const std::array<const char*, 3>& letters) {
+        for (std::size_t i = 0; i < letters.size(); ++i) {
+            indicator.setLabel(static_cast<AxisOrientationIndicator::Axis>(i), letters[i]);
+        }
+        return drawnAsIs(canvas);
     };
-    // An axis is the nearer the more it points against the direction of the view.
-    EXPECT_EQ(order({-3.0f, -2.0f, -1.0f}), (std::vector<std::size_t>{2, 1, 0}));
-    EXPECT_EQ(order({1.0f, -2.0f, 3.0f}), (std::vector<std::size_t>{2, 0, 1}));
-    EXPECT_EQ(order({2.0f, 3.0f, 1.0f}), (std::vector<std::size_t>{1, 0, 2}));
+    std::vector<std::array<double, 2>> views = {{0.0, 90.0}, {0.0, -90.0}, {90.0, 0.0}, {180.0, 0.0}, {45.0, 0.0}};
+    for (int i = 0; i < 60; ++i) {
+        views.push_back({137.5 * i, -89.0 + 178.0 * i / 59.0});
+    }
+    for (const auto& [azimuth, elevation] : views) {
+        lookFrom(canvas, azimuth, elevation);
+        const Picture axes = drawnWith({"", "", ""});
+        const Picture x = drawnWith({"x", "", ""});
+        const Picture all = drawnWith({"x", "Y", "zz"});
+        ASSERT_GT(differences(x, axes).size(), 5u);
+        ASSERT_GT(differences(all, axes).size(), 40u);
+        int numTouching = 0;
+        for (const auto& [column, row] : differences(all, axes)) {
+            for (int y = std::max(row - 1, 0); y <= std::min(row + 1, 159); ++y) {
+                for (int x1 = std::max(column - 1, 0); x1 <= std::min(column + 1, 159); ++x1) {
+                    numTouching += axes.at(x1, y) != c_white ? 1 : 0;
+                }
+            }
+        }
+        EXPECT_EQ(numTouching, 0) << azimuth << ", " << elevation;
+    }
+}
+
+TEST(Triad, lettersStayNearTheirTips)
+{
+    const std::array<Triad::Letter, 3> letters = {{{10.0f, 12.0f}, {10.0f, 12.0f}, {10.0f, 12.0f}}};
+    Camera3d camera;
+    for (int i = 0; i < 200; ++i) {
+        const float turn = 0.37f * static_cast<float>(i);
+        const float height = -0.99f + 1.98f * static_cast<float>(i) / 199.0f;
+        const float round = std::sqrt(1.0f - height * height);
+        camera.lookAt({}, {round * std::cos(turn), round * std::sin(turn), height}, {0.0f, 0.1f, 1.0f});
+        const Triad triad(camera, c_sizes);
+        const auto positions = triad.placeLetters(letters, 3.0f);
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            const float distance = std::hypot(positions[axis].x - 50.0f * triad.directions[axis].x,
+                                              positions[axis].y - 50.0f * triad.directions[axis].y);
+            EXPECT_LT(distance, 40.0f) << i;
+        }
+    }
 }
 
 TEST(Triad, showsIn3dViewsThatAskForIt)
@@ -90,20 +152,27 @@ TEST(Triad, showsIn3dViewsThatAskForIt)
     settings->setRenderMode(vxgraphics3d::Canvas3dSettings::RenderMode2d);
     EXPECT_EQ(count(), 0);
     settings->setRenderMode(vxgraphics3d::Canvas3dSettings::RenderMode3d);
-    // 25.4 mm are 72 pixels of the screen: a line of 3 pixels to the right, in its own colour.
+    // 25.4 mm are 72 pixels of the screen. A shaft of 9 pixels to the right is lit from above, in shades of its colour.
     indicator.setAxisLength(25.4f);
-    indicator.setLineWidth(25.4f / 24.0f);
-    indicator.setColor(vxgraphics3d::AxisOrientationIndicator::AxisX, vxgraphics3d::Color::fromRgb(0x123456));
+    indicator.setLineWidth(25.4f / 12.0f);
+    indicator.setColor(vxgraphics3d::AxisOrientationIndicator::AxisX, Color::fromRgb(0x800000));
     const Picture picture = drawn(canvas);
-    int rows = 0;
+    std::vector<int> shades;
     for (int y = 0; y < 200; ++y) {
         int pixels = 0;
+        int red = 0;
         for (int x = 0; x < 200; ++x) {
-            pixels += picture.at(x, y) == Rgb{0x12, 0x34, 0x56} ? 1 : 0;
+            const Rgb pixel = picture.at(x, y);
+            const bool isRed = pixel[0] > pixel[1] + 40 && pixel[1] == pixel[2];
+            pixels += isRed ? 1 : 0;
+            red += isRed ? pixel[0] : 0;
         }
-        rows += pixels > 60 ? 1 : 0;
+        if (pixels > 35) {
+            shades.push_back(red / pixels);
+        }
     }
-    EXPECT_EQ(rows, 3);
+    ASSERT_EQ(shades.size(), 9u);
+    EXPECT_GT(shades[2], shades[8] + 30);
 }
 
 TEST(Triad, lettersAndNamesOfAxesAreNotMarkup)

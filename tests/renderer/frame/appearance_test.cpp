@@ -8,6 +8,7 @@
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/lights/scenesettingslight.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "renderer/frame/contrast.h"
 
 #include <gtest/gtest.h>
 
@@ -128,13 +129,42 @@ TEST_F(AppearanceTest, colorsThatCannotBeReadAreReplaced)
     const auto gray = [](int level) { return Color{level, level, level, 255}; };
     const struct {
         int top, bottom, wanted, expected;
-    } cases[] = {{255, 255, 0, 0},  {255, 255, 128, 128}, {255, 255, 230, 0}, {0, 0, 0, 255},    {0, 0, 128, 128},
-                 {40, 40, 80, 255}, {255, 0, 200, 200},   {255, 0, 130, 0},   {128, 128, 128, 0}};
+    } cases[] = {{255, 255, 0, 0},  {255, 255, 118, 118}, {255, 255, 119, 0}, {0, 0, 0, 255},    {0, 0, 128, 128},
+                 {40, 40, 80, 255}, {255, 200, 80, 80},   {255, 200, 120, 0}, {128, 128, 128, 0}};
     for (const auto& c : cases) {
         m_hardcopy.setBackground(c.top * 0x10101, c.bottom * 0x10101);
         EXPECT_EQ(ofHardcopy().readable(gray(c.wanted)), gray(c.expected))
             << c.top << ' ' << c.bottom << ' ' << c.wanted;
     }
+}
+
+TEST_F(AppearanceTest, gridsAndTextsKeepTheirContrastOnAnyPlainBackground)
+{
+    for (int level = 0; level < 256; ++level) {
+        const Color behind = {level, level, level, 255};
+        m_hardcopy.setBackground(behind.toRgb(), behind.toRgb());
+        const Appearance look = ofHardcopy();
+        EXPECT_GE(contrastOf(look.textColor(), behind), 4.5) << level;
+        EXPECT_FALSE(look.isBackdropUneven()) << level;
+        EXPECT_EQ(look.haloOf(look.textColor(), 0.5), behind) << "not seen";
+        const Color grid = look.visibleGrid(Color::fromRgb(0x808080));
+        EXPECT_GE(contrastOf(grid, behind), 1.5) << level;
+        EXPECT_GE(contrastOf(look.faintGrid(grid, 0.35), behind), 1.5) << level;
+    }
+    m_hardcopy.setBackground(0xffffff, 0x000000);
+    EXPECT_TRUE(ofHardcopy().isBackdropUneven()) << "no colour can be read on all of it";
+    for (const double part : {0.0, 0.5, 1.0}) {
+        EXPECT_GE(contrastOf(ofHardcopy().textColor(), ofHardcopy().haloOf(ofHardcopy().textColor(), part)), 4.5);
+    }
+}
+
+TEST(Contrast, isThatOfTheGuidelines)
+{
+    EXPECT_DOUBLE_EQ(contrastOf(Color::fromRgb(0), Color::fromRgb(0xffffff)), 21.0);
+    EXPECT_NEAR(contrastOf(Color::fromRgb(0x767676), Color::fromRgb(0xffffff)), 4.54, 0.005);
+    EXPECT_NEAR(contrastOf(Color::fromRgb(0xff0000), Color::fromRgb(0x0000ff)), 2.15, 0.005);
+    EXPECT_EQ(contrastingWith(Color::fromRgb(0x00ff00)), Color::fromRgb(0));
+    EXPECT_EQ(contrastingWith(Color::fromRgb(0x0000ff)), Color::fromRgb(0xffffff));
 }
 
 } // namespace
