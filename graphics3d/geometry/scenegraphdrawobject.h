@@ -35,6 +35,10 @@ public:
     /// Marks or unmarks a part. A kind of part that the object does not have, and `PartAll`, do nothing.
     /// @throws std::out_of_range if the object has the kind, but not that part
     virtual void mark(ObjectPartType part, int index, MarkingType action, bool on);
+    void markPoint(int index, MarkingType action, bool on) { mark(PartPoint, index, action, on); }
+    void markLine(int index, MarkingType action, bool on) { mark(PartLine, index, action, on); }
+    void markSheet(int index, MarkingType action, bool on) { mark(PartSheet, index, action, on); }
+    void markSolid(int index, MarkingType action, bool on) { mark(PartSolid, index, action, on); }
     /// Removes the marks of all parts of one kind, or of all kinds.
     virtual void unmarkAll(ObjectPartType part, MarkingType action);
 

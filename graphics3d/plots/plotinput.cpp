@@ -1,6 +1,7 @@
 #include "graphics3d/plots/plotinput.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <limits>
 #include <stdexcept>
 #include <string>
@@ -12,6 +13,21 @@ using vxdatacarrier::PostDataRole;
 using vxdatacarrier::PostDataView;
 
 namespace vxgraphics3d {
+namespace {
+
+/// The number of elements, all corners or edges of which a buffer has to count.
+int countOf(const PostDataObject::IntArrays& arrays, int entriesEach, const char* elements, const char* entries,
+            int group)
+{
+    const std::size_t count = arrays[0].size();
+    if (count > static_cast<std::size_t>(std::numeric_limits<int>::max() / entriesEach)) {
+        throw std::invalid_argument("The " + std::to_string(count) + " " + elements + " of group " +
+                                    std::to_string(group) + " have more " + entries + " than a buffer can count.");
+    }
+    return static_cast<int>(count);
+}
+
+} // namespace
 
 PointPositions::PointPositions(const PostDataView& record, int group, int numAxes)
     : PointPositions(record.coordinates(group, numAxes), numAxes)
@@ -52,7 +68,7 @@ PointColors PointColors::ofGroup(const PostDataView& record, int group, float u)
 TriangleCorners::TriangleCorners(const PostDataView& record, int group)
 {
     const PostDataObject::IntArrays& corners = record.elements(group, 3);
-    count = static_cast<int>(corners[0].size());
+    count = countOf(corners, 3, "triangles", "corners", group);
     a = corners[0].data();
     b = corners[1].data();
     c = corners[2].data();
@@ -66,13 +82,13 @@ TriangleCorners TriangleCorners::ofAnyElements(const PostDataView& record, int g
 LineEnds LineEnds::ofElements(const PostDataView& record, int group)
 {
     const PostDataObject::IntArrays& ends = record.elements(group, 2);
-    return {static_cast<int>(ends[0].size()), ends[0].data(), ends[1].data()};
+    return {countOf(ends, 2, "lines", "ends", group), ends[0].data(), ends[1].data()};
 }
 
 LineEnds LineEnds::ofBoundary(const PostDataView& record, int group)
 {
     const PostDataObject::IntArrays& ends = record.lineElements(group);
-    return {static_cast<int>(ends[0].size()), ends[0].data(), ends[1].data()};
+    return {countOf(ends, 2, "lines", "ends", group), ends[0].data(), ends[1].data()};
 }
 
 ElementCorners::ElementCorners(const PostDataView& record, int group)
@@ -82,13 +98,9 @@ ElementCorners::ElementCorners(const PostDataView& record, int group)
     for (const std::vector<int>& corner : arrays) {
         corners.push_back(corner.data());
     }
-    count = static_cast<int>(arrays[0].size());
     const std::size_t numCorners = corners.size();
     const int edgesEach = numCorners == 3 ? 3 : numCorners == 4 ? 6 : 1;
-    if (count > std::numeric_limits<int>::max() / edgesEach) {
-        throw std::invalid_argument("The " + std::to_string(count) + " elements of group " + std::to_string(group) +
-                                    " have more edges than a buffer can count.");
-    }
+    count = countOf(arrays, edgesEach, "elements", "edges", group);
     numEdges = edgesEach * count;
 }
 

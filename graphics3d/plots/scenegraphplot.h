@@ -55,7 +55,8 @@ public:
 
     /// Builds the buffers from a record, of which nothing is kept. The value range becomes that of the colour data, or
     /// else of the iso level data, or else 0 to 1; legend limits follow it and a restriction is removed, while colours,
-    /// symmetry, height scale and plane offset are kept.
+    /// symmetry, height scale and plane offset are kept. The box becomes that of the record, without the present height
+    /// scale and plane offset.
     /// @throws std::invalid_argument if the record lacks something that the plot reads; then nothing has changed
     /// @throws std::bad_alloc if memory runs out; then either nothing has changed, or the plot has lost its buffers,
     ///         which counts as a change of geometry, and keeps the value range, legend limits and colours of the new

@@ -37,7 +37,8 @@ Canvas3dGlobalSettings* Canvas3dGlobalSettings::getInstance()
 {
     // Created once even if two threads, each with its own scene, call this first.
     static Canvas3dGlobalSettings* const instance = [] {
-        m_instance.reset(new Canvas3dGlobalSettings);
+        // The pointer is destroyed when the process ends, but the settings are not: threads may still use them.
+        m_instance.reset(new Canvas3dGlobalSettings, [](Canvas3dGlobalSettings*) {});
         return m_instance.get();
     }();
     return instance;

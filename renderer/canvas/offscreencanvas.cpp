@@ -205,8 +205,14 @@ void OffscreenCanvas::dropDisposedScene()
 Appearance OffscreenCanvas::appearance() const
 {
     Appearance look = Appearance::onScreen(*m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
-    look.markingMode = m_markingMode;
+    completeAppearance(look);
     return look;
+}
+
+void OffscreenCanvas::completeAppearance(Appearance& look) const
+{
+    look.markingMode = m_markingMode;
+    look.style = m_style;
 }
 
 ICameraTransforms& OffscreenCanvas::camera()
@@ -246,6 +252,12 @@ void OffscreenCanvas::setMarkingMode(MarkingSetups::MarkingMode mode)
         throw std::out_of_range("There is no marking mode " + std::to_string(mode) + ".");
     }
     m_markingMode = mode;
+}
+
+void OffscreenCanvas::setStyle(const RenderStyle& style)
+{
+    style.validate();
+    m_style = style;
 }
 
 void OffscreenCanvas::zoomExtents()
@@ -345,7 +357,7 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     const Target target(width, height, std::max(1, settings.getMultisampleSetting()));
     Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
-    look.markingMode = m_markingMode;
+    completeAppearance(look);
     std::optional<VectorCanvas> vectors;
     if (format != HardcopyFormat::png) {
         vectors.emplace(format == HardcopyFormat::pdf ? VectorFormat::pdf : VectorFormat::svg, width, height,

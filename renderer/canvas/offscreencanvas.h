@@ -4,6 +4,7 @@
 #include "graphics3d/canvas/irenderercanvas.h"
 #include "graphics3d/parts/markingsetups.h"
 #include "renderer/canvas/sceneview.h"
+#include "renderer/frame/renderstyle.h"
 #include "renderer/frame/view.h"
 #include "renderer/gl/eglcontext.h"
 #include "renderer/upload/uploadcounts.h"
@@ -84,6 +85,10 @@ public:
     vxgraphics3d::MarkingSetups::MarkingMode getMarkingMode() const { return m_markingMode; }
     /// @throws std::out_of_range if there is no such mode
     void setMarkingMode(vxgraphics3d::MarkingSetups::MarkingMode mode);
+    const RenderStyle& getStyle() const { return m_style; }
+    /// Sets how the view and its exports are shaded from the next picture on.
+    /// @throws std::invalid_argument if a number is out of its range; the style then stays
+    void setStyle(const RenderStyle& style);
     /// Draws an overlay over the scene, in the coordinates of the scene, or none for null. Shapes are drawn through
     /// everything in front of them. With logarithmic axes the coordinates are logarithms.
     void setOverlay(boost::shared_ptr<vxgraphics3d::Overlay> overlay) { m_overlay = std::move(overlay); }
@@ -144,6 +149,8 @@ private:
     Frame frameOf(vxgraphics3d::ICameraTransforms& camera, const Appearance& appearance) const;
     const vxgraphics3d::BoundingBox* framedBox() const;
     Appearance appearance() const;
+    /// Adds what the canvas itself holds.
+    void completeAppearance(Appearance& look) const;
     void dropDisposedScene();
     int wantedSamples() const;
     void requireImage() const;
@@ -171,6 +178,7 @@ private:
     /// The mode of the last picture, by which a mode that does not exist is reported once.
     int m_lastRenderMode = 0;
     vxgraphics3d::MarkingSetups::MarkingMode m_markingMode = vxgraphics3d::MarkingSetups::MarkingMode0;
+    RenderStyle m_style;
 };
 
 } // namespace vxrenderer

@@ -4,6 +4,7 @@
 #include "graphics3d/foundation/color.h"
 #include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/settings/textitem.h"
+#include "renderer/frame/renderstyle.h"
 
 #include <boost/shared_ptr.hpp>
 
@@ -74,6 +75,8 @@ struct Appearance {
     vxgraphics3d::MarkingSetups::MarkingMode markingMode = vxgraphics3d::MarkingSetups::MarkingMode0;
     /// What the whole scene lets through, from 0, invisible, to 1, opaque.
     float opacity = 1.0f;
+    /// Of the view, also in its exports; neither function below sets it.
+    RenderStyle style;
 
     const Font& font(vxgraphics3d::TextItem item) const { return fonts[static_cast<std::size_t>(item)]; }
     /// Pixels of a length in millimetres.

@@ -18,7 +18,7 @@ GLint limit(GLenum name)
 void requireSize(int width, int height)
 {
     const int largest =
-        std::min({limit(GL_MAX_RENDERBUFFER_SIZE), limit(GL_MAX_TEXTURE_SIZE), limit(GL_MAX_VIEWPORT_DIMS)});
+        std::min({limit(GL_MAX_RENDERBUFFER_SIZE), limit(GL_MAX_VIEWPORT_DIMS), limit(GL_MAX_TEXTURE_SIZE)});
     const std::string size = std::to_string(width) + " by " + std::to_string(height);
     if (width < 1 || height < 1) {
         throw std::invalid_argument("A picture needs at least one pixel in each direction, not " + size + ".");
@@ -44,11 +44,13 @@ void attach(const GlRenderbuffer& buffer, GLenum point, GLenum format, int sampl
     glFramebufferRenderbuffer(GL_FRAMEBUFFER, point, GL_RENDERBUFFER, buffer.name());
 }
 
-/// Depths are a texture, so that they can be read where something translucent is limited by them.
-void attachDepths(const GlTexture& depths, int samples, int width, int height)
+/// Makes depths and stencil a texture, so that shaders can read them. The number of samples must be that of the
+/// colours, for which drivers may take more than was asked for.
+void attachDepths(const GlTexture& texture, int samples, int width, int height)
 {
     const GLenum kind = samples > 1 ? GL_TEXTURE_2D_MULTISAMPLE : GL_TEXTURE_2D;
-    glBindTexture(kind, depths.name());
+    glActiveTexture(GL_TEXTURE0);
+    glBindTexture(kind, texture.name());
     if (samples > 1) {
         glTexImage2DMultisample(kind, samples, GL_DEPTH24_STENCIL8, width, height, GL_TRUE);
     } else {
@@ -56,7 +58,8 @@ void attachDepths(const GlTexture& depths, int samples, int width, int height)
         glTexParameteri(kind, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
         glTexParameteri(kind, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
     }
-    glFramebufferTexture2D(GL_FRAMEBUFFER, GL_DEPTH_STENCIL_ATTACHMENT, kind, depths.name(), 0);
+    glBindTexture(kind, 0);
+    glFramebufferTexture(GL_FRAMEBUFFER, GL_DEPTH_STENCIL_ATTACHMENT, texture.name(), 0);
 }
 
 } // namespace
@@ -69,8 +72,14 @@ Target::Target(int width, int height, int samples) : m_width(width), m_height(he
 
     glBindFramebuffer(GL_FRAMEBUFFER, m_scene.name());
     attach(m_sceneColor, GL_COLOR_ATTACHMENT0, GL_RGBA8, m_samples, width, height);
-    attachDepths(m_sceneDepth, m_samples, width, height);
+    GLint samplesOfColors = 0;
+    glGetRenderbufferParameteriv(GL_RENDERBUFFER, GL_RENDERBUFFER_SAMPLES, &samplesOfColors);
+    attachDepths(m_sceneDepth, samplesOfColors, width, height);
     requireComplete("scene buffer");
+
+    glBindFramebuffer(GL_FRAMEBUFFER, m_sceneColors.name());
+    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, m_sceneColor.name());
+    requireComplete("colours of the scene buffer");
 
     glBindFramebuffer(GL_FRAMEBUFFER, m_plain.name());
     attach(m_plainColor, GL_COLOR_ATTACHMENT0, GL_RGBA8, 1, width, height);
@@ -83,6 +92,11 @@ Target::Target(int width, int height, int samples) : m_width(width), m_height(he
 void Target::bindScene() const
 {
     glBindFramebuffer(GL_FRAMEBUFFER, m_scene.name());
+}
+
+void Target::bindSceneColors() const
+{
+    glBindFramebuffer(GL_FRAMEBUFFER, m_sceneColors.name());
 }
 
 void Target::beginScene() const

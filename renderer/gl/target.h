@@ -28,9 +28,10 @@ public:
     /// Lets what follows draw into the scene buffer, whose depths and stencil are cleared and whose
     /// colours are undefined.
     void beginScene() const;
-    /// The texture of the depths of the scene buffer, with its samples: of the kind `GL_TEXTURE_2D`, with several
-    /// samples `GL_TEXTURE_2D_MULTISAMPLE`.
-    GLuint getSceneDepths() const { return m_sceneDepth.name(); }
+    /// Lets what follows draw into the colours of the scene buffer while it reads `getDepths`, without a depth test.
+    void bindSceneColors() const;
+    /// The depths of the scene: a texture with as many samples as the scene, of one sample an ordinary one.
+    const GlTexture& getDepths() const { return m_sceneDepth; }
     /// Brings the scene into the plain buffer and lets what follows draw over it.
     void beginOverlay() const;
     /// Copies the plain buffer out: four bytes per pixel, red first, the top row first.
@@ -44,6 +45,7 @@ private:
     GlFramebuffer m_scene;
     GlRenderbuffer m_sceneColor;
     GlTexture m_sceneDepth;
+    GlFramebuffer m_sceneColors;
     GlFramebuffer m_plain;
     GlRenderbuffer m_plainColor;
 };

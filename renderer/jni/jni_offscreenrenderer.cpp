@@ -38,6 +38,17 @@ boost::shared_ptr<T> shareOrNull(JNIEnv* env, jobject object, const char* argume
     return object == nullptr ? nullptr : share<T>(env, object, argument);
 }
 
+template <class Change>
+void setStyle(JNIEnv* env, jobject self, Change change)
+{
+    guarded(env, [&] {
+        OffscreenCanvas& its = canvas(env, self);
+        RenderStyle style = its.getStyle();
+        change(style);
+        its.setStyle(style);
+    });
+}
+
 } // namespace
 
 VX_NATIVE(void, OffscreenRenderer, createNative)
@@ -87,6 +98,46 @@ VX_NATIVE(void, OffscreenRenderer, setMarkingMode)(JNIEnv* env, jclass, jobject 
 {
     const jint number = mode > 0 ? mode - 1 : -1;
     guarded(env, [&] { canvas(env, self).setMarkingMode(static_cast<MarkingSetups::MarkingMode>(number)); });
+}
+
+VX_NATIVE(void, OffscreenRenderer, setStudioLight)(JNIEnv* env, jclass, jobject self, jboolean on)
+{
+    setStyle(env, self, [&](RenderStyle& style) { style.isStudio = on != JNI_FALSE; });
+}
+
+VX_NATIVE(jboolean, OffscreenRenderer, isStudioLight)(JNIEnv* env, jclass, jobject self)
+{
+    return guarded(env, [&] { return toJava(canvas(env, self).getStyle().isStudio); });
+}
+
+VX_NATIVE(void, OffscreenRenderer, setCreaseAngle)(JNIEnv* env, jclass, jobject self, jfloat degrees)
+{
+    setStyle(env, self, [&](RenderStyle& style) { style.creaseAngle = degrees; });
+}
+
+VX_NATIVE(jfloat, OffscreenRenderer, getCreaseAngle)(JNIEnv* env, jclass, jobject self)
+{
+    return guarded(env, [&] { return canvas(env, self).getStyle().creaseAngle; });
+}
+
+VX_NATIVE(void, OffscreenRenderer, setFeatureEdges)(JNIEnv* env, jclass, jobject self, jboolean on)
+{
+    setStyle(env, self, [&](RenderStyle& style) { style.showFeatureEdges = on != JNI_FALSE; });
+}
+
+VX_NATIVE(jboolean, OffscreenRenderer, isFeatureEdges)(JNIEnv* env, jclass, jobject self)
+{
+    return guarded(env, [&] { return toJava(canvas(env, self).getStyle().showFeatureEdges); });
+}
+
+VX_NATIVE(void, OffscreenRenderer, setSupersampling)(JNIEnv* env, jclass, jobject self, jint factor)
+{
+    setStyle(env, self, [&](RenderStyle& style) { style.supersampling = factor; });
+}
+
+VX_NATIVE(jint, OffscreenRenderer, getSupersampling)(JNIEnv* env, jclass, jobject self)
+{
+    return guarded(env, [&] { return canvas(env, self).getStyle().supersampling; });
 }
 
 VX_NATIVE(void, OffscreenRenderer, resize)(JNIEnv* env, jclass, jobject self, jint width, jint height)

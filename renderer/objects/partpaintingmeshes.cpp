@@ -104,7 +104,7 @@ void PartPainting::drawSheetMeshes(const MeshableSheetCollection& sheets, int ch
 {
     const int meshId = meshChangeId(sheets, changeId);
     const PartTable& table = meshTableOf(UploadSheetMeshes, sheets);
-    const Mesh* elements = m_context.uploads.mesh(m_object, UploadSheetMeshes, meshId, [&] {
+    const Mesh* elements = m_context.uploads.body(m_object, UploadSheetMeshes, meshId, [&] {
         std::vector<MeshPart> parts;
         for (int i = 0; i < sheets.getNumParts(); ++i) {
             const MeshableSheet& sheet = sheets.getMeshablePart(i);
@@ -113,7 +113,7 @@ void PartPainting::drawSheetMeshes(const MeshableSheetCollection& sheets, int ch
         return parts;
     });
     const PartRange all = {0, static_cast<std::size_t>(sheets.getNumParts())};
-    m_context.drawMesh(elements, {table, faceRows({}), {&all, 1}}, m_look);
+    m_context.drawBody(elements, {table, faceRows({}), {&all, 1}}, m_look);
     const LineMesh* edges =
         m_context.uploads.lines(m_object, UploadSheetMeshes, meshId, [&] { return elementEdgesOf(sheets); });
     m_context.drawLines(edges,

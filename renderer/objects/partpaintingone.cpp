@@ -11,6 +11,7 @@
 #include "renderer/upload/parttable.h"
 
 #include <cstdint>
+#include <numbers>
 #include <utility>
 #include <vector>
 
@@ -75,8 +76,9 @@ void PartPainting::drawSheet(const Sheet& sheet) const
     const PartRange all = {0, 1};
     const auto draw = [&](const MeshPart& part, MarkingType row) {
         Mesh mesh;
-        mesh.load({&part, 1});
-        m_context.drawMesh(&mesh, {RowTable(row).get(), faceRows(), {&all, 1}}, m_look);
+        // Its normals do not count here.
+        mesh.loadBody({&part, 1}, std::numbers::pi_v<float>);
+        m_context.drawBody(&mesh, {RowTable(row).get(), faceRows(), {&all, 1}}, m_look);
     };
     draw({sheet.getVertices(), sheet.getTriangles()}, rowOf(sheet));
     if (sheet.isMarked(MarkMeshed)) {

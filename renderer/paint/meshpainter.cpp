@@ -3,6 +3,7 @@
 #include "graphics3d/foundation/matrixf.h"
 #include "renderer/frame/lighting.h"
 #include "renderer/frame/view.h"
+#include "renderer/paint/ambientocclusion.h"
 #include "renderer/upload/mesh.h"
 #include "renderer/upload/parttable.h"
 #include "renderer/upload/spherebuffer.h"
@@ -146,6 +147,36 @@ void MeshPainter::begin(const View& view, const Lighting& light)
     m_lightShader = lightShaderOf(view, light);
 }
 
+void MeshPainter::beginStudio(const View& view, const Lighting& scene, const AmbientOcclusion* occlusion)
+{
+    StudioLight studio = StudioLight::of(scene);
+    Lighting lamps = scene;
+    for (Lighting::Vec4& light : lamps.diffuse) {
+        std::ranges::transform(light, light.begin(), [&](float channel) { return studio.lamps * channel; });
+    }
+    begin(view, lamps);
+    m_lightShader.isStudio = m_lightShader.isLit;
+    m_lightShader.hasOcclusion = m_lightShader.isLit && occlusion != nullptr;
+    if (m_lightShader.hasOcclusion) {
+        GLint viewport[4];
+        glGetIntegerv(GL_VIEWPORT, viewport);
+        const auto part = [](int texels, GLint pixels) {
+            return static_cast<float>(texels) / static_cast<float>(pixels);
+        };
+        studio.occlusionArea = {static_cast<float>(viewport[0]), static_cast<float>(viewport[1]),
+                                part(occlusion->getWidth(), viewport[2]), part(occlusion->getHeight(), viewport[3])};
+    }
+    studio.pixelSize = {view.pixelSize(), view.projection.get(4, 3), view.projection.get(4, 4), 0.0f};
+    m_studio.set(studio);
+}
+
+void MeshPainter::beginShapes(const View& view)
+{
+    begin(view, Lighting());
+    m_lightShader.isLit = true;
+    m_lightShader.isShape = true;
+}
+
 const GlProgram& MeshPainter::program(const MeshShader& shader)
 {
     auto known = m_programs.find(shader);
@@ -156,6 +187,10 @@ const GlProgram& MeshPainter::program(const MeshShader& shader)
         m_light.attach(known->second);
         m_model.attach(known->second);
         m_material.attach(known->second);
+        if (shader.isStudio) {
+            m_studio.attach(known->second);
+            known->second.setSampler("occlusion", AmbientOcclusion::c_unit);
+        }
         if (shader.output == FragmentOutput::layers) {
             attachLayers(known->second);
         }
@@ -176,6 +211,8 @@ void MeshPainter::setUp(const Mesh& mesh, MeshShader shader, const Matrixf& toEy
 void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& material, float radiusScale)
 {
     shader.isRestricted = material.isRestricted();
+    // What is blended is not among the surfaces that hide light from each other.
+    shader.hasOcclusion = shader.hasOcclusion && !material.isTranslucent();
     shader.output = m_output;
     program(shader).use();
     m_model.set({elementsOf(toEye), elementsOf(normalMatrixOf(toEye)), radiusScale});

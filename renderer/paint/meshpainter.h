@@ -4,6 +4,7 @@
 #include "renderer/paint/material.h"
 #include "renderer/paint/meshshader.h"
 #include "renderer/paint/partrows.h"
+#include "renderer/paint/studiolight.h"
 #include "renderer/upload/uniformblock.h"
 
 #include <array>
@@ -15,6 +16,7 @@ class Matrixf;
 
 namespace vxrenderer {
 
+class AmbientOcclusion;
 class InstanceBuffer;
 class Mesh;
 class SphereBuffer;
@@ -30,6 +32,11 @@ class MeshPainter {
 public:
     /// Takes the view and the light of a frame.
     void begin(const View& view, const Lighting& lighting);
+    /// The same in studio light.
+    /// @param occlusion that has been found for the view, or null for none
+    void beginStudio(const View& view, const Lighting& lighting, const AmbientOcclusion* occlusion);
+    /// Takes a view whose normals are drawn instead of its colours.
+    void beginShapes(const View& view);
 
     /// Where the colours of what follows go, at first into the picture.
     void setOutput(FragmentOutput output) { m_output = output; }
@@ -69,6 +76,7 @@ private:
     std::array<float, 4> m_wRow{};
     UniformBlock<ViewBlock> m_view;
     UniformBlock<LightBlock> m_light;
+    UniformBlock<StudioLight> m_studio;
     UniformBlock<ModelBlock> m_model;
     UniformBlock<Material> m_material;
     UniformBlock<PartRows> m_rows;

@@ -3,6 +3,7 @@
 #include "renderer/paint/material.h"
 #include "renderer/paint/partrows.h"
 #include "renderer/paint/sphereshader.h"
+#include "renderer/paint/studiolight.h"
 
 namespace vxrenderer {
 namespace {
@@ -117,7 +118,7 @@ void main()
 )";
 
 // What a surface shows of the light that it receives.
-constexpr const char* c_light = R"(
+constexpr const char* c_lightBlock = R"(
 const int c_maxLights = 8;
 
 layout(std140) uniform Light {
@@ -128,12 +129,21 @@ layout(std140) uniform Light {
     vec4 lightCones[c_maxLights];
 };
 OUTPUT vec4 result;
+)";
 
-// With n the normal on the side that is seen, at a point in the eye's coordinates.
+// The normal on the side that is seen is n, the point has the eye's coordinates.
+constexpr const char* c_litStart = R"(
 vec3 lit(vec3 color, vec3 n, vec3 point)
 {
     vec3 toEye = isPerspective ? normalize(-point) : vec3(0.0, 0.0, 1.0);
+)";
+constexpr const char* c_plainAmbient = R"(
     vec3 received = ambient.rgb;
+)";
+constexpr const char* c_studioAmbient = R"(
+    vec3 received = softLight(n, toEye, point);
+)";
+constexpr const char* c_lamps = R"(
     vec3 reflected = vec3(0.0);
     for (int i = 0; i < c_numLights; ++i) {
         vec4 place = lightPlaces[i];
@@ -150,7 +160,20 @@ vec3 lit(vec3 color, vec3 n, vec3 point)
             reflected += isReached ? lightSpecular[i].rgb * pow(mirrored, shininess) : vec3(0.0);
         }
     }
+)";
+constexpr const char* c_plainEnd = R"(
     return min(color * received + reflected, vec3(1.0));
+}
+)";
+constexpr const char* c_studioEnd = R"(
+    return limited(color * received + (hasTable ? highlights.x : highlights.y) * reflected);
+}
+)";
+
+constexpr const char* c_shape = R"(
+vec3 lit(vec3 color, vec3 n, vec3 point)
+{
+    return any(isnan(n)) ? vec3(0.0, 0.0, 1.0) : n;
 }
 )";
 
@@ -242,6 +265,18 @@ std::string MeshShader::mainOfFragments() const
     return std::string(hasParts ? c_partColor : c_dataColor) + c_fragmentMain;
 }
 
+std::string MeshShader::lightSource() const
+{
+    if (isShape) {
+        return std::string(c_lightBlock) + c_shape;
+    }
+    if (isStudio) {
+        return constant("hasOcclusion", hasOcclusion) + c_lightBlock + StudioLight::c_source + c_litStart +
+               c_studioAmbient + c_lamps + c_studioEnd;
+    }
+    return std::string(c_lightBlock) + c_litStart + c_plainAmbient + c_lamps + c_plainEnd;
+}
+
 std::string MeshShader::fragmentSource() const
 {
     const std::string source =
@@ -250,7 +285,7 @@ std::string MeshShader::fragmentSource() const
         constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
         constant("hasHighlights", hasHighlights) + constant("isTextured", isTextured) +
         "const int c_numLights = " + std::to_string(numLights) + ";\n" + shapeConstants() + c_viewBlock +
-        Material::c_source + c_light + mainOfFragments();
+        Material::c_source + lightSource() + mainOfFragments();
     return withOutput(output, source, shape != Shape::triangles);
 }
 

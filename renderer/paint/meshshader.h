@@ -29,6 +29,12 @@ struct MeshShader {
     /// Whether some values are hidden.
     bool isRestricted = false;
     bool isLit = false;
+    /// Whether normals are drawn instead of colours.
+    bool isShape = false;
+    /// Whether the light is that of `StudioLight`.
+    bool isStudio = false;
+    /// Whether some ambient light is hidden, see `AmbientOcclusion`.
+    bool hasOcclusion = false;
     /// Whether some vertices have no normal, so that the slope of the triangle is used instead.
     bool lacksNormals = false;
     std::size_t numLights = 0;
@@ -49,6 +55,7 @@ struct MeshShader {
 
 private:
     std::string shapeConstants() const;
+    std::string lightSource() const;
     std::string mainOfFragments() const;
 };
 

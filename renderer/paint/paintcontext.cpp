@@ -4,6 +4,7 @@
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/symbolpainter.h"
+#include "renderer/upload/mesh.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,9 +20,9 @@ Material faded(Material material, float opacity)
 
 } // namespace
 
-bool PaintContext::isDrawn(DrawPhase kind, bool isTranslucent) const
+bool PaintContext::isDrawn(DrawKind kind, bool isTranslucent) const
 {
-    if (phase != DrawPhase::all && phase != kind) {
+    if ((kinds & kind) == 0) {
         return false;
     }
     if (pass == Pass::opaque && isTranslucent && isSomethingLeft != nullptr) {
@@ -33,15 +34,26 @@ bool PaintContext::isDrawn(DrawPhase kind, bool isTranslucent) const
 void PaintContext::drawMesh(const Mesh* mesh, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && isDrawn(DrawPhase::faces, material.isTranslucent())) {
+    if (mesh != nullptr && isDrawn(DrawFaces, material.isTranslucent())) {
         meshes.draw(*mesh, look.toEye, material);
+    }
+}
+
+void PaintContext::drawBody(const Mesh* mesh, const Look& look) const
+{
+    const Material material = faded(look.material, opacity);
+    if (mesh != nullptr && isDrawn(DrawBodies, material.isTranslucent())) {
+        meshes.draw(*mesh, look.toEye, material);
+    }
+    if (showFeatureEdges && mesh != nullptr && mesh->getFeatureEdges() != nullptr) {
+        drawLines(mesh->getFeatureEdges(), {look.toEye, look.material.inColor(c_edgeColor)}, c_edgeWidth);
     }
 }
 
 void PaintContext::drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && instances != nullptr && isDrawn(DrawPhase::marks, material.isTranslucent())) {
+    if (mesh != nullptr && instances != nullptr && isDrawn(DrawMarks, material.isTranslucent())) {
         meshes.draw(*mesh, *instances, look.toEye, material);
     }
 }
@@ -49,7 +61,7 @@ void PaintContext::drawInstances(const Mesh* mesh, const InstanceBuffer* instanc
 void PaintContext::drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (spheres != nullptr && isDrawn(DrawPhase::marks, material.isTranslucent())) {
+    if (spheres != nullptr && isDrawn(DrawMarks, material.isTranslucent())) {
         meshes.draw(*spheres, radiusScale, look.toEye, material);
     }
 }
@@ -57,7 +69,7 @@ void PaintContext::drawSpheres(const SphereBuffer* spheres, float radiusScale, c
 void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && isDrawn(DrawPhase::lines, material.isTranslucent())) {
+    if (mesh != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         lines.draw(*mesh,
                    {view.projection * look.toEye, view.area.width, view.area.height, width * scale,
                     view.aboveFaces(width * scale), isRound},
@@ -70,7 +82,7 @@ void PaintContext::drawSegments(std::span<const LineSegment> segments, const vxg
 {
     vxgraphics3d::Color faint = color;
     faint.alpha = static_cast<int>(std::lround(255.0f * opacity));
-    if (isDrawn(DrawPhase::lines, faint.alpha < 255)) {
+    if (isDrawn(DrawLines, faint.alpha < 255)) {
         lines.draw(segments,
                    {toClip, view.area.width, view.area.height, width * scale,
                     view.aboveFaces(std::max(width, 1.1f * over) * scale)},
@@ -81,16 +93,16 @@ void PaintContext::drawSegments(std::span<const LineSegment> segments, const vxg
 void PaintContext::drawSymbols(const InstanceBuffer* positions, const Look& look, RenderSymbol symbol, float size) const
 {
     const Material material = faded(look.material, opacity);
-    if (positions != nullptr && isDrawn(DrawPhase::lines, material.isTranslucent())) {
+    if (positions != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         symbols.draw(*positions, {view.projection * look.toEye, view.area.width, view.area.height, symbol, size * scale,
                                   material.color, view.aboveFaces(size * scale)});
     }
 }
 
-void PaintContext::drawMesh(const Mesh* mesh, const PartLook& parts, const Look& look) const
+void PaintContext::drawBody(const Mesh* mesh, const PartLook& parts, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && isDrawn(DrawPhase::faces, material.isTranslucent())) {
+    if (mesh != nullptr && isDrawn(DrawBodies, material.isTranslucent())) {
         meshes.draw(*mesh, parts, look.toEye, material);
     }
 }
@@ -98,7 +110,7 @@ void PaintContext::drawMesh(const Mesh* mesh, const PartLook& parts, const Look&
 void PaintContext::drawLines(const LineMesh* mesh, const PartLook& parts, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && isDrawn(DrawPhase::lines, material.isTranslucent())) {
+    if (mesh != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         lines.draw(*mesh, parts, {view.projection * look.toEye, view.area.width, view.area.height, 1.0f}, material);
     }
 }
@@ -107,7 +119,7 @@ void PaintContext::drawSymbols(const InstanceBuffer* positions, const PartLook& 
                                const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (positions != nullptr && isDrawn(DrawPhase::lines, material.isTranslucent())) {
+    if (positions != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         symbols.draw(*positions, parts,
                      {view.projection * look.toEye, view.area.width, view.area.height, symbol, 1.0f, material.color});
     }

@@ -39,10 +39,19 @@ struct ObjectStyle {
     bool showPhysicsMarkers;
 };
 
-/// What painters draw at a time. Lines and symbols have smooth borders, which take in the colours of what was drawn
-/// before: they follow, with icons and labels, when everything else is there. Marks are instances and spheres, which
-/// the grid of a flat view does not cross as it crosses faces.
-enum class DrawPhase { all, faces, marks, lines };
+/// Kinds of what painters draw, as bits: a part of a frame may consist of some of them.
+enum DrawKind : unsigned {
+    /// Faces of bodies, which have silhouettes.
+    DrawBodies = 0x1,
+    /// Other faces.
+    DrawFaces = 0x2,
+    /// Instances and spheres, which the grid of a flat view does not cross as it crosses faces.
+    DrawMarks = 0x4,
+    /// Lines and symbols have smooth borders, which take in the colours of what was drawn before: they follow, with
+    /// icons and labels, when everything else is there.
+    DrawLines = 0x8,
+    DrawAll = 0xf
+};
 
 /// Where something is drawn, and how it looks.
 struct Look {
@@ -66,6 +75,8 @@ struct PaintContext {
     float opacity;
     /// Pixels of the picture for a pixel of the screen, by which widths of lines are multiplied.
     float scale;
+    /// Whether creases and borders of bodies are drawn as lines.
+    bool showFeatureEdges;
     /// Which axes are logarithmic: bit 0 for x, bit 1 for y.
     int logAxes;
     ObjectStyle objects;
@@ -77,13 +88,27 @@ struct PaintContext {
     const SymbolPainter& symbols;
     std::vector<SceneIcon>& icons;
     std::vector<SceneLabel>& labels;
-    /// Calls that belong to another phase do nothing.
-    DrawPhase phase = DrawPhase::all;
+    /// The bits of what is drawn; calls for other kinds do nothing.
+    unsigned kinds = DrawAll;
     Pass pass = Pass::all;
     /// Set in the pass of what is opaque if something translucent was left out; or null.
     bool* isSomethingLeft = nullptr;
 
+    /// Of the lines of bodies: dark enough on every colour of data, and hardly wider than a pixel of the screen.
+    static constexpr vxgraphics3d::Color c_edgeColor{24, 24, 28, 255};
+    static constexpr float c_edgeWidth = 1.2f;
+
+    /// Some kinds of the same, drawn in another view.
+    PaintContext in(const View& itsView, unsigned itsKinds, Pass itsPass) const
+    {
+        return {itsView, opacity, scale, showFeatureEdges, logAxes, objects, uploads,  colorTextures,
+                images,  meshes,  lines, symbols,          icons,   labels,  itsKinds, itsPass};
+    }
+
     void drawMesh(const Mesh* mesh, const Look& look) const;
+    /// Draws the triangles of a body, which has a silhouette, and its creases and borders as thin dark lines, if
+    /// wanted.
+    void drawBody(const Mesh* mesh, const Look& look) const;
     void drawInstances(const Mesh* mesh, const InstanceBuffer* instances, const Look& look) const;
     /// @param radiusScale multiplies all radii
     void drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const;
@@ -101,7 +126,7 @@ struct PaintContext {
 
     // Parts of an object, each as its row says. The material gives opacity and shininess alone.
 
-    void drawMesh(const Mesh* mesh, const PartLook& parts, const Look& look) const;
+    void drawBody(const Mesh* mesh, const PartLook& parts, const Look& look) const;
     void drawLines(const LineMesh* mesh, const PartLook& parts, const Look& look) const;
     /// A symbol at the position of each instance, which is a part.
     void drawSymbols(const InstanceBuffer* positions, const PartLook& parts, RenderSymbol symbol,
@@ -123,8 +148,9 @@ struct PaintContext {
     }
 
 private:
-    bool hasLabels() const { return phase == DrawPhase::all || phase == DrawPhase::lines; }
-    bool isDrawn(DrawPhase kind, bool isTranslucent) const;
+    /// Icons and labels of what is translucent are drawn with what is opaque.
+    bool hasLabels() const { return (kinds & DrawLines) != 0 && pass != Pass::translucent; }
+    bool isDrawn(DrawKind kind, bool isTranslucent) const;
 };
 
 } // namespace vxrenderer

@@ -279,7 +279,7 @@ void Transparency::draw(const Target& target, const View& view, int numLayers, c
             target.bindScene();
             const View sampleView = shifted(view, positionOf(block.sample, numSamples));
             bindTexture(c_depthUnit, numSamples > 1 ? GL_TEXTURE_2D_MULTISAMPLE : GL_TEXTURE_2D,
-                        target.getSceneDepths());
+                        target.getDepths().name());
             drawSample({sampleView, first, height, numSamples > 1, block}, numLayers, draw);
 
             target.bindScene();

@@ -23,15 +23,21 @@ void SurfacePainter::draw(const PlotItem& item, const PaintContext& context) con
     if (!look) {
         return;
     }
-    const auto drawMesh = [&](const auto& plot) {
-        context.drawMesh(
-            context.uploads.mesh(item.plot, 0, plot.getGeometryChangeId(), plot.getVertices(), plot.getTriangles()),
+    const auto drawBody = [&](const auto& plot) {
+        context.drawBody(
+            context.uploads.body(item.plot, 0, plot.getGeometryChangeId(), plot.getVertices(), plot.getTriangles()),
             *look);
     };
     if (item.plot->getType() == PlotType::domain3d) {
-        drawMesh(static_cast<const SceneGraphPlotDomain3d&>(*item.plot));
+        drawBody(static_cast<const SceneGraphPlotDomain3d&>(*item.plot));
+    } else if (item.plot->getType() == PlotType::surface3d) {
+        drawBody(static_cast<const SceneGraphPlotSurface&>(*item.plot));
     } else {
-        drawMesh(static_cast<const SceneGraphPlotSurface&>(*item.plot));
+        // The steepest slope of a map is no crease.
+        const auto& plot = static_cast<const SceneGraphPlotSurface&>(*item.plot);
+        context.drawBody(
+            context.uploads.mesh(item.plot, 0, plot.getGeometryChangeId(), plot.getVertices(), plot.getTriangles()),
+            *look);
     }
 }
 

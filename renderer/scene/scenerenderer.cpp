@@ -19,8 +19,10 @@
 #include "renderer/paint/paintcontext.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <functional>
+#include <numbers>
 #include <optional>
 #include <utility>
 
@@ -35,6 +37,8 @@ constexpr float c_selectedMarkerWidth = 3.5f;
 constexpr int c_markerRimAlpha = 110;
 /// Number of font sets kept before those of former sizes are given up.
 constexpr std::size_t c_manyFontSets = 24;
+/// Within which surfaces hide ambient light from each other, for each unit of the diagonal of the scene.
+constexpr float c_occlusionRadius = 0.06f;
 
 /// Whether what is drawn covers what is there by its alpha, or replaces it.
 void setBlending(bool on)
@@ -52,6 +56,20 @@ ObjectStyle styleOf(const Appearance& appearance)
     const MarkingSetups& markings = Canvas3dGlobalSettings::getInstance()->getMarkingSetups();
     return {markings.getMarkingModeSetup(appearance.markingMode), appearance.showLabels, appearance.showLineDirections,
             appearance.showPhysicsMarkers};
+}
+
+Lighting lightOf(const Frame& frame)
+{
+    return Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera);
+}
+
+/// The diagonal of a box as the eye sees it.
+float diagonalOf(const BoundingBox& box, const Matrixf& toEye)
+{
+    const Vector3f size = box.getMax() - box.getMin();
+    const auto along = [&](int axis) { return Vector3f(toEye.get(1, axis), toEye.get(2, axis), toEye.get(3, axis)); };
+    return std::sqrt(size.x * size.x * along(1).lengthSquared() + size.y * size.y * along(2).lengthSquared() +
+                     size.z * size.z * along(3).lengthSquared());
 }
 
 } // namespace
@@ -132,9 +150,40 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
     drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay, nullptr);
 }
 
-void SceneRenderer::beginMeshes(const Frame& frame, const View& view)
+void SceneRenderer::beginMeshes(const Frame& frame, const View& view, bool hasOcclusion)
 {
-    m_meshes.begin(view, Lighting::of(*frame.scene->getSceneLight(), *frame.sceneSettings->getLight(), frame.camera));
+    const Lighting light = lightOf(frame);
+    if (frame.appearance.style.isStudio) {
+        m_meshes.beginStudio(view, light, hasOcclusion ? m_occlusion.get() : nullptr);
+    } else {
+        m_meshes.begin(view, light);
+    }
+}
+
+bool SceneRenderer::findOcclusion(const Frame& frame, const FrameLayout& layout,
+                                  const std::vector<const SceneItem*>& items, const Target& target,
+                                  const PaintContext& context)
+{
+    if (!frame.appearance.style.isStudio || m_view.isFlat || !lightOf(frame).isUsed || items.empty() ||
+        frame.appearance.opacity < 1.0f || !layout.box.isValid()) {
+        return false;
+    }
+    GLint viewport[4];
+    glGetIntegerv(GL_VIEWPORT, viewport);
+    if (!m_occlusion) {
+        m_occlusion = std::make_unique<AmbientOcclusion>();
+    }
+    const View view = m_occlusion->beginShapes(m_view);
+    m_meshes.beginShapes(view);
+    const PaintContext shapes = context.in(view, DrawBodies | DrawFaces | DrawMarks, Pass::opaque);
+    for (const SceneItem* item : items) {
+        drawItem(*item, shapes);
+    }
+    m_occlusion->finish(c_occlusionRadius * diagonalOf(layout.box, m_view.sceneToEye));
+    target.bindScene();
+    glViewport(viewport[0], viewport[1], viewport[2], viewport[3]);
+    glEnable(GL_SCISSOR_TEST);
+    return true;
 }
 
 void SceneRenderer::drawTrace(const AxesPainter& axes, const FrameLayout& layout)
@@ -153,7 +202,6 @@ void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, cons
 {
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
-    beginMeshes(frame, m_view);
     std::vector<const SceneItem*> shown;
     for (const SceneItem& item : layout.items) {
         const unsigned bit = std::holds_alternative<PlotItem>(item) ? RenderPlots : RenderObjects;
@@ -161,9 +209,12 @@ void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, cons
             shown.push_back(&item);
         }
     }
+    const RenderStyle& style = frame.appearance.style;
+    m_uploads.setCreaseAngle(style.creaseAngle * std::numbers::pi_v<float> / 180.0f);
     const PaintContext context = {m_view,
                                   frame.appearance.opacity,
                                   frame.appearance.scale,
+                                  style.showFeatureEdges && !m_view.isFlat,
                                   frame.logAxes(),
                                   styleOf(frame.appearance),
                                   m_uploads,
@@ -174,6 +225,8 @@ void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, cons
                                   m_symbols,
                                   icons,
                                   labels};
+    m_hasOcclusion = findOcclusion(frame, layout, shown, target, context);
+    beginMeshes(frame, m_view, m_hasOcclusion);
     if (m_view.isFlat) {
         drawFlat(std::move(shown), trace, context);
     } else {
@@ -215,23 +268,22 @@ void SceneRenderer::drawFlat(std::vector<const SceneItem*> items, const std::fun
 {
     const auto isOpaque = [&](const SceneItem* item) { return context.opacity >= 1.0f && !isTranslucent(*item); };
     const auto firstTranslucent = std::stable_partition(items.begin(), items.end(), isOpaque);
-    const auto drawOpaque = [&](DrawPhase phase, auto&& isWanted) {
-        PaintContext inPhase = context;
-        inPhase.phase = phase;
+    const auto drawOpaque = [&](unsigned kinds, auto&& isWanted) {
+        const PaintContext some = context.in(context.view, kinds, Pass::all);
         std::for_each(items.begin(), firstTranslucent, [&](const SceneItem* item) {
             if (isWanted(*item)) {
-                drawItem(*item, inPhase);
+                drawItem(*item, some);
             }
         });
     };
     const auto isPlot = [](const SceneItem& item) { return std::holds_alternative<PlotItem>(item); };
-    drawOpaque(DrawPhase::faces, isPlot);
+    drawOpaque(DrawBodies | DrawFaces, isPlot);
     if (trace) {
         trace();
     }
-    drawOpaque(DrawPhase::faces, std::not_fn(isPlot));
-    for (const DrawPhase phase : {DrawPhase::marks, DrawPhase::lines}) {
-        drawOpaque(phase, [](const SceneItem&) { return true; });
+    drawOpaque(DrawBodies | DrawFaces, std::not_fn(isPlot));
+    for (const DrawKind kind : {DrawMarks, DrawLines}) {
+        drawOpaque(kind, [](const SceneItem&) { return true; });
     }
     if (firstTranslucent != items.end()) {
         const auto draw = [&](const SceneItem* item) { drawItem(*item, context); };
@@ -244,19 +296,21 @@ void SceneRenderer::drawFlat(std::vector<const SceneItem*> items, const std::fun
 }
 
 void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
-                                PaintContext context)
+                                const PaintContext& context)
 {
-    context.pass = Pass::opaque;
     std::vector<const SceneItem*> translucent;
-    for (const DrawPhase phase : {DrawPhase::faces, DrawPhase::marks, DrawPhase::lines}) {
-        context.phase = phase;
+    for (const DrawKind kind : {DrawBodies, DrawFaces, DrawMarks, DrawLines}) {
+        PaintContext opaque = context.in(m_view, kind, Pass::opaque);
         for (const SceneItem* item : items) {
             bool isSomethingLeft = false;
-            context.isSomethingLeft = &isSomethingLeft;
-            drawItem(*item, context);
+            opaque.isSomethingLeft = &isSomethingLeft;
+            drawItem(*item, opaque);
             if (isSomethingLeft && std::ranges::find(translucent, item) == translucent.end()) {
                 translucent.push_back(item);
             }
+        }
+        if (kind == DrawBodies && context.showFeatureEdges && !items.empty()) {
+            m_silhouettes.draw(target, m_view, PaintContext::c_edgeWidth * context.scale, PaintContext::c_edgeColor);
         }
     }
     if (translucent.empty()) {
@@ -271,13 +325,8 @@ void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, cons
     setOutput(FragmentOutput::layers);
     const int numLayers = frame.isDraft ? 0 : Transparency::c_fullLayers;
     m_transparency.draw(target, m_view, numLayers, [&](const View& view) {
-        // Those are drawn once, with what is opaque.
-        std::vector<SceneIcon> icons;
-        std::vector<SceneLabel> labels;
-        const PaintContext layers = {view,      context.opacity, context.scale, context.logAxes, context.objects,
-                                     m_uploads, m_colorTextures, m_images,      m_meshes,        m_lines,
-                                     m_symbols, icons,           labels,        DrawPhase::all,  Pass::translucent};
-        beginMeshes(frame, view);
+        beginMeshes(frame, view, false);
+        const PaintContext layers = context.in(view, DrawAll, Pass::translucent);
         for (const SceneItem* item : translucent) {
             drawItem(*item, layers);
         }
@@ -437,12 +486,12 @@ void SceneRenderer::keepShown(PickedObjectCollection& picked, const Frame& frame
         target.bindScene();
         glViewport(area.x, target.getHeight() - area.y - area.height, area.width, area.height);
         // With the light of the picture, since that decides about the shaders, and so about the last bits of depths.
-        beginMeshes(frame, view);
+        beginMeshes(frame, view, m_hasOcclusion);
         std::vector<SceneIcon> icons;
         std::vector<SceneLabel> labels;
         shown = findShown(results, objects,
-                          {view, 1.0f, frame.appearance.scale, frame.logAxes(), styleOf(frame.appearance), m_uploads,
-                           m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
+                          {view, 1.0f, frame.appearance.scale, false, frame.logAxes(), styleOf(frame.appearance),
+                           m_uploads, m_colorTextures, m_images, m_meshes, m_lines, m_symbols, icons, labels});
     }
     picked.reset();
     for (std::size_t i = 0; i < results.size(); ++i) {

@@ -8,11 +8,13 @@
 #include "renderer/gl/scenecopy.h"
 #include "renderer/objects/objectpainter.h"
 #include "renderer/overlays/shapepainter.h"
+#include "renderer/paint/ambientocclusion.h"
 #include "renderer/paint/backgroundpainter.h"
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/overlaypainter.h"
 #include "renderer/paint/picturecanvas.h"
+#include "renderer/paint/silhouettepainter.h"
 #include "renderer/paint/solidpainter.h"
 #include "renderer/paint/symbolpainter.h"
 #include "renderer/paint/transparency.h"
@@ -28,6 +30,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -99,8 +102,13 @@ private:
     void drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
                   const std::function<void()>& trace, std::vector<SceneIcon>& icons, std::vector<SceneLabel>& labels);
     void drawTrace(const AxesPainter& axes, const FrameLayout& layout);
-    /// Lets meshes be drawn in a view, in the light of the frame.
-    void beginMeshes(const Frame& frame, const View& view);
+    /// Lets faces be drawn in a view, in the light of the frame.
+    /// @param hasOcclusion whether it has been found for the view
+    void beginMeshes(const Frame& frame, const View& view, bool hasOcclusion);
+    /// Finds the occlusion of what is opaque if the frame has studio light.
+    /// @return whether there is any
+    bool findOcclusion(const Frame& frame, const FrameLayout& layout, const std::vector<const SceneItem*>& items,
+                       const Target& target, const PaintContext& context);
     void drawItem(const SceneItem& item, const PaintContext& context) const;
     /// Whether an item is blended in every picture.
     bool isTranslucent(const SceneItem& item) const;
@@ -108,9 +116,10 @@ private:
     /// @param trace draws the trace of the grid over the faces of plots; may be empty
     void drawFlat(std::vector<const SceneItem*> items, const std::function<void()>& trace,
                   const PaintContext& context) const;
-    /// Draws what is opaque, and mixes what is translucent over it.
+    /// Draws what is opaque, with the silhouettes of bodies if the picture shows feature edges, and mixes what is
+    /// translucent over it.
     void drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
-                     PaintContext context);
+                     const PaintContext& context);
     void drawLightMarkers(const Frame& frame);
     /// @param free see `drawLabels`
     void drawOverlays(const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free);
@@ -128,6 +137,10 @@ private:
     ObjectPainters m_objectPainters;
     BackgroundPainter m_background;
     MeshPainter m_meshes;
+    /// Null until a picture needs it.
+    std::unique_ptr<AmbientOcclusion> m_occlusion;
+    bool m_hasOcclusion = false;
+    SilhouettePainter m_silhouettes;
     LinePainter m_lines;
     SymbolPainter m_symbols;
     SolidPainter m_solids;

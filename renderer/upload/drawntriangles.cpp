@@ -3,9 +3,9 @@
 #include "graphics3d/buffers/vertexbuffer.h"
 #include "graphics3d/buffers/vertexlayout.h"
 #include "renderer/upload/checkedindices.h"
+#include "renderer/upload/vertexrecords.h"
 
 #include <cmath>
-#include <cstring>
 #include <utility>
 #include <vector>
 
@@ -18,46 +18,6 @@ using vxgraphics3d::Vector3f;
 /// corners of all of them have one order. The normals of a rough surface are averages, so that some triangles disagree.
 constexpr double c_oneOrder = 0.8;
 
-/// Reads the records of a vertex buffer.
-class Records {
-public:
-    Records(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::VertexLayout& layout)
-        : m_first(static_cast<const std::byte*>(vertices.vertexPointer())), m_layout(layout)
-    {}
-
-    Vector3f position(std::uint32_t index) const { return vectorAt(index, 0); }
-    Vector3f normal(std::uint32_t index) const { return vectorAt(index, m_layout.normal); }
-    /// Whether position and texture coordinate are finite.
-    bool isFinite(std::uint32_t index) const
-    {
-        const Vector3f point = position(index);
-        const float u = m_layout.texture >= 0 ? at(index, m_layout.texture) : 0.0f;
-        return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z) && std::isfinite(u);
-    }
-    /// Whether there is a normal that points somewhere.
-    bool hasNormal(std::uint32_t index) const
-    {
-        const float size = m_layout.normal >= 0 ? normal(index).lengthSquared() : 0.0f;
-        return size > 0.0f && std::isfinite(size);
-    }
-
-private:
-    float at(std::uint32_t index, std::ptrdiff_t offset) const
-    {
-        float value;
-        std::memcpy(&value, m_first + index * m_layout.size + offset, sizeof value);
-        return value;
-    }
-    Vector3f vectorAt(std::uint32_t index, std::ptrdiff_t offset) const
-    {
-        constexpr std::ptrdiff_t step = sizeof(float);
-        return {at(index, offset), at(index, offset + step), at(index, offset + 2 * step)};
-    }
-
-    const std::byte* m_first;
-    vxgraphics3d::VertexLayout m_layout;
-};
-
 } // namespace
 
 DrawnTriangles::DrawnTriangles(const CheckedIndices& source, const vxgraphics3d::VertexBuffer& vertices,
@@ -65,7 +25,7 @@ DrawnTriangles::DrawnTriangles(const CheckedIndices& source, const vxgraphics3d:
     : m_indices(std::make_unique_for_overwrite<std::uint32_t[]>(static_cast<std::size_t>(source.size()))),
       m_haveNormals(layout.normal >= 0)
 {
-    const Records records(vertices, layout);
+    const VertexRecords records(vertices, layout);
     bool areFinite = true;
     const auto count = static_cast<std::uint32_t>(vertices.getNumberOfVertices());
     for (std::uint32_t i = 0; i < count; ++i) {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 
 namespace vxgraphics3d {
 class VertexBuffer;
@@ -26,6 +27,8 @@ public:
                    const vxgraphics3d::VertexLayout& layout);
 
     const std::uint32_t* data() const { return m_indices.get(); }
+    /// Three for each triangle.
+    std::span<std::uint32_t> indices() { return {m_indices.get(), static_cast<std::size_t>(m_size)}; }
     /// Number of indices.
     int size() const { return m_size; }
     std::ptrdiff_t bytes() const { return m_size * static_cast<std::ptrdiff_t>(sizeof(std::uint32_t)); }

@@ -5,13 +5,17 @@
 #include "graphics3d/buffers/vertexbuffernormal.h"
 #include "graphics3d/buffers/vertexlayout.h"
 #include "renderer/upload/checkedindices.h"
+#include "renderer/upload/creases.h"
 #include "renderer/upload/drawntriangles.h"
 #include "renderer/upload/instancebuffer.h"
+#include "renderer/upload/vertexrecords.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vxrenderer {
@@ -60,14 +64,59 @@ static_assert(sizeof(PartVertex) == 28);
 void Mesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
 {
     m_numIndices = 0;
+    m_partEnds.clear();
+    m_featureEdges.reset();
     requireTriangles(indices);
     const VertexLayout& layout = requireLayout(vertices);
-    const DrawnTriangles triangles(CheckedIndices(indices, vertices), vertices, layout);
+    upload(vertices, layout, DrawnTriangles(CheckedIndices(indices, vertices), vertices, layout), {});
+}
 
+void Mesh::loadBody(const VertexBuffer& vertices, const IndexBuffer& indices, float creaseAngle)
+{
+    m_numIndices = 0;
+    m_partEnds.clear();
+    m_featureEdges.reset();
+    requireTriangles(indices);
+    const VertexLayout& layout = requireLayout(vertices);
+    DrawnTriangles triangles(CheckedIndices(indices, vertices), vertices, layout);
+    const VertexRecords records(vertices, layout);
+    const Creases creases(records, static_cast<std::uint32_t>(vertices.getNumberOfVertices()), triangles.indices(),
+                          creaseAngle);
+
+    const auto size = static_cast<std::size_t>(layout.size);
+    std::vector<std::byte> copies(size * creases.getVertices().size());
+    for (std::byte* out = copies.data(); const Creases::Vertex& vertex : creases.getVertices()) {
+        std::memcpy(out, records.record(vertex.source), size);
+        if (layout.normal >= 0) {
+            std::memcpy(out + layout.normal, &vertex.normal, sizeof vertex.normal);
+        }
+        out += size;
+    }
+    upload(vertices, layout, triangles, copies);
+
+    std::vector<LineMesh::Piece> edges;
+    edges.reserve(creases.getEdges().size());
+    for (const auto& [from, to] : creases.getEdges()) {
+        edges.push_back({records.position(from), records.position(to), records.u(from), records.u(to)});
+    }
+    m_featureEdges.emplace();
+    m_featureEdges->load(std::move(edges));
+}
+
+void Mesh::upload(const VertexBuffer& vertices, const VertexLayout& layout, const DrawnTriangles& triangles,
+                  std::span<const std::byte> furtherVertices)
+{
+    const GLsizeiptr size = layout.size * vertices.getNumberOfVertices();
+    const auto furtherSize = static_cast<GLsizeiptr>(furtherVertices.size());
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_vertices.name());
-    glBufferData(GL_ARRAY_BUFFER, layout.size * vertices.getNumberOfVertices(), vertices.vertexPointer(),
-                 GL_STATIC_DRAW);
+    if (furtherVertices.empty()) {
+        glBufferData(GL_ARRAY_BUFFER, size, vertices.vertexPointer(), GL_STATIC_DRAW);
+    } else {
+        glBufferData(GL_ARRAY_BUFFER, size + furtherSize, nullptr, GL_STATIC_DRAW);
+        glBufferSubData(GL_ARRAY_BUFFER, 0, size, vertices.vertexPointer());
+        glBufferSubData(GL_ARRAY_BUFFER, size, furtherSize, furtherVertices.data());
+    }
     describe(Attribute::position, 0, 3, GL_FLOAT, layout);
     describe(Attribute::normal, layout.normal, 3, GL_FLOAT, layout);
     describe(Attribute::color, layout.color, 4, GL_UNSIGNED_BYTE, layout);
@@ -82,9 +131,10 @@ void Mesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
     m_hasNormals = triangles.haveNormals();
 }
 
-void Mesh::load(std::span<const MeshPart> parts)
+void Mesh::loadBody(std::span<const MeshPart> parts, float creaseAngle)
 {
     m_numIndices = 0;
+    m_featureEdges.reset();
     m_hasNormals = true;
     m_partEnds.clear();
     std::size_t numVertices = 0;
@@ -115,6 +165,17 @@ void Mesh::load(std::span<const MeshPart> parts)
     }
 
     constexpr VertexLayout layout = {.vertexType = 0, .size = sizeof(PartVertex), .normal = sizeof(float[3])};
+    const auto* records = static_cast<const std::byte*>(static_cast<const void*>(vertices.data()));
+    const Creases creases(VertexRecords(records, layout), static_cast<std::uint32_t>(vertices.size()), indices,
+                          creaseAngle);
+    vertices.reserve(vertices.size() + creases.getVertices().size());
+    for (const Creases::Vertex& vertex : creases.getVertices()) {
+        PartVertex copy = vertices[vertex.source];
+        copy.vertex.nx = vertex.normal.x;
+        copy.vertex.ny = vertex.normal.y;
+        copy.vertex.nz = vertex.normal.z;
+        vertices.push_back(copy);
+    }
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_vertices.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(vertices.size() * sizeof(PartVertex)), vertices.data(),

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "renderer/gl/globject.h"
+#include "renderer/upload/linemesh.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -11,10 +13,12 @@ namespace vxgraphics3d {
 class IndexBuffer;
 class VertexBuffer;
 class VertexBufferNormal;
+struct VertexLayout;
 } // namespace vxgraphics3d
 
 namespace vxrenderer {
 
+class DrawnTriangles;
 class InstanceBuffer;
 
 /// Locations of the vertex attributes, the same in all shaders of meshes.
@@ -53,11 +57,18 @@ public:
     /// @throws std::out_of_range if an index points beyond the vertices
     /// @throws std::runtime_error if the driver has no memory for it
     void load(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
-    /// Copies the triangles of several parts in the same way. Each vertex has the number of its part.
-    void load(std::span<const MeshPart> parts);
+    /// The same for a surface of a body, which is shaded with the normal of each side at its creases.
+    /// @param creaseAngle in radians, from which triangles that meet make a crease
+    void loadBody(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices,
+                  float creaseAngle);
+    /// Copies the triangles of several parts of a body in the same way. Each vertex has the number of its part.
+    void loadBody(std::span<const MeshPart> parts, float creaseAngle);
 
     /// Whether all vertices that are drawn have a normal. Others are lit by the slope of their triangle.
     bool hasNormals() const { return m_hasNormals; }
+
+    /// The creases and borders of a body; null for other meshes.
+    const LineMesh* getFeatureEdges() const { return m_featureEdges ? &*m_featureEdges : nullptr; }
 
     /// Draws all segments with the program in use.
     void draw() const;
@@ -67,6 +78,9 @@ public:
     void draw(std::span<const PartRange> ranges) const;
 
 private:
+    void upload(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::VertexLayout& layout,
+                const DrawnTriangles& triangles, std::span<const std::byte> furtherVertices);
+
     GlVertexArray m_array;
     GlBuffer m_vertices;
     GlBuffer m_indices;
@@ -74,6 +88,7 @@ private:
     /// Where the indices of each part end; empty for a mesh without parts.
     std::vector<std::uint32_t> m_partEnds;
     bool m_hasNormals = false;
+    std::optional<LineMesh> m_featureEdges;
 };
 
 } // namespace vxrenderer

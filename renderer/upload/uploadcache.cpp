@@ -55,11 +55,28 @@ const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int nu
         });
 }
 
-const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
+const Mesh* UploadCache::body(const boost::shared_ptr<const void>& owner, int number, int changeId,
                               const std::function<std::vector<MeshPart>()>& make)
 {
     return get(
-        m_meshes, owner, number, changeId, [] { return std::nullopt; }, [&](Mesh& mesh) { mesh.load(make()); });
+        m_meshes, owner, number, changeId, [] { return std::nullopt; },
+        [&](Mesh& mesh) { mesh.loadBody(make(), m_creaseAngle); });
+}
+
+const Mesh* UploadCache::body(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                              const VertexBuffer& vertices, const IndexBuffer& indices)
+{
+    return get(
+        m_meshes, owner, number, changeId, [&] { return contentDigest(vertices, indices); },
+        [&](Mesh& mesh) { mesh.loadBody(vertices, indices, m_creaseAngle); });
+}
+
+void UploadCache::setCreaseAngle(float angle)
+{
+    if (angle != m_creaseAngle) {
+        m_creaseAngle = angle;
+        m_meshes.clear();
+    }
 }
 
 const LineMesh* UploadCache::lines(const boost::shared_ptr<const void>& owner, int number, int changeId,

@@ -41,13 +41,20 @@ public:
     /// Triangles.
     const Mesh* mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
                      const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
+    /// The surface of a body, see `Mesh::loadBody`.
+    const Mesh* body(const boost::shared_ptr<const void>& owner, int number, int changeId,
+                     const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices);
+    /// Sets the angle in radians from which triangles of a body make a crease. With another one all meshes are loaded
+    /// again.
+    void setCreaseAngle(float angle);
+
     /// Triangles that are put together for the upload.
     /// @param make called when they have changed
     const Mesh* mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
                      const std::function<std::unique_ptr<vxgraphics3d::SurfaceMesh>()>& make);
-    /// The triangles of several parts.
+    /// The triangles of several parts of a body.
     /// @param make called when they have changed
-    const Mesh* mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
+    const Mesh* body(const boost::shared_ptr<const void>& owner, int number, int changeId,
                      const std::function<std::vector<MeshPart>()>& make);
     /// How the parts look. It is compared with each call, and loaded if it has changed.
     /// @param rows of the marking table, one for each part
@@ -91,6 +98,7 @@ private:
                       DigestOf&& digestOf, Load&& load);
 
     UploadCounts& m_counts;
+    float m_creaseAngle = 0.0f;
     Entries<Mesh> m_meshes;
     Entries<LineMesh> m_lines;
     Entries<InstanceBuffer> m_instances;

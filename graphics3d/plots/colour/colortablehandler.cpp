@@ -13,7 +13,8 @@ ColorTableHandler* ColorTableHandler::getInstance()
 {
     // Created once even if two threads, each with its own scene, call this first.
     static ColorTableHandler* const instance = [] {
-        m_instance.reset(new ColorTableHandler());
+        // The pointer is destroyed when the process ends, but the tables are not: threads may still use them.
+        m_instance.reset(new ColorTableHandler, [](ColorTableHandler*) {});
         return m_instance.get();
     }();
     return instance;

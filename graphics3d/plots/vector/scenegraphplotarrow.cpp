@@ -74,6 +74,9 @@ void SceneGraphPlotArrow::setScalingType(ScalingType type)
 void SceneGraphPlotArrow::computeBoundingBox(const PostDataObject& data, double scale)
 {
     const PostDataView record(data, plotClassName(getType()));
+    if (record.numPoints(0) == 0) {
+        return;
+    }
     if (const auto box = VectorField::ofAnyAxes(record).box(scale)) {
         setBoundingBox(*box);
     }

@@ -170,9 +170,10 @@ TEST_F(FaceSidesTest, neitherTheOrderOfCornersNorTheDirectionOfNormalsNorAMirror
     EXPECT_EQ(numDifferent(pictureOf(record), expected), 0);
 }
 
-// A step up within a steep fall: the normals next to it are those of the fall.
+// A step up within a steep fall: the normals next to it are those of the fall, and no crease replaces them.
 TEST_F(FaceSidesTest, aStepWhoseNormalsPointToItsOtherSideIsLitLikeWhatSurroundsIt)
 {
+    m_canvas.setStyle({.creaseAngle = RenderStyle::c_widestAngle});
     GridRecord fall = grid(8);
     fall.height = [](double x, double) { return -5.0 * x + 6.0 * std::clamp(x - 0.5, 0.0, 0.125); };
     PostDataObject record = fall.make();

@@ -67,6 +67,9 @@ public abstract class SceneGraphPlot extends NativePeer {
      * Fills the plot from a record. The legend limits follow the values of the record again and a value restriction is
      * removed; colours, symmetry, height scale, offset and title stay. The plot keeps no reference to the record.
      *
+     * <p>The box becomes that of the record. Height scale and plane offset still apply to what is drawn, but not to
+     * this box: set them to 1 and 0 before filling again, and set them again afterwards.
+     *
      * <p>If native memory runs out during the fill, either nothing has changed, or the plot has lost its buffers, draws
      * nothing and already shows the value range and legend limits of the new record. It can be filled again.
      *
@@ -121,12 +124,12 @@ public abstract class SceneGraphPlot extends NativePeer {
         setTitle(this, format.number(), Objects.requireNonNull(text, "text"));
     }
 
-    /** {@return the smallest value of the last fill; 0 before the first fill or without colour data} */
+    /** {@return the smallest value of the last fill; 0 before the first fill or without colour and iso level data} */
     public final double getValueMin() {
         return getValueMin(this);
     }
 
-    /** {@return the largest value of the last fill; 1 before the first fill or without colour data} */
+    /** {@return the largest value of the last fill; 1 before the first fill or without colour and iso level data} */
     public final double getValueMax() {
         return getValueMax(this);
     }
@@ -281,20 +284,28 @@ public abstract class SceneGraphPlot extends NativePeer {
     }
 
     /**
-     * Stretches the plot in z about its plane.
+     * Stretches the plot in z about its plane, and its box with it. A fill replaces the box, so set the scale after it.
      *
      * @param scale the factor; one that is not above 0 is ignored
+     * @throws IllegalArgumentException if the factor is infinite
      */
     public final void setHeightScale(float scale) {
+        if (scale == Float.POSITIVE_INFINITY) {
+            throw new IllegalArgumentException("The height scale is infinite.");
+        }
         setHeightScale(this, scale);
     }
 
     /**
-     * Moves the plot along z.
+     * Moves the plot along z, and its box with it. A fill replaces the box, so set the offset after it.
      *
      * @param offset the distance from its original position, in the units of the scene
+     * @throws IllegalArgumentException if the offset is not finite
      */
     public final void setPlotPlaneOffset(float offset) {
+        if (!Float.isFinite(offset)) {
+            throw new IllegalArgumentException("The plane offset is not finite: " + offset);
+        }
         setPlotPlaneOffset(this, offset);
     }
 

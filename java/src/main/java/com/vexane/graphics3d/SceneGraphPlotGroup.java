@@ -46,7 +46,7 @@ public final class SceneGraphPlotGroup extends SceneGraphNode {
     /**
      * Adds a plot under its own id. Another plot with that id is replaced, and its texture handles are lost to the
      * group. If the group has too few handles left, the plot is not added and the log has a warning; check with
-     * {@link #doesPlotExist}.
+     * {@link #doesPlotExist}. That check cannot tell two plots with one id apart, so remove the earlier one first.
      *
      * <p>A plot can be in one group only. Remove it before adding it again, to this group or another: otherwise it
      * would take new texture handles, and the earlier ones would be lost or returned to the wrong group. A plot that

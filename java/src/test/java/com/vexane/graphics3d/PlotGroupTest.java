@@ -39,6 +39,8 @@ class PlotGroupTest {
             plot.setReverseColorTable(true);
             plot.setHeightScale(2);
             plot.setPlotPlaneOffset(-1);
+            assertThrows(IllegalArgumentException.class, () -> plot.setHeightScale(Float.POSITIVE_INFINITY));
+            assertThrows(IllegalArgumentException.class, () -> plot.setPlotPlaneOffset(Float.NaN));
             try (PeerRecipes peers = new PeerRecipes()) {
                 plot.fillPlot(peers.first(PostDataObject.class));
             }

@@ -178,6 +178,75 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
+     * Lights 3D views so that shapes are read at a glance, from the next picture on: soft light from above, a weak light
+     * from the eye, shade in corners, and colours that stay those of their table. Otherwise, as at first, the lights of
+     * the scene act by the documented formula alone. A scene without light shows its bare colours in both cases.
+     *
+     * @param on whether it is lit that way
+     */
+    public void setStudioLight(boolean on) {
+        setStudioLight(this, on);
+    }
+
+    /** {@return whether 3D views have studio light} */
+    public boolean isStudioLight() {
+        return isStudioLight(this);
+    }
+
+    /**
+     * Sets from which angle on two faces of a body meet in a sharp edge, at first 35 degrees. Each side of such an edge is
+     * shaded with its own normals, also where the data have one normal per point. Surfaces in the plane, which are raised
+     * by heights, have no sharp edges. Another angle lets the next picture upload the bodies again.
+     *
+     * @param degrees the angle between the normals of the faces, 0 to 180; with 180 there are no sharp edges
+     * @throws IllegalArgumentException if it is outside of that range or not a number
+     */
+    public void setCreaseAngle(float degrees) {
+        if (!(degrees >= 0.0f && degrees <= 180.0f)) {
+            throw new IllegalArgumentException("degrees: " + degrees);
+        }
+        setCreaseAngle(this, degrees);
+    }
+
+    /** {@return the angle in degrees from which faces meet in a sharp edge} */
+    public float getCreaseAngle() {
+        return getCreaseAngle(this);
+    }
+
+    /**
+     * Draws sharp edges, open borders and silhouettes of bodies in 3D views as thin dark lines, from the next picture on.
+     *
+     * @param on whether they are drawn; at first they are not
+     */
+    public void setFeatureEdges(boolean on) {
+        setFeatureEdges(this, on);
+    }
+
+    /** {@return whether sharp edges, borders and silhouettes are drawn} */
+    public boolean isFeatureEdges() {
+        return isFeatureEdges(this);
+    }
+
+    /**
+     * Sets how finely {@link #writeHardcopy writeHardcopy} draws: each pixel of an export becomes the mean of a square of
+     * pixels, which smooths edges, lines and steps of colours. The time grows with the number of pixels.
+     *
+     * @param factor pixels per direction, 1 to 4; at first 1
+     * @throws IllegalArgumentException if it is outside of that range
+     */
+    public void setSupersampling(int factor) {
+        if (factor < 1 || factor > 4) {
+            throw new IllegalArgumentException("factor: " + factor);
+        }
+        setSupersampling(this, factor);
+    }
+
+    /** {@return the number of pixels that are drawn for each pixel of an export, per direction} */
+    public int getSupersampling() {
+        return getSupersampling(this);
+    }
+
+    /**
      * Changes the size of the picture. There is no image until the next {@link #draw()} or {@link #drawDraft()}.
      *
      * @param width pixels in a row, at least 1
@@ -425,6 +494,22 @@ public final class OffscreenRenderer extends NativePeer {
     private static native void zoomExtents(OffscreenRenderer peer);
 
     private static native void setMarkingMode(OffscreenRenderer peer, int mode);
+
+    private static native void setStudioLight(OffscreenRenderer peer, boolean on);
+
+    private static native boolean isStudioLight(OffscreenRenderer peer);
+
+    private static native void setCreaseAngle(OffscreenRenderer peer, float degrees);
+
+    private static native float getCreaseAngle(OffscreenRenderer peer);
+
+    private static native void setFeatureEdges(OffscreenRenderer peer, boolean on);
+
+    private static native boolean isFeatureEdges(OffscreenRenderer peer);
+
+    private static native void setSupersampling(OffscreenRenderer peer, int factor);
+
+    private static native int getSupersampling(OffscreenRenderer peer);
 
     private static native void resize(OffscreenRenderer peer, int width, int height);
 

@@ -1,6 +1,7 @@
 package com.vexane.renderer;
 
 import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertNotSame;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
@@ -239,6 +240,30 @@ class OffscreenRendererTest {
             renderer.draw();
             assertThrows(NullPointerException.class, () -> renderer.writePng(null));
             assertEquals(10 * 10 * 4, renderer.image().capacity());
+        }
+    }
+
+    @Test
+    void keepsItsStyleWhenAnArgumentIsRefused() {
+        try (OffscreenRenderer renderer = OffscreenRenderer.create(10, 10, 1)) {
+            assertEquals(35.0f, renderer.getCreaseAngle());
+            assertEquals(1, renderer.getSupersampling());
+            assertFalse(renderer.isStudioLight() || renderer.isFeatureEdges());
+            renderer.setCreaseAngle(180.0f);
+            renderer.setFeatureEdges(true);
+            renderer.setSupersampling(4);
+            for (float angle : new float[] {-0.1f, 180.1f, Float.NaN}) {
+                assertThrows(IllegalArgumentException.class, () -> renderer.setCreaseAngle(angle));
+            }
+            for (int factor : new int[] {0, 5}) {
+                assertThrows(IllegalArgumentException.class, () -> renderer.setSupersampling(factor));
+            }
+            assertEquals(180.0f, renderer.getCreaseAngle());
+            assertEquals(4, renderer.getSupersampling());
+            assertTrue(renderer.isFeatureEdges() && !renderer.isStudioLight());
+            renderer.setStudioLight(true);
+            renderer.setFeatureEdges(false);
+            assertTrue(renderer.isStudioLight() && !renderer.isFeatureEdges());
         }
     }
 
