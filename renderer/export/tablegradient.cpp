@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
+#include <utility>
 
 namespace vxrenderer {
 namespace {
@@ -11,12 +12,13 @@ namespace {
 using Rgb = std::array<int, 3>;
 using vxgraphics3d::ColorTable;
 
-/// Neighbouring steps of a bar in one colour.
-struct Run {
+/// A texel on a bar.
+struct Step {
     Rgb color;
     double begin;
     double end;
-    int numSteps;
+    /// Number of neighbours in the same colour, with itself.
+    int runLength;
 
     double middle() const { return 0.5 * (begin + end); }
 };
@@ -32,10 +34,10 @@ int difference(const Rgb& a, const Rgb& b)
 }
 
 /// Steps of a gradient are short where its colours change fast.
-bool isJump(const Run& a, const Run& b)
+bool isJump(const Step& a, const Step& b)
 {
     const int step = difference(a.color, b.color);
-    return step > c_largestStep || (step > c_slowStep && std::max(a.numSteps, b.numSteps) > 2);
+    return step > c_largestStep || (step > c_slowStep && std::max(a.runLength, b.runLength) > 2);
 }
 
 int texelOf(float position)
@@ -44,7 +46,7 @@ int texelOf(float position)
     return std::clamp(texel, 0, ColorTable::c_numTexels - 1);
 }
 
-std::vector<Run> runsOf(const ColorTable& table, float from, float to)
+std::vector<Step> stepsOf(const ColorTable& table, float from, float to)
 {
     const auto colorOf = [&](int texel) {
         const auto rgba = static_cast<unsigned>(table.getRgba()[static_cast<std::size_t>(texel)]);
@@ -53,36 +55,37 @@ std::vector<Run> runsOf(const ColorTable& table, float from, float to)
     };
     const int last = texelOf(to);
     const int direction = to < from ? -1 : 1;
-    std::vector<Run> runs;
+    std::vector<Step> steps;
+    std::size_t runStart = 0;
     double begin = 0.0;
     for (int texel = texelOf(from);; texel += direction) {
         const int border = direction > 0 ? texel + 1 : texel;
         const double inTable = static_cast<double>(border) / ColorTable::c_numTexels;
         const double end = texel == last ? 1.0 : (inTable - static_cast<double>(from)) / static_cast<double>(to - from);
-        const Rgb color = colorOf(texel);
-        if (runs.empty() || runs.back().color != color) {
-            runs.push_back({color, begin, end, 1});
-        } else {
-            runs.back().end = end;
-            ++runs.back().numSteps;
+        steps.push_back({colorOf(texel), begin, end, 1});
+        if (steps[runStart].color != steps.back().color) {
+            runStart = steps.size() - 1;
+        }
+        for (std::size_t i = runStart; i < steps.size(); ++i) {
+            steps[i].runLength = static_cast<int>(steps.size() - runStart);
         }
         if (texel == last) {
-            return runs;
+            return steps;
         }
         begin = end;
     }
 }
 
-/// Whether runs lie on the straight line of colours between the first and the last of them.
-bool isStraight(const Run* first, const Run* last)
+/// Whether steps lie on the straight line of colours between the first and the last of them.
+bool isStraight(const Step* first, const Step* last)
 {
-    for (const Run* run = first + 1; run < last; ++run) {
-        const double part = (run->middle() - first->middle()) / (last->middle() - first->middle());
+    for (const Step* step = first + 1; step < last; ++step) {
+        const double part = (step->middle() - first->middle()) / (last->middle() - first->middle());
         Rgb color{};
         for (std::size_t i = 0; i < color.size(); ++i) {
             color[i] = static_cast<int>(std::lround(std::lerp(first->color[i], last->color[i], part)));
         }
-        if (difference(color, run->color) > c_tolerance) {
+        if (difference(color, step->color) > c_tolerance) {
             return false;
         }
     }
@@ -93,18 +96,19 @@ bool isStraight(const Run* first, const Run* last)
 
 std::vector<GradientPiece> gradientOf(const ColorTable& table, float from, float to)
 {
-    const std::vector<Run> runs = runsOf(table, from, to);
+    const std::vector<Step> steps = stepsOf(table, from, to);
     std::vector<GradientPiece> pieces;
-    for (std::size_t first = 0; first < runs.size();) {
+    for (std::size_t first = 0; first < steps.size();) {
         std::size_t end = first + 1;
-        while (end < runs.size() && !isJump(runs[end - 1], runs[end])) {
+        while (end < steps.size() && !isJump(steps[end - 1], steps[end])) {
             ++end;
         }
-        GradientPiece piece = {runs[first].begin, {{runs[first].begin, runs[first].color}}};
-        for (std::size_t i = first; end - first > 1 && i < end;) {
-            piece.stops.push_back({runs[i].middle(), runs[i].color});
+        GradientPiece piece = {steps[first].begin, {{steps[first].begin, steps[first].color}}};
+        const bool isPlain = steps[first].runLength == static_cast<int>(end - first);
+        for (std::size_t i = first; !isPlain && i < end;) {
+            piece.stops.push_back({steps[i].middle(), steps[i].color});
             std::size_t next = i + 1;
-            while (next + 1 < end && isStraight(&runs[i], &runs[next + 1])) {
+            while (next + 1 < end && isStraight(&steps[i], &steps[next + 1])) {
                 ++next;
             }
             i = next;

@@ -26,6 +26,8 @@ using vxgraphics3d::Matrixf;
 using vxgraphics3d::Vector3f;
 
 constexpr double c_pointsPerInch = 72.0;
+/// Corners of lines are pointed up to the angle of `LinePainter`.
+constexpr double c_miterLimit = 2.24;
 
 extern "C" cairo_status_t vxTakeVectorBytes(void* closure, const unsigned char* data, unsigned int size)
 {
@@ -189,7 +191,7 @@ VectorCanvas::VectorCanvas(VectorFormat format, int width, int height, float pix
     cairo_font_options_set_hint_style(options.get(), CAIRO_HINT_STYLE_NONE);
     cairo_font_options_set_hint_metrics(options.get(), CAIRO_HINT_METRICS_OFF);
     cairo_set_font_options(m_context.get(), options.get());
-    cairo_set_line_join(m_context.get(), CAIRO_LINE_JOIN_ROUND);
+    cairo_set_miter_limit(m_context.get(), c_miterLimit);
 }
 
 std::vector<std::uint8_t> VectorCanvas::finish()
@@ -276,11 +278,9 @@ void VectorCanvas::strokeRect(const PixelRect& rect, float width, const Color& c
     setColor(color);
     const float half = 0.5f * width;
     addRect({rect.left + half, rect.top + half, rect.right - half, rect.bottom - half});
-    cairo_save(m_context.get());
     cairo_set_line_join(m_context.get(), CAIRO_LINE_JOIN_MITER);
     cairo_set_line_width(m_context.get(), static_cast<double>(width));
     cairo_stroke(m_context.get());
-    cairo_restore(m_context.get());
 }
 
 void VectorCanvas::fillPolygon(std::span<const PixelPoint> corners, const Color& color)
@@ -405,6 +405,7 @@ void VectorCanvas::drawGlyphs(const TextLayout& text, FontSet& fonts, const Text
             cairo_glyph_path(m_context.get(), run.glyphs.data(), static_cast<int>(run.glyphs.size()));
         }
         setColor(*colors.halo);
+        cairo_set_line_join(m_context.get(), CAIRO_LINE_JOIN_ROUND);
         cairo_set_line_width(m_context.get(), 2.0 * static_cast<double>(haloWidth(fonts.fontSize())));
         cairo_stroke(m_context.get());
     }
@@ -422,6 +423,7 @@ void VectorCanvas::drawLines(std::span<const LineSegment> lines, const LinePaint
     const double width = static_cast<double>(frame.lineWidth);
     setColor(color);
     cairo_set_line_width(m_context.get(), width);
+    cairo_set_line_join(m_context.get(), frame.isRound ? CAIRO_LINE_JOIN_ROUND : CAIRO_LINE_JOIN_MITER);
     // As in the picture: the ends of translucent lines do not reach beyond their points.
     cairo_set_line_cap(m_context.get(), color.alpha < 255 ? CAIRO_LINE_CAP_BUTT
                                         : frame.isRound   ? CAIRO_LINE_CAP_ROUND
