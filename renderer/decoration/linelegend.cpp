@@ -44,7 +44,7 @@ void drawSample(DecorationCanvas& canvas, const LineLegendEntry& entry, float le
         fill(0.0f, length);
         return;
     }
-    LineDashes dashes(style, width, length, width);
+    LineDashes dashes(style, width, length, width, scale);
     dashes.moveTo(Vector3f(0.0f, 0.0f, 0.0f));
     dashes.lineTo(Vector3f(length, 0.0f, 0.0f));
     for (const LineSegment& dash : dashes.getDashes()) {

@@ -5,6 +5,12 @@
 #include <algorithm>
 
 namespace vxrenderer {
+namespace {
+
+/// How far samples of the pixels that a line covers lie on both sides beyond it, in pixels.
+constexpr float c_sampleReach = 0.6f;
+
+} // namespace
 
 View View::of(const vxgraphics3d::ICameraTransforms& camera, const PixelArea& area, bool isFlat)
 {
@@ -43,7 +49,7 @@ DepthShift View::nearer(float pixels) const
 
 DepthShift View::aboveFaces(float lineWidth) const
 {
-    return isFlat ? DepthShift{-0.001f, 0.0f} : nearer(3.0f * std::max(lineWidth, 1.0f));
+    return isFlat ? DepthShift{-0.001f, 0.0f} : nearer(3.0f * (std::max(lineWidth, 1.0f) + c_sampleReach));
 }
 
 DepthShift View::aboveLayers(int rank) const

@@ -35,8 +35,8 @@ struct View {
     /// How far lines of a width in pixels are drawn before their points, to be seen whole on faces through them.
     ///
     /// A line keeps the depth of its middle across its width, and a steep face comes before that at one side of it. The
-    /// distance is six times the half width, or three pixels, in the scale of the picture: enough for faces up to 80
-    /// degrees, and too little to show a line that is visibly behind something. All faces of a flat view have one
+    /// distance is about six times the half width, or three pixels, in the scale of the picture: enough for faces up to
+    /// 80 degrees, and too little to show a line that is visibly behind something. All faces of a flat view have one
     /// depth.
     DepthShift aboveFaces(float lineWidth) const;
 

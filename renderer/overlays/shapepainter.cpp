@@ -109,7 +109,8 @@ private:
                                   m_context.view.area.height,
                                   width * m_context.appearance.scale,
                                   {},
-                                  true},
+                                  true,
+                                  m_context.view.isFlat},
                                  color);
         }
     }

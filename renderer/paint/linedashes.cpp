@@ -22,7 +22,7 @@ std::vector<double> patternOf(LineStyle style)
     }
 }
 
-/// Thin lines have the pattern of this width in pixels, so that their dots are seen as separate.
+/// Thin lines have the pattern of this width in pixels of the screen, so that their dots are seen as separate.
 constexpr float c_leastWidth = 1.5f;
 
 /// The part of a line within a rectangle about the origin of its coordinates.
@@ -44,11 +44,11 @@ bool clip(double from, double step, double low, double high, double& first, doub
 
 } // namespace
 
-LineDashes::LineDashes(LineStyle style, float lineWidth, float width, float height)
+LineDashes::LineDashes(LineStyle style, float lineWidth, float width, float height, float scale)
     : m_reach(0.5f * lineWidth), m_width(width), m_height(height), m_pattern(patternOf(style))
 {
     for (double& length : m_pattern) {
-        length *= static_cast<double>(std::max(lineWidth, c_leastWidth));
+        length *= static_cast<double>(std::max(lineWidth, c_leastWidth * scale));
         m_period += length;
     }
 }

@@ -17,7 +17,8 @@ public:
     /// @param style dashed, dotted or dashDot
     /// @param lineWidth in pixels
     /// @param width,height of the area: what lies outside of it has no dashes
-    LineDashes(LineStyle style, float lineWidth, float width, float height);
+    /// @param scale pixels of the picture for a pixel of the screen
+    LineDashes(LineStyle style, float lineWidth, float width, float height, float scale);
 
     /// Starts another polyline.
     void moveTo(const vxgraphics3d::Vector3f& point);

@@ -26,6 +26,8 @@ layout(std140) uniform Line {
     // How far the rectangle of a piece reaches beyond the line, in pixels, to have all samples of the pixels that the
     // line touches.
     float fringe;
+    // Above 0, lines along a side of the viewport lie on whole pixels.
+    float snapping;
 };
 layout(location = 0) in vec3 from;
 layout(location = 1) in vec3 to;
@@ -43,6 +45,20 @@ flat out vec4 borders;
 vec2 pixelOf(vec4 clip)
 {
     return 0.5 * viewport * clip.xy / clip.w;
+}
+
+bool isSnapped(vec2 step)
+{
+    return snapping > 0.0 && min(abs(step.x), abs(step.y)) < 0.01;
+}
+
+// The nearest position where a line of odd width covers whole pixels, or one of even width.
+vec2 snapped(vec2 pixel)
+{
+    vec2 corner = pixel + 0.5 * viewport;
+    float width = floor(lineWidth + 0.5);
+    vec2 middle = width - 2.0 * floor(0.5 * width) > 0.5 ? ceil(corner) - 0.5 : floor(corner + 0.5);
+    return middle - 0.5 * viewport;
 }
 
 // A point, or where the way from it to another one enters the view through the near plane.
@@ -122,23 +138,33 @@ constexpr const char* c_vertexMain = R"(
         wayOut = b;
         places.y = mix(places.y, places.x, part);
     }
-    vec2 along = pixelOf(b) - pixelOf(a);
+    vec2 start = pixelOf(a);
+    vec2 end = pixelOf(b);
+    vec2 former = pixelOf(wayIn);
+    vec2 next = pixelOf(wayOut);
+    former = isSnapped(start - former) ? snapped(former) : former;
+    next = isSnapped(next - end) ? snapped(next) : next;
+    if (isSnapped(end - start)) {
+        start = snapped(start);
+        end = snapped(end);
+    }
+    vec2 along = end - start;
     float size = length(along);
     along = size > 0.0 ? along / size : vec2(1.0, 0.0);
     vec2 side = vec2(-along.y, along.x);
     float halfWidth = 0.5 * lineWidth;
     vec2 reaches = vec2(reach > 0.0 ? reach * halfWidth + fringe : 0.0);
     borders = vec4(0.0);
-    for (int end = 0; end < 2; ++end) {
-        vec2 next = end == 0 ? pixelOf(a) - pixelOf(wayIn) : pixelOf(wayOut) - pixelOf(b);
-        float nextSize = length(next);
-        float cosine = nextSize > 0.0 ? dot(along, next) / nextSize : -1.0;
+    for (int i = 0; i < 2; ++i) {
+        vec2 step = i == 0 ? start - former : next - end;
+        float nextSize = length(step);
+        float cosine = nextSize > 0.0 ? dot(along, step) / nextSize : -1.0;
         float tangent = sqrt(max(1.0 - cosine, 0.0) / max(1.0 + cosine, 1e-6));
         if (cosine > -0.6 && halfWidth * tangent <= min(size, nextSize)) {
-            vec2 normal = normalize(along + next / nextSize);
+            vec2 normal = normalize(along + step / nextSize);
             vec2 inPiece = vec2(dot(normal, along), dot(normal, side));
-            borders = end == 0 ? vec4(inPiece, borders.zw) : vec4(borders.xy, inPiece);
-            reaches[end] = (halfWidth + fringe) * tangent + fringe;
+            borders = i == 0 ? vec4(inPiece, borders.zw) : vec4(borders.xy, inPiece);
+            reaches[i] = (halfWidth + fringe) * tangent + fringe;
         }
     }
     bool isEnd = gl_VertexID > 1;
@@ -148,7 +174,7 @@ constexpr const char* c_vertexMain = R"(
     shape = vec4(size, halfWidth, reach * halfWidth, roundness);
     u = isEnd ? places.y : places.x;
     vec2 offset = along * (isEnd ? reaches.y : -reaches.x) + side * local.y;
-    place.xy += 2.0 * offset / viewport * place.w;
+    place.xy = 2.0 * ((isEnd ? end : start) + offset) / viewport * place.w;
     // The near plane cuts lines off only where it cuts off what they lie on.
     place.z = max((place.z + towardsEye.x * place.w) / (1.0 + towardsEye.y), -place.w);
     gl_Position = place;
@@ -287,6 +313,8 @@ struct LinePainter::LineBlock {
     std::array<float, 2> towardsEye;
     float roundness;
     float fringe;
+    float snapping;
+    std::array<float, 3> unused{};
 };
 
 LinePainter::Programs::Programs(FragmentOutput output)
@@ -346,6 +374,7 @@ void LinePainter::setUp(const GlProgram& program, const Frame& frame, const Mate
     block.reach = isClosed ? 1.0f : 0.0f;
     block.towardsEye = {frame.towardsEye.z, frame.towardsEye.w};
     block.roundness = frame.isRound ? 1.0f : 0.0f;
+    block.snapping = frame.isSnapped ? 1.0f : 0.0f;
     GLint samples = 0;
     glGetIntegerv(GL_SAMPLES, &samples);
     block.fringe = samples > 1 ? c_sampledFringe : c_fringe;

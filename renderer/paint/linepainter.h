@@ -42,6 +42,8 @@ public:
         DepthShift towardsEye{};
         /// Whether free ends and corners are round.
         bool isRound = false;
+        /// Whether lines along a side of the viewport are moved onto whole pixels, so that all look alike.
+        bool isSnapped = false;
     };
 
     LinePainter();

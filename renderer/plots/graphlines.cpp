@@ -66,12 +66,13 @@ std::vector<LineSegment> unitCircle()
     return segments;
 }
 
-std::vector<LineSegment> dashesOf(const GraphLine::Version& version, LineStyle style, float lineWidth, const View& view)
+std::vector<LineSegment> dashesOf(const GraphLine::Version& version, LineStyle style, float width, float scale,
+                                  const View& view)
 {
     const auto areaWidth = static_cast<float>(view.area.width);
     const auto areaHeight = static_cast<float>(view.area.height);
     const Matrixf toClip = view.projection * view.sceneToEye;
-    LineDashes dashes(style, lineWidth, areaWidth, areaHeight);
+    LineDashes dashes(style, width * scale, areaWidth, areaHeight, scale);
     forEachPoint(version, [&](int i, const Vector3f& point) {
         const Vector3f place = toClip * point;
         const Vector3f pixel(0.5f * (1.0f + place.x) * areaWidth, 0.5f * (1.0f - place.y) * areaHeight, place.z);
@@ -98,7 +99,7 @@ void drawGraph(const SceneGraphPlotGraph& graph, const View& view, float opacity
             canvas.drawLines(piecesOf(version),
                              {toClip, width, height, lineWidth, {}, graph.getLineWidth() >= c_roundWidth}, color);
         } else if (style != LineStyle::none) {
-            canvas.drawLines(dashesOf(version, style, lineWidth, view),
+            canvas.drawLines(dashesOf(version, style, graph.getLineWidth(), scale, view),
                              {pixelsToClip(width, height), width, height, lineWidth}, color);
         }
         if (line->m_marker != RenderSymbol::none) {

@@ -23,9 +23,10 @@ inline constexpr vxgraphics3d::Color c_unitCircleColor{128, 128, 128, 255};
 std::vector<LineSegment> unitCircle();
 
 /// The dashes of a line in a flat view, in pixels of its area.
-/// @param lineWidth in pixels of the picture
-std::vector<LineSegment> dashesOf(const vxgraphics3d::GraphLine::Version& version, LineStyle style, float lineWidth,
-                                  const View& view);
+/// @param width in pixels of the screen
+/// @param scale pixels of the picture for one of them
+std::vector<LineSegment> dashesOf(const vxgraphics3d::GraphLine::Version& version, LineStyle style, float width,
+                                  float scale, const View& view);
 
 /// Draws a graph of a flat view with its symbols, as `GraphPainter` does.
 /// @param opacity of the scene

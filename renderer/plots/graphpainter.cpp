@@ -30,7 +30,7 @@ void drawLine(const SceneGraphPlotGraph& graph, const boost::shared_ptr<GraphLin
         context.drawLines(context.uploads.lines(line, context.logAxes, 1, version.vertices, version.strips), look,
                           width, width >= c_roundWidth);
     } else if (style != LineStyle::none) {
-        context.drawSegments(dashesOf(version, style, width * context.scale, context.view),
+        context.drawSegments(dashesOf(version, style, width, context.scale, context.view),
                              pixelsToClip(context.view.area.width, context.view.area.height), color, width);
     }
     if (line->m_marker != RenderSymbol::none) {

@@ -18,7 +18,6 @@
 #include <cstdlib>
 #include <set>
 #include <stdexcept>
-#include <set>
 
 namespace vxrenderer {
 namespace {
@@ -200,9 +199,8 @@ TEST_F(VectorExport, labelsThatNothingCoversAreTexts)
     m_scene.addSquare(1, 0x00ff00, 1.0);
     const auto labels = boost::make_shared<SceneGraphPlotPointLabel>(3, 2);
     labels->setLabels({"above", "below", "aside"});
-    labels->fillPlot(PostRecord()
-                         .bounds({{0, 3}, {0, 1}, {0, 2}})
-                         .group({{0.5, 0.5, 3.0}, {0.5, 0.5, 0.5}, {2.0, 0.0, 0.0}}, {}));
+    labels->fillPlot(
+        PostRecord().bounds({{0, 3}, {0, 1}, {0, 2}}).group({{0.5, 0.5, 3.0}, {0.5, 0.5, 0.5}, {2.0, 0.0, 0.0}}, {}));
     m_scene.group->addPlot(labels);
     showFromAbove(m_canvas, m_scene);
     m_canvas.zoomExtents();
@@ -220,8 +218,8 @@ TEST_F(VectorExport, pagesHaveTheirSizeAndTexts)
     addHill();
     look(true);
     const std::string info = PdfFile(exported(HardcopyFormat::pdf)).info();
-    for (const char* line :
-         {"A <title> & \xC3\xA4\n", "Creator:         Someone\n", "Page size:       115.2 x 76.8 pts", "Pages:           1\n"}) {
+    for (const char* line : {"A <title> & \xC3\xA4\n", "Creator:         Someone\n",
+                             "Page size:       115.2 x 76.8 pts", "Pages:           1\n"}) {
         EXPECT_NE(info.find(line), std::string::npos) << line << info;
     }
     const std::string svg = exportedSvg();

@@ -20,8 +20,8 @@ std::array<double, 3> colorAt(const std::vector<GradientPiece>& pieces, double p
     const auto piece = std::find_if(pieces.rbegin(), pieces.rend(),
                                     [&](const GradientPiece& candidate) { return candidate.begin <= position; });
     const std::vector<GradientPiece::Stop>& stops = piece->stops;
-    const auto next = std::ranges::find_if(
-        stops, [&](const GradientPiece::Stop& stop) { return stop.position >= position; });
+    const auto next =
+        std::ranges::find_if(stops, [&](const GradientPiece::Stop& stop) { return stop.position >= position; });
     const GradientPiece::Stop& last = next == stops.begin() ? stops.front() : *(next - 1);
     const GradientPiece::Stop& after = next == stops.end() ? stops.back() : *next;
     const double length = after.position - last.position;
@@ -35,8 +35,10 @@ std::array<double, 3> colorAt(const std::vector<GradientPiece>& pieces, double p
 
 TEST(TableGradient, keepsTheColoursOfTheTable)
 {
-    const ColorTable::Colors colors = {{Color::fromRgb(0x000080), 1.0}, {Color::fromRgb(0x00ffff), 0.02},
-                                       {Color::fromRgb(0xffff00), 2.0}, {Color::fromRgb(0xfff000), 1.0},
+    const ColorTable::Colors colors = {{Color::fromRgb(0x000080), 1.0},
+                                       {Color::fromRgb(0x00ffff), 0.02},
+                                       {Color::fromRgb(0xffff00), 2.0},
+                                       {Color::fromRgb(0xfff000), 1.0},
                                        {Color::fromRgb(0x800000), 1.0}};
     for (const auto type : {ColorTable::Continuous, ColorTable::Discrete}) {
         const ColorTable table("", type, colors);

@@ -15,7 +15,7 @@ using Dashes = std::vector<std::vector<float>>;
 /// Draws a polyline in an area of 1000 by 1000 pixels and gives the ends of its dashes.
 Dashes dashesOf(LineStyle style, float width, const std::vector<std::pair<float, float>>& points)
 {
-    LineDashes dashes(style, width, 1000.0f, 1000.0f);
+    LineDashes dashes(style, width, 1000.0f, 1000.0f, 1.0f);
     for (std::size_t i = 0; i < points.size(); ++i) {
         const Vector3f point(points[i].first, points[i].second, 0.0f);
         i == 0 ? dashes.moveTo(point) : dashes.lineTo(point);
@@ -43,7 +43,7 @@ TEST(LineDashes, patternRunsOnAroundCornersAndStartsAgainWithEachPolyline)
               (Dashes{{1, 0, 5, 0}, {5, 0, 5, 4}, {5, 12, 5, 20}}));
     EXPECT_EQ(dashesOf(LineStyle::dashed, 2.0f, {{0, 0}, {5, 0}, {5, 0}, {12, 0}}),
               (Dashes{{1, 0, 5, 0}, {5, 0, 9, 0}}));
-    LineDashes dashes(LineStyle::dashed, 2.0f, 100.0f, 100.0f);
+    LineDashes dashes(LineStyle::dashed, 2.0f, 100.0f, 100.0f, 1.0f);
     for (const float y : {10.0f, 20.0f}) {
         dashes.moveTo({0.0f, y, 0.0f});
         dashes.lineTo({12.0f, y, 0.0f});

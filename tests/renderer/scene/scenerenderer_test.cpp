@@ -127,7 +127,8 @@ TEST_F(SceneRendererTest, ticksAreAtTheHeightOfTheirValues)
     }
     std::vector<int> ticks;
     for (int y = 0; y < 300; ++y) {
-        if (picture.at(frame + 2, y) != c_white) {
+        // Shorter ones lie between them.
+        if (picture.at(frame + 3, y) != c_white) {
             ticks.push_back(y);
         }
     }
@@ -309,25 +310,6 @@ TEST_F(SceneRendererTest, bothKindsOfNumbersHaveTheirDigits)
     EXPECT_EQ(room(2, 5), room(2, 2)) << "not shown";
     m_canvas.getSceneSettings()->setShowMinMax(true);
     EXPECT_GT(room(2, 9), room(2, 2) + 20);
-}
-
-TEST_F(SceneRendererTest, aLegendHasATitleWhereThePictureDoesNotSayIt)
-{
-    m_scene.add<SceneGraphPlotSurface2d>(1, {}, c_twoColors)->setTitle(TextFormat::plain, "HHHH");
-    const auto above = [&] {
-        const Picture picture = drawn(m_canvas);
-        const PixelArea& area = m_canvas.getView().area;
-        const auto red = rowsOf(picture, barColumn(), c_red);
-        return picture.countDrawn(area.x + area.width, area.y, 400, red.front() - 8);
-    };
-    EXPECT_EQ(above(), 0);
-    m_canvas.getSceneSettings()->setShowTitle(false);
-    EXPECT_GT(above(), 20);
-    m_canvas.getSceneSettings()->setShowTitle(true);
-    const auto second = m_scene.add<SceneGraphPlotSurface2d>(2, {}, c_twoColors);
-    EXPECT_GT(above(), 20);
-    second->setShowLegend(false);
-    EXPECT_EQ(above(), 0);
 }
 
 TEST(SceneOpacity, mixesPlotsFromFarToNear)

@@ -31,9 +31,9 @@ public:
         }
         const std::string_view pixels = std::string_view(ppm).substr(static_cast<std::size_t>(used) + 1);
         for (std::size_t i = 0; i + 2 < pixels.size(); i += 3) {
-            picture.bytes.insert(picture.bytes.end(), {static_cast<std::uint8_t>(pixels[i]),
-                                                       static_cast<std::uint8_t>(pixels[i + 1]),
-                                                       static_cast<std::uint8_t>(pixels[i + 2]), 255});
+            picture.bytes.insert(picture.bytes.end(),
+                                 {static_cast<std::uint8_t>(pixels[i]), static_cast<std::uint8_t>(pixels[i + 1]),
+                                  static_cast<std::uint8_t>(pixels[i + 2]), 255});
         }
         return picture;
     }

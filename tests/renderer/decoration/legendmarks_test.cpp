@@ -1,0 +1,133 @@
+#include "renderer/decoration/legendmarks.h"
+
+#include "renderer/decoration/legendscale.h"
+#include "tests/renderer/support/testscene.h"
+
+#include <gtest/gtest.h>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::SceneGraphPlotSurface2d;
+
+/// A plot of values from -1 to 3.
+class LegendMarksTest : public ::testing::Test {
+protected:
+    LegendMarksTest()
+    {
+        GridRecord record;
+        record.value = [](double x, double) { return 4.0 * x - 1.0; };
+        m_plot = m_scene.add<SceneGraphPlotSurface2d>(1, record, {0, 0xffffff});
+    }
+
+    LegendMarks marks(int count = 4, int minMaxDigits = 5) const
+    {
+        return LegendMarks::of(*m_plot, legendScaleOf(*m_plot), count, 5, minMaxDigits);
+    }
+
+    TestScene m_scene;
+    boost::shared_ptr<SceneGraphPlotSurface2d> m_plot;
+};
+
+TEST_F(LegendMarksTest, anEndIsClippedIfShownValuesLieBeyondIt)
+{
+    const struct {
+        double low, high;
+        bool below, above;
+    } cases[] = {{-1.0, 3.0, false, false}, {-2.0, 4.0, false, false}, {0.0, 3.0, true, false},
+                 {-1.0, 2.0, false, true},  {0.0, 2.0, true, true},    {5.0, 6.0, true, false}};
+    for (const auto& c : cases) {
+        m_plot->setLegendLimits(c.low, c.high);
+        EXPECT_EQ(marks().isClippedBelow, c.below) << c.low << " to " << c.high;
+        EXPECT_EQ(marks().isClippedAbove, c.above) << c.low << " to " << c.high;
+    }
+    // What is hidden needs no sign.
+    m_plot->setLegendLimits(0.0, 2.0);
+    m_plot->setValueRestrictions(0.5, 2.5);
+    EXPECT_FALSE(marks().isClippedBelow);
+    EXPECT_TRUE(marks().isClippedAbove);
+    EXPECT_EQ(marks().shownFrom, 0.25);
+    EXPECT_EQ(marks().shownTo, 1.0);
+}
+
+TEST_F(LegendMarksTest, extremesAreMarkedOnTheBarInTheFormatOfTheTicks)
+{
+    m_plot->setLegendLimits(-2.0, 2.0);
+    LegendMarks of = marks();
+    EXPECT_EQ(of.smallestAt, 0.25);
+    EXPECT_EQ(of.largestAt, std::nullopt);
+    EXPECT_EQ(of.smallest, "\xE2\x88\x92"
+                           "1");
+    EXPECT_EQ(of.largest, "3");
+    // Ticks in steps of 0.5 have one decimal.
+    of = marks(8);
+    EXPECT_EQ(of.ticks.front().label, "\xE2\x88\x92"
+                                      "2.0");
+    EXPECT_EQ(of.smallest, "\xE2\x88\x92"
+                           "1.0");
+    EXPECT_EQ(of.largest, "3.0");
+    // A common power of ten.
+    GridRecord record;
+    record.value = [](double x, double) { return 1234567.0 * x; };
+    m_plot->fillPlot(record.make());
+    m_plot->setAutoLegendLimits();
+    of = marks(4);
+    EXPECT_EQ(of.format.exponent, 6);
+    EXPECT_EQ(of.largest, "1.2346");
+    EXPECT_EQ(of.smallest, "0.0000");
+    EXPECT_EQ(marks(4, 3).largest, "1.23");
+}
+
+TEST_F(LegendMarksTest, minorTicksDivideEachStepIntoRoundParts)
+{
+    // Steps of 1, 2 and 5 in 5, 4 and 5 parts.
+    const struct {
+        double limit;
+        std::size_t major, minor;
+    } cases[] = {{4.0, 5, 16}, {8.0, 5, 12}, {20.0, 5, 16}};
+    for (const auto& c : cases) {
+        m_plot->setLegendLimits(0.0, c.limit);
+        EXPECT_EQ(marks().ticks.size(), c.major) << c.limit;
+        EXPECT_EQ(marks().minorTicks.size(), c.minor) << c.limit;
+    }
+    EXPECT_DOUBLE_EQ(marks().minorTicks.front(), 0.05);
+}
+
+TEST(LevelLabels, haveOneFormatOrPowersOfTen)
+{
+    using Labels = std::vector<std::string>;
+    EXPECT_EQ(levelLabels({0.5, 1.0, 1.25}, 5), (Labels{"0.50", "1.00", "1.25"}));
+    EXPECT_EQ(levelLabels({0.1, 1.0, 10.0}, 5), (Labels{"0.1", "1", "10"}));
+    EXPECT_EQ(levelLabels({1e-3, 1e-1, 1e1, 1e3}, 5), (Labels{"10^{\xE2\x88\x92"
+                                                              "3}",
+                                                              "10^{\xE2\x88\x92"
+                                                              "1}",
+                                                              "10^{1}", "10^{3}"}));
+    EXPECT_EQ(levelLabels({2e0, 2e3, 2e6}, 5), (Labels{"2\\times10^{0}", "2\\times10^{3}", "2\\times10^{6}"}));
+    EXPECT_FALSE(areLogarithmic({1.0, 2.0, 3.0}));
+    EXPECT_FALSE(areLogarithmic({0.0, 1.0, 10.0}));
+}
+
+TEST(UnitOf, aTitleIsInBracketsOrAfterIn)
+{
+    const struct {
+        const char* title;
+        const char* unit;
+    } cases[] = {{"Temperature in \\degree C", "\\degree C"},
+                 {"Stress (MPa)", "MPa"},
+                 {"Speed [m/s]", "m/s"},
+                 {"Depth in 100 m", "100 m"},
+                 {"Angle in degrees", "degrees"},
+                 {"Moment in kN m ", "kN m"},
+                 {"Height over 531 m", ""},
+                 {"Waves in water", ""},
+                 {"Summer in Paris", ""},
+                 {"Magnitude", ""},
+                 {"", ""}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(unitOf(c.title), c.unit) << c.title;
+    }
+}
+
+} // namespace
+} // namespace vxrenderer
