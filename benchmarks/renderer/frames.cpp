@@ -56,10 +56,11 @@ constexpr int c_samples = 4;
 constexpr int c_fewPixels = 100000;
 
 /// Frames after the first one, in which nothing is uploaded: drawn and read back.
-void drawFrame(benchmark::State& state, Quality quality, float opacity)
+void drawFrame(benchmark::State& state, Quality quality, float opacity, const RenderStyle& style = {})
 {
     const Waves waves(static_cast<int>(state.range(0)));
     OffscreenCanvas canvas(c_width, c_height, c_samples);
+    canvas.setStyle(style);
     canvas.setScene(waves.scene.scene);
     canvas.getSceneSettings()->setGlobalOpacity(opacity);
     lookFrom(canvas, -50.0, 30.0);
@@ -172,6 +173,10 @@ void sizes(benchmark::internal::Benchmark* frames)
 
 BENCHMARK_CAPTURE(drawFrame, full, Quality::full, 1.0f)->Name("drawFrame")->Apply(sizes);
 BENCHMARK_CAPTURE(drawBare, full, c_samples)->Name("drawFrame_limit")->Apply(sizes);
+// In studio light with feature edges, beside the plain picture of the same surface.
+constexpr RenderStyle c_studio = {.isStudio = true, .showFeatureEdges = true};
+BENCHMARK_CAPTURE(drawFrame, studio, Quality::full, 1.0f, c_studio)->Name("drawStudio")->Apply(sizes);
+BENCHMARK_CAPTURE(drawFrame, full, Quality::full, 1.0f)->Name("drawStudio_limit")->Apply(sizes);
 BENCHMARK_CAPTURE(drawFrame, draft, Quality::draft, 1.0f)->Name("drawDraft")->Apply(sizes);
 BENCHMARK_CAPTURE(drawBare, draft, 1)->Name("drawDraft_limit")->Apply(sizes);
 // The surface seen through itself, in layers and in a draft as one.

@@ -225,7 +225,7 @@ void PartPainting::drawSheets(const SheetCollection& sheets, int changeId, const
     if (sheets.getNumTriangles() < 1) {
         return;
     }
-    const Mesh* mesh = m_context.uploads.body(m_object, UploadSheets, changeId, [&] { return meshPartsOf(sheets); });
+    const Mesh* mesh = m_context.uploads.mesh(m_object, UploadSheets, changeId, [&] { return meshPartsOf(sheets); });
     PartRows rows = faceRows(color);
     const PartTable& table = tableOf(UploadSheets, sheets);
     const BoundingBox& box = m_object->getStoredBoundingBox();

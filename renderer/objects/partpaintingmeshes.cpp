@@ -104,7 +104,7 @@ void PartPainting::drawSheetMeshes(const MeshableSheetCollection& sheets, int ch
 {
     const int meshId = meshChangeId(sheets, changeId);
     const PartTable& table = meshTableOf(UploadSheetMeshes, sheets);
-    const Mesh* elements = m_context.uploads.body(m_object, UploadSheetMeshes, meshId, [&] {
+    const Mesh* elements = m_context.uploads.mesh(m_object, UploadSheetMeshes, meshId, [&] {
         std::vector<MeshPart> parts;
         for (int i = 0; i < sheets.getNumParts(); ++i) {
             const MeshableSheet& sheet = sheets.getMeshablePart(i);

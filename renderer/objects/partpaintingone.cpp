@@ -11,7 +11,6 @@
 #include "renderer/upload/parttable.h"
 
 #include <cstdint>
-#include <numbers>
 #include <utility>
 #include <vector>
 
@@ -76,8 +75,7 @@ void PartPainting::drawSheet(const Sheet& sheet) const
     const PartRange all = {0, 1};
     const auto draw = [&](const MeshPart& part, MarkingType row) {
         Mesh mesh;
-        // Its normals do not count here.
-        mesh.loadBody({&part, 1}, std::numbers::pi_v<float>);
+        mesh.load({&part, 1});
         m_context.drawBody(&mesh, {RowTable(row).get(), faceRows(), {&all, 1}}, m_look);
     };
     draw({sheet.getVertices(), sheet.getTriangles()}, rowOf(sheet));

@@ -34,7 +34,9 @@ struct Material {
     std::int32_t hasTable = 0;
     std::int32_t isReversed = 0;
     float shininess = 64.0f;
-    std::array<float, 3> unused{};
+    /// Whether colours of the table that are side by side may differ visibly; shaders do not read it.
+    std::int32_t hasSteps = 0;
+    std::array<float, 2> unused{};
 
     bool isTranslucent() const { return color[3] < 1.0f; }
     bool isRestricted() const

@@ -137,12 +137,14 @@ void MeshPainter::begin(const View& view, const Lighting& light)
 {
     GLint numSamples = 0;
     glGetIntegerv(GL_SAMPLES, &numSamples);
+    m_numSamples = std::max(numSamples, 1);
+    m_samples.set(SampledEdges::of(numSamples));
     m_isFlat = view.isFlat;
     m_pixelSize = view.pixelSize();
     m_wRow = {view.projection.get(4, 1), view.projection.get(4, 2), view.projection.get(4, 3),
               view.projection.get(4, 4)};
     m_view.set({elementsOf(view.projection), roundingOf(view.area), view.isPerspective ? 1 : 0, view.isFlat ? 1 : 0,
-                view.pixelSize(), std::max(numSamples, 1)});
+                view.pixelSize(), m_numSamples});
     m_light.set({light.ambient, light.places, light.diffuse, light.specular, light.cones});
     m_lightShader = lightShaderOf(view, light);
 }
@@ -191,6 +193,9 @@ const GlProgram& MeshPainter::program(const MeshShader& shader)
             m_studio.attach(known->second);
             known->second.setSampler("occlusion", AmbientOcclusion::c_unit);
         }
+        if (shader.numSamples > 1) {
+            m_samples.attach(known->second);
+        }
         if (shader.output == FragmentOutput::layers) {
             attachLayers(known->second);
         }
@@ -214,6 +219,7 @@ void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& m
     // What is blended is not among the surfaces that hide light from each other.
     shader.hasOcclusion = shader.hasOcclusion && !material.isTranslucent();
     shader.output = m_output;
+    takeEdges(shader, material);
     program(shader).use();
     m_model.set({elementsOf(toEye), elementsOf(normalMatrixOf(toEye)), radiusScale});
     m_material.set(material);
@@ -245,6 +251,17 @@ void MeshPainter::draw(const Mesh& mesh, const PartLook& parts, const Matrixf& t
     m_rows.set(parts.rows);
     parts.table.bind();
     drawFaces(material, m_output, [&] { mesh.draw(parts.ranges); });
+}
+
+void MeshPainter::takeEdges(MeshShader& shader, const Material& material) const
+{
+    const bool hasSteps = material.hasTable != 0 && material.hasSteps != 0;
+    const bool hasEdges = shader.shape == MeshShader::Shape::triangles && !shader.hasParts && !shader.isShape &&
+                          (shader.isRestricted || hasSteps);
+    if (hasEdges && m_numSamples > 1 && m_numSamples <= SampledEdges::c_mostSamples) {
+        shader.numSamples = m_numSamples;
+        shader.hasSteps = hasSteps;
+    }
 }
 
 float MeshPainter::largestInPixels(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye) const

@@ -4,6 +4,7 @@
 #include "renderer/paint/material.h"
 #include "renderer/paint/meshshader.h"
 #include "renderer/paint/partrows.h"
+#include "renderer/paint/samplededges.h"
 #include "renderer/paint/studiolight.h"
 #include "renderer/upload/uniformblock.h"
 
@@ -64,12 +65,16 @@ private:
     float largestInPixels(const SphereBuffer& spheres, float radiusScale, const vxgraphics3d::Matrixf& toEye) const;
     void use(MeshShader shader, const vxgraphics3d::Matrixf& toEye, const Material& material, float radiusScale);
 
+    /// Lets edges across triangles be smooth, where a material has any.
+    void takeEdges(MeshShader& shader, const Material& material) const;
+
     /// Made when they are used for the first time.
     std::map<MeshShader, GlProgram> m_programs;
     /// What the light of this frame asks for.
     MeshShader m_lightShader;
     FragmentOutput m_output = FragmentOutput::picture;
     // Of the view of this frame.
+    int m_numSamples = 1;
     bool m_isFlat = false;
     float m_pixelSize = 1.0f;
     /// What the projection takes w from.
@@ -78,6 +83,7 @@ private:
     UniformBlock<LightBlock> m_light;
     UniformBlock<StudioLight> m_studio;
     UniformBlock<ModelBlock> m_model;
+    UniformBlock<SampledEdges> m_samples;
     UniformBlock<Material> m_material;
     UniformBlock<PartRows> m_rows;
 };

@@ -2,6 +2,7 @@
 
 #include "renderer/paint/material.h"
 #include "renderer/paint/partrows.h"
+#include "renderer/paint/samplededges.h"
 #include "renderer/paint/sphereshader.h"
 #include "renderer/paint/studiolight.h"
 
@@ -38,6 +39,9 @@ centroid out float u;
 centroid out vec3 eyePosition;
 centroid out vec3 eyeNormal;
 out vec3 slopePosition;
+#ifdef SAMPLED
+out float middleU;
+#endif
 
 // Graphics hardware rounds corners to parts of a pixel before it finds out which samples a triangle covers, yet takes its
 // depths from the corners as they were: next to an outline the back of a surface would come before its front. Rounding
@@ -66,6 +70,9 @@ void main()
     slopePosition = eye.xyz;
     eyeNormal = mat3(normalMatrix) * usable(normal);
     u = texturePlace.x;
+#ifdef SAMPLED
+    middleU = u;
+#endif
     gl_Position = clipPlace(eye);
 }
 )";
@@ -89,6 +96,9 @@ void main()
     vec3 shapedNormal = usable(normal) * vec3(1.0, 1.0, instanceThickness);
     eyeNormal = mat3(normalMatrix) * (turn * shapedNormal);
     u = instanceU;
+#ifdef SAMPLED
+    middleU = u;
+#endif
     gl_Position = clipPlace(eye);
 }
 )";
@@ -129,6 +139,16 @@ layout(std140) uniform Light {
     vec4 lightCones[c_maxLights];
 };
 OUTPUT vec4 result;
+
+// The part of a pixel within a cone of light whose border it may lie on, by the cosines of angles from its axis. Pixels
+// in which these change by more are on an outline, not on the border of a cone; the last comparison also fails for what
+// is no number.
+float coneCoverage(float cosine, float limit)
+{
+    float change = clamp(fwidth(cosine), 1e-6, 0.02);
+    float part = clamp(0.5 + (cosine - limit) / change, 0.0, 1.0);
+    return limit < -1.0 ? 1.0 : part > 0.0 ? part : 0.0;
+}
 )";
 
 // The normal on the side that is seen is n, the point has the eye's coordinates.
@@ -151,13 +171,16 @@ constexpr const char* c_lamps = R"(
         float falling = dot(n, toLight);
         // No light falls from behind, from nowhere or out of a cone; the comparison also fails for what is no number.
         bool isReached = falling > 0.0;
+        float inCone = 1.0;
         if (c_hasCones) {
-            isReached = isReached && !(dot(-toLight, lightCones[i].xyz) < lightCones[i].w);
+            inCone = coneCoverage(dot(-toLight, lightCones[i].xyz), lightCones[i].w);
+            isReached = isReached && inCone > 0.0;
+            falling *= inCone;
         }
         received += isReached ? lightDiffuse[i].rgb * falling : vec3(0.0);
         if (c_hasHighlights) {
             float mirrored = max(dot(n, normalize(toLight + toEye)), 0.0);
-            reflected += isReached ? lightSpecular[i].rgb * pow(mirrored, shininess) : vec3(0.0);
+            reflected += isReached ? inCone * lightSpecular[i].rgb * pow(mirrored, shininess) : vec3(0.0);
         }
     }
 )";
@@ -222,12 +245,58 @@ vec3 seenNormal()
     return normalize(n);
 }
 
-void main()
+#ifdef SAMPLED
+in float middleU;
+
+// Hides the samples of the pixel whose values are.
+void hideSamples()
+{
+#ifdef GL_ARB_sample_shading
+    int shown = 0;
+    for (int i = 0; i < c_numSamples; ++i) {
+        shown |= isHidden(atSample(middleU, i)) ? 0 : 1 << i;
+    }
+    gl_SampleMask[0] = c_isRestricted ? shown : ~0;
+    bool isShown = shown != 0;
+#else
+    bool isShown = !isHidden(u);
+#endif
+    if (c_isRestricted && !isShown) {
+        discard;
+    }
+}
+
+// The mean of the samples. What a restriction hides has no part in it.
+vec3 sampledColor()
+{
+    vec2 range = clamp(restriction, 0.0, 1.0);
+    if (!c_hasSteps) {
+        return surfaceColor(c_isRestricted ? clamp(u, range.x, range.y) : u);
+    }
+    vec3 sum = vec3(0.0);
+    for (int i = 0; i < c_numSamples; ++i) {
+        sum += surfaceColor(clamp(atSample(middleU, i), range.x, range.y));
+    }
+    return sum / float(c_numSamples);
+}
+#else
+void hideSamples()
 {
     if (c_isRestricted && isHidden(u)) {
         discard;
     }
-    vec3 color = surfaceColor(u);
+}
+
+vec3 sampledColor()
+{
+    return surfaceColor(u);
+}
+#endif
+
+void main()
+{
+    hideSamples();
+    vec3 color = sampledColor();
     result = vec4(c_isLit ? lit(color, seenNormal(), eyePosition) : color, uniformColor.a);
 }
 )";
@@ -250,7 +319,8 @@ std::string MeshShader::vertexSource() const
     if (shape != Shape::triangles) {
         return shapeConstants() + c_viewBlock + c_modelBlock + Material::c_source + c_sphereVertexMain;
     }
-    const std::string inputs = std::string(c_viewBlock) + c_modelBlock + c_vertexInputs;
+    const std::string inputs =
+        std::string(numSamples > 1 ? "#define SAMPLED\n" : "") + c_viewBlock + c_modelBlock + c_vertexInputs;
     if (hasParts) {
         return inputs + PartRows::c_source + c_partMain;
     }
@@ -277,15 +347,22 @@ std::string MeshShader::lightSource() const
     return std::string(c_lightBlock) + c_litStart + c_plainAmbient + c_lamps + c_plainEnd;
 }
 
+std::string MeshShader::sampledSource() const
+{
+    return numSamples == 1 ? ""
+                           : "#define SAMPLED\nconst int c_numSamples = " + std::to_string(numSamples) + ";\n" +
+                                 constant("hasSteps", hasSteps) + SampledEdges::c_source;
+}
+
 std::string MeshShader::fragmentSource() const
 {
     const std::string source =
-        std::string(shape == Shape::triangles ? "" : "#extension GL_ARB_sample_shading : enable\n") +
+        std::string(shape == Shape::triangles && numSamples == 1 ? "" : "#extension GL_ARB_sample_shading : enable\n") +
         constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
         constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
         constant("hasHighlights", hasHighlights) + constant("isTextured", isTextured) +
         "const int c_numLights = " + std::to_string(numLights) + ";\n" + shapeConstants() + c_viewBlock +
-        Material::c_source + lightSource() + mainOfFragments();
+        Material::c_source + lightSource() + sampledSource() + mainOfFragments();
     return withOutput(output, source, shape != Shape::triangles);
 }
 

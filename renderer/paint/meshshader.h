@@ -44,6 +44,10 @@ struct MeshShader {
     bool hasCones = false;
     /// Whether a light is mirrored.
     bool hasHighlights = false;
+    /// Samples of a pixel of which some may be hidden, or have another colour of a table that jumps; 1 for none.
+    int numSamples = 1;
+    /// Whether the colours are those of a table that jumps.
+    bool hasSteps = false;
     /// Where the colours go.
     FragmentOutput output = FragmentOutput::picture;
 
@@ -57,6 +61,7 @@ private:
     std::string shapeConstants() const;
     std::string lightSource() const;
     std::string mainOfFragments() const;
+    std::string sampledSource() const;
 };
 
 } // namespace vxrenderer

@@ -13,7 +13,7 @@ namespace vxrenderer {
 namespace {
 
 /// What counts as a step, in pixels of the scale of the picture at the depth of the sample.
-constexpr float c_leastStep = 3.0f;
+constexpr float c_leastStep = 4.0f;
 
 constexpr const char* c_vertexMain = R"(
 void main()
@@ -53,12 +53,15 @@ float wOf(float depth)
 
 const float c_farSteeper = 3.0;
 
-// Whether there is a step to one of two opposite neighbours.
-bool isStep(float here, float one, float other, float least)
+const float c_fullStep = 4.0;
+
+// How much of a step there is to one of two opposite neighbours. A line fades where the step gets low.
+float stepAt(float here, float one, float other, float least)
 {
     float to = c_isOneSided ? one - here : abs(one - here);
     float back = c_isOneSided ? other - here : abs(other - here);
-    return to > c_farSteeper * abs(back) + least || back > c_farSteeper * abs(to) + least;
+    float height = max(to - c_farSteeper * abs(back), back - c_farSteeper * abs(to));
+    return clamp((height / least - 1.0) / (c_fullStep - 1.0), 0.0, 1.0);
 }
 )";
 
@@ -151,10 +154,8 @@ std::string mainOf(const std::vector<Place>& places, float reach)
         };
         const float x = places.size() > 1 ? 0.8944272f : 1.0f;
         const float y = places.size() > 1 ? 0.4472136f : 0.0f;
-        comparisons += "    if (" + name + " < c_nothing || !c_isOneSided) {\n";
-        comparisons += "        isLine = isStep(" + name + ", " + neighbour(x, y) + ", " + neighbour(-x, -y) +
-                       ", least) || isStep(" + name + ", " + neighbour(-y, x) + ", " + neighbour(y, -x) +
-                       ", least);\n        count += isLine ? 1.0 : 0.0;\n    }\n";
+        comparisons += "    count += max(stepAt(" + name + ", " + neighbour(x, y) + ", " + neighbour(-x, -y) +
+                       ", least), stepAt(" + name + ", " + neighbour(-y, x) + ", " + neighbour(y, -x) + ", least));\n";
     }
     std::string text = "void main()\n{\n    ivec2 pixel = ivec2(gl_FragCoord.xy);\n    float nearest = c_nothing;\n";
     for (std::size_t i = 0; i < read.size(); ++i) {
@@ -165,7 +166,7 @@ std::string mainOf(const std::vector<Place>& places, float reach)
     }
     return text +
            "    if (nearest == c_nothing) {\n        discard;\n    }\n    float w = wOf(nearest);\n"
-           "    float least = leastStep / w;\n    float count = 0.0;\n    bool isLine;\n" +
+           "    float least = leastStep / w;\n    float count = 0.0;\n" +
            comparisons +
            "    if (count == 0.0) {\n        discard;\n    }\n    result = vec4(color.rgb, color.a * count / " +
            std::to_string(places.size()) + ".0);\n}\n";

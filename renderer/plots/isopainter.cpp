@@ -59,7 +59,7 @@ void IsoPainter::draw(const PlotItem& item, const PaintContext& context) const
             continue;
         }
         if (level.m_triangles.getNumElements(0) > 0) {
-            context.drawMesh(context.uploads.mesh(item.plot, i, changeId, level.m_vertices, level.m_triangles), *look);
+            context.drawBody(context.uploads.mesh(item.plot, i, changeId, level.m_vertices, level.m_triangles), *look);
         }
         if (level.m_lines.getNumElements(0) > 0 && level.m_vertices.getNumberOfVertices() > 0) {
             context.drawLines(context.uploads.lines(item.plot, i, changeId, level.m_vertices, level.m_lines), *look,

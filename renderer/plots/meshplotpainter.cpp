@@ -35,11 +35,19 @@ void MeshPlotPainter::draw(const PlotItem& item, const PaintContext& context) co
             context.uploads.lines(item.plot, group, plot.getGeometryChangeId(), plot.getVertexBuffer(group), lines),
             its, width);
     };
+    const auto drawFaces = [&](int group) {
+        const int changeId = plot.getGeometryChangeId();
+        const auto& vertices = plot.getVertexBuffer(group);
+        const auto& triangles = plot.getTriangleBuffer(group);
+        if (plot.getType() == PlotType::mesh3d && !plot.isPoints(group)) {
+            context.drawBody(context.uploads.body(item.plot, group, changeId, vertices, triangles), *look);
+        } else {
+            context.drawMesh(context.uploads.mesh(item.plot, group, changeId, vertices, triangles), *look);
+        }
+    };
     for (int i = 0; i < plot.getNumberOfGroups(); ++i) {
         if (plot.getTriangleBuffer(i).getNumElements(0) > 0 && (plot.isDisplayInterior() || plot.isPoints(i))) {
-            context.drawMesh(context.uploads.mesh(item.plot, i, plot.getGeometryChangeId(), plot.getVertexBuffer(i),
-                                                  plot.getTriangleBuffer(i)),
-                             *look);
+            drawFaces(i);
         }
         if (plot.getLineBuffer(i).getNumElements(0) > 0) {
             drawLines(i, plot.getLineBuffer(i), *look, c_lineWidth);

@@ -75,7 +75,7 @@ bool TubePainter::draws(PlotType type) const
 void TubePainter::draw(const PlotItem& item, const PaintContext& context) const
 {
     if (const std::optional<Look> look = lookOf(item, context)) {
-        context.drawMesh(context.uploads.mesh(item.plot, 0, item.plot->getGeometryChangeId(),
+        context.drawBody(context.uploads.mesh(item.plot, 0, item.plot->getGeometryChangeId(),
                                               [&] { return mergedMesh(*item.plot); }),
                          *look);
     }

@@ -15,6 +15,11 @@ namespace {
 
 using vxgraphics3d::Vector3f;
 
+/// From this part of the angle of a crease on, edges may close gaps of lines.
+constexpr float c_blunt = 0.6f;
+/// The shortest line with ends, for each unit of the diagonal of a surface.
+constexpr float c_shortestLine = 0.06f;
+
 /// A number that tells vertices apart in sums.
 std::uint64_t scattered(std::uint32_t vertex)
 {
@@ -38,6 +43,19 @@ std::uint32_t previousCorner(std::uint32_t corner)
 bool isWithin(float cosine, const Vector3f& a, const Vector3f& b)
 {
     return a.dot(b) >= cosine * a.length() * b.length();
+}
+
+/// Of the box of all vertices that are drawn.
+float diagonalOf(const VertexRecords& records, std::span<const std::uint32_t> indices)
+{
+    Vector3f low = records.position(indices.front());
+    Vector3f high = low;
+    for (const std::uint32_t vertex : indices) {
+        const Vector3f p = records.position(vertex);
+        low = {std::min(low.x, p.x), std::min(low.y, p.y), std::min(low.z, p.z)};
+        high = {std::max(high.x, p.x), std::max(high.y, p.y), std::max(high.z, p.z)};
+    }
+    return (high - low).length();
 }
 
 /// Corners of triangles at one position, in sets that are joined step by step.
@@ -67,10 +85,14 @@ class Surface {
 public:
     Surface(const VertexRecords& records, std::uint32_t numVertices, std::span<const std::uint32_t> indices,
             float angle)
-        : m_records(records), m_indices(indices), m_isOpen(numVertices)
+        : m_records(records),
+          m_indices(indices),
+          m_ownCosine(std::cos(0.5f * angle)),
+          m_roughCosine(std::cos(0.5f * c_blunt * angle)),
+          m_isOpen(numVertices)
     {
         weld(bordersOf(numVertices));
-        openRoughSites(numVertices, angle);
+        openRoughSites(numVertices);
         for (std::uint32_t corner = 0; corner < m_indices.size(); ++corner) {
             if (m_isOpen[m_indices[corner]]) {
                 m_corners.emplace_back(siteOf(corner), corner);
@@ -98,7 +120,7 @@ public:
     /// Whether a vertex has the normal of a surface, except for less than half the angle of a crease.
     bool hasNormalOf(const Vector3f& surface, std::uint32_t vertex) const
     {
-        return isWithin(m_halfCosine, surface, m_records.normal(vertex));
+        return isWithin(m_ownCosine, surface, m_records.normal(vertex));
     }
     bool hasNormals() const { return m_records.hasNormals(); }
 
@@ -147,9 +169,8 @@ private:
 
     /// Two triangles that make a crease cannot both be within half of its angle from the normal of their vertex, nor
     /// from any other direction.
-    void openRoughSites(std::uint32_t numVertices, float angle)
+    void openRoughSites(std::uint32_t numVertices)
     {
-        m_halfCosine = std::cos(0.5f * angle);
         std::vector<Vector3f> sums(hasNormals() ? 0 : numVertices);
         for (std::uint32_t corner = 0; !sums.empty() && corner < m_indices.size(); ++corner) {
             sums[m_indices[corner]] += areaOf(corner);
@@ -158,7 +179,7 @@ private:
             const Vector3f area = areaOf(i);
             for (std::uint32_t corner = i; corner < i + 3; ++corner) {
                 const std::uint32_t vertex = m_indices[corner];
-                if (!(sums.empty() ? hasNormalOf(area, vertex) : isWithin(m_halfCosine, area, sums[vertex]))) {
+                if (!isWithin(m_roughCosine, area, sums.empty() ? m_records.normal(vertex) : sums[vertex])) {
                     m_isOpen[vertex] = true;
                 }
             }
@@ -167,7 +188,9 @@ private:
 
     const VertexRecords& m_records;
     std::span<const std::uint32_t> m_indices;
-    float m_halfCosine = 0.0f;
+    /// Of half the angle of a crease, and of half the angle of an edge that closes gaps.
+    float m_ownCosine;
+    float m_roughCosine;
     std::vector<bool> m_isOpen;
     std::vector<Welded> m_welded;
     std::vector<std::pair<std::uint32_t, std::uint32_t>> m_corners;
@@ -178,7 +201,9 @@ class Finder {
 public:
     // Triangles that are folded back on each other must not fall short of the cosine of the widest angle by rounding.
     Finder(const Surface& surface, float angle)
-        : m_surface(surface), m_cosine(angle < std::numbers::pi_v<float> ? std::cos(angle) : -2.0f)
+        : m_surface(surface),
+          m_cosine(angle < std::numbers::pi_v<float> ? std::cos(angle) : -2.0f),
+          m_bluntCosine(std::cos(c_blunt * angle))
     {}
 
     /// @param corners with their site
@@ -195,8 +220,8 @@ public:
     }
 
     /// Joins the triangles that are smooth at the edge between them, and reports all other edges that lead to higher
-    /// sites.
-    void joinFans(std::vector<Creases::Edge>& edges)
+    /// sites, as well as those that are almost as sharp.
+    void joinFans(std::vector<Creases::Edge>& edges, std::vector<Creases::Edge>& blunt)
     {
         m_spokes.clear();
         for (std::uint32_t i = 0; i < m_corners.size(); ++i) {
@@ -214,8 +239,13 @@ public:
                     m_fans.join(a, b);
                 }
             }
-            if (m_site < end && !(isSmooth && last - first == 2)) {
+            if (m_site >= end) {
+                continue;
+            }
+            if (!isSmooth || last - first != 2) {
                 edges.emplace_back(m_site, end);
+            } else if (!isWithin(m_bluntCosine, m_areas[m_spokes[first].second], m_areas[m_spokes[first + 1].second])) {
+                blunt.emplace_back(m_site, end);
             }
         }
     }
@@ -261,6 +291,7 @@ private:
 
     const Surface& m_surface;
     float m_cosine;
+    float m_bluntCosine;
     std::uint32_t m_site = 0;
     std::vector<std::uint32_t> m_corners;
     std::vector<Vector3f> m_areas;
@@ -279,18 +310,27 @@ Creases::Creases(const VertexRecords& records, std::uint32_t numVertices, std::s
     Finder finder(surface, angle);
     // They take effect at the end: the search needs the indices as they were.
     std::vector<std::pair<std::uint32_t, std::uint32_t>> changes;
+    std::vector<Edge> sharp;
+    std::vector<Edge> blunt;
     const std::span corners(surface.getCorners());
     for (std::size_t first = 0, last = 0; first < corners.size(); first = last) {
         for (last = first + 1; last < corners.size() && corners[last].first == corners[first].first;) {
             ++last;
         }
         finder.begin(corners.subspan(first, last - first));
-        finder.joinFans(m_edges);
+        finder.joinFans(sharp, blunt);
         if (surface.hasNormals()) {
             finder.split(m_vertices, [&](std::uint32_t corner, std::uint32_t vertex) {
                 changes.emplace_back(corner, numVertices + vertex);
             });
         }
+    }
+    if (!sharp.empty()) {
+        m_edges = std::move(EdgeLines(
+                                std::move(sharp), blunt,
+                                [&records](std::uint32_t vertex) { return records.position(vertex); },
+                                c_shortestLine * diagonalOf(records, indices))
+                                .getEdges());
     }
     for (const auto& [corner, vertex] : changes) {
         indices[corner] = vertex;

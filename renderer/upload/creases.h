@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics3d/foundation/vector3f.h"
+#include "renderer/upload/edgelines.h"
 
 #include <cstdint>
 #include <span>
@@ -25,8 +26,7 @@ public:
         std::uint32_t source;
         vxgraphics3d::Vector3f normal;
     };
-    /// A vertex at each end.
-    using Edge = std::pair<std::uint32_t, std::uint32_t>;
+    using Edge = EdgeLines::Edge;
 
     /// @param indices three for each triangle, counter-clockwise seen from the side of its normal; those of corners at
     ///        creases become those of the new vertices
@@ -35,7 +35,8 @@ public:
 
     /// The new vertices, which are numbered on from the others.
     const std::vector<Vertex>& getVertices() const { return m_vertices; }
-    /// The edges of creases, of borders, and those that more than two triangles meet at, each once.
+    /// The edges of creases, of borders, and those that more than two triangles meet at, each once. They are completed
+    /// and sorted out as `EdgeLines` does.
     const std::vector<Edge>& getEdges() const { return m_edges; }
 
 private:

@@ -8,6 +8,7 @@
 #include "renderer/upload/creases.h"
 #include "renderer/upload/drawntriangles.h"
 #include "renderer/upload/instancebuffer.h"
+#include "renderer/upload/sheetnormals.h"
 #include "renderer/upload/vertexrecords.h"
 
 #include <cstddef>
@@ -24,6 +25,7 @@ namespace {
 using vxgraphics3d::IndexBuffer;
 using vxgraphics3d::VertexBuffer;
 using vxgraphics3d::VertexLayout;
+using vxgraphics3d::VertexNormal;
 
 void describe(Attribute attribute, std::ptrdiff_t offset, GLint size, GLenum type, const VertexLayout& layout)
 {
@@ -54,7 +56,7 @@ void requireMemory()
 
 /// A vertex with the number of its part.
 struct PartVertex {
-    vxgraphics3d::VertexNormal vertex;
+    VertexNormal vertex;
     std::uint32_t part;
 };
 static_assert(sizeof(PartVertex) == 28);
@@ -131,7 +133,7 @@ void Mesh::upload(const VertexBuffer& vertices, const VertexLayout& layout, cons
     m_hasNormals = triangles.haveNormals();
 }
 
-void Mesh::loadBody(std::span<const MeshPart> parts, float creaseAngle)
+void Mesh::load(std::span<const MeshPart> parts)
 {
     m_numIndices = 0;
     m_featureEdges.reset();
@@ -146,6 +148,7 @@ void Mesh::loadBody(std::span<const MeshPart> parts, float creaseAngle)
     }
     std::vector<PartVertex> vertices;
     std::vector<std::uint32_t> indices;
+    std::vector<VertexNormal> sheet;
     vertices.reserve(numVertices);
     indices.reserve(numIndices);
     for (std::uint32_t number = 0; const MeshPart& part : parts) {
@@ -156,26 +159,17 @@ void Mesh::loadBody(std::span<const MeshPart> parts, float creaseAngle)
         for (int i = 0; i < triangles.size(); ++i) {
             indices.push_back(first + triangles.data()[i]);
         }
-        const auto* records = static_cast<const vxgraphics3d::VertexNormal*>(part.vertices.vertexPointer());
-        for (int i = 0; i < part.vertices.getNumberOfVertices(); ++i) {
-            vertices.push_back({records[i], number});
+        const auto* records = static_cast<const VertexNormal*>(part.vertices.vertexPointer());
+        sheet.assign(records, records + part.vertices.getNumberOfVertices());
+        correctNormals(sheet, {triangles.data(), static_cast<std::size_t>(triangles.size())});
+        for (const VertexNormal& vertex : sheet) {
+            vertices.push_back({vertex, number});
         }
         m_partEnds.push_back(static_cast<std::uint32_t>(indices.size()));
         ++number;
     }
 
     constexpr VertexLayout layout = {.vertexType = 0, .size = sizeof(PartVertex), .normal = sizeof(float[3])};
-    const auto* records = static_cast<const std::byte*>(static_cast<const void*>(vertices.data()));
-    const Creases creases(VertexRecords(records, layout), static_cast<std::uint32_t>(vertices.size()), indices,
-                          creaseAngle);
-    vertices.reserve(vertices.size() + creases.getVertices().size());
-    for (const Creases::Vertex& vertex : creases.getVertices()) {
-        PartVertex copy = vertices[vertex.source];
-        copy.vertex.nx = vertex.normal.x;
-        copy.vertex.ny = vertex.normal.y;
-        copy.vertex.nz = vertex.normal.z;
-        vertices.push_back(copy);
-    }
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_vertices.name());
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(vertices.size() * sizeof(PartVertex)), vertices.data(),

@@ -61,8 +61,9 @@ public:
     /// @param creaseAngle in radians, from which triangles that meet make a crease
     void loadBody(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::IndexBuffer& indices,
                   float creaseAngle);
-    /// Copies the triangles of several parts of a body in the same way. Each vertex has the number of its part.
-    void loadBody(std::span<const MeshPart> parts, float creaseAngle);
+    /// Copies the triangles of several sheets in the same way, with normals that are their own. Each vertex has the
+    /// number of its sheet.
+    void load(std::span<const MeshPart> parts);
 
     /// Whether all vertices that are drawn have a normal. Others are lit by the slope of their triangle.
     bool hasNormals() const { return m_hasNormals; }

@@ -55,12 +55,11 @@ const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int nu
         });
 }
 
-const Mesh* UploadCache::body(const boost::shared_ptr<const void>& owner, int number, int changeId,
+const Mesh* UploadCache::mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
                               const std::function<std::vector<MeshPart>()>& make)
 {
     return get(
-        m_meshes, owner, number, changeId, [] { return std::nullopt; },
-        [&](Mesh& mesh) { mesh.loadBody(make(), m_creaseAngle); });
+        m_meshes, owner, number, changeId, [] { return std::nullopt; }, [&](Mesh& mesh) { mesh.load(make()); });
 }
 
 const Mesh* UploadCache::body(const boost::shared_ptr<const void>& owner, int number, int changeId,

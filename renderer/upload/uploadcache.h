@@ -52,9 +52,9 @@ public:
     /// @param make called when they have changed
     const Mesh* mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
                      const std::function<std::unique_ptr<vxgraphics3d::SurfaceMesh>()>& make);
-    /// The triangles of several parts of a body.
+    /// The triangles of several sheets.
     /// @param make called when they have changed
-    const Mesh* body(const boost::shared_ptr<const void>& owner, int number, int changeId,
+    const Mesh* mesh(const boost::shared_ptr<const void>& owner, int number, int changeId,
                      const std::function<std::vector<MeshPart>()>& make);
     /// How the parts look. It is compared with each call, and loaded if it has changed.
     /// @param rows of the marking table, one for each part

@@ -15,9 +15,7 @@ namespace vxrenderer {
 class VertexRecords {
 public:
     VertexRecords(const vxgraphics3d::VertexBuffer& vertices, const vxgraphics3d::VertexLayout& layout)
-        : VertexRecords(static_cast<const std::byte*>(vertices.vertexPointer()), layout)
-    {}
-    VertexRecords(const std::byte* first, const vxgraphics3d::VertexLayout& layout) : m_first(first), m_layout(layout)
+        : m_first(static_cast<const std::byte*>(vertices.vertexPointer())), m_layout(layout)
     {}
 
     vxgraphics3d::Vector3f position(std::uint32_t index) const { return vectorAt(index, 0); }

@@ -124,16 +124,19 @@ protected:
 
 TEST_F(FaceSidesTest, aClosedSphereLooksTheSameWithoutItsBackFaces)
 {
-    for (const auto type : {Camera3d::ProjectionOrthographic, Camera3d::ProjectionPerspective}) {
-        camera().setProjectionType(type);
-        for (const double azimuth : {11.0, 57.0, 200.0}) {
-            lookFrom(m_canvas, azimuth, 23.0);
-            const Picture whole = pictureOf(sphere());
-            const PostDataObject front = withoutBackFaces(sphere());
-            m_plot->fillPlot(front);
-            EXPECT_EQ(numDifferent(drawnAsIs(m_canvas), whole), 0) << type << ' ' << azimuth;
-            EXPECT_LT((*front.m_elements[0])[0].size(), c_cells * c_cells * 3u / 2u);
-            EXPECT_GT(whole.countDrawn(0, 0, c_size, c_size), 10000);
+    for (const bool isStudio : {false, true}) {
+        m_canvas.setStyle({.isStudio = isStudio});
+        for (const auto type : {Camera3d::ProjectionOrthographic, Camera3d::ProjectionPerspective}) {
+            camera().setProjectionType(type);
+            for (const double azimuth : {11.0, 57.0, 200.0}) {
+                lookFrom(m_canvas, azimuth, 23.0);
+                const Picture whole = pictureOf(sphere());
+                const PostDataObject front = withoutBackFaces(sphere());
+                m_plot->fillPlot(front);
+                EXPECT_EQ(numDifferent(drawnAsIs(m_canvas), whole), 0) << type << ' ' << azimuth;
+                EXPECT_LT((*front.m_elements[0])[0].size(), c_cells * c_cells * 3u / 2u);
+                EXPECT_GT(whole.countDrawn(0, 0, c_size, c_size), 10000);
+            }
         }
     }
 }

@@ -75,6 +75,8 @@ public final class Studio implements AutoCloseable {
         scale = (float) width / Gallery.WIDTH;
         renderer = OffscreenRenderer.create(width, height, SAMPLES);
         renderer.setScene(scene);
+        renderer.setStudioLight(true);
+        renderer.setFeatureEdges(true);
         canvas = Canvas3dSettings.connect(renderer);
         camera3d = Camera3d.connect(canvas);
         camera2d = Camera2d.connect(canvas);

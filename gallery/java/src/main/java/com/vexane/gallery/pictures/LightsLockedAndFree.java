@@ -32,6 +32,7 @@ public final class LightsLockedAndFree implements Picture {
                 SpotLightSource spot = SpotLightSource.connect(studio.light(), studio.light().createSpotLight())) {
             plot.fillPlot(record);
             plot.setColor(0xd8d4cc);
+            studio.renderer().setStudioLight(false); // which would soften what the lamps do
             studio.light().setAmbientIntensity(0.12f);
             studio.lamp().setFromDirection(false, -1, 0.6f, 0.5f);
             studio.lamp().setIntensity(0.9f);

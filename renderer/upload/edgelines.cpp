@@ -1,0 +1,143 @@
+#include "renderer/upload/edgelines.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <unordered_map>
+
+namespace vxrenderer {
+namespace {
+
+using vxgraphics3d::Vector3f;
+using Edge = EdgeLines::Edge;
+
+/// The cosine of the angle by which a line may turn where it is continued.
+constexpr float c_straight = 0.8f;
+constexpr std::size_t c_longestGap = 64;
+
+/// Closes gaps between the ends of lines.
+class Gaps {
+public:
+    Gaps(std::vector<Edge>& edges, std::span<const Edge> blunt, const EdgeLines::PositionOf& positionOf)
+        : m_edges(edges), m_positionOf(positionOf)
+    {
+        for (const auto& [from, to] : blunt) {
+            m_ways.emplace_back(from, to);
+            m_ways.emplace_back(to, from);
+        }
+        std::ranges::sort(m_ways);
+    }
+
+    void close()
+    {
+        std::vector<Edge> ends;
+        for (const auto& [from, to] : m_edges) {
+            ++m_degrees[from];
+            ++m_degrees[to];
+        }
+        for (const auto& [from, to] : m_edges) {
+            if (m_degrees[to] == 1) {
+                ends.emplace_back(from, to);
+            }
+            if (m_degrees[from] == 1) {
+                ends.emplace_back(to, from);
+            }
+        }
+        for (const Edge& end : ends) {
+            if (m_degrees[end.second] == 1) {
+                follow(end);
+            }
+        }
+    }
+
+private:
+    /// Continues a line beyond its last edge, if that leads to a line.
+    void follow(Edge last)
+    {
+        std::vector<Edge> path;
+        while (path.size() < c_longestGap) {
+            const auto next = continuationOf(last);
+            if (next == m_ways.end() || std::ranges::find(path, next->second, &Edge::first) != path.end()) {
+                return;
+            }
+            last = *next;
+            path.push_back(last);
+            if (const auto found = m_degrees.find(last.second); found != m_degrees.end() && found->second > 0) {
+                for (const auto& [from, to] : path) {
+                    ++m_degrees[from];
+                    ++m_degrees[to];
+                    m_edges.emplace_back(std::min(from, to), std::max(from, to));
+                }
+                return;
+            }
+        }
+    }
+
+    std::vector<Edge>::const_iterator continuationOf(const Edge& last) const
+    {
+        const Vector3f along = (m_positionOf(last.second) - m_positionOf(last.first)).normalized();
+        const auto [first, end] = std::ranges::equal_range(m_ways, last.second, {}, &Edge::first);
+        auto best = m_ways.end();
+        float straightest = c_straight;
+        for (auto way = first; way != end; ++way) {
+            const float cosine = along.dot((m_positionOf(way->second) - m_positionOf(way->first)).normalized());
+            if (way->second != last.first && cosine > straightest) {
+                straightest = cosine;
+                best = way;
+            }
+        }
+        return best;
+    }
+
+    std::vector<Edge>& m_edges;
+    const EdgeLines::PositionOf& m_positionOf;
+    /// Blunt edges in both directions.
+    std::vector<Edge> m_ways;
+    /// Edges that meet at a vertex.
+    std::unordered_map<std::uint32_t, int> m_degrees;
+};
+
+/// Leaves out lines with ends that are shorter than a length.
+void dropShort(std::vector<Edge>& edges, const EdgeLines::PositionOf& positionOf, float leastLength)
+{
+    struct Line {
+        std::uint32_t parent;
+        int degree = 0;
+        float length = 0.0f;
+        bool hasEnds = false;
+    };
+    std::unordered_map<std::uint32_t, Line> lines;
+    const auto lineOf = [&](std::uint32_t vertex) {
+        std::uint32_t root = vertex;
+        while (lines.at(root).parent != root) {
+            root = lines[root].parent = lines[lines[root].parent].parent;
+        }
+        return root;
+    };
+    for (const auto& [from, to] : edges) {
+        for (const std::uint32_t vertex : {from, to}) {
+            ++lines.try_emplace(vertex, Line{vertex}).first->second.degree;
+        }
+        lines[lineOf(from)].parent = lineOf(to);
+    }
+    for (const auto& [from, to] : edges) {
+        Line& line = lines[lineOf(from)];
+        line.length += (positionOf(to) - positionOf(from)).length();
+        line.hasEnds = line.hasEnds || lines[from].degree == 1 || lines[to].degree == 1;
+    }
+    std::erase_if(edges, [&](const Edge& edge) {
+        const Line& line = lines[lineOf(edge.first)];
+        return line.hasEnds && line.length < leastLength;
+    });
+}
+
+} // namespace
+
+EdgeLines::EdgeLines(std::vector<Edge> sharp, std::span<const Edge> blunt, const PositionOf& positionOf,
+                     float leastLength)
+    : m_edges(std::move(sharp))
+{
+    Gaps(m_edges, blunt, positionOf).close();
+    dropShort(m_edges, positionOf, leastLength);
+}
+
+} // namespace vxrenderer
