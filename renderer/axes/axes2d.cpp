@@ -23,6 +23,12 @@ using vxgraphics3d::Vector3f;
 
 // All in units of the font size.
 constexpr float c_tickLength = 0.4f;
+constexpr float c_minorTickLength = 0.2f;
+constexpr double c_minorTickDistance = 0.4;
+/// Lines of the grid that are nearer to the frame look like a mistake.
+constexpr float c_besideFrame = 0.6f;
+/// Steps in which the space for numbers changes.
+constexpr float c_labelStep = 1.5f;
 constexpr float c_gap = 0.3f;
 constexpr float c_labelPadding = 0.6f;
 constexpr float c_tickDistanceAlong = 5.0f;
@@ -44,7 +50,7 @@ bool isRound(const Axes2dInput& input)
 
 /// How far the parts of the axes reach out from the area, the same for margins and labels.
 struct Room {
-    /// Of the widest tick label.
+    /// Of the widest tick label that there may be.
     float labelWidth = 0.0f;
     float labelHeight = 0.0f;
     float lineHeight = 0.0f;
@@ -76,8 +82,8 @@ struct Room {
     float toLabels() const { return (c_tickLength + c_gap) * em; }
     /// The same downwards: labels below must pass under a label at the lower end of the left axis.
     float downToLabels() const { return std::max(toLabels(), 0.5f * labelHeight + 0.1f * em); }
-    /// From the area to what is beyond its tick labels.
-    float besideLabels() const { return toLabels() + labelWidth + c_gap * em; }
+    /// From the area to what is beyond tick labels of a width.
+    float besideLabels(float width) const { return toLabels() + width + c_gap * em; }
     float belowLabels() const { return downToLabels() + labelHeight + c_gap * em; }
 };
 
@@ -107,6 +113,9 @@ public:
         m_layout.labels = m_labels.takeLabels();
         return std::move(m_layout);
     }
+
+    /// Width of the numbers of the upright axis of a view that is not round.
+    float widthOfYNumbers() const { return widthOf(ticksOfY(yScale())); }
 
 private:
     static AxisLine line(float x0, float y0, float x1, float y1, bool isMinor = false)
@@ -160,21 +169,53 @@ private:
                           line(m_right, m_bottom, m_left, m_bottom), line(m_left, m_bottom, m_left, m_top)};
     }
 
+    static double toDouble(float value) { return static_cast<double>(value); }
+
+    /// A position within the limits of the camera.
+    /// @param pixel counted from the low limit
+    static double limitAt(int pixel, int size, float low, float high)
+    {
+        return pixel == 0      ? toDouble(low)
+               : pixel == size ? toDouble(high)
+                               : toDouble(low) + (toDouble(high) - toDouble(low)) * pixel / size;
+    }
+
+    const PixelArea& cameraArea() const { return m_input.cameraArea.isEmpty() ? m_area : m_input.cameraArea; }
+
+    double limitX(int pixel) const
+    {
+        return limitAt(pixel - cameraArea().x, cameraArea().width, m_input.camera.getActualMinX(),
+                       m_input.camera.getActualMaxX());
+    }
+    /// Rows count from the top.
+    double limitY(int pixel) const
+    {
+        return limitAt(cameraArea().y + cameraArea().height - pixel, cameraArea().height,
+                       m_input.camera.getActualMinY(), m_input.camera.getActualMaxY());
+    }
+
+    AxisScale yScale() const
+    {
+        return scaleOf(limitY(m_area.y + m_area.height), limitY(m_area.y), toDouble(m_bottom - m_top),
+                       m_setup.getYAxisLog(), m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
+    }
+
+    /// In the one-dimensional mode the height of the view has no meaning.
+    AxisTicks ticksOfY(const AxisScale& y) const
+    {
+        return m_input.camera.getCameraMode() == Camera2d::ModeOneDimensional ? AxisTicks() : makeAxisTicks(y);
+    }
+
     void layoutStraight()
     {
-        const Camera2d& camera = m_input.camera;
-        const auto toDouble = [](float value) { return static_cast<double>(value); };
         const AxisScale x =
-            scaleOf(toDouble(camera.getActualMinX()), toDouble(camera.getActualMaxX()), toDouble(m_right - m_left),
+            scaleOf(limitX(m_area.x), limitX(m_area.x + m_area.width), toDouble(m_right - m_left),
                     m_setup.getXAxisLog(), m_setup.getXAxisSpacing(), m_setup.getExtraX(), &LabelSize::width);
-        const AxisScale y =
-            scaleOf(toDouble(camera.getActualMinY()), toDouble(camera.getActualMaxY()), toDouble(m_bottom - m_top),
-                    m_setup.getYAxisLog(), m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
+        const AxisScale y = yScale();
         const AxisTicks xTicks = makeAxisTicks(x);
-        // In the one-dimensional mode the height of the view has no meaning.
-        const AxisTicks yTicks =
-            camera.getCameraMode() == Camera2d::ModeOneDimensional ? AxisTicks() : makeAxisTicks(y);
-        addTitles(xTicks.exponent, yTicks.exponent);
+        const AxisTicks yTicks = ticksOfY(y);
+        addXTitle(xTicks.exponent);
+        addYTitle(yTicks.exponent, m_room.besideLabels(widthOf(yTicks)));
         addSymmetryAxis(x);
         addXTicks(x, xTicks);
         addYTicks(y, yTicks);
@@ -187,33 +228,91 @@ private:
 
     void addXTicks(const AxisScale& scale, const AxisTicks& ticks)
     {
+        const auto at = [&](double position) { return m_left + fraction(scale, position) * (m_right - m_left); };
+        const auto tickLine = [&](float x, float length) {
+            return line(x, m_bottom, x, m_bottom + length * m_room.em);
+        };
         for (const AxisTick& tick : ticks.ticks) {
-            const float x = m_left + fraction(scale, tick.position) * (m_right - m_left);
-            m_layout.grid.push_back(line(x, m_bottom, x, m_top, tick.isMinor));
+            const float x = at(tick.position);
+            if (isInFrame(x, m_left, m_right)) {
+                m_layout.grid.push_back(line(x, m_bottom, x, m_top, tick.isMinor));
+            }
             if (!tick.label.empty()) {
-                m_layout.ticks.push_back(line(x, m_bottom, x, m_bottom + c_tickLength * m_room.em));
+                m_layout.ticks.push_back(tickLine(x, c_tickLength));
                 place({.markup = tick.label, .x = x, .y = m_bottom + m_room.downToLabels(), .alignY = 0.0f});
             }
         }
+        for (const double position : minorPositions(scale, ticks)) {
+            m_layout.minorTicks.push_back(tickLine(at(position), c_minorTickLength));
+        }
+    }
+
+    /// Whether a line of the grid is clear of the sides of the frame.
+    bool isInFrame(float position, float low, float high) const
+    {
+        const float beside = c_besideFrame * m_room.em;
+        return position - low >= beside && high - position >= beside;
+    }
+
+    /// Where a scale has short ticks: between those of a linear one, and where a number has no space.
+    std::vector<double> minorPositions(const AxisScale& scale, const AxisTicks& ticks) const
+    {
+        std::vector<double> positions;
+        // Between those of the extra positions as well there are steps; the smallest is that of the scale.
+        double step = HUGE_VAL;
+        double first = 0.0;
+        for (std::size_t i = 0; i < ticks.ticks.size(); ++i) {
+            if (ticks.ticks[i].label.empty()) {
+                positions.push_back(ticks.ticks[i].position);
+            }
+            if (i > 0 && ticks.ticks[i].position - ticks.ticks[i - 1].position < step) {
+                step = ticks.ticks[i].position - ticks.ticks[i - 1].position;
+                first = ticks.ticks[i].position;
+            }
+        }
+        if (!scale.isLog && scale.extra.empty() && ticks.ticks.size() > 1) {
+            const double closest =
+                c_minorTickDistance * static_cast<double>(m_room.em) / scale.length * (scale.high - scale.low);
+            for (const double value : makeMinorValues(scale.low, scale.high, first, step, closest)) {
+                positions.push_back(value);
+            }
+        }
+        return positions;
     }
 
     void addYTicks(const AxisScale& scale, const AxisTicks& ticks)
     {
+        const auto at = [&](double position) { return m_bottom - fraction(scale, position) * (m_bottom - m_top); };
+        const auto tickLine = [&](float y, float length) { return line(m_left, y, m_left - length * m_room.em, y); };
         for (const AxisTick& tick : ticks.ticks) {
-            const float y = m_bottom - fraction(scale, tick.position) * (m_bottom - m_top);
-            m_layout.grid.push_back(line(m_left, y, m_right, y, tick.isMinor));
+            const float y = at(tick.position);
+            if (isInFrame(y, m_top, m_bottom)) {
+                m_layout.grid.push_back(line(m_left, y, m_right, y, tick.isMinor));
+            }
             if (!tick.label.empty()) {
-                m_layout.ticks.push_back(line(m_left, y, m_left - c_tickLength * m_room.em, y));
+                m_layout.ticks.push_back(tickLine(y, c_tickLength));
                 place({.markup = tick.label, .x = m_left - m_room.toLabels(), .y = y, .alignX = 1.0f});
             }
         }
+        for (const double position : minorPositions(scale, ticks)) {
+            m_layout.minorTicks.push_back(tickLine(at(position), c_minorTickLength));
+        }
     }
 
-    /// The titles, each with the power of ten of its axis; a power without a title is at the end of the axis.
-    void addTitles(int xExponent, int yExponent)
+    float widthOf(const AxisTicks& ticks) const
+    {
+        float width = 0.0f;
+        for (const AxisTick& tick : ticks.ticks) {
+            width = tick.label.empty() ? width : std::max(width, sizeOfMarkup(tick.label, m_metrics.ticks).width);
+        }
+        return width;
+    }
+
+    // Titles have the power of ten of their axis; a power without a title is at the end of the axis.
+
+    void addXTitle(int xExponent)
     {
         const float below = m_bottom + m_room.belowLabels();
-        const float beside = m_left - m_room.besideLabels();
         if (!m_setup.getXAxisTitle().empty()) {
             placeTitle({.markup = withPower(m_setup.getXAxisTitle(), xExponent),
                         .x = centerX(),
@@ -223,9 +322,14 @@ private:
         } else if (xExponent != 0) {
             placeTitle({.markup = powerOf(xExponent), .x = m_right, .y = below, .alignX = 1.0f, .alignY = 0.0f});
         }
+    }
+
+    /// @param distance from the area to the title, which is next to the numbers
+    void addYTitle(int yExponent, float distance)
+    {
         if (!m_setup.getYAxisTitle().empty()) {
             placeTitle({.markup = withPower(m_setup.getYAxisTitle(), yExponent),
-                        .x = beside,
+                        .x = m_left - distance,
                         .y = centerY(),
                         .alignX = 1.0f,
                         .isVertical = true,
@@ -234,6 +338,21 @@ private:
             placeTitle({.markup = powerOf(yExponent), .x = m_left, .y = above(), .alignX = 0.0f, .alignY = 1.0f});
             m_powerEnd = m_left + sizeOfMarkup(powerOf(yExponent), m_metrics.titles).width;
         }
+    }
+
+    /// The title of radii whose numbers are at the right of an upright line: at its left.
+    void addTitleOfRadii(int exponent, float x, float top, float bottom)
+    {
+        if (m_setup.getYAxisTitle().empty()) {
+            addYTitle(exponent, 0.0f);
+            return;
+        }
+        placeTitle({.markup = withPower(m_setup.getYAxisTitle(), exponent),
+                    .x = x - c_gap * m_room.em,
+                    .y = 0.5f * (top + bottom),
+                    .alignX = 1.0f,
+                    .isVertical = true,
+                    .room = bottom - top});
     }
 
     static std::string powerOf(int exponent) { return "\\times" + powerText(exponent); }
@@ -287,7 +406,8 @@ private:
                     static_cast<double>(m_input.camera.getActualPolarMax()), radius, m_setup.getYAxisLog(),
                     m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
         const AxisTicks ticks = makeAxisTicks(scale);
-        addTitles(0, ticks.exponent);
+        addXTitle(0);
+        addTitleOfRadii(ticks.exponent, centerX(), m_top, centerY());
         for (const AxisTick& tick : ticks.ticks) {
             const auto part = static_cast<double>(fraction(scale, tick.position));
             if (part * radius >= 1.0) {
@@ -316,8 +436,8 @@ private:
     void addSpokes(double radius)
     {
         const double room = static_cast<double>(c_spokeDistance * m_room.em);
-        int step = 90;
-        for (const int finer : {45, 30, 15}) {
+        int step = 45;
+        for (const int finer : {30, 15}) {
             step = radius * finer * std::numbers::pi / 180.0 >= room ? finer : step;
         }
         for (int degrees = 0; degrees < 360; degrees += step) {
@@ -346,7 +466,14 @@ private:
         const AxisScale scale = scaleOf(view.nearest(), view.farthest(), length, false, m_setup.getYAxisSpacing(),
                                         m_setup.getExtraY(), isSteep ? &LabelSize::height : &LabelSize::width);
         const AxisTicks ticks = makeAxisTicks(scale);
-        addTitles(0, ticks.exponent);
+        addXTitle(0);
+        const Pixel origin = view.at(0.0, 0.0);
+        const auto middle = static_cast<float>(origin.x);
+        const float lower = std::clamp(static_cast<float>(origin.y), m_top, m_bottom);
+        // Where the numbers are not along an upright line of some length, their title is at the left.
+        const bool isUpright = view.showsOrigin() && middle > m_left && lower - m_top > 0.3f * (m_bottom - m_top);
+        isUpright ? addTitleOfRadii(ticks.exponent, middle, m_top, lower)
+                  : addYTitle(ticks.exponent, m_room.besideLabels(m_room.labelWidth));
         const int step = degreesBetweenRays(view);
         for (double degrees = std::ceil(view.firstDegrees() / step) * step; degrees < view.lastDegrees();
              degrees += step) {
@@ -372,8 +499,8 @@ private:
     {
         const double radius =
             view.showsOrigin() ? 0.5 * std::min(m_area.width, m_area.height) : view.farthest() * view.pixelsPerUnit();
-        int step = 90;
-        for (const int finer : {45, 30, 15, 5, 1}) {
+        int step = 45;
+        for (const int finer : {30, 15, 5, 1}) {
             const bool hasSpace =
                 radius * finer * std::numbers::pi / 180.0 >= static_cast<double>(c_spokeDistance * m_room.em);
             step = hasSpace && (finer >= 15 || !view.showsOrigin()) ? finer : step;
@@ -429,14 +556,17 @@ private:
 
 } // namespace
 
-AxisMargins axes2dMargins(const Axes2dInput& input, const AxisMetrics& metrics)
+namespace {
+
+/// @param labelWidth of the numbers at the left
+AxisMargins marginsWith(const Axes2dInput& input, const Room& room, float labelWidth)
 {
-    const Room room(input, metrics);
     const float gap = c_gap * room.em;
     AxisMargins margins;
     margins.bottom = room.belowLabels() + std::max(room.xTitle.height, room.labelHeight) + gap;
+    const bool hasTitle = room.yTitle.height > 0.0f && !isPolar(input);
     margins.left =
-        room.besideLabels() + (room.yTitle.height > 0.0f ? std::max(room.yTitle.height, room.labelHeight) + gap : 0.0f);
+        room.besideLabels(labelWidth) + (hasTitle ? std::max(room.yTitle.height, room.labelHeight) + gap : 0.0f);
     if (isPolar(input) || isRound(input)) {
         margins.right = gap + room.labelWidth + gap;
         margins.top = gap + room.lineHeight + gap;
@@ -447,14 +577,48 @@ AxisMargins axes2dMargins(const Axes2dInput& input, const AxisMetrics& metrics)
     return margins;
 }
 
-PixelArea axes2dArea(const Axes2dInput& input, const PixelArea& room, const AxisMetrics& metrics)
+PixelArea within(const PixelArea& room, const AxisMargins& margins)
 {
-    const AxisMargins margins = axes2dMargins(input, metrics);
     const auto whole = [](float size) { return static_cast<int>(std::ceil(size)); };
-    const PixelArea area = {room.x + whole(margins.left), room.y + whole(margins.top),
-                            room.width - whole(margins.left) - whole(margins.right),
-                            room.height - whole(margins.top) - whole(margins.bottom)};
-    return isPolar(input) ? centeredSquare(area) : area;
+    return {room.x + whole(margins.left), room.y + whole(margins.top),
+            room.width - whole(margins.left) - whole(margins.right),
+            room.height - whole(margins.top) - whole(margins.bottom)};
+}
+
+/// Width of the numbers at the left that a copy of the camera shows in an area, in steps.
+float widthOfNumbersIn(const PixelArea& area, const Axes2dInput& input, const Room& room, const AxisMetrics& metrics)
+{
+    Camera2d camera = input.camera;
+    camera.setRenderArea(input.pictureWidth, input.pictureHeight, area.x, input.pictureHeight - area.y - area.height,
+                         area.width, area.height);
+    const Axes2dInput copy = {camera, input.setup, input.pictureWidth, input.pictureHeight, input.digits};
+    const float step = c_labelStep * room.em;
+    return std::ceil(Layouter(copy, area, metrics).widthOfYNumbers() / step) * step;
+}
+
+} // namespace
+
+AxisMargins axes2dMargins(const Axes2dInput& input, const AxisMetrics& metrics)
+{
+    const Room room(input, metrics);
+    return marginsWith(input, room, room.labelWidth);
+}
+
+PixelArea axes2dArea(const Axes2dInput& input, const PixelArea& space, const AxisMetrics& metrics)
+{
+    const Room room(input, metrics);
+    const PixelArea least = within(space, marginsWith(input, room, room.labelWidth));
+    if (isPolar(input)) {
+        return centeredSquare(least);
+    }
+    if (isRound(input) || least.isEmpty()) {
+        return least;
+    }
+    // The numbers of the wider area may be others.
+    const float first = widthOfNumbersIn(least, input, room, metrics);
+    const PixelArea wider = within(space, marginsWith(input, room, first));
+    const float second = widthOfNumbersIn(wider, input, room, metrics);
+    return second > first ? within(space, marginsWith(input, room, second)) : wider;
 }
 
 Axes2dLayout layoutAxes2d(const Axes2dInput& input, const PixelArea& area, const AxisMetrics& metrics)

@@ -14,12 +14,13 @@ namespace vxrenderer {
 
 /// The axes of a 2D view, all in pixels.
 struct Axes2dLayout {
-    /// Over the area, from border to border: below the frame.
+    /// Over the area, from border to border: below the frame, and not right beside it.
     std::vector<AxisLine> grid;
     /// Around the area, the outer circle of a polar view, and the symmetry axis.
     std::vector<AxisLine> frame;
-    /// Short lines from the frame outwards.
+    /// Short lines from the frame outwards: at the numbers, and shorter ones between them.
     std::vector<AxisLine> ticks;
+    std::vector<AxisLine> minorTicks;
     std::vector<AxisLabel> labels;
 };
 
@@ -36,15 +37,21 @@ struct Axes2dInput {
     int pictureHeight = 0;
     /// Significant digits of tick labels.
     int digits = 4;
+    /// What the camera draws to, where straight axes enclose a part of it; empty where they enclose all.
+    PixelArea cameraArea{};
 };
 
-/// The space that tick labels and titles need around the area. It follows from titles, kind of axes, digits and font
-/// alone, not from the visible limits: these follow the shape of the area, so that both would depend on each other.
+/// The space that tick labels and titles need around the area, whatever the view shows. It follows from titles, kind of
+/// axes, digits and font alone.
 AxisMargins axes2dMargins(const Axes2dInput& input, const AxisMetrics& metrics);
 
 /// The area that the axes leave to the camera in a part of the picture; in polar mode a square in the middle. It is
 /// empty if there is no space.
-PixelArea axes2dArea(const Axes2dInput& input, const PixelArea& room, const AxisMetrics& metrics);
+///
+/// At the left it leaves as much as the numbers of the upright axis need, in steps of a few characters, so that it
+/// seldom changes while the view moves. They are those of the camera with an area of its own: the visible limits follow
+/// the shape of the area.
+PixelArea axes2dArea(const Axes2dInput& input, const PixelArea& space, const AxisMetrics& metrics);
 
 /// The axes around the area that the camera draws to. Labels that would leave the picture, and ticks of an axis without
 /// extent, are left out; an empty area has no axes.

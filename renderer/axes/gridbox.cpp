@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -20,11 +21,20 @@ constexpr double c_tickLength = 0.4;
 constexpr double c_gap = 0.3;
 constexpr double c_titleGap = 0.5;
 constexpr double c_tickDistance = 2.2;
+constexpr double c_minorTickLength = 0.2;
+constexpr double c_minorTickDistance = 0.35;
 /// Axes that look shorter are not labelled.
 constexpr double c_shortestAxis = 1.5;
+/// Lines of the grid that are nearer to an edge look like a mistake.
+constexpr double c_besideEdge = 0.6;
+/// How far a name is moved along its axis, in parts of its length, where it would cover a number, and how far out.
+constexpr double c_nameMoves[] = {0.0, 0.12, -0.12, 0.24, -0.24};
+constexpr double c_nameSteps[] = {0.0, 0.6, 1.2};
 constexpr int c_mostTicks = 100;
 /// Finer ticks, which come closer to the ends, for axes on which coarse ones leave fewer labels.
 constexpr int c_finerTicks[] = {5, 10, 20};
+/// Steps in which two labels are moved apart.
+constexpr int c_mostMoves = 60;
 /// Sine of the angle below which a face is seen edge-on.
 constexpr double c_edgeOn = 1e-4;
 
@@ -92,6 +102,10 @@ struct AxisTickSet {
 
     /// Without two labels an axis has no scale.
     bool isScale() const { return step > 0; }
+    bool isLabelled(double tick) const
+    {
+        return std::ranges::any_of(labels, [tick](const Label& label) { return label.tick == tick; });
+    }
 };
 
 /// An axis with its ticks.
@@ -262,7 +276,12 @@ private:
             }
         }
         for (const int count : c_finerTicks) {
-            if (AxisTickSet set = tickSet(index, count); !axis.isScale() && set.isScale()) {
+            AxisTickSet set = tickSet(index, count);
+            const bool isLast = count == c_finerTicks[std::size(c_finerTicks) - 1];
+            if (!axis.isScale() && !set.isScale() && isLast) {
+                moveApart(set, *axis.edge);
+            }
+            if (!axis.isScale() && set.isScale()) {
                 // Lines that close would only hide the scene.
                 set.ticks.clear();
                 for (const AxisTickSet::Label& label : set.labels) {
@@ -273,16 +292,48 @@ private:
         }
     }
 
+    /// Leaves the first and the last label, which have no space next to each other, and moves them apart along their
+    /// edge.
+    void moveApart(AxisTickSet& set, const Edge& edge) const
+    {
+        if (set.labels.size() < 2) {
+            return;
+        }
+        set.labels = {set.labels.front(), set.labels.back()};
+        const Pixel along = (edge.to - edge.from) * (1.0 / (edge.to - edge.from).length());
+        const Pixel step = along * (0.05 * m_em);
+        AxisLabel& first = set.labels.front().label;
+        AxisLabel& last = set.labels.back().label;
+        for (int i = 0; i < c_mostMoves; ++i) {
+            LabelPlacer placer(m_metrics);
+            placer.place(first);
+            if (placer.place(last)) {
+                set.step = 1;
+                return;
+            }
+            move(first, step * -1.0);
+            move(last, step);
+        }
+    }
+
+    static void move(AxisLabel& label, const Pixel& step)
+    {
+        label.x += static_cast<float>(step.x);
+        label.y += static_cast<float>(step.y);
+    }
+
     /// About `aboutCount` ticks of an axis, with as many of their labels as have space next to each other.
     AxisTickSet tickSet(std::size_t index, int aboutCount) const
     {
-        const Ticks ticks = makeTicks(m_low[index], m_high[index], aboutCount, m_input.digits);
+        const AxisUnits& units = m_input.units[index];
+        const Ticks ticks =
+            makeTicks(units.valueAt(m_low[index]), units.valueAt(m_high[index]), aboutCount, m_input.digits);
         AxisTickSet set;
         set.power = ticks.exponent == 0 ? "" : "\\times" + powerText(ticks.exponent);
         for (const Ticks::Tick& tick : ticks.ticks) {
-            set.ticks.push_back(std::clamp(tick.value, m_low[index], m_high[index]));
+            set.ticks.push_back(std::clamp(units.coordinateOf(tick.value), m_low[index], m_high[index]));
             if (m_axes[index].edge) {
-                addLabel(set, index, tick);
+                addLabel(set, index, tick.label, set.ticks.back());
             }
         }
         thinOut(set);
@@ -310,25 +361,32 @@ private:
         }
     }
 
-    void addLabel(AxisTickSet& set, std::size_t index, const Ticks::Tick& tick) const
+    void addLabel(AxisTickSet& set, std::size_t index, const std::string& text, double coordinate) const
     {
-        const Edge& edge = *m_axes[index].edge;
-        Point point = edge.start;
-        point[index] = std::clamp(tick.value, m_low[index], m_high[index]);
-        const std::optional<Pixel> place = m_projector.pixelOf(point);
+        const std::optional<Pixel> place = placeOnEdge(index, coordinate);
         if (!place) {
             return;
         }
+        AxisLabel label;
+        label.markup = text;
+        const double begin = (c_tickLength + c_gap) * m_em;
+        set.reach = std::max(set.reach, begin + moveOut(label, *place, m_axes[index].edge->outward, begin));
+        set.labels.push_back({label, *place, coordinate});
+    }
+
+    /// Where a coordinate is on the labelled edge of its axis; nothing if that is out of sight.
+    std::optional<Pixel> placeOnEdge(std::size_t index, double coordinate) const
+    {
+        const Edge& edge = *m_axes[index].edge;
+        Point point = edge.start;
+        point[index] = coordinate;
+        const std::optional<Pixel> place = m_projector.pixelOf(point);
+        if (!place) {
+            return std::nullopt;
+        }
         const Pixel along = edge.to - edge.from;
         const double part = (*place - edge.from).dot(along) / along.dot(along);
-        if (part < edge.visible.from - 1e-6 || part > edge.visible.to + 1e-6) {
-            return;
-        }
-        AxisLabel label;
-        label.markup = tick.label;
-        const double begin = (c_tickLength + c_gap) * m_em;
-        set.reach = std::max(set.reach, begin + moveOut(label, *place, edge.outward, begin));
-        set.labels.push_back({label, *place, point[index]});
+        return part < edge.visible.from - 1e-6 || part > edge.visible.to + 1e-6 ? std::nullopt : place;
     }
 
     /// Moves a label to where its rectangle just touches a line next to an edge.
@@ -368,7 +426,12 @@ private:
         if (isFlat(lineAxis)) {
             return;
         }
+        const double beside =
+            c_besideEdge * m_em / std::max(longestEdge(tickAxis), 1.0) * (m_high[tickAxis] - m_low[tickAxis]);
         for (const double tick : m_axes[tickAxis].ticks) {
+            if (tick - m_low[tickAxis] < beside || m_high[tickAxis] - tick < beside) {
+                continue;
+            }
             Point from = m_low;
             from[normal] = isHigh ? m_high[normal] : m_low[normal];
             from[tickAxis] = tick;
@@ -396,30 +459,78 @@ private:
         }
     }
 
-    /// Names come first, then the numbers, those of the longest axis first.
+    /// Numbers come first, those of the shortest axis before others, since it has the fewest; then the names.
     void addLabels()
     {
         std::vector<std::pair<double, std::size_t>> order;
         for (std::size_t axis = 0; axis < 3; ++axis) {
             if (const std::optional<Edge>& edge = m_axes[axis].edge) {
-                order.push_back({-(edge->to - edge->from).length(), axis});
+                order.push_back({(edge->to - edge->from).length(), axis});
             }
         }
         std::sort(order.begin(), order.end());
         for (const auto& [length, axis] : order) {
+            addNumbers(axis);
+            addMinorTicks(axis, length);
+        }
+        for (const auto& [length, axis] : order) {
             addName(axis);
         }
-        for (const auto& [length, index] : order) {
-            const Axis& axis = m_axes[index];
-            for (const AxisTickSet::Label& label : axis.labels) {
-                const Pixel end = label.place + axis.edge->outward * (c_tickLength * m_em);
-                m_layout.ticks.push_back(
-                    {Vector3f(label.place.x, label.place.y, 0.0), Vector3f(end.x, end.y, 0.0), false});
+    }
+
+    void addNumbers(std::size_t index)
+    {
+        const Axis& axis = m_axes[index];
+        for (const AxisTickSet::Label& label : axis.labels) {
+            addTickLine(m_layout.ticks, label.place, axis.edge->outward, c_tickLength);
+            if (isInPicture(label.label)) {
                 m_labels.place(label.label);
             }
         }
     }
 
+    void addTickLine(std::vector<AxisLine>& lines, const Pixel& from, const Pixel& outward, double length) const
+    {
+        const Pixel to = from + outward * (length * m_em);
+        lines.push_back({Vector3f(from.x, from.y, 0.0), Vector3f(to.x, to.y, 0.0), false});
+    }
+
+    /// Between the ticks, and at those whose numbers had no space.
+    void addMinorTicks(std::size_t index, double length)
+    {
+        const Axis& axis = m_axes[index];
+        if (!axis.isScale() || axis.ticks.size() < 2) {
+            return;
+        }
+        const AxisUnits& units = m_input.units[index];
+        const double low = units.valueAt(m_low[index]);
+        const double high = units.valueAt(m_high[index]);
+        const double first = units.valueAt(axis.ticks[0]);
+        const double step = units.valueAt(axis.ticks[1]) - first;
+        std::vector<double> minor =
+            makeMinorValues(low, high, first, step, c_minorTickDistance * m_em / length * (high - low));
+        std::ranges::transform(minor, minor.begin(), [&](double value) { return units.coordinateOf(value); });
+        std::ranges::copy_if(axis.ticks, std::back_inserter(minor),
+                             [&](double tick) { return !axis.isLabelled(tick); });
+        for (const double tick : minor) {
+            if (const std::optional<Pixel> place = placeOnEdge(index, tick)) {
+                addTickLine(m_layout.minorTicks, *place, axis.edge->outward, c_minorTickLength);
+            }
+        }
+    }
+
+    bool isInPicture(const AxisLabel& label) const
+    {
+        const PixelArea& picture = m_input.picture;
+        const LabelRect rect = rectOf(label, m_metrics);
+        return picture.isEmpty() ||
+               (rect.left >= static_cast<float>(picture.x) && rect.top >= static_cast<float>(picture.y) &&
+                rect.right <= static_cast<float>(picture.x + picture.width) &&
+                rect.bottom <= static_cast<float>(picture.y + picture.height));
+    }
+
+    /// A name is next to the numbers, in the middle of what is seen of its edge, or near that where it would cover a
+    /// number of another axis.
     void addName(std::size_t index)
     {
         const Axis& axis = m_axes[index];
@@ -428,9 +539,16 @@ private:
         AxisLabel label;
         label.isTitle = true;
         label.markup = axis.power.empty() ? name : name.empty() ? axis.power : name + " (" + axis.power + ")";
-        const Pixel middle = edge.from + (edge.to - edge.from) * (0.5 * (edge.visible.from + edge.visible.to));
-        moveOut(label, middle, edge.outward, std::max(axis.reach, c_tickLength * m_em) + c_titleGap * m_em);
-        m_labels.place(label);
+        for (const double step : c_nameSteps) {
+            for (const double aside : c_nameMoves) {
+                const double part = 0.5 * (edge.visible.from + edge.visible.to) + aside * edge.visible.length();
+                moveOut(label, edge.from + (edge.to - edge.from) * part, edge.outward,
+                        std::max(axis.reach, c_tickLength * m_em) + (c_titleGap + step) * m_em);
+                if (isInPicture(label) && m_labels.place(label)) {
+                    return;
+                }
+            }
+        }
     }
 
     const GridBoxInput& m_input;

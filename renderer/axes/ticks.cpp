@@ -198,4 +198,28 @@ Ticks makeMultiples(double end, double otherEnd, double step, int digits)
     return result;
 }
 
+std::vector<double> makeMinorValues(double low, double high, double tick, double step, double closest)
+{
+    std::vector<double> values;
+    if (!(step > 0.0) || !(high > low) || (high - low) / step > c_mostMultiples) {
+        return values;
+    }
+    const auto isRound = [](double value) {
+        const double mantissa = value / std::pow(10.0, std::floor(std::log10(value) + 1e-9));
+        return std::ranges::any_of(std::array{1.0, 2.0, 5.0},
+                                   [&](double round) { return std::abs(mantissa - round) < 1e-6; });
+    };
+    int parts = 5;
+    while (parts > 1 && (step / parts < closest || !isRound(step / parts))) {
+        --parts;
+    }
+    const Multiples range = Multiples::within((low - tick) / step * parts, (high - tick) / step * parts, 1.0);
+    for (std::int64_t count = range.first; count <= range.last; ++count) {
+        if (count % parts != 0) {
+            values.push_back(std::clamp(tick + step * static_cast<double>(count) / parts, low, high));
+        }
+    }
+    return values;
+}
+
 } // namespace vxrenderer

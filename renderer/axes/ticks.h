@@ -37,6 +37,13 @@ Ticks makeTicks(double end, double otherEnd, int aboutCount, int digits = c_allD
 Ticks makeMultiples(double end, double otherEnd, double step, int digits = c_allDigits);
 inline constexpr int c_mostMultiples = 10000;
 
+/// Values between ticks at equal distances, which divide these into two to five parts of 1, 2 or 5 times a power of
+/// ten: as many as have space.
+/// @param tick one of the ticks
+/// @param step from one tick to the next
+/// @param closest the least distance of the values
+std::vector<double> makeMinorValues(double low, double high, double tick, double step, double closest);
+
 /// A label as wide as those of `makeTicks` get as long as their digits suffice.
 std::string widestLabel(int digits);
 

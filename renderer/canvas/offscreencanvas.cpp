@@ -16,14 +16,17 @@
 #include "renderer/canvas/pngencoder.h"
 #include "renderer/export/vectorcanvas.h"
 #include "renderer/gl/target.h"
+#include "renderer/scene/scenefit.h"
 #include "renderer/scene/sceneitems.h"
 #include "renderer/scene/scenerenderer.h"
 
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <stdexcept>
+#include <type_traits>
 #include <utility>
 
 namespace vxrenderer {
@@ -31,16 +34,10 @@ namespace {
 
 using namespace vxgraphics3d;
 
-/// A box is not made smaller than this part of its area to leave space for labels.
-constexpr float c_smallestPart = 0.5f;
-
-/// How much larger a view has to be, so that what fills the area fills its inner part.
-float scaleToInner(const SceneArea& area)
-{
-    const auto part = [](int inner, int whole) { return static_cast<float>(inner) / static_cast<float>(whole); };
-    return 1.0f / std::max(c_smallestPart, std::min(part(area.inner.width, area.whole.width),
-                                                    part(area.inner.height, area.whole.height)));
-}
+/// The difference of views that are the same except for rounding, as a part of the picture.
+constexpr float c_sameView = 1e-3f;
+/// How often a flat view is fitted at most.
+constexpr int c_mostFits = 4;
 
 /// Whether a pixel of the camera's area has the same size in the world however large the area is.
 template <class Camera>
@@ -267,21 +264,43 @@ void OffscreenCanvas::zoomExtents()
         return;
     }
     const Appearance look = appearance();
-    const FrameLayout layout = m_renderer->layOut(frameOf(camera(), look), getWidth(), getHeight());
-    const SceneArea& area = layout.area;
-    const BoundingBox& box = layout.box;
-    if (area.whole.isEmpty() || !box.isValid()) {
-        return;
+    const Frame frame = frameOf(camera(), look);
+    PixelArea fitted;
+    for (int round = 0; round < c_mostFits; ++round) {
+        const FrameLayout layout = m_renderer->layOut(frame, getWidth(), getHeight());
+        const PixelArea& area = layout.area.whole;
+        if (area.isEmpty() || !layout.box.isValid() || area == fitted) {
+            return;
+        }
+        if (!frame.isFlat()) {
+            fitCamera(*m_settings->camera3d(), frame, layout);
+            return;
+        }
+        // The area of a flat view depends on the numbers of its axes, and these on the limits.
+        fitCamera(*m_settings->camera2d(), layout);
+        fitted = area;
     }
-    if (renderModeOf(*m_settings) == Canvas3dSettings::RenderMode2d) {
-        m_settings->camera2d()->moveToBoundingBox(box, Canvas3dGlobalSettings::getInstance()->getZoomToExtentMargin());
-    } else {
-        Camera3d& camera = *m_settings->camera3d();
-        camera.setRotationPoint(box.getCenter());
-        camera.moveToBoundingBox(box, box, 0.0f);
-        camera.setAdditionalScale(0.5f, 0.5f, scaleToInner(area));
-        camera.mergeAdditionalTransformation();
+}
+
+bool OffscreenCanvas::isFitted(const Camera3d& camera) const
+{
+    Camera3d fitted = camera;
+    const Appearance look = appearance();
+    const Frame frame = frameOf(fitted, look);
+    const FrameLayout layout = m_renderer->layOut(frame, getWidth(), getHeight());
+    if (layout.area.whole.isEmpty() || !layout.box.isValid()) {
+        return false;
     }
+    fitCamera(fitted, frame, layout);
+    const auto isSame = [](float a, float b, float unit) { return std::abs(a - b) <= c_sameView * std::abs(unit); };
+    const Matrixf& projection = fitted.getProjectionTransformRH();
+    const Matrixf& shown = camera.getProjectionTransformRH();
+    const Vector3f moved = fitted.getActualPosition() - camera.getActualPosition();
+    const float distance = (fitted.getActualPosition() - layout.box.getCenter()).length();
+    return isSame(projection.get(1, 1), shown.get(1, 1), shown.get(1, 1)) &&
+           isSame(fitted.getRelativeViewOffsetX(), camera.getRelativeViewOffsetX(), 1.0f) &&
+           isSame(fitted.getRelativeViewOffsetY(), camera.getRelativeViewOffsetY(), 1.0f) &&
+           moved.length() <= c_sameView * distance;
 }
 
 void OffscreenCanvas::draw(Quality quality)
@@ -370,6 +389,11 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
         frame.screenOverlay = nullptr;
         FrameLayout layout = m_renderer->layOut(frame, width, height);
         showTheSame(copy, camera);
+        if constexpr (std::is_same_v<decltype(copy), Camera3d>) {
+            if (!layout.area.whole.isEmpty() && layout.box.isValid() && m_sceneView && isFitted(camera)) {
+                fitCamera(copy, frame, layout);
+            }
+        }
         SceneRenderer::placeScene(frame, layout);
         if (vectors) {
             m_renderer->drawVectors(frame, layout, target, *vectors);

@@ -21,6 +21,7 @@
 
 namespace vxgraphics3d {
 class BoundingBox;
+class Camera3d;
 class HardcopySettings;
 class ICameraTransforms;
 class PickedObjectCollection;
@@ -99,8 +100,9 @@ public:
     /// node that no longer exists counts as null.
     void setFramedNode(const boost::shared_ptr<vxgraphics3d::SceneGraphNode>& node) { m_framedNode = node; }
 
-    /// Looks at the whole scene with the camera of the current mode: a 3D camera keeps its direction and turns about
-    /// the middle of the scene from now on. Without a scene, or with one that is empty, nothing happens.
+    /// Looks at the whole scene with the camera of the current mode, as large as the picture allows (`fitCamera`): a 3D
+    /// camera keeps its direction and turns about the middle of the scene from now on. Without a scene, or with one
+    /// that is empty, nothing happens.
     void zoomExtents();
 
     /// Draws the picture.
@@ -128,7 +130,8 @@ public:
     void keepVisible(vxgraphics3d::PickedObjectCollection& picked);
 
     /// Draws the view at another size as the settings of the export ask, and gives the bytes of a file. The view itself
-    /// stays as it is.
+    /// stays as it is. A view in space that `zoomExtents` has made is fitted to the picture again, whose labels may
+    /// have another size.
     ///
     /// A PDF or SVG file is a page of that many pixels at the resolution of the settings. Its texts and the lines of
     /// axes, legends and graphs are vectors; the scene is a picture in it.
@@ -151,6 +154,8 @@ private:
     Appearance appearance() const;
     /// Adds what the canvas itself holds.
     void completeAppearance(Appearance& look) const;
+    /// Whether the 3D camera shows the scene as `zoomExtents` leaves it.
+    bool isFitted(const vxgraphics3d::Camera3d& camera) const;
     void dropDisposedScene();
     int wantedSamples() const;
     void requireImage() const;

@@ -7,7 +7,6 @@
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/foundation/boundingbox.h"
-#include "graphics3d/scene/scene.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/axes/axes2d.h"
 #include "renderer/axes/gridbox.h"
@@ -18,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace vxrenderer {
 namespace {
@@ -44,15 +44,17 @@ Axes2dInput axes2dInput(const Frame& frame, int width, int height)
             Canvas3dGlobalSettings::getInstance()->getGridbox2dTickPrecision()};
 }
 
-GridBoxInput gridBoxInput(const Frame& frame)
+GridBoxInput gridBoxInput(const Frame& frame, const BoxedScene& scene, const PixelArea& picture)
 {
     const AxisOrientationIndicator& indicator = *frame.canvas.getAxisOrientationIndicatorPtr();
     const auto nameOf = [&](AxisOrientationIndicator::Axis axis) { return plainText(indicator.getLabel(axis)); };
-    return {frame.scene->getBoundingBox(),
+    return {scene.box,
             frame.camera,
             {nameOf(AxisOrientationIndicator::AxisX), nameOf(AxisOrientationIndicator::AxisY),
              nameOf(AxisOrientationIndicator::AxisZ)},
-            Canvas3dGlobalSettings::getInstance()->getGridbox3dTickPrecision()};
+            Canvas3dGlobalSettings::getInstance()->getGridbox3dTickPrecision(),
+            {AxisUnits(), AxisUnits(), scene.heightUnits},
+            picture};
 }
 
 /// Draws lines, first the faint ones.
@@ -93,27 +95,39 @@ void snapToPixels(AxisLine& line, float lineWidth)
 
 } // namespace
 
-SceneArea divideSpace(const Frame& frame, const PixelArea& space, int width, int height, const AxisFonts& fonts)
+SceneArea divideSpace(const Frame& frame, const PixelArea& space, const PixelArea& wide, int width, int height,
+                      const AxisFonts& fonts)
 {
-    SceneArea area = {space, space};
-    if (frame.isFlat()) {
-        if (frame.appearance.showAxes) {
-            area.whole = axes2dArea(axes2dInput(frame, width, height), space, fonts.metrics());
-        } else if (frame.isPolar()) {
-            area.whole = centeredSquare(space);
-        }
-        area.inner = area.whole;
-    } else if (frame.appearance.showAxes) {
-        const AxisMargins margins = gridBoxMargins(gridBoxInput(frame), fonts.metrics());
-        area.inner.x += static_cast<int>(margins.left);
-        area.inner.y += static_cast<int>(margins.top);
-        area.inner.width -= static_cast<int>(margins.left + margins.right);
-        area.inner.height -= static_cast<int>(margins.top + margins.bottom);
+    if (frame.isFlat() && frame.appearance.showAxes) {
+        const PixelArea area = axes2dArea(axes2dInput(frame, width, height), space, fonts.metrics());
+        return {area, area, area};
     }
-    return area;
+    if (frame.isPolar()) {
+        return {centeredSquare(space), centeredSquare(space), centeredSquare(space)};
+    }
+    // Limits of a flat view follow the shape of its area, unless both axes have one scale.
+    const bool isStretched = frame.isFlat() && (frame.camera2d().getCameraMode() != Camera2d::ModeOrdinary ||
+                                                !frame.camera2d().isPreserveAspectRatio());
+    return {isStretched || space.isEmpty() ? space : wide, space, space};
 }
 
-AxesPainter::AxesPainter(const Frame& frame, const View& view, int width, int height, const AxisFonts& fonts)
+GridBoxLayout layOutGridBox(const Frame& frame, const BoxedScene& scene, const PixelArea& area, const AxisFonts& fonts,
+                            const PixelArea& picture)
+{
+    return layoutGridBox(gridBoxInput(frame, scene, picture), area, fonts.metrics());
+}
+
+PixelArea spaceInGridBox(const Frame& frame, const PixelArea& area, const AxisFonts& fonts)
+{
+    const BoundingBox anyBox;
+    const AxisMargins margins = gridBoxMargins(gridBoxInput(frame, {anyBox}, {}), fonts.metrics());
+    return {area.x + static_cast<int>(margins.left), area.y + static_cast<int>(margins.top),
+            area.width - static_cast<int>(margins.left + margins.right),
+            area.height - static_cast<int>(margins.top + margins.bottom)};
+}
+
+AxesPainter::AxesPainter(const Frame& frame, const BoxedScene& scene, const View& view, int width, int height,
+                         const AxisFonts& fonts)
     : m_width(width),
       m_height(height),
       m_view(view),
@@ -123,31 +137,34 @@ AxesPainter::AxesPainter(const Frame& frame, const View& view, int width, int he
       m_labelColor(frame.appearance.readable(frame.canvas.getGridBoxSettingsPtr()->getLabelColor()))
 {
     if (view.isFlat) {
-        layOutAxes2d(frame, view, fonts);
+        layOutAxes2d(frame, scene.frame, view, fonts);
     } else {
-        layOutGridBox(frame, view, fonts);
+        takeGridBox(layOutGridBox(frame, scene, view.area, fonts, {0, 0, width, height}), frame.appearance.showGrid);
     }
 }
 
-void AxesPainter::layOutGridBox(const Frame& frame, const View& view, const AxisFonts& fonts)
+void AxesPainter::takeGridBox(GridBoxLayout layout, bool isGridShown)
 {
-    GridBoxLayout layout = layoutGridBox(gridBoxInput(frame), view.area, fonts.metrics());
     m_behind = std::move(layout.edges);
-    if (frame.appearance.showGrid) {
+    if (isGridShown) {
         m_behind.insert(m_behind.begin(), layout.grid.begin(), layout.grid.end());
     }
     m_around = std::move(layout.ticks);
+    append(m_around, layout.minorTicks);
     m_labels = std::move(layout.labels);
 }
 
-void AxesPainter::layOutAxes2d(const Frame& frame, const View& view, const AxisFonts& fonts)
+void AxesPainter::layOutAxes2d(const Frame& frame, const PixelArea& enclosed, const View& view, const AxisFonts& fonts)
 {
-    Axes2dLayout layout = layoutAxes2d(axes2dInput(frame, m_width, m_height), view.area, fonts.metrics());
+    Axes2dInput input = axes2dInput(frame, m_width, m_height);
+    input.cameraArea = view.area;
+    Axes2dLayout layout = layoutAxes2d(input, enclosed, fonts.metrics());
     if (frame.appearance.showGrid) {
         m_behind = std::move(layout.grid);
     }
     m_around = std::move(layout.frame);
     append(m_around, layout.ticks);
+    append(m_around, layout.minorTicks);
     m_labels = std::move(layout.labels);
     for (std::vector<AxisLine>* lines : {&m_behind, &m_around}) {
         for (AxisLine& line : *lines) {

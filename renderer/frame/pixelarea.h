@@ -11,6 +11,8 @@ struct PixelArea {
     int width = 0;
     int height = 0;
 
+    friend bool operator==(const PixelArea& a, const PixelArea& b) = default;
+
     /// Whether there is anything to see.
     bool isEmpty() const { return width < 1 || height < 1; }
 };

@@ -163,6 +163,22 @@ ArrowForm formOf(PlotType type)
                : ArrowForm::round;
 }
 
+/// Shape and size of the arrows of a plot.
+struct ArrowSizes {
+    ArrowDescription shape;
+    /// Length in the scene of the longest arrow.
+    float longest;
+
+    explicit ArrowSizes(const SceneGraphPlotArrow& plot)
+        : shape(plot.getDescription()), longest(plot.getMaxLength() * shape.m_commonArrowScale)
+    {
+        if (isPrincipal(plot.getType())) {
+            shape.m_anchorPoint = ArrowDescription::AnchorPoint::tail;
+            longest *= SceneGraphPlotPrincipal::getLengthScale();
+        }
+    }
+};
+
 /// A number that rises with the geometry and with the shape of arrows.
 int bothChangeIds(const SceneGraphPlotArrow& plot)
 {
@@ -171,6 +187,21 @@ int bothChangeIds(const SceneGraphPlotArrow& plot)
 }
 
 } // namespace
+
+void forEachDrawnArrow(const SceneGraphPlotArrow& plot, const TakeArrow& take)
+{
+    const ArrowSizes sizes(plot);
+    const float anchor = anchorOf(sizes.shape);
+    const bool hasEqualHeads = sizes.shape.m_scalingType == ScalingType::proportionalEqualHeads;
+    forEachDrawn(plot, LengthScale(plot, sizes.longest), [&](const Arrow& arrow) {
+        const Vector3f tail = arrow.anchor - arrow.direction * (anchor * arrow.length);
+        const Vector3f tip = tail + arrow.direction * arrow.length;
+        const float unit =
+            hasEqualHeads ? std::min(sizes.longest, arrow.length / sizes.shape.m_headLength) : arrow.length;
+        take(tail, tip, std::min(sizes.shape.m_headLength * unit / arrow.length, 1.0f),
+             sizes.shape.m_headRadius * unit);
+    });
+}
 
 bool ArrowPainter::draws(PlotType type) const
 {
@@ -186,12 +217,9 @@ void ArrowPainter::draw(const PlotItem& item, const PaintContext& context) const
     }
     const auto& plot = static_cast<const SceneGraphPlotArrow&>(*item.plot);
     const ArrowForm form = formOf(plot.getType());
-    ArrowDescription shape = plot.getDescription();
-    float longest = plot.getMaxLength() * shape.m_commonArrowScale;
-    if (isPrincipal(plot.getType())) {
-        shape.m_anchorPoint = ArrowDescription::AnchorPoint::tail;
-        longest *= SceneGraphPlotPrincipal::getLengthScale();
-    }
+    const ArrowSizes sizes(plot);
+    const ArrowDescription& shape = sizes.shape;
+    const float longest = sizes.longest;
     const LengthScale scale(plot, longest);
     UploadCache& uploads = context.uploads;
 

@@ -140,12 +140,22 @@ void layOutLineLegend(const Frame& frame, FrameLayout& layout)
     }
 }
 
+/// A part of a picture, extended to its borders where only a margin is between them.
+PixelArea extendedToBorders(const PixelArea& space, int margin, int width, int height)
+{
+    const int left = space.x <= margin ? 0 : space.x;
+    const int top = space.y <= margin ? 0 : space.y;
+    const int right = space.x + space.width >= width - margin ? width : space.x + space.width;
+    const int bottom = space.y + space.height >= height - margin ? height : space.y + space.height;
+    return {left, top, right - left, bottom - top};
+}
+
 } // namespace
 
 void placeLineLegend(const Frame& frame, FrameLayout& layout)
 {
     const LineLegendPlacement placement = lineLegendPlacementOf(frame);
-    const PixelArea& area = layout.area.whole;
+    const PixelArea& area = layout.area.frame;
     const int margin =
         placement.isInside ? static_cast<int>(std::round(c_margin * layout.legendStyle.tickFonts.fontSize())) : 0;
     if (placement.isInside && frame.appearance.showLegends) {
@@ -226,6 +236,7 @@ FrameLayout layOutDecoration(const Frame& frame, std::vector<SceneItem> items, c
     if (frame.appearance.showLegends) {
         layOutLineLegend(frame, layout);
     }
+    layout.wideSpace = extendedToBorders(layout.space, static_cast<int>(std::ceil(margin)), width, height);
     return layout;
 }
 

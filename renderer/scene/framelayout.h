@@ -44,12 +44,15 @@ struct FrameLayout {
     /// Where it goes, as soon as the area of the scene is known.
     int lineLegendLeft = 0;
     int lineLegendTop = 0;
-    /// What is left for the scene with its axes.
+    /// What is left for the scene with its axes, and the same with the margins at the border of the picture.
     PixelArea space{};
+    PixelArea wideSpace{};
     /// What the scene covers on the axes of the view.
     vxgraphics3d::BoundingBox box{};
     /// Where the scene goes; empty if there is none.
     SceneArea area{};
+    /// What the numbers of the z axis in space are.
+    AxisUnits heightUnits{};
 };
 
 /// Finds the position of the legend of lines for the area of the scene.

@@ -1,14 +1,22 @@
 #include "renderer/scene/sceneitems.h"
 
+#include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/plots/graph/scenegraphplotgraph.h"
 #include "graphics3d/plots/scenegraphplotgroup.h"
 #include "graphics3d/scenegraph/scenegraphgroup.h"
 #include "graphics3d/scenegraph/scenegraphroot.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "renderer/frame/seenextent.h"
 #include "renderer/objects/objectbox.h"
+#include "renderer/objects/objectpoints.h"
+#include "renderer/plots/heightfactor.h"
+#include "renderer/plots/plotpoints.h"
 
 #include <boost/pointer_cast.hpp>
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 
 namespace vxrenderer {
 namespace {
@@ -21,6 +29,9 @@ using vxgraphics3d::SceneGraphPlotGraph;
 using vxgraphics3d::SceneGraphPlotGroup;
 using vxgraphics3d::SceneGraphRoot;
 
+/// The relative difference of factors that are the same except for rounding.
+constexpr double c_sameScale = 1e-3;
+
 void addPlots(const SceneGraphNode& node, std::vector<SceneItem>& items)
 {
     const auto group = boost::dynamic_pointer_cast<const SceneGraphPlotGroup>(node.self());
@@ -32,6 +43,16 @@ void addPlots(const SceneGraphNode& node, std::vector<SceneItem>& items)
             items.push_back(PlotItem{group, plot->second});
         }
     }
+}
+
+/// The box of an interactive plot, which has none of its own; empty for all others.
+BoundingBox boxOfInteractive(const vxgraphics3d::SceneGraphPlot& plot)
+{
+    PointBox points;
+    if (plot.getType() == vxgraphics3d::PlotType::interactive) {
+        visitPlotPoints(plot, [&points](const PointRun& run) { points.add(run); });
+    }
+    return points.get();
 }
 
 const SceneGraphPlotGraph* graphOf(const SceneItem& item)
@@ -84,6 +105,7 @@ BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes)
             }
         } else if (const auto* plot = std::get_if<PlotItem>(&item)) {
             box.merge(plot->plot->getBoundingBox());
+            box.merge(boxOfInteractive(*plot->plot));
         } else {
             box.merge(boxOf(*std::get<ObjectItem>(item)));
         }
@@ -99,8 +121,54 @@ BoundingBox boxInSpace(const SceneGraphRoot& root, const std::vector<SceneItem>&
         if (object != nullptr && !(*object)->getBoundingBox().isValid()) {
             box.merge(boxOf(**object));
         }
+        if (const auto* plot = std::get_if<PlotItem>(&item)) {
+            box.merge(boxOfInteractive(*plot->plot));
+        }
     }
     return box;
+}
+
+void visitPoints(const std::vector<SceneItem>& items, const Frame& frame, const TakePoints& take)
+{
+    const unsigned mask = frame.canvas.getRenderMask();
+    const auto& markings = vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getMarkingSetups().getMarkingModeSetup(
+        frame.appearance.markingMode);
+    for (const SceneItem& item : items) {
+        if (const auto* plot = std::get_if<PlotItem>(&item)) {
+            if ((mask & RenderPlots) != 0) {
+                visitPlotPoints(*plot->plot, take);
+            }
+        } else if ((mask & RenderObjects) != 0) {
+            visitObjectPoints(*std::get<ObjectItem>(item), markings, take);
+        }
+    }
+}
+
+AxisUnits heightUnitsOf(const std::vector<SceneItem>& items)
+{
+    std::optional<AxisUnits> shared;
+    for (const SceneItem& item : items) {
+        const auto* shown = std::get_if<PlotItem>(&item);
+        if (shown == nullptr) {
+            return {};
+        }
+        const vxgraphics3d::SceneGraphPlot& plot = *shown->plot;
+        if (!(plot.getBoundingBox().getHalfSizeZ() > 0.0f)) {
+            continue;
+        }
+        const std::optional<double> factor = heightFactorOf(plot);
+        if (!factor) {
+            return {};
+        }
+        const AxisUnits units = {static_cast<double>(plot.getPlotPlaneOffset()),
+                                 *factor * static_cast<double>(plot.getHeightScale())};
+        if (shared && std::abs(shared->scale - units.scale) > c_sameScale * units.scale) {
+            return {};
+        }
+        const bool isSame = !shared || shared->offset == units.offset;
+        shared = {isSame ? units.offset : 0.0, units.scale};
+    }
+    return shared.value_or(AxisUnits());
 }
 
 bool hasPlotsBesidesGraphs(const std::vector<SceneItem>& items)

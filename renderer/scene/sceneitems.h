@@ -2,6 +2,9 @@
 
 #include "graphics3d/foundation/boundingbox.h"
 #include "graphics3d/foundation/vector3f.h"
+#include "renderer/axes/gridbox.h"
+#include "renderer/frame/frame.h"
+#include "renderer/frame/pointrun.h"
 #include "renderer/objects/objectpainter.h"
 #include "renderer/plots/plotpainter.h"
 
@@ -26,8 +29,16 @@ std::vector<SceneItem> collectItems(const vxgraphics3d::SceneGraphRoot& root);
 ///                else is shown holds logarithms.
 vxgraphics3d::BoundingBox boxOf(const std::vector<SceneItem>& items, int logAxes);
 
-/// The box of a scene in space: that of its tree, and of the items whose nodes have none.
+/// The box of a scene in space: that of its tree, and of the items that have none of their own.
 vxgraphics3d::BoundingBox boxInSpace(const vxgraphics3d::SceneGraphRoot& root, const std::vector<SceneItem>& items);
+
+/// Passes on the points of all items that a frame draws.
+void visitPoints(const std::vector<SceneItem>& items, const Frame& frame, const TakePoints& take);
+
+/// How z coordinates in space become values of the data: where all plots are raised by their values with the same
+/// factor and height scale, these values are on the axis. Plots in one plane do not count. In other scenes the
+/// coordinates themselves are the values.
+AxisUnits heightUnitsOf(const std::vector<SceneItem>& items);
 
 /// Whether there is a plot that is not a graph, and may cover the grid.
 bool hasPlotsBesidesGraphs(const std::vector<SceneItem>& items);

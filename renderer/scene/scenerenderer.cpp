@@ -1,7 +1,10 @@
 #include "renderer/scene/scenerenderer.h"
 
 #include "base/ustring.h"
+#include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/canvas/axissetup.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
+#include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/boundingbox.h"
 #include "graphics3d/parts/markingsetups.h"
@@ -10,13 +13,17 @@
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/viewing/icameratransforms.h"
+#include "renderer/axes/dataframe.h"
 #include "renderer/decoration/lightmarkers.h"
 #include "renderer/decoration/triadpainter.h"
 #include "renderer/frame/contrast.h"
 #include "renderer/frame/lighting.h"
+#include "renderer/frame/seenextent.h"
 #include "renderer/gl/target.h"
 #include "renderer/objects/visibleparts.h"
+#include "renderer/paint/cutframe.h"
 #include "renderer/paint/paintcontext.h"
+#include "renderer/scene/scenefit.h"
 
 #include <algorithm>
 #include <cmath>
@@ -72,6 +79,20 @@ float diagonalOf(const BoundingBox& box, const Matrixf& toEye)
                      size.z * size.z * along(3).lengthSquared());
 }
 
+bool isFinite(const BoundingBox& box)
+{
+    const auto isFiniteAt = [](const Vector3f& point) { return std::isfinite(point.x + point.y + point.z); };
+    return isFiniteAt(box.getCenter()) && isFiniteAt(box.getHalfSize());
+}
+
+/// Whether axes may enclose a part of the area alone. What an overlay shows has no box.
+bool hasFrameOfData(const Frame& frame)
+{
+    return frame.isFlat() && frame.appearance.showAxes && frame.overlay == nullptr &&
+           frame.camera2d().getCameraMode() == Camera2d::ModeOrdinary && frame.camera2d().isPreserveAspectRatio() &&
+           !frame.canvas.getAxisSetupPtr()->isPolar();
+}
+
 } // namespace
 
 SceneRenderer::SceneRenderer(PlotPainters plotPainters, ObjectPainters objectPainters)
@@ -114,26 +135,36 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
     }
     layout.box =
         frame.isFlat() ? boxOf(layout.items, frame.logAxes()) : boxInSpace(*frame.scene->getRoot(), layout.items);
-    layout.area = divideSpace(frame, layout.space, layout.width, layout.height, layout.axisFonts);
+    if (!isFinite(layout.box)) {
+        PointBox finite;
+        visitPoints(layout.items, frame, [&](const PointRun& points) { finite.add(points); });
+        layout.box = finite.get();
+    }
+    layout.heightUnits = heightUnitsOf(layout.items);
+    layout.area = divideSpace(frame, layout.space, layout.wideSpace, layout.width, layout.height, layout.axisFonts);
     const PixelArea& area = layout.area.whole;
     if (!area.isEmpty()) {
-        const float middle = static_cast<float>(area.x) + 0.5f * static_cast<float>(area.width);
-        const float rightmost = static_cast<float>(layout.width - layout.space.x) - layout.title.width;
-        layout.titleLeft =
-            std::max(std::min(middle - 0.5f * layout.title.width, rightmost), static_cast<float>(layout.space.x));
         frame.camera.setRenderArea(layout.width, layout.height, area.x, layout.height - area.y - area.height,
                                    area.width, area.height);
         frame.camera.setBoundingBox(layout.box);
+        if (hasFrameOfData(frame)) {
+            layout.area.frame = frameOfData(frame.camera2d(), area, layout.box, marginOfFit());
+        }
+        const PixelArea& enclosed = layout.area.frame;
+        const float middle = static_cast<float>(enclosed.x) + 0.5f * static_cast<float>(enclosed.width);
+        const float rightmost = static_cast<float>(layout.width - layout.space.x) - layout.title.width;
+        layout.titleLeft =
+            std::max(std::min(middle - 0.5f * layout.title.width, rightmost), static_cast<float>(layout.space.x));
         placeLineLegend(frame, layout);
     }
 }
 
 void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes,
-                              const Target& target)
+                              const Target& target, std::vector<PlacedLabel>* free)
 {
     PictureCanvas canvas = pictureCanvas(layout);
     canvas.enterArea(m_view.area);
-    if (axes != nullptr) {
+    if (axes != nullptr && free == nullptr) {
         setBlending(true);
         axes->drawBehind(canvas);
         setBlending(false);
@@ -145,9 +176,13 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
         trace = [&] { drawTrace(*axes, layout); };
     }
     drawData(frame, layout, target, trace, icons, labels);
+    if (!frame.isFlat() || axes == nullptr) {
+        drawCutFrame(m_view, layout.width, layout.height, frame.appearance.scale,
+                     frame.canvas.getGridBoxSettingsPtr()->getGridColor(), m_lines);
+    }
     canvas.leaveArea();
     drawIcons(std::move(icons), m_view, layout.width, layout.height, frame.appearance.scale, m_images, m_overlay);
-    drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay, nullptr);
+    drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay, free);
 }
 
 void SceneRenderer::beginMeshes(const Frame& frame, const View& view, bool hasOcclusion)
@@ -427,7 +462,8 @@ SceneRenderer::Surroundings SceneRenderer::layOutSurroundings(const Frame& frame
     if (!layout.area.whole.isEmpty()) {
         m_view = View::of(frame.camera, layout.area.whole, frame.isFlat());
         if (frame.appearance.showAxes) {
-            around.axes.emplace(frame, m_view, layout.width, layout.height, layout.axisFonts);
+            around.axes.emplace(frame, BoxedScene{layout.box, layout.heightUnits, layout.area.frame}, m_view,
+                                layout.width, layout.height, layout.axisFonts);
         }
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
             around.triad.emplace(frame, m_view, layout.orientationFonts);
@@ -448,7 +484,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
     const Surroundings around = layOutSurroundings(frame, layout);
     PictureCanvas canvas = pictureCanvas(layout);
     if (!layout.area.whole.isEmpty()) {
-        drawScene(frame, layout, around.axes ? &*around.axes : nullptr, target);
+        drawScene(frame, layout, around.axes ? &*around.axes : nullptr, target, nullptr);
     }
     setBlending(true);
     if (around.axes) {

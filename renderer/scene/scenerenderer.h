@@ -91,7 +91,10 @@ private:
     /// Takes the view of a frame.
     Surroundings layOutSurroundings(const Frame& frame, const FrameLayout& layout);
     PictureCanvas pictureCanvas(const FrameLayout& layout);
-    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes, const Target& target);
+    /// @param free null for a whole picture. Otherwise what lies behind the scene is left out, and labels that may be
+    /// drawn over it are added to these
+    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes, const Target& target,
+                   std::vector<PlacedLabel>* free);
     /// Draws what vectors cannot show into a target, over a colour.
     /// @param labels receives what may be drawn over it
     std::vector<std::uint8_t> drawPicture(const Frame& frame, const FrameLayout& layout, const Target& target,

@@ -58,18 +58,7 @@ std::vector<std::uint8_t> SceneRenderer::drawPicture(const Frame& frame, const F
     target.beginScene();
     m_background.draw({background, background, nullptr, {}, {}}, layout.width, layout.height, frame.appearance.scale);
     if (!m_view.area.isEmpty() && !areGraphsVectors(frame, layout.items)) {
-        std::vector<SceneIcon> icons;
-        std::vector<SceneLabel> sceneLabels;
-        PictureCanvas canvas = pictureCanvas(layout);
-        canvas.enterArea(m_view.area);
-        std::function<void()> trace;
-        if (around.axes && hasPlotsBesidesGraphs(layout.items)) {
-            trace = [&] { drawTrace(*around.axes, layout); };
-        }
-        drawData(frame, layout, target, trace, icons, sceneLabels);
-        canvas.leaveArea();
-        drawIcons(std::move(icons), m_view, layout.width, layout.height, frame.appearance.scale, m_images, m_overlay);
-        drawLabels(sceneLabels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay, &labels);
+        drawScene(frame, layout, around.axes ? &*around.axes : nullptr, target, &labels);
         glDisable(GL_BLEND);
     }
     if (around.triad) {

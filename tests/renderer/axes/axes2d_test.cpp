@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <random>
+#include <set>
 
 namespace vxrenderer {
 namespace {
@@ -67,12 +68,17 @@ TEST_F(Axes2d, areLeftAndBelow)
     EXPECT_EQ(textOf(layout, true), "");
     ASSERT_EQ(layout.frame.size(), 4u);
     expectLine(layout.frame[0], {120.0f, 50.0f, 0.0f}, {520.0f, 50.0f, 0.0f});
-    ASSERT_EQ(layout.grid.size(), 12u);
-    expectLine(layout.grid[2], {280.0f, 250.0f, 0.0f}, {280.0f, 50.0f, 0.0f});
-    expectLine(layout.grid[7], {120.0f, 210.0f, 0.0f}, {520.0f, 210.0f, 0.0f});
+    // Without those at the frame.
+    ASSERT_EQ(layout.grid.size(), 8u);
+    expectLine(layout.grid[1], {280.0f, 250.0f, 0.0f}, {280.0f, 50.0f, 0.0f});
+    expectLine(layout.grid[4], {120.0f, 210.0f, 0.0f}, {520.0f, 210.0f, 0.0f});
     ASSERT_EQ(layout.ticks.size(), 12u);
     expectLine(layout.ticks[2], {280.0f, 250.0f, 0.0f}, {280.0f, 254.0f, 0.0f});
     expectLine(layout.ticks[7], {120.0f, 210.0f, 0.0f}, {116.0f, 210.0f, 0.0f});
+    // Quarters of 2 and of 0.2.
+    ASSERT_EQ(layout.minorTicks.size(), 30u);
+    expectLine(layout.minorTicks[0], {140.0f, 250.0f, 0.0f}, {140.0f, 252.0f, 0.0f});
+    expectLine(layout.minorTicks[15], {120.0f, 240.0f, 0.0f}, {118.0f, 240.0f, 0.0f});
     expectLabel(layout.labels[2], 280.0f, 257.0f, 0.5f, 0.0f);
     expectLabel(layout.labels[7], 113.0f, 210.0f, 1.0f, 0.5f);
 }
@@ -92,8 +98,8 @@ TEST_F(Axes2d, titlesTakeThePowersOfTen)
     EXPECT_EQ(textOf(layout, true), "\\begin{center}\\unicode{t}\\end{center} (\\times10^{5}) "
                                     "\\begin{center}\\unicode{U}\\end{center} (\\times10^{6})");
     expectLabel(layout.labels[0], 320.0f, 271.8f, 0.5f, 0.0f);
-    // Ticks take 7 pixels, labels as wide as -0.5000 take 70, and the gap 3.
-    expectLabel(layout.labels[1], 40.0f, 150.0f, 1.0f, 0.5f);
+    // Ticks take 7 pixels, the numbers 0 to 4 take 10, and the gap 3.
+    expectLabel(layout.labels[1], 100.0f, 150.0f, 1.0f, 0.5f);
     EXPECT_FALSE(layout.labels[0].isVertical);
     EXPECT_TRUE(layout.labels[1].isVertical);
 }
@@ -191,6 +197,77 @@ TEST_F(Axes2d, aPolarSetupHasCirclesAndRaysAboutTheOrigin)
     EXPECT_FALSE(this->layout().ticks.empty()) << "a height that means nothing has no radii";
 }
 
+TEST_F(Axes2d, linesAreClearOfTheFrame)
+{
+    // 0 and 1 lie 4 and 2 pixels from the frame.
+    show(-0.01f, 1.01f, -0.01f, 1.01f);
+    const Axes2dLayout layout = this->layout();
+    EXPECT_EQ(textOf(layout, false), "0.0 0.2 0.4 0.6 0.8 1.0 0.0 0.2 0.4 0.6 0.8 1.0");
+    EXPECT_EQ(layout.ticks.size(), 12u);
+    EXPECT_EQ(layout.grid.size(), 8u);
+    for (const std::vector<AxisLine>* lines : {&layout.ticks, &layout.minorTicks}) {
+        for (const AxisLine& tick : *lines) {
+            EXPECT_TRUE(tick.from.x == 120.0f || tick.from.y == 250.0f) << "from the frame";
+            EXPECT_TRUE(tick.to.x < 120.0f || tick.to.y > 250.0f) << "outwards";
+        }
+    }
+}
+
+TEST_F(Axes2d, theNumbersAtTheLeftTakeWhatTheyNeed)
+{
+    setup.setYAxisTitle("U");
+    const auto gapOf = [&](float low, float high) {
+        show(0.0f, 1.0f, low, high);
+        area = axes2dArea(input(), {0, 0, 600, 300}, metrics);
+        show(0.0f, 1.0f, low, high);
+        const Axes2dLayout layout = this->layout();
+        float numbers = 600.0f;
+        float title = 0.0f;
+        for (const AxisLabel& label : layout.labels) {
+            const LabelRect rect = rectOf(label, metrics);
+            (label.isTitle                             ? title = rect.right
+             : rect.right < static_cast<float>(area.x) ? numbers = std::min(numbers, rect.left)
+                                                       : 0.0f);
+        }
+        EXPECT_NEAR(numbers - title, 3.0, 1e-3) << low;
+        return area.x;
+    };
+    const int narrow = gapOf(0.0f, 5.0f);
+    EXPECT_GT(gapOf(-0.005f, 0.005f), narrow + 40);
+    EXPECT_EQ(gapOf(2.0f, 9.0f), narrow);
+}
+
+TEST_F(Axes2d, anglesRunInStepsOf15To45Degrees)
+{
+    setup.setAxisType(AxisSetup::AxisPolar);
+    const std::set<int> allowed = {15, 30, 45};
+    std::set<int> found;
+    for (const int side : {30, 60, 100, 200, 250, 400, 900}) {
+        for (const auto mode : {Camera2d::ModePolar, Camera2d::ModeOrdinary}) {
+            camera.setCameraMode(mode);
+            camera.setRenderArea(side + 100, side + 100, 50, 50, side, side);
+            mode == Camera2d::ModePolar ? camera.setPolarLimits(5.0f, 0.0f)
+                                        : static_cast<void>(camera.setViewLimits(-1.0f, 1.0f, -1.0f, 1.0f, true));
+            const Axes2dInput round = {camera, setup, side + 100, side + 100};
+            const Axes2dLayout layout = layoutAxes2d(round, {50, 50, side, side}, metrics);
+            const auto numRays = std::count_if(layout.grid.begin(), layout.grid.end(), [](const AxisLine& line) {
+                return !line.isArc && !line.isMinor && (line.to - line.from).length() > 14.0f;
+            });
+            if (mode == Camera2d::ModePolar) {
+                ASSERT_GT(numRays, 0);
+                found.insert(static_cast<int>(360 / numRays));
+            }
+            for (const AxisLabel& label : layout.labels) {
+                const std::size_t degree = label.markup.find("\xC2\xB0");
+                if (degree != std::string::npos) {
+                    EXPECT_EQ(std::stoi(label.markup) % 15, 0) << side;
+                }
+            }
+        }
+    }
+    EXPECT_EQ(found, allowed);
+}
+
 TEST_F(Axes2d, marginsFollowTheTitles)
 {
     const AxisMargins margins = axes2dMargins(input(), metrics);
@@ -227,9 +304,11 @@ TEST_F(Axes2d, everyLabelHasSpaceInsideTheMargins)
             return (isLog ? 10.0f : std::abs(low)) * (0.01f + unit(random));
         };
         show(x, x + range(x, setup.getXAxisLog()), y, y + range(y, setup.getYAxisLog()));
+        area = axes2dArea(input(), {0, 0, 600, 300}, font);
+        camera.setRenderArea(600, 300, area.x, 300 - area.y - area.height, area.width, area.height);
         const PixelArea later = axes2dArea(input(), {0, 0, 600, 300}, font);
         ASSERT_TRUE(later.x == area.x && later.width == area.width && later.height == area.height)
-            << "the limits must not move the area that they follow";
+            << "the limits that follow the area must not move it";
 
         const Axes2dLayout layout = layoutAxes2d(input(), area, font);
         std::vector<LabelRect> rects;
@@ -247,6 +326,10 @@ TEST_F(Axes2d, everyLabelHasSpaceInsideTheMargins)
             std::count_if(layout.labels.begin(), layout.labels.end(), [](const AxisLabel& l) { return l.isTitle; }));
         if (camera.getCameraMode() == Camera2d::ModeOrdinary) {
             ASSERT_EQ(layout.labels.size() - numTitles, layout.ticks.size()) << round << " " << textOf(layout, false);
+            const auto numAcross = std::count_if(layout.ticks.begin(), layout.ticks.end(),
+                                                 [](const AxisLine& tick) { return tick.from.y == tick.to.y; });
+            ASSERT_GE(numAcross, 2) << round << " " << textOf(layout, false);
+            ASSERT_GE(layout.ticks.size(), static_cast<std::size_t>(numAcross) + 2) << round;
             ASSERT_GE(numTitles, layout.frame.size() - 3u) << "the title of x, and of the symmetry axis";
         }
         for (const AxisLine& line : layout.grid) {

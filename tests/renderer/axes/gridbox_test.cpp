@@ -79,20 +79,24 @@ TEST(GridBox, fromAboveIsLabelledBelowAndAtTheLeft)
     Camera3d camera;
     lookParallel(camera, {0.0f, 0.0f, 10.0f}, {0.0f, 1.0f, 0.0f});
     const GridBoxLayout layout = layoutOf({-2.0f, 2.0f, -1.0f, 1.0f, -1.0f, 1.0f}, camera);
-    EXPECT_EQ(textOf(layout, true), "x y");
-    EXPECT_EQ(textOf(layout, false), "-2.0 -1.5 -1.0 -0.5 0.0 0.5 1.0 1.5 2.0 -1.0 -0.5 0.0 0.5 1.0");
+    EXPECT_EQ(textOf(layout, true), "y x");
+    EXPECT_EQ(textOf(layout, false), "-1.0 -0.5 0.0 0.5 1.0 -2.0 -1.5 -1.0 -0.5 0.0 0.5 1.0 1.5 2.0");
     // The box covers 240 to 640 and 220 to 420. Ticks are 4 long, with 3 after them and 5 before the names.
     ASSERT_EQ(layout.labels.size(), 16u);
-    expectPlace(layout.labels[0], "x", 440.0f, 447.0f);
-    expectPlace(layout.labels[1], "y", 183.0f, 320.0f);
-    expectPlace(layout.labels[6], "0.0", 440.0f, 432.0f);
-    expectPlace(layout.labels[15], "1.0", 218.0f, 220.0f);
+    expectPlace(layout.labels[4], "1.0", 218.0f, 220.0f);
+    expectPlace(layout.labels[9], "0.0", 440.0f, 432.0f);
+    expectPlace(layout.labels[14], "y", 183.0f, 320.0f);
+    expectPlace(layout.labels[15], "x", 440.0f, 447.0f);
     ASSERT_EQ(layout.ticks.size(), 14u);
-    EXPECT_NEAR(layout.ticks[4].to.y, 424.0, 1e-3);
-    EXPECT_NEAR(layout.ticks[13].to.x, 236.0, 1e-3);
-    // The face below, and none of those seen edge-on.
+    EXPECT_NEAR(layout.ticks[4].to.x, 236.0, 1e-3);
+    EXPECT_NEAR(layout.ticks[9].to.y, 424.0, 1e-3);
+    // Fifths of 10 pixels each between them, half as long.
+    ASSERT_EQ(layout.minorTicks.size(), 4u * 4u + 8u * 4u);
+    EXPECT_NEAR(layout.minorTicks[0].to.x, 238.0, 1e-3);
+    EXPECT_NEAR(layout.minorTicks[0].to.y, 410.0, 1e-3);
+    // The face below, and none of those seen edge-on. The lines at its ends would be its edges.
     EXPECT_EQ(layout.edges.size(), 4u);
-    EXPECT_EQ(layout.grid.size(), 14u);
+    EXPECT_EQ(layout.grid.size(), 10u);
     for (const AxisLine& line : layout.grid) {
         EXPECT_EQ(line.from.z, -1.0f);
         EXPECT_EQ(line.to.z, -1.0f);
@@ -122,7 +126,66 @@ TEST(GridBox, shortAxesKeepTwoLabels)
     camera.setOrthographicHeight(1200.0f);
     // 60 pixels by 40: coarse ticks would leave 0 alone on both axes.
     const GridBoxLayout layout = layoutOf({-60.0f, 60.0f, -40.0f, 40.0f, 0.0f, 0.0f}, camera);
-    EXPECT_EQ(textOf(layout, false), "-50 0 50 -40 -20 0 20 40");
+    EXPECT_EQ(textOf(layout, false), "-40 -20 0 20 40 -50 0 50");
+}
+
+TEST(GridBox, axesOfAnyRangeHaveTwoNumbersThatDoNotOverlap)
+{
+    SquareMetrics metrics;
+    Camera3d camera;
+    int numAxes = 0;
+    for (const float size : {1e-12f, 3.7e-6f, 1.0f, 123.4f, 8.9e12f}) {
+        for (const float offset : {0.0f, -0.37f, 4.1f}) {
+            for (const float depth : {1.0f, 0.1f, 0.02f}) {
+                for (const float width : {1.0f, 0.07f}) {
+                    const float low = offset * size;
+                    const BoundingBox box(low, low + width * size, 0.0f, size, low, low + depth * size);
+                    setArea(camera);
+                    const Vector3f from(5.0f, -8.0f, 4.0f);
+                    camera.setRelativeViewOffset(0.0f, 0.0f);
+                    camera.lookAt(from, -from, {0.0f, 0.0f, 1.0f});
+                    camera.setRotationPoint(box.getCenter());
+                    camera.moveToBoundingBox(box, box, 0.0f);
+                    camera.setBoundingBox(box);
+                    const GridBoxLayout layout = layoutOf(box, camera);
+                    std::vector<LabelRect> rects;
+                    for (const AxisLabel& label : layout.labels) {
+                        rects.push_back(rectOf(label, metrics));
+                        for (std::size_t i = 0; i + 1 < rects.size(); ++i) {
+                            EXPECT_FALSE(rects[i].left < rects.back().right && rects.back().left < rects[i].right &&
+                                         rects[i].top < rects.back().bottom && rects.back().top < rects[i].bottom);
+                        }
+                    }
+                    const auto numNames = std::ranges::count_if(layout.labels, &AxisLabel::isTitle);
+                    // Two ticks at least for each axis that has a name; each tick has its number.
+                    EXPECT_GE(layout.ticks.size(), 2 * static_cast<std::size_t>(numNames));
+                    EXPECT_GE(static_cast<std::ptrdiff_t>(layout.labels.size()) - numNames, 2 * numNames)
+                        << size << ' ' << offset << ' ' << depth << ' ' << width << ": " << textOf(layout, false);
+                    numAxes += static_cast<int>(numNames);
+                }
+            }
+        }
+    }
+    EXPECT_GT(numAxes, 200);
+}
+
+TEST(GridBox, heightsAreNumberedInTheirUnits)
+{
+    Camera3d camera;
+    lookParallel(camera, {5.0f, -10.0f, 0.0f}, {0.0f, 0.0f, 1.0f});
+    SquareMetrics metrics;
+    const BoundingBox box(-1.0f, 1.0f, -1.0f, 1.0f, 0.5f, 1.5f);
+    // 0.25 per 100 m over a plane at 0.5.
+    const GridBoxLayout layout = layoutGridBox(
+        {.box = box, .camera = camera, .names = {"", "", "z"}, .units = {{{}, {}, {0.5, 0.0025}}}}, c_area, metrics);
+    const auto zNumber = [&](const std::string& text) {
+        return std::ranges::find_if(layout.labels, [&](const AxisLabel& label) { return label.markup == text; });
+    };
+    ASSERT_NE(zNumber("100"), layout.labels.end()) << textOf(layout, false);
+    ASSERT_NE(zNumber("400"), layout.labels.end()) << textOf(layout, false);
+    EXPECT_EQ(zNumber("500"), layout.labels.end());
+    EXPECT_NEAR(zNumber("100")->y, pixelOf(camera, {-1.0f, -1.0f, 0.75f}).y, 0.1);
+    EXPECT_NEAR(zNumber("400")->y, pixelOf(camera, {-1.0f, -1.0f, 1.5f}).y, 0.1);
 }
 
 TEST(GridBox, isJudgedAsItIsSeenStretched)
@@ -155,8 +218,8 @@ TEST(GridBox, keepsWhatMakesSenseOfDegenerateViews)
         const char* titles;
         std::size_t numEdges;
     } cases[] = {
-        {{0.0f, 2.0f, 0.0f, 1.0f, 0.0f, 0.0f}, "x y", 4},
-        {{0.0f, 0.0f, 0.0f, 1.0f, 0.0f, 2.0f}, "z y", 4},
+        {{0.0f, 2.0f, 0.0f, 1.0f, 0.0f, 0.0f}, "y x", 4},
+        {{0.0f, 0.0f, 0.0f, 1.0f, 0.0f, 2.0f}, "y z", 4},
         {{0.0f, 1.0f, 0.0f, 0.0f, 0.0f, 0.0f}, "x", 1},
         {{1.0f, 1.0f, 1.0f, 1.0f, 1.0f, 1.0f}, "", 0},
         {BoundingBox(), "", 0},
@@ -193,7 +256,7 @@ TEST(GridBox, showsTheTicksInSightWhenZoomed)
         EXPECT_GE(tick.from.y, 19.0f);
         EXPECT_LE(tick.from.y, 621.0f);
     }
-    EXPECT_EQ(textOf(layout, true), "x y");
+    EXPECT_EQ(textOf(layout, true), "y x");
 }
 
 /// Whether a point lies within a triangle, not at its border.

@@ -146,6 +146,27 @@ TEST(CanvasContract, followsTheMultisampleSettingOfTheProcess)
     process.setMultisampleSetting(kept);
 }
 
+/// A surface through the corners of a box.
+vxdatacarrier::PostDataObject surfaceThrough(const BoundingBox& box)
+{
+    GridRecord grid;
+    grid.cells = 2;
+    grid.height = [](double, double) { return 0.0; };
+    vxdatacarrier::PostDataObject record = grid.make();
+    for (std::size_t i = 0; i < 9; ++i) {
+        const Vector3f corner = box.getVertex(static_cast<int>(i % 8));
+        (*record.m_coordinates[0])[0][i] = static_cast<double>(corner.x);
+        (*record.m_coordinates[0])[1][i] = static_cast<double>(corner.y);
+        (*record.m_coordinates[0])[2][i] = static_cast<double>(corner.z);
+    }
+    const auto limits = [](float low, float high) {
+        return std::vector{static_cast<double>(low), static_cast<double>(high)};
+    };
+    *record.m_bounds = {limits(box.getMin().x, box.getMax().x), limits(box.getMin().y, box.getMax().y),
+                        limits(box.getMin().z, box.getMax().z)};
+    return record;
+}
+
 TEST(CanvasContract, zoomExtentsShowsTheWholeBox)
 {
     TestScene scene;
@@ -165,7 +186,7 @@ TEST(CanvasContract, zoomExtentsShowsTheWholeBox)
     for (const auto& [width, height] : sizes) {
         canvas.resize(width, height);
         for (const BoundingBox& box : boxes) {
-            plot->setBoundingBox(box);
+            plot->fillPlot(surfaceThrough(box));
             for (const bool isFlat : {false, true}) {
                 if (isFlat) {
                     showFlat(canvas, scene);

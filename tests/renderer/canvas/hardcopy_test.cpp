@@ -162,10 +162,11 @@ TEST(Hardcopy, showsNoMoreOfTheSceneWhereAPixelKeepsItsSize)
         for (std::size_t i = 0; i < file.pixels.size(); i += 3) {
             numDrawn += file.pixels[i] == 0 ? 1 : 0;
         }
-        // Margins follow the fonts and not the size of the picture, so the square grows by a little more than four.
+        // A picture without axes is the area of its scene. In space the whole scene is fitted again, with margins that
+        // follow the fonts and not the size of the picture.
         const double growth = static_cast<double>(numDrawn) / picture.countDrawn(0, 0, 150, 120);
-        EXPECT_GT(growth, 16.0) << isFlat;
-        EXPECT_LT(growth, 24.0) << isFlat;
+        EXPECT_GT(growth, isFlat ? 15.5 : 18.0);
+        EXPECT_LT(growth, isFlat ? 16.5 : 24.0);
     }
 }
 
@@ -190,6 +191,41 @@ struct Extent {
         }
     }
 };
+
+TEST(Hardcopy, fitsTheWholeSceneAgainButNotAViewOfTheUser)
+{
+    OffscreenCanvas canvas(300, 240, 4);
+    TestScene scene;
+    scene.addSquare(1, 0x00ff00);
+    canvas.setScene(scene.scene);
+    lookFrom(canvas, 30.0, 40.0);
+    canvas.zoomExtents();
+    canvas.draw();
+    HardcopySettings settings;
+    settings.setAxisShown(true);
+    const auto widthAt = [&](int dpi) {
+        settings.setDpi(dpi);
+        const PngFile file(canvas.encodeHardcopy(settings, 600, 480));
+        int left = 600;
+        int right = 0;
+        for (int i = 0; i < 600 * 480; ++i) {
+            if (file.pixels[static_cast<std::size_t>(3 * i)] < 100) {
+                left = std::min(left, i % 600);
+                right = std::max(right, i % 600 + 1);
+            }
+        }
+        return right - left;
+    };
+    // With small and with large labels, in a picture whose margins follow them.
+    EXPECT_GT(widthAt(40), 540);
+    EXPECT_LT(widthAt(40), 580);
+    EXPECT_GT(widthAt(200), 500);
+    EXPECT_LT(widthAt(200), 560);
+    auto& camera = *canvas.getCanvas3dSettings()->camera3d();
+    camera.setAdditionalScale(0.5f, 0.5f, 2.5f);
+    camera.mergeAdditionalTransformation();
+    EXPECT_LT(widthAt(40), 300);
+}
 
 TEST(Hardcopy, showsAllOfTheFlatDataThatTheScreenShowsInAnyShape)
 {

@@ -127,7 +127,8 @@ TEST_F(SmoothEdgesTest, conesOfLightEndWithinAPixelAndAHalf)
     spot.setActive(true);
     const Picture picture = drawn(m_canvas);
     const auto [x, y] = pixelOf(m_canvas, {0.5f, 0.5f, 0.0f});
-    const double radius = std::tan(0.5 * static_cast<double>(c_spread)) * (pixelOf(m_canvas, {1.5f, 0.5f, 0.0f})[0] - x);
+    const double radius =
+        std::tan(0.5 * static_cast<double>(c_spread)) * (pixelOf(m_canvas, {1.5f, 0.5f, 0.0f})[0] - x);
     int numMixed = 0;
     forEachPixel([&](int column, int row) {
         const double outside = std::hypot(column + 0.5 - x, row + 0.5 - y) - radius;

@@ -127,7 +127,7 @@ TEST_F(VectorPaintersTest, scalingMapsLengthsAndTheAnchorMovesArrows)
             EXPECT_NEAR(extentAt(picture, 0.0f).first, -before * length, 0.02) << name;
             EXPECT_NEAR(extentAt(picture, 0.0f).second, (1.0 - before) * length, 0.03) << name;
             if (scaling == Scaling::logarithmic) {
-                EXPECT_LT(extentAt(picture, -1.0f).second, 0.0) << name;
+                EXPECT_GT(pixelOf(m_canvas, {0.0f, -1.0f, 0.0f})[1], picture.height) << "of no length " << name;
             }
         }
     }
@@ -255,7 +255,7 @@ TEST_F(VectorPaintersTest, axesOfCoordinateSystemsHaveTheColorsOfTheTableInTheir
     EXPECT_EQ(colorAt(m_canvas, picture, {middle, 0.0f, 0.0f}), c_red);
     EXPECT_EQ(colorAt(m_canvas, picture, {0.0f, middle, 0.0f}), c_green);
     EXPECT_EQ(colorAt(m_canvas, picture, {0.0f, 0.0f, middle}), c_blue);
-    EXPECT_FALSE(isDrawn(picture, -middle, 0.0f));
+    EXPECT_GT(extentAt(picture, 0.0f).first, -0.5 * static_cast<double>(middle)) << "to one side";
     plot->setScalingType(Scaling::normalized);
     EXPECT_EQ(colorAt(m_canvas, drawn(m_canvas), {0.0f, middle, 0.0f}), c_green);
 }

@@ -28,7 +28,7 @@ public final class FourCameras implements Picture {
             plot.setColorTable("viridis", studio.colors("viridis"), true);
             plot.fillPlot(record);
             plot.setHeightScale(0.2f);
-            studio.nameAxes("x in km", "y in km", "z, enlarged");
+            studio.nameAxes("x in km", "y in km", "z in m");
             studio.show(plot, "Elevation in m").view(-60, 35);
 
             // A camera is set by its position, the direction in which it looks, and the direction that is up. This one

@@ -80,6 +80,7 @@ public final class TerrainContours implements Picture {
             contours.setColorTable("viridis", studio.colors("viridis"), true);
             contours.setShowLegend(true);
             contours.fillPlot(spatialRecord);
+            studio.nameAxes("x in km", "y in km", "z in 100 m");
             studio.view(-60, 40);
             studio.save("Each line lies at the height of its level.");
         }

@@ -23,11 +23,12 @@ public final class TerrainRaised implements Picture {
                 PostDataObject record = studio.read("terrain_2d.txt", PlotKind.SURFACE_2D, roles)) {
 
             // A fill makes the relief as high as the plot is wide. The height scale reduces that to a fifth without
-            // another fill, which is about six times the true height.
+            // another fill, which is about six times the true height. The z axis still has the elevation in metres: the
+            // values of the plot are its heights.
             plot.setColorTable("viridis", studio.colors("viridis"), true);
             plot.fillPlot(record);
             plot.setHeightScale(0.2f);
-            studio.nameAxes("x in km", "y in km", "z, enlarged");
+            studio.nameAxes("x in km", "y in km", "z in m");
             studio.show(plot, "Elevation in m").view(-60, 35);
             studio.save("The range from the south, with ridges in yellow and valleys in blue. `view` takes the "
                     + "direction to look from and fits the whole scene into the picture.");

@@ -1,0 +1,299 @@
+#include "renderer/scene/scenefit.h"
+
+#include "graphics3d/cameras/camera2d.h"
+#include "graphics3d/cameras/camera3d.h"
+#include "graphics3d/parts/markingsetups.h"
+#include "graphics3d/settings/canvas3dglobalsettings.h"
+#include "renderer/axes/gridbox.h"
+#include "renderer/axes/labelplacer.h"
+#include "renderer/decoration/axespainter.h"
+#include "renderer/frame/frame.h"
+#include "renderer/frame/seenextent.h"
+#include "renderer/plots/plotpoints.h"
+#include "renderer/scene/framelayout.h"
+#include "renderer/scene/sceneitems.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vxrenderer {
+namespace {
+
+using namespace vxgraphics3d;
+
+/// Labels may take this part of the area at most; beyond it they are cut.
+constexpr double c_mostForLabels = 0.5;
+/// The least free space around a scene, as a part of it.
+constexpr float c_leastMargin = 1e-3f;
+/// The layout of labels follows the zoom, and the zoom the space for labels.
+constexpr int c_mostRounds = 12;
+/// A change in pixels that ends the search.
+constexpr double c_accuracy = 0.1;
+/// Nothing is magnified further than by this factor over the view of the whole box, and what is seen as a point not at
+/// all.
+constexpr double c_largestZoom = 1000.0;
+constexpr double c_pointSize = 1e-3;
+
+float marginOf(const Canvas3dGlobalSettings& settings)
+{
+    // The setting may have any value.
+    const float margin = settings.getZoomToExtentMargin();
+    return margin > c_leastMargin ? std::min(margin, 1.0f) : c_leastMargin;
+}
+
+/// A rectangle in pixels of the picture, which may be empty.
+struct Rect {
+    double left = HUGE_VAL;
+    double top = HUGE_VAL;
+    double right = -HUGE_VAL;
+    double bottom = -HUGE_VAL;
+
+    void merge(const LabelRect& label)
+    {
+        left = std::min(left, static_cast<double>(label.left));
+        top = std::min(top, static_cast<double>(label.top));
+        right = std::max(right, static_cast<double>(label.right));
+        bottom = std::max(bottom, static_cast<double>(label.bottom));
+    }
+};
+
+/// How far labels reach beyond what they belong to, in pixels.
+struct Overhang {
+    double left = 0.0;
+    double top = 0.0;
+    double right = 0.0;
+    double bottom = 0.0;
+
+    double across() const { return left + right; }
+    double along() const { return top + bottom; }
+
+    /// Reduced to what labels may take of a rectangle, on all sides of a direction alike.
+    Overhang limitedTo(double width, double height) const
+    {
+        const double x = std::min(1.0, c_mostForLabels * width / across());
+        const double y = std::min(1.0, c_mostForLabels * height / along());
+        return {across() > 0.0 ? x * left : 0.0, along() > 0.0 ? y * top : 0.0, across() > 0.0 ? x * right : 0.0,
+                along() > 0.0 ? y * bottom : 0.0};
+    }
+};
+
+/// The part of an area that is left by a margin around its middle, and at most by labels.
+Rect targetOf(const PixelArea& area, float margin)
+{
+    const double part = 0.5 / (1.0 + static_cast<double>(margin));
+    const double x = area.x + 0.5 * area.width;
+    const double y = area.y + 0.5 * area.height;
+    return {x - part * area.width, y - part * area.height, x + part * area.width, y + part * area.height};
+}
+
+/// Finds magnification and offset of the image.
+class Fit {
+public:
+    Fit(Camera3d& camera, const Frame& frame, const FrameLayout& layout)
+        : m_camera(camera),
+          m_frame(frame),
+          m_layout(layout),
+          m_area(layout.area.whole),
+          m_target(targetOf(layout.area.inner, marginOf(*Canvas3dGlobalSettings::getInstance()))),
+          m_seen(camera)
+    {
+        visitPoints(layout.items, frame, [this](const PointRun& points) { m_seen.add(points); });
+        if (m_seen.isEmpty()) {
+            for (int corner = 0; corner < 8; ++corner) {
+                m_seen.add(layout.box.getVertex(corner));
+            }
+        }
+        if (frame.appearance.showAxes) {
+            for (const AxisLine& edge : gridBox().edges) {
+                m_seen.add(edge.from);
+                m_seen.add(edge.to);
+            }
+        }
+    }
+
+    void run()
+    {
+        if (m_seen.isEmpty()) {
+            return;
+        }
+        m_largest = c_largestZoom * pixelsAcross();
+        Overhang overhang;
+        double change = move(overhang);
+        for (int round = 0; round < c_mostRounds && change > c_accuracy && m_frame.appearance.showAxes; ++round) {
+            const Overhang next = overhangOfLabels();
+            // Labels come and go with the zoom. From some rounds on they keep the space that they once took, so that
+            // the search ends.
+            const bool isKept = round >= c_mostRounds / 3;
+            const auto taken = [isKept](double now, double before) { return isKept ? std::max(now, before) : now; };
+            overhang = {taken(next.left, overhang.left), taken(next.top, overhang.top),
+                        taken(next.right, overhang.right), taken(next.bottom, overhang.bottom)};
+            change = move(overhang);
+        }
+    }
+
+private:
+    /// With the labels that the picture would cut.
+    GridBoxLayout gridBox() const
+    {
+        return layOutGridBox(m_frame, {m_layout.box, m_layout.heightUnits}, m_area, m_layout.axisFonts, {});
+    }
+
+    // Pixels for a unit of the extent.
+    double pixelsAcross() const
+    {
+        return 0.5 * m_area.width * static_cast<double>(m_camera.getProjectionTransformRH().get(1, 1));
+    }
+    double pixelsAlong() const
+    {
+        return 0.5 * m_area.height * static_cast<double>(m_camera.getProjectionTransformRH().get(2, 2));
+    }
+    /// Where the line of sight is in the picture.
+    double sightX() const
+    {
+        return m_area.x + m_area.width * (0.5 + static_cast<double>(m_camera.getRelativeViewOffsetX()));
+    }
+    double sightY() const
+    {
+        return m_area.y + m_area.height * (0.5 - static_cast<double>(m_camera.getRelativeViewOffsetY()));
+    }
+
+    Rect seenRect() const
+    {
+        const double x = pixelsAcross();
+        const double y = pixelsAlong();
+        return {sightX() + x * m_seen.left(), sightY() - y * m_seen.top(), sightX() + x * m_seen.right(),
+                sightY() - y * m_seen.bottom()};
+    }
+
+    Overhang overhangOfLabels() const
+    {
+        const Rect seen = seenRect();
+        Rect all = seen;
+        for (const AxisLabel& label : gridBox().labels) {
+            all.merge(rectOf(label, m_layout.axisFonts.metrics()));
+        }
+        return {seen.left - all.left, seen.top - all.top, all.right - seen.right, all.bottom - seen.bottom};
+    }
+
+    /// Magnifies and moves the image so that it fills the target with this space for labels.
+    /// @return by how many pixels an end of the scene has moved
+    double move(const Overhang& labels)
+    {
+        const Rect before = seenRect();
+        const double width = m_target.right - m_target.left;
+        const double height = m_target.bottom - m_target.top;
+        const Overhang overhang = labels.limitedTo(width, height);
+        const double zoom =
+            std::min({(width - overhang.across()) / (before.right - before.left),
+                      (height - overhang.along()) / (before.bottom - before.top), m_largest / pixelsAcross()});
+        const bool isPoint = std::max(before.right - before.left, before.bottom - before.top) < c_pointSize;
+        if (!isPoint && zoom > 0.0 && std::isfinite(zoom)) {
+            magnify(zoom);
+        }
+        const Rect zoomed = seenRect();
+        const double right =
+            0.5 * (m_target.left + m_target.right - zoomed.left - zoomed.right + overhang.left - overhang.right);
+        const double down =
+            0.5 * (m_target.top + m_target.bottom - zoomed.top - zoomed.bottom + overhang.top - overhang.bottom);
+        m_camera.setRelativeViewOffset(m_camera.getRelativeViewOffsetX() + static_cast<float>(right / m_area.width),
+                                       m_camera.getRelativeViewOffsetY() - static_cast<float>(down / m_area.height));
+        const Rect after = seenRect();
+        return std::max({std::abs(after.left - before.left), std::abs(after.right - before.right),
+                         std::abs(after.top - before.top), std::abs(after.bottom - before.bottom)});
+    }
+
+    void magnify(double zoom)
+    {
+        const float offsetX = m_camera.getRelativeViewOffsetX();
+        const float offsetY = m_camera.getRelativeViewOffsetY();
+        const double pixels = pixelsAcross();
+        m_camera.setAdditionalScale(0.5f, 0.5f, static_cast<float>(1.0 / zoom));
+        m_camera.mergeAdditionalTransformation();
+        m_camera.setRelativeViewOffset(offsetX, offsetY);
+        // A camera with a fixed number of pixels per unit ignores angles and extents.
+        if (std::abs(pixelsAcross() / pixels - zoom) > 0.01 * zoom) {
+            m_camera.setViewingScale(m_camera.getViewingScale() * static_cast<float>(zoom * pixels / pixelsAcross()));
+        }
+    }
+
+    Camera3d& m_camera;
+    const Frame& m_frame;
+    const FrameLayout& m_layout;
+    PixelArea m_area;
+    Rect m_target;
+    SeenExtent m_seen;
+    double m_largest = 0.0;
+};
+
+bool isSphereShown()
+{
+    return Canvas3dGlobalSettings::getInstance()->getZoomToExtentBehaviour() ==
+           Canvas3dGlobalSettings::ZoomToExtentSphere;
+}
+
+} // namespace
+
+double marginOfFit()
+{
+    const auto margin = static_cast<double>(marginOf(*Canvas3dGlobalSettings::getInstance()));
+    return 0.5 * margin / (1.0 + margin);
+}
+
+void fitCamera(Camera3d& camera, const Frame& frame, const FrameLayout& layout)
+{
+    camera.setRotationPoint(layout.box.getCenter());
+    camera.setRelativeViewOffset(0.0f, 0.0f);
+    camera.moveToBoundingBox(layout.box, layout.box, 0.0f);
+    // Clipping planes of a former scene may limit the magnification.
+    camera.setBoundingBox(layout.box);
+    if (isSphereShown()) {
+        // Every rotation keeps its space for labels.
+        const PixelArea& whole = layout.area.whole;
+        const PixelArea inner =
+            frame.appearance.showAxes ? spaceInGridBox(frame, layout.area.inner, layout.axisFonts) : layout.area.inner;
+        const double part = std::max(c_mostForLabels, std::min(static_cast<double>(inner.width) / whole.width,
+                                                               static_cast<double>(inner.height) / whole.height));
+        camera.setAdditionalScale(0.5f, 0.5f, static_cast<float>(1.0 / part));
+        camera.mergeAdditionalTransformation();
+        return;
+    }
+    Fit(camera, frame, layout).run();
+}
+
+void fitCamera(Camera2d& camera, const FrameLayout& layout)
+{
+    // The boxes of graphs say how they are drawn; those of other plots do not enclose their arrows.
+    PointBox drawn;
+    for (const SceneItem& item : layout.items) {
+        const auto* plot = std::get_if<PlotItem>(&item);
+        if (plot != nullptr && plot->plot->getType() != PlotType::graph) {
+            visitPlotPoints(*plot->plot, [&drawn](const PointRun& points) { drawn.add(points); });
+        }
+    }
+    BoundingBox box = layout.box;
+    box.merge(drawn.get());
+    const PixelArea& whole = layout.area.whole;
+    const PixelArea& inner = layout.area.inner;
+    // Half of the margin on each side, as in space.
+    const float margin = 0.5f * marginOf(*Canvas3dGlobalSettings::getInstance());
+    if (inner.width == whole.width && inner.height == whole.height) {
+        camera.moveToBoundingBox(box, margin);
+        return;
+    }
+    const auto setArea = [&](const PixelArea& area) {
+        camera.setRenderArea(layout.width, layout.height, area.x, layout.height - area.y - area.height, area.width,
+                             area.height);
+    };
+    setArea(inner);
+    camera.moveToBoundingBox(box, margin);
+    // The same pixels per unit in the whole area.
+    const float unitX = (camera.getActualMaxX() - camera.getActualMinX()) / static_cast<float>(inner.width);
+    const float unitY = (camera.getActualMaxY() - camera.getActualMinY()) / static_cast<float>(inner.height);
+    const float minX = camera.getActualMinX() - unitX * static_cast<float>(inner.x - whole.x);
+    const float maxY = camera.getActualMaxY() + unitY * static_cast<float>(inner.y - whole.y);
+    setArea(whole);
+    camera.setViewLimits(minX, minX + unitX * static_cast<float>(whole.width),
+                         maxY - unitY * static_cast<float>(whole.height), maxY);
+}
+
+} // namespace vxrenderer
