@@ -146,6 +146,23 @@ void drawBare(benchmark::State& state, int samples)
     state.SetItemsProcessed(state.iterations() * waves.plot->getTriangles().getNumIndices() / 3);
 }
 
+/// The upload of a surface, with the search for its creases or, as the limit, without.
+void upload(benchmark::State& state, bool isBody)
+{
+    const Waves waves(static_cast<int>(state.range(0)));
+    const EglContext context;
+    const EglContext::Current current(context);
+    Mesh mesh;
+    for (auto _ : state) {
+        if (isBody) {
+            mesh.loadBody(waves.plot->getVertices(), waves.plot->getTriangles(), 0.6f);
+        } else {
+            mesh.load(waves.plot->getVertices(), waves.plot->getTriangles());
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * waves.plot->getTriangles().getNumIndices() / 3);
+}
+
 /// The highest use of memory while ten million points are drawn for the first time. Without graphics hardware the
 /// driver's copy of the buffers lies in main memory; beside it there is the picture, and nothing else.
 void drawTenMillion(benchmark::State& state)
@@ -184,6 +201,8 @@ BENCHMARK_CAPTURE(drawFrame, translucent, Quality::full, 0.5f)->Name("drawTransl
 BENCHMARK_CAPTURE(drawBare, translucent, c_samples)->Name("drawTranslucent_limit")->Apply(sizes);
 BENCHMARK_CAPTURE(drawFrame, translucentDraft, Quality::draft, 0.5f)->Name("drawTranslucentDraft")->Apply(sizes);
 BENCHMARK_CAPTURE(drawBare, translucentDraft, 1)->Name("drawTranslucentDraft_limit")->Apply(sizes);
+BENCHMARK_CAPTURE(upload, body, true)->Name("uploadBody")->Apply(sizes);
+BENCHMARK_CAPTURE(upload, mesh, false)->Name("uploadBody_limit")->Apply(sizes);
 BENCHMARK(drawTenMillion)->Name("draw_memory")->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace

@@ -12,6 +12,7 @@
 #include "graphics3d/scenegraph/scenegraphroot.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "graphics3d/settings/contextdata.h"
+#include "renderer/canvas/boxfilter.h"
 #include "renderer/canvas/glrendererinfo.h"
 #include "renderer/canvas/pngencoder.h"
 #include "renderer/export/vectorcanvas.h"
@@ -24,6 +25,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 #include <optional>
 #include <stdexcept>
 #include <type_traits>
@@ -93,6 +96,27 @@ void requireNoFault()
 std::size_t bytesOf(const Target& target)
 {
     return std::size_t(4) * static_cast<std::size_t>(target.getWidth()) * static_cast<std::size_t>(target.getHeight());
+}
+
+/// The target of an export.
+/// @param factor pixels in each direction that are drawn for one of the export
+/// @throws std::invalid_argument for a size that the driver does not allow
+Target hardcopyTarget(int width, int height, int factor, int samples)
+{
+    const auto enlarged = [factor](int size) {
+        constexpr std::int64_t c_largest = std::numeric_limits<int>::max();
+        return static_cast<int>(std::min(std::int64_t(size) * factor, c_largest));
+    };
+    try {
+        return Target(width < 1 ? width : enlarged(width), height < 1 ? height : enlarged(height), samples);
+    } catch (const std::invalid_argument& refusal) {
+        if (factor == 1 || width < 1 || height < 1) {
+            throw;
+        }
+        throw std::invalid_argument("The export has " + std::to_string(width) + " by " + std::to_string(height) +
+                                    " pixels, and for each of them " + std::to_string(factor) + " by " +
+                                    std::to_string(factor) + " are drawn. " + refusal.what());
+    }
 }
 
 } // namespace
@@ -373,21 +397,23 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
 {
     dropDisposedScene();
     const EglContext::Current current(m_context);
-    const Target target(width, height, std::max(1, settings.getMultisampleSetting()));
+    const int factor = m_style.supersampling;
+    const Target target = hardcopyTarget(width, height, factor, std::max(1, settings.getMultisampleSetting()));
     Appearance look =
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
     completeAppearance(look);
+    look.enlarge(factor);
     std::optional<VectorCanvas> vectors;
     if (format != HardcopyFormat::png) {
-        vectors.emplace(format == HardcopyFormat::pdf ? VectorFormat::pdf : VectorFormat::svg, width, height,
-                        look.pixelsPerInch, settings.getFileTitle(), settings.getFileCreator());
+        vectors.emplace(format == HardcopyFormat::pdf ? VectorFormat::pdf : VectorFormat::svg, target.getWidth(),
+                        target.getHeight(), look.pixelsPerInch, settings.getFileTitle(), settings.getFileCreator());
     }
     // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;
         Frame frame = frameOf(copy, look);
         frame.screenOverlay = nullptr;
-        FrameLayout layout = m_renderer->layOut(frame, width, height);
+        FrameLayout layout = m_renderer->layOut(frame, target.getWidth(), target.getHeight());
         showTheSame(copy, camera);
         if constexpr (std::is_same_v<decltype(copy), Camera3d>) {
             if (!layout.area.whole.isEmpty() && layout.box.isValid() && m_sceneView && isFitted(camera)) {
@@ -413,6 +439,9 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
     std::vector<std::uint8_t> pixels(bytesOf(target));
     target.read(pixels.data());
     requireNoFault();
+    if (factor > 1) {
+        pixels = reduced(pixels, width, factor);
+    }
     return vxrenderer::encodePng(
         pixels.data(), width, height,
         {.dpi = settings.getDpi(), .title = settings.getFileTitle(), .creator = settings.getFileCreator()});

@@ -133,7 +133,7 @@ AxesPainter::AxesPainter(const Frame& frame, const BoxedScene& scene, const View
       m_view(view),
       m_lineWidth(widthOfLines(frame)),
       m_appearance(frame.appearance),
-      m_gridColor(frame.appearance.visibleGrid(frame.canvas.getGridBoxSettingsPtr()->getGridColor())),
+      m_gridColor(frame.appearance.visible(frame.canvas.getGridBoxSettingsPtr()->getGridColor())),
       m_labelColor(frame.appearance.readable(frame.canvas.getGridBoxSettingsPtr()->getLabelColor()))
 {
     if (view.isFlat) {

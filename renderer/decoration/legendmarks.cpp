@@ -16,9 +16,10 @@ namespace {
 
 /// What lies beyond an end of the bar by less than this part of its length counts as being at the end.
 constexpr double c_slack = 1e-6;
-/// Numbers beyond these limits, in the unit of a format, get a power of ten of their own.
+/// Numbers beyond this limit, in the unit of a format, get a power of ten of their own.
 constexpr double c_largest = 1e6;
-constexpr double c_smallest = 1e-4;
+/// So do numbers that would need more decimals.
+constexpr int c_mostDecimals = 7;
 /// Levels that differ by this factor in total, or more, are labelled with powers of ten if they are logarithmic.
 constexpr double c_farReach = 1e5;
 
@@ -41,24 +42,10 @@ int magnitudeOf(double value)
     return static_cast<int>(std::floor(std::log10(std::abs(value)) + 1e-12));
 }
 
-/// The decimals of a number with this many significant digits, without zeros at its end.
-int decimalsOf(double value, int digits)
-{
-    if (value == 0.0) {
-        return 0;
-    }
-    int decimals = std::clamp(digits - 1 - magnitudeOf(value), 0, 15);
-    std::string text = fixedText(value, decimals);
-    while (decimals > 0 && text.back() == '0') {
-        text.pop_back();
-        --decimals;
-    }
-    return decimals;
-}
-
+/// Whether a number is written without a power of ten of its own.
 bool isOrdinary(double value)
 {
-    return value == 0.0 || (std::abs(value) < c_largest && std::abs(value) >= c_smallest);
+    return std::isfinite(value) && std::abs(value) < c_largest;
 }
 
 /// The format that the labels of ticks have.
@@ -119,11 +106,31 @@ bool isUnitWord(std::string_view word)
 std::string NumberFormat::textOf(double value, int digits) const
 {
     const double scaled = value / std::pow(10.0, exponent);
-    if (!std::isfinite(scaled) || !isOrdinary(scaled)) {
-        return numberText(value, digits);
+    return isOrdinary(scaled) && decimals <= c_mostDecimals ? fixedText(scaled, decimals) : numberText(value, digits);
+}
+
+NumberFormat NumberFormat::widened(const std::vector<double>& values, int digits) const
+{
+    double largest = 0.0;
+    std::vector<double> ordinary;
+    for (const double value : values) {
+        const double scaled = value / std::pow(10.0, exponent);
+        if (isOrdinary(scaled)) {
+            ordinary.push_back(scaled);
+            largest = std::max(largest, std::abs(scaled));
+        }
     }
-    const int most = scaled == 0.0 ? decimals : std::max(digits - 1 - magnitudeOf(scaled), 0);
-    return fixedText(scaled, std::max(std::min(decimals, most), decimalsOf(scaled, digits)));
+    NumberFormat wide = *this;
+    const int most = largest > 0.0 ? std::clamp(digits - 1 - magnitudeOf(largest), 0, 15) : 0;
+    for (const double value : ordinary) {
+        // Without zeros at the end.
+        const std::string text = fixedText(value, most);
+        const std::size_t last = text.find_last_not_of('0');
+        const std::size_t point = text.find('.');
+        const int needed = point == std::string::npos ? 0 : static_cast<int>(last - point);
+        wide.decimals = std::max(wide.decimals, needed);
+    }
+    return wide;
 }
 
 LegendMarks LegendMarks::of(const vxgraphics3d::SceneGraphPlot& plot, const LegendScale& scale, int aboutCount,
@@ -137,16 +144,9 @@ LegendMarks LegendMarks::of(const vxgraphics3d::SceneGraphPlot& plot, const Lege
     marks.minorTicks = minorTicksOf(ticks, scale);
     marks.format = formatOf(ticks);
 
-    // Both extremes have the decimals of the one that needs more.
     const double smallest = plot.getValueMin();
     const double largest = plot.getValueMax();
-    NumberFormat ofExtremes = marks.format;
-    for (const double value : {smallest, largest}) {
-        const double scaled = value / std::pow(10.0, ofExtremes.exponent);
-        if (std::isfinite(scaled) && isOrdinary(scaled)) {
-            ofExtremes.decimals = std::max(ofExtremes.decimals, decimalsOf(scaled, minMaxDigits));
-        }
-    }
+    const NumberFormat ofExtremes = marks.format.widened({smallest, largest}, minMaxDigits);
     marks.smallest = ofExtremes.textOf(smallest, minMaxDigits);
     marks.largest = ofExtremes.textOf(largest, minMaxDigits);
 
@@ -196,12 +196,7 @@ std::vector<std::string> levelLabels(const std::vector<double>& levels, int digi
 {
     std::vector<std::string> labels;
     const bool isFar = areLogarithmic(levels) && levels.back() / levels.front() >= c_farReach;
-    NumberFormat format;
-    for (const double level : levels) {
-        if (std::isfinite(level) && isOrdinary(level)) {
-            format.decimals = std::max(format.decimals, decimalsOf(level, digits));
-        }
-    }
+    const NumberFormat format = NumberFormat().widened(levels, digits);
     for (const double level : levels) {
         const int exponent = isFar ? magnitudeOf(level) : 0;
         const double mantissa = isFar ? level / std::pow(10.0, exponent) : 0.0;

@@ -12,16 +12,20 @@ namespace vxrenderer {
 
 struct LegendScale;
 
-/// How the numbers of one legend are written: all with the same power of ten, and with enough decimals.
+/// How the numbers of one legend are written: all with the same power of ten, and with the same decimals.
 struct NumberFormat {
     /// The numbers are to be multiplied by ten to this power.
     int exponent = 0;
-    /// Digits after the point that each number has at least.
+    /// Digits after the point.
     int decimals = 0;
 
-    /// A number in title markup. One that is too large or too small for the format has its own power of ten.
-    /// @param digits the most significant digits
+    /// A number in title markup. One that is too large for the format has its own power of ten.
+    /// @param digits the most significant digits of such a number
     std::string textOf(double value, int digits) const;
+
+    /// The same format with as many decimals as numbers need, but at least those that it has.
+    /// @param digits significant digits of the number of the largest magnitude; the others have its decimals
+    NumberFormat widened(const std::vector<double>& values, int digits) const;
 };
 
 /// What is marked at the bar of a legend. Positions are 0 at its lower end and 1 at its upper one.

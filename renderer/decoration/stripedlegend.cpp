@@ -49,9 +49,10 @@ StripedLegend::StripedLegend(const PlotItem& item, const LegendStyle& style, flo
     const float em = style.tickFonts.fontSize();
     std::vector<double> levels;
     dynamic_cast<const vxgraphics3d::IStripedLegendPlot&>(*item.plot).getLegendStripeValues(levels);
-    const NumberFormat format;
-    m_texts.setExtremes(format.textOf(item.plot->getValueMin(), style.minMaxDigits),
-                        format.textOf(item.plot->getValueMax(), style.minMaxDigits), style);
+    const double smallest = item.plot->getValueMin();
+    const double largest = item.plot->getValueMax();
+    const NumberFormat format = NumberFormat().widened({smallest, largest}, style.minMaxDigits);
+    m_texts.setExtremes(format.textOf(smallest, style.minMaxDigits), format.textOf(largest, style.minMaxDigits), style);
     m_headHeight = m_texts.headHeight(style, 0.0f);
     const float space = std::max(height - m_headHeight - m_texts.footHeight(style), 0.0f);
     m_stripeHeight = std::min(space / static_cast<float>(levels.size()), c_highestStripe * em);

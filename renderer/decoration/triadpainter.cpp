@@ -27,6 +27,9 @@ constexpr float c_shaftRadius = 0.75f;
 constexpr float c_headLength = 0.32f;
 constexpr float c_headRadius = 2.3f;
 
+/// Of the arrows to the background; their shading needs some of it.
+constexpr double c_contrast = 3.0;
+
 Triad::Sizes sizesOf(const Frame& frame, const AxisOrientationIndicator& indicator)
 {
     const float length = frame.appearance.millimetres(indicator.getAxisLength());
@@ -55,7 +58,7 @@ TriadPainter::TriadPainter(const Frame& frame, const View& view, FontSet& letter
     const float around = 2.0f * (haloWidth(letterSize) + 1.0f);
     for (std::size_t i = 0; i < m_colors.size(); ++i) {
         const auto axis = static_cast<AxisOrientationIndicator::Axis>(i);
-        m_colors[i] = indicator.getColor(axis);
+        m_colors[i] = frame.appearance.visible(indicator.getColor(axis), c_contrast);
         m_letters[i].text = layoutTitle(parseTitle(vxbase::UString(plainText(indicator.getLabel(axis)))), letters,
                                         {AxisLabel::c_noLimit, AxisLabel::c_noLimit});
         inks[i] = inkOf(m_letters[i].text, letters);

@@ -19,8 +19,9 @@ namespace {
 using namespace vxgraphics3d;
 
 constexpr float c_pointsPerInch = 72.0f;
-/// What a grid aims at, so that it keeps the least contrast when its colour is rounded.
-constexpr double c_wantedGridContrast = 1.02 * c_gridContrast;
+/// What is added to a least contrast so that it is kept when colours are rounded.
+constexpr double c_roundingSlack = 1.02;
+constexpr double c_wantedGridContrast = c_roundingSlack * c_gridContrast;
 constexpr int c_gridSteps = 20;
 
 /// The contrast of a colour to the end of the backdrop that it is closer to.
@@ -89,10 +90,10 @@ Color Appearance::readable(const Color& wanted) const
     return contrastTo(backdrop, wanted) < c_textContrast ? textColor() : wanted;
 }
 
-Color Appearance::visibleGrid(const Color& wanted) const
+Color Appearance::visible(const Color& wanted, double contrast) const
 {
     Color best = wanted;
-    for (int step = 1; step <= c_gridSteps && contrastTo(backdrop, best) < c_wantedGridContrast; ++step) {
+    for (int step = 1; step <= c_gridSteps && contrastTo(backdrop, best) < c_roundingSlack * contrast; ++step) {
         best = mixed(wanted, textColor(), static_cast<double>(step) / c_gridSteps);
     }
     best.alpha = wanted.alpha;
@@ -133,6 +134,15 @@ Color Appearance::haloOf(const Color& text, double part) const
 bool Appearance::isBackdropUneven() const
 {
     return backdrop.image || contrastTo(backdrop, textColor()) < c_textContrast;
+}
+
+void Appearance::enlarge(int factor)
+{
+    pixelsPerInch *= static_cast<float>(factor);
+    scale *= static_cast<float>(factor);
+    for (Font& font : fonts) {
+        font.size *= factor;
+    }
 }
 
 Appearance Appearance::onScreen(const Canvas3dSettings& canvas, const SceneSettings* scene)

@@ -4,6 +4,7 @@
 #include "graphics3d/foundation/color.h"
 #include "graphics3d/parts/markingsetups.h"
 #include "graphics3d/settings/textitem.h"
+#include "renderer/frame/contrast.h"
 #include "renderer/frame/renderstyle.h"
 
 #include <boost/shared_ptr.hpp>
@@ -86,9 +87,9 @@ struct Appearance {
     /// A colour chosen by the user, or `textColor` where it could not be read on the background: that of an export is
     /// not the one that the colour was chosen for.
     vxgraphics3d::Color readable(const vxgraphics3d::Color& wanted) const;
-    /// The colour of a grid that can be distinguished from the background: the one chosen by the user, or one nearer to
+    /// A colour that can be distinguished from the background: the one chosen by the user, or one nearer to
     /// `textColor`.
-    vxgraphics3d::Color visibleGrid(const vxgraphics3d::Color& wanted) const;
+    vxgraphics3d::Color visible(const vxgraphics3d::Color& wanted, double contrast = c_gridContrast) const;
     /// The colour of the fainter lines of a grid over the background, which are still distinguished from it.
     /// @param grid colour of its other lines
     /// @param part how much of that colour they have if it suffices
@@ -100,6 +101,9 @@ struct Appearance {
     vxgraphics3d::Color haloOf(const vxgraphics3d::Color& text, double part) const;
     /// Whether texts need a halo even on the background, because it has an image or is too varied for one colour.
     bool isBackdropUneven() const;
+
+    /// Enlarges the picture, with everything in it, by a whole factor.
+    void enlarge(int factor);
 
     /// The picture on the screen.
     /// @param scene the settings of the scene in this view, or null without a scene

@@ -266,18 +266,25 @@ void hideSamples()
     }
 }
 
-// The mean of the samples. What a restriction hides has no part in it.
+// The mean of the samples that the triangle covers: others may have values that it does not have. What a restriction
+// hides has no part in it.
 vec3 sampledColor()
 {
     vec2 range = clamp(restriction, 0.0, 1.0);
     if (!c_hasSteps) {
         return surfaceColor(c_isRestricted ? clamp(u, range.x, range.y) : u);
     }
-    vec3 sum = vec3(0.0);
+#ifdef GL_ARB_gpu_shader5
+    int covered = gl_SampleMaskIn[0];
+#else
+    int covered = ~0;
+#endif
+    vec4 sum = vec4(0.0);
     for (int i = 0; i < c_numSamples; ++i) {
-        sum += surfaceColor(clamp(atSample(middleU, i), range.x, range.y));
+        vec4 color = vec4(surfaceColor(clamp(atSample(middleU, i), range.x, range.y)), 1.0);
+        sum += (covered >> i & 1) != 0 ? color : vec4(0.0);
     }
-    return sum / float(c_numSamples);
+    return sum.rgb / max(sum.a, 1.0);
 }
 #else
 void hideSamples()
@@ -358,9 +365,9 @@ std::string MeshShader::fragmentSource() const
 {
     const std::string source =
         std::string(shape == Shape::triangles && numSamples == 1 ? "" : "#extension GL_ARB_sample_shading : enable\n") +
-        constant("isRestricted", isRestricted) + constant("isLit", isLit) + constant("lacksNormals", lacksNormals) +
-        constant("hasPositions", hasPositions) + constant("hasCones", hasCones) +
-        constant("hasHighlights", hasHighlights) + constant("isTextured", isTextured) +
+        (numSamples == 1 ? "" : "#extension GL_ARB_gpu_shader5 : enable\n") + constant("isRestricted", isRestricted) +
+        constant("isLit", isLit) + constant("lacksNormals", lacksNormals) + constant("hasPositions", hasPositions) +
+        constant("hasCones", hasCones) + constant("hasHighlights", hasHighlights) + constant("isTextured", isTextured) +
         "const int c_numLights = " + std::to_string(numLights) + ";\n" + shapeConstants() + c_viewBlock +
         Material::c_source + lightSource() + sampledSource() + mainOfFragments();
     return withOutput(output, source, shape != Shape::triangles);

@@ -199,7 +199,7 @@ bool SceneRenderer::findOcclusion(const Frame& frame, const FrameLayout& layout,
                                   const std::vector<const SceneItem*>& items, const Target& target,
                                   const PaintContext& context)
 {
-    if (!frame.appearance.style.isStudio || m_view.isFlat || !lightOf(frame).isUsed || items.empty() ||
+    if (!frame.appearance.style.isStudio || frame.isDraft || m_view.isFlat || !lightOf(frame).isUsed || items.empty() ||
         frame.appearance.opacity < 1.0f || !layout.box.isValid()) {
         return false;
     }

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -303,6 +304,64 @@ TEST(Hardcopy, textOfAxesCanBeReadOnItsBackground)
     settings.setAxisShown(true);
     const Extent black(PngFile(canvas.encodeHardcopy(settings, 200, 200)), {0, 0, 0});
     EXPECT_GT(black.right - black.left, 100) << "the frame on the white of the export";
+}
+
+TEST(Hardcopy, supersamplingIsTheMeanOfAnExportThatIsLargerInEverything)
+{
+    OffscreenCanvas canvas(150, 120, 1);
+    TestScene scene;
+    scene.add<SceneGraphPlotSurface2d>(1, {}, {0x0000ff, 0x123456})->setTitle(TextFormat::plain, "Title");
+    canvas.setScene(scene.scene);
+    lookFrom(canvas, 30.0, 40.0);
+    canvas.zoomExtents();
+    HardcopySettings settings;
+    settings.setTitleShown(true);
+    settings.setLegendsShown(true);
+    settings.setAxisShown(true);
+    settings.setMultisampleSetting(4);
+    constexpr int width = 140;
+    constexpr int height = 110;
+    for (const int factor : {2, 3}) {
+        RenderStyle style;
+        style.supersampling = factor;
+        canvas.setStyle(style);
+        // A pixel for each point, so that sizes of fonts are not rounded.
+        settings.setDpi(72);
+        const PngFile file(canvas.encodeHardcopy(settings, width, height));
+        EXPECT_EQ(file.perMetre, 2835u);
+        canvas.setStyle({});
+        settings.setDpi(72 * factor);
+        const PngFile large(canvas.encodeHardcopy(settings, width * factor, height * factor));
+        ASSERT_EQ(file.width, width);
+        ASSERT_EQ(file.height, height);
+        const auto meanAt = [&](int x, int y, int channel) {
+            int sum = 0;
+            for (int i = 0; i < factor * factor; ++i) {
+                const int column = x * factor + i % factor;
+                const int row = y * factor + i / factor;
+                sum += large.pixels.at(static_cast<std::size_t>(3 * (row * large.width + column) + channel));
+            }
+            return static_cast<int>(std::lround(static_cast<double>(sum) / (factor * factor)));
+        };
+        int numWrong = 0;
+        for (int i = 0; i < 3 * width * height; ++i) {
+            const int expected = meanAt(i / 3 % width, i / 3 / width, i % 3);
+            numWrong += file.pixels.at(static_cast<std::size_t>(i)) != expected ? 1 : 0;
+        }
+        EXPECT_EQ(numWrong, 0) << factor;
+    }
+    RenderStyle style;
+    style.supersampling = 4;
+    canvas.setStyle(style);
+    try {
+        canvas.encodeHardcopy(settings, 9000, 50);
+        FAIL() << "36000 pixels are more than any driver has";
+    } catch (const std::invalid_argument& refusal) {
+        EXPECT_NE(std::string(refusal.what()).find("9000 by 50 pixels, and for each of them 4 by 4 are drawn"),
+                  std::string::npos);
+    }
+    EXPECT_THROW(canvas.encodeHardcopy(settings, 1 << 30, 1 << 30), std::invalid_argument);
+    EXPECT_THROW(canvas.encodeHardcopy(settings, 0, 50), std::invalid_argument);
 }
 
 } // namespace

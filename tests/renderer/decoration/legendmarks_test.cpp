@@ -76,6 +76,12 @@ TEST_F(LegendMarksTest, extremesAreMarkedOnTheBarInTheFormatOfTheTicks)
     EXPECT_EQ(of.largest, "1.2346");
     EXPECT_EQ(of.smallest, "0.0000");
     EXPECT_EQ(marks(4, 3).largest, "1.23");
+    // The precision is that of the larger one.
+    record.value = [](double x, double) { return 150.914 * x + 0.0086; };
+    m_plot->fillPlot(record.make());
+    m_plot->setLegendLimits(0.0, 70.0);
+    EXPECT_EQ(marks().smallest, "0.01");
+    EXPECT_EQ(marks().largest, "150.92");
 }
 
 TEST_F(LegendMarksTest, minorTicksDivideEachStepIntoRoundParts)

@@ -81,10 +81,12 @@ TEST_F(ReadabilityTest, titlesLegendsAndAxesAreReadOnAnyBackground)
         setBackground(top, bottom);
         const Picture picture = drawn(m_canvas);
         const PixelArea area = m_canvas.getView().area;
+        // Left of the data, their frame and its ticks.
+        const int beside = static_cast<int>(pixelOf(m_canvas, {0.0f, 0.0f, 0.0f})[0]) - 22;
         // Each text is black or white, the rarer one of both in the picture.
         for (const auto& [what, part] :
              {std::pair("title", PixelArea{0, 0, 500, area.y - 4}),
-              std::pair("numbers of the axis", PixelArea{0, area.y, area.x - 8, area.height}),
+              std::pair("numbers of the axis", PixelArea{0, area.y, beside, area.height}),
               std::pair("numbers of the legend", PixelArea{450, area.y + 10, 50, area.height - 20})}) {
             const Strokes black(picture, part, Color::fromRgb(0));
             const Strokes white(picture, part, Color::fromRgb(0xffffff));

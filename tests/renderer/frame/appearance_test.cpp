@@ -147,7 +147,7 @@ TEST_F(AppearanceTest, gridsAndTextsKeepTheirContrastOnAnyPlainBackground)
         EXPECT_GE(contrastOf(look.textColor(), behind), 4.5) << level;
         EXPECT_FALSE(look.isBackdropUneven()) << level;
         EXPECT_EQ(look.haloOf(look.textColor(), 0.5), behind) << "not seen";
-        const Color grid = look.visibleGrid(Color::fromRgb(0x808080));
+        const Color grid = look.visible(Color::fromRgb(0x808080));
         EXPECT_GE(contrastOf(grid, behind), 1.5) << level;
         EXPECT_GE(contrastOf(look.faintGrid(grid, 0.35), behind), 1.5) << level;
     }

@@ -119,7 +119,7 @@ TEST_F(GraphPainterTest, widthColorAndStyleOfLinesCostNoUpload)
     fill({0, 1}, {{0.5, 0.5}});
     m_graph->setLineWidth(4);
     const double solid = covered(drawn(m_canvas));
-    EXPECT_NEAR(solid, 4.0 * m_canvas.getView().area.width * 10.0 / 11.0, 20.0);
+    EXPECT_NEAR(solid, 4.0 * m_canvas.getView().area.width * 20.0 / 21.0, 20.0);
     const std::vector<double> parts = {5.0 / 8.0, 1.0 / 3.0, 7.0 / 12.0};
     for (int style = 1; style < 4; ++style) {
         m_graph->setLineStyle(false, static_cast<LineStyle>(style));
