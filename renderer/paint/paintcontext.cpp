@@ -66,13 +66,13 @@ void PaintContext::drawSpheres(const SphereBuffer* spheres, float radiusScale, c
     }
 }
 
-void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound) const
+void PaintContext::drawLines(const LineMesh* mesh, const Look& look, float width, LineForm form) const
 {
     const Material material = faded(look.material, opacity);
     if (mesh != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
         lines.draw(*mesh,
                    {view.projection * look.toEye, view.area.width, view.area.height, width * scale,
-                    view.aboveFaces(width * scale), isRound},
+                    view.aboveFaces(width * scale), form == LineForm::round, view.isFlat && form == LineForm::straight},
                    material);
     }
 }
@@ -111,7 +111,13 @@ void PaintContext::drawLines(const LineMesh* mesh, const PartLook& parts, const 
 {
     const Material material = faded(look.material, opacity);
     if (mesh != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
-        lines.draw(*mesh, parts, {view.projection * look.toEye, view.area.width, view.area.height, 1.0f}, material);
+        lines.draw(*mesh, parts,
+                   {.toClip = view.projection * look.toEye,
+                    .width = view.area.width,
+                    .height = view.area.height,
+                    .lineWidth = 1.0f,
+                    .isSnapped = view.isFlat},
+                   material);
     }
 }
 

@@ -20,6 +20,7 @@
 namespace vxrenderer {
 namespace {
 
+using vxgraphics3d::Color;
 using vxgraphics3d::Vector3f;
 
 TextLayout layoutOf(const vxbase::UString& text, FontSet& fonts)
@@ -174,6 +175,23 @@ bool isFree(const ShownLabel& shown, float rim, OverlayPainter& painter)
     return countSamples(rect, shown.depth, painter) == all;
 }
 
+/// The colours of a text that is read on anything. Dark and strong colours have a white rim, for which they become a
+/// little darker if they have to: a black one would outweigh them.
+TextColors withRim(const Color& color)
+{
+    constexpr double c_enoughForWhite = 2.5;
+    constexpr double c_step = 0.04;
+    const Color white = Color::fromRgb(0xffffff);
+    if (contrastOf(color, white) < c_enoughForWhite) {
+        return {color, Color::fromRgb(0x000000)};
+    }
+    Color text = color;
+    for (double part = c_step; contrastOf(text, white) < c_textContrast; part += c_step) {
+        text = mixed(color, Color::fromRgb(0x000000), part);
+    }
+    return {text, white};
+}
+
 } // namespace
 
 void drawLabels(std::span<const SceneLabel> labels, const View& view, int width, int height, FontSet& fonts,
@@ -191,7 +209,7 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
     painter.begin(width, height);
     glDepthMask(GL_FALSE);
     for (const ShownLabel& shown : shownLabels) {
-        const TextColors colors = {shown.label->color, contrastingWith(shown.label->color)};
+        const TextColors colors = withRim(shown.label->color);
         if (free != nullptr && isFree(shown, haloWidth(fonts.fontSize()), painter)) {
             free->push_back({shown.text, shown.left, shown.top, colors});
             continue;
