@@ -27,7 +27,7 @@ public final class VectorFigure implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
-        // Resolution and size in pixels give the size on paper, here 8 by 5 centimetres. Fonts are in points.
+        // Resolution and size in pixels give the size on paper, here 12 by 7.5 centimetres. Fonts are in points.
         PlotFile file = PlotFile.read(studio.data("bracket_stress_3d.txt"));
         CsvFile path = CsvFile.read(studio.data("bracket_path.csv"));
         try (SceneGraphPlotSurface3d plot = new SceneGraphPlotSurface3d(1);
@@ -45,6 +45,7 @@ public final class VectorFigure implements Picture {
             report.setFontSize(TextItem.TITLE, 9);
             report.setFontSize(TextItem.AXIS_TITLE, 7);
             report.setFontSize(TextItem.AXIS_TICK, 7);
+            report.setFontSize(TextItem.LEGEND_TITLE, 7);
             report.setFontSize(TextItem.LEGEND_TICK, 7);
             report.setFileTitle("Stress in a loaded bracket");
 
@@ -57,22 +58,22 @@ public final class VectorFigure implements Picture {
             studio.show(plot, "Stress \\sigma_{v} in MPa").view(-35, 25);
             report.setLegendsShown(true);
             studio.renderer().writeHardcopy(
-                    studio.file("The image at 150 dpi, as a screen shows it."), report, pixels(8), pixels(5));
+                    studio.file("The image at 150 dpi, as a screen shows it."), report, pixels(12), pixels(7.5));
             studio.renderer().setSupersampling(2);
-            studio.renderer().writeHardcopy(studio.document(".svg"), report, pixels(8), pixels(5));
-            studio.renderer().writeHardcopy(studio.document(".pdf"), report, pixels(8), pixels(5));
+            studio.renderer().writeHardcopy(studio.document(".svg"), report, pixels(12), pixels(7.5));
+            studio.renderer().writeHardcopy(studio.document(".pdf"), report, pixels(12), pixels(7.5));
             studio.renderer().setSupersampling(1);
 
             // A view of graphs alone has no picture at all: its lines are vectors too.
             plot.setActive(false);
             graph.fillPlot(line);
-            graph.setLineWidth(1.5f);
+            graph.setLineWidth(2);
             studio.nameAxes("Distance in mm", "Stress in MPa");
             studio.show(graph, "Stress along a path").graph();
             report.setLegendsShown(false);
             studio.renderer().writeHardcopy(
-                    studio.file("The graph as an image at 150 dpi."), report, pixels(8), pixels(5));
-            studio.renderer().writeHardcopy(studio.document(".svg"), report, pixels(8), pixels(5));
+                    studio.file("The graph as an image at 150 dpi."), report, pixels(12), pixels(7.5));
+            studio.renderer().writeHardcopy(studio.document(".svg"), report, pixels(12), pixels(7.5));
         }
     }
 
