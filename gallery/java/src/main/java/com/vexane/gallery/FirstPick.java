@@ -39,7 +39,7 @@ public final class FirstPick {
             settings.setPickMask(EnumSet.allOf(Mask.class));
 
             settings.setPickTarget(Target.SHEET);
-            if (picking.click(scene, hits, 400, 225) > 0) {
+            if (picking.click(scene, hits, 422, 208) > 0) {
                 PickedObject nearest = hits.get(0);
                 System.out.println("Object " + nearest.objectId() + ", face " + nearest.partId());
                 bracket.markPart(ObjectPartType.SHEET, nearest.partId(), MarkingAction.PRIMARY);

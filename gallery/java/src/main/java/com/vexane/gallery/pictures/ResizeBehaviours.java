@@ -22,8 +22,8 @@ import java.io.IOException;
 public final class ResizeBehaviours implements Picture {
     private static final int[][] SHAPES = {{400, 300}, {500, 200}, {220, 300}};
 
-    /** Pixels of the first shape that title and margins leave to the scene. */
-    private static final float HEIGHT_OF_SCENE = 245;
+    /** Pixels of the first shape that its title leaves to the scene. */
+    private static final float HEIGHT_OF_SCENE = 255;
 
     @Override
     public void draw(Studio studio) throws IOException {
