@@ -104,8 +104,7 @@ void AcrossLegend::layOutStripes(const std::vector<double>& levels, const Legend
     const double smallest = m_item.plot->getValueMin();
     const double largest = m_item.plot->getValueMax();
     const NumberFormat format = NumberFormat().widened({smallest, largest}, style.minMaxDigits);
-    layOutExtremes(format.textOf(smallest, style.minMaxDigits),
-                   format.textOf(largest, style.minMaxDigits), style);
+    layOutExtremes(format.textOf(smallest, style.minMaxDigits), format.textOf(largest, style.minMaxDigits), style);
     const auto count = static_cast<float>(levels.size());
     m_barRight = std::min(m_barRight, std::round(m_barLeft + c_widestStripe * em * count));
     m_stripes = stripeColors(*m_item.plot, levels);

@@ -52,8 +52,7 @@ StripedLegend::StripedLegend(const PlotItem& item, const LegendStyle& style, flo
     const double smallest = item.plot->getValueMin();
     const double largest = item.plot->getValueMax();
     const NumberFormat format = NumberFormat().widened({smallest, largest}, style.minMaxDigits);
-    m_texts.setExtremes(format.textOf(smallest, style.minMaxDigits),
-                        format.textOf(largest, style.minMaxDigits), style);
+    m_texts.setExtremes(format.textOf(smallest, style.minMaxDigits), format.textOf(largest, style.minMaxDigits), style);
     m_headHeight = m_texts.headHeight(style, 0.0f);
     const float space = std::max(height - m_headHeight - m_texts.footHeight(style), 0.0f);
     m_stripeHeight = std::min(space / static_cast<float>(levels.size()), c_highestStripe * em);

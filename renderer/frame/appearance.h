@@ -87,7 +87,8 @@ struct Appearance {
     /// A colour chosen by the user, or `textColor` where it could not be read on the background: that of an export is
     /// not the one that the colour was chosen for.
     vxgraphics3d::Color readable(const vxgraphics3d::Color& wanted) const;
-    /// A colour that can be distinguished from the background: the one chosen by the user, or one nearer to `textColor`.
+    /// A colour that can be distinguished from the background: the one chosen by the user, or one nearer to
+    /// `textColor`.
     vxgraphics3d::Color visible(const vxgraphics3d::Color& wanted, double contrast = c_gridContrast) const;
     /// The colour of the fainter lines of a grid over the background, which are still distinguished from it.
     /// @param grid colour of its other lines

@@ -30,8 +30,8 @@ struct Extent {
     {
         for (int y = 0; y < picture.height; ++y) {
             for (int x = 0; x < picture.width; ++x) {
-                const bool isScene = x >= without.x && x < without.x + without.width && y >= without.y &&
-                                     y < without.y + without.height;
+                const bool isScene =
+                    x >= without.x && x < without.x + without.width && y >= without.y && y < without.y + without.height;
                 if (!isScene && picture.at(x, y) == color) {
                     left = std::min(left, x);
                     right = std::max(right, x + 1);

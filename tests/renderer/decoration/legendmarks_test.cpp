@@ -56,12 +56,15 @@ TEST_F(LegendMarksTest, extremesAreMarkedOnTheBarInTheFormatOfTheTicks)
     LegendMarks of = marks();
     EXPECT_EQ(of.smallestAt, 0.25);
     EXPECT_EQ(of.largestAt, std::nullopt);
-    EXPECT_EQ(of.smallest, "\xE2\x88\x92" "1");
+    EXPECT_EQ(of.smallest, "\xE2\x88\x92"
+                           "1");
     EXPECT_EQ(of.largest, "3");
     // Ticks in steps of 0.5 have one decimal.
     of = marks(8);
-    EXPECT_EQ(of.ticks.front().label, "\xE2\x88\x92" "2.0");
-    EXPECT_EQ(of.smallest, "\xE2\x88\x92" "1.0");
+    EXPECT_EQ(of.ticks.front().label, "\xE2\x88\x92"
+                                      "2.0");
+    EXPECT_EQ(of.smallest, "\xE2\x88\x92"
+                           "1.0");
     EXPECT_EQ(of.largest, "3.0");
     // A common power of ten.
     GridRecord record;
@@ -101,8 +104,11 @@ TEST(LevelLabels, haveOneFormatOrPowersOfTen)
     using Labels = std::vector<std::string>;
     EXPECT_EQ(levelLabels({0.5, 1.0, 1.25}, 5), (Labels{"0.50", "1.00", "1.25"}));
     EXPECT_EQ(levelLabels({0.1, 1.0, 10.0}, 5), (Labels{"0.1", "1", "10"}));
-    EXPECT_EQ(levelLabels({1e-3, 1e-1, 1e1, 1e3}, 5),
-              (Labels{"10^{\xE2\x88\x92" "3}", "10^{\xE2\x88\x92" "1}", "10^{1}", "10^{3}"}));
+    EXPECT_EQ(levelLabels({1e-3, 1e-1, 1e1, 1e3}, 5), (Labels{"10^{\xE2\x88\x92"
+                                                              "3}",
+                                                              "10^{\xE2\x88\x92"
+                                                              "1}",
+                                                              "10^{1}", "10^{3}"}));
     EXPECT_EQ(levelLabels({2e0, 2e3, 2e6}, 5), (Labels{"2\\times10^{0}", "2\\times10^{3}", "2\\times10^{6}"}));
     EXPECT_FALSE(areLogarithmic({1.0, 2.0, 3.0}));
     EXPECT_FALSE(areLogarithmic({0.0, 1.0, 10.0}));

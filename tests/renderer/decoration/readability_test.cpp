@@ -19,8 +19,8 @@ namespace {
 
 using namespace vxgraphics3d;
 
-/// The pixels of a part of a picture that have exactly the colour of a text, and how many of them have a pixel of enough
-/// contrast within three pixels: strokes are thin.
+/// The pixels of a part of a picture that have exactly the colour of a text, and how many of them have a pixel of
+/// enough contrast within three pixels: strokes are thin.
 struct Strokes {
     int count = 0;
     int readable = 0;
@@ -35,8 +35,8 @@ struct Strokes {
                 }
                 bool isReadable = false;
                 for (int step = 0; step < (2 * c_reach + 1) * (2 * c_reach + 1) && !isReadable; ++step) {
-                    const Rgb near = picture.at(x + step % (2 * c_reach + 1) - c_reach,
-                                                y + step / (2 * c_reach + 1) - c_reach);
+                    const Rgb near =
+                        picture.at(x + step % (2 * c_reach + 1) - c_reach, y + step / (2 * c_reach + 1) - c_reach);
                     isReadable = contrastOf({near[0], near[1], near[2]}, text) >= c_textContrast;
                 }
                 ++count;
@@ -103,9 +103,7 @@ TEST_F(ReadabilityTest, labelsAreReadOnDataOfAnyColor)
     const auto labels = boost::make_shared<SceneGraphPlotPointLabel>(3, 2);
     m_scene.group->addPlot(labels);
     labels->setLabels({"EHLT"});
-    labels->fillPlot(PostRecord()
-                         .bounds({{0, 1}, {0, 1}, {0, 1}})
-                         .group({{0.5}, {0.5}, {0.5}}, {}));
+    labels->fillPlot(PostRecord().bounds({{0, 1}, {0, 1}, {0, 1}}).group({{0.5}, {0.5}, {0.5}}, {}));
     int id = 10;
     for (const int data : {0x000000, 0xffffff, 0x808080, 0xc02020, 0x2020c0, 0x20c020}) {
         const auto square = m_scene.addSquare(++id, data);
@@ -113,8 +111,8 @@ TEST_F(ReadabilityTest, labelsAreReadOnDataOfAnyColor)
             labels->setColor(Color::fromRgb(text));
             const Picture picture = drawn(m_canvas);
             const auto [x, y] = pixelOf(m_canvas, {0.5f, 0.5f, 0.5f});
-            expectReadable(picture, {static_cast<int>(x) - 60, static_cast<int>(y) - 40, 120, 80},
-                           Color::fromRgb(text), "a label", data);
+            expectReadable(picture, {static_cast<int>(x) - 60, static_cast<int>(y) - 40, 120, 80}, Color::fromRgb(text),
+                           "a label", data);
         }
         m_scene.group->removePlot(square->getId());
     }

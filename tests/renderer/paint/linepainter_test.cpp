@@ -42,8 +42,7 @@ protected:
 
     Picture look(const Points& points, int lineWidth)
     {
-        vxgraphics3d::PostRecord record =
-            PostRecord().role(vxdatacarrier::PostDataObject::HeightData, 0);
+        vxgraphics3d::PostRecord record = PostRecord().role(vxdatacarrier::PostDataObject::HeightData, 0);
         std::vector<double> x;
         std::vector<double> y;
         for (const auto& [atX, atY] : points) {
