@@ -140,9 +140,9 @@ public:
         UploadCache& uploads = m_context.uploads;
         m_context.drawLines(
             uploads.lines(m_object, UploadGrid, m_changeId, m_plane.getGridVertices(), m_plane.getGridLines()),
-            lookIn(colorOr(c_gridColor)), c_gridWidth);
+            lookIn(colorOr(c_gridColor)), c_gridWidth, LineForm::straight);
         m_context.drawLines(uploads.lines(m_object, UploadBorder, m_changeId, [this] { return borderOf(m_plane); }),
-                            lookIn(colorOr(c_borderColor)), c_borderWidth);
+                            lookIn(colorOr(c_borderColor)), c_borderWidth, LineForm::straight);
     }
 
     void drawAxes() const

@@ -53,6 +53,15 @@ enum DrawKind : unsigned {
     DrawAll = 0xf
 };
 
+/// How lines are drawn.
+enum class LineForm {
+    plain,
+    /// With round ends and corners.
+    round,
+    /// Lines along the sides of a flat view lie on whole pixels, as those of a grid.
+    straight
+};
+
 /// Where something is drawn, and how it looks.
 struct Look {
     /// From its vertices to the eye.
@@ -113,8 +122,7 @@ struct PaintContext {
     /// @param radiusScale multiplies all radii
     void drawSpheres(const SphereBuffer* spheres, float radiusScale, const Look& look) const;
     /// @param width in pixels of the screen
-    /// @param isRound whether the corners of wide opaque lines are round
-    void drawLines(const LineMesh* mesh, const Look& look, float width, bool isRound = false) const;
+    void drawLines(const LineMesh* mesh, const Look& look, float width, LineForm form = LineForm::plain) const;
     /// Lines that are copied for this call.
     /// @param toClip from their points to the area of the scene
     /// @param over width of the widest lines, or size of the largest symbols, that they are drawn over
@@ -151,6 +159,8 @@ private:
     /// Icons and labels of what is translucent are drawn with what is opaque.
     bool hasLabels() const { return (kinds & DrawLines) != 0 && pass != Pass::translucent; }
     bool isDrawn(DrawKind kind, bool isTranslucent) const;
+    /// Rows of which those that are not drawn are invisible.
+    PartRows rowsDrawn(DrawKind kind, const PartRows& rows, const Material& material) const;
 };
 
 } // namespace vxrenderer

@@ -19,6 +19,7 @@
 namespace vxrenderer {
 namespace {
 
+using vxgraphics3d::Color;
 using vxgraphics3d::Vector3f;
 
 TextLayout layoutOf(const vxbase::UString& text, FontSet& fonts)
@@ -147,6 +148,23 @@ void placeBeside(std::vector<ShownLabel>& labels, float fontSize)
     });
 }
 
+/// The colours of a text that is read on anything. Dark and strong colours have a white rim, for which they become a
+/// little darker if they have to: a black one would outweigh them.
+TextColors withRim(const Color& color)
+{
+    constexpr double c_enoughForWhite = 2.5;
+    constexpr double c_step = 0.04;
+    const Color white = Color::fromRgb(0xffffff);
+    if (contrastOf(color, white) < c_enoughForWhite) {
+        return {color, Color::fromRgb(0x000000)};
+    }
+    Color text = color;
+    for (double part = c_step; contrastOf(text, white) < c_textContrast; part += c_step) {
+        text = mixed(color, Color::fromRgb(0x000000), part);
+    }
+    return {text, white};
+}
+
 } // namespace
 
 void drawLabels(std::span<const SceneLabel> labels, const View& view, int width, int height, FontSet& fonts,
@@ -169,8 +187,7 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
         } else {
             glDisable(GL_DEPTH_TEST);
         }
-        painter.drawText(shown.text, fonts, shown.left, shown.top,
-                         {shown.label->color, contrastingWith(shown.label->color)}, shown.depth);
+        painter.drawText(shown.text, fonts, shown.left, shown.top, withRim(shown.label->color), shown.depth);
     }
     glDisable(GL_DEPTH_TEST);
     glDepthMask(GL_TRUE);

@@ -12,8 +12,8 @@ class FontSet;
 class OverlayPainter;
 struct View;
 
-/// A text at a point of the scene, which keeps its size and faces the eye. It has a rim in black or white, whichever
-/// contrasts with its colour, so that it can be read on lines and on any surface.
+/// A text at a point of the scene, which keeps its size and faces the eye. It has a rim in black or white, so
+/// that it can be read on lines and on any surface.
 struct SceneLabel {
     /// In world coordinates.
     vxgraphics3d::Vector3f point;

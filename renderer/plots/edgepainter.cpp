@@ -22,7 +22,7 @@ void EdgePainter::draw(const PlotItem& item, const PaintContext& context) const
         const auto& plot = static_cast<const SceneGraphPlotEdge&>(*item.plot);
         context.drawLines(
             context.uploads.lines(item.plot, 0, plot.getGeometryChangeId(), plot.getVertices(), plot.getLines()), *look,
-            std::max(plot.getLineWidth(), 1.0f));
+            std::max(plot.getLineWidth(), 1.0f), LineForm::straight);
     }
 }
 

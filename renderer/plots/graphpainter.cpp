@@ -69,7 +69,7 @@ void drawLine(const SceneGraphPlotGraph& graph, const boost::shared_ptr<GraphLin
     const LineStyle style = width > 0.0f ? line->m_lineStyle : LineStyle::none;
     if (style == LineStyle::solid || (style != LineStyle::none && !context.view.isFlat)) {
         context.drawLines(context.uploads.lines(line, context.logAxes, 1, version.vertices, version.strips), look,
-                          width, width >= c_roundWidth);
+                          width, width >= c_roundWidth ? LineForm::round : LineForm::plain);
     } else if (style != LineStyle::none) {
         drawDashes(version, style, width, color, context);
     }

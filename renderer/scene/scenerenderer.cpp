@@ -471,7 +471,7 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
                          layout.height, layout.axisFonts);
         }
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
-            triad.emplace(frame, m_view, layout.orientationFonts);
+            triad.emplace(frame, m_view, layout.height, layout.orientationFonts);
         }
         drawScene(frame, layout, axes ? &*axes : nullptr, target);
     }

@@ -107,7 +107,7 @@ TEST_F(ReadabilityTest, labelsAreReadOnDataOfAnyColor)
     int id = 10;
     for (const int data : {0x000000, 0xffffff, 0x808080, 0xc02020, 0x2020c0, 0x20c020}) {
         const auto square = m_scene.addSquare(++id, data);
-        for (const int text : {0x000001, 0xfffffe, 0xc02021, 0x808081}) {
+        for (const int text : {0x000001, 0xfffffe, 0xc02021, 0xffff01}) {
             labels->setColor(Color::fromRgb(text));
             const Picture picture = drawn(m_canvas);
             const auto [x, y] = pixelOf(m_canvas, {0.5f, 0.5f, 0.5f});
