@@ -1,6 +1,7 @@
 package com.vexane.renderer;
 
 import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.vexane.graphics3d.Canvas3dSettings;
@@ -14,6 +15,8 @@ import com.vexane.graphics3d.SceneGraphRoot;
 import com.vexane.producer.ProjectionBuilder2D;
 import com.vexane.producer.RenderDrawProj2D;
 import java.nio.ByteBuffer;
+import java.util.Arrays;
+import java.util.stream.IntStream;
 import org.junit.jupiter.api.Test;
 
 /** The path of construction objects from Java arrays to pixels. */
@@ -21,8 +24,20 @@ class ConstructionPictureTest {
     private static final int SIZE = 120;
     private static final int WHITE = 0xffffffff;
 
+    private static boolean isOrange(int rgba) {
+        int red = rgba >> 24 & 0xff;
+        int green = rgba >> 16 & 0xff;
+        int blue = rgba >> 8 & 0xff;
+        return red > green + 60 && green > blue + 40;
+    }
+
     /** The number of pixels that are drawn when an object is all that is looked at, from above. */
     private static int countDrawn(SceneGraphObject object) {
+        return (int) IntStream.of(draw(object)).filter(pixel -> pixel != WHITE).count();
+    }
+
+    /** Those pixels, with the background. */
+    private static int[] draw(SceneGraphObject object) {
         try (Scene scene = new Scene();
                 SceneGraphRoot root = SceneGraphRoot.connect(scene);
                 OffscreenRenderer renderer = OffscreenRenderer.create(SIZE, SIZE, 1);
@@ -34,11 +49,7 @@ class ConstructionPictureTest {
             renderer.zoomExtents();
             renderer.draw();
             ByteBuffer image = renderer.image();
-            int count = 0;
-            for (int i = 0; i < SIZE * SIZE; ++i) {
-                count += image.getInt(4 * i) != WHITE ? 1 : 0;
-            }
-            return count;
+            return IntStream.range(0, SIZE * SIZE).map(i -> image.getInt(4 * i)).toArray();
         }
     }
 
@@ -55,9 +66,12 @@ class ConstructionPictureTest {
             assertEquals(grid, countDrawn(plane));
             plane.setRevolve(new float[] {0.3f, 0, 0, 1});
             assertTrue(countDrawn(plane) > grid);
+            int[] revolution = draw(plane);
             plane.setExtrude(new float[] {1, 0.5f});
             plane.setExtrude(new float[0]);
-            assertTrue(countDrawn(plane) > grid);
+            assertFalse(Arrays.equals(revolution, draw(plane)));
+            // From above, the disc lies on the origin of the axes.
+            assertTrue(IntStream.of(draw(plane)).anyMatch(ConstructionPictureTest::isOrange));
         }
     }
 
