@@ -352,7 +352,8 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Writes the last picture drawn to a PNG file with 8 bits per channel, without alpha.
+     * Writes the last picture drawn to a PNG file with 8 bits per channel, without alpha. The file says that its colours
+     * are sRGB, and has the resolution of the screen.
      *
      * @param file the file, which is replaced
      * @throws NullPointerException if the file is null
