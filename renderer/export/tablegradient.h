@@ -16,9 +16,9 @@ struct GradientPiece {
         std::array<int, 3> color;
     };
 
-    /// At least one; colours between two of them are linear. The first is where the piece begins, unless there is only
-    /// one: then all of it has that colour.
+    /// Where it begins on the bar, 0 to 1; it ends where the next one begins.
     double begin;
+    /// Colours between two stops are linear. A single stop colours all of the piece.
     std::vector<Stop> stops;
 };
 
