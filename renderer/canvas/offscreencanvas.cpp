@@ -15,6 +15,7 @@
 #include "renderer/canvas/boxfilter.h"
 #include "renderer/canvas/glrendererinfo.h"
 #include "renderer/canvas/pngencoder.h"
+#include "renderer/export/vectorcanvas.h"
 #include "renderer/gl/target.h"
 #include "renderer/scene/scenefit.h"
 #include "renderer/scene/sceneitems.h"
@@ -26,6 +27,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <stdexcept>
 #include <type_traits>
 #include <utility>
@@ -390,7 +392,8 @@ void OffscreenCanvas::keepVisible(PickedObjectCollection& picked)
     requireNoFault();
 }
 
-std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings& settings, int width, int height)
+std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings& settings, int width, int height,
+                                                          HardcopyFormat format)
 {
     dropDisposedScene();
     const EglContext::Current current(m_context);
@@ -400,6 +403,11 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
         Appearance::ofHardcopy(settings, *m_settings, m_sceneView ? &m_sceneView->getSettings() : nullptr);
     completeAppearance(look);
     look.enlarge(factor);
+    std::optional<VectorCanvas> vectors;
+    if (format != HardcopyFormat::png) {
+        vectors.emplace(format == HardcopyFormat::pdf ? VectorFormat::pdf : VectorFormat::svg, target.getWidth(),
+                        target.getHeight(), look.pixelsPerInch, settings.getFileTitle(), settings.getFileCreator());
+    }
     // A camera that takes another size cannot always return to its base, so a copy does.
     const auto drawWithCopy = [&](const auto& camera) {
         auto copy = camera;
@@ -413,7 +421,11 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
             }
         }
         SceneRenderer::placeScene(frame, layout);
-        m_renderer->draw(frame, layout, target);
+        if (vectors) {
+            m_renderer->drawVectors(frame, layout, target, *vectors);
+        } else {
+            m_renderer->draw(frame, layout, target);
+        }
     };
     if (renderModeOf(*m_settings) == Canvas3dSettings::RenderMode2d) {
         drawWithCopy(*m_settings->getCamera2d());
@@ -421,6 +433,9 @@ std::vector<std::uint8_t> OffscreenCanvas::encodeHardcopy(const HardcopySettings
         drawWithCopy(*m_settings->getCamera3d());
     }
     requireNoFault();
+    if (vectors) {
+        return vectors->finish();
+    }
     std::vector<std::uint8_t> pixels(bytesOf(target));
     target.read(pixels.data());
     requireNoFault();

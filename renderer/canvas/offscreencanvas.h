@@ -41,9 +41,13 @@ class Target;
 enum class Quality {
     full,
     /// For a picture that the next one replaces at once, as while the user drags the scene: one sample per pixel, so
-    /// edges are jagged. Everything is at the same position as in the full picture.
+    /// edges are jagged, and studio light has no shade in corners. Everything is at the same position as in the full
+    /// picture.
     draft
 };
+
+/// The kind of file that an export makes.
+enum class HardcopyFormat { png, pdf, svg };
 
 /// A view of a scene that no screen shows: what a Java OffscreenRenderer represents.
 ///
@@ -126,12 +130,16 @@ public:
     /// @throws std::logic_error if nothing was drawn since the canvas was made or resized
     void keepVisible(vxgraphics3d::PickedObjectCollection& picked);
 
-    /// Draws the view at another size as the settings of the export ask, and gives the bytes of an image file. The view
-    /// itself stays as it is. A view in space that `zoomExtents` has made is fitted to the picture again, whose labels
-    /// may have another size.
+    /// Draws the view at another size as the settings of the export ask, and gives the bytes of a file. The view itself
+    /// stays as it is. A view in space that `zoomExtents` has made is fitted to the picture again, whose labels may
+    /// have another size.
+    ///
+    /// A PDF or SVG file is a page of that many pixels at the resolution of the settings. Its texts and the lines of
+    /// axes, legends and graphs are vectors; the scene is a picture in it.
     /// @throws std::invalid_argument for a size below 1 or beyond what the driver allows
     /// @throws std::runtime_error if the driver reports a fault
-    std::vector<std::uint8_t> encodeHardcopy(const vxgraphics3d::HardcopySettings& settings, int width, int height);
+    std::vector<std::uint8_t> encodeHardcopy(const vxgraphics3d::HardcopySettings& settings, int width, int height,
+                                             HardcopyFormat format = HardcopyFormat::png);
 
     const UploadCounts& getUploadCounts() const;
     /// The view of the scene in the picture drawn last.

@@ -121,14 +121,14 @@ void AcrossLegend::layOutStripes(const std::vector<double>& levels, const Legend
     }
 }
 
-void AcrossLegend::draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left,
-                        float top, float headHeight) const
+void AcrossLegend::draw(DecorationCanvas& canvas, const LegendStyle& style, float left, float top,
+                        float headHeight) const
 {
     const float em = style.tickFonts.fontSize();
     left = std::round(left);
     const float barTop = std::round(top + headHeight);
     const PixelRect rect = {left + m_barLeft, barTop, left + m_barRight, barTop + ColorBar::thickness(style)};
-    const ColorBar bar(painter, textures, m_item, style, rect);
+    const ColorBar bar(canvas, m_item, style, rect);
     if (m_stripes.empty()) {
         bar.drawScale(m_scale, m_marks);
         for (const double position : m_marks.minorTicks) {
@@ -143,7 +143,7 @@ void AcrossLegend::draw(OverlayPainter& painter, ColorTextures& textures, const 
         bar.drawStripes(m_stripes);
     }
     const auto drawText = [&](const TextLayout& text, FontSet& fonts, float textLeft, float textTop) {
-        painter.drawText(text, fonts, textLeft, textTop, style.textColors());
+        canvas.drawText(text, fonts, textLeft, textTop, style.textColors());
     };
     const float tick = std::round(c_tickLength * em);
     for (const Label& label : m_labels) {

@@ -20,7 +20,7 @@ public:
     float getWidth() const override { return m_width; }
     float getHeight() const override { return m_height; }
     float getHeadHeight() const override { return m_headHeight; }
-    void draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left, float top,
+    void draw(DecorationCanvas& canvas, const LegendStyle& style, float left, float top,
               float headHeight) const override;
 
 private:

@@ -12,8 +12,7 @@
 #include "renderer/axes/gridbox.h"
 #include "renderer/axes/labelplacer.h"
 #include "renderer/frame/frame.h"
-#include "renderer/paint/linepainter.h"
-#include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/decorationcanvas.h"
 #include "renderer/text/titlemarkup.h"
 
 #include <algorithm>
@@ -60,7 +59,7 @@ GridBoxInput gridBoxInput(const Frame& frame, const BoxedScene& scene, const Pix
 
 /// Draws lines, first the faint ones.
 void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int width, int height, float lineWidth,
-               const Color& color, const Color& minorColor, const LinePainter& painter)
+               const Color& color, const Color& minorColor, DecorationCanvas& canvas)
 {
     for (const bool isMinor : {true, false}) {
         std::vector<LineSegment> segments;
@@ -70,7 +69,7 @@ void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int wi
                 segments.push_back({line.from, line.to});
             }
         }
-        painter.draw(segments, {toClip, width, height, lineWidth}, isMinor ? minorColor : color);
+        canvas.drawLines(segments, {toClip, width, height, lineWidth}, isMinor ? minorColor : color);
     }
 }
 
@@ -177,10 +176,10 @@ void AxesPainter::layOutAxes2d(const Frame& frame, const PixelArea& enclosed, co
     }
 }
 
-void AxesPainter::drawBehind(const LinePainter& painter) const
+void AxesPainter::drawBehind(DecorationCanvas& canvas) const
 {
     drawLines(m_behind, toClip(), m_view.area.width, m_view.area.height, m_lineWidth, m_gridColor,
-              m_appearance.faintGrid(m_gridColor, c_minorPart), painter);
+              m_appearance.faintGrid(m_gridColor, c_minorPart), canvas);
 }
 
 void AxesPainter::drawOver(const LinePainter& painter) const
@@ -211,13 +210,13 @@ Matrixf AxesPainter::toClip() const
     return toClip.translate(-static_cast<float>(m_view.area.x), -static_cast<float>(m_view.area.y), 0.0f);
 }
 
-void AxesPainter::drawAround(const LinePainter& painter) const
+void AxesPainter::drawAround(DecorationCanvas& canvas) const
 {
     drawLines(m_around, pixelsToClip(m_width, m_height), m_width, m_height, m_lineWidth, m_labelColor, m_labelColor,
-              painter);
+              canvas);
 }
 
-void AxesPainter::drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const
+void AxesPainter::drawLabels(DecorationCanvas& canvas, const AxisFonts& fonts) const
 {
     for (const AxisLabel& label : m_labels) {
         FontSet& font = label.isTitle ? fonts.titles : fonts.ticks;
@@ -230,9 +229,9 @@ void AxesPainter::drawLabels(OverlayPainter& painter, const AxisFonts& fonts) co
         const TextColors colors = {m_labelColor,
                                    m_appearance.haloOf(m_labelColor, static_cast<double>(top) / m_height)};
         if (label.isVertical) {
-            painter.drawTextUpwards(text, font, left, top + height, colors);
+            canvas.drawTextUpwards(text, font, left, top + height, colors);
         } else {
-            painter.drawText(text, font, left, top, colors);
+            canvas.drawText(text, font, left, top, colors);
         }
     }
 }

@@ -12,8 +12,8 @@ namespace vxrenderer {
 
 struct Appearance;
 struct Frame;
+class DecorationCanvas;
 class LinePainter;
-class OverlayPainter;
 
 /// Fonts of a picture's axes.
 struct AxisFonts {
@@ -65,13 +65,13 @@ public:
                 const AxisFonts& fonts);
 
     /// What lies behind the data. The viewport is the area of the scene.
-    void drawBehind(const LinePainter& painter) const;
+    void drawBehind(DecorationCanvas& canvas) const;
     /// A trace of the grid over the faces of a flat view, which would hide it completely, where depths of them are
     /// nearer. It needs a copy of the scene. The viewport is the area of the scene.
     void drawOver(const LinePainter& painter) const;
     /// What lies around the data. The viewport is the whole picture.
-    void drawAround(const LinePainter& painter) const;
-    void drawLabels(OverlayPainter& painter, const AxisFonts& fonts) const;
+    void drawAround(DecorationCanvas& canvas) const;
+    void drawLabels(DecorationCanvas& canvas, const AxisFonts& fonts) const;
 
 private:
     vxgraphics3d::Matrixf toClip() const;

@@ -53,21 +53,20 @@ BarLegend::BarLegend(const PlotItem& item, const LegendStyle& style, float maxWi
         m_texts.headHeight(style, m_power.height) + (m_marks.isClippedAbove ? ColorBar::triangleSize(style) : 0.0f);
 }
 
-void BarLegend::draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left, float top,
-                     float headHeight) const
+void BarLegend::draw(DecorationCanvas& canvas, const LegendStyle& style, float left, float top, float headHeight) const
 {
     const float em = style.tickFonts.fontSize();
     left = std::round(left);
     const float barTop = std::round(top + headHeight);
     const float barBottom = std::round(top + m_height - m_texts.footHeight(style) -
                                        (m_marks.isClippedBelow ? ColorBar::triangleSize(style) : 0.0f));
-    m_texts.draw(painter, style, left, barTop - m_headHeight, top + m_height, m_power);
+    m_texts.draw(canvas, style, left, barTop - m_headHeight, top + m_height, m_power);
     if (barBottom - barTop < 3.0f * style.lineWidth) {
         return;
     }
     const float barLeft = left + (style.showMinMax ? ColorBar::pointerSize(style) : 0.0f);
     const float right = barLeft + ColorBar::thickness(style);
-    const ColorBar bar(painter, textures, m_item, style, {barLeft, barTop, right, barBottom});
+    const ColorBar bar(canvas, m_item, style, {barLeft, barTop, right, barBottom});
     bar.drawScale(m_scale, m_marks);
     for (const double position : m_marks.minorTicks) {
         bar.drawTick(position, std::round(c_minorLength * em));
@@ -79,8 +78,8 @@ void BarLegend::draw(OverlayPainter& painter, ColorTextures& textures, const Leg
     }
     for (std::size_t i = 0; i < m_labels.size(); ++i) {
         bar.drawTick(m_marks.ticks[i].position, std::round(c_tickLength * em));
-        painter.drawText(m_labels[i], style.tickFonts, right + (c_tickLength + c_labelGap) * em,
-                         bar.pixelOf(m_marks.ticks[i].position) - 0.5f * m_labels[i].height, style.textColors());
+        canvas.drawText(m_labels[i], style.tickFonts, right + (c_tickLength + c_labelGap) * em,
+                        bar.pixelOf(m_marks.ticks[i].position) - 0.5f * m_labels[i].height, style.textColors());
     }
 }
 

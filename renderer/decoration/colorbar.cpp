@@ -4,7 +4,6 @@
 #include "graphics3d/plots/scenegraphplot.h"
 #include "renderer/decoration/legendmarks.h"
 #include "renderer/decoration/legendscale.h"
-#include "renderer/upload/colortextures.h"
 
 #include <array>
 #include <cmath>
@@ -34,12 +33,11 @@ float ColorBar::thickness(const LegendStyle& style)
     return std::round(c_thickness * style.tickFonts.fontSize());
 }
 
-ColorBar::ColorBar(OverlayPainter& painter, ColorTextures& textures, const PlotItem& item, const LegendStyle& style,
-                   const PixelRect& rect)
-    : m_painter(painter), m_style(style), m_rect(rect)
+ColorBar::ColorBar(DecorationCanvas& canvas, const PlotItem& item, const LegendStyle& style, const PixelRect& rect)
+    : m_canvas(canvas), m_style(style), m_rect(rect)
 {
     if (const boost::shared_ptr<vxgraphics3d::ColorTable> table = item.plot->getColorTable()) {
-        textures.bind(item.group, item.plot->getColorTableTextureHandle(0), *table);
+        canvas.useColorTable(item.group, item.plot->getColorTableTextureHandle(0), table);
         m_hasTable = true;
     }
 }
@@ -72,15 +70,15 @@ void ColorBar::drawScale(const LegendScale& scale, const LegendMarks& marks) con
         if (m_style.isHorizontal) {
             rect.left = from > 0.0f ? lineAt(marks.shownFrom) : rect.left;
             rect.right = to < 1.0f ? lineAt(marks.shownTo) + line : rect.right;
-            m_painter.fillWithColorTableAcross(rect, first, last);
+            m_canvas.fillWithColorTableAcross(rect, first, last);
         } else {
             rect.bottom = from > 0.0f ? lineAt(marks.shownFrom) + line : rect.bottom;
             rect.top = to < 1.0f ? lineAt(marks.shownTo) : rect.top;
-            m_painter.fillWithColorTable(rect, first, last);
+            m_canvas.fillWithColorTable(rect, first, last);
         }
-        m_painter.strokeRect(rect, line, m_style.frameColor);
+        m_canvas.strokeRect(rect, line, m_style.frameColor);
     }
-    m_painter.strokeRect(m_rect, line, m_style.frameColor);
+    m_canvas.strokeRect(m_rect, line, m_style.frameColor);
     if (m_hasTable && marks.isClippedBelow) {
         drawTriangle(false, scale.lowerColor);
     }
@@ -109,8 +107,8 @@ void ColorBar::drawTriangle(bool isAtHighEnd, float color) const
         const float thick = thickness(m_style);
         return std::array{at(inset, asideInset), at(reach + line, 0.5f * thick), at(inset, thick - asideInset)};
     };
-    m_painter.fillPolygon(corners(0.0f), m_style.frameColor);
-    m_painter.fillPolygonWithColorTable(corners(line), color);
+    m_canvas.fillPolygon(corners(0.0f), m_style.frameColor);
+    m_canvas.fillPolygonWithColorTable(corners(line), color);
 }
 
 void ColorBar::drawStripes(const std::vector<float>& colors) const
@@ -127,18 +125,18 @@ void ColorBar::drawStripes(const std::vector<float>& colors) const
             rect.bottom = std::round(std::lerp(m_rect.bottom, m_rect.top, from));
             rect.top = std::round(std::lerp(m_rect.bottom, m_rect.top, to));
         }
-        m_painter.fillWithColorTable(rect, colors[i], colors[i]);
+        m_canvas.fillWithColorTable(rect, colors[i], colors[i]);
     }
-    m_painter.strokeRect(m_rect, m_style.lineWidth, m_style.frameColor);
+    m_canvas.strokeRect(m_rect, m_style.lineWidth, m_style.frameColor);
 }
 
 void ColorBar::drawTick(double position, float length) const
 {
     const float at = lineAt(position);
     if (m_style.isHorizontal) {
-        m_painter.fillRect({at, m_rect.bottom, at + m_style.lineWidth, m_rect.bottom + length}, m_style.frameColor);
+        m_canvas.fillRect({at, m_rect.bottom, at + m_style.lineWidth, m_rect.bottom + length}, m_style.frameColor);
     } else {
-        m_painter.fillRect({m_rect.right, at, m_rect.right + length, at + m_style.lineWidth}, m_style.frameColor);
+        m_canvas.fillRect({m_rect.right, at, m_rect.right + length, at + m_style.lineWidth}, m_style.frameColor);
     }
 }
 
@@ -148,12 +146,12 @@ void ColorBar::drawPointer(double position) const
     const float size = pointerSize(m_style);
     const float half = 0.5f * size;
     if (m_style.isHorizontal) {
-        m_painter.fillPolygon(
+        m_canvas.fillPolygon(
             std::array<PixelPoint, 3>{
                 {{at, m_rect.top}, {at - half, m_rect.top - size}, {at + half, m_rect.top - size}}},
             m_style.color);
     } else {
-        m_painter.fillPolygon(
+        m_canvas.fillPolygon(
             std::array<PixelPoint, 3>{
                 {{m_rect.left, at}, {m_rect.left - size, at - half}, {m_rect.left - size, at + half}}},
             m_style.color);

@@ -16,8 +16,7 @@ class ColorBar {
 public:
     /// Binds the colour table of a plot that has one.
     /// @param rect in whole pixels, without the triangles at clipped ends
-    ColorBar(OverlayPainter& painter, ColorTextures& textures, const PlotItem& item, const LegendStyle& style,
-             const PixelRect& rect);
+    ColorBar(DecorationCanvas& canvas, const PlotItem& item, const LegendStyle& style, const PixelRect& rect);
 
     /// The colours of a scale, with triangles at clipped ends. The part that a restriction hides stays empty.
     void drawScale(const LegendScale& scale, const LegendMarks& marks) const;
@@ -42,7 +41,7 @@ private:
     float lineAt(double position) const;
     void drawTriangle(bool isAtHighEnd, float color) const;
 
-    OverlayPainter& m_painter;
+    DecorationCanvas& m_canvas;
     const LegendStyle& m_style;
     PixelRect m_rect;
     bool m_hasTable = false;

@@ -1,15 +1,13 @@
 #pragma once
 
 #include "graphics3d/foundation/color.h"
-#include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/decorationcanvas.h"
 #include "renderer/plots/plotpainter.h"
 
 #include <memory>
 #include <optional>
 
 namespace vxrenderer {
-
-class ColorTextures;
 
 /// Fonts, colour and details of all legends of a picture.
 struct LegendStyle {
@@ -55,7 +53,7 @@ public:
     virtual float getHeadHeight() const = 0;
 
     /// @param style the one that it was laid out with
-    virtual void draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left, float top,
+    virtual void draw(DecorationCanvas& canvas, const LegendStyle& style, float left, float top,
                       float headHeight) const = 0;
 };
 

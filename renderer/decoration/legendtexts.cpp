@@ -6,7 +6,7 @@
 #include "renderer/axes/axislayout.h"
 #include "renderer/decoration/legend.h"
 #include "renderer/decoration/legendmarks.h"
-#include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/decorationcanvas.h"
 
 #include <algorithm>
 
@@ -79,13 +79,13 @@ float LegendTexts::footHeight(const LegendStyle& style) const
     return smallest.height > 0.0f ? smallest.height + c_headGap * em : c_footGap * em;
 }
 
-void LegendTexts::draw(OverlayPainter& painter, const LegendStyle& style, float left, float headTop, float footBottom,
+void LegendTexts::draw(DecorationCanvas& canvas, const LegendStyle& style, float left, float headTop, float footBottom,
                        const TextLayout& line) const
 {
-    painter.drawText(title, style.titleFonts, left, headTop, style.textColors());
-    painter.drawText(line, style.tickFonts, left, headTop + title.height, style.textColors());
-    painter.drawText(largest, style.tickFonts, left, headTop + title.height + line.height, style.textColors());
-    painter.drawText(smallest, style.tickFonts, left, footBottom - smallest.height, style.textColors());
+    canvas.drawText(title, style.titleFonts, left, headTop, style.textColors());
+    canvas.drawText(line, style.tickFonts, left, headTop + title.height, style.textColors());
+    canvas.drawText(largest, style.tickFonts, left, headTop + title.height + line.height, style.textColors());
+    canvas.drawText(smallest, style.tickFonts, left, footBottom - smallest.height, style.textColors());
 }
 
 } // namespace vxrenderer

@@ -10,7 +10,7 @@ class SceneGraphPlot;
 
 namespace vxrenderer {
 
-class OverlayPainter;
+class DecorationCanvas;
 struct LegendStyle;
 
 /// The title of a plot for its legend. Where the picture shows the title as well, it is the unit alone, if the title
@@ -36,7 +36,7 @@ struct LegendTexts {
 
     /// Draws them from the top of the head and the top of the foot.
     /// @param line a further line, between the title and the largest value
-    void draw(OverlayPainter& painter, const LegendStyle& style, float left, float headTop, float footBottom,
+    void draw(DecorationCanvas& canvas, const LegendStyle& style, float left, float headTop, float footBottom,
               const TextLayout& line) const;
 
     TextLayout title;

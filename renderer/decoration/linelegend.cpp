@@ -2,12 +2,12 @@
 
 #include "graphics3d/plots/graph/graphline.h"
 #include "graphics3d/plots/graph/scenegraphplotgraph.h"
+#include "renderer/paint/decorationcanvas.h"
 #include "renderer/paint/linedashes.h"
-#include "renderer/paint/overlaypainter.h"
-#include "renderer/paint/symbolpainter.h"
 #include "renderer/plots/graphsymbol.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -28,14 +28,14 @@ constexpr float c_columnGap = 1.2f;
 constexpr float c_leastTextWidth = 2.0f;
 
 /// A sample is drawn like its line, from whole pixel to whole pixel.
-void drawSample(OverlayPainter& painter, const LineLegendEntry& entry, float left, float middle, float length,
+void drawSample(DecorationCanvas& canvas, const LineLegendEntry& entry, float left, float middle, float length,
                 float scale)
 {
     const float width = std::max(std::round(entry.lineWidth * scale), 1.0f);
     const float top = std::round(middle - 0.5f * width);
     const LineStyle style = entry.legend.line->m_lineStyle;
     const auto fill = [&](float from, float to) {
-        painter.fillRect({std::round(left + from), top, std::round(left + to), top + width}, entry.legend.color);
+        canvas.fillRect({std::round(left + from), top, std::round(left + to), top + width}, entry.legend.color);
     };
     if (style == LineStyle::none || entry.lineWidth <= 0.0f) {
         return;
@@ -103,8 +103,8 @@ LineLegendBox::LineLegendBox(std::vector<LineLegendEntry> entries, const LineLeg
     }
 }
 
-void LineLegendBox::draw(OverlayPainter& painter, const SymbolPainter& symbols, const LegendStyle& style, int left,
-                         int top, int pictureWidth, int pictureHeight) const
+void LineLegendBox::draw(DecorationCanvas& canvas, const LegendStyle& style, int left, int top, int pictureWidth,
+                         int pictureHeight) const
 {
     const float em = style.tickFonts.fontSize();
     const auto boxLeft = static_cast<float>(left);
@@ -114,28 +114,28 @@ void LineLegendBox::draw(OverlayPainter& painter, const SymbolPainter& symbols, 
                                boxTop + static_cast<float>(m_height)};
         Color background = style.background;
         background.alpha = c_backgroundAlpha;
-        painter.fillRect(box, background);
-        painter.strokeRect(box, style.lineWidth, style.frameColor);
+        canvas.fillRect(box, background);
+        canvas.strokeRect(box, style.lineWidth, style.frameColor);
     }
     for (const Row& row : m_rows) {
         const float x = boxLeft + row.x;
         const float middle = boxTop + row.y + 0.5f * row.height;
-        drawSample(painter, row.entry, x, middle, c_sampleLength * em, style.scale);
+        drawSample(canvas, row.entry, x, middle, c_sampleLength * em, style.scale);
         const Color& color = row.entry.legend.color;
-        symbols.draw(Vector3f(x + 0.5f * c_sampleLength * em, middle, 0.0f),
-                     {.toClip = pixelsToClip(pictureWidth, pictureHeight),
-                      .width = pictureWidth,
-                      .height = pictureHeight,
-                      .symbol = row.entry.legend.line->m_marker,
-                      .size = symbolSize(row.entry.lineWidth) * style.scale,
-                      .color = channelsOf(color)});
+        canvas.drawSymbols(std::array{Vector3f(x + 0.5f * c_sampleLength * em, middle, 0.0f)},
+                           {.toClip = pixelsToClip(pictureWidth, pictureHeight),
+                            .width = pictureWidth,
+                            .height = pictureHeight,
+                            .symbol = row.entry.legend.line->m_marker,
+                            .size = symbolSize(row.entry.lineWidth) * style.scale,
+                            .color = channelsOf(color)});
         // Without a background, a rim keeps the text apart from the lines under it.
         TextColors colors = style.textColors();
         if (m_placement.isInside && !m_placement.hasFrame && !colors.halo) {
             colors.halo = style.background;
         }
-        painter.drawText(row.text, style.tickFonts, x + (c_sampleLength + c_textGap) * em,
-                         middle - 0.5f * row.text.height, colors);
+        canvas.drawText(row.text, style.tickFonts, x + (c_sampleLength + c_textGap) * em,
+                        middle - 0.5f * row.text.height, colors);
     }
 }
 

@@ -9,8 +9,6 @@
 
 namespace vxrenderer {
 
-class SymbolPainter;
-
 /// A line in the legend, with the width that its plot gives it.
 struct LineLegendEntry {
     vxgraphics3d::LineLegend legend;
@@ -45,8 +43,8 @@ public:
     int getHeight() const { return m_height; }
 
     /// Draws into a picture of a size.
-    void draw(OverlayPainter& painter, const SymbolPainter& symbols, const LegendStyle& style, int left, int top,
-              int pictureWidth, int pictureHeight) const;
+    void draw(DecorationCanvas& canvas, const LegendStyle& style, int left, int top, int pictureWidth,
+              int pictureHeight) const;
 
 private:
     struct Row {

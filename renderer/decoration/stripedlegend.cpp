@@ -69,20 +69,20 @@ StripedLegend::StripedLegend(const PlotItem& item, const LegendStyle& style, flo
     m_width = std::max(ColorBar::thickness(style) + c_labelGap * em + labelWidth, m_texts.width());
 }
 
-void StripedLegend::draw(OverlayPainter& painter, ColorTextures& textures, const LegendStyle& style, float left,
-                         float top, float headHeight) const
+void StripedLegend::draw(DecorationCanvas& canvas, const LegendStyle& style, float left, float top,
+                         float headHeight) const
 {
     const float em = style.tickFonts.fontSize();
     left = std::round(left);
     const float right = left + ColorBar::thickness(style);
     const float stripesTop = std::round(top + headHeight);
     const float bottom = std::round(stripesTop + m_stripeHeight * static_cast<float>(m_colors.size()));
-    m_texts.draw(painter, style, left, stripesTop - m_headHeight, bottom + m_texts.footHeight(style), {});
-    ColorBar(painter, textures, m_item, style, {left, stripesTop, right, bottom}).drawStripes(m_colors);
+    m_texts.draw(canvas, style, left, stripesTop - m_headHeight, bottom + m_texts.footHeight(style), {});
+    ColorBar(canvas, m_item, style, {left, stripesTop, right, bottom}).drawStripes(m_colors);
     for (std::size_t i = 0; i < m_labels.size(); ++i) {
         const float middle = bottom - m_stripeHeight * (static_cast<float>(i) + 0.5f);
-        painter.drawText(m_labels[i], style.tickFonts, right + c_labelGap * em, middle - 0.5f * m_labels[i].height,
-                         style.textColors());
+        canvas.drawText(m_labels[i], style.tickFonts, right + c_labelGap * em, middle - 0.5f * m_labels[i].height,
+                        style.textColors());
     }
 }
 

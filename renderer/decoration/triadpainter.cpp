@@ -91,10 +91,10 @@ void TriadPainter::drawAxes(const SolidPainter& painter, int width, int height) 
     painter.draw(m_triad.solids(m_colors), toClip);
 }
 
-void TriadPainter::drawLetters(OverlayPainter& painter) const
+void TriadPainter::drawLetters(DecorationCanvas& canvas) const
 {
     for (const Letter& letter : m_letters) {
-        painter.drawText(letter.text, m_fonts, letter.left, letter.top, m_letterColors);
+        canvas.drawText(letter.text, m_fonts, letter.left, letter.top, m_letterColors);
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include "graphics3d/foundation/color.h"
 #include "renderer/decoration/triad.h"
-#include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/decorationcanvas.h"
 
 #include <array>
 
@@ -19,7 +19,7 @@ public:
 
     /// Draws without a depth test; the viewport is the whole picture.
     void drawAxes(const SolidPainter& painter, int width, int height) const;
-    void drawLetters(OverlayPainter& painter) const;
+    void drawLetters(DecorationCanvas& canvas) const;
 
 private:
     struct Letter {

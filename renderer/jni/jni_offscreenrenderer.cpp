@@ -193,11 +193,11 @@ VX_NATIVE(jbyteArray, OffscreenRenderer, encodePng)(JNIEnv* env, jclass, jobject
 }
 
 VX_NATIVE(jbyteArray, OffscreenRenderer, encodeHardcopy)
-(JNIEnv* env, jclass, jobject self, jobject settings, jint width, jint height)
+(JNIEnv* env, jclass, jobject self, jobject settings, jint width, jint height, jint format)
 {
     return guarded(env, [&] {
-        return toJavaNew(
-            env, canvas(env, self).encodeHardcopy(peer<HardcopySettings>(env, settings, "settings"), width, height));
+        return toJavaNew(env, canvas(env, self).encodeHardcopy(peer<HardcopySettings>(env, settings, "settings"), width,
+                                                               height, static_cast<HardcopyFormat>(format)));
     });
 }
 

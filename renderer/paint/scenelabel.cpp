@@ -3,6 +3,7 @@
 #include "graphics3d/foundation/textutil.h"
 #include "renderer/frame/contrast.h"
 #include "renderer/frame/view.h"
+#include "renderer/gl/globject.h"
 #include "renderer/paint/overlaypainter.h"
 #include "renderer/paint/picturepoint.h"
 #include "renderer/text/titlemarkup.h"
@@ -148,6 +149,32 @@ void placeBeside(std::vector<ShownLabel>& labels, float fontSize)
     });
 }
 
+/// Samples of a rectangle that pass the depth test.
+GLuint countSamples(const PixelRect& rect, float depth, OverlayPainter& painter)
+{
+    const GlQuery query;
+    glBeginQuery(GL_SAMPLES_PASSED, query.name());
+    painter.fillRect(rect, {0, 0, 0, 0}, depth);
+    glEndQuery(GL_SAMPLES_PASSED);
+    GLuint count = 0;
+    glGetQueryObjectuiv(query.name(), GL_QUERY_RESULT, &count);
+    return count;
+}
+
+/// Whether nothing in front of a label covers any of it.
+bool isFree(const ShownLabel& shown, float rim, OverlayPainter& painter)
+{
+    if (!shown.label->isHideable) {
+        return true;
+    }
+    const PixelRect rect = {shown.left - rim, shown.top - rim, shown.left + shown.text.width + rim,
+                            shown.top + shown.text.height + rim};
+    glDisable(GL_DEPTH_TEST);
+    const GLuint all = countSamples(rect, shown.depth, painter);
+    glEnable(GL_DEPTH_TEST);
+    return countSamples(rect, shown.depth, painter) == all;
+}
+
 /// The colours of a text that is read on anything. Dark and strong colours have a white rim, for which they become a
 /// little darker if they have to: a black one would outweigh them.
 TextColors withRim(const Color& color)
@@ -168,7 +195,7 @@ TextColors withRim(const Color& color)
 } // namespace
 
 void drawLabels(std::span<const SceneLabel> labels, const View& view, int width, int height, FontSet& fonts,
-                OverlayPainter& painter)
+                OverlayPainter& painter, std::vector<PlacedLabel>* free)
 {
     std::vector<ShownLabel> shownLabels;
     for (const SceneLabel& label : labels) {
@@ -182,12 +209,17 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
     painter.begin(width, height);
     glDepthMask(GL_FALSE);
     for (const ShownLabel& shown : shownLabels) {
+        const TextColors colors = withRim(shown.label->color);
+        if (free != nullptr && isFree(shown, haloWidth(fonts.fontSize()), painter)) {
+            free->push_back({shown.text, shown.left, shown.top, colors});
+            continue;
+        }
         if (shown.label->isHideable) {
             glEnable(GL_DEPTH_TEST);
         } else {
             glDisable(GL_DEPTH_TEST);
         }
-        painter.drawText(shown.text, fonts, shown.left, shown.top, withRim(shown.label->color), shown.depth);
+        painter.drawText(shown.text, fonts, shown.left, shown.top, colors, shown.depth);
     }
     glDisable(GL_DEPTH_TEST);
     glDepthMask(GL_TRUE);

@@ -3,13 +3,13 @@
 #include "base/ustring.h"
 #include "graphics3d/foundation/color.h"
 #include "graphics3d/foundation/vector3f.h"
+#include "renderer/paint/overlaypainter.h"
 
 #include <span>
+#include <vector>
 
 namespace vxrenderer {
 
-class FontSet;
-class OverlayPainter;
 struct View;
 
 /// A text at a point of the scene, which keeps its size and faces the eye. It has a rim in black or white, so
@@ -27,11 +27,21 @@ struct SceneLabel {
     bool isBeside = false;
 };
 
+/// A label at its position in the picture.
+struct PlacedLabel {
+    TextLayout text;
+    /// The top left corner of the text.
+    float left;
+    float top;
+    TextColors colors;
+};
+
 /// Draws labels into the scene buffer, whose depths they are compared with, each as a whole: what a text lies on does
 /// not cut into it. Labels whose point is not in view are left out. Those next to their points are placed in turn, the
 /// nearest to the eye first. The viewport is the whole picture.
 /// @param width,height of the picture
+/// @param free receives the labels that nothing in front of them covers, which are not drawn then; null to draw all
 void drawLabels(std::span<const SceneLabel> labels, const View& view, int width, int height, FontSet& fonts,
-                OverlayPainter& painter);
+                OverlayPainter& painter, std::vector<PlacedLabel>* free);
 
 } // namespace vxrenderer

@@ -160,16 +160,13 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
 }
 
 void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes,
-                              const Target& target)
+                              const Target& target, std::vector<PlacedLabel>* free)
 {
-    const PixelArea& area = m_view.area;
-    const int bottom = layout.height - area.y - area.height;
-    glViewport(area.x, bottom, area.width, area.height);
-    glScissor(area.x, bottom, area.width, area.height);
-    glEnable(GL_SCISSOR_TEST);
-    if (axes != nullptr) {
+    PictureCanvas canvas = pictureCanvas(layout);
+    canvas.enterArea(m_view.area);
+    if (axes != nullptr && free == nullptr) {
         setBlending(true);
-        axes->drawBehind(m_lines);
+        axes->drawBehind(canvas);
         setBlending(false);
     }
     std::vector<SceneIcon> icons;
@@ -183,10 +180,9 @@ void SceneRenderer::drawScene(const Frame& frame, const FrameLayout& layout, con
         drawCutFrame(m_view, layout.width, layout.height, frame.appearance.scale,
                      frame.canvas.getGridBoxSettingsPtr()->getGridColor(), m_lines);
     }
-    glDisable(GL_SCISSOR_TEST);
-    glViewport(0, 0, layout.width, layout.height);
+    canvas.leaveArea();
     drawIcons(std::move(icons), m_view, layout.width, layout.height, frame.appearance.scale, m_images, m_overlay);
-    drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay);
+    drawLabels(labels, m_view, layout.width, layout.height, layout.labelFonts, m_overlay, free);
 }
 
 void SceneRenderer::beginMeshes(const Frame& frame, const View& view, bool hasOcclusion)
@@ -406,43 +402,39 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
     }
 }
 
-void SceneRenderer::drawOverlays(const Frame& frame, const FrameLayout& layout)
+void SceneRenderer::drawOverlays(const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free)
 {
     if (frame.overlay != nullptr && !m_view.area.isEmpty()) {
-        drawOverlay(*frame.overlay, frame.framedBox != nullptr ? *frame.framedBox : layout.box, m_view, frame, layout);
+        drawOverlay(*frame.overlay, frame.framedBox != nullptr ? *frame.framedBox : layout.box, m_view, frame, layout,
+                    free);
     }
     if (frame.screenOverlay != nullptr) {
         View pixels;
         pixels.area = {0, 0, layout.width, layout.height};
         pixels.projection = pixelsToClip(layout.width, layout.height);
         pixels.isFlat = true;
-        drawOverlay(*frame.screenOverlay, {}, pixels, frame, layout);
+        drawOverlay(*frame.screenOverlay, {}, pixels, frame, layout, free);
     }
 }
 
 void SceneRenderer::drawOverlay(const Overlay& overlay, const BoundingBox& framedBox, const View& view,
-                                const Frame& frame, const FrameLayout& layout)
+                                const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free)
 {
-    const PixelArea& area = view.area;
-    const int bottom = layout.height - area.y - area.height;
-    glViewport(area.x, bottom, area.width, area.height);
-    glScissor(area.x, bottom, area.width, area.height);
-    glEnable(GL_SCISSOR_TEST);
+    PictureCanvas canvas = pictureCanvas(layout);
+    canvas.enterArea(view.area);
     setBlending(true);
     std::vector<SceneLabel> labels;
     m_shapes.draw(overlay, {view, framedBox, frame.appearance, m_lines, m_symbols, labels});
     setBlending(false);
-    glDisable(GL_SCISSOR_TEST);
-    glViewport(0, 0, layout.width, layout.height);
-    drawLabels(labels, view, layout.width, layout.height, layout.labelFonts, m_overlay);
+    canvas.leaveArea();
+    drawLabels(labels, view, layout.width, layout.height, layout.labelFonts, m_overlay, free);
     setBlending(false);
 }
 
-void SceneRenderer::drawDecoration(const FrameLayout& layout)
+void SceneRenderer::drawDecoration(const FrameLayout& layout, const Surroundings& around, DecorationCanvas& canvas)
 {
-    m_overlay.begin(layout.width, layout.height);
-    m_overlay.drawText(layout.title, layout.titleFonts, layout.titleLeft, layout.titleTop,
-                       layout.legendStyle.textColors());
+    canvas.drawText(layout.title, layout.titleFonts, layout.titleLeft, layout.titleTop,
+                    layout.legendStyle.textColors());
 
     float headHeight = 0.0f;
     for (const auto& legend : layout.legends) {
@@ -450,12 +442,18 @@ void SceneRenderer::drawDecoration(const FrameLayout& layout)
     }
     float left = layout.legendLeft;
     for (const auto& legend : layout.legends) {
-        legend->draw(m_overlay, m_colorTextures, layout.legendStyle, left, layout.legendTop, headHeight);
+        legend->draw(canvas, layout.legendStyle, left, layout.legendTop, headHeight);
         left += legend->getWidth() + layout.legendGap;
     }
     if (layout.lineLegend && !layout.area.whole.isEmpty()) {
-        layout.lineLegend->draw(m_overlay, m_symbols, layout.legendStyle, layout.lineLegendLeft, layout.lineLegendTop,
-                                layout.width, layout.height);
+        layout.lineLegend->draw(canvas, layout.legendStyle, layout.lineLegendLeft, layout.lineLegendTop, layout.width,
+                                layout.height);
+    }
+    if (around.axes) {
+        around.axes->drawLabels(canvas, layout.axisFonts);
+    }
+    if (around.triad) {
+        around.triad->drawLetters(canvas);
     }
 }
 
@@ -470,41 +468,49 @@ void SceneRenderer::dropUnused()
     }
 }
 
-void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Target& target)
+SceneRenderer::Surroundings SceneRenderer::layOutSurroundings(const Frame& frame, const FrameLayout& layout)
 {
-    target.beginScene();
+    Surroundings around;
     m_view = View();
-    m_background.draw(frame.appearance.backdrop, layout.width, layout.height, frame.appearance.scale);
-    std::optional<AxesPainter> axes;
-    std::optional<TriadPainter> triad;
     if (!layout.area.whole.isEmpty()) {
         m_view = View::of(frame.camera, layout.area.whole, frame.isFlat());
         if (frame.appearance.showAxes) {
-            axes.emplace(frame, BoxedScene{layout.box, layout.heightUnits, layout.area.frame}, m_view, layout.width,
-                         layout.height, layout.axisFonts);
+            around.axes.emplace(frame, BoxedScene{layout.box, layout.heightUnits, layout.area.frame}, m_view,
+                                layout.width, layout.height, layout.axisFonts);
         }
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
-            triad.emplace(frame, m_view, layout.height, layout.orientationFonts);
+            around.triad.emplace(frame, m_view, layout.height, layout.orientationFonts);
         }
-        drawScene(frame, layout, axes ? &*axes : nullptr, target);
+    }
+    return around;
+}
+
+PictureCanvas SceneRenderer::pictureCanvas(const FrameLayout& layout)
+{
+    return {m_overlay, m_lines, m_symbols, m_colorTextures, layout.width, layout.height};
+}
+
+void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Target& target)
+{
+    target.beginScene();
+    m_background.draw(frame.appearance.backdrop, layout.width, layout.height, frame.appearance.scale);
+    const Surroundings around = layOutSurroundings(frame, layout);
+    PictureCanvas canvas = pictureCanvas(layout);
+    if (!layout.area.whole.isEmpty()) {
+        drawScene(frame, layout, around.axes ? &*around.axes : nullptr, target, nullptr);
     }
     setBlending(true);
-    if (axes) {
-        axes->drawAround(m_lines);
+    if (around.axes) {
+        around.axes->drawAround(canvas);
     }
-    if (triad) {
-        triad->drawAxes(m_solids, layout.width, layout.height);
+    if (around.triad) {
+        around.triad->drawAxes(m_solids, layout.width, layout.height);
     }
     setBlending(false);
-    drawOverlays(frame, layout);
+    drawOverlays(frame, layout, nullptr);
     target.beginOverlay();
-    drawDecoration(layout);
-    if (axes) {
-        axes->drawLabels(m_overlay, layout.axisFonts);
-    }
-    if (triad) {
-        triad->drawLetters(m_overlay);
-    }
+    m_overlay.begin(layout.width, layout.height);
+    drawDecoration(layout, around, canvas);
     dropUnused();
 }
 

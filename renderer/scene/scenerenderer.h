@@ -1,6 +1,8 @@
 #pragma once
 
 #include "graphics3d/foundation/lastchangeid.h"
+#include "renderer/decoration/axespainter.h"
+#include "renderer/decoration/triadpainter.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/view.h"
 #include "renderer/gl/scenecopy.h"
@@ -11,6 +13,7 @@
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/picturecanvas.h"
 #include "renderer/paint/silhouettepainter.h"
 #include "renderer/paint/solidpainter.h"
 #include "renderer/paint/symbolpainter.h"
@@ -25,8 +28,10 @@
 
 #include <boost/weak_ptr.hpp>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -38,8 +43,10 @@ namespace vxrenderer {
 
 struct PaintContext;
 struct SceneIcon;
+struct PlacedLabel;
 struct SceneLabel;
 class Target;
+class VectorCanvas;
 
 /// Draws a scene, with its title, legends and axes, into a target.
 ///
@@ -58,6 +65,11 @@ public:
     /// @param layout of this frame, for the size of the target
     void draw(const Frame& frame, const FrameLayout& layout, const Target& target);
 
+    /// Draws a frame with its texts and lines as vectors. What the scene shows of surfaces and bodies is drawn into the
+    /// target and becomes a picture in it.
+    /// @param target of the size of the layout; its contents are lost
+    void drawVectors(const Frame& frame, const FrameLayout& layout, const Target& target, VectorCanvas& canvas);
+
     /// Removes from the results of a pick the parts and objects that the picture drawn last into a target does not
     /// show, see `findShown`. The scene must not have been changed since.
     /// @param view of that picture
@@ -70,7 +82,25 @@ public:
 
 private:
     void updateTitle(const vxgraphics3d::Scene& scene);
-    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes, const Target& target);
+    /// What is drawn around the data of a frame.
+    struct Surroundings {
+        std::optional<AxesPainter> axes;
+        std::optional<TriadPainter> triad;
+    };
+
+    /// Takes the view of a frame.
+    Surroundings layOutSurroundings(const Frame& frame, const FrameLayout& layout);
+    PictureCanvas pictureCanvas(const FrameLayout& layout);
+    /// @param free null for a whole picture. Otherwise what lies behind the scene is left out, and labels that may be
+    /// drawn over it are added to these
+    void drawScene(const Frame& frame, const FrameLayout& layout, const AxesPainter* axes, const Target& target,
+                   std::vector<PlacedLabel>* free);
+    /// Draws what vectors cannot show into a target, over a colour.
+    /// @param labels receives what may be drawn over it
+    std::vector<std::uint8_t> drawPicture(const Frame& frame, const FrameLayout& layout, const Target& target,
+                                          const vxgraphics3d::Color& background, const Surroundings& around,
+                                          std::vector<PlacedLabel>& labels);
+    void drawBackdrop(const Frame& frame, const FrameLayout& layout, const Target& target, VectorCanvas& canvas);
     /// @param icons,labels receive those that are to be drawn over the scene
     void drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
                   const std::function<void()>& trace, std::vector<SceneIcon>& icons, std::vector<SceneLabel>& labels);
@@ -96,10 +126,11 @@ private:
     /// Where the colours of faces, lines and symbols go from now on.
     void setOutput(FragmentOutput output);
     void drawLightMarkers(const Frame& frame);
-    void drawOverlays(const Frame& frame, const FrameLayout& layout);
+    /// @param free see `drawLabels`
+    void drawOverlays(const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free);
     void drawOverlay(const vxgraphics3d::Overlay& overlay, const vxgraphics3d::BoundingBox& framedBox, const View& view,
-                     const Frame& frame, const FrameLayout& layout);
-    void drawDecoration(const FrameLayout& layout);
+                     const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free);
+    void drawDecoration(const FrameLayout& layout, const Surroundings& around, DecorationCanvas& canvas);
     void dropUnused();
 
     UploadCounts m_counts;

@@ -31,6 +31,7 @@ public:
     /// What the face stores for this pair.
     float kerning(char32_t left, char32_t right);
 
+    int getPixelSize() const { return m_pixelSize; }
     float getAscent() const { return m_ascent; }
     float getDescent() const { return m_descent; }
     const GlyphAtlas& getAtlas() const { return m_atlas; }

@@ -46,11 +46,11 @@ FontSet::Found FontSet::find(char32_t character, const TextStyle& style)
         for (const FontFace& face : faces) {
             Font& font = this->font(face, style.scriptLevel);
             if (const Font::Glyph* glyph = font.glyph(wanted)) {
-                return {&font, glyph};
+                return {&font, glyph, face, wanted};
             }
         }
     }
-    return {&fontOf(style), &c_nothing};
+    return {&fontOf(style), &c_nothing, faces.front(), character};
 }
 
 float FontSet::fontSize() const

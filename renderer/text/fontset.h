@@ -25,6 +25,9 @@ public:
     struct Found {
         Font* font;
         const Font::Glyph* glyph;
+        /// The face of the font, and the character that is shown.
+        FontFace face;
+        char32_t character;
     };
 
     /// @param name see `FontLibrary::choose`

@@ -55,6 +55,7 @@ import com.vexane.gallery.pictures.TerrainFlat;
 import com.vexane.gallery.pictures.TerrainRaised;
 import com.vexane.gallery.pictures.Tubes;
 import com.vexane.gallery.pictures.TubesFlat;
+import com.vexane.gallery.pictures.VectorFigure;
 import com.vexane.gallery.pictures.Vortex;
 import com.vexane.gallery.pictures.WindArrows;
 import com.vexane.gallery.pictures.WindRibbons;
@@ -131,7 +132,8 @@ public final class Gallery {
             new DrawnCurves(),
             new EditedGeometry(),
             new ArcTessellation(),
-            new Hardcopy());
+            new Hardcopy(),
+            new VectorFigure());
 
     /** Pixels of most pictures. */
     static final int WIDTH = 1600;

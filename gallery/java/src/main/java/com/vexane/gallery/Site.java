@@ -172,7 +172,20 @@ final class Site {
         String caption = Html.prose(example.caption(shot));
         return "<figure><a href=\"" + file + "\"><img loading=\"lazy\" width=\"" + width + "\" height=\""
                 + image.getHeight() * width / image.getWidth() + "\" alt=\"" + Html.escaped(example.about().title())
-                + "\" src=\"" + file + "\"></a>\n<figcaption>" + caption + "</figcaption></figure>\n";
+                + "\" src=\"" + file + "\"></a>\n<figcaption>" + caption + "</figcaption></figure>\n" + documents(shot);
+    }
+
+    private static String documents(Studio.Shot shot) {
+        StringBuilder html = new StringBuilder();
+        for (Path document : shot.documents()) {
+            String file = Html.escaped(document.getFileName().toString());
+            String image = file.endsWith(".svg")
+                    ? "<img loading=\"lazy\" width=\"" + PICTURE_WIDTH + "\" alt=\"\" src=\"" + file + "\">"
+                    : "";
+            html.append("<figure><a href=\"").append(file).append("\">").append(image).append("</a>\n<figcaption>")
+                    .append("The same as vectors: ").append(link(file, file)).append("</figcaption></figure>\n");
+        }
+        return html.toString();
     }
 
     private static void item(StringBuilder html, String title, List<String> links) {

@@ -62,8 +62,9 @@ public final class Studio implements AutoCloseable {
      * @param file its path
      * @param caption what one sees and what the code shows; may be empty
      * @param line the line of the program that saved it
+     * @param documents what it shows in other formats
      */
-    public record Shot(Path file, String caption, int line) {}
+    public record Shot(Path file, String caption, int line, List<Path> documents) {}
 
     Studio(Path root, Path output, Class<? extends Picture> picture, int width, int height) {
         this.root = root;
@@ -373,7 +374,21 @@ public final class Studio implements AutoCloseable {
     public Path file(String caption) {
         String number = shots.isEmpty() ? "" : "-" + (shots.size() + 1);
         Path file = output.resolve(Example.fileName(program.getSimpleName()) + number + ".png");
-        shots.add(new Shot(file, caption, currentLine()));
+        shots.add(new Shot(file, caption, currentLine(), new ArrayList<>()));
+        return file;
+    }
+
+    /**
+     * A file beside the last picture, which shows the same in another format. The page links to it, and shows it if it is
+     * an SVG file.
+     *
+     * @param suffix the suffix of its name
+     * @return the file to write
+     */
+    public Path document(String suffix) {
+        Shot shot = shots.get(shots.size() - 1);
+        Path file = shot.file().resolveSibling(shot.file().getFileName().toString().replace(".png", suffix));
+        shot.documents().add(file);
         return file;
     }
 

@@ -162,7 +162,7 @@ class SiteTest {
         Files.createDirectories(picture.getParent());
         ImageIO.write(new BufferedImage(8, 20, BufferedImage.TYPE_INT_RGB), "png", picture.toFile());
         Site site = new Site(root, picture.getParent(), List.of(new Example(Titled.class.getAnnotation(About.class), "Two",
-                program, List.of(new Studio.Shot(picture, "", 20)))));
+                program, List.of(new Studio.Shot(picture, "", 20, List.of())))));
 
         site.write();
         String html = Files.readString(root.resolve("out/site/two.html"));

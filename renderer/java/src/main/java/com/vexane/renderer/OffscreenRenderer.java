@@ -15,6 +15,8 @@ import java.io.IOException;
 import java.nio.ByteBuffer;
 import java.nio.file.Files;
 import java.nio.file.Path;
+import java.util.List;
+import java.util.Locale;
 import java.util.Objects;
 
 /**
@@ -68,6 +70,9 @@ public final class OffscreenRenderer extends NativePeer {
     public static final int RENDER_OBJECTS = 0x80;
 
     private static final int BYTES_PER_PIXEL = 4;
+
+    /** Of the formats of exports, in the order of their numbers. */
+    private static final List<String> SUFFIXES = List.of(".png", ".pdf", ".svg");
 
     /** The image that callers see: memory of the virtual machine, so that it outlives the renderer. */
     private ByteBuffer image;
@@ -318,8 +323,8 @@ public final class OffscreenRenderer extends NativePeer {
     /**
      * Draws a draft of the scene as it is now, for a picture that the next one replaces at once, as while the user
      * drags the scene: with one sample per pixel, in a third of the time where there is no graphics hardware. Edges are
-     * jagged, and what is translucent is mixed by weights instead of in its order. Everything is at the same position as in
-     * the full picture, which {@link #draw()} gives when the drag is over.
+     * jagged, what is translucent is mixed by weights instead of in its order, and studio light has no shade in corners.
+     * Everything is at the same position as in the full picture, which {@link #draw()} gives when the drag is over.
      *
      * @throws com.vexane.base.NativeException if the driver reports a fault
      */
@@ -347,7 +352,8 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Writes the last picture drawn to a PNG file with 8 bits per channel, without alpha.
+     * Writes the last picture drawn to a PNG file with 8 bits per channel, without alpha. The file says that its colours
+     * are sRGB, and has the resolution of the screen.
      *
      * @param file the file, which is replaced
      * @throws NullPointerException if the file is null
@@ -360,8 +366,14 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Draws the view at another size and writes it to a PNG file, with the resolution, decorations, background and font
-     * sizes of the settings and with their texts in the file. The view itself does not change.
+     * Draws the view at another size and writes it to a file, with the resolution, decorations, background and font sizes
+     * of the settings and with their texts in the file. The view itself does not change.
+     *
+     * <p>The suffix of the file, in any case, gives its format: {@code .png} for an image, {@code .pdf} or {@code .svg}
+     * for a page of that many pixels at the resolution of the settings, which is as sharp at any size: its texts, in PDF
+     * files as text in embedded fonts, and the lines of axes, legends, grids and of flat views with graphs alone are
+     * vectors. The rest of the scene is a picture in the page, in the resolution of the settings. Two exports of the same
+     * view are equal byte for byte.
      *
      * @param file the file, which is replaced
      * @param settings the settings of the export
@@ -369,7 +381,7 @@ public final class OffscreenRenderer extends NativePeer {
      * @param height rows, at least 1
      * @throws NullPointerException if file or settings are null
      * @throws IllegalStateException if the settings are closed
-     * @throws IllegalArgumentException if a number is below 1
+     * @throws IllegalArgumentException if a number is below 1, or the name of the file has another suffix
      * @throws IOException if the file cannot be written
      * @throws com.vexane.base.NativeException if the driver does not allow the size or reports a fault
      */
@@ -378,7 +390,19 @@ public final class OffscreenRenderer extends NativePeer {
         requireOpen(settings, "settings");
         requirePositive(width, "width");
         requirePositive(height, "height");
-        Files.write(file, encodeHardcopy(this, settings, width, height));
+        int format = formatOf(file);
+        Files.write(file, encodeHardcopy(this, settings, width, height, format));
+    }
+
+    private static int formatOf(Path file) {
+        String name = String.valueOf(file.getFileName()).toLowerCase(Locale.ROOT);
+        for (int i = 0; i < SUFFIXES.size(); ++i) {
+            if (name.endsWith(SUFFIXES.get(i))) {
+                return i;
+            }
+        }
+        throw new IllegalArgumentException(
+                "file: " + file + " ends with none of " + String.join(", ", SUFFIXES));
     }
 
     /**
@@ -510,7 +534,7 @@ public final class OffscreenRenderer extends NativePeer {
     private static native byte[] encodePng(OffscreenRenderer peer);
 
     private static native byte[] encodeHardcopy(
-            OffscreenRenderer peer, HardcopySettings settings, int width, int height);
+            OffscreenRenderer peer, HardcopySettings settings, int width, int height, int format);
 
     private static native void connectInfo(RendererInfo info);
 

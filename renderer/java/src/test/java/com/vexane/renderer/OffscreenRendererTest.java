@@ -125,6 +125,34 @@ class OffscreenRendererTest {
     }
 
     @Test
+    void theSuffixOfAFileChoosesItsFormat() throws IOException {
+        try (OffscreenRenderer renderer = OffscreenRenderer.create(40, 40, 1);
+                HardcopySettings settings = new HardcopySettings()) {
+            settings.setDpi(36);
+            settings.setFileTitle("Title of it");
+            Map<String, String> starts = Map.of("a.png", "\u0089PNG", "a.Pdf", "%PDF-1.", "a.b.svg", "<?xml");
+            for (Map.Entry<String, String> start : starts.entrySet()) {
+                Path file = folder.resolve(start.getKey());
+                renderer.writeHardcopy(file, settings, 30, 20);
+                String content = Files.readString(file, StandardCharsets.ISO_8859_1);
+                assertTrue(content.startsWith(start.getValue()), start.getKey());
+            }
+            // Points of 30 by 20 pixels at half their resolution.
+            String svg = Files.readString(folder.resolve("a.b.svg"));
+            assertTrue(svg.contains("width=\"60pt\" height=\"40pt\""), svg);
+            assertTrue(svg.contains("<title>Title of it</title>"), svg);
+            for (String name : List.of("a.jpg", "png", "svg.", ".pdf.txt")) {
+                Path file = folder.resolve(name);
+                String message = assertThrows(
+                                IllegalArgumentException.class, () -> renderer.writeHardcopy(file, settings, 30, 20))
+                        .getMessage();
+                assertTrue(message.contains(name) && message.endsWith(".png, .pdf, .svg"), message);
+                assertFalse(Files.exists(file));
+            }
+        }
+    }
+
+    @Test
     void hardcopiesHaveTheirOwnSizeResolutionBackgroundAndTexts() throws IOException {
         Path file = folder.resolve("picture.png");
         try (OffscreenRenderer renderer = OffscreenRenderer.create(40, 40, 1);
