@@ -77,19 +77,22 @@ void drawLines(const std::vector<AxisLine>& lines, const Matrixf& toClip, int wi
 float widthOfLines(const Frame& frame)
 {
     const float width = c_lineWidth * frame.appearance.scale;
-    return frame.isFlat() ? std::max(std::round(width), 1.0f) : width;
+    const auto pixel = static_cast<float>(frame.appearance.pixel);
+    return frame.isFlat() ? std::max(std::round(width / pixel), 1.0f) * pixel : width;
 }
 
 /// Moves a line along a side of the picture onto whole pixels, over two of which it would be spread in half its colour:
 /// one of odd width to the middles of pixels, one of even width to their borders. Pieces of circles stay together.
-void snapToPixels(AxisLine& line, float lineWidth)
+/// @param pixel side of a pixel of the finished picture
+void snapToPixels(AxisLine& line, float lineWidth, float pixel)
 {
     if (line.isArc || (line.from.x != line.to.x && line.from.y != line.to.y)) {
         return;
     }
-    const bool isOdd = std::max(std::lround(lineWidth), 1L) % 2 != 0;
+    const bool isOdd = std::max(std::lround(lineWidth / pixel), 1L) % 2 != 0;
     for (float* coordinate : {&line.from.x, &line.from.y, &line.to.x, &line.to.y}) {
-        *coordinate = isOdd ? std::floor(*coordinate) + 0.5f : std::round(*coordinate);
+        const float place = *coordinate / pixel;
+        *coordinate = pixel * (isOdd ? std::floor(place) + 0.5f : std::round(place));
     }
 }
 
@@ -168,7 +171,7 @@ void AxesPainter::layOutAxes2d(const Frame& frame, const PixelArea& enclosed, co
     m_labels = std::move(layout.labels);
     for (std::vector<AxisLine>* lines : {&m_behind, &m_around}) {
         for (AxisLine& line : *lines) {
-            snapToPixels(line, m_lineWidth);
+            snapToPixels(line, m_lineWidth, static_cast<float>(m_appearance.pixel));
         }
     }
 }

@@ -17,6 +17,7 @@ namespace vxrenderer {
 namespace {
 
 using vxgraphics3d::AxisOrientationIndicator;
+using vxgraphics3d::Color;
 
 /// From the border of the scene to the longest axis, and what is free around letters, in units of their size.
 constexpr float c_border = 1.5f;
@@ -30,6 +31,17 @@ constexpr float c_headRadius = 2.3f;
 /// Of the arrows to the background; their shading needs some of it.
 constexpr double c_contrast = 3.0;
 
+/// A colour, moved towards black or white as far as it has to be for its contrast to what is behind it.
+Color distinctFrom(const Color& behind, const Color& color)
+{
+    constexpr int c_steps = 20;
+    Color distinct = color;
+    for (int step = 1; step <= c_steps && contrastOf(distinct, behind) < c_contrast; ++step) {
+        distinct = mixed(color, contrastingWith(behind), static_cast<double>(step) / c_steps);
+    }
+    return distinct;
+}
+
 Triad::Sizes sizesOf(const Frame& frame, const AxisOrientationIndicator& indicator)
 {
     const float length = frame.appearance.millimetres(indicator.getAxisLength());
@@ -39,7 +51,7 @@ Triad::Sizes sizesOf(const Frame& frame, const AxisOrientationIndicator& indicat
 
 } // namespace
 
-TriadPainter::TriadPainter(const Frame& frame, const View& view, FontSet& letters)
+TriadPainter::TriadPainter(const Frame& frame, const View& view, int pictureHeight, FontSet& letters)
     : m_fonts(letters),
       m_letterColors(frame.appearance.textColor(), contrastingWith(frame.appearance.textColor())),
       m_triad(frame.camera, sizesOf(frame, *frame.canvas.getAxisOrientationIndicatorPtr()))
@@ -49,8 +61,9 @@ TriadPainter::TriadPainter(const Frame& frame, const View& view, FontSet& letter
     const float reach = m_triad.sizes.length + c_border * letterSize;
     m_originX = static_cast<float>(view.area.x) + reach;
     m_originY = static_cast<float>(view.area.y + view.area.height) - reach;
-    const float height = static_cast<float>(view.area.y + view.area.height);
-    m_letterColors.halo = frame.appearance.haloOf(m_letterColors.text, static_cast<double>(m_originY / height));
+    const double part = static_cast<double>(m_originY / static_cast<float>(pictureHeight));
+    const Color behind = frame.appearance.backgroundAt(part);
+    m_letterColors.halo = frame.appearance.haloOf(m_letterColors.text, part);
 
     std::array<Triad::Letter, 3> sizes{};
     std::array<PixelRect, 3> inks{};
@@ -58,7 +71,7 @@ TriadPainter::TriadPainter(const Frame& frame, const View& view, FontSet& letter
     const float around = 2.0f * (haloWidth(letterSize) + 1.0f);
     for (std::size_t i = 0; i < m_colors.size(); ++i) {
         const auto axis = static_cast<AxisOrientationIndicator::Axis>(i);
-        m_colors[i] = frame.appearance.visible(indicator.getColor(axis), c_contrast);
+        m_colors[i] = distinctFrom(behind, indicator.getColor(axis));
         m_letters[i].text = layoutTitle(parseTitle(vxbase::UString(plainText(indicator.getLabel(axis)))), letters,
                                         {AxisLabel::c_noLimit, AxisLabel::c_noLimit});
         inks[i] = inkOf(m_letters[i].text, letters);

@@ -15,7 +15,7 @@ struct View;
 class TriadPainter {
 public:
     /// @param letters the fonts of its letters
-    TriadPainter(const Frame& frame, const View& view, FontSet& letters);
+    TriadPainter(const Frame& frame, const View& view, int pictureHeight, FontSet& letters);
 
     /// Draws without a depth test; the viewport is the whole picture.
     void drawAxes(const SolidPainter& painter, int width, int height) const;

@@ -140,6 +140,7 @@ void Appearance::enlarge(int factor)
 {
     pixelsPerInch *= static_cast<float>(factor);
     scale *= static_cast<float>(factor);
+    pixel *= factor;
     for (Font& font : fonts) {
         font.size *= factor;
     }

@@ -102,6 +102,9 @@ struct Appearance {
     /// Whether texts need a halo even on the background, because it has an image or is too varied for one colour.
     bool isBackdropUneven() const;
 
+    /// Side of a pixel of the finished picture, in pixels: more than 1 for one that is drawn enlarged. Straight lines
+    /// begin and end at its multiples.
+    int pixel = 1;
     /// Enlarges the picture, with everything in it, by a whole factor.
     void enlarge(int factor);
 

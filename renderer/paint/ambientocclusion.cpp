@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 
@@ -12,6 +12,8 @@ namespace {
 /// The radius in the picture is at most this part of its smaller side, so that the pixels that are looked at stay close
 /// enough to each other.
 constexpr float c_widestRadius = 0.12f;
+/// Each takes 32 bytes; larger pictures have fewer for each pixel.
+constexpr std::int64_t c_mostTexels = 2000000;
 
 constexpr const char* c_vertexMain = R"(
 void main()
@@ -223,7 +225,12 @@ void AmbientOcclusion::resize(int width, int height)
 
 View AmbientOcclusion::beginShapes(const View& view)
 {
-    resize((view.area.width + 1) / 2, (view.area.height + 1) / 2);
+    int step = 2;
+    const auto texels = [&step](int pixels) { return (pixels + step - 1) / step; };
+    while (std::int64_t(texels(view.area.width)) * texels(view.area.height) > c_mostTexels) {
+        ++step;
+    }
+    resize(texels(view.area.width), texels(view.area.height));
     m_view = view;
     m_view.area = {0, 0, m_width, m_height};
     glBindFramebuffer(GL_FRAMEBUFFER, m_normals.buffer.name());

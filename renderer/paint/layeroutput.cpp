@@ -9,6 +9,9 @@ namespace {
 // layer, if it belongs to them. Depths count towards the eye, so that the nearest is the largest, and 0 is none.
 constexpr const char* c_layersMain = R"(
 #undef main
+#ifndef OPACITY
+#define OPACITY 1.0
+#endif
 layout(std140) uniform Layers {
     vec4 depthRows;
     vec2 depthPlanes;
@@ -49,7 +52,7 @@ void main()
     float former = isFirst || layersStep == 3 ? 2.0 : texelFetch(formerLayer, ivec2(gl_FragCoord.xy), 0).a;
     bool isNext = !isTail && nearness < former - (isFirst ? 0.0 : c_sameDepth);
     bool isIn = !isFirst && nearness <= former && (isTail || !isNext);
-    float alpha = clamp(result.a, 0.0, 1.0);
+    float alpha = clamp(OPACITY * result.a, 0.0, 1.0);
     if (!(isNext || isIn) || nearness < limit || !(alpha > 0.0)) {
         discard;
     }
@@ -69,9 +72,14 @@ std::string withOutput(FragmentOutput output, const std::string& source, bool wr
     if (output == FragmentOutput::picture) {
         return "#define OUTPUT out\n" + source;
     }
-    // Extensions have to be named before everything else, and a definition may stand before them.
-    return "#define OUTPUT\n#define main paintFragment\n" + source + "\n#define c_depth " +
+    // Definitions may precede extensions, which have to be named before everything else.
+    return layersDefinition(output) + "#define OUTPUT\n#define main paintFragment\n" + source + "\n#define c_depth " +
            (writesDepth ? "gl_FragDepth" : "gl_FragCoord.z") + c_layersMain;
+}
+
+std::string layersDefinition(FragmentOutput output)
+{
+    return output == FragmentOutput::layers ? "#define LAYERED\n" : "";
 }
 
 void attachLayers(const GlProgram& program)

@@ -97,6 +97,9 @@ constexpr const char* c_namedAgain = R"(
 )";
 constexpr const char* c_partsStart = R"(
 flat out vec3 partColor;
+#ifdef LAYERED
+flat out float partOpacity;
+#endif
 
 void main()
 {
@@ -104,6 +107,9 @@ void main()
     float lineWidth = row.size;
     vec2 towardsEye = row.towardsEye;
     partColor = row.color.rgb;
+#ifdef LAYERED
+    partOpacity = row.color.a;
+#endif
     if (!row.isVisible) {
         leaveOut();
         return;
@@ -182,6 +188,10 @@ constexpr const char* c_vertexMain = R"(
 )";
 
 constexpr const char* c_partColor = R"(
+#ifdef LAYERED
+flat in float partOpacity;
+#define OPACITY partOpacity
+#endif
 flat in vec3 partColor;
 #define materialColor(u) partColor
 )";
@@ -321,7 +331,8 @@ LinePainter::Programs::Programs(FragmentOutput output)
     : lines("lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
             withOutput(output, std::string(Material::c_source) + c_coverage + c_fragmentMain).c_str()),
       parts("the lines of objects",
-            (std::string(c_renamed) + c_vertexInputs + c_namedAgain + PartRows::c_source + c_partsStart + c_vertexMain)
+            (layersDefinition(output) + c_renamed + c_vertexInputs + c_namedAgain + PartRows::c_source + c_partsStart +
+             c_vertexMain)
                 .c_str(),
             withOutput(output, std::string(Material::c_source) + c_partColor + c_coverage + c_fragmentMain).c_str())
 {

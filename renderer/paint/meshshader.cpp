@@ -107,6 +107,9 @@ void main()
 constexpr const char* c_partMain = R"(
 layout(location = 10) in uint part;
 flat out vec3 partColor;
+#ifdef LAYERED
+flat out float partOpacity;
+#endif
 flat out int partRow;
 out vec3 imagePosition;
 
@@ -121,6 +124,9 @@ void main()
     eyeNormal = mat3(normalMatrix) * usable(normal);
     u = 0.0;
     partColor = row.color.rgb;
+#ifdef LAYERED
+    partOpacity = row.color.a;
+#endif
     vec4 place = clipPlace(eye);
     place.z = (place.z + row.towardsEye.x * place.w) / (1.0 + row.towardsEye.y);
     gl_Position = row.isVisible ? place : vec4(2.0, 2.0, 2.0, 1.0);
@@ -209,6 +215,10 @@ vec3 surfaceColor(float u)
 
 // The image lies in the coordinate plane that the triangle is closest to, upright seen from outside of a box.
 constexpr const char* c_partColor = R"(
+#ifdef LAYERED
+flat in float partOpacity;
+#define OPACITY partOpacity
+#endif
 uniform sampler2D materialImage;
 flat in vec3 partColor;
 flat in int partRow;
@@ -329,7 +339,7 @@ std::string MeshShader::vertexSource() const
     const std::string inputs =
         std::string(numSamples > 1 ? "#define SAMPLED\n" : "") + c_viewBlock + c_modelBlock + c_vertexInputs;
     if (hasParts) {
-        return inputs + PartRows::c_source + c_partMain;
+        return layersDefinition(output) + inputs + PartRows::c_source + c_partMain;
     }
     return inputs + (isInstanced ? c_instancedMain : c_singleMain);
 }

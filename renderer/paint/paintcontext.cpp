@@ -31,6 +31,16 @@ bool PaintContext::isDrawn(DrawKind kind, bool isTranslucent) const
     return pass == Pass::all || isTranslucent == (pass == Pass::translucent);
 }
 
+PartRows PaintContext::rowsDrawn(DrawKind kind, const PartRows& rows, const Material& material) const
+{
+    PartRows drawn = rows;
+    for (PartRows::Row& row : drawn.rows) {
+        const bool isTranslucent = material.isTranslucent() || row.color[3] < 1.0f;
+        row.isVisible = row.isVisible != 0 && isDrawn(kind, isTranslucent) ? 1 : 0;
+    }
+    return drawn;
+}
+
 void PaintContext::drawMesh(const Mesh* mesh, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
@@ -102,16 +112,18 @@ void PaintContext::drawSymbols(const InstanceBuffer* positions, const Look& look
 void PaintContext::drawBody(const Mesh* mesh, const PartLook& parts, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && isDrawn(DrawBodies, material.isTranslucent())) {
-        meshes.draw(*mesh, parts, look.toEye, material);
+    const PartRows rows = rowsDrawn(DrawBodies, parts.rows, material);
+    if (mesh != nullptr && rows.hasVisible()) {
+        meshes.draw(*mesh, {parts.table, rows, parts.ranges, parts.isTextured}, look.toEye, material);
     }
 }
 
 void PaintContext::drawLines(const LineMesh* mesh, const PartLook& parts, const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (mesh != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
-        lines.draw(*mesh, parts,
+    const PartRows rows = rowsDrawn(DrawLines, parts.rows, material);
+    if (mesh != nullptr && rows.hasVisible()) {
+        lines.draw(*mesh, {parts.table, rows},
                    {.toClip = view.projection * look.toEye,
                     .width = view.area.width,
                     .height = view.area.height,
@@ -125,8 +137,9 @@ void PaintContext::drawSymbols(const InstanceBuffer* positions, const PartLook& 
                                const Look& look) const
 {
     const Material material = faded(look.material, opacity);
-    if (positions != nullptr && isDrawn(DrawLines, material.isTranslucent())) {
-        symbols.draw(*positions, parts,
+    const PartRows rows = rowsDrawn(DrawLines, parts.rows, material);
+    if (positions != nullptr && rows.hasVisible()) {
+        symbols.draw(*positions, {parts.table, rows},
                      {view.projection * look.toEye, view.area.width, view.area.height, symbol, 1.0f, material.color});
     }
 }

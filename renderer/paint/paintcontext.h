@@ -159,6 +159,8 @@ private:
     /// Icons and labels of what is translucent are drawn with what is opaque.
     bool hasLabels() const { return (kinds & DrawLines) != 0 && pass != Pass::translucent; }
     bool isDrawn(DrawKind kind, bool isTranslucent) const;
+    /// Rows of which those that are not drawn are invisible.
+    PartRows rowsDrawn(DrawKind kind, const PartRows& rows, const Material& material) const;
 };
 
 } // namespace vxrenderer

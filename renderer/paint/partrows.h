@@ -2,6 +2,7 @@
 
 #include <epoxy/gl.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -23,7 +24,7 @@ struct PartRows {
     static const char* const c_source;
 
     struct Row {
-        /// Channels from 0 to 1; alpha is not used.
+        /// Channels from 0 to 1. Alpha is an opacity, which a flat view does not have.
         std::array<float, 4> color{};
         /// By how much parts are nearer to the eye than their points.
         std::array<float, 2> towardsEye{};
@@ -34,6 +35,11 @@ struct PartRows {
     std::array<Row, c_numRows> rows{};
     /// For faces with an image: a point that has its corner, and its repetitions for each unit of length.
     std::array<float, 4> imagePlace{};
+
+    bool hasVisible() const
+    {
+        return std::ranges::any_of(rows, [](const Row& row) { return row.isVisible != 0; });
+    }
 
     /// Lets a program read the table of parts, and images of materials if it uses them. Changes the program in use.
     static void attachTextures(const GlProgram& program);

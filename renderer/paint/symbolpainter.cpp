@@ -29,12 +29,18 @@ constexpr const char* c_position = "layout(location = 6) in vec3 position;\n";
 // All symbols look alike.
 constexpr const char* c_oneLook = R"(
 flat out vec3 symbolColor;
+#ifdef LAYERED
+flat out float symbolOpacity;
+#endif
 flat out float symbolRadius;
 vec2 shift;
 
 bool takeLook()
 {
     symbolColor = color.rgb;
+#ifdef LAYERED
+    symbolOpacity = 1.0;
+#endif
     symbolRadius = radius;
     shift = towardsEye;
     return true;
@@ -44,6 +50,9 @@ bool takeLook()
 // The symbols are the points of an object, in the order of their numbers.
 constexpr const char* c_partLook = R"(
 flat out vec3 symbolColor;
+#ifdef LAYERED
+flat out float symbolOpacity;
+#endif
 flat out float symbolRadius;
 vec2 shift;
 
@@ -51,6 +60,9 @@ bool takeLook()
 {
     PartRow row = partRows[rowOfPart(gl_InstanceID)];
     symbolColor = row.color.rgb;
+#ifdef LAYERED
+    symbolOpacity = row.color.a;
+#endif
     symbolRadius = 0.5 * row.size;
     shift = row.towardsEye;
     return row.isVisible && !any(isnan(position)) && !any(isinf(position));
@@ -78,6 +90,10 @@ void main()
 constexpr const char* c_fragmentMain = R"(
 in vec2 offset;
 flat in vec3 symbolColor;
+#ifdef LAYERED
+flat in float symbolOpacity;
+#define OPACITY symbolOpacity
+#endif
 flat in float symbolRadius;
 OUTPUT vec4 result;
 
@@ -143,10 +159,10 @@ struct SymbolPainter::SymbolBlock {
 };
 
 SymbolPainter::Programs::Programs(FragmentOutput output)
-    : symbols("symbols", (std::string(c_block) + c_position + c_oneLook + c_vertexMain).c_str(),
+    : symbols("symbols", (layersDefinition(output) + c_block + c_position + c_oneLook + c_vertexMain).c_str(),
               withOutput(output, std::string(c_block) + c_fragmentMain).c_str()),
       parts("the points of objects",
-            (std::string(c_block) + c_position + PartRows::c_source + c_partLook + c_vertexMain).c_str(),
+            (layersDefinition(output) + c_block + c_position + PartRows::c_source + c_partLook + c_vertexMain).c_str(),
             withOutput(output, std::string(c_block) + c_fragmentMain).c_str())
 {
     if (output == FragmentOutput::layers) {

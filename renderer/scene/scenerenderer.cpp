@@ -466,7 +466,7 @@ SceneRenderer::Surroundings SceneRenderer::layOutSurroundings(const Frame& frame
                                 layout.width, layout.height, layout.axisFonts);
         }
         if (frame.appearance.showAxisOrientation && !frame.isFlat()) {
-            around.triad.emplace(frame, m_view, layout.orientationFonts);
+            around.triad.emplace(frame, m_view, layout.height, layout.orientationFonts);
         }
     }
     return around;

@@ -259,6 +259,22 @@ TEST_F(DrawObjectPainterTest, translucentFacesMixWithWhatIsBehindAndHiddenOnesDo
     EXPECT_EQ(at(shown, 2.0f, 0.5f), c_white);
 }
 
+TEST_F(DrawObjectPainterTest, facesOfATranslucentColorLetLightThroughAndOthersDoNot)
+{
+    const auto solid = add<SceneGraphDrawObjectSolid>(1);
+    solid->mark(PartSheet, 0, Action::MarkingPrimary, true);
+    solid->setObjectColor(Color{200, 100, 0, 51});
+    solid->setUseObjectColor(true);
+    for (const Quality quality : {Quality::full, Quality::draft}) {
+        m_canvas.zoomExtents();
+        const Picture shown = drawnAsIs(m_canvas, quality);
+        EXPECT_EQ(at(shown, 0.5f, 0.5f), rgb(colorOf(1, 0)));
+        EXPECT_EQ(at(shown, 3.0f, 0.5f), rgb(colorOf(0, 1)));
+        // A fifth of the colour on white.
+        EXPECT_EQ(at(shown, 2.0f, 0.5f), (Rgb{244, 224, 204}));
+    }
+}
+
 TEST_F(DrawObjectPainterTest, labelsAndDirectionsAreShownWhereTheSceneShowsThem)
 {
     const auto curve = add<SceneGraphDrawObjectCurve>(1);

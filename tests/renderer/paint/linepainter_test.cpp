@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace vxrenderer {
 namespace {
@@ -161,7 +162,10 @@ TEST(GridLines, haveOneProfileThatGrowsWithTheResolution)
     canvas.draw();
     canvas.getCanvas3dSettings()->camera2d()->setViewLimits(0.03f, 0.97f, 0.03f, 0.97f);
     canvas.draw();
-    for (const int scale : {1, 2, 3}) {
+    for (const auto& [scale, supersampling] : {std::pair(1, 1), std::pair(2, 1), std::pair(3, 1), std::pair(1, 3)}) {
+        RenderStyle style;
+        style.supersampling = supersampling;
+        canvas.setStyle(style);
         HardcopySettings settings;
         settings.setDpi(scale * Canvas3dGlobalSettings::getInstance()->getOnScreenResolution());
         settings.setAxisShown(true);

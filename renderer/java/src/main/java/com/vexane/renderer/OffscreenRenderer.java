@@ -229,7 +229,8 @@ public final class OffscreenRenderer extends NativePeer {
 
     /**
      * Sets how finely {@link #writeHardcopy writeHardcopy} draws: each pixel of an export becomes the mean of a square of
-     * pixels, which smooths edges, lines and steps of colours. The time grows with the number of pixels.
+     * pixels, which smooths edges, lines and steps of colours. Fonts, widths and marks keep their size in the export. The
+     * time grows with the number of pixels, and exports whose larger picture the driver does not allow are refused.
      *
      * @param factor pixels per direction, 1 to 4; at first 1
      * @throws IllegalArgumentException if it is outside of that range
@@ -322,8 +323,8 @@ public final class OffscreenRenderer extends NativePeer {
     /**
      * Draws a draft of the scene as it is now, for a picture that the next one replaces at once, as while the user
      * drags the scene: with one sample per pixel, in a third of the time where there is no graphics hardware. Edges are
-     * jagged; everything is at the same position as in the full picture, which {@link #draw()} gives when the drag is
-     * over.
+     * jagged, and what is translucent is mixed by weights instead of in its order. Everything is at the same position as in
+     * the full picture, which {@link #draw()} gives when the drag is over.
      *
      * @throws com.vexane.base.NativeException if the driver reports a fault
      */

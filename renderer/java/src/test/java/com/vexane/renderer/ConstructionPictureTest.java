@@ -1,6 +1,8 @@
 package com.vexane.renderer;
 
+import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.vexane.graphics3d.Canvas3dSettings;
@@ -13,7 +15,8 @@ import com.vexane.graphics3d.SceneGraphProbeObject;
 import com.vexane.graphics3d.SceneGraphRoot;
 import com.vexane.producer.ProjectionBuilder2D;
 import com.vexane.producer.RenderDrawProj2D;
-import java.nio.ByteBuffer;
+import java.util.Arrays;
+import java.util.stream.IntStream;
 import org.junit.jupiter.api.Test;
 
 /** The path of construction objects from Java arrays to pixels. */
@@ -21,8 +24,8 @@ class ConstructionPictureTest {
     private static final int SIZE = 120;
     private static final int WHITE = 0xffffffff;
 
-    /** The number of pixels that are drawn when an object is all that is looked at, from above. */
-    private static int countDrawn(SceneGraphObject object) {
+    /** The pixels that are drawn when an object is all that is looked at, from above. */
+    private static int[] picture(SceneGraphObject object) {
         try (Scene scene = new Scene();
                 SceneGraphRoot root = SceneGraphRoot.connect(scene);
                 OffscreenRenderer renderer = OffscreenRenderer.create(SIZE, SIZE, 1);
@@ -33,13 +36,14 @@ class ConstructionPictureTest {
             settings.setRenderMask(OffscreenRenderer.RENDER_OBJECTS | OffscreenRenderer.RENDER_BACKGROUND);
             renderer.zoomExtents();
             renderer.draw();
-            ByteBuffer image = renderer.image();
-            int count = 0;
-            for (int i = 0; i < SIZE * SIZE; ++i) {
-                count += image.getInt(4 * i) != WHITE ? 1 : 0;
-            }
-            return count;
+            int[] pixels = new int[SIZE * SIZE];
+            renderer.image().asIntBuffer().get(pixels);
+            return pixels;
         }
+    }
+
+    private static int countDrawn(SceneGraphObject object) {
+        return (int) IntStream.of(picture(object)).filter(pixel -> pixel != WHITE).count();
     }
 
     @Test
@@ -51,13 +55,14 @@ class ConstructionPictureTest {
             plane.setWorkPlane(new float[] {0, 0, 0, 1, 0, 0, 0, 1, 0, -1, 1, -1, 1});
             int grid = countDrawn(plane);
             assertTrue(grid > 16 * SIZE && grid < SIZE * SIZE / 2, () -> "pixels: " + grid);
+            int[] gridAlone = picture(plane);
             plane.setRevolve(new float[3]);
-            assertEquals(grid, countDrawn(plane));
+            assertArrayEquals(gridAlone, picture(plane));
             plane.setRevolve(new float[] {0.3f, 0, 0, 1});
             assertTrue(countDrawn(plane) > grid);
             plane.setExtrude(new float[] {1, 0.5f});
             plane.setExtrude(new float[0]);
-            assertTrue(countDrawn(plane) > grid);
+            assertFalse(Arrays.equals(gridAlone, picture(plane)));
         }
     }
 
