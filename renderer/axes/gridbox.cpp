@@ -27,6 +27,8 @@ constexpr double c_minorTickDistance = 0.35;
 constexpr double c_shortestAxis = 1.5;
 /// Lines of the grid that are nearer to an edge look like a mistake.
 constexpr double c_besideEdge = 0.6;
+/// The same as a part of an axis that is seen nearly end-on.
+constexpr double c_largestBeside = 0.2;
 /// How far a name is moved along its axis, in parts of its length, where it would cover a number, and how far out.
 constexpr double c_nameMoves[] = {0.0, 0.12, -0.12, 0.24, -0.24};
 constexpr double c_nameSteps[] = {0.0, 0.6, 1.2};
@@ -252,6 +254,18 @@ private:
         return longest;
     }
 
+    /// The same where perspective shortens them most.
+    double shortestEdge(std::size_t axis) const
+    {
+        double shortest = HUGE_VAL;
+        for (unsigned corner = 0; corner < 8; ++corner) {
+            if ((corner >> axis & 1u) == 0) {
+                shortest = std::min(shortest, (m_corners[corner] - m_corners[corner | (1u << axis)]).length());
+            }
+        }
+        return shortest;
+    }
+
     /// Chooses ticks whose labels have space next to each other, at least two of them if two fit, and lays the labels
     /// out.
     void addTicks(std::size_t index)
@@ -426,8 +440,8 @@ private:
         if (isFlat(lineAxis)) {
             return;
         }
-        const double beside =
-            c_besideEdge * m_em / std::max(longestEdge(tickAxis), 1.0) * (m_high[tickAxis] - m_low[tickAxis]);
+        const double part = std::min(c_besideEdge * m_em / std::max(shortestEdge(tickAxis), 1.0), c_largestBeside);
+        const double beside = part * (m_high[tickAxis] - m_low[tickAxis]);
         for (const double tick : m_axes[tickAxis].ticks) {
             if (tick - m_low[tickAxis] < beside || m_high[tickAxis] - tick < beside) {
                 continue;

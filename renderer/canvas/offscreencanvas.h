@@ -41,7 +41,8 @@ class Target;
 enum class Quality {
     full,
     /// For a picture that the next one replaces at once, as while the user drags the scene: one sample per pixel, so
-    /// edges are jagged. Everything is at the same position as in the full picture.
+    /// edges are jagged, and studio light has no shade in corners. Everything is at the same position as in the full
+    /// picture.
     draft
 };
 

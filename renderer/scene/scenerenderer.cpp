@@ -235,6 +235,8 @@ void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, cons
                              const std::function<void()>& trace, std::vector<SceneIcon>& icons,
                              std::vector<SceneLabel>& labels)
 {
+    // A picture that failed may have left it elsewhere.
+    setOutput(FragmentOutput::picture);
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
     std::vector<const SceneItem*> shown;
@@ -349,17 +351,17 @@ void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, cons
         }
     }
     if (translucent.empty()) {
-        m_transparency.release();
+        if (m_transparency) {
+            m_transparency->release();
+        }
         return;
     }
-    const auto setOutput = [this](FragmentOutput output) {
-        m_meshes.setOutput(output);
-        m_lines.setOutput(output);
-        m_symbols.setOutput(output);
-    };
+    if (!m_transparency) {
+        m_transparency = std::make_unique<Transparency>();
+    }
     setOutput(FragmentOutput::layers);
     const int numLayers = frame.isDraft ? 0 : Transparency::c_fullLayers;
-    m_transparency.draw(target, m_view, numLayers, [&](const View& view) {
+    m_transparency->draw(target, m_view, numLayers, [&](const View& view) {
         beginMeshes(frame, view, false);
         const PaintContext layers = context.in(view, DrawAll, Pass::translucent);
         for (const SceneItem* item : translucent) {
@@ -367,6 +369,13 @@ void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, cons
         }
     });
     setOutput(FragmentOutput::picture);
+}
+
+void SceneRenderer::setOutput(FragmentOutput output)
+{
+    m_meshes.setOutput(output);
+    m_lines.setOutput(output);
+    m_symbols.setOutput(output);
 }
 
 void SceneRenderer::drawLightMarkers(const Frame& frame)

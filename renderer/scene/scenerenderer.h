@@ -123,6 +123,8 @@ private:
     /// translucent over it.
     void drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
                      const PaintContext& context);
+    /// Where the colours of faces, lines and symbols go from now on.
+    void setOutput(FragmentOutput output);
     void drawLightMarkers(const Frame& frame);
     /// @param free see `drawLabels`
     void drawOverlays(const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free);
@@ -149,7 +151,8 @@ private:
     SolidPainter m_solids;
     ShapePainter m_shapes;
     OverlayPainter m_overlay{m_counts};
-    Transparency m_transparency;
+    /// Null until something is translucent.
+    std::unique_ptr<Transparency> m_transparency;
     SceneCopy m_sceneCopy;
     FontSets m_fontSets;
     boost::weak_ptr<const vxgraphics3d::SceneGraphNode> m_titleRoot;

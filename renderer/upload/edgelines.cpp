@@ -75,10 +75,10 @@ private:
     std::vector<Edge>::const_iterator continuationOf(const Edge& last) const
     {
         const Vector3f along = (m_positionOf(last.second) - m_positionOf(last.first)).normalized();
-        const auto [first, end] = std::ranges::equal_range(m_ways, last.second, {}, &Edge::first);
         auto best = m_ways.end();
         float straightest = c_straight;
-        for (auto way = first; way != end; ++way) {
+        auto way = std::ranges::lower_bound(m_ways, last.second, {}, &Edge::first);
+        for (; way != m_ways.end() && way->first == last.second; ++way) {
             const float cosine = along.dot((m_positionOf(way->second) - m_positionOf(way->first)).normalized());
             if (way->second != last.first && cosine > straightest) {
                 straightest = cosine;

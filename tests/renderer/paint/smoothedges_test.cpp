@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace vxrenderer {
@@ -126,12 +127,12 @@ TEST_F(SmoothEdgesTest, conesOfLightEndWithinAPixelAndAHalf)
     spot.setIntensity(1.0f);
     spot.setActive(true);
     const Picture picture = drawn(m_canvas);
-    const auto [x, y] = pixelOf(m_canvas, {0.5f, 0.5f, 0.0f});
+    const std::array<double, 2> middle = pixelOf(m_canvas, {0.5f, 0.5f, 0.0f});
     const double radius =
-        std::tan(0.5 * static_cast<double>(c_spread)) * (pixelOf(m_canvas, {1.5f, 0.5f, 0.0f})[0] - x);
+        std::tan(0.5 * static_cast<double>(c_spread)) * (pixelOf(m_canvas, {1.5f, 0.5f, 0.0f})[0] - middle[0]);
     int numMixed = 0;
     forEachPixel([&](int column, int row) {
-        const double outside = std::hypot(column + 0.5 - x, row + 0.5 - y) - radius;
+        const double outside = std::hypot(column + 0.5 - middle[0], row + 0.5 - middle[1]) - radius;
         const Rgb color = picture.at(column, row);
         const int brightness = color[0] + color[2];
         if (std::abs(outside) > 1.5) {

@@ -128,18 +128,19 @@ protected:
 TEST_F(TransparencyTest, trianglesInReverseOrderGiveTheSamePicture)
 {
     vxgraphics3d::RandomNumbers random(7);
+    const auto number = [&random] { return static_cast<double>(random.uniform(0.0f, 1.0f)); };
     std::vector<Triangle> triangles;
     for (int i = 0; i < 150; ++i) {
         Triangle triangle{};
         for (Point& corner : triangle.corners) {
-            corner = {random.uniform(0.0f, 1.0f), random.uniform(0.0f, 1.0f), random.uniform(0.0f, 1.0f)};
+            corner = {number(), number(), number()};
         }
-        triangle.value = random.uniform(0.0f, 1.0f);
+        triangle.value = number();
         triangles.push_back(triangle);
         // The same face in other colours, from another corner: depths that are equal, and others that almost are.
-        triangles.push_back({triangle.corners, random.uniform(0.0f, 1.0f)});
+        triangles.push_back({triangle.corners, number()});
         std::ranges::rotate(triangle.corners, triangle.corners.begin() + 1);
-        triangles.push_back({triangle.corners, random.uniform(0.0f, 1.0f)});
+        triangles.push_back({triangle.corners, number()});
     }
     for (const int samples : {1, 4}) {
         OffscreenCanvas canvas(200, 150, samples);

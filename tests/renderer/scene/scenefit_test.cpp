@@ -7,6 +7,7 @@
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/frame/appearance.h"
 #include "renderer/frame/view.h"
+#include "renderer/scene/sceneitems.h"
 #include "tests/renderer/support/testscene.h"
 #include "tests/support/postrecord.h"
 
@@ -300,6 +301,36 @@ TEST_F(SceneFitTest, theFrameOfAFittedMapFollowsItsData)
     flat.mergeAdditionalTransformation();
     const Picture smaller = drawnAsIs(m_canvas);
     EXPECT_GT(rowsAbove(smaller), 80) << "a view of its own is shown whole";
+}
+
+TEST_F(SceneFitTest, heightsAreDataWhereAllPlotsShareTheirFactor)
+{
+    const auto raised = [&](int id, const std::vector<double>& colors) {
+        boost::shared_ptr<SceneGraphPlotSurface2d> plot(new SceneGraphPlotSurface2d(id));
+        m_scene.group->addPlot(plot);
+        plot->fillPlot(
+            PostRecord()
+                .role(PostDataObject::ColorData, 0)
+                .role(PostDataObject::HeightData, 1)
+                .bounds({{0, 2}, {0, 2}})
+                .group({{0, 2, 2, 0}, {0, 0, 2, 2}}, {{0, 0}, {1, 2}, {2, 3}}, {colors, {100, 200, 500, 300}}));
+        plot->setHeightScale(0.4f);
+        plot->setPlotPlaneOffset(0.1f);
+        return plot;
+    };
+    const auto units = [&] { return heightUnitsOf(collectItems(*m_scene.root)); };
+    // The fill makes 500 as high as the plot is wide.
+    const auto one = raised(1, {100, 200, 500, 300});
+    EXPECT_NEAR(units().coordinateOf(500.0), 0.1 + 0.4 * 2.0, 1e-5);
+    EXPECT_NEAR(units().valueAt(0.1), 0.0, 1e-3);
+    const auto two = raised(2, {100, 200, 500, 300});
+    EXPECT_NEAR(units().coordinateOf(500.0), 0.9, 1e-5);
+    two->setHeightScale(0.5f);
+    EXPECT_EQ(units().coordinateOf(500.0), 500.0) << "scales differ";
+    two->setActive(false);
+    EXPECT_NEAR(units().coordinateOf(500.0), 0.9, 1e-5);
+    raised(3, {1, 2, 5, 4});
+    EXPECT_EQ(units().coordinateOf(500.0), 500.0) << "its colours are not its heights";
 }
 
 TEST_F(SceneFitTest, aLargerSceneReachesTheBordersAndIsFramedWhereItIsCut)

@@ -323,8 +323,8 @@ public final class OffscreenRenderer extends NativePeer {
     /**
      * Draws a draft of the scene as it is now, for a picture that the next one replaces at once, as while the user
      * drags the scene: with one sample per pixel, in a third of the time where there is no graphics hardware. Edges are
-     * jagged, and what is translucent is mixed by weights instead of in its order. Everything is at the same position as in
-     * the full picture, which {@link #draw()} gives when the drag is over.
+     * jagged, what is translucent is mixed by weights instead of in its order, and studio light has no shade in corners.
+     * Everything is at the same position as in the full picture, which {@link #draw()} gives when the drag is over.
      *
      * @throws com.vexane.base.NativeException if the driver reports a fault
      */
@@ -352,7 +352,8 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Writes the last picture drawn to a PNG file with 8 bits per channel, without alpha.
+     * Writes the last picture drawn to a PNG file with 8 bits per channel, without alpha. The file says that its colours
+     * are sRGB, and has the resolution of the screen.
      *
      * @param file the file, which is replaced
      * @throws NullPointerException if the file is null

@@ -21,7 +21,7 @@ import org.junit.jupiter.api.Test;
 
 /** The path of construction objects from Java arrays to pixels. */
 class ConstructionPictureTest {
-    private static final int SIZE = 120;
+    private static final int SIZE = 360;
     private static final int WHITE = 0xffffffff;
 
     /** The pixels that are drawn when an object is all that is looked at, from above. */

@@ -43,8 +43,8 @@ public final class FourCameras implements Picture {
                     camera.getRotationPointY() - distance * towards[1],
                     camera.getRotationPointZ() - distance * towards[2],
                     towards[0], towards[1], towards[2], 0, 0, 1);
-            camera.setRelativeViewOffset(0, 0.05f);
-            camera.setFieldOfView(27);
+            camera.setRelativeViewOffset(0, 0.1f);
+            camera.setFieldOfView(24);
             studio.save("Perspective from close by: parallel edges run together.");
 
             // `view` fits the scene again, for the projection that is set.

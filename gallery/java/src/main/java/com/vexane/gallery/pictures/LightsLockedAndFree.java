@@ -33,7 +33,7 @@ public final class LightsLockedAndFree implements Picture {
             plot.fillPlot(record);
             plot.setColor(0xd8d4cc);
             studio.renderer().setStudioLight(false); // which would soften what the lamps do
-            studio.light().setAmbientIntensity(0.12f);
+            studio.light().setAmbientIntensity(0.3f);
             studio.lamp().setFromDirection(false, -1, 0.6f, 0.5f);
             studio.lamp().setIntensity(0.9f);
             studio.canvas().setShowAxisOrientationIndicator(true);
@@ -52,6 +52,7 @@ public final class LightsLockedAndFree implements Picture {
 
             // Besides directional light there are points, which shine to all sides, and spots, which shine into a cone.
             // Markers show where they are.
+            studio.light().setAmbientIntensity(0.12f);
             studio.lamp().setFromDirection(true, 0.2f, -0.6f, 1);
             studio.lamp().setIntensity(0.35f);
             point.setPosition(true, 100, -80, 60);
