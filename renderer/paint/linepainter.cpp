@@ -28,6 +28,8 @@ layout(std140) uniform Line {
     float fringe;
     // Above 0, lines along a side of the viewport lie on whole pixels.
     float snapping;
+    // Half the side of the square whose part that the line covers is found.
+    float halfBox;
 };
 layout(location = 0) in vec3 from;
 layout(location = 1) in vec3 to;
@@ -41,6 +43,7 @@ noperspective out vec2 local;
 flat out vec4 shape;
 // In the directions of `local`, the normals of the borders to the pieces before and after; 0 at free ends.
 flat out vec4 borders;
+flat out float box;
 
 vec2 pixelOf(vec4 clip)
 {
@@ -74,6 +77,7 @@ void leaveOut()
     local = vec2(0.0);
     shape = vec4(0.0);
     borders = vec4(0.0);
+    box = 0.5;
     gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
 }
 )";
@@ -159,6 +163,7 @@ constexpr const char* c_vertexMain = R"(
     along = size > 0.0 ? along / size : vec2(1.0, 0.0);
     vec2 side = vec2(-along.y, along.x);
     float halfWidth = 0.5 * lineWidth;
+    box = halfBox;
     vec2 reaches = vec2(reach > 0.0 ? reach * halfWidth + fringe : 0.0);
     borders = vec4(0.0);
     for (int i = 0; i < 2; ++i) {
@@ -201,9 +206,10 @@ centroid in float u;
 noperspective in vec2 local;
 flat in vec4 shape;
 flat in vec4 borders;
+flat in float box;
 OUTPUT vec4 result;
 
-// The part of the pixel that the line covers.
+// The part of the box around the middle of the pixel that the line covers.
 float covered()
 {
     const float slack = 1.0 / 128.0;
@@ -221,9 +227,9 @@ float covered()
     if (shape.w > 0.0) {
         aside = length(vec2(max(beyond, 0.0), aside));
     } else if (isFree && shape.z > 0.0) {
-        part = clamp(shape.z + 0.5 - beyond, 0.0, 1.0);
+        part = clamp((shape.z + box - beyond) / (2.0 * box), 0.0, 1.0);
     }
-    return part * clamp(min(halfWidth, aside + 0.5) - max(-halfWidth, aside - 0.5), 0.0, 1.0);
+    return part * clamp((min(halfWidth, aside + box) - max(-halfWidth, aside - box)) / (2.0 * box), 0.0, 1.0);
 }
 )";
 
@@ -324,7 +330,8 @@ struct LinePainter::LineBlock {
     float roundness;
     float fringe;
     float snapping;
-    std::array<float, 3> unused{};
+    float halfBox;
+    std::array<float, 2> unused{};
 };
 
 LinePainter::Programs::Programs(FragmentOutput output)
@@ -352,9 +359,12 @@ void LinePainter::attach(const Programs& programs) const
     PartRows::attachTextures(programs.parts);
 }
 
-void LinePainter::setOutput(FragmentOutput output)
+void LinePainter::setOutput(FragmentOutput output, int numSamples)
 {
     m_output = output;
+    // The samples of layers are pictures with one sample each, moved by parts of a pixel. Boxes as wide as their
+    // distances add up to a pixel.
+    m_halfBox = output == FragmentOutput::layers ? 0.5f / static_cast<float>(numSamples) : 0.5f;
     if (output == FragmentOutput::layers && !m_layerPrograms) {
         m_layerPrograms = std::make_unique<Programs>(output);
         attach(*m_layerPrograms);
@@ -388,6 +398,7 @@ void LinePainter::setUp(const GlProgram& program, const Frame& frame, const Mate
     block.snapping = frame.isSnapped ? 1.0f : 0.0f;
     GLint samples = 0;
     glGetIntegerv(GL_SAMPLES, &samples);
+    block.halfBox = m_halfBox;
     block.fringe = samples > 1 ? c_sampledFringe : c_fringe;
     program.use();
     m_line.set(block);

@@ -49,7 +49,8 @@ public:
     LinePainter();
 
     /// Where the colours of what follows go, at first into the picture.
-    void setOutput(FragmentOutput output);
+    /// @param numSamples of the picture that layers are for
+    void setOutput(FragmentOutput output, int numSamples);
 
     /// Draws lines that are copied for this call.
     void draw(std::span<const LineSegment> lines, const Frame& frame, const vxgraphics3d::Color& color) const;
@@ -78,6 +79,7 @@ private:
     void drawPieces(std::span<const LineSegment> lines) const;
 
     FragmentOutput m_output = FragmentOutput::picture;
+    float m_halfBox = 0.5f;
     Programs m_programs{FragmentOutput::picture};
     GlProgram m_shadedProgram;
     /// Made when they are used for the first time.

@@ -236,7 +236,7 @@ void SceneRenderer::drawData(const Frame& frame, const FrameLayout& layout, cons
                              std::vector<SceneLabel>& labels)
 {
     // A picture that failed may have left it elsewhere.
-    setOutput(FragmentOutput::picture);
+    setOutput(FragmentOutput::picture, target.getSamples());
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_LEQUAL);
     std::vector<const SceneItem*> shown;
@@ -362,7 +362,7 @@ void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, cons
     if (!m_transparency) {
         m_transparency = std::make_unique<Transparency>();
     }
-    setOutput(FragmentOutput::layers);
+    setOutput(FragmentOutput::layers, target.getSamples());
     const int numLayers = frame.isDraft ? 0 : Transparency::c_fullLayers;
     m_transparency->draw(target, m_view, numLayers, [&](const View& view) {
         beginMeshes(frame, view, false);
@@ -372,13 +372,13 @@ void SceneRenderer::drawInSpace(const std::vector<const SceneItem*>& items, cons
             drawItem(*item, layers);
         }
     });
-    setOutput(FragmentOutput::picture);
+    setOutput(FragmentOutput::picture, target.getSamples());
 }
 
-void SceneRenderer::setOutput(FragmentOutput output)
+void SceneRenderer::setOutput(FragmentOutput output, int numSamples)
 {
     m_meshes.setOutput(output);
-    m_lines.setOutput(output);
+    m_lines.setOutput(output, numSamples);
     m_symbols.setOutput(output);
 }
 

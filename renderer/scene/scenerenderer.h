@@ -124,7 +124,7 @@ private:
     void drawInSpace(const std::vector<const SceneItem*>& items, const Frame& frame, const Target& target,
                      const PaintContext& context);
     /// Where the colours of faces, lines and symbols go from now on.
-    void setOutput(FragmentOutput output);
+    void setOutput(FragmentOutput output, int numSamples);
     void drawLightMarkers(const Frame& frame);
     /// @param free see `drawLabels`
     void drawOverlays(const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free);
