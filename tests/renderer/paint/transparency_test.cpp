@@ -139,7 +139,7 @@ TEST_F(TransparencyTest, trianglesInReverseOrderGiveTheSamePicture)
         triangles.push_back(triangle);
         // The same face in other colours, from another corner: depths that are equal, and others that almost are.
         triangles.push_back({triangle.corners, number()});
-        std::ranges::rotate(triangle.corners, triangle.corners.begin() + 1);
+        std::rotate(triangle.corners.begin(), triangle.corners.begin() + 1, triangle.corners.end());
         triangles.push_back({triangle.corners, number()});
     }
     for (const int samples : {1, 4}) {
