@@ -17,8 +17,10 @@ using vxgraphics3d::Vector3f;
 
 /// From this part of the angle of a crease on, edges may close gaps of lines.
 constexpr float c_blunt = 0.6f;
-/// The shortest line with ends, for each unit of the diagonal of a surface.
-constexpr float c_shortestLine = 0.06f;
+/// From this multiple of it on, no edge belongs to a rounding of large triangles.
+constexpr float c_clear = 1.7f;
+/// The shortest line with ends or without a clear edge, for each unit of the diagonal of a surface.
+constexpr float c_shortestLine = 0.1f;
 
 /// A number that tells vertices apart in sums.
 std::uint64_t scattered(std::uint32_t vertex)
@@ -203,7 +205,8 @@ public:
     Finder(const Surface& surface, float angle)
         : m_surface(surface),
           m_cosine(angle < std::numbers::pi_v<float> ? std::cos(angle) : -2.0f),
-          m_bluntCosine(std::cos(c_blunt * angle))
+          m_bluntCosine(std::cos(c_blunt * angle)),
+          m_clearCosine(std::cos(std::min(c_clear * angle, std::numbers::pi_v<float>)))
     {}
 
     /// @param corners with their site
@@ -221,7 +224,7 @@ public:
 
     /// Joins the triangles that are smooth at the edge between them, and reports all other edges that lead to higher
     /// sites, as well as those that are almost as sharp.
-    void joinFans(std::vector<Creases::Edge>& edges, std::vector<Creases::Edge>& blunt)
+    void joinFans(EdgeLines::Found& edges)
     {
         m_spokes.clear();
         for (std::uint32_t i = 0; i < m_corners.size(); ++i) {
@@ -242,10 +245,16 @@ public:
             if (m_site >= end) {
                 continue;
             }
-            if (!isSmooth || last - first != 2) {
-                edges.emplace_back(m_site, end);
-            } else if (!isWithin(m_bluntCosine, m_areas[m_spokes[first].second], m_areas[m_spokes[first + 1].second])) {
-                blunt.emplace_back(m_site, end);
+            if (last - first != 2) {
+                edges.clear.emplace_back(m_site, end);
+                continue;
+            }
+            const Vector3f& one = m_areas[m_spokes[first].second];
+            const Vector3f& other = m_areas[m_spokes[first + 1].second];
+            if (!isSmooth) {
+                (isWithin(m_clearCosine, one, other) ? edges.sharp : edges.clear).emplace_back(m_site, end);
+            } else if (!isWithin(m_bluntCosine, one, other)) {
+                edges.blunt.emplace_back(m_site, end);
             }
         }
     }
@@ -292,6 +301,7 @@ private:
     const Surface& m_surface;
     float m_cosine;
     float m_bluntCosine;
+    float m_clearCosine;
     std::uint32_t m_site = 0;
     std::vector<std::uint32_t> m_corners;
     std::vector<Vector3f> m_areas;
@@ -310,25 +320,23 @@ Creases::Creases(const VertexRecords& records, std::uint32_t numVertices, std::s
     Finder finder(surface, angle);
     // They take effect at the end: the search needs the indices as they were.
     std::vector<std::pair<std::uint32_t, std::uint32_t>> changes;
-    std::vector<Edge> sharp;
-    std::vector<Edge> blunt;
+    EdgeLines::Found edges;
     const std::span corners(surface.getCorners());
     for (std::size_t first = 0, last = 0; first < corners.size(); first = last) {
         for (last = first + 1; last < corners.size() && corners[last].first == corners[first].first;) {
             ++last;
         }
         finder.begin(corners.subspan(first, last - first));
-        finder.joinFans(sharp, blunt);
+        finder.joinFans(edges);
         if (surface.hasNormals()) {
             finder.split(m_vertices, [&](std::uint32_t corner, std::uint32_t vertex) {
                 changes.emplace_back(corner, numVertices + vertex);
             });
         }
     }
-    if (!sharp.empty()) {
+    if (!edges.clear.empty() || !edges.sharp.empty()) {
         m_edges = std::move(EdgeLines(
-                                std::move(sharp), blunt,
-                                [&records](std::uint32_t vertex) { return records.position(vertex); },
+                                std::move(edges), [&records](std::uint32_t vertex) { return records.position(vertex); },
                                 c_shortestLine * diagonalOf(records, indices))
                                 .getEdges());
     }

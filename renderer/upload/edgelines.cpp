@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 #include <unordered_map>
 
 namespace vxrenderer {
@@ -96,14 +97,51 @@ private:
     std::unordered_map<std::uint32_t, int> m_degrees;
 };
 
-/// Leaves out lines with ends that are shorter than a length.
-void dropShort(std::vector<Edge>& edges, const EdgeLines::PositionOf& positionOf, float leastLength)
+/// Leaves out edges from the ends of lines up to other lines, except for clear ones.
+/// @param numClear the first ones of the list are
+void trimEnds(std::vector<Edge>& edges, std::size_t numClear)
+{
+    struct Meeting {
+        int degree = 0;
+        /// The bits of the indices of all edges; of one edge, its index.
+        std::size_t indices = 0;
+    };
+    std::unordered_map<std::uint32_t, Meeting> meetings;
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        for (const std::uint32_t vertex : {edges[i].first, edges[i].second}) {
+            ++meetings[vertex].degree;
+            meetings[vertex].indices ^= i;
+        }
+    }
+    std::vector<bool> isLeftOut(edges.size());
+    for (std::size_t i = numClear; i < edges.size(); ++i) {
+        for (std::uint32_t vertex : {edges[i].first, edges[i].second}) {
+            for (Meeting* end = &meetings[vertex]; end->degree == 1 && end->indices >= numClear;) {
+                const std::size_t last = end->indices;
+                isLeftOut[last] = true;
+                *end = {};
+                vertex = edges[last].first == vertex ? edges[last].second : edges[last].first;
+                end = &meetings[vertex];
+                --end->degree;
+                end->indices ^= last;
+            }
+        }
+    }
+    std::size_t i = 0;
+    std::erase_if(edges, [&](const Edge&) { return isLeftOut[i++]; });
+}
+
+/// Leaves out lines that are shorter than a length if they have ends or no clear edge.
+/// @param numClear the first ones of the list are
+void dropShort(std::vector<Edge>& edges, std::size_t numClear, const EdgeLines::PositionOf& positionOf,
+               float leastLength)
 {
     struct Line {
         std::uint32_t parent;
         int degree = 0;
         float length = 0.0f;
         bool hasEnds = false;
+        bool isClear = false;
     };
     std::unordered_map<std::uint32_t, Line> lines;
     const auto lineOf = [&](std::uint32_t vertex) {
@@ -119,25 +157,28 @@ void dropShort(std::vector<Edge>& edges, const EdgeLines::PositionOf& positionOf
         }
         lines[lineOf(from)].parent = lineOf(to);
     }
-    for (const auto& [from, to] : edges) {
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        const auto& [from, to] = edges[i];
         Line& line = lines[lineOf(from)];
         line.length += (positionOf(to) - positionOf(from)).length();
         line.hasEnds = line.hasEnds || lines[from].degree == 1 || lines[to].degree == 1;
+        line.isClear = line.isClear || i < numClear;
     }
     std::erase_if(edges, [&](const Edge& edge) {
         const Line& line = lines[lineOf(edge.first)];
-        return line.hasEnds && line.length < leastLength;
+        return line.length < leastLength && (line.hasEnds || !line.isClear);
     });
 }
 
 } // namespace
 
-EdgeLines::EdgeLines(std::vector<Edge> sharp, std::span<const Edge> blunt, const PositionOf& positionOf,
-                     float leastLength)
-    : m_edges(std::move(sharp))
+EdgeLines::EdgeLines(Found found, const PositionOf& positionOf, float leastLength) : m_edges(std::move(found.clear))
 {
-    Gaps(m_edges, blunt, positionOf).close();
-    dropShort(m_edges, positionOf, leastLength);
+    const std::size_t numClear = m_edges.size();
+    m_edges.insert(m_edges.end(), found.sharp.begin(), found.sharp.end());
+    Gaps(m_edges, found.blunt, positionOf).close();
+    trimEnds(m_edges, numClear);
+    dropShort(m_edges, numClear, positionOf, leastLength);
 }
 
 } // namespace vxrenderer

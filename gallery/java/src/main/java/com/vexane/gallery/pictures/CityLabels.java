@@ -64,7 +64,6 @@ public final class CityLabels implements Picture {
             names.setColor(0x101010);
             studio.size(1200, 1000);
             studio.hideAxes();
-            studio.renderer().setFeatureEdges(false); // a relief has none
             studio.show(globe, "").show(marks, "").show(names, "").view(20, 35);
             studio.save("Cities from Reykjav\u00edk to Mumbai. What lies in front of a city hides its name, and a name "
                     + "moves to another side of its city where it would cover another name.");
