@@ -172,12 +172,13 @@ void dropShort(std::vector<Edge>& edges, std::size_t numClear, const EdgeLines::
 
 } // namespace
 
-EdgeLines::EdgeLines(Found found, const PositionOf& positionOf, float leastLength) : m_edges(std::move(found.clear))
+EdgeLines::EdgeLines(Found found, const PositionOf& positionOf, float leastLength) : m_creases(std::move(found.clear))
 {
-    const std::size_t numClear = m_edges.size();
-    m_edges.insert(m_edges.end(), found.sharp.begin(), found.sharp.end());
-    Gaps(m_edges, found.blunt, positionOf).close();
-    trimEnds(m_edges, numClear);
+    const std::size_t numClear = m_creases.size();
+    m_creases.insert(m_creases.end(), found.sharp.begin(), found.sharp.end());
+    Gaps(m_creases, found.blunt, positionOf).close();
+    trimEnds(m_creases, numClear);
+    m_edges = m_creases;
     dropShort(m_edges, numClear, positionOf, leastLength);
 }
 

@@ -33,11 +33,14 @@ public:
     /// @param leastLength of a line with ends, or without a clear edge
     EdgeLines(Found found, const PositionOf& positionOf, float leastLength);
 
-    /// The edges that are left: first those that are clear, then those that are sharp, in their order, and those that
+    /// The edges of all lines: first those that are clear, then those that are sharp, in their order, and those that
     /// close gaps.
+    const std::vector<Edge>& getCreases() const { return m_creases; }
+    /// Those to be shown: the same without short lines.
     std::vector<Edge>& getEdges() { return m_edges; }
 
 private:
+    std::vector<Edge> m_creases;
     std::vector<Edge> m_edges;
 };
 
