@@ -365,7 +365,7 @@ Creases::Creases(const VertexRecords& records, std::uint32_t numVertices, std::s
         return;
     }
     EdgeLines lines(
-        std::move(found), [&records](std::uint32_t vertex) { return records.position(vertex); },
+        std::move(found), numVertices, [&records](std::uint32_t vertex) { return records.position(vertex); },
         c_shortestLine * diagonalOf(records, indices));
     m_edges = std::move(lines.getEdges());
     if (!surface.hasNormals()) {
@@ -379,10 +379,12 @@ Creases::Creases(const VertexRecords& records, std::uint32_t numVertices, std::s
     // They take effect at the end: the search needs the indices as they were.
     std::vector<std::pair<std::uint32_t, std::uint32_t>> changes;
     forEachSite(surface, [&](std::span<const SiteCorner> corners) {
-        const auto its = std::ranges::equal_range(creases, corners.front().first, {}, &Edge::first);
-        if (!its.empty()) {
+        const std::uint32_t site = corners.front().first;
+        const auto first = std::ranges::lower_bound(creases, site, {}, &Edge::first);
+        const auto last = std::ranges::upper_bound(creases, site, {}, &Edge::first);
+        if (first != last) {
             finder.begin(corners);
-            finder.joinFans({its.begin(), its.end()});
+            finder.joinFans({first, last});
             finder.split(m_vertices, [&](std::uint32_t corner, std::uint32_t vertex) {
                 changes.emplace_back(corner, numVertices + vertex);
             });

@@ -2,6 +2,7 @@
 
 #include "graphics3d/foundation/vector3f.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <utility>
@@ -30,8 +31,9 @@ public:
         std::vector<Edge> blunt;
     };
 
+    /// @param numVertices more than the number of any vertex
     /// @param leastLength of a line with ends, or without a clear edge
-    EdgeLines(Found found, const PositionOf& positionOf, float leastLength);
+    EdgeLines(Found found, std::size_t numVertices, const PositionOf& positionOf, float leastLength);
 
     /// The edges of all lines: first those that are clear, then those that are sharp, in their order, and those that
     /// close gaps.

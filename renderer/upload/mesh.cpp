@@ -9,13 +9,12 @@
 #include "renderer/upload/drawntriangles.h"
 #include "renderer/upload/instancebuffer.h"
 #include "renderer/upload/sheetnormals.h"
+#include "renderer/upload/vertexnumbers.h"
 #include "renderer/upload/vertexrecords.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <span>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -63,20 +62,6 @@ struct PartVertex {
 };
 static_assert(sizeof(PartVertex) == 28);
 
-/// Numbers from 0 on for vertices, of which there may be few in a large mesh.
-std::vector<int> numbersOf(std::span<const std::uint32_t> vertices)
-{
-    std::vector<std::uint32_t> sorted(vertices.begin(), vertices.end());
-    std::ranges::sort(sorted);
-    sorted.erase(std::ranges::unique(sorted).begin(), sorted.end());
-    std::vector<int> numbers;
-    numbers.reserve(vertices.size());
-    for (const std::uint32_t vertex : vertices) {
-        numbers.push_back(static_cast<int>(std::ranges::lower_bound(sorted, vertex) - sorted.begin()));
-    }
-    return numbers;
-}
-
 } // namespace
 
 void Mesh::load(const VertexBuffer& vertices, const IndexBuffer& indices)
@@ -113,15 +98,17 @@ void Mesh::loadBody(const VertexBuffer& vertices, const IndexBuffer& indices, fl
     upload(vertices, layout, triangles, copies);
 
     std::vector<LineMesh::Piece> edges;
-    std::vector<std::uint32_t> ends;
+    std::vector<int> ends;
+    VertexNumbers numbers(static_cast<std::size_t>(vertices.getNumberOfVertices()));
     edges.reserve(creases.getEdges().size());
     ends.reserve(2 * creases.getEdges().size());
     for (const auto& [from, to] : creases.getEdges()) {
         edges.push_back({records.position(from), records.position(to), records.u(from), records.u(to)});
-        ends.insert(ends.end(), {from, to});
+        ends.push_back(static_cast<int>(numbers.of(from)));
+        ends.push_back(static_cast<int>(numbers.of(to)));
     }
     m_featureEdges.emplace();
-    m_featureEdges->load(edges, numbersOf(ends));
+    m_featureEdges->load(edges, ends);
 }
 
 void Mesh::upload(const VertexBuffer& vertices, const VertexLayout& layout, const DrawnTriangles& triangles,

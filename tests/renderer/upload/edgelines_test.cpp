@@ -18,7 +18,7 @@ Vector3f onGrid(std::uint32_t vertex)
 
 Edges edgesOf(const Edges& clear, const Edges& sharp, const Edges& blunt, float leastLength = 0.0f)
 {
-    return EdgeLines({clear, sharp, blunt}, onGrid, leastLength).getEdges();
+    return EdgeLines({clear, sharp, blunt}, 60, onGrid, leastLength).getEdges();
 }
 
 TEST(EdgeLines, closesGapsStraightAheadOnly)
