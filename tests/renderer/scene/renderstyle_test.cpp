@@ -324,6 +324,30 @@ TEST_F(RenderStyleTest, ambientLightIsWeakerInAnInnerCornerAndTheSameOnAFlatPlat
     EXPECT_EQ(corner.countDrawn(0, 0, c_size, c_size), plain.countDrawn(0, 0, c_size, c_size));
 }
 
+TEST_F(RenderStyleTest, theShadeInFrontOfSomethingSmallHasNoPattern)
+{
+    m_canvas.resize(800, 800);
+    m_scene.addSquare(1, 0xc0c0c0);
+    add(2, bodyOf({{0.48f, 0.5f, 0.0f}, {0.52f, 0.5f, 0.0f}, {0.52f, 0.5f, 0.04f}, {0.48f, 0.5f, 0.04f}},
+                  {{0, 1, 2}, {0, 2, 3}}));
+    lookFrom(m_canvas, -90.0, 45.0);
+    const Picture picture = pictureIn(c_studio);
+    const auto [x0, y0] = pixelOf(m_canvas, {0.5f, 0.5f, 0.0f});
+    // Shade that changes evenly has small second differences.
+    int roughest = 0;
+    int darkest = 255;
+    for (int y = static_cast<int>(y0) + 8; y < static_cast<int>(y0) + 40; ++y) {
+        for (int x = static_cast<int>(x0) - 40; x < static_cast<int>(x0) + 40; ++x) {
+            const int here = brightness(picture.at(x, y));
+            roughest = std::max(
+                roughest, std::abs(brightness(picture.at(x - 4, y)) - 2 * here + brightness(picture.at(x + 4, y))));
+            darkest = std::min(darkest, here);
+        }
+    }
+    EXPECT_LE(roughest, 4);
+    EXPECT_LT(darkest, 190);
+}
+
 TEST_F(RenderStyleTest, studioLightKeepsHueAndSaturationWherePlainLightClips)
 {
     auto& light = *m_scene.scene->getSceneLight();
