@@ -3,6 +3,7 @@
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/canvas/axissetup.h"
 #include "renderer/axes/axisscale.h"
+#include "renderer/axes/degreeaxis.h"
 #include "renderer/axes/labelplacer.h"
 #include "renderer/axes/roundview.h"
 #include "renderer/axes/ticks.h"
@@ -194,10 +195,22 @@ private:
                        m_input.camera.getActualMinY(), m_input.camera.getActualMaxY());
     }
 
+    AxisScale xScale() const
+    {
+        AxisScale scale =
+            scaleOf(limitX(m_area.x), limitX(m_area.x + m_area.width), toDouble(m_right - m_left),
+                    m_setup.getXAxisLog(), m_setup.getXAxisSpacing(), m_setup.getExtraX(), &LabelSize::width);
+        scale.steps = stepsOf(m_setup.getXAxisTitle());
+        return scale;
+    }
+
     AxisScale yScale() const
     {
-        return scaleOf(limitY(m_area.y + m_area.height), limitY(m_area.y), toDouble(m_bottom - m_top),
-                       m_setup.getYAxisLog(), m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
+        AxisScale scale =
+            scaleOf(limitY(m_area.y + m_area.height), limitY(m_area.y), toDouble(m_bottom - m_top),
+                    m_setup.getYAxisLog(), m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
+        scale.steps = stepsOf(m_setup.getYAxisTitle());
+        return scale;
     }
 
     /// In the one-dimensional mode the height of the view has no meaning.
@@ -208,9 +221,7 @@ private:
 
     void layoutStraight()
     {
-        const AxisScale x =
-            scaleOf(limitX(m_area.x), limitX(m_area.x + m_area.width), toDouble(m_right - m_left),
-                    m_setup.getXAxisLog(), m_setup.getXAxisSpacing(), m_setup.getExtraX(), &LabelSize::width);
+        const AxisScale x = xScale();
         const AxisScale y = yScale();
         const AxisTicks xTicks = makeAxisTicks(x);
         const AxisTicks yTicks = ticksOfY(y);
@@ -273,7 +284,7 @@ private:
         if (!scale.isLog && scale.extra.empty() && ticks.ticks.size() > 1) {
             const double closest =
                 c_minorTickDistance * static_cast<double>(m_room.em) / scale.length * (scale.high - scale.low);
-            for (const double value : makeMinorValues(scale.low, scale.high, first, step, closest)) {
+            for (const double value : makeMinorValues(scale.low, scale.high, first, step, closest, scale.steps)) {
                 positions.push_back(value);
             }
         }

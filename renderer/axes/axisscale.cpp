@@ -1,7 +1,5 @@
 #include "renderer/axes/axisscale.h"
 
-#include "renderer/axes/ticks.h"
-
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -174,7 +172,7 @@ private:
     void fillLinear()
     {
         takeBest([this](int count) {
-            const Ticks ticks = makeTicks(m_scale.low, m_scale.high, count, m_scale.digits);
+            const Ticks ticks = makeTicks(m_scale.low, m_scale.high, count, m_scale.digits, m_scale.steps);
             return AxisTicks{ticksOf(ticks), ticks.exponent};
         });
     }
