@@ -55,6 +55,20 @@ BoundingBox boxOfInteractive(const vxgraphics3d::SceneGraphPlot& plot)
     return points.get();
 }
 
+struct RaisedPlot {
+    const vxgraphics3d::SceneGraphPlot& plot;
+    /// As far as its own values say.
+    std::optional<double> factor;
+};
+
+/// The factor of the heights of a plot: by its own values, or that of a plot with the same heights.
+std::optional<double> factorOf(const RaisedPlot& plot, const std::vector<RaisedPlot>& all)
+{
+    const auto isTwin = [&](const RaisedPlot& other) { return other.factor && haveSameHeights(plot.plot, other.plot); };
+    const auto twin = plot.factor ? all.end() : std::ranges::find_if(all, isTwin);
+    return twin == all.end() ? plot.factor : twin->factor;
+}
+
 const SceneGraphPlotGraph* graphOf(const SceneItem& item)
 {
     const auto* plot = std::get_if<PlotItem>(&item);
@@ -146,22 +160,24 @@ void visitPoints(const std::vector<SceneItem>& items, const Frame& frame, const 
 
 AxisUnits heightUnitsOf(const std::vector<SceneItem>& items)
 {
-    std::optional<AxisUnits> shared;
+    std::vector<RaisedPlot> raised;
     for (const SceneItem& item : items) {
         const auto* shown = std::get_if<PlotItem>(&item);
         if (shown == nullptr) {
             return {};
         }
-        const vxgraphics3d::SceneGraphPlot& plot = *shown->plot;
-        if (!(plot.getBoundingBox().getHalfSizeZ() > 0.0f)) {
-            continue;
+        if (shown->plot->getBoundingBox().getHalfSizeZ() > 0.0f) {
+            raised.push_back({*shown->plot, heightFactorOf(*shown->plot)});
         }
-        const std::optional<double> factor = heightFactorOf(plot);
+    }
+    std::optional<AxisUnits> shared;
+    for (const RaisedPlot& plot : raised) {
+        const std::optional<double> factor = factorOf(plot, raised);
         if (!factor) {
             return {};
         }
-        const AxisUnits units = {static_cast<double>(plot.getPlotPlaneOffset()),
-                                 *factor * static_cast<double>(plot.getHeightScale())};
+        const AxisUnits units = {static_cast<double>(plot.plot.getPlotPlaneOffset()),
+                                 *factor * static_cast<double>(plot.plot.getHeightScale())};
         if (shared && std::abs(shared->scale - units.scale) > c_sameScale * units.scale) {
             return {};
         }

@@ -4,6 +4,7 @@
 #include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/plots/vector/scenegraphplotsphere3d.h"
+#include "graphics3d/plots/vector/scenegraphplottube2d.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/frame/appearance.h"
 #include "renderer/frame/view.h"
@@ -30,6 +31,7 @@ using vxgraphics3d::PostRecord;
 using vxgraphics3d::SceneGraphPlotSphere3d;
 using vxgraphics3d::SceneGraphPlotSurface2d;
 using vxgraphics3d::SceneGraphPlotSurface3d;
+using vxgraphics3d::SceneGraphPlotTube2d;
 
 /// The margin at the border of a picture: 0.8 of the 12 pixels of the numbers of legends.
 constexpr int c_border = 10;
@@ -305,17 +307,22 @@ TEST_F(SceneFitTest, theFrameOfAFittedMapFollowsItsData)
 
 TEST_F(SceneFitTest, heightsAreDataWhereAllPlotsShareTheirFactor)
 {
-    const auto raised = [&](int id, const std::vector<double>& colors) {
-        boost::shared_ptr<SceneGraphPlotSurface2d> plot(new SceneGraphPlotSurface2d(id));
+    const auto fill = [&](const boost::shared_ptr<vxgraphics3d::SceneGraphPlot>& plot,
+                          const std::vector<std::vector<int>>& elements, const std::vector<double>& colors,
+                          const std::vector<double>& heights = {100, 200, 500, 300}) {
         m_scene.group->addPlot(plot);
-        plot->fillPlot(
-            PostRecord()
-                .role(PostDataObject::ColorData, 0)
-                .role(PostDataObject::HeightData, 1)
-                .bounds({{0, 2}, {0, 2}})
-                .group({{0, 2, 2, 0}, {0, 0, 2, 2}}, {{0, 0}, {1, 2}, {2, 3}}, {colors, {100, 200, 500, 300}}));
+        plot->fillPlot(PostRecord()
+                           .role(PostDataObject::ColorData, 0)
+                           .role(PostDataObject::HeightData, 1)
+                           .role(PostDataObject::RadiusData, 2)
+                           .bounds({{0, 2}, {0, 2}})
+                           .group({{0, 2, 2, 0}, {0, 0, 2, 2}}, elements, {colors, heights, {0.3, 0.1, 0.2, 0.1}}));
         plot->setHeightScale(0.4f);
         plot->setPlotPlaneOffset(0.1f);
+    };
+    const auto raised = [&](int id, const std::vector<double>& colors) {
+        boost::shared_ptr<SceneGraphPlotSurface2d> plot(new SceneGraphPlotSurface2d(id));
+        fill(plot, {{0, 0}, {1, 2}, {2, 3}}, colors);
         return plot;
     };
     const auto units = [&] { return heightUnitsOf(collectItems(*m_scene.root)); };
@@ -329,8 +336,22 @@ TEST_F(SceneFitTest, heightsAreDataWhereAllPlotsShareTheirFactor)
     EXPECT_EQ(units().coordinateOf(500.0), 500.0) << "scales differ";
     two->setActive(false);
     EXPECT_NEAR(units().coordinateOf(500.0), 0.9, 1e-5);
-    raised(3, {1, 2, 5, 4});
+    const auto slope = raised(3, {1, 2, 5, 4});
+    EXPECT_NEAR(units().coordinateOf(500.0), 0.9, 1e-5) << "as high as another one at the same points";
+    one->setActive(false);
     EXPECT_EQ(units().coordinateOf(500.0), 500.0) << "its colours are not its heights";
+    boost::shared_ptr<SceneGraphPlotTube2d> tube(new SceneGraphPlotTube2d(4));
+    fill(tube, {{0, 1, 2}, {1, 2, 3}}, {100, 200, 500, 300});
+    EXPECT_NEAR(units().coordinateOf(500.0), 0.9, 1e-5) << "the middle lines of tubes";
+    tube->fillPlot(PostRecord()
+                       .role(PostDataObject::ColorData, 0)
+                       .role(PostDataObject::HeightData, 0)
+                       .role(PostDataObject::RadiusData, 0)
+                       .bounds({{0, 2}, {0, 2}})
+                       .group({{0, 2, 2, 0}, {0, 0, 2, 2}}, {{0, 1, 2}, {1, 2, 3}}, {{100, 200, 500, 400}}));
+    EXPECT_EQ(units().coordinateOf(500.0), 500.0) << "one height differs";
+    slope->setActive(false);
+    EXPECT_NEAR(units().coordinateOf(500.0), 0.9, 1e-5);
 }
 
 TEST_F(SceneFitTest, aLargerSceneReachesTheBordersAndIsFramedWhereItIsCut)
