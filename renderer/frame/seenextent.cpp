@@ -119,10 +119,11 @@ void PointBox::add(const PointRun& points)
     const float* p = points.first;
     for (std::size_t i = 0; i < points.count; ++i, p += points.stride) {
         const float point[3] = {p[0], p[1], p[2] * points.heightScale + points.planeOffset};
-        if (std::abs(point[0]) + std::abs(point[1]) + std::abs(point[2]) < c_farthest) {
+        const float radius = points.radius != nullptr ? points.radius[i * points.stride] * points.radiusScale : 0.0f;
+        if (radius >= 0.0f && std::abs(point[0]) + std::abs(point[1]) + std::abs(point[2]) + radius < c_farthest) {
             for (std::size_t axis = 0; axis < 3; ++axis) {
-                m_low[axis] = std::min(m_low[axis], point[axis]);
-                m_high[axis] = std::max(m_high[axis], point[axis]);
+                m_low[axis] = std::min(m_low[axis], point[axis] - radius * m_radii[axis]);
+                m_high[axis] = std::max(m_high[axis], point[axis] + radius * m_radii[axis]);
             }
         }
     }

@@ -47,14 +47,20 @@ private:
     float m_top = -std::numeric_limits<float>::max();
 };
 
-/// The box of the points that are finite, without radii.
+/// The box of the points that are finite.
 class PointBox {
 public:
+    /// Without the radii of points.
+    PointBox() = default;
+    /// @param radiusX,radiusY how far a radius of 1 reaches along x and y
+    PointBox(float radiusX, float radiusY) : m_radii{radiusX, radiusY, 0.0f} {}
+
     void add(const PointRun& points);
     /// Empty without points.
     vxgraphics3d::BoundingBox get() const;
 
 private:
+    std::array<float, 3> m_radii = {};
     std::array<float, 3> m_low = {c_none, c_none, c_none};
     std::array<float, 3> m_high = {-c_none, -c_none, -c_none};
 

@@ -9,7 +9,7 @@
 #include "renderer/decoration/axespainter.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/seenextent.h"
-#include "renderer/plots/plotpoints.h"
+#include "renderer/scene/flatextent.h"
 #include "renderer/scene/framelayout.h"
 #include "renderer/scene/sceneitems.h"
 
@@ -262,16 +262,7 @@ void fitCamera(Camera3d& camera, const Frame& frame, const FrameLayout& layout)
 
 void fitCamera(Camera2d& camera, const FrameLayout& layout)
 {
-    // The boxes of graphs say how they are drawn; those of other plots do not enclose their arrows.
-    PointBox drawn;
-    for (const SceneItem& item : layout.items) {
-        const auto* plot = std::get_if<PlotItem>(&item);
-        if (plot != nullptr && plot->plot->getType() != PlotType::graph) {
-            visitPlotPoints(*plot->plot, [&drawn](const PointRun& points) { drawn.add(points); });
-        }
-    }
-    BoundingBox box = layout.box;
-    box.merge(drawn.get());
+    const BoundingBox box = flatExtent(layout, camera);
     const PixelArea& whole = layout.area.whole;
     const PixelArea& inner = layout.area.inner;
     // Half of the margin on each side, as in space.

@@ -3,6 +3,8 @@
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/plots/vector/scenegraphplotarrow2d.h"
+#include "graphics3d/plots/vector/scenegraphplotsphere2d.h"
 #include "graphics3d/plots/vector/scenegraphplotsphere3d.h"
 #include "graphics3d/plots/vector/scenegraphplottube2d.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
@@ -28,6 +30,8 @@ using vxdatacarrier::PostDataObject;
 using vxgraphics3d::Camera3d;
 using vxgraphics3d::Canvas3dGlobalSettings;
 using vxgraphics3d::PostRecord;
+using vxgraphics3d::SceneGraphPlotArrow2d;
+using vxgraphics3d::SceneGraphPlotSphere2d;
 using vxgraphics3d::SceneGraphPlotSphere3d;
 using vxgraphics3d::SceneGraphPlotSurface2d;
 using vxgraphics3d::SceneGraphPlotSurface3d;
@@ -283,9 +287,9 @@ TEST_F(SceneFitTest, theFrameOfAFittedMapFollowsItsData)
     auto& flat = *m_canvas.getCanvas3dSettings()->camera2d();
     flat.resetAxisViewScales();
     m_canvas.getCanvas3dSettings()->getGridBoxSettingsPtr()->setShowGrid(false);
-    // Rows between the data and the line of the frame above them.
-    const auto rowsAbove = [&](const Picture& picture) {
-        const auto [x, y] = pixelOf(m_canvas, {53.0f, -20.0f, 0.0f});
+    // Rows between the highest data and the line of the frame above them.
+    const auto rowsAbove = [&](const Picture& picture, float highest = -20.0f) {
+        const auto [x, y] = pixelOf(m_canvas, {53.0f, highest, 0.0f});
         int count = 0;
         for (int row = static_cast<int>(y) - 2; row >= 0 && picture.at(static_cast<int>(x), row) == c_white; --row) {
             ++count;
@@ -303,6 +307,38 @@ TEST_F(SceneFitTest, theFrameOfAFittedMapFollowsItsData)
     flat.mergeAdditionalTransformation();
     const Picture smaller = drawnAsIs(m_canvas);
     EXPECT_GT(rowsAbove(smaller), 80) << "a view of its own is shown whole";
+
+    // What is larger than the box of its plot.
+    const auto expectFrame = [&](const boost::shared_ptr<vxgraphics3d::SceneGraphPlot>& larger, float highest) {
+        larger->setColor(vxgraphics3d::Color::fromRgb(0xff8080));
+        EXPECT_NEAR(rowsAbove(drawn(m_canvas), highest), margin - 2, 2) << "plot " << larger->getId();
+        m_scene.group->removeAllPlots();
+    };
+    m_scene.group->removeAllPlots();
+    const auto line = PostRecord()
+                          .role(PostDataObject::ColorData, 0)
+                          .role(PostDataObject::RadiusData, 0)
+                          .bounds({{0, 100}, {-30, -30}})
+                          .group({{0, 53, 100}, {-30, -30, -30}}, {{0, 1}, {1, 2}}, {{9, 9, 9}});
+    boost::shared_ptr<SceneGraphPlotTube2d> tube(new SceneGraphPlotTube2d(2));
+    m_scene.group->addPlot(tube);
+    tube->fillPlot(line);
+    tube->setRadiusScaleFactor(2.0f);
+    expectFrame(tube, -12.0f);
+    boost::shared_ptr<SceneGraphPlotSphere2d> discs(new SceneGraphPlotSphere2d(3));
+    m_scene.group->addPlot(discs);
+    discs->fillPlot(line);
+    discs->setRadiusScaleFactor(2.0f);
+    expectFrame(discs, -12.0f);
+    boost::shared_ptr<SceneGraphPlotArrow2d> arrows(new SceneGraphPlotArrow2d(4));
+    m_scene.group->addPlot(arrows);
+    arrows->setHeadRadius(0.02f);
+    arrows->setAnchorPoint(SceneGraphPlotArrow2d::AnchorPoint::tail);
+    arrows->allocate(2);
+    arrows->appendArrow(0.0f, -30.0f, 100.0f, 0.0f, 0.0f);
+    arrows->appendArrow(53.0f, -30.0f, 0.0f, 15.0f, 0.0f);
+    arrows->setBoundingBox({0.0f, 53.0f, -30.0f, -30.0f, 0.0f, 0.0f});
+    expectFrame(arrows, -15.0f);
 }
 
 TEST_F(SceneFitTest, heightsAreDataWhereAllPlotsShareTheirFactor)
