@@ -35,6 +35,7 @@ constexpr float c_labelPadding = 0.6f;
 constexpr float c_tickDistanceAlong = 5.0f;
 constexpr float c_tickDistanceAcross = 3.0f;
 constexpr float c_spokeDistance = 6.0f;
+constexpr double c_closestLines = 0.33;
 
 constexpr const char* c_degree = "\xC2\xB0";
 
@@ -137,6 +138,7 @@ private:
         scale.digits = m_input.digits;
         scale.tickDistance =
             static_cast<double>((extent == &LabelSize::width ? c_tickDistanceAlong : c_tickDistanceAcross) * m_room.em);
+        scale.closestLines = c_closestLines * static_cast<double>(m_room.em);
         scale.labelLength = [this, extent](const std::string& markup) {
             return static_cast<double>(sizeOfMarkup(markup, m_metrics.ticks).*extent + c_labelPadding * m_room.em);
         };

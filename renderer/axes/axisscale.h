@@ -26,6 +26,8 @@ struct AxisScale {
     double length = 0.0;
     /// Distance in pixels that suits neighbouring labels well.
     double tickDistance = 70.0;
+    /// The smallest distance of lines in pixels.
+    double closestLines = 4.0;
     /// What a label takes along the scale in pixels, including the gap to the next one.
     std::function<double(const std::string& markup)> labelLength;
 };
@@ -48,8 +50,8 @@ struct AxisTicks {
 
 /// Ticks whose labels have space next to each other.
 ///
-/// Linear scales take multiples of a round step, or of the spacing; where that gives more than one
-/// line every four pixels, of a whole multiple of it. A spacing of which fewer than two multiples are in sight is not
+/// Linear scales take multiples of a round step, or of the spacing; where lines would
+/// be too close, of a whole multiple of it. A spacing of which fewer than two multiples are in sight is not
 /// used. Logarithmic scales take decades, every second, fifth and so on where there are many, with minor lines between
 /// them; where few decades are in sight they take plain numbers. At least two ticks are labelled wherever two labels
 /// have space. Extra positions take precedence where labels would overlap. Ends that are not finite or not in rising

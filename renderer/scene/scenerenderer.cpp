@@ -150,7 +150,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
         frame.camera.setBoundingBox(layout.box);
         if (hasFrameOfData(frame)) {
             const BoundingBox extent = flatExtent(layout, frame.camera2d());
-            layout.area.frame = frameOfData(frame.camera2d(), area, extent, marginOfFit());
+            layout.area.frame =
+                frameOfData(frame.camera2d(), area, extent, marginOfFit(), static_cast<double>(frame.appearance.scale));
         }
         const PixelArea& enclosed = layout.area.frame;
         const float middle = static_cast<float>(enclosed.x) + 0.5f * static_cast<float>(enclosed.width);
