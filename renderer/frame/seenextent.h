@@ -24,6 +24,8 @@ public:
 
     void add(const PointRun& points);
     void add(const vxgraphics3d::Vector3f& point);
+    /// A sphere in coordinates of the eye.
+    void addAtEye(const vxgraphics3d::Vector3f& center, float radius);
 
     bool isEmpty() const { return !(m_left <= m_right && m_bottom <= m_top); }
     double left() const { return static_cast<double>(m_left); }

@@ -8,8 +8,10 @@
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/frame/seenextent.h"
 #include "renderer/objects/objectbox.h"
+#include "renderer/objects/objectlabels.h"
 #include "renderer/objects/objectpoints.h"
 #include "renderer/plots/heightfactor.h"
+#include "renderer/plots/plotlabels.h"
 #include "renderer/plots/plotpoints.h"
 
 #include <boost/pointer_cast.hpp>
@@ -53,6 +55,12 @@ BoundingBox boxOfInteractive(const vxgraphics3d::SceneGraphPlot& plot)
         visitPlotPoints(plot, [&points](const PointRun& run) { points.add(run); });
     }
     return points.get();
+}
+
+const vxgraphics3d::MarkingModeSetup& markingsOf(const Frame& frame)
+{
+    return vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getMarkingSetups().getMarkingModeSetup(
+        frame.appearance.markingMode);
 }
 
 struct RaisedPlot {
@@ -142,18 +150,33 @@ BoundingBox boxInSpace(const SceneGraphRoot& root, const std::vector<SceneItem>&
     return box;
 }
 
+std::vector<SceneLabel> labelsOf(const std::vector<SceneItem>& items, const Frame& frame)
+{
+    const unsigned mask = frame.canvas.getRenderMask();
+    std::vector<SceneLabel> labels;
+    const TakeLabel take = [&labels](const SceneLabel& label) { labels.push_back(label); };
+    for (const SceneItem& item : items) {
+        if (const auto* plot = std::get_if<PlotItem>(&item)) {
+            if ((mask & RenderPlots) != 0) {
+                visitPlotLabels(*plot->plot, take);
+            }
+        } else if ((mask & RenderObjects) != 0 && frame.appearance.showLabels) {
+            visitObjectLabels(*std::get<ObjectItem>(item), markingsOf(frame), take);
+        }
+    }
+    return labels;
+}
+
 void visitPoints(const std::vector<SceneItem>& items, const Frame& frame, const TakePoints& take)
 {
     const unsigned mask = frame.canvas.getRenderMask();
-    const auto& markings = vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getMarkingSetups().getMarkingModeSetup(
-        frame.appearance.markingMode);
     for (const SceneItem& item : items) {
         if (const auto* plot = std::get_if<PlotItem>(&item)) {
             if ((mask & RenderPlots) != 0) {
                 visitPlotPoints(*plot->plot, take);
             }
         } else if ((mask & RenderObjects) != 0) {
-            visitObjectPoints(*std::get<ObjectItem>(item), markings, take);
+            visitObjectPoints(*std::get<ObjectItem>(item), markingsOf(frame), take);
         }
     }
 }

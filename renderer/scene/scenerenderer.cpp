@@ -149,7 +149,7 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
                                    area.width, area.height);
         frame.camera.setBoundingBox(layout.box);
         if (hasFrameOfData(frame)) {
-            const BoundingBox extent = flatExtent(layout, frame.camera2d());
+            const BoundingBox extent = FlatExtent(frame, layout, frame.camera2d()).withLabels(frame.camera2d());
             layout.area.frame =
                 frameOfData(frame.camera2d(), area, extent, marginOfFit(), static_cast<double>(frame.appearance.scale));
         }

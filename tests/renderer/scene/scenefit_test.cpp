@@ -3,7 +3,12 @@
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/lights/directionlightsource.h"
+#include "graphics3d/lights/pointlightsource.h"
+#include "graphics3d/lights/scenelight.h"
+#include "graphics3d/lights/scenesettingslight.h"
 #include "graphics3d/plots/vector/scenegraphplotarrow2d.h"
+#include "graphics3d/plots/vector/scenegraphplotpointlabel.h"
 #include "graphics3d/plots/vector/scenegraphplotsphere2d.h"
 #include "graphics3d/plots/vector/scenegraphplotsphere3d.h"
 #include "graphics3d/plots/vector/scenegraphplottube2d.h"
@@ -31,6 +36,7 @@ using vxgraphics3d::Camera3d;
 using vxgraphics3d::Canvas3dGlobalSettings;
 using vxgraphics3d::PostRecord;
 using vxgraphics3d::SceneGraphPlotArrow2d;
+using vxgraphics3d::SceneGraphPlotPointLabel;
 using vxgraphics3d::SceneGraphPlotSphere2d;
 using vxgraphics3d::SceneGraphPlotSphere3d;
 using vxgraphics3d::SceneGraphPlotSurface2d;
@@ -270,6 +276,98 @@ TEST_F(SceneFitTest, aFlatSceneFillsItsFrame)
         EXPECT_NEAR(right - left, bottom - top, 0.5) << hasAxes;
         EXPECT_NEAR(top + bottom, 2 * area.y + area.height, 1.0) << hasAxes;
     }
+}
+
+TEST_F(SceneFitTest, labelsCount)
+{
+    boost::shared_ptr<SceneGraphPlotPointLabel> labels(new SceneGraphPlotPointLabel(3, 1));
+    m_scene.group->addPlot(labels);
+    labels->setColor(vxgraphics3d::Color::fromRgb(0));
+    labels->setLabels({"the first of all points", "a point in the middle", "the last"});
+    labels->fillPlot(PostRecord().bounds({{0, 4}, {0, 4}, {0, 4}}).group({{0, 2, 4}, {0, 2, 4}, {0, 2, 4}}, {}));
+    for (const bool hasAxes : {false, true}) {
+        hasAxes ? m_canvas.getCanvas3dSettings()->addRenderMask(RenderAxes)
+                : m_canvas.getCanvas3dSettings()->removeRenderMask(RenderAxes);
+        for (const auto& [azimuth, elevation] :
+             {std::pair(-60.0, 30.0), std::pair(20.0, 10.0), std::pair(-90.0, 90.0)}) {
+            lookFrom(m_canvas, azimuth, elevation);
+            expectFit(drawn(m_canvas), std::to_string(azimuth) + (hasAxes ? " with axes" : ""));
+        }
+    }
+
+    // In a flat view they stay within the frame, which follows them.
+    showFlat(m_canvas, m_scene);
+    m_canvas.getCanvas3dSettings()->getGridBoxSettingsPtr()->setShowGrid(false);
+    m_canvas.getCanvas3dSettings()->camera2d()->resetAxisViewScales();
+    m_canvas.zoomExtents();
+    const auto insideFrame = [&](const Picture& picture) {
+        // The column of the line at the left, and from the middle of the picture to the line at the right.
+        const PixelArea& area = m_canvas.getView().area;
+        const auto isLine = [&](int x) {
+            int dark = 0;
+            for (int y = area.y; y < area.y + area.height; ++y) {
+                dark += picture.at(x, y)[0] < 100 ? 1 : 0;
+            }
+            return dark > area.height - 3;
+        };
+        int left = area.x;
+        int right = area.x + area.width;
+        while (left < right && !isLine(left)) {
+            ++left;
+        }
+        while (right > left && !isLine(right)) {
+            --right;
+        }
+        Picture inside = {right - left - 3, area.height - 4, {}};
+        for (int y = 0; y < inside.height; ++y) {
+            for (int x = 0; x < inside.width; ++x) {
+                for (const int channel : picture.at(left + 2 + x, area.y + 2 + y)) {
+                    inside.bytes.push_back(static_cast<std::uint8_t>(channel));
+                }
+                inside.bytes.push_back(255);
+            }
+        }
+        return inside;
+    };
+    const Picture flat = insideFrame(drawn(m_canvas));
+    const Drawn texts(flat);
+    const int margin = static_cast<int>(std::lround(0.5 * 0.05 / 1.05 * flat.height));
+    EXPECT_NEAR(texts.left, margin, 4);
+    EXPECT_NEAR(flat.width - texts.right, margin, 4);
+    EXPECT_GE(texts.top, margin - 3);
+    EXPECT_GE(flat.height - texts.bottom, margin - 3);
+    EXPECT_GT(texts.width(), 150);
+}
+
+TEST_F(SceneFitTest, markersOfLightsCount)
+{
+    m_canvas.getCanvas3dSettings()->setRenderMask(RenderPlots | RenderBackground | RenderLightMarkers);
+    m_canvas.getSceneSettings()->getLight()->setRenderLightMarkers(true);
+    add(globe(1.0));
+    lookFrom(m_canvas, 20.0, 30.0);
+    const Drawn alone(drawn(m_canvas));
+    vxgraphics3d::SceneLight& light = *m_scene.scene->getSceneLight();
+    auto& lamp = static_cast<vxgraphics3d::PointLightSource&>(*light.lightSource(light.createPointLight()));
+    lamp.setMarkerVisibility(true);
+    lamp.setPosition(true, vxgraphics3d::Vector3f(3.0f, -4.0f, 0.5f));
+    for (const auto& [azimuth, elevation] : {std::pair(-60.0, 30.0), std::pair(20.0, 10.0), std::pair(130.0, 70.0)}) {
+        lookFrom(m_canvas, azimuth, elevation);
+        expectFit(drawn(m_canvas), "from " + std::to_string(azimuth));
+    }
+    // The arrow of a direction comes as near as it has to, with the lines beside it.
+    auto& sun = static_cast<vxgraphics3d::DirectionLightSource&>(*light.lightSource(light.createDirectionLight()));
+    sun.setMarkerVisibility(true);
+    sun.setFromDirection(true, vxgraphics3d::Vector3f(0.2f, -0.6f, 1.0f));
+    lookFrom(m_canvas, -60.0, 30.0);
+    const Drawn all(drawn(m_canvas));
+    EXPECT_TRUE(all.left > 3 && all.top > 3 && all.right < 477 && all.bottom < 357) << all.left << ' ' << all.top;
+    sun.setMarkerVisibility(false);
+    // One that is far away leaves half of the size to the scene.
+    lamp.setPosition(true, vxgraphics3d::Vector3f(300.0f, -7.0f, 0.0f));
+    lookFrom(m_canvas, -90.0, 10.0);
+    drawn(m_canvas);
+    const double height = pixelOf(m_canvas, {3.0f, -7.0f, -1.0f})[1] - pixelOf(m_canvas, {3.0f, -7.0f, 1.0f})[1];
+    EXPECT_NEAR(height / alone.height(), 0.5, 0.03);
 }
 
 TEST_F(SceneFitTest, theFrameOfAFittedMapFollowsItsData)
