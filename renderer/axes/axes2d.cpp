@@ -35,7 +35,8 @@ constexpr float c_labelPadding = 0.6f;
 constexpr float c_tickDistanceAlong = 5.0f;
 constexpr float c_tickDistanceAcross = 3.0f;
 constexpr float c_spokeDistance = 6.0f;
-constexpr double c_closestLines = 0.33;
+/// In pixels of the screen.
+constexpr double c_closestLines = 4.0;
 
 constexpr const char* c_degree = "\xC2\xB0";
 
@@ -138,7 +139,7 @@ private:
         scale.digits = m_input.digits;
         scale.tickDistance =
             static_cast<double>((extent == &LabelSize::width ? c_tickDistanceAlong : c_tickDistanceAcross) * m_room.em);
-        scale.closestLines = c_closestLines * static_cast<double>(m_room.em);
+        scale.closestLines = c_closestLines * m_input.pixel;
         scale.labelLength = [this, extent](const std::string& markup) {
             return static_cast<double>(sizeOfMarkup(markup, m_metrics.ticks).*extent + c_labelPadding * m_room.em);
         };
@@ -604,7 +605,7 @@ float widthOfNumbersIn(const PixelArea& area, const Axes2dInput& input, const Ro
     Camera2d camera = input.camera;
     camera.setRenderArea(input.pictureWidth, input.pictureHeight, area.x, input.pictureHeight - area.y - area.height,
                          area.width, area.height);
-    const Axes2dInput copy = {camera, input.setup, input.pictureWidth, input.pictureHeight, input.digits};
+    const Axes2dInput copy = {camera, input.setup, input.pictureWidth, input.pictureHeight, input.digits, input.pixel};
     const float step = c_labelStep * room.em;
     return std::ceil(Layouter(copy, area, metrics).widthOfYNumbers() / step) * step;
 }
