@@ -16,8 +16,7 @@ namespace vxrenderer {
 /// @param area what the camera draws to, not empty
 /// @param box of all that is drawn of the scene, in the units of the view
 /// @param margin that a fit leaves on each side, as a part of the area
-/// @param pixel pixels of the picture for a pixel of the screen, to which the view was fitted
 PixelArea frameOfData(const vxgraphics3d::Camera2d& camera, const PixelArea& area, const vxgraphics3d::BoundingBox& box,
-                      double margin, double pixel);
+                      double margin);
 
 } // namespace vxrenderer

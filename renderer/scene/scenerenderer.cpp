@@ -150,8 +150,7 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
         frame.camera.setBoundingBox(layout.box);
         if (hasFrameOfData(frame)) {
             const BoundingBox extent = FlatExtent(frame, layout, frame.camera2d()).withLabels(frame.camera2d());
-            layout.area.frame =
-                frameOfData(frame.camera2d(), area, extent, marginOfFit(), static_cast<double>(frame.appearance.scale));
+            layout.area.frame = frameOfData(frame.camera2d(), area, extent, marginOfFit());
         }
         const PixelArea& enclosed = layout.area.frame;
         const float middle = static_cast<float>(enclosed.x) + 0.5f * static_cast<float>(enclosed.width);
