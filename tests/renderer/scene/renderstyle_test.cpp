@@ -217,6 +217,33 @@ TEST_F(RenderStyleTest, theEdgesOfALineMeetWithoutAGap)
     }
 }
 
+TEST_F(RenderStyleTest, aLowStepHasNoSilhouetteAndAHighOneADarkOne)
+{
+    const RenderStyle style = {.creaseAngle = RenderStyle::c_widestAngle, .showFeatureEdges = true};
+    const auto plot = add(1, cube());
+    lookFrom(m_canvas, -90.0, 90.0);
+    const auto step = [&](float height) {
+        const std::vector<Vector3f> points = {{-1.0f, -1.0f, 0.0f},  {-1.0f, 1.0f, 0.0f},   {0.0f, -1.0f, 0.0f},
+                                              {0.0f, 1.0f, 0.0f},    {0.0f, -1.0f, height}, {0.0f, 1.0f, height},
+                                              {1.0f, -1.0f, height}, {1.0f, 1.0f, height}};
+        plot->fillPlot(bodyOf(points, {{0, 2, 3}, {0, 3, 1}, {2, 4, 5}, {2, 5, 3}, {4, 6, 7}, {4, 7, 5}}));
+        const Picture bare = pictureIn({.creaseAngle = RenderStyle::c_widestAngle});
+        const Picture picture = pictureIn(style);
+        float darkest = 1.0f;
+        for (float x = -0.05f; x < 0.05f; x += 0.005f) {
+            const Vector3f point(x, 0.0f, height);
+            darkest = std::min(darkest, static_cast<float>(brightness(at(picture, point))) /
+                                            static_cast<float>(brightness(at(bare, point))));
+        }
+        return darkest;
+    };
+    pictureIn(style);
+    const auto pixel =
+        static_cast<float>(1.0 / (pixelOf(m_canvas, {1.0f, 0.0f, 0.0f})[0] - pixelOf(m_canvas, {0.0f, 0.0f, 0.0f})[0]));
+    EXPECT_GT(step(3.0f * pixel), 0.98f);
+    EXPECT_LT(step(20.0f * pixel), 0.7f);
+}
+
 TEST_F(RenderStyleTest, silhouettesFollowTheOutlineInFrontOfOtherBodiesAndNothingInside)
 {
     add(1, globe(20));
