@@ -2,12 +2,10 @@
 
 #include "base/ustring.h"
 #include "graphics3d/cameras/axisorientationindicator.h"
-#include "graphics3d/foundation/matrixf.h"
 #include "renderer/axes/axislayout.h"
 #include "renderer/frame/contrast.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/view.h"
-#include "renderer/paint/linepainter.h"
 #include "renderer/text/titlemarkup.h"
 
 #include <algorithm>
@@ -84,11 +82,9 @@ TriadPainter::TriadPainter(const Frame& frame, const View& view, int pictureHeig
     }
 }
 
-void TriadPainter::drawAxes(const SolidPainter& painter, int width, int height) const
+void TriadPainter::drawAxes(DecorationCanvas& canvas) const
 {
-    vxgraphics3d::Matrixf toClip = pixelsToClip(width, height);
-    toClip.translate(m_originX, m_originY, 0.0f).scale(1.0f, -1.0f, 0.0f);
-    painter.draw(m_triad.solids(m_colors), toClip);
+    canvas.drawSolids(m_triad.solids(m_colors), {m_originX, m_originY});
 }
 
 void TriadPainter::drawLetters(DecorationCanvas& canvas) const
