@@ -83,8 +83,9 @@ public:
           m_flat(std::max(std::abs(static_cast<double>(m_axis.z)), c_flattest))
     {
         const bool isSeen = m_seen > c_flattest * m_radius;
-        m_along = isSeen ? Vector3f(static_cast<double>(m_whole.x) / m_seen, static_cast<double>(m_whole.y) / m_seen, 0.0)
-                         : Vector3f(1.0, 0.0, 0.0);
+        m_along = isSeen
+                      ? Vector3f(static_cast<double>(m_whole.x) / m_seen, static_cast<double>(m_whole.y) / m_seen, 0.0)
+                      : Vector3f(1.0, 0.0, 0.0);
         // The picture has y downwards.
         m_across = Vector3f(static_cast<double>(m_along.y), -static_cast<double>(m_along.x), 0.0);
         m_outwards = m_axis.cross(m_across);
