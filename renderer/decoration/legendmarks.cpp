@@ -289,4 +289,19 @@ std::string unitOf(const std::string& title)
     return unit;
 }
 
+std::string withoutUnit(const std::string& title)
+{
+    const std::string unit = unitOf(title);
+    const std::size_t at = unit.empty() ? std::string::npos : title.rfind(unit);
+    if (at == std::string::npos) {
+        return title;
+    }
+    // Before the unit there is a bracket or the word "in".
+    const std::string_view before = std::string_view(title).substr(0, at);
+    constexpr std::string_view c_in = " in ";
+    const std::size_t end = before.ends_with(c_in) ? at - c_in.size() : at - 1;
+    const std::size_t last = title.find_last_not_of(' ', end == 0 ? 0 : end - 1);
+    return last == std::string::npos ? title : title.substr(0, last + 1);
+}
+
 } // namespace vxrenderer

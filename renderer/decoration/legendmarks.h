@@ -70,4 +70,7 @@ std::vector<std::string> levelLabels(const std::vector<double>& levels, int digi
 /// The unit at the end of a title, as UTF-8: in brackets, or after the word "in". Empty if there is none.
 std::string unitOf(const std::string& title);
 
+/// A title without the unit at its end: `x` of `x in mm`.
+std::string withoutUnit(const std::string& title);
+
 } // namespace vxrenderer

@@ -3,6 +3,7 @@
 #include "base/ustring.h"
 #include "graphics3d/cameras/axisorientationindicator.h"
 #include "renderer/axes/axislayout.h"
+#include "renderer/decoration/legendmarks.h"
 #include "renderer/frame/contrast.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/view.h"
@@ -70,8 +71,8 @@ TriadPainter::TriadPainter(const Frame& frame, const View& view, int pictureHeig
     for (std::size_t i = 0; i < m_colors.size(); ++i) {
         const auto axis = static_cast<AxisOrientationIndicator::Axis>(i);
         m_colors[i] = distinctFrom(behind, indicator.getColor(axis));
-        m_letters[i].text = layoutTitle(parseTitle(vxbase::UString(plainText(indicator.getLabel(axis)))), letters,
-                                        {AxisLabel::c_noLimit, AxisLabel::c_noLimit});
+        m_letters[i].text = layoutTitle(parseTitle(vxbase::UString(plainText(withoutUnit(indicator.getLabel(axis))))),
+                                        letters, {AxisLabel::c_noLimit, AxisLabel::c_noLimit});
         inks[i] = inkOf(m_letters[i].text, letters);
         sizes[i] = {inks[i].right - inks[i].left + around, inks[i].bottom - inks[i].top + around};
     }

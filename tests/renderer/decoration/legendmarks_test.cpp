@@ -145,24 +145,26 @@ TEST(LevelLabels, haveOneFormatOrPowersOfTen)
     EXPECT_EQ(levelLabels({2e0, 2e3, 2e6}, 5), (Labels{"2\\times10^{0}", "2\\times10^{3}", "2\\times10^{6}"}));
 }
 
-TEST(UnitOf, aTitleIsInBracketsOrAfterIn)
+TEST(UnitOf, aTitleIsInBracketsOrAfterInAndLeavesTheName)
 {
     const struct {
         const char* title;
         const char* unit;
-    } cases[] = {{"Temperature in \\degree C", "\\degree C"},
-                 {"Stress (MPa)", "MPa"},
-                 {"Speed [m/s]", "m/s"},
-                 {"Depth in 100 m", "100 m"},
-                 {"Angle in degrees", "degrees"},
-                 {"Moment in kN m ", "kN m"},
-                 {"Height over 531 m", ""},
-                 {"Waves in water", ""},
-                 {"Summer in Paris", ""},
-                 {"Magnitude", ""},
-                 {"", ""}};
+        const char* name;
+    } cases[] = {{"Temperature in \\degree C", "\\degree C", "Temperature"},
+                 {"Stress (MPa)", "MPa", "Stress"},
+                 {"Speed [m/s]", "m/s", "Speed"},
+                 {"Depth in 100 m", "100 m", "Depth"},
+                 {"Angle in degrees", "degrees", "Angle"},
+                 {"Moment in kN m ", "kN m", "Moment"},
+                 {"Height over 531 m", "", "Height over 531 m"},
+                 {"Waves in water", "", "Waves in water"},
+                 {"Summer in Paris", "", "Summer in Paris"},
+                 {"Magnitude", "", "Magnitude"},
+                 {"", "", ""}};
     for (const auto& c : cases) {
         EXPECT_EQ(unitOf(c.title), c.unit) << c.title;
+        EXPECT_EQ(withoutUnit(c.title), c.name) << c.title;
     }
 }
 
