@@ -3,7 +3,7 @@ package com.vexane.gallery;
 import java.util.Arrays;
 import java.util.List;
 import java.util.Locale;
-import java.util.stream.IntStream;
+import java.util.stream.Stream;
 
 /**
  * A program with the pictures that it drew.
@@ -34,8 +34,8 @@ record Example(About about, String className, String source, List<Studio.Shot> s
     }
 
     List<Listing.Part> parts() {
-        return Listing.parts(source, shots.stream().flatMap(shot -> IntStream.of(shot.line(), documentsLine(shot)).boxed())
-                .toList());
+        return Listing.parts(source, shots.stream()
+                .flatMap(shot -> Stream.of(shot.line(), documentsLine(shot))).toList());
     }
 
     List<String> pages() {
