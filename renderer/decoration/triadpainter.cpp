@@ -44,7 +44,8 @@ Color distinctFrom(const Color& behind, const Color& color)
 Triad::Sizes sizesOf(const Frame& frame, const AxisOrientationIndicator& indicator)
 {
     const float length = frame.appearance.millimetres(indicator.getAxisLength());
-    const float shaft = std::max(1.0f, c_shaftRadius * frame.appearance.millimetres(indicator.getLineWidth()));
+    const float shaft =
+        std::max(frame.appearance.scale, c_shaftRadius * frame.appearance.millimetres(indicator.getLineWidth()));
     return {length, shaft, c_headRadius * shaft, c_headLength * length};
 }
 

@@ -24,6 +24,7 @@
 #include "renderer/overlays/shapepainter.h"
 #include "renderer/paint/cutframe.h"
 #include "renderer/paint/paintcontext.h"
+#include "renderer/scene/flatextent.h"
 #include "renderer/scene/scenefit.h"
 
 #include <algorithm>
@@ -149,7 +150,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
                                    area.width, area.height);
         frame.camera.setBoundingBox(layout.box);
         if (hasFrameOfData(frame)) {
-            layout.area.frame = frameOfData(frame.camera2d(), area, layout.box, marginOfFit());
+            const BoundingBox extent = FlatExtent(frame, layout, frame.camera2d()).withLabels(frame.camera2d());
+            layout.area.frame = frameOfData(frame.camera2d(), area, extent, marginOfFit());
         }
         const PixelArea& enclosed = layout.area.frame;
         const float middle = static_cast<float>(enclosed.x) + 0.5f * static_cast<float>(enclosed.width);

@@ -1,8 +1,12 @@
 #include "renderer/upload/edgelines.h"
 
+#include "renderer/upload/vertexnumbers.h"
+
 #include <algorithm>
 #include <cstddef>
-#include <unordered_map>
+#include <span>
+#include <tuple>
+#include <vector>
 
 namespace vxrenderer {
 namespace {
@@ -17,8 +21,8 @@ constexpr std::size_t c_longestGap = 64;
 /// Closes gaps between the ends of lines.
 class Gaps {
 public:
-    Gaps(std::vector<Edge>& edges, std::span<const Edge> blunt, const EdgeLines::PositionOf& positionOf)
-        : m_edges(edges), m_positionOf(positionOf)
+    Gaps(std::vector<Edge>& edges, std::span<const Edge> blunt, std::span<const Vector3f> positions)
+        : m_edges(edges), m_positions(positions), m_degrees(positions.size())
     {
         for (const auto& [from, to] : blunt) {
             m_ways.emplace_back(from, to);
@@ -61,11 +65,11 @@ private:
             }
             last = *next;
             path.push_back(last);
-            if (const auto found = m_degrees.find(last.second); found != m_degrees.end() && found->second > 0) {
+            if (m_degrees[last.second] > 0) {
                 for (const auto& [from, to] : path) {
                     ++m_degrees[from];
                     ++m_degrees[to];
-                    m_edges.emplace_back(std::min(from, to), std::max(from, to));
+                    m_edges.emplace_back(from, to);
                 }
                 return;
             }
@@ -74,12 +78,12 @@ private:
 
     std::vector<Edge>::const_iterator continuationOf(const Edge& last) const
     {
-        const Vector3f along = (m_positionOf(last.second) - m_positionOf(last.first)).normalized();
+        const Vector3f along = (m_positions[last.second] - m_positions[last.first]).normalized();
         auto best = m_ways.end();
         float straightest = c_straight;
         auto way = std::ranges::lower_bound(m_ways, last.second, {}, &Edge::first);
         for (; way != m_ways.end() && way->first == last.second; ++way) {
-            const float cosine = along.dot((m_positionOf(way->second) - m_positionOf(way->first)).normalized());
+            const float cosine = along.dot((m_positions[way->second] - m_positions[way->first]).normalized());
             if (way->second != last.first && cosine > straightest) {
                 straightest = cosine;
                 best = way;
@@ -89,55 +93,115 @@ private:
     }
 
     std::vector<Edge>& m_edges;
-    const EdgeLines::PositionOf& m_positionOf;
+    std::span<const Vector3f> m_positions;
     /// Blunt edges in both directions.
     std::vector<Edge> m_ways;
     /// Edges that meet at a vertex.
-    std::unordered_map<std::uint32_t, int> m_degrees;
+    std::vector<int> m_degrees;
 };
 
-/// Leaves out lines with ends that are shorter than a length.
-void dropShort(std::vector<Edge>& edges, const EdgeLines::PositionOf& positionOf, float leastLength)
+/// Leaves out edges from the ends of lines up to other lines, except for clear ones.
+/// @param numClear the first ones of the list are
+void trimEnds(std::vector<Edge>& edges, std::size_t numClear, std::size_t numVertices)
+{
+    struct Meeting {
+        int degree = 0;
+        /// The bits of the indices of all edges; of one edge, its index.
+        std::size_t indices = 0;
+    };
+    std::vector<Meeting> meetings(numVertices);
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        for (const std::uint32_t vertex : {edges[i].first, edges[i].second}) {
+            ++meetings[vertex].degree;
+            meetings[vertex].indices ^= i;
+        }
+    }
+    std::vector<bool> isLeftOut(edges.size());
+    for (std::size_t i = numClear; i < edges.size(); ++i) {
+        for (std::uint32_t vertex : {edges[i].first, edges[i].second}) {
+            for (Meeting* end = &meetings[vertex]; end->degree == 1 && end->indices >= numClear;) {
+                const std::size_t last = end->indices;
+                isLeftOut[last] = true;
+                *end = {};
+                vertex = edges[last].first == vertex ? edges[last].second : edges[last].first;
+                end = &meetings[vertex];
+                --end->degree;
+                end->indices ^= last;
+            }
+        }
+    }
+    std::size_t i = 0;
+    std::erase_if(edges, [&](const Edge&) { return isLeftOut[i++]; });
+}
+
+/// Leaves out lines that are shorter than a length if they have ends or no clear edge.
+/// @param numClear the first ones of the list are
+void dropShort(std::vector<Edge>& edges, std::size_t numClear, std::span<const Vector3f> positions, float leastLength)
 {
     struct Line {
-        std::uint32_t parent;
+        std::uint32_t parent = 0;
         int degree = 0;
         float length = 0.0f;
         bool hasEnds = false;
+        bool isClear = false;
     };
-    std::unordered_map<std::uint32_t, Line> lines;
+    std::vector<Line> lines(positions.size());
+    for (std::uint32_t vertex = 0; vertex < lines.size(); ++vertex) {
+        lines[vertex].parent = vertex;
+    }
     const auto lineOf = [&](std::uint32_t vertex) {
         std::uint32_t root = vertex;
-        while (lines.at(root).parent != root) {
+        while (lines[root].parent != root) {
             root = lines[root].parent = lines[lines[root].parent].parent;
         }
         return root;
     };
     for (const auto& [from, to] : edges) {
-        for (const std::uint32_t vertex : {from, to}) {
-            ++lines.try_emplace(vertex, Line{vertex}).first->second.degree;
-        }
+        ++lines[from].degree;
+        ++lines[to].degree;
         lines[lineOf(from)].parent = lineOf(to);
     }
-    for (const auto& [from, to] : edges) {
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        const auto& [from, to] = edges[i];
         Line& line = lines[lineOf(from)];
-        line.length += (positionOf(to) - positionOf(from)).length();
+        line.length += (positions[to] - positions[from]).length();
         line.hasEnds = line.hasEnds || lines[from].degree == 1 || lines[to].degree == 1;
+        line.isClear = line.isClear || i < numClear;
     }
     std::erase_if(edges, [&](const Edge& edge) {
         const Line& line = lines[lineOf(edge.first)];
-        return line.hasEnds && line.length < leastLength;
+        return line.length < leastLength && (line.hasEnds || !line.isClear);
     });
 }
 
 } // namespace
 
-EdgeLines::EdgeLines(std::vector<Edge> sharp, std::span<const Edge> blunt, const PositionOf& positionOf,
-                     float leastLength)
-    : m_edges(std::move(sharp))
+EdgeLines::EdgeLines(Found found, std::size_t numVertices, const PositionOf& positionOf, float leastLength)
+    : m_creases(std::move(found.clear))
 {
-    Gaps(m_edges, blunt, positionOf).close();
-    dropShort(m_edges, positionOf, leastLength);
+    const std::size_t numClear = m_creases.size();
+    m_creases.insert(m_creases.end(), found.sharp.begin(), found.sharp.end());
+    VertexNumbers numbers(numVertices);
+    for (std::vector<Edge>* edges : {&m_creases, &found.blunt}) {
+        for (auto& [from, to] : *edges) {
+            from = numbers.of(from);
+            to = numbers.of(to);
+        }
+    }
+    std::vector<Vector3f> positions;
+    positions.reserve(numbers.getVertices().size());
+    for (const std::uint32_t vertex : numbers.getVertices()) {
+        positions.push_back(positionOf(vertex));
+    }
+    Gaps(m_creases, found.blunt, positions).close();
+    trimEnds(m_creases, numClear, positions.size());
+    m_edges = m_creases;
+    dropShort(m_edges, numClear, positions, leastLength);
+    for (std::vector<Edge>* edges : {&m_creases, &m_edges}) {
+        for (auto& [from, to] : *edges) {
+            std::tie(from, to) = std::minmax(numbers.getVertices()[from], numbers.getVertices()[to]);
+        }
+    }
 }
 
 } // namespace vxrenderer

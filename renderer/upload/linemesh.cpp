@@ -88,6 +88,12 @@ void LineMesh::load(std::vector<Piece> pieces)
     load(joinRuns(pieces));
 }
 
+void LineMesh::load(std::span<const Piece> pieces, std::span<const int> vertices)
+{
+    m_numPieces = 0;
+    load(joinPairs(pieces, vertices));
+}
+
 void LineMesh::load(const std::vector<JointedPiece>& pieces)
 {
     glBindBuffer(GL_ARRAY_BUFFER, m_pieces.name());

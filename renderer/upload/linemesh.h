@@ -3,6 +3,7 @@
 #include "renderer/gl/globject.h"
 #include "renderer/upload/linejoints.h"
 
+#include <span>
 #include <vector>
 
 namespace vxgraphics3d {
@@ -31,6 +32,11 @@ public:
     /// `joinRuns`.
     /// @throws std::runtime_error if the driver has no memory for it
     void load(std::vector<Piece> pieces);
+
+    /// Copies pieces in any order, which are finite. They are joined where two of them meet, see `joinPairs`.
+    /// @param vertices two for each piece
+    /// @throws std::runtime_error if the driver has no memory for it
+    void load(std::span<const Piece> pieces, std::span<const int> vertices);
 
     /// Draws all pieces with the program in use, each as a strip of four vertices.
     void draw() const;

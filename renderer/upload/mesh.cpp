@@ -9,6 +9,7 @@
 #include "renderer/upload/drawntriangles.h"
 #include "renderer/upload/instancebuffer.h"
 #include "renderer/upload/sheetnormals.h"
+#include "renderer/upload/vertexnumbers.h"
 #include "renderer/upload/vertexrecords.h"
 
 #include <cstddef>
@@ -97,12 +98,17 @@ void Mesh::loadBody(const VertexBuffer& vertices, const IndexBuffer& indices, fl
     upload(vertices, layout, triangles, copies);
 
     std::vector<LineMesh::Piece> edges;
+    std::vector<int> ends;
+    VertexNumbers numbers(static_cast<std::size_t>(vertices.getNumberOfVertices()));
     edges.reserve(creases.getEdges().size());
+    ends.reserve(2 * creases.getEdges().size());
     for (const auto& [from, to] : creases.getEdges()) {
         edges.push_back({records.position(from), records.position(to), records.u(from), records.u(to)});
+        ends.push_back(static_cast<int>(numbers.of(from)));
+        ends.push_back(static_cast<int>(numbers.of(to)));
     }
     m_featureEdges.emplace();
-    m_featureEdges->load(std::move(edges));
+    m_featureEdges->load(edges, ends);
 }
 
 void Mesh::upload(const VertexBuffer& vertices, const VertexLayout& layout, const DrawnTriangles& triangles,

@@ -1,7 +1,12 @@
+#include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/lights/directionlightsource.h"
+#include "graphics3d/lights/scenelight.h"
+#include "graphics3d/lights/scenesettingslight.h"
 #include "graphics3d/plots/vector/scenegraphplotarrow2d.h"
 #include "graphics3d/plots/vector/scenegraphplotarrow3d.h"
 #include "graphics3d/plots/vector/scenegraphplotprincipal.h"
 #include "graphics3d/plots/vector/scenegraphplotribbon3d.h"
+#include "graphics3d/plots/vector/scenegraphplotsphere3d.h"
 #include "graphics3d/plots/vector/scenegraphplottube2d.h"
 #include "graphics3d/plots/vector/scenegraphplottube3d.h"
 #include "tests/renderer/support/testscene.h"
@@ -12,6 +17,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numbers>
 #include <string>
 
 namespace vxrenderer {
@@ -25,6 +31,7 @@ using vxgraphics3d::SceneGraphPlotArrow2d;
 using vxgraphics3d::SceneGraphPlotArrow3d;
 using vxgraphics3d::SceneGraphPlotPrincipal;
 using vxgraphics3d::SceneGraphPlotRibbon3d;
+using vxgraphics3d::SceneGraphPlotSphere3d;
 using vxgraphics3d::SceneGraphPlotTube2d;
 using vxgraphics3d::SceneGraphPlotTube3d;
 using vxgraphics3d::Vector3f;
@@ -35,6 +42,11 @@ using Anchor = SceneGraphPlotArrow::AnchorPoint;
 constexpr Rgb c_red = {255, 0, 0};
 constexpr Rgb c_green = {0, 255, 0};
 constexpr Rgb c_blue = {0, 0, 255};
+
+int brightest(const Rgb& color)
+{
+    return *std::ranges::max_element(color);
+}
 
 /// Plots of vectors and lines seen from above, without perspective and without light.
 class VectorPaintersTest : public ::testing::Test {
@@ -304,6 +316,73 @@ TEST_F(VectorPaintersTest, tubesAndRibbonsHaveTheWidthsAndColorsOfTheirData)
         EXPECT_EQ(colorAt(m_canvas, drawn(m_canvas), {0.0f, 1.0f, 0.0f}), c_red) << test.name;
         EXPECT_EQ(m_canvas.getUploadCounts().meshes, uploads) << test.name;
         m_scene.group->removeAllPlots();
+    }
+}
+
+TEST_F(VectorPaintersTest, theEndOfATubeIsLitLikeASphere)
+{
+    const auto tube = add(boost::make_shared<SceneGraphPlotTube3d>(1));
+    const auto sphere = add(boost::make_shared<SceneGraphPlotSphere3d>(2));
+    const auto record = [](int kind, Record::DoubleArrays points, Record::IntArrays lines, std::vector<double> radii) {
+        return PostRecord()
+            .kind(kind)
+            .role(Record::RadiusData, 0)
+            .role(Record::ColorData, 0)
+            .bounds({{-1, 1}, {-1, 1}, {0, 0}})
+            .group(std::move(points), std::move(lines), {std::move(radii)});
+    };
+    tube->fillPlot(record(Record::Lines3d, {{-0.4, 0.4}, {0.5, 0.5}, {0, 0}}, {{0}, {1}}, {0.4, 0.4}));
+    sphere->fillPlot(record(0, {{0.4}, {-0.5}, {0}}, {}, {0.4}));
+    tube->setLegendLimits(0.0, 1.0);
+    sphere->setLegendLimits(0.0, 1.0);
+    m_canvas.getSceneSettings()->getLight()->setUseLight(true);
+    vxgraphics3d::SceneLight& light = *m_scene.scene->getSceneLight();
+    auto& lamp = static_cast<vxgraphics3d::DirectionLightSource&>(*light.lightSource(light.createDirectionLight()));
+    lamp.setFromDirection(true, Vector3f(1.0f, 0.0f, 0.5f));
+    lamp.setIntensity(0.7f);
+    lamp.setActive(true);
+    light.setAmbientIntensity(0.1f);
+    const Picture picture = drawn(m_canvas);
+    for (const float x : {0.45f, 0.55f, 0.65f, 0.75f}) {
+        for (const float y : {-0.15f, 0.0f, 0.15f}) {
+            const Rgb ofTube = colorAt(m_canvas, picture, {x, 0.5f + y, 0.0f});
+            const Rgb ofSphere = colorAt(m_canvas, picture, {x, -0.5f + y, 0.0f});
+            EXPECT_NEAR(brightest(ofTube), brightest(ofSphere), 6) << x << ", " << y;
+        }
+    }
+}
+
+TEST_F(VectorPaintersTest, aClosedTubeHasNoJoint)
+{
+    constexpr int c_numPoints = 48;
+    const auto plot = add(boost::make_shared<SceneGraphPlotTube3d>(1));
+    Record::DoubleArrays points(3, std::vector<double>(c_numPoints));
+    Record::IntArrays lines(2, std::vector<int>(c_numPoints));
+    for (int i = 0; i < c_numPoints; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        // Not in one plane, so that the rings turn.
+        const double angle = 2.0 * std::numbers::pi * i / c_numPoints;
+        points[0][at] = std::cos(angle);
+        points[1][at] = std::sin(angle);
+        points[2][at] = 0.3 * std::sin(2.0 * angle);
+        lines[0][at] = i;
+        lines[1][at] = (i + 1) % c_numPoints;
+    }
+    plot->fillPlot(PostRecord()
+                       .kind(Record::Lines3d)
+                       .role(Record::ColorData, 0)
+                       .role(Record::RadiusData, 0)
+                       .bounds({{-1.3, 1.3}, {-1.3, 1.3}, {-0.6, 0.6}})
+                       .group(points, lines, {std::vector<double>(c_numPoints, 0.3)}));
+    const Picture bare = drawn(m_canvas);
+    m_canvas.setStyle({.showFeatureEdges = true});
+    const Picture picture = drawn(m_canvas);
+    for (int i = 0; i < 720; ++i) {
+        const auto angle = static_cast<float>(2.0 * std::numbers::pi * i / 720);
+        for (const float radius : {0.8f, 0.9f, 1.0f, 1.1f, 1.2f}) {
+            const Vector3f point(radius * std::cos(angle), radius * std::sin(angle), 0.0f);
+            EXPECT_EQ(colorAt(m_canvas, picture, point), colorAt(m_canvas, bare, point)) << radius << " at " << angle;
+        }
     }
 }
 

@@ -201,6 +201,22 @@ TEST_F(RenderStyleTest, featureEdgesAreDarkWhereTheyAreSeenAndNowhereElse)
     EXPECT_EQ(at(pictureIn(c_edges), {-1.0f, -1.0f, 0.3f}), c_white) << "an edge of what a restriction hides";
 }
 
+TEST_F(RenderStyleTest, theEdgesOfALineMeetWithoutAGap)
+{
+    // The same triangle with one border in five pieces, whose points are in no order.
+    const std::vector<Vector3f> points = {{1.0f, -0.7f, 0.0f},  {-1.0f, -1.0f, 0.0f},  {0.0f, 1.0f, 0.0f},
+                                          {0.2f, -0.82f, 0.0f}, {-0.6f, -0.94f, 0.0f}, {0.6f, -0.76f, 0.0f},
+                                          {-0.2f, -0.88f, 0.0f}};
+    const auto plot = add(1, bodyOf(points, {{1, 4, 2}, {4, 6, 2}, {6, 3, 2}, {3, 5, 2}, {5, 0, 2}}));
+    const Picture pieces = pictureIn(c_edges);
+    plot->fillPlot(bodyOf({points[0], points[1], points[2]}, {{1, 0, 2}}));
+    const Picture whole = pictureIn(c_edges);
+    for (float x = -0.95f; x < 0.95f; x += 0.01f) {
+        const Vector3f point(x, -0.85f + 0.15f * x, 0.0f);
+        EXPECT_NEAR(brightness(at(pieces, point)), brightness(at(whole, point)), 2) << x;
+    }
+}
+
 TEST_F(RenderStyleTest, silhouettesFollowTheOutlineInFrontOfOtherBodiesAndNothingInside)
 {
     add(1, globe(20));

@@ -64,7 +64,6 @@ public final class CityLabels implements Picture {
             names.setColor(0x101010);
             studio.size(1200, 1000);
             studio.hideAxes();
-            studio.renderer().setFeatureEdges(false); // a relief has none
             studio.show(globe, "").show(marks, "").show(names, "").view(20, 35);
             studio.save("Europe and Africa with their cities; the globe itself hides those behind it. A name "
                     + "moves to another side of its city where it would cover another name.");

@@ -23,7 +23,6 @@ public final class EarthRelief implements Picture {
             plot.fillPlot(record);
             studio.size(1200, 1000);
             studio.hideAxes();
-            studio.renderer().setFeatureEdges(false); // a relief has none
             studio.show(plot, "Height in m");
             studio.view(75, 20);
             studio.save("Asia and the Indian Ocean. Land is green to white, sea is blue.");

@@ -30,7 +30,6 @@ public final class Earthquakes implements Picture {
             spheres.fillPlot(record);
             studio.size(1200, 1000);
             studio.hideAxes();
-            studio.renderer().setFeatureEdges(false); // a relief has none
             studio.show(globe, "").show(spheres, "Depth in km").view(-115, 25);
             studio.save("North America, where earthquakes follow the west coast. Most of them are shallow, which is "
                     + "yellow.");

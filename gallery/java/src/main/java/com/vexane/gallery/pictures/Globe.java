@@ -28,7 +28,6 @@ final class Globe implements AutoCloseable {
 
     void show(Studio studio) {
         studio.hideAxes();
-        studio.renderer().setFeatureEdges(false); // a relief has none
         studio.show(relief, "");
     }
 

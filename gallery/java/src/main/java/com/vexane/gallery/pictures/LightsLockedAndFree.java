@@ -52,7 +52,7 @@ public final class LightsLockedAndFree implements Picture {
             studio.save("Turned back to the first view, the part is seen from its dark side: the light has stayed.");
 
             // Besides directional light there are points, which shine to all sides, and spots, which shine into a cone.
-            // Markers show where they are.
+            // Markers show where they are, and the view is fitted to them as well.
             studio.light().setAmbientIntensity(0.12f);
             studio.lamp().setFromDirection(true, 0.2f, -0.6f, 1);
             studio.lamp().setIntensity(0.35f);
@@ -75,7 +75,6 @@ public final class LightsLockedAndFree implements Picture {
             studio.canvas().setBackgroundColor(Canvas3dSettings.RenderMode.VIEW_3D, 0x404448);
             studio.hideAxes();
             studio.view(-35, 25);
-            studio.camera3d().zoomCenter(0.6f);
             studio.save("White light from one direction, a green point and a magenta spot, with their markers. The "
                     + "spot is selected.");
         }
