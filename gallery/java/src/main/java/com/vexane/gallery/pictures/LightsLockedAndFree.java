@@ -14,8 +14,8 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "Lights that stay with the camera or with the scene",
-        text = "A light moves with the camera or stays with the scene. There are three kinds of it, each "
-                + "with a marker.",
+        text = "A light moves with the camera or stays with the scene. There are three kinds of "
+                + "lights, each with a marker.",
         section = Section.VIEWS,
         pages = {"common-tasks", "renderer"})
 public final class LightsLockedAndFree implements Picture {
@@ -37,6 +37,7 @@ public final class LightsLockedAndFree implements Picture {
             studio.lamp().setFromDirection(false, -1, 0.6f, 0.5f);
             studio.lamp().setIntensity(0.9f);
             studio.canvas().setShowAxisOrientationIndicator(true);
+            studio.nameAxes("x in mm", "y in mm", "z in mm");
             studio.show(plot, "");
             studio.view(-35, 25);
             studio.save("Locked to the camera, the light comes from the left of the viewer.");
