@@ -3,6 +3,7 @@
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/canvas/axissetup.h"
 #include "renderer/axes/axisscale.h"
+#include "renderer/axes/degreeaxis.h"
 #include "renderer/axes/labelplacer.h"
 #include "renderer/axes/roundview.h"
 #include "renderer/axes/ticks.h"
@@ -34,6 +35,8 @@ constexpr float c_labelPadding = 0.6f;
 constexpr float c_tickDistanceAlong = 5.0f;
 constexpr float c_tickDistanceAcross = 3.0f;
 constexpr float c_spokeDistance = 6.0f;
+/// In pixels of the screen.
+constexpr double c_closestLines = 4.0;
 
 constexpr const char* c_degree = "\xC2\xB0";
 
@@ -136,6 +139,7 @@ private:
         scale.digits = m_input.digits;
         scale.tickDistance =
             static_cast<double>((extent == &LabelSize::width ? c_tickDistanceAlong : c_tickDistanceAcross) * m_room.em);
+        scale.closestLines = c_closestLines * m_input.pixel;
         scale.labelLength = [this, extent](const std::string& markup) {
             return static_cast<double>(sizeOfMarkup(markup, m_metrics.ticks).*extent + c_labelPadding * m_room.em);
         };
@@ -194,10 +198,22 @@ private:
                        m_input.camera.getActualMinY(), m_input.camera.getActualMaxY());
     }
 
+    AxisScale xScale() const
+    {
+        AxisScale scale =
+            scaleOf(limitX(m_area.x), limitX(m_area.x + m_area.width), toDouble(m_right - m_left),
+                    m_setup.getXAxisLog(), m_setup.getXAxisSpacing(), m_setup.getExtraX(), &LabelSize::width);
+        scale.steps = stepsOf(m_setup.getXAxisTitle());
+        return scale;
+    }
+
     AxisScale yScale() const
     {
-        return scaleOf(limitY(m_area.y + m_area.height), limitY(m_area.y), toDouble(m_bottom - m_top),
-                       m_setup.getYAxisLog(), m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
+        AxisScale scale =
+            scaleOf(limitY(m_area.y + m_area.height), limitY(m_area.y), toDouble(m_bottom - m_top),
+                    m_setup.getYAxisLog(), m_setup.getYAxisSpacing(), m_setup.getExtraY(), &LabelSize::height);
+        scale.steps = stepsOf(m_setup.getYAxisTitle());
+        return scale;
     }
 
     /// In the one-dimensional mode the height of the view has no meaning.
@@ -208,9 +224,7 @@ private:
 
     void layoutStraight()
     {
-        const AxisScale x =
-            scaleOf(limitX(m_area.x), limitX(m_area.x + m_area.width), toDouble(m_right - m_left),
-                    m_setup.getXAxisLog(), m_setup.getXAxisSpacing(), m_setup.getExtraX(), &LabelSize::width);
+        const AxisScale x = xScale();
         const AxisScale y = yScale();
         const AxisTicks xTicks = makeAxisTicks(x);
         const AxisTicks yTicks = ticksOfY(y);
@@ -273,7 +287,7 @@ private:
         if (!scale.isLog && scale.extra.empty() && ticks.ticks.size() > 1) {
             const double closest =
                 c_minorTickDistance * static_cast<double>(m_room.em) / scale.length * (scale.high - scale.low);
-            for (const double value : makeMinorValues(scale.low, scale.high, first, step, closest)) {
+            for (const double value : makeMinorValues(scale.low, scale.high, first, step, closest, scale.steps)) {
                 positions.push_back(value);
             }
         }
@@ -591,7 +605,7 @@ float widthOfNumbersIn(const PixelArea& area, const Axes2dInput& input, const Ro
     Camera2d camera = input.camera;
     camera.setRenderArea(input.pictureWidth, input.pictureHeight, area.x, input.pictureHeight - area.y - area.height,
                          area.width, area.height);
-    const Axes2dInput copy = {camera, input.setup, input.pictureWidth, input.pictureHeight, input.digits};
+    const Axes2dInput copy = {camera, input.setup, input.pictureWidth, input.pictureHeight, input.digits, input.pixel};
     const float step = c_labelStep * room.em;
     return std::ceil(Layouter(copy, area, metrics).widthOfYNumbers() / step) * step;
 }

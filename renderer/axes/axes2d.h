@@ -37,6 +37,8 @@ struct Axes2dInput {
     int pictureHeight = 0;
     /// Significant digits of tick labels.
     int digits = 4;
+    /// Pixels of the picture for a pixel of the screen.
+    double pixel = 1.0;
     /// What the camera draws to, where straight axes enclose a part of it; empty where they enclose all.
     PixelArea cameraArea{};
 };

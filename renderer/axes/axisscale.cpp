@@ -1,7 +1,5 @@
 #include "renderer/axes/axisscale.h"
 
-#include "renderer/axes/ticks.h"
-
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -18,8 +16,6 @@ constexpr std::size_t c_fewestLabels = 2;
 /// Numbers of ticks to ask for on an axis on which coarser ticks leave fewer than two labels: finer ones come closer to
 /// its ends.
 constexpr int c_finerTicks[] = {5, 10, 20};
-/// The smallest distance of lines in pixels.
-constexpr double c_closestLines = 4.0;
 /// With fewer decades than this, a logarithmic scale shows numbers instead of powers.
 constexpr double c_fewDecades = 2.0;
 /// Decimal logarithms of numbers that a double holds.
@@ -174,7 +170,7 @@ private:
     void fillLinear()
     {
         takeBest([this](int count) {
-            const Ticks ticks = makeTicks(m_scale.low, m_scale.high, count, m_scale.digits);
+            const Ticks ticks = makeTicks(m_scale.low, m_scale.high, count, m_scale.digits, m_scale.steps);
             return AxisTicks{ticksOf(ticks), ticks.exponent};
         });
     }
@@ -183,7 +179,7 @@ private:
     bool fillMultiples()
     {
         const double lines = (m_scale.high - m_scale.low) / m_scale.spacing;
-        const auto thinning = static_cast<double>(roundFactor(lines * c_closestLines / m_scale.length));
+        const auto thinning = static_cast<double>(roundFactor(lines * m_scale.closestLines / m_scale.length));
         const double spacing = m_scale.spacing * thinning;
         const Ticks ticks = makeMultiples(m_scale.low, m_scale.high, spacing, m_scale.digits);
         if (ticks.ticks.size() < c_fewestLabels) {
@@ -268,7 +264,7 @@ private:
             return;
         }
         const auto factor = [&](double pixels) { return static_cast<double>(roundFactor(pixels / m_pixels)); };
-        const double closest = factor(c_closestLines);
+        const double closest = factor(m_scale.closestLines);
         // A third of the range holds one of its multiples for certain.
         double labelled = std::min(factor(0.6 * m_scale.tickDistance),
                                    static_cast<double>(roundFactor((m_scale.high - m_scale.low) / 3.0)));
@@ -294,7 +290,7 @@ private:
         return ticks;
     }
 
-    bool hasSpaceForMinorLines() const { return m_pixels * std::log10(10.0 / 9.0) >= c_closestLines; }
+    bool hasSpaceForMinorLines() const { return m_pixels * std::log10(10.0 / 9.0) >= m_scale.closestLines; }
 
     void addMinorLines()
     {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "renderer/axes/ticks.h"
+
 #include <functional>
 #include <string>
 #include <vector>
@@ -14,6 +16,8 @@ struct AxisScale {
     bool isLog = false;
     /// Distance of lines in data units, 0 for one that suits the space. Logarithmic scales choose their own.
     double spacing = 0.0;
+    /// What distances suit a linear scale.
+    TickSteps steps = TickSteps::decimal;
     /// Further positions of lines, in data units also on a logarithmic scale.
     std::vector<double> extra;
     /// Significant digits of a label.
@@ -22,6 +26,8 @@ struct AxisScale {
     double length = 0.0;
     /// Distance in pixels that suits neighbouring labels well.
     double tickDistance = 70.0;
+    /// The smallest distance of lines in pixels.
+    double closestLines = 4.0;
     /// What a label takes along the scale in pixels, including the gap to the next one.
     std::function<double(const std::string& markup)> labelLength;
 };
@@ -44,8 +50,8 @@ struct AxisTicks {
 
 /// Ticks whose labels have space next to each other.
 ///
-/// Linear scales take multiples of 1, 2 or 5 times a power of ten, or of the spacing; where that gives more than one
-/// line every four pixels, of a whole multiple of it. A spacing of which fewer than two multiples are in sight is not
+/// Linear scales take multiples of a round step, or of the spacing; where lines would
+/// be too close, of a whole multiple of it. A spacing of which fewer than two multiples are in sight is not
 /// used. Logarithmic scales take decades, every second, fifth and so on where there are many, with minor lines between
 /// them; where few decades are in sight they take plain numbers. At least two ticks are labelled wherever two labels
 /// have space. Extra positions take precedence where labels would overlap. Ends that are not finite or not in rising

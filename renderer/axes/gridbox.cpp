@@ -1,6 +1,7 @@
 #include "renderer/axes/gridbox.h"
 
 #include "graphics3d/foundation/boundingbox.h"
+#include "renderer/axes/degreeaxis.h"
 #include "renderer/axes/labelplacer.h"
 #include "renderer/axes/projector.h"
 #include "renderer/axes/ticks.h"
@@ -126,7 +127,9 @@ public:
           m_low(toDouble(input.box.getMin())),
           m_high(toDouble(input.box.getMax())),
           m_labels(metrics)
-    {}
+    {
+        std::ranges::transform(input.names, m_steps.begin(), [](const std::string& name) { return stepsOf(name); });
+    }
 
     GridBoxLayout layout()
     {
@@ -340,8 +343,8 @@ private:
     AxisTickSet tickSet(std::size_t index, int aboutCount) const
     {
         const AxisUnits& units = m_input.units[index];
-        const Ticks ticks =
-            makeTicks(units.valueAt(m_low[index]), units.valueAt(m_high[index]), aboutCount, m_input.digits);
+        const Ticks ticks = makeTicks(units.valueAt(m_low[index]), units.valueAt(m_high[index]), aboutCount,
+                                      m_input.digits, m_steps[index]);
         AxisTickSet set;
         set.power = ticks.exponent == 0 ? "" : "\\times" + powerText(ticks.exponent);
         for (const Ticks::Tick& tick : ticks.ticks) {
@@ -522,7 +525,7 @@ private:
         const double first = units.valueAt(axis.ticks[0]);
         const double step = units.valueAt(axis.ticks[1]) - first;
         std::vector<double> minor =
-            makeMinorValues(low, high, first, step, c_minorTickDistance * m_em / length * (high - low));
+            makeMinorValues(low, high, first, step, c_minorTickDistance * m_em / length * (high - low), m_steps[index]);
         std::ranges::transform(minor, minor.begin(), [&](double value) { return units.coordinateOf(value); });
         std::ranges::copy_if(axis.ticks, std::back_inserter(minor),
                              [&](double tick) { return !axis.isLabelled(tick); });
@@ -573,6 +576,7 @@ private:
     Point m_low;
     Point m_high;
     LabelPlacer m_labels;
+    std::array<TickSteps, 3> m_steps{};
     std::array<Pixel, 8> m_corners{};
     bool m_isWhole = false;
     Facing m_facing[3][2] = {};

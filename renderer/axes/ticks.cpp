@@ -18,7 +18,13 @@ constexpr int c_smallExponent = -3;
 /// Ticks that differ by less than this part of their value are beyond the digits of a double.
 constexpr double c_smallestStep = 1e-13;
 
-/// A step of 1, 2 or 5 times ten to an exponent.
+/// From here on steps of degrees are parts of a turn, or whole turns.
+constexpr double c_largestDecimalDegrees = 10.0;
+constexpr int c_turn = 360;
+/// Part of a step that rounding may add or take away.
+constexpr double c_stepSlack = 1e-9;
+
+/// A round step: a whole number, such as 1, 2 or 5, times ten to an exponent.
 struct Step {
     int mantissa;
     int exponent;
@@ -31,12 +37,22 @@ struct Step {
     }
 };
 
-Step roundStep(double smallest)
+Step roundStep(double smallest, TickSteps steps)
 {
+    const double least = smallest * (1.0 - c_stepSlack);
+    if (steps == TickSteps::degrees && least > c_largestDecimalDegrees) {
+        for (const int degrees : {15, 30, 45, 90, 180}) {
+            if (degrees >= least) {
+                return {degrees, 0};
+            }
+        }
+        const Step turns = roundStep(smallest / c_turn, TickSteps::decimal);
+        return {turns.mantissa * c_turn, turns.exponent};
+    }
     const int exponent = static_cast<int>(std::floor(std::log10(smallest)));
     for (const int mantissa : {1, 2, 5}) {
         const Step step = {mantissa, exponent};
-        if (step.times(1) >= smallest * (1.0 - 1e-9)) {
+        if (step.times(1) >= least) {
             return step;
         }
     }
@@ -125,7 +141,7 @@ std::string numberText(double value, int digits)
     return text + power;
 }
 
-Ticks makeTicks(double end, double otherEnd, int aboutCount, int digits)
+Ticks makeTicks(double end, double otherEnd, int aboutCount, int digits, TickSteps steps)
 {
     Ticks result;
     const auto [low, high] = std::minmax(end, otherEnd);
@@ -139,10 +155,10 @@ Ticks makeTicks(double end, double otherEnd, int aboutCount, int digits)
         return result;
     }
 
-    Step step = roundStep((high - low) / aboutCount);
+    Step step = roundStep((high - low) / aboutCount, steps);
     Multiples range = Multiples::within(low, high, step.times(1));
     const Step coarse = {1, magnitudeOf(std::max(std::abs(low), std::abs(high))) - digits + 1};
-    if (coarse.exponent > step.exponent) {
+    if (coarse.times(1) > step.times(1)) {
         const Multiples coarseRange = Multiples::within(low, high, coarse.times(1));
         if (coarseRange.last > coarseRange.first) {
             step = coarse;
@@ -198,16 +214,15 @@ Ticks makeMultiples(double end, double otherEnd, double step, int digits)
     return result;
 }
 
-std::vector<double> makeMinorValues(double low, double high, double tick, double step, double closest)
+std::vector<double> makeMinorValues(double low, double high, double tick, double step, double closest, TickSteps steps)
 {
     std::vector<double> values;
     if (!(step > 0.0) || !(high > low) || (high - low) / step > c_mostMultiples) {
         return values;
     }
-    const auto isRound = [](double value) {
-        const double mantissa = value / std::pow(10.0, std::floor(std::log10(value) + 1e-9));
-        return std::ranges::any_of(std::array{1.0, 2.0, 5.0},
-                                   [&](double round) { return std::abs(mantissa - round) < 1e-6; });
+    const auto isRound = [steps](double value) {
+        constexpr double slack = 1e-6;
+        return roundStep(value * (1.0 - slack), steps).times(1) <= value * (1.0 + slack);
     };
     int parts = 5;
     while (parts > 1 && (step / parts < closest || !isRound(step / parts))) {

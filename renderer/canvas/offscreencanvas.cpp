@@ -301,7 +301,7 @@ void OffscreenCanvas::zoomExtents()
             return;
         }
         // The area of a flat view depends on the numbers of its axes, and these on the limits.
-        fitCamera(*m_settings->camera2d(), layout);
+        fitCamera(*m_settings->camera2d(), frame, layout);
         fitted = area;
     }
 }

@@ -63,8 +63,8 @@ AcrossLegend::AcrossLegend(const PlotItem& item, const LegendStyle& style, float
 void AcrossLegend::layOutExtremes(const std::string& smallest, const std::string& largest, const LegendStyle& style)
 {
     const float em = style.tickFonts.fontSize();
-    float left = m_marks.isClippedBelow ? ColorBar::triangleSize(style) : 0.0f;
-    float right = m_marks.isClippedAbove ? ColorBar::triangleSize(style) : 0.0f;
+    float left = m_marks.hasTriangleBelow() ? ColorBar::triangleSize(style) : 0.0f;
+    float right = m_marks.hasTriangleAbove() ? ColorBar::triangleSize(style) : 0.0f;
     if (style.showMinMax) {
         m_smallest = layoutOf("\xE2\x96\xBC " + smallest, style.tickFonts);
         m_largest = layoutOf("\xE2\x96\xB2 " + largest, style.tickFonts);
@@ -159,9 +159,9 @@ void AcrossLegend::draw(DecorationCanvas& canvas, const LegendStyle& style, floa
     const float middle = 0.5f * (rect.top + rect.bottom);
     const float triangle = ColorBar::triangleSize(style);
     drawText(m_smallest, style.tickFonts,
-             rect.left - m_smallest.width - c_textGap * em - (m_marks.isClippedBelow ? triangle : 0.0f),
+             rect.left - m_smallest.width - c_textGap * em - (m_marks.hasTriangleBelow() ? triangle : 0.0f),
              middle - 0.5f * m_smallest.height);
-    drawText(m_largest, style.tickFonts, rect.right + c_textGap * em + (m_marks.isClippedAbove ? triangle : 0.0f),
+    drawText(m_largest, style.tickFonts, rect.right + c_textGap * em + (m_marks.hasTriangleAbove() ? triangle : 0.0f),
              middle - 0.5f * m_largest.height);
 }
 

@@ -5,6 +5,7 @@
 #include "renderer/decoration/legendscale.h"
 #include "renderer/text/textlayout.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,7 +37,7 @@ private:
     PlotItem m_item;
     LegendScale m_scale;
     LegendMarks m_marks;
-    std::vector<float> m_stripes; // empty for a continuous scale
+    std::vector<std::optional<float>> m_stripes; // empty for a continuous scale
     std::vector<Label> m_labels;
     TextLayout m_title;
     TextLayout m_power;

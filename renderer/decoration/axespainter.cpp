@@ -40,8 +40,12 @@ void append(std::vector<AxisLine>& lines, const std::vector<AxisLine>& more)
 
 Axes2dInput axes2dInput(const Frame& frame, int width, int height)
 {
-    return {frame.camera2d(), *frame.canvas.getAxisSetupPtr(), width, height,
-            Canvas3dGlobalSettings::getInstance()->getGridbox2dTickPrecision()};
+    return {frame.camera2d(),
+            *frame.canvas.getAxisSetupPtr(),
+            width,
+            height,
+            Canvas3dGlobalSettings::getInstance()->getGridbox2dTickPrecision(),
+            static_cast<double>(frame.appearance.scale)};
 }
 
 GridBoxInput gridBoxInput(const Frame& frame, const BoxedScene& scene, const PixelArea& picture)

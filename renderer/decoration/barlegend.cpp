@@ -50,7 +50,7 @@ BarLegend::BarLegend(const PlotItem& item, const LegendStyle& style, float maxWi
     m_width = std::max({pointer + ColorBar::thickness(style) + (c_tickLength + c_labelGap) * em + labelWidth,
                         m_power.width, m_texts.width()});
     m_headHeight =
-        m_texts.headHeight(style, m_power.height) + (m_marks.isClippedAbove ? ColorBar::triangleSize(style) : 0.0f);
+        m_texts.headHeight(style, m_power.height) + (m_marks.hasTriangleAbove() ? ColorBar::triangleSize(style) : 0.0f);
 }
 
 void BarLegend::draw(DecorationCanvas& canvas, const LegendStyle& style, float left, float top, float headHeight) const
@@ -59,7 +59,7 @@ void BarLegend::draw(DecorationCanvas& canvas, const LegendStyle& style, float l
     left = std::round(left);
     const float barTop = std::round(top + headHeight);
     const float barBottom = std::round(top + m_height - m_texts.footHeight(style) -
-                                       (m_marks.isClippedBelow ? ColorBar::triangleSize(style) : 0.0f));
+                                       (m_marks.hasTriangleBelow() ? ColorBar::triangleSize(style) : 0.0f));
     m_texts.draw(canvas, style, left, barTop - m_headHeight, top + m_height, m_power);
     if (barBottom - barTop < 3.0f * style.lineWidth) {
         return;

@@ -16,6 +16,9 @@ constexpr float c_thickness = 1.3f;
 constexpr float c_triangle = 1.0f;
 constexpr float c_pointer = 0.6f;
 
+/// Of a logarithmic bar.
+constexpr int c_pieces = 64;
+
 } // namespace
 
 float ColorBar::triangleSize(const LegendStyle& style)
@@ -65,29 +68,59 @@ void ColorBar::drawScale(const LegendScale& scale, const LegendMarks& marks) con
         PixelRect rect = m_rect;
         const auto from = static_cast<float>(marks.shownFrom);
         const auto to = static_cast<float>(marks.shownTo);
-        const float first = std::lerp(scale.lowerColor, scale.upperColor, from);
-        const float last = std::lerp(scale.lowerColor, scale.upperColor, to);
         if (m_style.isHorizontal) {
             rect.left = from > 0.0f ? lineAt(marks.shownFrom) : rect.left;
             rect.right = to < 1.0f ? lineAt(marks.shownTo) + line : rect.right;
-            m_canvas.fillWithColorTableAcross(rect, first, last);
         } else {
             rect.bottom = from > 0.0f ? lineAt(marks.shownFrom) + line : rect.bottom;
             rect.top = to < 1.0f ? lineAt(marks.shownTo) : rect.top;
-            m_canvas.fillWithColorTable(rect, first, last);
         }
+        fillScale(rect, scale, marks.shownFrom, marks.shownTo);
         m_canvas.strokeRect(rect, line, m_style.frameColor);
     }
     m_canvas.strokeRect(m_rect, line, m_style.frameColor);
-    if (m_hasTable && marks.isClippedBelow) {
-        drawTriangle(false, scale.lowerColor);
+    const auto drawEnd = [&](bool isHigh, LegendMarks::Beyond beyond, float color) {
+        if (m_hasTable && beyond != LegendMarks::Beyond::nothing) {
+            drawTriangle(isHigh, beyond == LegendMarks::Beyond::shown ? std::optional(color) : std::nullopt);
+        }
+    };
+    drawEnd(false, marks.below, scale.lowerColor);
+    drawEnd(true, marks.above, scale.upperColor);
+}
+
+void ColorBar::fillScale(const PixelRect& rect, const LegendScale& scale, double from, double to) const
+{
+    const auto fill = [&](const PixelRect& part, double low, double high) {
+        if (m_style.isHorizontal) {
+            m_canvas.fillWithColorTableAcross(part, scale.colorAt(low), scale.colorAt(high));
+        } else {
+            m_canvas.fillWithColorTable(part, scale.colorAt(low), scale.colorAt(high));
+        }
+    };
+    if (!scale.isLogarithmic()) {
+        fill(rect, from, to);
+        return;
     }
-    if (m_hasTable && marks.isClippedAbove) {
-        drawTriangle(true, scale.upperColor);
+    // Colours are linear in the values and so bend along the bar: pieces in which they hardly do, in whole pixels.
+    const float begin = m_style.isHorizontal ? rect.left : rect.bottom;
+    const float end = m_style.isHorizontal ? rect.right : rect.top;
+    float last = begin;
+    double lastHeight = from;
+    for (int i = 1; i <= c_pieces; ++i) {
+        const float next = std::round(std::lerp(begin, end, static_cast<float>(i) / c_pieces));
+        if (next == last) {
+            continue;
+        }
+        const double height = std::lerp(from, to, static_cast<double>((next - begin) / (end - begin)));
+        fill(m_style.isHorizontal ? PixelRect{last, rect.top, next, rect.bottom}
+                                  : PixelRect{rect.left, next, rect.right, last},
+             lastHeight, height);
+        last = next;
+        lastHeight = height;
     }
 }
 
-void ColorBar::drawTriangle(bool isAtHighEnd, float color) const
+void ColorBar::drawTriangle(bool isAtHighEnd, const std::optional<float>& color) const
 {
     const float line = m_style.lineWidth;
     const float size = triangleSize(m_style);
@@ -107,14 +140,26 @@ void ColorBar::drawTriangle(bool isAtHighEnd, float color) const
         const float thick = thickness(m_style);
         return std::array{at(inset, asideInset), at(reach + line, 0.5f * thick), at(inset, thick - asideInset)};
     };
-    m_canvas.fillPolygon(corners(0.0f), m_style.frameColor);
-    m_canvas.fillPolygonWithColorTable(corners(line), color);
+    const std::array<PixelPoint, 3> outer = corners(0.0f);
+    const std::array<PixelPoint, 3> inner = corners(line);
+    if (color) {
+        m_canvas.fillPolygon(outer, m_style.frameColor);
+        m_canvas.fillPolygonWithColorTable(inner, *color);
+        return;
+    }
+    for (const std::size_t side : {0U, 1U}) {
+        m_canvas.fillPolygon(std::array{outer[side], outer[side + 1], inner[side + 1], inner[side]},
+                             m_style.frameColor);
+    }
 }
 
-void ColorBar::drawStripes(const std::vector<float>& colors) const
+void ColorBar::drawStripes(const std::vector<std::optional<float>>& colors) const
 {
     const auto count = static_cast<float>(colors.size());
     for (std::size_t i = 0; m_hasTable && i < colors.size(); ++i) {
+        if (!colors[i]) {
+            continue;
+        }
         const float from = static_cast<float>(i) / count;
         const float to = static_cast<float>(i + 1) / count;
         PixelRect rect = m_rect;
@@ -125,7 +170,7 @@ void ColorBar::drawStripes(const std::vector<float>& colors) const
             rect.bottom = std::round(std::lerp(m_rect.bottom, m_rect.top, from));
             rect.top = std::round(std::lerp(m_rect.bottom, m_rect.top, to));
         }
-        m_canvas.fillWithColorTable(rect, colors[i], colors[i]);
+        m_canvas.fillWithColorTable(rect, *colors[i], *colors[i]);
     }
     m_canvas.strokeRect(m_rect, m_style.lineWidth, m_style.frameColor);
 }

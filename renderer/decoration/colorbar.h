@@ -3,6 +3,7 @@
 #include "renderer/decoration/legend.h"
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace vxrenderer {
@@ -15,13 +16,14 @@ struct LegendScale;
 class ColorBar {
 public:
     /// Binds the colour table of a plot that has one.
-    /// @param rect in whole pixels, without the triangles at clipped ends
+    /// @param rect in whole pixels, without triangles
     ColorBar(DecorationCanvas& canvas, const PlotItem& item, const LegendStyle& style, const PixelRect& rect);
 
-    /// The colours of a scale, with triangles at clipped ends. The part that a restriction hides stays empty.
+    /// The colours of a scale, with triangles at ends beyond which there are values. The part that a restriction hides
+    /// stays empty, as does a triangle beyond which it hides all.
     void drawScale(const LegendScale& scale, const LegendMarks& marks) const;
-    /// Stripes of equal size, given by their positions in the colour table.
-    void drawStripes(const std::vector<float>& colors) const;
+    /// Stripes of equal size, given by their positions in the colour table; those without one stay empty.
+    void drawStripes(const std::vector<std::optional<float>>& colors) const;
     /// A line away from the bar, to the right of or below a position.
     void drawTick(double position, float length) const;
     /// A mark on the other side that points at a position.
@@ -39,7 +41,10 @@ public:
 private:
     /// The first pixel of a line that marks a position.
     float lineAt(double position) const;
-    void drawTriangle(bool isAtHighEnd, float color) const;
+    /// Fills the bar, or a part of it that is a rectangle, with the colours between two heights.
+    void fillScale(const PixelRect& rect, const LegendScale& scale, double from, double to) const;
+    /// @param color nothing for an empty one
+    void drawTriangle(bool isAtHighEnd, const std::optional<float>& color) const;
 
     DecorationCanvas& m_canvas;
     const LegendStyle& m_style;

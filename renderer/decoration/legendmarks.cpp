@@ -22,6 +22,10 @@ constexpr double c_largest = 1e6;
 constexpr int c_mostDecimals = 7;
 /// Levels that differ by this factor in total, or more, are labelled with powers of ten if they are logarithmic.
 constexpr double c_farReach = 1e5;
+/// A logarithmic bar has short ticks at the multiples of powers of ten up to this number of these, and none at all
+/// beyond the other number.
+constexpr int c_mostDecades = 6;
+constexpr int c_mostMinorTicks = 60;
 
 std::string fixedText(double value, int decimals)
 {
@@ -87,6 +91,56 @@ std::vector<double> minorTicksOf(const Ticks& ticks, const LegendScale& scale)
     return positions;
 }
 
+/// Each level with the digits that it needs, or all as powers of ten if they reach far.
+std::vector<std::string> logarithmicLabels(const std::vector<double>& levels, int digits)
+{
+    std::vector<std::string> labels;
+    const bool isFar = levels.back() / levels.front() >= c_farReach;
+    for (const double level : levels) {
+        const int exponent = isFar ? magnitudeOf(level) : 0;
+        const double mantissa = level / std::pow(10.0, exponent);
+        if (isFar && std::abs(mantissa - 1.0) < 1e-6) {
+            labels.push_back(powerText(exponent));
+        } else {
+            labels.push_back(numberText(mantissa, digits) + (isFar ? "\\times" + powerText(exponent) : ""));
+        }
+    }
+    return labels;
+}
+
+/// Labels as many levels as wanted, and gives the others and the multiples of powers of ten short ticks.
+void addLogarithmicTicks(LegendMarks& marks, const LegendScale& scale, int aboutCount, int digits)
+{
+    const std::vector<double>& levels = scale.logarithmicLevels;
+    const std::vector<std::string> labels = logarithmicLabels(levels, digits);
+    const std::size_t levelsPerTick = (levels.size() - 1) / static_cast<std::size_t>(aboutCount) + 1;
+    for (std::size_t i = 0; i < levels.size(); i += levelsPerTick) {
+        marks.ticks.push_back({scale.heightOf(levels[i]), labels[i]});
+    }
+    const auto addMinor = [&](double value) {
+        const double position = scale.heightOf(value);
+        const auto isHere = [position](double other) { return std::abs(other - position) < c_slack; };
+        if (position > c_slack && position < 1.0 - c_slack && std::ranges::none_of(marks.minorTicks, isHere) &&
+            std::ranges::none_of(marks.ticks, isHere, &LegendMarks::Tick::position)) {
+            marks.minorTicks.push_back(position);
+        }
+    };
+    for (std::size_t i = 0; i < levels.size() && levels.size() <= c_mostMinorTicks; ++i) {
+        if (i % levelsPerTick != 0) {
+            addMinor(levels[i]);
+        }
+    }
+    const int first = magnitudeOf(scale.lowerValue);
+    const int last = magnitudeOf(scale.upperValue);
+    // Between more powers of ten the multiples would run together.
+    const int multiples = last - first < c_mostDecades ? 9 : 1;
+    for (int exponent = first; exponent <= last && last - first <= c_mostMinorTicks; ++exponent) {
+        for (int multiple = 1; multiple <= multiples; ++multiple) {
+            addMinor(multiple * std::pow(10.0, exponent));
+        }
+    }
+}
+
 bool isUnitWord(std::string_view word)
 {
     constexpr std::string_view c_long[] = {"degrees", "degree", "percent", "mol", "rad", "deg", "min",
@@ -137,18 +191,23 @@ LegendMarks LegendMarks::of(const vxgraphics3d::SceneGraphPlot& plot, const Lege
                             int digits, int minMaxDigits)
 {
     LegendMarks marks;
-    const Ticks ticks = makeTicks(scale.lowerValue, scale.upperValue, aboutCount, digits);
-    for (const Ticks::Tick& tick : ticks.ticks) {
-        marks.ticks.push_back({scale.heightOf(tick.value), tick.label});
-    }
-    marks.minorTicks = minorTicksOf(ticks, scale);
-    marks.format = formatOf(ticks);
-
     const double smallest = plot.getValueMin();
     const double largest = plot.getValueMax();
-    const NumberFormat ofExtremes = marks.format.widened({smallest, largest}, minMaxDigits);
-    marks.smallest = ofExtremes.textOf(smallest, minMaxDigits);
-    marks.largest = ofExtremes.textOf(largest, minMaxDigits);
+    if (scale.isLogarithmic()) {
+        addLogarithmicTicks(marks, scale, aboutCount, digits);
+        marks.smallest = numberText(smallest, minMaxDigits);
+        marks.largest = numberText(largest, minMaxDigits);
+    } else {
+        const Ticks ticks = makeTicks(scale.lowerValue, scale.upperValue, aboutCount, digits);
+        for (const Ticks::Tick& tick : ticks.ticks) {
+            marks.ticks.push_back({scale.heightOf(tick.value), tick.label});
+        }
+        marks.minorTicks = minorTicksOf(ticks, scale);
+        marks.format = formatOf(ticks);
+        const NumberFormat ofExtremes = marks.format.widened({smallest, largest}, minMaxDigits);
+        marks.smallest = ofExtremes.textOf(smallest, minMaxDigits);
+        marks.largest = ofExtremes.textOf(largest, minMaxDigits);
+    }
 
     const auto onBar = [&](double value) {
         const double position = scale.heightOf(value);
@@ -170,43 +229,29 @@ LegendMarks LegendMarks::of(const vxgraphics3d::SceneGraphPlot& plot, const Lege
             marks.shownTo = std::clamp(to, 0.0, 1.0);
         }
     }
-    if (shownLow <= shownHigh && scale.lowerValue != scale.upperValue) {
-        const auto [from, to] = std::minmax({scale.heightOf(shownLow), scale.heightOf(shownHigh)});
-        marks.isClippedBelow = from < -c_slack;
-        marks.isClippedAbove = to > 1.0 + c_slack;
+    const auto markBeyond = [&](double low, double high, Beyond what) {
+        const auto [from, to] = std::minmax({scale.heightOf(low), scale.heightOf(high)});
+        marks.below = from < -c_slack ? what : marks.below;
+        marks.above = to > 1.0 + c_slack ? what : marks.above;
+    };
+    if (scale.lowerValue != scale.upperValue) {
+        markBeyond(smallest, largest, Beyond::hidden);
+        if (shownLow <= shownHigh) {
+            markBeyond(shownLow, shownHigh, Beyond::shown);
+        }
     }
     return marks;
 }
 
-bool areLogarithmic(const std::vector<double>& levels)
-{
-    if (levels.size() < 3 || !(levels[0] > 0.0) || !(levels[1] > levels[0])) {
-        return false;
-    }
-    const double ratio = levels[1] / levels[0];
-    for (std::size_t i = 2; i < levels.size(); ++i) {
-        if (!(std::abs(levels[i] / levels[i - 1] - ratio) <= 1e-4 * ratio)) {
-            return false;
-        }
-    }
-    return true;
-}
-
 std::vector<std::string> levelLabels(const std::vector<double>& levels, int digits)
 {
+    if (areLogarithmic(levels)) {
+        return logarithmicLabels(levels, digits);
+    }
     std::vector<std::string> labels;
-    const bool isFar = areLogarithmic(levels) && levels.back() / levels.front() >= c_farReach;
     const NumberFormat format = NumberFormat().widened(levels, digits);
     for (const double level : levels) {
-        const int exponent = isFar ? magnitudeOf(level) : 0;
-        const double mantissa = isFar ? level / std::pow(10.0, exponent) : 0.0;
-        if (!isFar) {
-            labels.push_back(areLogarithmic(levels) ? numberText(level, digits) : format.textOf(level, digits));
-        } else if (std::abs(mantissa - 1.0) < 1e-6) {
-            labels.push_back(powerText(exponent));
-        } else {
-            labels.push_back(numberText(mantissa, digits) + "\\times" + powerText(exponent));
-        }
+        labels.push_back(format.textOf(level, digits));
     }
     return labels;
 }
@@ -242,6 +287,21 @@ std::string unitOf(const std::string& title)
         from = to + 1;
     }
     return unit;
+}
+
+std::string withoutUnit(const std::string& title)
+{
+    const std::string unit = unitOf(title);
+    const std::size_t at = unit.empty() ? std::string::npos : title.rfind(unit);
+    if (at == std::string::npos) {
+        return title;
+    }
+    // Before the unit there is a bracket or the word "in".
+    const std::string_view before = std::string_view(title).substr(0, at);
+    constexpr std::string_view c_in = " in ";
+    const std::size_t end = before.ends_with(c_in) ? at - c_in.size() : at - 1;
+    const std::size_t last = title.find_last_not_of(' ', end == 0 ? 0 : end - 1);
+    return last == std::string::npos ? title : title.substr(0, last + 1);
 }
 
 } // namespace vxrenderer

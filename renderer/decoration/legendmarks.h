@@ -46,9 +46,13 @@ struct LegendMarks {
     /// Where they are; nothing for one beyond the ends.
     std::optional<double> smallestAt;
     std::optional<double> largestAt;
-    /// Whether values are shown that lie beyond the ends, in the colours of the ends.
-    bool isClippedBelow = false;
-    bool isClippedAbove = false;
+    /// What values lie beyond an end: none, some that are shown in the colour of the end, or only such as a restriction
+    /// hides.
+    enum class Beyond { nothing, shown, hidden };
+    Beyond below = Beyond::nothing;
+    Beyond above = Beyond::nothing;
+    bool hasTriangleBelow() const { return below != Beyond::nothing; }
+    bool hasTriangleAbove() const { return above != Beyond::nothing; }
     /// The part of the bar with values that a restriction of the plot does not hide.
     double shownFrom = 0.0;
     double shownTo = 1.0;
@@ -63,10 +67,10 @@ struct LegendMarks {
 /// of ten where the levels are logarithmic and reach far.
 std::vector<std::string> levelLabels(const std::vector<double>& levels, int digits);
 
-/// Whether levels rise by one factor: at least three, all positive.
-bool areLogarithmic(const std::vector<double>& levels);
-
 /// The unit at the end of a title, as UTF-8: in brackets, or after the word "in". Empty if there is none.
 std::string unitOf(const std::string& title);
+
+/// A title without the unit at its end: `x` of `x in mm`.
+std::string withoutUnit(const std::string& title);
 
 } // namespace vxrenderer

@@ -10,6 +10,7 @@
 #include "renderer/frame/lightplaces.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -97,12 +98,22 @@ bool isInView(const Matrixf& projection, const Vector3f& eye)
            std::abs(clip.z) <= 1.0f;
 }
 
-/// How far from the middle of the scene the arrow of a direction light starts, in radii: outside the scene if the
-/// view reaches that far.
+/// From an arrow to the lines beside it, in units of the radius of the scene.
+std::array<Vector3f, 4> besideArrow(const Vector3f& from)
+{
+    const Sides sides(from);
+    return {sides.first * c_beside, sides.first * -c_beside, sides.second * c_beside, sides.second * -c_beside};
+}
+
+/// How far from the middle of the scene the arrow of a direction light starts with the lines beside it, in radii:
+/// outside the scene if the view reaches that far.
 float arrowStart(const Matrixf& projection, const Vector3f& center, const Vector3f& from, float radius)
 {
     for (float start = c_arrowStart; start > c_nearestArrowStart; start -= c_arrowStep) {
-        if (isInView(projection, center + from * (start * radius))) {
+        const auto isSeen = [&](const Vector3f& aside) {
+            return isInView(projection, center + (from * start + aside) * radius);
+        };
+        if (std::ranges::all_of(besideArrow(from), isSeen)) {
             return start;
         }
     }
@@ -120,11 +131,9 @@ void addArrow(LightMarker& marker, const Matrixf& projection, const Vector3f& ce
     addBulb(marker, start, radius);
     marker.solids.push_back({Solid::Shape::cylinder, start, neck, c_arrowRadius * radius, marker.color});
     marker.solids.push_back({Solid::Shape::cone, neck, tip, c_arrowHeadRadius * radius, marker.color});
-    const Sides sides(from);
     marker.lines.push_back({tip, at(c_besideEnd)});
-    for (const Vector3f& side : {sides.first, -sides.first, sides.second, -sides.second}) {
-        const Vector3f aside = side * (c_beside * radius);
-        marker.lines.push_back({start + aside, at(c_besideEnd) + aside});
+    for (const Vector3f& aside : besideArrow(from)) {
+        marker.lines.push_back({start + aside * radius, at(c_besideEnd) + aside * radius});
     }
 }
 

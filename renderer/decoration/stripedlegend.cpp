@@ -21,24 +21,34 @@ constexpr float c_labelGap = 0.5f;
 /// Distance of the middles of two labels.
 constexpr float c_labelDistance = 1.3f;
 
-/// Where shaders find the colour of a value. Levels may be coloured by their positions among the legend levels.
-float colorOf(const SceneGraphPlot& plot, double value)
+/// Where shaders find the colour of a level, which may be coloured by its position among the legend levels; nothing if
+/// they hide it.
+std::optional<float> colorOf(const SceneGraphPlot& plot, const LegendScale& scale, double level)
 {
-    const LegendScale scale = legendScaleOf(plot);
     const auto* iso = dynamic_cast<const SceneGraphPlotIso*>(&plot);
-    const float onLegend = iso != nullptr
-                               ? std::lerp(plot.getDataTexMin(), plot.getDataTexMax(), iso->getTextureOf(value))
-                               : static_cast<float>(scale.heightOf(value));
+    if (iso == nullptr) {
+        return scale.colorAt(std::clamp(scale.heightOf(level), 0.0, 1.0));
+    }
+    const float texture = iso->getTextureOf(level);
+    const float low = plot.getRestrictionTexMin();
+    const float high = plot.getRestrictionTexMax();
+    // An end at an end of the data hides nothing, and a range without extent hides everything, as in `lookOf`.
+    const bool isHidden = low >= high || (low > 0.0f && texture < low) || (high < 1.0f && texture > high);
+    if (plot.hasValueRestrictions() && isHidden) {
+        return std::nullopt;
+    }
+    const float onLegend = std::lerp(plot.getDataTexMin(), plot.getDataTexMax(), texture);
     return std::lerp(scale.lowerColor, scale.upperColor, std::clamp(onLegend, 0.0f, 1.0f));
 }
 
 } // namespace
 
-std::vector<float> stripeColors(const SceneGraphPlot& plot, const std::vector<double>& levels)
+std::vector<std::optional<float>> stripeColors(const SceneGraphPlot& plot, const std::vector<double>& levels)
 {
-    std::vector<float> colors;
+    const LegendScale scale = legendScaleOf(plot);
+    std::vector<std::optional<float>> colors;
     for (const double level : levels) {
-        colors.push_back(colorOf(plot, level));
+        colors.push_back(colorOf(plot, scale, level));
     }
     return colors;
 }

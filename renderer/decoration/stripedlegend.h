@@ -4,6 +4,7 @@
 #include "renderer/decoration/legendtexts.h"
 #include "renderer/text/textlayout.h"
 
+#include <optional>
 #include <vector>
 
 namespace vxrenderer {
@@ -25,7 +26,7 @@ private:
     PlotItem m_item;
     LegendTexts m_texts;
     // From the bottom upwards: positions in the colour table, and the labels, empty where they are left out.
-    std::vector<float> m_colors;
+    std::vector<std::optional<float>> m_colors;
     std::vector<TextLayout> m_labels;
     float m_height;
     float m_stripeHeight;
@@ -33,7 +34,9 @@ private:
     float m_headHeight = 0.0f;
 };
 
-/// The positions in the colour table of the levels of a plot with a striped legend.
-std::vector<float> stripeColors(const vxgraphics3d::SceneGraphPlot& plot, const std::vector<double>& levels);
+/// The positions in the colour table of the levels of a plot with a striped legend; nothing for levels that a
+/// restriction hides.
+std::vector<std::optional<float>> stripeColors(const vxgraphics3d::SceneGraphPlot& plot,
+                                               const std::vector<double>& levels);
 
 } // namespace vxrenderer

@@ -2,12 +2,11 @@
 
 #include "base/ustring.h"
 #include "graphics3d/cameras/axisorientationindicator.h"
-#include "graphics3d/foundation/matrixf.h"
 #include "renderer/axes/axislayout.h"
+#include "renderer/decoration/legendmarks.h"
 #include "renderer/frame/contrast.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/view.h"
-#include "renderer/paint/linepainter.h"
 #include "renderer/text/titlemarkup.h"
 
 #include <algorithm>
@@ -45,7 +44,8 @@ Color distinctFrom(const Color& behind, const Color& color)
 Triad::Sizes sizesOf(const Frame& frame, const AxisOrientationIndicator& indicator)
 {
     const float length = frame.appearance.millimetres(indicator.getAxisLength());
-    const float shaft = std::max(1.0f, c_shaftRadius * frame.appearance.millimetres(indicator.getLineWidth()));
+    const float shaft =
+        std::max(frame.appearance.scale, c_shaftRadius * frame.appearance.millimetres(indicator.getLineWidth()));
     return {length, shaft, c_headRadius * shaft, c_headLength * length};
 }
 
@@ -72,8 +72,8 @@ TriadPainter::TriadPainter(const Frame& frame, const View& view, int pictureHeig
     for (std::size_t i = 0; i < m_colors.size(); ++i) {
         const auto axis = static_cast<AxisOrientationIndicator::Axis>(i);
         m_colors[i] = distinctFrom(behind, indicator.getColor(axis));
-        m_letters[i].text = layoutTitle(parseTitle(vxbase::UString(plainText(indicator.getLabel(axis)))), letters,
-                                        {AxisLabel::c_noLimit, AxisLabel::c_noLimit});
+        m_letters[i].text = layoutTitle(parseTitle(vxbase::UString(plainText(withoutUnit(indicator.getLabel(axis))))),
+                                        letters, {AxisLabel::c_noLimit, AxisLabel::c_noLimit});
         inks[i] = inkOf(m_letters[i].text, letters);
         sizes[i] = {inks[i].right - inks[i].left + around, inks[i].bottom - inks[i].top + around};
     }
@@ -84,11 +84,9 @@ TriadPainter::TriadPainter(const Frame& frame, const View& view, int pictureHeig
     }
 }
 
-void TriadPainter::drawAxes(const SolidPainter& painter, int width, int height) const
+void TriadPainter::drawAxes(DecorationCanvas& canvas) const
 {
-    vxgraphics3d::Matrixf toClip = pixelsToClip(width, height);
-    toClip.translate(m_originX, m_originY, 0.0f).scale(1.0f, -1.0f, 0.0f);
-    painter.draw(m_triad.solids(m_colors), toClip);
+    canvas.drawSolids(m_triad.solids(m_colors), {m_originX, m_originY});
 }
 
 void TriadPainter::drawLetters(DecorationCanvas& canvas) const

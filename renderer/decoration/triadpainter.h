@@ -17,8 +17,8 @@ public:
     /// @param letters the fonts of its letters
     TriadPainter(const Frame& frame, const View& view, int pictureHeight, FontSet& letters);
 
-    /// Draws without a depth test; the viewport is the whole picture.
-    void drawAxes(const SolidPainter& painter, int width, int height) const;
+    /// Draws without a depth test.
+    void drawAxes(DecorationCanvas& canvas) const;
     void drawLetters(DecorationCanvas& canvas) const;
 
 private:

@@ -4,6 +4,7 @@
 #include "graphics3d/plots/colour/colortable.h"
 #include "renderer/export/svgfile.h"
 #include "renderer/export/tablegradient.h"
+#include "renderer/export/vectorsolids.h"
 
 #include <algorithm>
 #include <array>
@@ -83,7 +84,9 @@ struct ClipPoint {
     double z;
     double w;
 
-    double depth() const { return z + w; }
+    // Distances behind the near plane and in front of the far plane.
+    double behindNear() const { return w + z; }
+    double beforeFar() const { return w - z; }
 
     static ClipPoint of(const Matrixf& toClip, const Vector3f& point)
     {
@@ -116,19 +119,21 @@ Point pixelOf(const ClipPoint& point, const PixelArea& area)
             area.y + 0.5 * (1.0 - point.y / point.w) * area.height};
 }
 
-/// A line in pixels, without what lies in front of the near plane or outside of an area with a margin: formats keep
-/// only small coordinates exactly.
+/// A line in pixels, without what lies in front of the near plane, behind the far plane or outside of an area with a
+/// margin: formats keep only small coordinates exactly.
 std::optional<std::pair<Point, Point>> clipped(ClipPoint a, ClipPoint b, const PixelArea& area, double margin)
 {
-    const double depthA = a.depth();
-    const double depthB = b.depth();
-    if (!std::isfinite(depthA) || !std::isfinite(depthB) || (depthA < 0.0 && depthB < 0.0)) {
-        return std::nullopt;
-    }
-    if (depthA < 0.0) {
-        a = a.towards(b, depthA / (depthA - depthB));
-    } else if (depthB < 0.0) {
-        b = b.towards(a, depthB / (depthB - depthA));
+    for (double (ClipPoint::*distance)() const : {&ClipPoint::behindNear, &ClipPoint::beforeFar}) {
+        const double atA = (a.*distance)();
+        const double atB = (b.*distance)();
+        if (!std::isfinite(atA) || !std::isfinite(atB) || (atA < 0.0 && atB < 0.0)) {
+            return std::nullopt;
+        }
+        if (atA < 0.0) {
+            a = a.towards(b, atA / (atA - atB));
+        } else if (atB < 0.0) {
+            b = b.towards(a, atB / (atB - atA));
+        }
     }
     const Point from = pixelOf(a, area);
     const Point to = pixelOf(b, area);
@@ -158,6 +163,37 @@ std::optional<std::pair<Point, Point>> clipped(ClipPoint a, ClipPoint b, const P
         return part == 0.0 ? from : part == 1.0 ? to : Point{from.x + part * dx, from.y + part * dy};
     };
     return std::pair(at(first), at(last));
+}
+
+/// What of a polygon is on that side of a plane where a function of its points is not negative.
+template <class Distance>
+std::vector<ClipPoint> cut(const std::vector<ClipPoint>& polygon, Distance distance)
+{
+    std::vector<ClipPoint> rest;
+    for (std::size_t i = 0; i < polygon.size(); ++i) {
+        const ClipPoint& from = polygon[i];
+        const ClipPoint& to = polygon[(i + 1) % polygon.size()];
+        const double before = distance(from);
+        const double after = distance(to);
+        if (before >= 0.0) {
+            rest.push_back(from);
+        }
+        if ((before < 0.0) != (after < 0.0)) {
+            rest.push_back(from.towards(to, before / (before - after)));
+        }
+    }
+    return rest;
+}
+
+/// What of a polygon is in view, and therefore has pixels.
+std::vector<ClipPoint> cutToView(std::vector<ClipPoint> polygon)
+{
+    polygon = cut(polygon, [](const ClipPoint& point) { return point.behindNear(); });
+    polygon = cut(polygon, [](const ClipPoint& point) { return point.beforeFar(); });
+    polygon = cut(polygon, [](const ClipPoint& point) { return point.w - point.x; });
+    polygon = cut(polygon, [](const ClipPoint& point) { return point.w + point.x; });
+    polygon = cut(polygon, [](const ClipPoint& point) { return point.w - point.y; });
+    return cut(polygon, [](const ClipPoint& point) { return point.w + point.y; });
 }
 
 } // namespace
@@ -511,6 +547,46 @@ void VectorCanvas::drawSymbols(std::span<const Vector3f> positions, const Symbol
             cairo_restore(context);
             cairo_fill(context);
         }
+    }
+}
+
+void VectorCanvas::fillOutline(std::span<const Vector3f> lines, const Matrixf& toClip, const Color& color)
+{
+    if (lines.size() < 4) {
+        return;
+    }
+    // One way along all lines, by way of the first point between those that do not follow each other: back to it from
+    // the end of a chain, which closes the chain, and out to the next one and back, which encloses nothing.
+    std::vector<ClipPoint> way;
+    const auto goTo = [&](const Vector3f& point) { way.push_back(ClipPoint::of(toClip, point)); };
+    Vector3f last = lines.front();
+    goTo(last);
+    for (std::size_t i = 0; i + 1 < lines.size(); i += 2) {
+        if (lines[i] != last) {
+            goTo(lines.front());
+            goTo(lines[i]);
+        }
+        goTo(lines[i + 1]);
+        last = lines[i + 1];
+    }
+    if (std::ranges::any_of(way, [](const ClipPoint& p) { return !std::isfinite(p.x + p.y + p.z + p.w); })) {
+        return;
+    }
+    for (const ClipPoint& point : cutToView(std::move(way))) {
+        const Point pixel = pixelOf(point, m_area);
+        cairo_line_to(m_context.get(), pixel.x, pixel.y);
+    }
+    cairo_close_path(m_context.get());
+    setColor(color);
+    cairo_set_fill_rule(m_context.get(), CAIRO_FILL_RULE_EVEN_ODD);
+    cairo_fill(m_context.get());
+    cairo_set_fill_rule(m_context.get(), CAIRO_FILL_RULE_WINDING);
+}
+
+void VectorCanvas::drawSolids(std::span<const Solid> solids, PixelPoint origin)
+{
+    for (const Solid& solid : solids) {
+        drawSolidAsVectors(*m_context, solid, origin);
     }
 }
 

@@ -54,6 +54,9 @@ public:
     void drawLines(std::span<const LineSegment> lines, const LinePainter::Frame& frame,
                    const vxgraphics3d::Color& color) override;
     void drawSymbols(std::span<const vxgraphics3d::Vector3f> positions, const SymbolPainter::Frame& frame) override;
+    void fillOutline(std::span<const vxgraphics3d::Vector3f> lines, const vxgraphics3d::Matrixf& toClip,
+                     const vxgraphics3d::Color& color) override;
+    void drawSolids(std::span<const Solid> solids, PixelPoint origin) override;
 
 private:
     void setColor(const vxgraphics3d::Color& color);

@@ -92,26 +92,32 @@ void SeenExtent::addSpheres(const PointRun& points)
         const float x = a[0] * p[0] + a[1] * p[1] + a[2] * z + a[3];
         const float y = b[0] * p[0] + b[1] * p[1] + b[2] * z + b[3];
         const float distance = -(c[0] * p[0] + c[1] * p[1] + c[2] * z + c[3]);
-        if (!(r >= 0.0f) || !(std::abs(x) + std::abs(y) + r < c_farthest)) {
-            continue;
-        }
-        // The lines of sight that touch a sphere, seen from above and from the side.
-        const auto take = [&](float across, float& low, float& high) {
-            if (!m_isPerspective) {
-                low = std::min(low, across - r);
-                high = std::max(high, across + r);
-                return;
-            }
-            const float squared = across * across + distance * distance - r * r;
-            if (distance > r && squared > 0.0f) {
-                const float root = std::sqrt(squared);
-                low = std::min(low, (across * root - r * distance) / (distance * root + r * across));
-                high = std::max(high, (across * root + r * distance) / (distance * root - r * across));
-            }
-        };
-        take(x, m_left, m_right);
-        take(y, m_bottom, m_top);
+        addAtEye({x, y, -distance}, r);
     }
+}
+
+void SeenExtent::addAtEye(const Vector3f& center, float radius)
+{
+    const float distance = -center.z;
+    if (!(radius >= 0.0f) || !(std::abs(center.x) + std::abs(center.y) + radius < c_farthest)) {
+        return;
+    }
+    // The lines of sight that touch a sphere, seen from above and from the side.
+    const auto take = [&](float across, float& low, float& high) {
+        if (!m_isPerspective) {
+            low = std::min(low, across - radius);
+            high = std::max(high, across + radius);
+            return;
+        }
+        const float squared = across * across + distance * distance - radius * radius;
+        if (distance > radius && squared > 0.0f) {
+            const float root = std::sqrt(squared);
+            low = std::min(low, (across * root - radius * distance) / (distance * root + radius * across));
+            high = std::max(high, (across * root + radius * distance) / (distance * root - radius * across));
+        }
+    };
+    take(center.x, m_left, m_right);
+    take(center.y, m_bottom, m_top);
 }
 
 void PointBox::add(const PointRun& points)
@@ -119,10 +125,11 @@ void PointBox::add(const PointRun& points)
     const float* p = points.first;
     for (std::size_t i = 0; i < points.count; ++i, p += points.stride) {
         const float point[3] = {p[0], p[1], p[2] * points.heightScale + points.planeOffset};
-        if (std::abs(point[0]) + std::abs(point[1]) + std::abs(point[2]) < c_farthest) {
+        const float radius = points.radius != nullptr ? points.radius[i * points.stride] * points.radiusScale : 0.0f;
+        if (radius >= 0.0f && std::abs(point[0]) + std::abs(point[1]) + std::abs(point[2]) + radius < c_farthest) {
             for (std::size_t axis = 0; axis < 3; ++axis) {
-                m_low[axis] = std::min(m_low[axis], point[axis]);
-                m_high[axis] = std::max(m_high[axis], point[axis]);
+                m_low[axis] = std::min(m_low[axis], point[axis] - radius * m_radii[axis]);
+                m_high[axis] = std::max(m_high[axis], point[axis] + radius * m_radii[axis]);
             }
         }
     }

@@ -24,6 +24,8 @@ public:
 
     void add(const PointRun& points);
     void add(const vxgraphics3d::Vector3f& point);
+    /// A sphere in coordinates of the eye.
+    void addAtEye(const vxgraphics3d::Vector3f& center, float radius);
 
     bool isEmpty() const { return !(m_left <= m_right && m_bottom <= m_top); }
     double left() const { return static_cast<double>(m_left); }
@@ -47,14 +49,20 @@ private:
     float m_top = -std::numeric_limits<float>::max();
 };
 
-/// The box of the points that are finite, without radii.
+/// The box of the points that are finite.
 class PointBox {
 public:
+    /// Without the radii of points.
+    PointBox() = default;
+    /// @param radiusX,radiusY how far a radius of 1 reaches along x and y
+    PointBox(float radiusX, float radiusY) : m_radii{radiusX, radiusY, 0.0f} {}
+
     void add(const PointRun& points);
     /// Empty without points.
     vxgraphics3d::BoundingBox get() const;
 
 private:
+    std::array<float, 3> m_radii = {};
     std::array<float, 3> m_low = {c_none, c_none, c_none};
     std::array<float, 3> m_high = {-c_none, -c_none, -c_none};
 

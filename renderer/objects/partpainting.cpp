@@ -107,6 +107,27 @@ std::vector<Instance> instancesOf(const PointCollection& points)
     return instances;
 }
 
+void visitLabels(const ObjectParts& parts, const MarkingModeSetup& markings, const TakeLabel& take)
+{
+    // Texts of points and lines lie next to them, those of faces and bodies on them.
+    const auto visit = [&](const auto& collection, bool isBeside) {
+        for (int i = 0; i < collection.getNumParts() && collection.getNumLabels() > 0; ++i) {
+            const auto& part = collection.getPart(i);
+            const Marking& marking = markings.getMarking(rowOfMesh(part.getDisplayFlags()));
+            if (part.getLabel() && marking.isVisible()) {
+                take({.point = part.getLabel()->getPosition(),
+                      .text = part.getLabel()->getText(),
+                      .color = marking.getLabelColor(),
+                      .isBeside = isBeside});
+            }
+        }
+    };
+    visit(parts.getSubdomains(), false);
+    visit(parts.getSheets(), false);
+    visit(parts.getLines(), true);
+    visit(parts.getPoints(), true);
+}
+
 MarkingType rowOfMesh(unsigned flags)
 {
     return MarkingModeSetup::getMarkingType(static_cast<int>(flags & 0xffffu & ~unsigned{MarkMeshed}));
@@ -184,21 +205,6 @@ const PartTable& PartPainting::tableOf(int number, const Parts& parts) const
     return m_context.uploads.partTable(m_object, number, rows);
 }
 
-template <class Parts>
-void PartPainting::drawLabels(const Parts& parts, bool isBeside) const
-{
-    for (int i = 0; i < parts.getNumParts() && parts.getNumLabels() > 0; ++i) {
-        const auto& part = parts.getPart(i);
-        const Marking& marking = m_context.objects.markings.getMarking(rowOfMesh(part.getDisplayFlags()));
-        if (part.getLabel() && marking.isVisible()) {
-            m_context.drawLabel({.point = part.getLabel()->getPosition(),
-                                 .text = part.getLabel()->getText(),
-                                 .color = marking.getLabelColor(),
-                                 .isBeside = isBeside});
-        }
-    }
-}
-
 void PartPainting::drawAll(const ObjectParts& parts, const Images& images) const
 {
     const auto colorOf = [&](int level) -> std::optional<Color> {
@@ -212,10 +218,7 @@ void PartPainting::drawAll(const ObjectParts& parts, const Images& images) const
         drawDirections(parts.getLines());
     }
     if (m_context.objects.showLabels) {
-        drawLabels(parts.getSubdomains(), false);
-        drawLabels(parts.getSheets(), false);
-        drawLabels(parts.getLines(), true);
-        drawLabels(parts.getPoints(), true);
+        visitLabels(parts, m_context.objects.markings, [this](const SceneLabel& label) { m_context.drawLabel(label); });
     }
 }
 

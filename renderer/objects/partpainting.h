@@ -34,6 +34,10 @@ std::vector<LineMesh::Piece> piecesOf(const vxgraphics3d::LineCollection& lines)
 /// The positions of all points.
 std::vector<Instance> instancesOf(const vxgraphics3d::PointCollection& points);
 
+/// Passes on the labels of visible parts.
+void visitLabels(const vxgraphics3d::ObjectParts& parts, const vxgraphics3d::MarkingModeSetup& markings,
+                 const TakeLabel& take);
+
 /// The row of the marking table for a part whose mesh is drawn: that of its marks without the mesh.
 vxgraphics3d::MarkingType rowOfMesh(unsigned flags);
 
@@ -101,9 +105,6 @@ private:
     void drawLine(const vxgraphics3d::Line& line) const;
     void drawPoint(const vxgraphics3d::Point& point) const;
     void drawLineMeshes(const vxgraphics3d::MeshableLineCollection& lines, int changeId) const;
-    /// @param isBeside whether texts lie next to their points, not on them
-    template <class Parts>
-    void drawLabels(const Parts& parts, bool isBeside) const;
 
     const ObjectItem& m_object;
     const PaintContext& m_context;

@@ -48,6 +48,11 @@ constexpr std::array<Color, 3> c_axisColors = {Color::fromRgb(0xd03030), Color::
                                                Color::fromRgb(0x2f5fd0)};
 constexpr std::array<const char*, 3> c_axisNames = {"x", "y", "z"};
 
+bool isShown(const SceneGraphFeatureObject& feature)
+{
+    return feature.isVisible() && feature.getPlane().isSetUp();
+}
+
 /// Lines and the heads of arrows in one colour.
 struct Arrows {
     std::vector<LineMesh::Piece> pieces;
@@ -148,7 +153,7 @@ public:
     void drawAxes() const
     {
         const std::array<Vector3f, 4>& triad = m_plane.getTriad();
-        for (std::size_t axis = 0; axis < c_axisNames.size(); ++axis) {
+        for (std::size_t axis = 0; axis < c_axisColors.size(); ++axis) {
             const Vector3f& tip = triad[axis + 1];
             const auto make = [&] {
                 Arrows arrow;
@@ -156,12 +161,6 @@ public:
                 return arrow;
             };
             draw(UploadAxis + static_cast<int>(axis), make, c_axisColors[axis], c_axisWidth);
-            if (m_context.objects.showLabels && m_plane.getSize() > 0.0f) {
-                m_context.drawLabel({.point = tip,
-                                     .text = vxbase::UString(std::string(c_axisNames[axis])),
-                                     .color = c_axisColors[axis],
-                                     .isBeside = true});
-            }
         }
     }
 
@@ -211,6 +210,17 @@ private:
 
 } // namespace
 
+void visitLabels(const SceneGraphFeatureObject& feature, const TakeLabel& take)
+{
+    const WorkPlane& plane = feature.getPlane();
+    for (std::size_t axis = 0; axis < c_axisNames.size() && isShown(feature) && plane.getSize() > 0.0f; ++axis) {
+        take({.point = plane.getTriad()[axis + 1],
+              .text = vxbase::UString(std::string(c_axisNames[axis])),
+              .color = c_axisColors[axis],
+              .isBeside = true});
+    }
+}
+
 bool WorkPlanePainter::draws(SceneGraphObject::ObjectType type) const
 {
     return type == SceneGraphObject::ObjectFeature;
@@ -219,13 +229,16 @@ bool WorkPlanePainter::draws(SceneGraphObject::ObjectType type) const
 void WorkPlanePainter::draw(const ObjectItem& object, const PaintContext& context) const
 {
     const auto& feature = static_cast<const SceneGraphFeatureObject&>(*object);
-    if (!feature.isVisible() || !feature.getPlane().isSetUp()) {
+    if (!isShown(feature)) {
         return;
     }
     const PlanePainting painting(object, feature, context);
     painting.drawGrid();
     painting.drawAxes();
     painting.drawSymbol();
+    if (context.objects.showLabels) {
+        visitLabels(feature, [&context](const SceneLabel& label) { context.drawLabel(label); });
+    }
 }
 
 } // namespace vxrenderer

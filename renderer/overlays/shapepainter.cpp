@@ -10,9 +10,8 @@
 #include "renderer/frame/appearance.h"
 #include "renderer/frame/view.h"
 #include "renderer/overlays/curveshape.h"
-#include "renderer/paint/linepainter.h"
+#include "renderer/paint/decorationcanvas.h"
 #include "renderer/paint/material.h"
-#include "renderer/paint/symbolpainter.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -50,9 +49,8 @@ Color withAlpha(Color color, int alpha)
 /// Draws one object.
 class ObjectDrawing {
 public:
-    ObjectDrawing(const OverlayObject& object, const FillPainter& fills, const ShapeContext& context)
+    ObjectDrawing(const OverlayObject& object, const ShapeContext& context)
         : m_object(object),
-          m_fills(fills),
           m_context(context),
           m_toClip(context.view.projection * context.view.sceneToEye * object.getTransformation()),
           m_outlineColor(object.isColorUsed() ? object.getOutlineColor() : context.appearance.textColor()),
@@ -103,22 +101,22 @@ private:
     {
         static_assert(sizeof(LineSegment) == 2 * sizeof(Vector3f));
         if (width > 0.0f) {
-            m_context.lines.draw(std::span(reinterpret_cast<const LineSegment*>(ends.data()), ends.size() / 2),
-                                 {m_toClip,
-                                  m_context.view.area.width,
-                                  m_context.view.area.height,
-                                  width * m_context.appearance.scale,
-                                  {},
-                                  true,
-                                  m_context.view.isFlat},
-                                 color);
+            m_context.canvas.drawLines(std::span(reinterpret_cast<const LineSegment*>(ends.data()), ends.size() / 2),
+                                       {m_toClip,
+                                        m_context.view.area.width,
+                                        m_context.view.area.height,
+                                        width * m_context.appearance.scale,
+                                        {},
+                                        true,
+                                        m_context.view.isFlat},
+                                       color);
         }
     }
 
     void drawSymbols(std::span<const Vector3f> positions, RenderSymbol symbol, float size, const Color& color) const
     {
-        m_context.symbols.draw(positions, {m_toClip, m_context.view.area.width, m_context.view.area.height, symbol,
-                                           size * m_context.appearance.scale, channelsOf(color)});
+        m_context.canvas.drawSymbols(positions, {m_toClip, m_context.view.area.width, m_context.view.area.height,
+                                                 symbol, size * m_context.appearance.scale, channelsOf(color)});
     }
 
     /// A symbol, with a border around it if it is both outlined and filled.
@@ -138,7 +136,7 @@ private:
     {
         const std::vector<Vector3f> outline = outlineOf(m_object);
         if (m_object.isFilled()) {
-            m_fills.fill(outline, m_toClip, m_fillColor);
+            m_context.canvas.fillOutline(outline, m_toClip, m_fillColor);
         }
         if (m_object.isOutlined()) {
             drawLines(outline, m_lineSize, m_outlineColor);
@@ -177,7 +175,7 @@ private:
     void drawBox(const OverlayTransformation& frame, const float* vertices, int count) const
     {
         if (frame.isFilled()) {
-            m_fills.fill(outlineOf(frame), m_toClip, m_fillColor);
+            m_context.canvas.fillOutline(outlineOf(frame), m_toClip, m_fillColor);
         }
         if (frame.isOutlined()) {
             std::vector<Vector3f> edges;
@@ -192,7 +190,7 @@ private:
     {
         const CurveShape shape(curve);
         if (curve.isFilled()) {
-            m_fills.fill(outlineOf(curve), m_toClip, m_fillColor);
+            m_context.canvas.fillOutline(outlineOf(curve), m_toClip, m_fillColor);
         }
         if (curve.isOutlined()) {
             const Color markingColor =
@@ -225,7 +223,6 @@ private:
     }
 
     const OverlayObject& m_object;
-    const FillPainter& m_fills;
     const ShapeContext& m_context;
     Matrixf m_toClip;
     Color m_outlineColor;
@@ -235,10 +232,10 @@ private:
 
 } // namespace
 
-void ShapePainter::draw(const Overlay& overlay, const ShapeContext& context) const
+void drawShapes(const Overlay& overlay, const ShapeContext& context)
 {
     for (const auto& object : overlay.getOverlayObjects()) {
-        ObjectDrawing(*object, m_fills, context).draw();
+        ObjectDrawing(*object, context).draw();
     }
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "graphics3d/foundation/color.h"
+#include "graphics3d/foundation/matrixf.h"
 #include "graphics3d/foundation/vector3f.h"
 #include "renderer/frame/pixelarea.h"
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/overlaypainter.h"
+#include "renderer/paint/solidpainter.h"
 #include "renderer/paint/symbolpainter.h"
 
 #include <boost/shared_ptr.hpp>
@@ -18,8 +20,8 @@ class SceneGraphPlotGroup;
 
 namespace vxrenderer {
 
-/// What title, legends, axes and triad are drawn on: the picture itself, or a file of vectors. Coordinates are pixels
-/// from the top left corner of the picture, whole ones are borders of pixels.
+/// What title, legends, axes, triad and overlays are drawn on: the picture itself, or a file of vectors. Coordinates
+/// are pixels from the top left corner of the picture, whole ones are borders of pixels.
 class DecorationCanvas {
 public:
     virtual ~DecorationCanvas() = default;
@@ -54,6 +56,12 @@ public:
     virtual void drawLines(std::span<const LineSegment> lines, const LinePainter::Frame& frame,
                            const vxgraphics3d::Color& color) = 0;
     virtual void drawSymbols(std::span<const vxgraphics3d::Vector3f> positions, const SymbolPainter::Frame& frame) = 0;
+    /// Fills what lines enclose, see `FillPainter::fill`.
+    /// @param toClip from the points to the area that was entered, or else to the picture
+    virtual void fillOutline(std::span<const vxgraphics3d::Vector3f> lines, const vxgraphics3d::Matrixf& toClip,
+                             const vxgraphics3d::Color& color) = 0;
+    /// Bodies in their order, with positions in pixels from an origin. Not within an area.
+    virtual void drawSolids(std::span<const Solid> solids, PixelPoint origin) = 0;
 };
 
 } // namespace vxrenderer

@@ -130,7 +130,8 @@ struct MeshPainter::ModelBlock {
     std::array<float, 16> modelView;
     std::array<float, 16> normalMatrix;
     float radiusScale = 1.0f;
-    std::array<float, 3> unused{};
+    float leastRadius = 0.0f;
+    std::array<float, 2> unused{};
 };
 
 void MeshPainter::begin(const View& view, const Lighting& light)
@@ -210,10 +211,10 @@ const GlProgram& MeshPainter::program(const MeshShader& shader)
 void MeshPainter::setUp(const Mesh& mesh, MeshShader shader, const Matrixf& toEye, const Material& material)
 {
     shader.lacksNormals = shader.isLit && !mesh.hasNormals();
-    use(shader, toEye, material, 1.0f);
+    use(shader, toEye, material, {});
 }
 
-void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& material, float radiusScale)
+void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& material, const Radii& radii)
 {
     shader.isRestricted = material.isRestricted();
     // What is blended is not among the surfaces that hide light from each other.
@@ -221,7 +222,7 @@ void MeshPainter::use(MeshShader shader, const Matrixf& toEye, const Material& m
     shader.output = m_output;
     takeEdges(shader, material);
     program(shader).use();
-    m_model.set({elementsOf(toEye), elementsOf(normalMatrixOf(toEye)), radiusScale});
+    m_model.set({elementsOf(toEye), elementsOf(normalMatrixOf(toEye)), radii.scale, radii.least});
     m_material.set(material);
     // Corners that run counter-clockwise in the scene run the other way in its mirror image.
     glFrontFace(isMirrored(toEye) ? GL_CW : GL_CCW);
@@ -264,7 +265,7 @@ void MeshPainter::takeEdges(MeshShader& shader, const Material& material) const
     }
 }
 
-float MeshPainter::largestInPixels(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye) const
+float MeshPainter::largestInPixels(const SphereBuffer& spheres, const Radii& radii, const Matrixf& toEye) const
 {
     const vxgraphics3d::Vector3f low = spheres.getBox().getMin();
     const vxgraphics3d::Vector3f high = spheres.getBox().getMax();
@@ -280,18 +281,17 @@ float MeshPainter::largestInPixels(const SphereBuffer& spheres, float radiusScal
     const auto axisLength = [&](int axis) {
         return vxgraphics3d::Vector3f(toEye.get(1, axis), toEye.get(2, axis), toEye.get(3, axis)).length();
     };
-    const float radius = spheres.getLargestRadius() * radiusScale * std::sqrt(axisLength(1) * axisLength(2));
+    const float radius = spheres.getLargestRadius() * radii.scale * std::sqrt(axisLength(1) * axisLength(2));
     // What reaches behind the eye is large.
-    return nearest > 0.0f ? radius / (nearest * m_pixelSize) : std::numeric_limits<float>::max();
+    return nearest > 0.0f ? std::max(radius / (nearest * m_pixelSize), radii.least) : std::numeric_limits<float>::max();
 }
 
-void MeshPainter::draw(const SphereBuffer& spheres, float radiusScale, const Matrixf& toEye, const Material& material)
+void MeshPainter::draw(const SphereBuffer& spheres, const Radii& radii, const Matrixf& toEye, const Material& material)
 {
     MeshShader shader = m_lightShader;
     shader.shape = spheres.areDiscs() ? MeshShader::Shape::discs : MeshShader::Shape::spheres;
-    shader.arePoints =
-        (m_isFlat || !spheres.areDiscs()) && largestInPixels(spheres, radiusScale, toEye) < c_largestPoint;
-    use(shader, toEye, material, radiusScale);
+    shader.arePoints = (m_isFlat || !spheres.areDiscs()) && largestInPixels(spheres, radii, toEye) < c_largestPoint;
+    use(shader, toEye, material, radii);
     if (spheres.areDiscs()) {
         // Discs are seen on a surface in their plane.
         glEnable(GL_POLYGON_OFFSET_FILL);

@@ -49,9 +49,15 @@ public:
               const Material& material);
     /// Draws parts of an object.
     void draw(const Mesh& mesh, const PartLook& parts, const vxgraphics3d::Matrixf& toEye, const Material& material);
+    /// How large spheres or discs are.
+    struct Radii {
+        /// Multiplies their radii.
+        float scale = 1.0f;
+        /// The smallest radius in pixels.
+        float least = 0.0f;
+    };
     /// Draws spheres or discs.
-    /// @param radiusScale multiplies their radii
-    void draw(const SphereBuffer& spheres, float radiusScale, const vxgraphics3d::Matrixf& toEye,
+    void draw(const SphereBuffer& spheres, const Radii& radii, const vxgraphics3d::Matrixf& toEye,
               const Material& material);
 
 private:
@@ -62,8 +68,8 @@ private:
     const GlProgram& program(const MeshShader& shader);
     void setUp(const Mesh& mesh, MeshShader shader, const vxgraphics3d::Matrixf& toEye, const Material& material);
     /// The radius of the largest sphere if it were at the point of all spheres nearest to the eye.
-    float largestInPixels(const SphereBuffer& spheres, float radiusScale, const vxgraphics3d::Matrixf& toEye) const;
-    void use(MeshShader shader, const vxgraphics3d::Matrixf& toEye, const Material& material, float radiusScale);
+    float largestInPixels(const SphereBuffer& spheres, const Radii& radii, const vxgraphics3d::Matrixf& toEye) const;
+    void use(MeshShader shader, const vxgraphics3d::Matrixf& toEye, const Material& material, const Radii& radii);
 
     /// Lets edges across triangles be smooth, where a material has any.
     void takeEdges(MeshShader& shader, const Material& material) const;

@@ -26,6 +26,8 @@ layout(std140) uniform Model {
     mat4 modelView;
     mat4 normalMatrix;
     float radiusScale;
+    // The smallest radius of spheres in pixels.
+    float leastRadius;
 };
 )";
 

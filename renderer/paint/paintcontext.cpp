@@ -12,6 +12,9 @@
 namespace vxrenderer {
 namespace {
 
+/// The radius of the smallest spheres in pixels of the screen.
+constexpr float c_leastRadius = 0.6f;
+
 Material faded(Material material, float opacity)
 {
     material.color[3] *= opacity;
@@ -73,7 +76,7 @@ void PaintContext::drawSpheres(const SphereBuffer* spheres, float radiusScale, c
 {
     const Material material = faded(look.material, opacity);
     if (spheres != nullptr && isDrawn(DrawMarks, material.isTranslucent())) {
-        meshes.draw(*spheres, radiusScale, look.toEye, material);
+        meshes.draw(*spheres, {radiusScale, c_leastRadius * scale}, look.toEye, material);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "renderer/paint/picturecanvas.h"
 
+#include "renderer/paint/fillpainter.h"
 #include "renderer/upload/colortextures.h"
 
 namespace vxrenderer {
@@ -22,59 +23,72 @@ void PictureCanvas::leaveArea()
 
 void PictureCanvas::fillRect(const PixelRect& rect, const Color& color)
 {
-    m_overlay.fillRect(rect, color);
+    m_painters.overlay.fillRect(rect, color);
 }
 
 void PictureCanvas::strokeRect(const PixelRect& rect, float width, const Color& color)
 {
-    m_overlay.strokeRect(rect, width, color);
+    m_painters.overlay.strokeRect(rect, width, color);
 }
 
 void PictureCanvas::fillPolygon(std::span<const PixelPoint> corners, const Color& color)
 {
-    m_overlay.fillPolygon(corners, color);
+    m_painters.overlay.fillPolygon(corners, color);
 }
 
 void PictureCanvas::useColorTable(const boost::shared_ptr<const vxgraphics3d::SceneGraphPlotGroup>& group, int handle,
                                   const boost::shared_ptr<const vxgraphics3d::ColorTable>& table)
 {
-    m_textures.bind(group, handle, *table);
+    m_painters.textures.bind(group, handle, *table);
 }
 
 void PictureCanvas::fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor)
 {
-    m_overlay.fillWithColorTable(rect, bottomColor, topColor);
+    m_painters.overlay.fillWithColorTable(rect, bottomColor, topColor);
 }
 
 void PictureCanvas::fillWithColorTableAcross(const PixelRect& rect, float leftColor, float rightColor)
 {
-    m_overlay.fillWithColorTableAcross(rect, leftColor, rightColor);
+    m_painters.overlay.fillWithColorTableAcross(rect, leftColor, rightColor);
 }
 
 void PictureCanvas::fillPolygonWithColorTable(std::span<const PixelPoint> corners, float position)
 {
-    m_overlay.fillPolygonWithColorTable(corners, position);
+    m_painters.overlay.fillPolygonWithColorTable(corners, position);
 }
 
 void PictureCanvas::drawText(const TextLayout& text, FontSet& fonts, float left, float top, const TextColors& colors)
 {
-    m_overlay.drawText(text, fonts, left, top, colors);
+    m_painters.overlay.drawText(text, fonts, left, top, colors);
 }
 
 void PictureCanvas::drawTextUpwards(const TextLayout& text, FontSet& fonts, float left, float bottom,
                                     const TextColors& colors)
 {
-    m_overlay.drawTextUpwards(text, fonts, left, bottom, colors);
+    m_painters.overlay.drawTextUpwards(text, fonts, left, bottom, colors);
 }
 
 void PictureCanvas::drawLines(std::span<const LineSegment> lines, const LinePainter::Frame& frame, const Color& color)
 {
-    m_lines.draw(lines, frame, color);
+    m_painters.lines.draw(lines, frame, color);
 }
 
 void PictureCanvas::drawSymbols(std::span<const vxgraphics3d::Vector3f> positions, const SymbolPainter::Frame& frame)
 {
-    m_symbols.draw(positions, frame);
+    m_painters.symbols.draw(positions, frame);
+}
+
+void PictureCanvas::fillOutline(std::span<const vxgraphics3d::Vector3f> lines, const vxgraphics3d::Matrixf& toClip,
+                                const Color& color)
+{
+    m_painters.fills.fill(lines, toClip, color);
+}
+
+void PictureCanvas::drawSolids(std::span<const Solid> solids, PixelPoint origin)
+{
+    vxgraphics3d::Matrixf toClip = pixelsToClip(m_width, m_height);
+    toClip.translate(origin.x, origin.y, 0.0f).scale(1.0f, -1.0f, 0.0f);
+    m_painters.solids.draw(solids, toClip);
 }
 
 } // namespace vxrenderer

@@ -5,15 +5,25 @@
 namespace vxrenderer {
 
 class ColorTextures;
+class FillPainter;
 
-/// Draws decorations into the current target. Lines and symbols may be drawn at any time, the rest after
-/// `OverlayPainter::begin`.
+/// Draws decorations into the current target. Lines, symbols, outlines and bodies may be drawn at any time, the rest
+/// after `OverlayPainter::begin`.
 class PictureCanvas final : public DecorationCanvas {
 public:
+    /// The painters of a picture.
+    struct Painters {
+        OverlayPainter& overlay;
+        const LinePainter& lines;
+        const SymbolPainter& symbols;
+        const FillPainter& fills;
+        const SolidPainter& solids;
+        ColorTextures& textures;
+    };
+
     /// @param width,height of the picture
-    PictureCanvas(OverlayPainter& overlay, const LinePainter& lines, const SymbolPainter& symbols,
-                  ColorTextures& textures, int width, int height)
-        : m_overlay(overlay), m_lines(lines), m_symbols(symbols), m_textures(textures), m_width(width), m_height(height)
+    PictureCanvas(const Painters& painters, int width, int height)
+        : m_painters(painters), m_width(width), m_height(height)
     {}
 
     void enterArea(const PixelArea& area) override;
@@ -33,12 +43,12 @@ public:
     void drawLines(std::span<const LineSegment> lines, const LinePainter::Frame& frame,
                    const vxgraphics3d::Color& color) override;
     void drawSymbols(std::span<const vxgraphics3d::Vector3f> positions, const SymbolPainter::Frame& frame) override;
+    void fillOutline(std::span<const vxgraphics3d::Vector3f> lines, const vxgraphics3d::Matrixf& toClip,
+                     const vxgraphics3d::Color& color) override;
+    void drawSolids(std::span<const Solid> solids, PixelPoint origin) override;
 
 private:
-    OverlayPainter& m_overlay;
-    const LinePainter& m_lines;
-    const SymbolPainter& m_symbols;
-    ColorTextures& m_textures;
+    Painters m_painters;
     int m_width;
     int m_height;
 };

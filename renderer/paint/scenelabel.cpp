@@ -33,7 +33,7 @@ TextLayout layoutOf(const vxbase::UString& text, FontSet& fonts)
     return layoutTitle(parseTitle(markup), fonts, {c_noLimit, c_noLimit});
 }
 
-/// A label that is in view.
+/// A label in view, at its position.
 struct ShownLabel {
     const SceneLabel* label;
     TextLayout text;
@@ -48,12 +48,15 @@ struct ShownLabel {
     float top = 0.0f;
 };
 
-std::optional<ShownLabel> shownLabel(const SceneLabel& label, const View& view, FontSet& fonts)
+/// Nothing for a label whose point is not in view.
+/// @param layOut gives its text
+template <class LayOut>
+std::optional<ShownLabel> shownLabel(const SceneLabel& label, const View& view, const LayOut& layOut)
 {
     if (!PicturePoint::of(label.point, view, 0.0f)) {
         return std::nullopt;
     }
-    ShownLabel shown = {&label, layoutOf(label.text, fonts)};
+    ShownLabel shown = {&label, layOut()};
     // Only what lies clearly in front of the point hides the text. One that does not lie on its point reaches farther.
     const float reach = shown.text.height + (label.isBeside ? shown.text.width : 0.0f);
     const PicturePoint place = *PicturePoint::of(label.point, view, reach);
@@ -161,14 +164,20 @@ GLuint countSamples(const PixelRect& rect, float depth, OverlayPainter& painter)
     return count;
 }
 
+/// What a label covers with its rim.
+PixelRect rectOf(const ShownLabel& shown, float fontSize)
+{
+    const float rim = haloWidth(fontSize);
+    return {shown.left - rim, shown.top - rim, shown.left + shown.text.width + rim,
+            shown.top + shown.text.height + rim};
+}
+
 /// Whether nothing in front of a label covers any of it.
-bool isFree(const ShownLabel& shown, float rim, OverlayPainter& painter)
+bool isFree(const ShownLabel& shown, const PixelRect& rect, OverlayPainter& painter)
 {
     if (!shown.label->isHideable) {
         return true;
     }
-    const PixelRect rect = {shown.left - rim, shown.top - rim, shown.left + shown.text.width + rim,
-                            shown.top + shown.text.height + rim};
     glDisable(GL_DEPTH_TEST);
     const GLuint all = countSamples(rect, shown.depth, painter);
     glEnable(GL_DEPTH_TEST);
@@ -194,12 +203,37 @@ TextColors withRim(const Color& color)
 
 } // namespace
 
+LabelExtent::LabelExtent(std::vector<SceneLabel> labels, FontSet& fonts)
+    : m_labels(std::move(labels)), m_fontSize(fonts.fontSize())
+{
+    for (const SceneLabel& label : m_labels) {
+        const TextLayout text = layoutOf(label.text, fonts);
+        m_sizes.push_back({{}, text.width, text.height, text.numLines});
+    }
+}
+
+std::vector<PixelRect> LabelExtent::rectsIn(const View& view) const
+{
+    std::vector<ShownLabel> shownLabels;
+    for (std::size_t i = 0; i < m_labels.size(); ++i) {
+        if (std::optional<ShownLabel> shown = shownLabel(m_labels[i], view, [&] { return m_sizes[i]; })) {
+            shownLabels.push_back(std::move(*shown));
+        }
+    }
+    placeBeside(shownLabels, m_fontSize);
+    std::vector<PixelRect> rects;
+    for (const ShownLabel& shown : shownLabels) {
+        rects.push_back(rectOf(shown, m_fontSize));
+    }
+    return rects;
+}
+
 void drawLabels(std::span<const SceneLabel> labels, const View& view, int width, int height, FontSet& fonts,
                 OverlayPainter& painter, std::vector<PlacedLabel>* free)
 {
     std::vector<ShownLabel> shownLabels;
     for (const SceneLabel& label : labels) {
-        if (std::optional<ShownLabel> shown = shownLabel(label, view, fonts)) {
+        if (std::optional<ShownLabel> shown = shownLabel(label, view, [&] { return layoutOf(label.text, fonts); })) {
             shownLabels.push_back(std::move(*shown));
         }
     }
@@ -210,7 +244,7 @@ void drawLabels(std::span<const SceneLabel> labels, const View& view, int width,
     glDepthMask(GL_FALSE);
     for (const ShownLabel& shown : shownLabels) {
         const TextColors colors = withRim(shown.label->color);
-        if (free != nullptr && isFree(shown, haloWidth(fonts.fontSize()), painter)) {
+        if (free != nullptr && isFree(shown, rectOf(shown, fonts.fontSize()), painter)) {
             free->push_back({shown.text, shown.left, shown.top, colors});
             continue;
         }

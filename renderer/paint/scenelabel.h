@@ -5,6 +5,7 @@
 #include "graphics3d/foundation/vector3f.h"
 #include "renderer/paint/overlaypainter.h"
 
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -25,6 +26,25 @@ struct SceneLabel {
     /// Whether the text lies next to the point, on the first of its sides and corners where it covers no other such
     /// text; where all are taken, it is left out. Otherwise its middle lies at the point.
     bool isBeside = false;
+};
+
+/// Receives a label.
+using TakeLabel = std::function<void(const SceneLabel&)>;
+
+/// What labels cover of a picture, without drawing them. Their texts are laid out once, for as many views as are tried.
+class LabelExtent {
+public:
+    LabelExtent(std::vector<SceneLabel> labels, FontSet& fonts);
+
+    bool isEmpty() const { return m_labels.empty(); }
+    /// Where `drawLabels` draws them in a view, with their rims.
+    std::vector<PixelRect> rectsIn(const View& view) const;
+
+private:
+    std::vector<SceneLabel> m_labels;
+    /// Without characters.
+    std::vector<TextLayout> m_sizes;
+    float m_fontSize;
 };
 
 /// A label at its position in the picture.

@@ -58,6 +58,18 @@ constexpr int c_rings = 12;
 
 } // namespace
 
+vxgraphics3d::Color litColor(const vxgraphics3d::Color& color, const Vector3f& normal)
+{
+    // As in the shader.
+    const float lit = 0.45f + 0.55f * std::max(normal.dot(Vector3f(-0.38f, 0.54f, 0.75f)), 0.0f);
+    const float shine = 0.35f * std::pow(std::max(normal.dot(Vector3f(-0.203f, 0.289f, 0.936f)), 0.0f), 24.0f);
+    const auto channel = [&](int own) {
+        return std::clamp(static_cast<int>(std::lround(std::lerp(static_cast<float>(own) * lit, 255.0f, shine))), 0,
+                          255);
+    };
+    return {channel(color.red), channel(color.green), channel(color.blue), 255};
+}
+
 struct SolidPainter::SolidBlock {
     static constexpr const char* c_block = "Solid";
     static constexpr GLuint c_binding = 9;

@@ -25,6 +25,10 @@ struct Solid {
     vxgraphics3d::Color color;
 };
 
+/// The colour of a body in the light of signs, where its surface has a direction.
+/// @param normal of length 1
+vxgraphics3d::Color litColor(const vxgraphics3d::Color& color, const vxgraphics3d::Vector3f& normal);
+
 /// Draws the bodies of signs, with a light of their own from the upper left of the viewer, so that they look the same
 /// whatever lights a scene has.
 class SolidPainter {

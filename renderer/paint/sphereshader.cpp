@@ -21,7 +21,6 @@ out vec3 eyePosition;
 
 // A triangle around the unit circle.
 const vec2 c_corners[3] = vec2[3](vec2(-1.7320508, -1.0), vec2(1.7320508, -1.0), vec2(0.0, 2.0));
-const float c_leastPixels = 0.6;
 
 void main()
 {
@@ -34,7 +33,7 @@ void main()
     float radius = data.y * radiusScale * sqrt(length(x) * length(y));
     float away = length(eye.xyz);
     eyeCenter = eye.xyz;
-    eyeRadius = max(radius, c_leastPixels * pixelSize);
+    eyeRadius = max(radius, leastRadius * pixelSize);
     eyeNormal = vec3(0.0, 0.0, 1.0);
     span = 0.0;
     radiusInPixels = 0.0;

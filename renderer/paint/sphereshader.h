@@ -6,7 +6,7 @@ namespace vxrenderer {
 // one point if all are small in the picture, in which every pixel finds out where its line of sight meets the shape.
 //
 // A sphere stays round whatever the scales of the axes are; its radius is in the mean of the units of x and y. One that
-// is smaller than a pixel is drawn as large as a pixel, and one without a radius not at all.
+// is smaller than a pixel of the screen is drawn as large as that, and one without a radius not at all.
 
 /// The end of a vertex shader, after the constants c_areDiscs and c_arePoints, the blocks `View`
 /// and `Model`, and `Material::c_source`.

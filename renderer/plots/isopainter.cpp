@@ -5,8 +5,9 @@
 #include "renderer/plots/plotlook.h"
 #include "renderer/upload/uploadcache.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
-#include <utility>
 
 namespace vxrenderer {
 namespace {
@@ -25,20 +26,30 @@ int vertexChangeIdOf(const SceneGraphPlotIso& plot)
                             static_cast<unsigned>(plot.getLevelChangeId()));
 }
 
-void drawLabel(const SceneGraphPlotIso& plot, int level, const Material& material, const PaintContext& context)
+bool hasLines(const SceneGraphPlotIso::IsoData& level)
 {
-    const auto at = static_cast<std::size_t>(level);
-    const SceneGraphPlotIso::IsoData& data = *plot.getSurface(level);
-    if (!plot.isShowLabels() || at >= plot.getLabels().size() || plot.getLabels()[at].empty() ||
-        (!plot.hasColorData() && material.hides(data.m_vertices.vertices()[0].u))) {
-        return;
-    }
-    Vector3f point = data.m_labelPosition;
-    point.z = point.z * plot.getHeightScale() + plot.getPlotPlaneOffset();
-    context.drawLabel({.point = point, .text = vxbase::UString(plot.getLabels()[at]), .color = plot.getLabelColor()});
+    return level.m_shown && level.m_lines.getNumElements(0) > 0 && level.m_vertices.getNumberOfVertices() > 0;
 }
 
 } // namespace
+
+void visitLabels(const SceneGraphPlotIso& plot, const TakeLabel& take)
+{
+    const auto count = std::min(static_cast<std::size_t>(plot.getNumberOfLevels()), plot.getLabels().size());
+    const std::array<float, 2> shown = shownTextureRange(plot);
+    for (std::size_t i = 0; i < count && plot.isShowLabels(); ++i) {
+        const SceneGraphPlotIso::IsoData& level = *plot.getSurface(static_cast<int>(i));
+        if (!hasLines(level) || plot.getLabels()[i].empty()) {
+            continue;
+        }
+        const float u = level.m_vertices.vertices()[0].u;
+        if (plot.hasColorData() || !(u < shown[0] || u > shown[1])) {
+            Vector3f point = level.m_labelPosition;
+            point.z = point.z * plot.getHeightScale() + plot.getPlotPlaneOffset();
+            take({.point = point, .text = vxbase::UString(plot.getLabels()[i]), .color = plot.getLabelColor()});
+        }
+    }
+}
 
 bool IsoPainter::draws(PlotType type) const
 {
@@ -61,12 +72,12 @@ void IsoPainter::draw(const PlotItem& item, const PaintContext& context) const
         if (level.m_triangles.getNumElements(0) > 0) {
             context.drawBody(context.uploads.mesh(item.plot, i, changeId, level.m_vertices, level.m_triangles), *look);
         }
-        if (level.m_lines.getNumElements(0) > 0 && level.m_vertices.getNumberOfVertices() > 0) {
+        if (hasLines(level)) {
             context.drawLines(context.uploads.lines(item.plot, i, changeId, level.m_vertices, level.m_lines), *look,
                               c_lineWidth);
-            drawLabel(plot, i, look->material, context);
         }
     }
+    visitLabels(plot, [&context](const SceneLabel& label) { context.drawLabel(label); });
 }
 
 } // namespace vxrenderer

@@ -38,9 +38,8 @@ bool hasJumps(const ColorTable& table)
 std::optional<Look> lookOf(const PlotItem& item, const PaintContext& context)
 {
     const SceneGraphPlot& plot = *item.plot;
-    const float low = plot.getRestrictionTexMin();
-    const float high = plot.getRestrictionTexMax();
-    if (plot.hasValueRestrictions() && low >= high) {
+    const std::array<float, 2> shown = shownTextureRange(plot);
+    if (shown[0] > shown[1]) {
         return std::nullopt;
     }
     Look look = {context.view.sceneToEye, Material::of(plot.getColor())};
@@ -61,15 +60,26 @@ std::optional<Look> lookOf(const PlotItem& item, const PaintContext& context)
     material.legendTex = {plot.getLegendTexMin(), plot.getLegendTexMax()};
     material.isReversed = plot.isReverseColorTable() ? 1 : 0;
     material.shininess = plot.getShininess();
+    material.restriction = shown;
+    return look;
+}
+
+std::array<float, 2> shownTextureRange(const SceneGraphPlot& plot)
+{
+    std::array<float, 2> shown = Material().restriction;
+    const float low = plot.getRestrictionTexMin();
+    const float high = plot.getRestrictionTexMax();
+    if (!plot.hasValueRestrictions()) {
+        return shown;
+    }
+    if (low >= high) {
+        return {1.0f, 0.0f};
+    }
     // An end of the restriction that lies at an end of the data hides nothing, however a coordinate between two
     // vertices is rounded.
-    if (plot.hasValueRestrictions() && low > 0.0f) {
-        material.restriction[0] = low;
-    }
-    if (plot.hasValueRestrictions() && high < 1.0f) {
-        material.restriction[1] = high;
-    }
-    return look;
+    shown[0] = low > 0.0f ? low : shown[0];
+    shown[1] = high < 1.0f ? high : shown[1];
+    return shown;
 }
 
 } // namespace vxrenderer

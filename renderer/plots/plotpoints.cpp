@@ -100,7 +100,7 @@ void visitArrows(const SceneGraphPlotArrow& plot, const Visit& visit)
         const Vector3f base = tip - (tip - tail) * headLength;
         ends.push_back({tail.x, tail.y, tail.z, 0.0f});
         ends.push_back({tip.x, tip.y, tip.z, 0.0f});
-        ends.push_back({base.x, base.y, base.z, radius});
+        ends.push_back({base.x, base.y, base.z, headLength > 0.0f ? radius : 0.0f});
     });
     visit.spheres(ends, 1.0f);
 }

@@ -20,13 +20,18 @@ bool PointLabelPainter::draws(PlotType type) const
 
 void PointLabelPainter::draw(const PlotItem& item, const PaintContext& context) const
 {
-    const auto& plot = static_cast<const SceneGraphPlotPointLabel&>(*item.plot);
+    visitLabels(static_cast<const SceneGraphPlotPointLabel&>(*item.plot),
+                [&context](const SceneLabel& label) { context.drawLabel(label); });
+}
+
+void visitLabels(const SceneGraphPlotPointLabel& plot, const TakeLabel& take)
+{
     const PointCollection& points = plot.getLabelPoints();
     const std::size_t count = std::min(plot.getLabels().size(), static_cast<std::size_t>(points.getNumParts()));
     for (std::size_t i = 0; i < count; ++i) {
         Vector3f point = points.getPart(static_cast<int>(i)).getPosition();
         point.z = point.z * plot.getHeightScale() + plot.getPlotPlaneOffset();
-        context.drawLabel({.point = point, .text = plot.getLabels()[i], .color = plot.getColor(), .isBeside = true});
+        take({.point = point, .text = plot.getLabels()[i], .color = plot.getColor(), .isBeside = true});
     }
 }
 

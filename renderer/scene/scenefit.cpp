@@ -2,14 +2,17 @@
 
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/camera3d.h"
-#include "graphics3d/parts/markingsetups.h"
+#include "graphics3d/scene/scene.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/axes/gridbox.h"
 #include "renderer/axes/labelplacer.h"
 #include "renderer/decoration/axespainter.h"
+#include "renderer/decoration/lightmarkers.h"
 #include "renderer/frame/frame.h"
 #include "renderer/frame/seenextent.h"
-#include "renderer/plots/plotpoints.h"
+#include "renderer/frame/view.h"
+#include "renderer/paint/scenelabel.h"
+#include "renderer/scene/flatextent.h"
 #include "renderer/scene/framelayout.h"
 #include "renderer/scene/sceneitems.h"
 
@@ -48,7 +51,9 @@ struct Rect {
     double right = -HUGE_VAL;
     double bottom = -HUGE_VAL;
 
-    void merge(const LabelRect& label)
+    /// @param label of a type with these sides
+    template <class Label>
+    void merge(const Label& label)
     {
         left = std::min(left, static_cast<double>(label.left));
         top = std::min(top, static_cast<double>(label.top));
@@ -95,31 +100,38 @@ public:
           m_layout(layout),
           m_area(layout.area.whole),
           m_target(targetOf(layout.area.inner, marginOf(*Canvas3dGlobalSettings::getInstance()))),
-          m_seen(camera)
+          m_labels(labelsOf(layout.items, frame), layout.labelFonts)
     {
-        visitPoints(layout.items, frame, [this](const PointRun& points) { m_seen.add(points); });
-        if (m_seen.isEmpty()) {
+        SeenExtent seen(camera);
+        visitPoints(layout.items, frame, [&seen](const PointRun& points) { seen.add(points); });
+        if (seen.isEmpty()) {
             for (int corner = 0; corner < 8; ++corner) {
-                m_seen.add(layout.box.getVertex(corner));
+                seen.add(layout.box.getVertex(corner));
             }
         }
         if (frame.appearance.showAxes) {
             for (const AxisLine& edge : gridBox().edges) {
-                m_seen.add(edge.from);
-                m_seen.add(edge.to);
+                seen.add(edge.from);
+                seen.add(edge.to);
             }
+        }
+        m_isEmpty = seen.isEmpty();
+        m_seen = {seen.left(), -seen.top(), seen.right(), -seen.bottom()};
+        if (frame.appearance.showLightMarkers && !m_isEmpty) {
+            addMarkers();
         }
     }
 
     void run()
     {
-        if (m_seen.isEmpty()) {
+        if (m_isEmpty) {
             return;
         }
+        const bool hasTexts = m_frame.appearance.showAxes || !m_labels.isEmpty();
         m_largest = c_largestZoom * pixelsAcross();
         Overhang overhang;
         double change = move(overhang);
-        for (int round = 0; round < c_mostRounds && change > c_accuracy && m_frame.appearance.showAxes; ++round) {
+        for (int round = 0; round < c_mostRounds && change > c_accuracy && hasTexts; ++round) {
             const Overhang next = overhangOfLabels();
             // Labels come and go with the zoom. From some rounds on they keep the space that they once took, so that
             // the search ends.
@@ -136,6 +148,40 @@ private:
     GridBoxLayout gridBox() const
     {
         return layOutGridBox(m_frame, {m_layout.box, m_layout.heightUnits}, m_area, m_layout.axisFonts, {});
+    }
+
+    /// Adds the markers of lights, as far as half of the size is left to the scene.
+    void addMarkers()
+    {
+        SeenExtent markers(m_camera);
+        const Scene& scene = *m_frame.scene;
+        for (const LightMarker& marker : lightMarkers(*scene.getSceneLight(), scene.getBoundingBox(), m_camera)) {
+            for (const Solid& solid : marker.solids) {
+                markers.addAtEye(solid.from, solid.radius);
+                markers.addAtEye(solid.to, solid.radius);
+            }
+            for (const LineSegment& line : marker.lines) {
+                markers.addAtEye(line.from, 0.0f);
+                markers.addAtEye(line.to, 0.0f);
+            }
+        }
+        const double width = m_seen.right - m_seen.left;
+        const double height = m_seen.bottom - m_seen.top;
+        // What the target shows in units of the extent once the scene fills half of it.
+        const double shownAcross = (m_target.right - m_target.left) / pixelsAcross();
+        const double shownAlong = (m_target.bottom - m_target.top) / pixelsAlong();
+        const double zoom = 2.0 * std::max(width / shownAcross, height / shownAlong);
+        const double mostAcross = zoom * shownAcross - width;
+        const double mostAlong = zoom * shownAlong - height;
+        if (!markers.isEmpty() && mostAcross > 0.0 && mostAlong > 0.0) {
+            const Overhang beyond =
+                Overhang{std::max(m_seen.left - markers.left(), 0.0), std::max(m_seen.top + markers.top(), 0.0),
+                         std::max(markers.right() - m_seen.right, 0.0),
+                         std::max(-markers.bottom() - m_seen.bottom, 0.0)}
+                    .limitedTo(mostAcross / c_mostForLabels, mostAlong / c_mostForLabels);
+            m_seen = {m_seen.left - beyond.left, m_seen.top - beyond.top, m_seen.right + beyond.right,
+                      m_seen.bottom + beyond.bottom};
+        }
     }
 
     // Pixels for a unit of the extent.
@@ -161,16 +207,21 @@ private:
     {
         const double x = pixelsAcross();
         const double y = pixelsAlong();
-        return {sightX() + x * m_seen.left(), sightY() - y * m_seen.top(), sightX() + x * m_seen.right(),
-                sightY() - y * m_seen.bottom()};
+        return {sightX() + x * m_seen.left, sightY() + y * m_seen.top, sightX() + x * m_seen.right,
+                sightY() + y * m_seen.bottom};
     }
 
     Overhang overhangOfLabels() const
     {
         const Rect seen = seenRect();
         Rect all = seen;
-        for (const AxisLabel& label : gridBox().labels) {
-            all.merge(rectOf(label, m_layout.axisFonts.metrics()));
+        if (m_frame.appearance.showAxes) {
+            for (const AxisLabel& label : gridBox().labels) {
+                all.merge(rectOf(label, m_layout.axisFonts.metrics()));
+            }
+        }
+        for (const PixelRect& label : m_labels.rectsIn(View::of(m_camera, m_area, false))) {
+            all.merge(label);
         }
         return {seen.left - all.left, seen.top - all.top, all.right - seen.right, all.bottom - seen.bottom};
     }
@@ -221,7 +272,10 @@ private:
     const FrameLayout& m_layout;
     PixelArea m_area;
     Rect m_target;
-    SeenExtent m_seen;
+    /// How far the scene reaches to the sides, counted from the line of sight to the right and downwards.
+    Rect m_seen;
+    bool m_isEmpty = false;
+    LabelExtent m_labels;
     double m_largest = 0.0;
 };
 
@@ -260,18 +314,11 @@ void fitCamera(Camera3d& camera, const Frame& frame, const FrameLayout& layout)
     Fit(camera, frame, layout).run();
 }
 
-void fitCamera(Camera2d& camera, const FrameLayout& layout)
+namespace {
+
+/// Shows a box with the margin around it.
+void moveTo(const BoundingBox& box, Camera2d& camera, const FrameLayout& layout)
 {
-    // The boxes of graphs say how they are drawn; those of other plots do not enclose their arrows.
-    PointBox drawn;
-    for (const SceneItem& item : layout.items) {
-        const auto* plot = std::get_if<PlotItem>(&item);
-        if (plot != nullptr && plot->plot->getType() != PlotType::graph) {
-            visitPlotPoints(*plot->plot, [&drawn](const PointRun& points) { drawn.add(points); });
-        }
-    }
-    BoundingBox box = layout.box;
-    box.merge(drawn.get());
     const PixelArea& whole = layout.area.whole;
     const PixelArea& inner = layout.area.inner;
     // Half of the margin on each side, as in space.
@@ -294,6 +341,30 @@ void fitCamera(Camera2d& camera, const FrameLayout& layout)
     setArea(whole);
     camera.setViewLimits(minX, minX + unitX * static_cast<float>(whole.width),
                          maxY - unitY * static_cast<float>(whole.height), maxY);
+}
+
+} // namespace
+
+void fitCamera(Camera2d& camera, const Frame& frame, const FrameLayout& layout)
+{
+    const FlatExtent extent(frame, layout, camera);
+    BoundingBox box = extent.getBox();
+    moveTo(box, camera, layout);
+    for (int round = 0; round < c_mostRounds && extent.hasLabels(); ++round) {
+        const BoundingBox next = extent.withLabels(camera);
+        const Vector3f low = next.getMin() - box.getMin();
+        const Vector3f high = next.getMax() - box.getMax();
+        const auto isStill = [](float first, float second, float range, int pixels) {
+            const float most = static_cast<float>(c_accuracy) * range / static_cast<float>(pixels);
+            return std::abs(first) <= most && std::abs(second) <= most;
+        };
+        if (isStill(low.x, high.x, camera.getActualMaxX() - camera.getActualMinX(), layout.area.whole.width) &&
+            isStill(low.y, high.y, camera.getActualMaxY() - camera.getActualMinY(), layout.area.whole.height)) {
+            return;
+        }
+        box = next;
+        moveTo(box, camera, layout);
+    }
 }
 
 } // namespace vxrenderer

@@ -8,8 +8,10 @@
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/frame/seenextent.h"
 #include "renderer/objects/objectbox.h"
+#include "renderer/objects/objectlabels.h"
 #include "renderer/objects/objectpoints.h"
 #include "renderer/plots/heightfactor.h"
+#include "renderer/plots/plotlabels.h"
 #include "renderer/plots/plotpoints.h"
 
 #include <boost/pointer_cast.hpp>
@@ -53,6 +55,26 @@ BoundingBox boxOfInteractive(const vxgraphics3d::SceneGraphPlot& plot)
         visitPlotPoints(plot, [&points](const PointRun& run) { points.add(run); });
     }
     return points.get();
+}
+
+const vxgraphics3d::MarkingModeSetup& markingsOf(const Frame& frame)
+{
+    return vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getMarkingSetups().getMarkingModeSetup(
+        frame.appearance.markingMode);
+}
+
+struct RaisedPlot {
+    const vxgraphics3d::SceneGraphPlot& plot;
+    /// As far as its own values say.
+    std::optional<double> factor;
+};
+
+/// The factor of the heights of a plot: by its own values, or that of a plot with the same heights.
+std::optional<double> factorOf(const RaisedPlot& plot, const std::vector<RaisedPlot>& all)
+{
+    const auto isTwin = [&](const RaisedPlot& other) { return other.factor && haveSameHeights(plot.plot, other.plot); };
+    const auto twin = plot.factor ? all.end() : std::ranges::find_if(all, isTwin);
+    return twin == all.end() ? plot.factor : twin->factor;
 }
 
 const SceneGraphPlotGraph* graphOf(const SceneItem& item)
@@ -128,40 +150,57 @@ BoundingBox boxInSpace(const SceneGraphRoot& root, const std::vector<SceneItem>&
     return box;
 }
 
+std::vector<SceneLabel> labelsOf(const std::vector<SceneItem>& items, const Frame& frame)
+{
+    const unsigned mask = frame.canvas.getRenderMask();
+    std::vector<SceneLabel> labels;
+    const TakeLabel take = [&labels](const SceneLabel& label) { labels.push_back(label); };
+    for (const SceneItem& item : items) {
+        if (const auto* plot = std::get_if<PlotItem>(&item)) {
+            if ((mask & RenderPlots) != 0) {
+                visitPlotLabels(*plot->plot, take);
+            }
+        } else if ((mask & RenderObjects) != 0 && frame.appearance.showLabels) {
+            visitObjectLabels(*std::get<ObjectItem>(item), markingsOf(frame), take);
+        }
+    }
+    return labels;
+}
+
 void visitPoints(const std::vector<SceneItem>& items, const Frame& frame, const TakePoints& take)
 {
     const unsigned mask = frame.canvas.getRenderMask();
-    const auto& markings = vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getMarkingSetups().getMarkingModeSetup(
-        frame.appearance.markingMode);
     for (const SceneItem& item : items) {
         if (const auto* plot = std::get_if<PlotItem>(&item)) {
             if ((mask & RenderPlots) != 0) {
                 visitPlotPoints(*plot->plot, take);
             }
         } else if ((mask & RenderObjects) != 0) {
-            visitObjectPoints(*std::get<ObjectItem>(item), markings, take);
+            visitObjectPoints(*std::get<ObjectItem>(item), markingsOf(frame), take);
         }
     }
 }
 
 AxisUnits heightUnitsOf(const std::vector<SceneItem>& items)
 {
-    std::optional<AxisUnits> shared;
+    std::vector<RaisedPlot> raised;
     for (const SceneItem& item : items) {
         const auto* shown = std::get_if<PlotItem>(&item);
         if (shown == nullptr) {
             return {};
         }
-        const vxgraphics3d::SceneGraphPlot& plot = *shown->plot;
-        if (!(plot.getBoundingBox().getHalfSizeZ() > 0.0f)) {
-            continue;
+        if (shown->plot->getBoundingBox().getHalfSizeZ() > 0.0f) {
+            raised.push_back({*shown->plot, heightFactorOf(*shown->plot)});
         }
-        const std::optional<double> factor = heightFactorOf(plot);
+    }
+    std::optional<AxisUnits> shared;
+    for (const RaisedPlot& plot : raised) {
+        const std::optional<double> factor = factorOf(plot, raised);
         if (!factor) {
             return {};
         }
-        const AxisUnits units = {static_cast<double>(plot.getPlotPlaneOffset()),
-                                 *factor * static_cast<double>(plot.getHeightScale())};
+        const AxisUnits units = {static_cast<double>(plot.plot.getPlotPlaneOffset()),
+                                 *factor * static_cast<double>(plot.plot.getHeightScale())};
         if (shared && std::abs(shared->scale - units.scale) > c_sameScale * units.scale) {
             return {};
         }

@@ -6,6 +6,7 @@
 #include "renderer/frame/frame.h"
 #include "renderer/frame/pointrun.h"
 #include "renderer/objects/objectpainter.h"
+#include "renderer/paint/scenelabel.h"
 #include "renderer/plots/plotpainter.h"
 
 #include <variant>
@@ -35,9 +36,13 @@ vxgraphics3d::BoundingBox boxInSpace(const vxgraphics3d::SceneGraphRoot& root, c
 /// Passes on the points of all items that a frame draws.
 void visitPoints(const std::vector<SceneItem>& items, const Frame& frame, const TakePoints& take);
 
-/// How z coordinates in space become values of the data: where all plots are raised by their values with the same
-/// factor and height scale, these values are on the axis. Plots in one plane do not count. In other scenes the
-/// coordinates themselves are the values.
+/// The labels that a frame draws with its items: those of points, contours and parts.
+std::vector<SceneLabel> labelsOf(const std::vector<SceneItem>& items, const Frame& frame);
+
+/// How z coordinates in space become values of the data: where all plots are raised by the same factor and height
+/// scale, the axis has the heights. The factor is known of a plot whose values are its heights, and of others that have
+/// the same heights at the same points. Plots in one plane do not count. In other scenes the coordinates themselves are
+/// the values.
 AxisUnits heightUnitsOf(const std::vector<SceneItem>& items);
 
 /// Whether there is a plot that is not a graph, and may cover the grid.

@@ -21,8 +21,10 @@
 #include "renderer/frame/seenextent.h"
 #include "renderer/gl/target.h"
 #include "renderer/objects/visibleparts.h"
+#include "renderer/overlays/shapepainter.h"
 #include "renderer/paint/cutframe.h"
 #include "renderer/paint/paintcontext.h"
+#include "renderer/scene/flatextent.h"
 #include "renderer/scene/scenefit.h"
 
 #include <algorithm>
@@ -148,7 +150,8 @@ void SceneRenderer::placeScene(const Frame& frame, FrameLayout& layout)
                                    area.width, area.height);
         frame.camera.setBoundingBox(layout.box);
         if (hasFrameOfData(frame)) {
-            layout.area.frame = frameOfData(frame.camera2d(), area, layout.box, marginOfFit());
+            const BoundingBox extent = FlatExtent(frame, layout, frame.camera2d()).withLabels(frame.camera2d());
+            layout.area.frame = frameOfData(frame.camera2d(), area, extent, marginOfFit());
         }
         const PixelArea& enclosed = layout.area.frame;
         const float middle = static_cast<float>(enclosed.x) + 0.5f * static_cast<float>(enclosed.width);
@@ -402,33 +405,45 @@ void SceneRenderer::drawLightMarkers(const Frame& frame)
     }
 }
 
-void SceneRenderer::drawOverlays(const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free)
+void SceneRenderer::drawOverlays(const Frame& frame, const FrameLayout& layout, DecorationCanvas& canvas,
+                                 OverlayTexts texts)
 {
     if (frame.overlay != nullptr && !m_view.area.isEmpty()) {
         drawOverlay(*frame.overlay, frame.framedBox != nullptr ? *frame.framedBox : layout.box, m_view, frame, layout,
-                    free);
+                    canvas, texts);
     }
     if (frame.screenOverlay != nullptr) {
         View pixels;
         pixels.area = {0, 0, layout.width, layout.height};
         pixels.projection = pixelsToClip(layout.width, layout.height);
         pixels.isFlat = true;
-        drawOverlay(*frame.screenOverlay, {}, pixels, frame, layout, free);
+        drawOverlay(*frame.screenOverlay, {}, pixels, frame, layout, canvas, texts);
     }
 }
 
 void SceneRenderer::drawOverlay(const Overlay& overlay, const BoundingBox& framedBox, const View& view,
-                                const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free)
+                                const Frame& frame, const FrameLayout& layout, DecorationCanvas& canvas,
+                                OverlayTexts texts)
 {
-    PictureCanvas canvas = pictureCanvas(layout);
     canvas.enterArea(view.area);
     setBlending(true);
-    std::vector<SceneLabel> labels;
-    m_shapes.draw(overlay, {view, framedBox, frame.appearance, m_lines, m_symbols, labels});
+    std::vector<SceneLabel> numbers;
+    drawShapes(overlay, {view, framedBox, frame.appearance, canvas, numbers});
     setBlending(false);
     canvas.leaveArea();
-    drawLabels(labels, view, layout.width, layout.height, layout.labelFonts, m_overlay, free);
+    std::vector<PlacedLabel> placed;
+    drawLabels(numbers, view, layout.width, layout.height, layout.labelFonts, m_overlay,
+               texts == OverlayTexts::onCanvas ? &placed : nullptr);
+    drawPlaced(placed, layout, canvas);
     setBlending(false);
+}
+
+void SceneRenderer::drawPlaced(const std::vector<PlacedLabel>& labels, const FrameLayout& layout,
+                               DecorationCanvas& canvas)
+{
+    for (const PlacedLabel& label : labels) {
+        canvas.drawText(label.text, layout.labelFonts, label.left, label.top, label.colors);
+    }
 }
 
 void SceneRenderer::drawDecoration(const FrameLayout& layout, const Surroundings& around, DecorationCanvas& canvas)
@@ -487,7 +502,7 @@ SceneRenderer::Surroundings SceneRenderer::layOutSurroundings(const Frame& frame
 
 PictureCanvas SceneRenderer::pictureCanvas(const FrameLayout& layout)
 {
-    return {m_overlay, m_lines, m_symbols, m_colorTextures, layout.width, layout.height};
+    return {{m_overlay, m_lines, m_symbols, m_fills, m_solids, m_colorTextures}, layout.width, layout.height};
 }
 
 void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Target& target)
@@ -504,10 +519,10 @@ void SceneRenderer::draw(const Frame& frame, const FrameLayout& layout, const Ta
         around.axes->drawAround(canvas);
     }
     if (around.triad) {
-        around.triad->drawAxes(m_solids, layout.width, layout.height);
+        around.triad->drawAxes(canvas);
     }
     setBlending(false);
-    drawOverlays(frame, layout, nullptr);
+    drawOverlays(frame, layout, canvas, OverlayTexts::inTarget);
     target.beginOverlay();
     m_overlay.begin(layout.width, layout.height);
     drawDecoration(layout, around, canvas);

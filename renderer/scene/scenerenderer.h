@@ -7,9 +7,9 @@
 #include "renderer/frame/view.h"
 #include "renderer/gl/scenecopy.h"
 #include "renderer/objects/objectpainter.h"
-#include "renderer/overlays/shapepainter.h"
 #include "renderer/paint/ambientocclusion.h"
 #include "renderer/paint/backgroundpainter.h"
+#include "renderer/paint/fillpainter.h"
 #include "renderer/paint/linepainter.h"
 #include "renderer/paint/meshpainter.h"
 #include "renderer/paint/overlaypainter.h"
@@ -88,6 +88,9 @@ private:
         std::optional<TriadPainter> triad;
     };
 
+    /// Where the numbers of overlays go: into the target, or to the canvas.
+    enum class OverlayTexts { inTarget, onCanvas };
+
     /// Takes the view of a frame.
     Surroundings layOutSurroundings(const Frame& frame, const FrameLayout& layout);
     PictureCanvas pictureCanvas(const FrameLayout& layout);
@@ -100,6 +103,7 @@ private:
     std::vector<std::uint8_t> drawPicture(const Frame& frame, const FrameLayout& layout, const Target& target,
                                           const vxgraphics3d::Color& background, const Surroundings& around,
                                           std::vector<PlacedLabel>& labels);
+    static void drawPlaced(const std::vector<PlacedLabel>& labels, const FrameLayout& layout, DecorationCanvas& canvas);
     void drawBackdrop(const Frame& frame, const FrameLayout& layout, const Target& target, VectorCanvas& canvas);
     /// @param icons,labels receive those that are to be drawn over the scene
     void drawData(const Frame& frame, const FrameLayout& layout, const Target& target,
@@ -126,10 +130,9 @@ private:
     /// Where the colours of faces, lines and symbols go from now on.
     void setOutput(FragmentOutput output, int numSamples);
     void drawLightMarkers(const Frame& frame);
-    /// @param free see `drawLabels`
-    void drawOverlays(const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free);
+    void drawOverlays(const Frame& frame, const FrameLayout& layout, DecorationCanvas& canvas, OverlayTexts texts);
     void drawOverlay(const vxgraphics3d::Overlay& overlay, const vxgraphics3d::BoundingBox& framedBox, const View& view,
-                     const Frame& frame, const FrameLayout& layout, std::vector<PlacedLabel>* free);
+                     const Frame& frame, const FrameLayout& layout, DecorationCanvas& canvas, OverlayTexts texts);
     void drawDecoration(const FrameLayout& layout, const Surroundings& around, DecorationCanvas& canvas);
     void dropUnused();
 
@@ -149,7 +152,7 @@ private:
     LinePainter m_lines;
     SymbolPainter m_symbols;
     SolidPainter m_solids;
-    ShapePainter m_shapes;
+    FillPainter m_fills;
     OverlayPainter m_overlay{m_counts};
     /// Null until something is translucent.
     std::unique_ptr<Transparency> m_transparency;

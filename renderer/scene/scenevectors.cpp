@@ -61,10 +61,6 @@ std::vector<std::uint8_t> SceneRenderer::drawPicture(const Frame& frame, const F
         drawScene(frame, layout, around.axes ? &*around.axes : nullptr, target, &labels);
         glDisable(GL_BLEND);
     }
-    if (around.triad) {
-        around.triad->drawAxes(m_solids, layout.width, layout.height);
-    }
-    drawOverlays(frame, layout, &labels);
     return readPixels(target);
 }
 
@@ -94,12 +90,14 @@ void SceneRenderer::drawVectors(const Frame& frame, const FrameLayout& layout, c
             }
         });
     }
+    drawPlaced(labels, layout, canvas);
     if (around.axes) {
         around.axes->drawAround(canvas);
     }
-    for (const PlacedLabel& label : labels) {
-        canvas.drawText(label.text, layout.labelFonts, label.left, label.top, label.colors);
+    if (around.triad) {
+        around.triad->drawAxes(canvas);
     }
+    drawOverlays(frame, layout, canvas, OverlayTexts::onCanvas);
     drawDecoration(layout, around, canvas);
     dropUnused();
 }

@@ -2,6 +2,7 @@
 
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/canvas/axissetup.h"
+#include "renderer/axes/degreeaxis.h"
 #include "renderer/axes/labelplacer.h"
 #include "renderer/text/fontset.h"
 #include "tests/renderer/support/squaremetrics.h"
@@ -266,6 +267,28 @@ TEST_F(Axes2d, anglesRunInStepsOf15To45Degrees)
         }
     }
     EXPECT_EQ(found, allowed);
+}
+
+TEST_F(Axes2d, straightAxesInDegreesHaveStepsThatDivideATurn)
+{
+    for (const char* title :
+         {"Longitude in degrees", "Phase (deg)", "Angle [\\degree]", "\\theta in ^\\circ", "Bearing / \u00B0",
+          "Latitude in degrees North", "lat [degrees_north]", "lon (\u00B0 E)", "DEGREES"}) {
+        EXPECT_EQ(stepsOf(title), TickSteps::degrees) << title;
+    }
+    for (const char* title :
+         {"", "x", "Temperature in \\degree C", "Temperature in degrees Celsius", "(\u00B0F)", "Turn in deg/s",
+          "Stress at 45 degrees", "Stress at 45^\\circ", "Undeg", "deg of freedom"}) {
+        EXPECT_EQ(stepsOf(title), TickSteps::decimal) << title;
+    }
+    setup.setXAxisTitle("Longitude in degrees");
+    setup.setYAxisTitle("Latitude in degrees");
+    show(-90.0f, 90.0f, -50.0f, 50.0f);
+    const Axes2dLayout map = layout();
+    EXPECT_EQ(textOf(map, false), "\u221290 \u221260 \u221230 0 30 60 90 \u221230 0 30");
+    EXPECT_EQ(map.minorTicks.size(), 12u + 8u) << "every ten degrees between the numbers";
+    setup.setYAxisTitle("Temperature in \\degree C");
+    EXPECT_EQ(textOf(layout(), false), "\u221290 \u221260 \u221230 0 30 60 90 \u221240 \u221220 0 20 40");
 }
 
 TEST_F(Axes2d, marginsFollowTheTitles)

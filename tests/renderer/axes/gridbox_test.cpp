@@ -188,6 +188,18 @@ TEST(GridBox, heightsAreNumberedInTheirUnits)
     EXPECT_NEAR(zNumber("400")->y, pixelOf(camera, {-1.0f, -1.0f, 1.5f}).y, 0.1);
 }
 
+TEST(GridBox, axesNamedInDegreesHaveStepsThatDivideATurn)
+{
+    Camera3d camera;
+    lookParallel(camera, {0.0f, 0.0f, 10.0f}, {0.0f, 1.0f, 0.0f});
+    camera.setAxisViewScales(0.01f, 0.01f, 1.0f);
+    SquareMetrics metrics;
+    const BoundingBox box(-100.0f, 100.0f, -100.0f, 100.0f, 0.0f, 1.0f);
+    const GridBoxLayout layout = layoutGridBox(
+        {.box = box, .camera = camera, .names = {"\\unicode{Longitude in degrees}", "y", "z"}}, c_area, metrics);
+    EXPECT_EQ(textOf(layout, false), "-90 -45 0 45 90 -100 -50 0 50 100");
+}
+
 TEST(GridBox, isJudgedAsItIsSeenStretched)
 {
     Camera3d camera;

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 namespace vxrenderer {
 namespace {
@@ -54,6 +55,35 @@ TEST(Ticks, areRoundAndReadable)
     for (const auto& c : cases) {
         EXPECT_EQ(textOf(c.low, c.high, c.count), c.expected) << c.low << " to " << c.high;
     }
+}
+
+TEST(Ticks, degreesHaveStepsThatDivideATurn)
+{
+    const auto textOf = [](double low, double high, int count, int digits = 4) {
+        return vxrenderer::textOf(makeTicks(low, high, count, digits, TickSteps::degrees));
+    };
+    EXPECT_EQ(textOf(-2.0, 2.0, 4), "-2 -1 0 1 2");
+    EXPECT_EQ(textOf(0.0, 0.4, 4), "0.0 0.1 0.2 0.3 0.4");
+    EXPECT_EQ(textOf(0.0, 40.0, 4), "0 10 20 30 40");
+    EXPECT_EQ(textOf(-12.0, 40.0, 5), "0 15 30");
+    EXPECT_EQ(textOf(-90.0, 90.0, 6), "-90 -60 -30 0 30 60 90");
+    EXPECT_EQ(textOf(-90.0, 90.0, 5), "-90 -45 0 45 90");
+    EXPECT_EQ(textOf(180.0, -180.0, 5), "-180 -90 0 90 180");
+    EXPECT_EQ(textOf(0.0, 400.0, 3), "0 180 360");
+    EXPECT_EQ(textOf(0.0, 3600.0, 6), "0 720 1440 2160 2880 3600");
+    EXPECT_EQ(textOf(0.0, 180.0, 12, 2), "0 15 30 45 60 75 90 105 120 135 150 165 180") << "whatever the digits";
+
+    const auto minor = [](double step, double closest) {
+        return makeMinorValues(0.0, step, 0.0, step, closest, TickSteps::degrees);
+    };
+    using Values = std::vector<double>;
+    EXPECT_EQ(minor(10.0, 1.0), (Values{2.0, 4.0, 6.0, 8.0}));
+    EXPECT_EQ(minor(15.0, 1.0), (Values{5.0, 10.0}));
+    EXPECT_EQ(minor(30.0, 1.0), (Values{10.0, 20.0}));
+    EXPECT_EQ(minor(30.0, 11.0), (Values{15.0}));
+    EXPECT_EQ(minor(45.0, 1.0), (Values{15.0, 30.0}));
+    EXPECT_EQ(minor(90.0, 1.0), (Values{30.0, 60.0}));
+    EXPECT_EQ(minor(360.0, 1.0), (Values{90.0, 180.0, 270.0}));
 }
 
 TEST(Ticks, haveNoMoreDigitsThanWantedWhileTwoAreLeft)

@@ -1,20 +1,24 @@
 #include "graphics3d/cameras/camera2d.h"
 #include "graphics3d/cameras/camera3d.h"
+#include "graphics3d/canvas/axissetup.h"
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/matrixf.h"
+#include "graphics3d/plots/vector/scenegraphplotsphere2d.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/canvas/offscreencanvas.h"
 #include "renderer/frame/appearance.h"
 #include "tests/renderer/support/pngfile.h"
 #include "tests/renderer/support/testscene.h"
+#include "tests/support/postrecord.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -23,9 +27,12 @@
 namespace vxrenderer {
 namespace {
 
+using vxdatacarrier::PostDataObject;
 using vxgraphics3d::Canvas3dSettings;
 using vxgraphics3d::HardcopySettings;
 using vxgraphics3d::Matrixf;
+using vxgraphics3d::PostRecord;
+using vxgraphics3d::SceneGraphPlotSphere2d;
 using vxgraphics3d::SceneGraphPlotSurface2d;
 
 /// All that an export must leave alone.
@@ -281,6 +288,60 @@ TEST(Hardcopy, framesOfLegendsGrowWithTheResolution)
         }
         EXPECT_EQ(numFrame, 2 * scale);
     }
+}
+
+TEST(Hardcopy, theSmallestMarksAndDistancesGrowWithTheResolution)
+{
+    OffscreenCanvas canvas(200, 200, 1);
+    TestScene scene;
+    boost::shared_ptr<SceneGraphPlotSphere2d> discs(new SceneGraphPlotSphere2d(1));
+    scene.group->addPlot(discs);
+    discs->fillPlot(PostRecord()
+                        .role(PostDataObject::RadiusData, 0)
+                        .bounds({{0, 1}, {0, 1}})
+                        .group({{0, 1, 0.3}, {0, 1, 0.6}}, {}, {{1e-6, 1e-6, 1e-6}}));
+    discs->setColor(vxgraphics3d::Color::fromRgb(0));
+    vxgraphics3d::AxisSetup& axes = *canvas.getCanvas3dSettings()->getAxisSetupPtr();
+    axes.setAutoSpacing(false);
+    axes.setXSpacing(0.001);
+    showFlat(canvas, scene);
+    canvas.getCanvas3dSettings()->getGridBoxSettingsPtr()->setShowGrid(false);
+    const auto fileAt = [&](int scale, bool hasAxes) {
+        HardcopySettings settings;
+        settings.setDpi(scale * vxgraphics3d::Canvas3dGlobalSettings::getInstance()->getOnScreenResolution());
+        settings.setMultisampleSetting(4);
+        settings.setAxisShown(hasAxes);
+        return PngFile(canvas.encodeHardcopy(settings, 200 * scale, 200 * scale));
+    };
+    drawn(canvas);
+    const auto darkness = [&](int scale) {
+        const PngFile file = fileAt(scale, false);
+        return std::accumulate(file.pixels.begin(), file.pixels.end(), 0.0,
+                               [](double sum, std::uint8_t value) { return sum + (255 - value) / 765.0; });
+    };
+    const double onScreen = darkness(1);
+    EXPECT_NEAR(onScreen, 3 * 0.6 * 0.6 * 3.14, 1.5);
+    EXPECT_NEAR(darkness(4), 16 * 3 * 0.6 * 0.6 * 3.14, 3.0);
+
+    // Ticks below the frame. The next closer distance has twice as many.
+    const auto numTicks = [&](int scale) {
+        const PngFile file = fileAt(scale, true);
+        const Extent frame(file, {0, 0, 0});
+        int most = 0;
+        for (int y = 0; y < file.height; ++y) {
+            int count = 0;
+            bool wasDark = false;
+            for (int x = frame.left; x < frame.right; ++x) {
+                const bool isDark = file.pixels[static_cast<std::size_t>(3 * (y * file.width + x))] < 100;
+                count += isDark && !wasDark ? 1 : 0;
+                wasDark = isDark;
+            }
+            most = std::max(most, count);
+        }
+        return most;
+    };
+    EXPECT_GT(numTicks(1), 20);
+    EXPECT_LT(numTicks(3), 1.5 * numTicks(1));
 }
 
 TEST(Hardcopy, textOfAxesCanBeReadOnItsBackground)

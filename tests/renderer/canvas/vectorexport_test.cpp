@@ -2,6 +2,9 @@
 #include "graphics3d/canvas/hardcopysettings.h"
 #include "graphics3d/canvas/scenesettings.h"
 #include "graphics3d/foundation/textformat.h"
+#include "graphics3d/overlays/overlay.h"
+#include "graphics3d/overlays/overlaydrawcurve.h"
+#include "graphics3d/overlays/overlayrectangle.h"
 #include "graphics3d/plots/graph/graphline.h"
 #include "graphics3d/plots/graph/scenegraphplotgraph.h"
 #include "graphics3d/plots/vector/scenegraphplotpointlabel.h"
@@ -23,6 +26,9 @@ namespace vxrenderer {
 namespace {
 
 using vxgraphics3d::HardcopySettings;
+using vxgraphics3d::Overlay;
+using vxgraphics3d::OverlayDrawCurve;
+using vxgraphics3d::OverlayRectangle;
 using vxgraphics3d::PostRecord;
 using vxgraphics3d::SceneGraphPlotGraph;
 using vxgraphics3d::SceneGraphPlotPointLabel;
@@ -97,6 +103,20 @@ protected:
             picture.bytes.insert(picture.bytes.end(), {file.pixels[i], file.pixels[i + 1], file.pixels[i + 2], 255});
         }
         return picture;
+    }
+
+    /// A translucent rectangle with a wide border, on the plane z = 0.
+    static boost::shared_ptr<OverlayRectangle> rectangle(double x0, double y0, double x1, double y1)
+    {
+        const auto shape = boost::make_shared<OverlayRectangle>();
+        shape->setStart(x0, y0);
+        shape->setEnd(x1, y1);
+        shape->setUseColor(true);
+        shape->setFilled(true);
+        shape->setLineSize(5.0f);
+        shape->setFillColor({255, 0, 0, 128});
+        shape->setOutlineColor({0, 0, 255, 255});
+        return shape;
     }
 
     TestScene m_scene;
@@ -208,6 +228,67 @@ TEST_F(VectorExport, labelsThatNothingCoversAreTexts)
     EXPECT_NE(text.find("above"), std::string::npos) << text;
     EXPECT_NE(text.find("aside"), std::string::npos) << text;
     EXPECT_EQ(text.find("below"), std::string::npos) << text;
+}
+
+TEST_F(VectorExport, overlaysAreVectors)
+{
+    const auto compare = [&](const char* what) {
+        const Picture page = PdfFile(exported(HardcopyFormat::pdf)).page(c_dpi);
+        const Picture pixels = exportedPicture();
+        EXPECT_LT(differingPart(page, pixels), 0.002) << what;
+        EXPECT_LT(differingPart(pixels, page), 0.002) << what;
+        return page;
+    };
+    addGraph();
+    look(true);
+    const auto overlay = boost::make_shared<Overlay>();
+    m_canvas.setOverlay(overlay);
+    overlay->addOverlayObject(rectangle(0.2, 0.2, 1.4, 1.4), 1);
+    // A square with a hole, whose edges are in no order.
+    const auto curve = boost::make_shared<OverlayDrawCurve>();
+    curve->setFilled(true);
+    curve->setDisplayVertexNumbers(true);
+    for (const double inset : {0.0, 0.3}) {
+        const int first = curve->addVertex(1.6 + inset, 1.6 + inset);
+        curve->addVertex(2.8 - inset, 1.6 + inset);
+        curve->addVertex(2.8 - inset, 2.8 - inset);
+        curve->addVertex(1.6 + inset, 2.8 - inset);
+        for (const int i : {2, 0, 3, 1}) {
+            const int edge = curve->addEdge(first + i, first + (i + 1) % 4);
+            curve->addControlPoint(edge, 0.0, 0.0);
+            curve->addControlPoint(edge, 0.0, 0.0);
+        }
+    }
+    overlay->addOverlayObject(curve, 2);
+    compare("flat");
+    EXPECT_EQ(exportedSvg().find("<image"), std::string::npos);
+    EXPECT_NE(PdfFile(exported(HardcopyFormat::pdf)).text().find("V7"), std::string::npos);
+
+    // One that begins behind the viewer.
+    m_scene.group->removeAllPlots();
+    overlay->removeOverlayObject(curve);
+    overlay->addOverlayObject(rectangle(-50.0, 0.4, 50.0, 0.6), 3);
+    m_scene.addSquare(1, 0x00ff00, 0.0);
+    m_canvas.setScene(m_scene.scene);
+    lookFrom(m_canvas, 5.0, 15.0);
+    m_canvas.zoomExtents();
+    const Picture page = compare("in space");
+    EXPECT_GT(page.countDrawn(0, 0, c_width, c_height), c_width * c_height / 10);
+}
+
+TEST_F(VectorExport, triadIsVectorsWithTheShadingOfThePicture)
+{
+    m_settings.setAxisShown(false);
+    for (const double elevation : {30.0, -20.0, 90.0}) {
+        m_canvas.setScene(m_scene.scene);
+        lookFrom(m_canvas, 40.0, elevation);
+        EXPECT_EQ(exportedSvg().find("<image"), std::string::npos);
+        const Picture page = PdfFile(exported(HardcopyFormat::pdf)).page(c_dpi);
+        const Picture pixels = exportedPicture();
+        ASSERT_GT(page.countDrawn(0, 0, c_width, c_height), 300);
+        EXPECT_LT(differingPart(page, pixels), 0.0002) << elevation;
+        EXPECT_LT(differingPart(pixels, page), 0.0002) << elevation;
+    }
 }
 
 TEST_F(VectorExport, pagesHaveTheirSizeAndTexts)

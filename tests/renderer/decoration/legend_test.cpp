@@ -2,6 +2,7 @@
 
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/plots/scalar/scenegraphplotisosurface3d.h"
 #include "renderer/frame/appearance.h"
 #include "renderer/frame/view.h"
 #include "tests/renderer/support/testscene.h"
@@ -96,6 +97,46 @@ TEST_F(LegendTest, clippedEndsAreTrianglesInTheColorsOfTheEnds)
     look();
     EXPECT_LT(widthAt(extentOf(c_blue).top, c_blue), full / 3);
     EXPECT_EQ(widthAt(extentOf(c_red).bottom - 1, c_red), full);
+    // All that is beyond the end is hidden: the triangle is empty, and the bar as long as before.
+    const Extent red = extentOf(c_red);
+    const int top = extentOf(c_blue).top;
+    m_plot->setValueRestrictions(0.0, 0.75);
+    look();
+    EXPECT_EQ(extentOf(c_red).bottom, red.bottom);
+    EXPECT_EQ(widthAt(extentOf(c_blue).top, c_blue), full);
+    const int middle = (red.left + red.right) / 2;
+    EXPECT_EQ(m_picture.at(middle, extentOf(c_blue).top - 4), c_white);
+    EXPECT_GT(m_picture.countDrawn(middle - 1, top - 3, middle + 2, top + 3), 1) << "its outline";
+}
+
+TEST_F(LegendTest, barOfLogarithmicLevelsIsLogarithmic)
+{
+    m_scene.group->removeAllPlots();
+    const auto plot = boost::make_shared<vxgraphics3d::SceneGraphPlotIsoSurface3d>(2);
+    m_scene.group->addPlot(plot);
+    plot->fillPlot(levelRecord({1, 10, 100, 1000}));
+    plot->setColorTable("log", {{0.0, 0.0, 1.0}, {1.0, 0.0, 0.0}}, false);
+    for (const int width : {400, 800}) {
+        m_canvas.resize(width, 300);
+        look();
+        const Extent red = extentOf(c_red);
+        const Extent blue = extentOf(c_blue);
+        // The colours meet at 500.5.
+        const double part = width == 400 ? static_cast<double>(red.height()) / (red.height() + blue.height())
+                                         : static_cast<double>(red.width()) / (red.width() + blue.width());
+        EXPECT_NEAR(part, 0.1, 0.01) << width;
+    }
+
+    // Stripes are as high as each other. Those of hidden levels are empty.
+    m_canvas.resize(400, 300);
+    plot->setLegendLevels({1, 10, 100, 1000});
+    look();
+    const int whole = extentOf(c_blue).height();
+    EXPECT_NEAR(whole, 3 * extentOf(c_red).height(), 2);
+    plot->setValueRestrictions(5.0, 1000.0);
+    look();
+    EXPECT_NEAR(extentOf(c_blue).height(), whole * 2 / 3, 2);
+    m_scene.group->removeAllPlots();
 }
 
 TEST_F(LegendTest, theHiddenPartOfTheBarIsEmpty)

@@ -1,5 +1,6 @@
 #include "renderer/decoration/legendmarks.h"
 
+#include "graphics3d/plots/scalar/scenegraphplotisosurface3d.h"
 #include "renderer/decoration/legendscale.h"
 #include "tests/renderer/support/testscene.h"
 
@@ -9,6 +10,7 @@ namespace vxrenderer {
 namespace {
 
 using vxgraphics3d::SceneGraphPlotSurface2d;
+using Beyond = LegendMarks::Beyond;
 
 /// A plot of values from -1 to 3.
 class LegendMarksTest : public ::testing::Test {
@@ -38,16 +40,22 @@ TEST_F(LegendMarksTest, anEndIsClippedIfShownValuesLieBeyondIt)
                  {-1.0, 2.0, false, true},  {0.0, 2.0, true, true},    {5.0, 6.0, true, false}};
     for (const auto& c : cases) {
         m_plot->setLegendLimits(c.low, c.high);
-        EXPECT_EQ(marks().isClippedBelow, c.below) << c.low << " to " << c.high;
-        EXPECT_EQ(marks().isClippedAbove, c.above) << c.low << " to " << c.high;
+        EXPECT_EQ(marks().below, c.below ? Beyond::shown : Beyond::nothing) << c.low << " to " << c.high;
+        EXPECT_EQ(marks().above, c.above ? Beyond::shown : Beyond::nothing) << c.low << " to " << c.high;
     }
-    // What is hidden needs no sign.
+    // A restriction may hide all that is beyond an end.
     m_plot->setLegendLimits(0.0, 2.0);
     m_plot->setValueRestrictions(0.5, 2.5);
-    EXPECT_FALSE(marks().isClippedBelow);
-    EXPECT_TRUE(marks().isClippedAbove);
+    EXPECT_EQ(marks().below, Beyond::hidden);
+    EXPECT_EQ(marks().above, Beyond::shown);
     EXPECT_EQ(marks().shownFrom, 0.25);
     EXPECT_EQ(marks().shownTo, 1.0);
+    m_plot->setValueRestrictions(-0.5, 1.0);
+    EXPECT_EQ(marks().below, Beyond::shown);
+    EXPECT_EQ(marks().above, Beyond::hidden);
+    m_plot->setLegendLimits(-1.0, 3.0);
+    EXPECT_EQ(marks().below, Beyond::nothing) << "what is hidden is an empty part of the bar";
+    EXPECT_EQ(marks().above, Beyond::nothing);
 }
 
 TEST_F(LegendMarksTest, extremesAreMarkedOnTheBarInTheFormatOfTheTicks)
@@ -99,6 +107,31 @@ TEST_F(LegendMarksTest, minorTicksDivideEachStepIntoRoundParts)
     EXPECT_DOUBLE_EQ(marks().minorTicks.front(), 0.05);
 }
 
+TEST(LogarithmicLegendMarks, labelsLevelsAndDividesDecades)
+{
+    vxgraphics3d::SceneGraphPlotIsoSurface3d plot(1);
+    plot.fillPlot(levelRecord({1, 10, 100, 1000}));
+    const auto marksOf = [&](int count) { return LegendMarks::of(plot, legendScaleOf(plot), count, 5, 5); };
+    LegendMarks marks = marksOf(8);
+    ASSERT_EQ(marks.ticks.size(), 4u);
+    EXPECT_DOUBLE_EQ(marks.ticks[2].position, 2.0 / 3.0);
+    EXPECT_EQ(marks.ticks[2].label, "100");
+    EXPECT_EQ(marks.minorTicks.size(), 24u) << "2 to 9 in each decade";
+    EXPECT_EQ(marks.smallest, "1");
+    EXPECT_EQ(marks.largest, "1000");
+    // Little space: every second level has a label, the others a short tick.
+    marks = marksOf(2);
+    ASSERT_EQ(marks.ticks.size(), 2u);
+    EXPECT_EQ(marks.ticks[1].label, "100");
+    EXPECT_EQ(marks.minorTicks.size(), 25u);
+    plot.setLegendLimits(2.0, 200.0);
+    marks = marksOf(8);
+    EXPECT_EQ(marks.below, Beyond::shown);
+    EXPECT_EQ(marks.ticks[0].label, "10");
+    plot.fillPlot(levelRecord({1e-9, 1e-3, 1e3}));
+    EXPECT_EQ(marksOf(8).minorTicks.size(), 10u) << "the powers of ten between the labels";
+}
+
 TEST(LevelLabels, haveOneFormatOrPowersOfTen)
 {
     using Labels = std::vector<std::string>;
@@ -110,28 +143,28 @@ TEST(LevelLabels, haveOneFormatOrPowersOfTen)
                                                               "1}",
                                                               "10^{1}", "10^{3}"}));
     EXPECT_EQ(levelLabels({2e0, 2e3, 2e6}, 5), (Labels{"2\\times10^{0}", "2\\times10^{3}", "2\\times10^{6}"}));
-    EXPECT_FALSE(areLogarithmic({1.0, 2.0, 3.0}));
-    EXPECT_FALSE(areLogarithmic({0.0, 1.0, 10.0}));
 }
 
-TEST(UnitOf, aTitleIsInBracketsOrAfterIn)
+TEST(UnitOf, aTitleIsInBracketsOrAfterInAndLeavesTheName)
 {
     const struct {
         const char* title;
         const char* unit;
-    } cases[] = {{"Temperature in \\degree C", "\\degree C"},
-                 {"Stress (MPa)", "MPa"},
-                 {"Speed [m/s]", "m/s"},
-                 {"Depth in 100 m", "100 m"},
-                 {"Angle in degrees", "degrees"},
-                 {"Moment in kN m ", "kN m"},
-                 {"Height over 531 m", ""},
-                 {"Waves in water", ""},
-                 {"Summer in Paris", ""},
-                 {"Magnitude", ""},
-                 {"", ""}};
+        const char* name;
+    } cases[] = {{"Temperature in \\degree C", "\\degree C", "Temperature"},
+                 {"Stress (MPa)", "MPa", "Stress"},
+                 {"Speed [m/s]", "m/s", "Speed"},
+                 {"Depth in 100 m", "100 m", "Depth"},
+                 {"Angle in degrees", "degrees", "Angle"},
+                 {"Moment in kN m ", "kN m", "Moment"},
+                 {"Height over 531 m", "", "Height over 531 m"},
+                 {"Waves in water", "", "Waves in water"},
+                 {"Summer in Paris", "", "Summer in Paris"},
+                 {"Magnitude", "", "Magnitude"},
+                 {"", "", ""}};
     for (const auto& c : cases) {
         EXPECT_EQ(unitOf(c.title), c.unit) << c.title;
+        EXPECT_EQ(withoutUnit(c.title), c.name) << c.title;
     }
 }
 

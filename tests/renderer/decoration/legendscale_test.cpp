@@ -1,5 +1,6 @@
 #include "renderer/decoration/legendscale.h"
 
+#include "graphics3d/plots/scalar/scenegraphplotisosurface3d.h"
 #include "tests/renderer/support/testscene.h"
 
 #include <gtest/gtest.h>
@@ -75,6 +76,43 @@ TEST(LegendScale, placesValuesWhicheverWayItRuns)
     for (const auto& c : cases) {
         EXPECT_EQ((LegendScale{c.lower, c.upper}.heightOf(c.value)), c.height) << c.lower << " to " << c.upper;
     }
+}
+
+TEST(LegendScale, isLogarithmicIfTheLevelsOfThePlotAre)
+{
+    const struct {
+        std::vector<double> levels;
+        bool isLogarithmic;
+    } cases[] = {{{1, 10, 100}, true},
+                 {{1, 2, 5, 10}, true},
+                 {{0.3, 1, 3, 10}, true},
+                 {{3, 6, 12}, true},
+                 {{1, 2, 5}, false},
+                 {{1, 2, 3}, false},
+                 {{1, 10}, false},
+                 {{0, 1, 10}, false},
+                 {{1, 4, 7, 10}, false},
+                 {{1, 1, 10, 100}, false},
+                 {{1, 10, 1e300 * 1e300}, false}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(areLogarithmic(c.levels), c.isLogarithmic) << c.levels[0] << " " << c.levels[1];
+    }
+
+    vxgraphics3d::SceneGraphPlotIsoSurface3d plot(1);
+    plot.fillPlot(levelRecord({1, 10, 100, 1000}));
+    LegendScale scale = legendScaleOf(plot);
+    EXPECT_DOUBLE_EQ(scale.heightOf(10.0), 1.0 / 3.0);
+    EXPECT_EQ(scale.heightOf(0.0), -std::numeric_limits<double>::infinity());
+    // The colours of the plot are linear in its values.
+    EXPECT_NEAR(scale.colorAt(scale.heightOf(500.5)), 0.5, 1e-6);
+    plot.setLegendLimits(5.0, 500.0);
+    EXPECT_EQ(legendScaleOf(plot).logarithmicLevels, (std::vector<double>{10, 100}));
+    for (const auto& [low, high] : {std::pair(0.0, 1000.0), std::pair(5.0, 50.0), std::pair(1000.0, 1.0)}) {
+        plot.setLegendLimits(low, high);
+        EXPECT_FALSE(legendScaleOf(plot).isLogarithmic()) << low;
+    }
+    plot.fillPlot(levelRecord({0, 10, 20, 30}));
+    EXPECT_FALSE(legendScaleOf(plot).isLogarithmic());
 }
 
 } // namespace

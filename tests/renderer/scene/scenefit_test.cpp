@@ -3,7 +3,15 @@
 #include "graphics3d/canvas/canvas3dsettings.h"
 #include "graphics3d/canvas/gridboxsettings.h"
 #include "graphics3d/canvas/scenesettings.h"
+#include "graphics3d/lights/directionlightsource.h"
+#include "graphics3d/lights/pointlightsource.h"
+#include "graphics3d/lights/scenelight.h"
+#include "graphics3d/lights/scenesettingslight.h"
+#include "graphics3d/plots/vector/scenegraphplotarrow2d.h"
+#include "graphics3d/plots/vector/scenegraphplotpointlabel.h"
+#include "graphics3d/plots/vector/scenegraphplotsphere2d.h"
 #include "graphics3d/plots/vector/scenegraphplotsphere3d.h"
+#include "graphics3d/plots/vector/scenegraphplottube2d.h"
 #include "graphics3d/settings/canvas3dglobalsettings.h"
 #include "renderer/frame/appearance.h"
 #include "renderer/frame/view.h"
@@ -27,9 +35,13 @@ using vxdatacarrier::PostDataObject;
 using vxgraphics3d::Camera3d;
 using vxgraphics3d::Canvas3dGlobalSettings;
 using vxgraphics3d::PostRecord;
+using vxgraphics3d::SceneGraphPlotArrow2d;
+using vxgraphics3d::SceneGraphPlotPointLabel;
+using vxgraphics3d::SceneGraphPlotSphere2d;
 using vxgraphics3d::SceneGraphPlotSphere3d;
 using vxgraphics3d::SceneGraphPlotSurface2d;
 using vxgraphics3d::SceneGraphPlotSurface3d;
+using vxgraphics3d::SceneGraphPlotTube2d;
 
 /// The margin at the border of a picture: 0.8 of the 12 pixels of the numbers of legends.
 constexpr int c_border = 10;
@@ -266,6 +278,98 @@ TEST_F(SceneFitTest, aFlatSceneFillsItsFrame)
     }
 }
 
+TEST_F(SceneFitTest, labelsCount)
+{
+    boost::shared_ptr<SceneGraphPlotPointLabel> labels(new SceneGraphPlotPointLabel(3, 1));
+    m_scene.group->addPlot(labels);
+    labels->setColor(vxgraphics3d::Color::fromRgb(0));
+    labels->setLabels({"the first of all points", "a point in the middle", "the last"});
+    labels->fillPlot(PostRecord().bounds({{0, 4}, {0, 4}, {0, 4}}).group({{0, 2, 4}, {0, 2, 4}, {0, 2, 4}}, {}));
+    for (const bool hasAxes : {false, true}) {
+        hasAxes ? m_canvas.getCanvas3dSettings()->addRenderMask(RenderAxes)
+                : m_canvas.getCanvas3dSettings()->removeRenderMask(RenderAxes);
+        for (const auto& [azimuth, elevation] :
+             {std::pair(-60.0, 30.0), std::pair(20.0, 10.0), std::pair(-90.0, 90.0)}) {
+            lookFrom(m_canvas, azimuth, elevation);
+            expectFit(drawn(m_canvas), std::to_string(azimuth) + (hasAxes ? " with axes" : ""));
+        }
+    }
+
+    // In a flat view they stay within the frame, which follows them.
+    showFlat(m_canvas, m_scene);
+    m_canvas.getCanvas3dSettings()->getGridBoxSettingsPtr()->setShowGrid(false);
+    m_canvas.getCanvas3dSettings()->camera2d()->resetAxisViewScales();
+    m_canvas.zoomExtents();
+    const auto insideFrame = [&](const Picture& picture) {
+        // The column of the line at the left, and from the middle of the picture to the line at the right.
+        const PixelArea& area = m_canvas.getView().area;
+        const auto isLine = [&](int x) {
+            int dark = 0;
+            for (int y = area.y; y < area.y + area.height; ++y) {
+                dark += picture.at(x, y)[0] < 100 ? 1 : 0;
+            }
+            return dark > area.height - 3;
+        };
+        int left = area.x;
+        int right = area.x + area.width;
+        while (left < right && !isLine(left)) {
+            ++left;
+        }
+        while (right > left && !isLine(right)) {
+            --right;
+        }
+        Picture inside = {right - left - 3, area.height - 4, {}};
+        for (int y = 0; y < inside.height; ++y) {
+            for (int x = 0; x < inside.width; ++x) {
+                for (const int channel : picture.at(left + 2 + x, area.y + 2 + y)) {
+                    inside.bytes.push_back(static_cast<std::uint8_t>(channel));
+                }
+                inside.bytes.push_back(255);
+            }
+        }
+        return inside;
+    };
+    const Picture flat = insideFrame(drawn(m_canvas));
+    const Drawn texts(flat);
+    const int margin = static_cast<int>(std::lround(0.5 * 0.05 / 1.05 * flat.height));
+    EXPECT_NEAR(texts.left, margin, 4);
+    EXPECT_NEAR(flat.width - texts.right, margin, 4);
+    EXPECT_GE(texts.top, margin - 3);
+    EXPECT_GE(flat.height - texts.bottom, margin - 3);
+    EXPECT_GT(texts.width(), 150);
+}
+
+TEST_F(SceneFitTest, markersOfLightsCount)
+{
+    m_canvas.getCanvas3dSettings()->setRenderMask(RenderPlots | RenderBackground | RenderLightMarkers);
+    m_canvas.getSceneSettings()->getLight()->setRenderLightMarkers(true);
+    add(globe(1.0));
+    lookFrom(m_canvas, 20.0, 30.0);
+    const Drawn alone(drawn(m_canvas));
+    vxgraphics3d::SceneLight& light = *m_scene.scene->getSceneLight();
+    auto& lamp = static_cast<vxgraphics3d::PointLightSource&>(*light.lightSource(light.createPointLight()));
+    lamp.setMarkerVisibility(true);
+    lamp.setPosition(true, vxgraphics3d::Vector3f(3.0f, -4.0f, 0.5f));
+    for (const auto& [azimuth, elevation] : {std::pair(-60.0, 30.0), std::pair(20.0, 10.0), std::pair(130.0, 70.0)}) {
+        lookFrom(m_canvas, azimuth, elevation);
+        expectFit(drawn(m_canvas), "from " + std::to_string(azimuth));
+    }
+    // The arrow of a direction comes as near as it has to, with the lines beside it.
+    auto& sun = static_cast<vxgraphics3d::DirectionLightSource&>(*light.lightSource(light.createDirectionLight()));
+    sun.setMarkerVisibility(true);
+    sun.setFromDirection(true, vxgraphics3d::Vector3f(0.2f, -0.6f, 1.0f));
+    lookFrom(m_canvas, -60.0, 30.0);
+    const Drawn all(drawn(m_canvas));
+    EXPECT_TRUE(all.left > 3 && all.top > 3 && all.right < 477 && all.bottom < 357) << all.left << ' ' << all.top;
+    sun.setMarkerVisibility(false);
+    // One that is far away leaves half of the size to the scene.
+    lamp.setPosition(true, vxgraphics3d::Vector3f(300.0f, -7.0f, 0.0f));
+    lookFrom(m_canvas, -90.0, 10.0);
+    drawn(m_canvas);
+    const double height = pixelOf(m_canvas, {3.0f, -7.0f, -1.0f})[1] - pixelOf(m_canvas, {3.0f, -7.0f, 1.0f})[1];
+    EXPECT_NEAR(height / alone.height(), 0.5, 0.03);
+}
+
 TEST_F(SceneFitTest, theFrameOfAFittedMapFollowsItsData)
 {
     PostDataObject record = folded(4, [](double x, double y) { return std::array{100.0 * x, 20.0 * y - 40.0, 0.0}; });
@@ -281,9 +385,9 @@ TEST_F(SceneFitTest, theFrameOfAFittedMapFollowsItsData)
     auto& flat = *m_canvas.getCanvas3dSettings()->camera2d();
     flat.resetAxisViewScales();
     m_canvas.getCanvas3dSettings()->getGridBoxSettingsPtr()->setShowGrid(false);
-    // Rows between the data and the line of the frame above them.
-    const auto rowsAbove = [&](const Picture& picture) {
-        const auto [x, y] = pixelOf(m_canvas, {53.0f, -20.0f, 0.0f});
+    // Rows between the highest data and the line of the frame above them.
+    const auto rowsAbove = [&](const Picture& picture, float highest = -20.0f) {
+        const auto [x, y] = pixelOf(m_canvas, {53.0f, highest, 0.0f});
         int count = 0;
         for (int row = static_cast<int>(y) - 2; row >= 0 && picture.at(static_cast<int>(x), row) == c_white; --row) {
             ++count;
@@ -301,21 +405,58 @@ TEST_F(SceneFitTest, theFrameOfAFittedMapFollowsItsData)
     flat.mergeAdditionalTransformation();
     const Picture smaller = drawnAsIs(m_canvas);
     EXPECT_GT(rowsAbove(smaller), 80) << "a view of its own is shown whole";
+
+    // What is larger than the box of its plot.
+    const auto expectFrame = [&](const boost::shared_ptr<vxgraphics3d::SceneGraphPlot>& larger, float highest) {
+        larger->setColor(vxgraphics3d::Color::fromRgb(0xff8080));
+        EXPECT_NEAR(rowsAbove(drawn(m_canvas), highest), margin - 2, 2) << "plot " << larger->getId();
+        m_scene.group->removeAllPlots();
+    };
+    m_scene.group->removeAllPlots();
+    const auto line = PostRecord()
+                          .role(PostDataObject::ColorData, 0)
+                          .role(PostDataObject::RadiusData, 0)
+                          .bounds({{0, 100}, {-30, -30}})
+                          .group({{0, 53, 100}, {-30, -30, -30}}, {{0, 1}, {1, 2}}, {{9, 9, 9}});
+    boost::shared_ptr<SceneGraphPlotTube2d> tube(new SceneGraphPlotTube2d(2));
+    m_scene.group->addPlot(tube);
+    tube->fillPlot(line);
+    tube->setRadiusScaleFactor(2.0f);
+    expectFrame(tube, -12.0f);
+    boost::shared_ptr<SceneGraphPlotSphere2d> discs(new SceneGraphPlotSphere2d(3));
+    m_scene.group->addPlot(discs);
+    discs->fillPlot(line);
+    discs->setRadiusScaleFactor(2.0f);
+    expectFrame(discs, -12.0f);
+    boost::shared_ptr<SceneGraphPlotArrow2d> arrows(new SceneGraphPlotArrow2d(4));
+    m_scene.group->addPlot(arrows);
+    arrows->setHeadRadius(0.02f);
+    arrows->setAnchorPoint(SceneGraphPlotArrow2d::AnchorPoint::tail);
+    arrows->allocate(2);
+    arrows->appendArrow(0.0f, -30.0f, 100.0f, 0.0f, 0.0f);
+    arrows->appendArrow(53.0f, -30.0f, 0.0f, 15.0f, 0.0f);
+    arrows->setBoundingBox({0.0f, 53.0f, -30.0f, -30.0f, 0.0f, 0.0f});
+    expectFrame(arrows, -15.0f);
 }
 
 TEST_F(SceneFitTest, heightsAreDataWhereAllPlotsShareTheirFactor)
 {
-    const auto raised = [&](int id, const std::vector<double>& colors) {
-        boost::shared_ptr<SceneGraphPlotSurface2d> plot(new SceneGraphPlotSurface2d(id));
+    const auto fill = [&](const boost::shared_ptr<vxgraphics3d::SceneGraphPlot>& plot,
+                          const std::vector<std::vector<int>>& elements, const std::vector<double>& colors,
+                          const std::vector<double>& heights = {100, 200, 500, 300}) {
         m_scene.group->addPlot(plot);
-        plot->fillPlot(
-            PostRecord()
-                .role(PostDataObject::ColorData, 0)
-                .role(PostDataObject::HeightData, 1)
-                .bounds({{0, 2}, {0, 2}})
-                .group({{0, 2, 2, 0}, {0, 0, 2, 2}}, {{0, 0}, {1, 2}, {2, 3}}, {colors, {100, 200, 500, 300}}));
+        plot->fillPlot(PostRecord()
+                           .role(PostDataObject::ColorData, 0)
+                           .role(PostDataObject::HeightData, 1)
+                           .role(PostDataObject::RadiusData, 2)
+                           .bounds({{0, 2}, {0, 2}})
+                           .group({{0, 2, 2, 0}, {0, 0, 2, 2}}, elements, {colors, heights, {0.3, 0.1, 0.2, 0.1}}));
         plot->setHeightScale(0.4f);
         plot->setPlotPlaneOffset(0.1f);
+    };
+    const auto raised = [&](int id, const std::vector<double>& colors) {
+        boost::shared_ptr<SceneGraphPlotSurface2d> plot(new SceneGraphPlotSurface2d(id));
+        fill(plot, {{0, 0}, {1, 2}, {2, 3}}, colors);
         return plot;
     };
     const auto units = [&] { return heightUnitsOf(collectItems(*m_scene.root)); };
@@ -329,8 +470,22 @@ TEST_F(SceneFitTest, heightsAreDataWhereAllPlotsShareTheirFactor)
     EXPECT_EQ(units().coordinateOf(500.0), 500.0) << "scales differ";
     two->setActive(false);
     EXPECT_NEAR(units().coordinateOf(500.0), 0.9, 1e-5);
-    raised(3, {1, 2, 5, 4});
+    const auto slope = raised(3, {1, 2, 5, 4});
+    EXPECT_NEAR(units().coordinateOf(500.0), 0.9, 1e-5) << "as high as another one at the same points";
+    one->setActive(false);
     EXPECT_EQ(units().coordinateOf(500.0), 500.0) << "its colours are not its heights";
+    boost::shared_ptr<SceneGraphPlotTube2d> tube(new SceneGraphPlotTube2d(4));
+    fill(tube, {{0, 1, 2}, {1, 2, 3}}, {100, 200, 500, 300});
+    EXPECT_NEAR(units().coordinateOf(500.0), 0.9, 1e-5) << "the middle lines of tubes";
+    tube->fillPlot(PostRecord()
+                       .role(PostDataObject::ColorData, 0)
+                       .role(PostDataObject::HeightData, 0)
+                       .role(PostDataObject::RadiusData, 0)
+                       .bounds({{0, 2}, {0, 2}})
+                       .group({{0, 2, 2, 0}, {0, 0, 2, 2}}, {{0, 1, 2}, {1, 2, 3}}, {{100, 200, 500, 400}}));
+    EXPECT_EQ(units().coordinateOf(500.0), 500.0) << "one height differs";
+    slope->setActive(false);
+    EXPECT_NEAR(units().coordinateOf(500.0), 0.9, 1e-5);
 }
 
 TEST_F(SceneFitTest, aLargerSceneReachesTheBordersAndIsFramedWhereItIsCut)

@@ -5,6 +5,7 @@
 #include "graphics3d/plots/colour/colortablehandler.h"
 #include "renderer/frame/appearance.h"
 #include "renderer/frame/view.h"
+#include "tests/support/postrecord.h"
 
 #include <boost/make_shared.hpp>
 
@@ -156,6 +157,17 @@ void TestScene::addFilled(const boost::shared_ptr<vxgraphics3d::SceneGraphPlot>&
     plot->setColorTable(name, rows, false);
     group->addPlot(plot);
     plot->fillPlot(record.make());
+}
+
+vxdatacarrier::PostDataObject levelRecord(const std::vector<double>& levels)
+{
+    using Record = vxdatacarrier::PostDataObject;
+    vxgraphics3d::PostRecord record =
+        vxgraphics3d::PostRecord().kind(6).role(Record::IsoLevelData, 0).bounds({{0, 1}, {0, 1}, {0, 0}});
+    for (const double level : levels) {
+        record.group({{0, 1, 0}, {0, 0, 1}, {0, 0, 0}}, {{0}, {1}, {2}}, {{level}}, {{0, 0, 0}, {0, 0, 0}, {1, 1, 1}});
+    }
+    return record.record();
 }
 
 void showPlotsAlone(OffscreenCanvas& canvas)

@@ -89,6 +89,9 @@ private:
                    const std::vector<int>& colors);
 };
 
+/// A record of iso surfaces, each a triangle.
+vxdatacarrier::PostDataObject levelRecord(const std::vector<double>& levels);
+
 /// Lets a canvas show nothing of its scene except the plots.
 void showPlotsAlone(OffscreenCanvas& canvas);
 /// Lets a canvas show a scene flat, from above.

@@ -3,6 +3,7 @@ package com.vexane.gallery;
 import java.util.Arrays;
 import java.util.List;
 import java.util.Locale;
+import java.util.stream.Stream;
 
 /**
  * A program with the pictures that it drew.
@@ -27,8 +28,14 @@ record Example(About about, String className, String source, List<Studio.Shot> s
         return shot.caption().isEmpty() ? about.title() + "." : shot.caption();
     }
 
+    /** The line of a program that wrote the last document of a picture; that of the picture if there is none. */
+    static int documentsLine(Studio.Shot shot) {
+        return shot.documents().stream().mapToInt(Studio.Document::line).max().orElse(shot.line());
+    }
+
     List<Listing.Part> parts() {
-        return Listing.parts(source, shots.stream().map(Studio.Shot::line).toList());
+        return Listing.parts(source, shots.stream()
+                .flatMap(shot -> Stream.of(shot.line(), documentsLine(shot))).toList());
     }
 
     List<String> pages() {

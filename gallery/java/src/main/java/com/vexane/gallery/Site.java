@@ -17,6 +17,7 @@ import java.util.Map;
 import java.util.TreeSet;
 import java.util.regex.MatchResult;
 import java.util.regex.Pattern;
+import java.util.stream.Collectors;
 import java.util.stream.Stream;
 import javax.imageio.ImageIO;
 
@@ -126,21 +127,18 @@ final class Site {
         StringBuilder html = new StringBuilder(HEAD.formatted(Html.escaped(about.title()) + " - Gallery"));
         html.append(neighbours(index)).append("<main>\n<h1>").append(Html.escaped(about.title()))
                 .append("</h1>\n<p class=\"lead\">").append(Html.prose(about.text())).append("</p>\n");
-        Deque<Studio.Shot> shots = new ArrayDeque<>(example.shots().stream()
-                .sorted(Comparator.comparingInt(Studio.Shot::line)).toList());
+        Deque<Figure> figures = figures(example);
         for (Listing.Part part : example.parts()) {
             if (part.isProse()) {
                 html.append("<p>").append(Html.prose(part.text())).append("</p>\n");
                 continue;
             }
             html.append("<pre><code>").append(JavaColors.html(part.text())).append("</code></pre>\n");
-            while (!shots.isEmpty() && shots.peek().line() <= part.lastLine()) {
-                html.append(figure(shots.poll(), example));
+            while (!figures.isEmpty() && figures.peek().line() <= part.lastLine()) {
+                html.append(figures.poll().html());
             }
         }
-        for (Studio.Shot shot : shots) {
-            html.append(figure(shot, example));
-        }
+        figures.forEach(figure -> html.append(figure.html()));
         html.append("</main>\n<footer>\n<dl>\n");
         item(html, "Program", programs(example));
         item(html, "Pages", links(docs(example.pages())));
@@ -165,27 +163,39 @@ final class Site {
         return html.append("</nav>\n").toString();
     }
 
-    private static String figure(Studio.Shot shot, Example example) throws IOException {
-        BufferedImage image = ImageIO.read(shot.file().toFile());
-        int width = Math.min(image.getWidth(), PICTURE_WIDTH);
-        String file = Html.escaped(shot.file().getFileName().toString());
-        String caption = Html.prose(example.caption(shot));
-        return "<figure><a href=\"" + file + "\"><img loading=\"lazy\" width=\"" + width + "\" height=\""
-                + image.getHeight() * width / image.getWidth() + "\" alt=\"" + Html.escaped(example.about().title())
-                + "\" src=\"" + file + "\"></a>\n<figcaption>" + caption + "</figcaption></figure>\n" + documents(shot);
+    /** A picture with its caption, and the line of the program after which the page has it. */
+    private record Figure(int line, String html) {}
+
+    private static Deque<Figure> figures(Example example) throws IOException {
+        List<Figure> figures = new ArrayList<>();
+        for (Studio.Shot shot : example.shots()) {
+            BufferedImage image = ImageIO.read(shot.file().toFile());
+            int width = Math.min(image.getWidth(), PICTURE_WIDTH);
+            int height = image.getHeight() * width / image.getWidth();
+            String alternative = Html.escaped(example.about().title());
+            figures.add(new Figure(shot.line(), figure(image(shot.file(), width, height, alternative),
+                    Html.prose(example.caption(shot)))));
+            if (!shot.documents().isEmpty()) {
+                List<Path> files = shot.documents().stream().map(Studio.Document::file).toList();
+                String images = files.stream().filter(file -> file.toString().endsWith(".svg"))
+                        .map(file -> image(file, width, height, alternative)).collect(Collectors.joining());
+                String links = files.stream().map(file -> link(file.getFileName().toString(),
+                        file.getFileName().toString())).collect(Collectors.joining(", "));
+                figures.add(new Figure(Example.documentsLine(shot), figure(images, "The same as vectors: " + links)));
+            }
+        }
+        figures.sort(Comparator.comparingInt(Figure::line));
+        return new ArrayDeque<>(figures);
     }
 
-    private static String documents(Studio.Shot shot) {
-        StringBuilder html = new StringBuilder();
-        for (Path document : shot.documents()) {
-            String file = Html.escaped(document.getFileName().toString());
-            String image = file.endsWith(".svg")
-                    ? "<img loading=\"lazy\" width=\"" + PICTURE_WIDTH + "\" alt=\"\" src=\"" + file + "\">"
-                    : "";
-            html.append("<figure><a href=\"").append(file).append("\">").append(image).append("</a>\n<figcaption>")
-                    .append("The same as vectors: ").append(link(file, file)).append("</figcaption></figure>\n");
-        }
-        return html.toString();
+    private static String image(Path path, int width, int height, String alternative) {
+        String file = Html.escaped(path.getFileName().toString());
+        return "<a href=\"" + file + "\"><img loading=\"lazy\" width=\"" + width + "\" height=\"" + height
+                + "\" alt=\"" + alternative + "\" src=\"" + file + "\"></a>\n";
+    }
+
+    private static String figure(String images, String caption) {
+        return "<figure>" + images + "<figcaption>" + caption + "</figcaption></figure>\n";
     }
 
     private static void item(StringBuilder html, String title, List<String> links) {

@@ -64,7 +64,15 @@ public final class Studio implements AutoCloseable {
      * @param line the line of the program that saved it
      * @param documents what it shows in other formats
      */
-    public record Shot(Path file, String caption, int line, List<Path> documents) {}
+    public record Shot(Path file, String caption, int line, List<Document> documents) {}
+
+    /**
+     * A picture in another format.
+     *
+     * @param file its path
+     * @param line the line of the program that wrote it
+     */
+    public record Document(Path file, int line) {}
 
     Studio(Path root, Path output, Class<? extends Picture> picture, int width, int height) {
         this.root = root;
@@ -388,7 +396,7 @@ public final class Studio implements AutoCloseable {
     public Path document(String suffix) {
         Shot shot = shots.get(shots.size() - 1);
         Path file = shot.file().resolveSibling(shot.file().getFileName().toString().replace(".png", suffix));
-        shot.documents().add(file);
+        shot.documents().add(new Document(file, currentLine()));
         return file;
     }
 

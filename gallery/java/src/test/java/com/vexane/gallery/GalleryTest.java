@@ -47,6 +47,8 @@ class GalleryTest {
         SiteTest.checkOrder(folder.resolve("terrain-contours.html"), "fillPlot(lineRecord);", "\"terrain-contours.png\"",
                 "fillPlot(bandRecord);", "\"terrain-contours-2.png\"", "fillPlot(spatialRecord);",
                 "\"terrain-contours-3.png\"", "Each line lies at the height of its level.", "Contours.java", "scalar");
+        SiteTest.checkOrder(folder.resolve("vector-figure.html"), "\"vector-figure.png\"", "&quot;.pdf&quot;",
+                "\"vector-figure.svg\"", "\"vector-figure-2.png\"", "\"vector-figure-2.svg\"");
     }
 
     /** How many pixels differ in two pictures of equal size. */

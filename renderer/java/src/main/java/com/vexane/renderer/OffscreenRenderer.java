@@ -278,9 +278,9 @@ public final class OffscreenRenderer extends NativePeer {
     }
 
     /**
-     * Shows the whole scene with the camera of the current render mode, as large as the picture allows: what is drawn,
-     * and in space the numbers and names of the axes, fill what title and legends leave, except for the margin of
-     * {@code Canvas3dGlobalSettings.setZoomToExtentMargin}. A 3D camera keeps its direction, and its rotation point
+     * Shows the whole scene with the camera of the current render mode, as large as the picture allows: what is drawn
+     * with its labels, and in space light markers and the numbers and names of the axes, fill what title and legends
+     * leave, except for the margin of {@code Canvas3dGlobalSettings.setZoomToExtentMargin}. A 3D camera keeps its direction, and its rotation point
      * becomes the centre of the scene. Without a scene, or with an empty one, nothing happens.
      */
     public void zoomExtents() {

@@ -65,7 +65,7 @@ public final class CityLabels implements Picture {
             studio.size(1200, 1000);
             studio.hideAxes();
             studio.show(globe, "").show(marks, "").show(names, "").view(20, 35);
-            studio.save("Cities from Reykjav\u00edk to Mumbai. What lies in front of a city hides its name, and a name "
+            studio.save("Europe and Africa with their cities; the globe itself hides those behind it. A name "
                     + "moves to another side of its city where it would cover another name.");
         }
     }

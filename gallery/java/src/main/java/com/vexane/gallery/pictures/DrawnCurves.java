@@ -67,6 +67,7 @@ public final class DrawnCurves implements Picture {
             paper.fillPlot(square);
             paper.setValueRestrictions(1, 2);
             paper.setShowLegend(false);
+            studio.nameAxes("x in cm", "y in cm");
             studio.show(paper, "Edges of degree 1, 2 and 3").flat();
 
             double[][][] polygons = {LINE, ARC, CUBIC};

@@ -21,8 +21,8 @@ import java.util.Map;
 public final class EarthquakeMap implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
-        // Radii are in units of the axes: degrees of the map. The map begins in the Atlantic, so longitudes are shifted
-        // to its range.
+        // Radii are in units of the axes: degrees of the map. The map begins at 20 degrees east, so smaller longitudes
+        // are shifted by 360 degrees.
         CsvFile quakes = CsvFile.read(studio.data("earth_quakes.csv"));
         double[] radii = Arrays.stream(quakes.column("magnitude")).map(m -> 0.3 * Math.pow(1.5, m)).toArray();
         double[] longitude = Arrays.stream(quakes.column("longitude")).map(EarthquakeMap::onMap).toArray();
@@ -46,7 +46,7 @@ public final class EarthquakeMap implements Picture {
         }
     }
 
-    /** The map starts in the Atlantic. */
+    /** A longitude in the range of the map, which begins south of Africa. */
     private static double onMap(double longitude) {
         return longitude < 20 ? longitude + 360 : longitude;
     }

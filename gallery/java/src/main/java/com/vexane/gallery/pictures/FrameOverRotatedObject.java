@@ -85,6 +85,7 @@ public final class FrameOverRotatedObject implements Picture {
             bracket.fillPlot(record);
         }
         bracket.setColor(0xb8bcc4);
+        studio.nameAxes("x in mm", "y in mm", "z in mm");
         studio.show(bracket, "The frame of an object in space").view(-35, 25);
         studio.save("In space the frame shows all edges of the box; its handles are in the plane z = 0.");
     }
@@ -105,6 +106,7 @@ public final class FrameOverRotatedObject implements Picture {
             fill(before, gear(), 0xdde1e8);
             frame.setTranslation(4, 1, 0, true);
             frame.setRotation(0, 0, 1, 0.35f, false);
+            studio.nameAxes("x in cm", "y in cm");
             studio.show(before, "The frame shows how the gear is moved").flat();
             studio.camera2d().setViewLimits(-5, 14, -5, 7);
             studio.renderer().draw(); // moves the handles to the box

@@ -33,8 +33,9 @@ public final class Hardcopy implements Picture {
             studio.canvas().setShadedBackground(Canvas3dSettings.RenderMode.VIEW_3D, 0x6f8fb5, 0xf4f6f8);
             studio.canvas().setShowAxisOrientationIndicator(true);
             studio.settings().setGlobalOpacity(0.6f);
+            studio.nameAxes("x in mm", "y in mm", "z in mm");
             studio.show(plot, "Stress \\sigma_{v} in MPa").view(-35, 25);
-            studio.save("The picture on the screen.");
+            studio.save("On the screen: a shaded background, small letters, and the triad at the lower left.");
 
             // `HardcopySettings` say what the export shows and in which fonts. Resolution, title and creator are
             // written into the file.

@@ -14,8 +14,8 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "Lights that stay with the camera or with the scene",
-        text = "A light moves with the camera or stays with the scene. There are three kinds of it, each "
-                + "with a marker.",
+        text = "A light moves with the camera or stays with the scene. There are three kinds of "
+                + "lights, each with a marker.",
         section = Section.VIEWS,
         pages = {"common-tasks", "renderer"})
 public final class LightsLockedAndFree implements Picture {
@@ -37,6 +37,7 @@ public final class LightsLockedAndFree implements Picture {
             studio.lamp().setFromDirection(false, -1, 0.6f, 0.5f);
             studio.lamp().setIntensity(0.9f);
             studio.canvas().setShowAxisOrientationIndicator(true);
+            studio.nameAxes("x in mm", "y in mm", "z in mm");
             studio.show(plot, "");
             studio.view(-35, 25);
             studio.save("Locked to the camera, the light comes from the left of the viewer.");
@@ -51,7 +52,7 @@ public final class LightsLockedAndFree implements Picture {
             studio.save("Turned back to the first view, the part is seen from its dark side: the light has stayed.");
 
             // Besides directional light there are points, which shine to all sides, and spots, which shine into a cone.
-            // Markers show where they are.
+            // Markers show where they are, and the view is fitted to them as well.
             studio.light().setAmbientIntensity(0.12f);
             studio.lamp().setFromDirection(true, 0.2f, -0.6f, 1);
             studio.lamp().setIntensity(0.35f);
@@ -74,7 +75,6 @@ public final class LightsLockedAndFree implements Picture {
             studio.canvas().setBackgroundColor(Canvas3dSettings.RenderMode.VIEW_3D, 0x404448);
             studio.hideAxes();
             studio.view(-35, 25);
-            studio.camera3d().zoomCenter(0.6f);
             studio.save("White light from one direction, a green point and a magenta spot, with their markers. The "
                     + "spot is selected.");
         }

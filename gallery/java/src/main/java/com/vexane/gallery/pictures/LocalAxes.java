@@ -75,9 +75,11 @@ public final class LocalAxes implements Picture {
             plot.fillPlot(systems);
             tube.setColor(0x909090);
             tube.fillPlot(lines);
+            studio.nameAxes("x in cm", "y in cm", "z in cm");
             studio.show(tube, "").show(plot, "Local axes of a helix");
             studio.view(-55, 30);
-            studio.save("Red points along the helix, green to its axis, and blue at right angles to both.");
+            studio.save("The red arrows point along the helix, the green ones towards its axis, and the blue ones at "
+                    + "right angles to both.");
         }
     }
 }

@@ -58,8 +58,9 @@ public final class LogarithmicAxes implements Picture {
             studio.camera2d().setPreserveAspectRatio(false);
             studio.flat();
             studio.camera2d().setViewLimits(0.5f, 5.5f, -1.25f, 1.25f);
-            studio.save("Below 1000 Hz the gain is 0 dB (grey), above it falls off (blue). Filters of a high quality "
-                    + "factor have resonance (red).");
+            studio.save("Far below 1000 Hz the gain is 0 dB (grey), far above it falls by 40 dB per decade (blue). "
+                    + "Filters of a high quality factor have a resonance between (red); those of a low one begin to "
+                    + "fall off earlier.");
         }
     }
 }

@@ -20,11 +20,14 @@ import java.util.List;
 import java.util.stream.IntStream;
 
 @About(title = "How marks spread",
-        text = "A model in the plane, of six domains, and below it one on an axis, of three. Every part has "
-                + "its number.",
+        text = "A plate of six domains in the plane, and below it a rod of three domains on an axis. A mark on a "
+                + "domain spreads to the lines and points around it, and every part shows its number in its "
+                + "colour.",
         section = Section.OBJECTS,
         pages = "geometry/marking")
 public final class MarkingRules implements Picture {
+    // The domains of the plate are squares in rows and columns, above the rod. A mesh of a square has four cells
+    // along each side.
     private static final int COLUMNS = 3;
     private static final int ROWS = 2;
     private static final double BOTTOM = 0.6;
@@ -32,6 +35,8 @@ public final class MarkingRules implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // Numbers in calls begin at 0, those in the picture at 1. A domain of a model in the plane is marked by
+        // `markBoundary`, one on an axis by `markEdge`.
         try (SceneGraphPhysicsObject plate = new SceneGraphPhysicsObject(1);
                 SceneGraphPhysicsObject rod = new SceneGraphPhysicsObject(2);
                 RenderGeom2D plane = plate();
@@ -46,27 +51,37 @@ public final class MarkingRules implements Picture {
             plate.markBoundary(0, MarkingAction.PRIMARY);
             plate.markBoundary(1, MarkingAction.SECONDARY);
             rod.markEdge(0, MarkingAction.PRIMARY);
-            studio.save("Domain 1 of the plate has a primary mark and domain 2 a secondary one; the line between them "
-                    + "is next to both. Domain 1 of the rod is marked as well.");
+            studio.save("Domain 1 of the plate has the primary mark (red) and domain 2 the secondary one (blue), "
+                    + "each with its lines and points. Line 11 bounds both domains and is green, as are points 2 "
+                    + "and 6 at its ends. Domain 1 of the rod is a wide red line.");
 
+            // Hiding spreads in another way: a line disappears only when all domains are hidden that it bounds, and
+            // a point when all its lines are.
             plate.markBoundary(4, MarkingAction.HIDDEN);
             rod.markEdge(1, MarkingAction.HIDDEN);
-            studio.save("Domain 5 of the plate and domain 2 of the rod are hidden. Lines and points next to something "
-                    + "else stay, and those on the border go.");
+            studio.save("Without domain 5 of the plate and domain 2 of the rod. Line 8 was on the border of "
+                    + "domain 5 alone and is gone; lines 5, 15 and 16 also bound domains that are shown, and "
+                    + "stay.");
 
+            // With the neighbours hidden as well, nothing is left that could keep the lines between them.
             plate.markBoundary(3, MarkingAction.HIDDEN);
             rod.markEdge(2, MarkingAction.HIDDEN);
-            studio.save("With domains 4 and 3 hidden as well, what is between two hidden domains is hidden too.");
+            studio.save("Domain 4 of the plate is hidden too. Line 15, between the hidden domains 4 and 5, is "
+                    + "gone, with point 10 at its end. Of the rod, domain 1 alone is left, with its points.");
 
+            // One call removes the marks of a kind from all parts. A domain that has a mesh is drawn as its mesh
+            // instead of its own geometry.
             plate.unmarkAll(ObjectPartType.ALL, MarkingAction.HIDDEN);
             rod.unmarkAll(ObjectPartType.ALL, MarkingAction.HIDDEN);
             addMeshes(plateMeshes, rodMeshes);
             plate.addMeshCollection(plateMeshes);
             rod.addMeshCollection(rodMeshes);
-            studio.save("Everything is shown again, and domain 6 of the plate and domain 3 of the rod have meshes.");
+            studio.save("Everything is shown again. Domain 6 of the plate is drawn as a mesh of squares and "
+                    + "triangles, domain 3 of the rod as eight intervals.");
         }
     }
 
+    // A model on an axis has points, and a curve per domain.
     private static RenderGeom1D rod() {
         GeometryBuilder1D builder = new GeometryBuilder1D().points(new double[] {0, 1, 2, 3});
         for (int i = 0; i < COLUMNS; ++i) {
@@ -75,6 +90,8 @@ public final class MarkingRules implements Picture {
         return builder.buildGeom();
     }
 
+    // A model in the plane has points, curves and a sheet per domain: first the curves along x, then those along y.
+    // `sheetToLine` lists the curves around each sheet, by which marks spread.
     private static int point(int column, int row) {
         return row * (COLUMNS + 1) + column;
     }
@@ -109,7 +126,8 @@ public final class MarkingRules implements Picture {
         return builder.sheetToLine(lines.toArray(int[][]::new)).buildGeom();
     }
 
-    /** A mesh of squares and triangles for the last domain of the plate, one of intervals for that of the rod. */
+    // The meshes have squares in the left half of the last domain of the plate and triangles in its right half, and
+    // intervals in the last domain of the rod.
     private static void addMeshes(RenderMeshCollection plate, RenderMeshCollection rod) {
         double[][] axes = new double[2][(CELLS + 1) * (CELLS + 1)];
         int[][] triangles = new int[3][CELLS * CELLS];
@@ -139,6 +157,7 @@ public final class MarkingRules implements Picture {
             }
         }
         plate.addSheet(MeshKind.SUBDOMAIN_2D, COLUMNS * ROWS - 1, axes, triangles, quads);
-        rod.addLine(MeshKind.SUBDOMAIN_1D, COLUMNS - 1, IntStream.rangeClosed(0, 8).mapToDouble(i -> 2 + i / 8.0).toArray());
+        rod.addLine(MeshKind.SUBDOMAIN_1D, COLUMNS - 1,
+                IntStream.rangeClosed(0, 8).mapToDouble(i -> 2 + i / 8.0).toArray());
     }
 }

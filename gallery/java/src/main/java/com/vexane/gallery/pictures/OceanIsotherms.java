@@ -32,7 +32,7 @@ public final class OceanIsotherms implements Picture {
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(record);
             plot.setLegendLevels(5, 10, 15, 20, 25);
-            studio.nameAxes("Longitude in degrees", "Latitude in degrees", "Depth in 100 m");
+            studio.nameAxes("Longitude in degrees", "Latitude in degrees", "z in 100 m");
             studio.show(plot, "Temperature in \\degree C").view(-60, 22);
             studio.save("All five levels. The warmest water is at the top and hides most of the others.");
 

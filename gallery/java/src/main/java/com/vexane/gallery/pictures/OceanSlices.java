@@ -31,7 +31,7 @@ public final class OceanSlices implements Picture {
                 PostDataObject record = builder.build()) {
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(record);
-            studio.nameAxes("Longitude in degrees", "Latitude in degrees", "Depth in 100 m");
+            studio.nameAxes("Longitude in degrees", "Latitude in degrees", "z in 100 m");
             studio.show(plot, "Temperature in \\degree C").view(-50, 25);
             studio.save("Warm water is a thin layer at the surface. The outlines follow the steps of the sea floor in "
                     + "the data.");

@@ -99,7 +99,7 @@ public final class OverlayShapes implements Picture {
             band.press(width * 60 / 100, height * 62 / 100);
             band.drag(width * 75 / 100, height * 78 / 100);
             studio.renderer().setScreenOverlay(screen);
-            studio.save("The region by which El Nino is recognised as a translucent rectangle, the warm pool of the "
+            studio.save("The region by which El Ni\u00f1o is recognised as a translucent rectangle, the warm pool of the "
                     + "Pacific as an ellipse, the equator as a line, Hawaii as a symbol and Easter Island as a "
                     + "point. At the lower right a rubber band is being dragged open.");
         }

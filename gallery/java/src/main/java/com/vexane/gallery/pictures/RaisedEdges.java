@@ -47,7 +47,8 @@ public final class RaisedEdges implements Picture {
             edges.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             edges.fillPlot(record);
             edges.setHeightScale(0.35f);
-            studio.show(edges, "Height").view(-60, 30);
+            studio.nameAxes("x in m", "y in m", "z in m");
+            studio.show(edges, "Height in m").view(-60, 30);
             studio.save("The net over the plane, with the hill in red and the hollow in blue.");
         }
     }

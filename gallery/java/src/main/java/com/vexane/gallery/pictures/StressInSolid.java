@@ -43,8 +43,10 @@ public final class StressInSolid implements Picture {
             // The faces with a part before the middle plane of the bracket.
             IntStream.range(0, geometry.getNumSheets()).filter(face -> lowest(geometry.getSheet(face)[1]) < -0.1)
                     .forEach(face -> solid.markPart(ObjectPartType.SHEET, face, MarkingAction.HIDDEN));
+            studio.nameAxes("x in mm", "y in mm", "z in mm");
             studio.show(slices, "Stress \\sigma_{v} in MPa").show(solid).view(-35, 25);
-            studio.save("A plot and a solid in one scene: depths decide what covers what, as within one object.");
+            studio.save("Coloured sections in the grey back half of the bracket. What is nearer covers what is farther, "
+                    + "whether it belongs to the plot or to the solid.");
         }
     }
 

@@ -38,7 +38,7 @@ public final class TerrainColors implements Picture {
             plot.fillPlot(record);
             studio.size(1200, 1000);
             studio.nameAxes("x in km", "y in km");
-            studio.show(plot, "Height over " + Math.round(mean) + " m").flat();
+            studio.show(plot, "Height above the mean in m").flat();
             studio.save("As filled: the legend covers the range of the data. Grey, the middle of the table, is not the "
                     + "mean, because the peaks are farther from it than the valleys.");
 
@@ -48,7 +48,7 @@ public final class TerrainColors implements Picture {
 
             // Narrower limits spend the colours on the values of interest.
             plot.setLegendLimits(-200, 200);
-            studio.save("A legend from -200 to 200 m: values beyond the limits have the colours of the ends.");
+            studio.save("A legend from \u2212200 to 200 m: values beyond the limits have the colours of the ends.");
 
             // The order of the table can be reversed.
             plot.setReverseColorTable(true);

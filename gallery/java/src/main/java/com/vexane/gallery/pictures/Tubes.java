@@ -55,7 +55,7 @@ public final class Tubes implements Picture {
             points[0][i] = 8 + 1.5 * Math.cos(t);
             points[1][i] = 1.5 * Math.sin(t);
             points[2][i] = -1.5 + 3.0 * i / (POINTS - 1);
-            colors[i] = 2.0 * i / (POINTS - 1) - 1;
+            colors[i] = points[2][i];
             radii[i] = 0.2 + 0.25 * i / (POINTS - 1);
         }
         return tube(false, points, colors, radii);
@@ -63,7 +63,8 @@ public final class Tubes implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
-        // Both plots are filled in the same way; the record decides which tube is closed.
+        // Both plots are filled in the same way; the record decides which tube is closed. Equal limits let one legend
+        // serve both.
         try (SceneGraphPlotTube3d closed = new SceneGraphPlotTube3d(1);
                 SceneGraphPlotTube3d open = new SceneGraphPlotTube3d(2);
                 PostDataObject knot = knot();
@@ -71,16 +72,18 @@ public final class Tubes implements Picture {
             for (SceneGraphPlotTube3d plot : new SceneGraphPlotTube3d[] {closed, open}) {
                 plot.setColorTable("viridis", studio.colors("viridis"), true);
                 plot.fillPlot(plot == closed ? knot : helix);
+                plot.setLegendLimits(-1.5, 1.5);
             }
             open.setShowLegend(false);
-            studio.show(closed, "Colour of the points").show(open, "");
+            studio.nameAxes("x in cm", "y in cm", "z in cm");
+            studio.show(closed, "Height in cm").show(open, "");
             studio.view(-70, 35);
-            studio.save("The closed knot and the open helix, in the colour of their height.");
+            studio.save("The closed knot and the open helix with its round ends, in the colours of their heights.");
 
             // A factor changes all radii. It needs no record.
             closed.setRadiusScaleFactor(0.4f);
             open.setRadiusScaleFactor(0.4f);
-            studio.save("The same tubes with 0.4 times their radius.");
+            studio.save("The same lines in tubes of 0.4 times the radius: where the knot crosses itself shows better.");
         }
     }
 }

@@ -21,16 +21,16 @@ public final class TubesFlat implements Picture {
     private static final int POINTS = 200;
 
     // The points have two coordinates. With the height role the same lines are raised and become tubes in space.
-    private static PostDataObject overtones(boolean raised) {
+    private static PostDataObject modes(boolean raised) {
         double[][] points = new double[2][LINES * POINTS];
         double[] deflections = new double[LINES * POINTS];
         double[] radii = new double[LINES * POINTS];
         for (int i = 0; i < LINES * POINTS; ++i) {
-            int overtone = i / POINTS + 1;
+            int mode = i / POINTS + 1;
             double x = (double) (i % POINTS) / (POINTS - 1);
-            double angle = overtone * Math.PI * x;
+            double angle = mode * Math.PI * x;
             points[0][i] = 6 * x;
-            points[1][i] = overtone + 0.3 * Math.sin(angle);
+            points[1][i] = mode + 0.3 * Math.sin(angle);
             deflections[i] = Math.sin(angle);
             radii[i] = 0.05 + 0.05 * Math.abs(Math.cos(angle));
         }
@@ -45,20 +45,22 @@ public final class TubesFlat implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
         try (SceneGraphPlotTube2d plot = new SceneGraphPlotTube2d(1);
-                PostDataObject flat = overtones(false);
-                PostDataObject raised = overtones(true)) {
+                PostDataObject flat = modes(false);
+                PostDataObject raised = modes(true)) {
             studio.size(1400, 900);
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(flat);
-            studio.nameAxes("position", "number of the overtone");
-            studio.show(plot, "Deflection").flat();
+            studio.nameAxes("Position in dm", "Number of the mode");
+            studio.show(plot, "Deflection in mm").flat();
             studio.save("Flat bands with round ends: wide and grey at the nodes, narrow and coloured between them.");
 
             // The same plot is filled from the other record.
             plot.fillPlot(raised);
             plot.setHeightScale(0.4f);
+            studio.nameAxes("Position in dm", "Number of the mode", "Deflection in mm");
             studio.view(-60, 35);
-            studio.save("Tubes that are raised by the deflection.");
+            studio.save("Each mode raised by its deflection: red tubes run above the plane, blue ones below it, and all "
+                    + "begin and end in it.");
         }
     }
 }

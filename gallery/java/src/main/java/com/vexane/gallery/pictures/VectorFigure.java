@@ -23,6 +23,7 @@ import java.io.IOException;
         section = Section.RECIPES,
         pages = {"common-tasks", "renderer"})
 public final class VectorFigure implements Picture {
+    // The resolution of the image, and of the picture of the faces in the other files.
     private static final int DPI = 150;
 
     @Override
@@ -49,22 +50,25 @@ public final class VectorFigure implements Picture {
             report.setFontSize(TextItem.LEGEND_TICK, 7);
             report.setFileTitle("Stress in a loaded bracket");
 
-            // The suffix of the file chooses the format. What the scene shows of faces is a picture in the page, in the
-            // resolution of the settings; axes, legend and title are vectors over it. Supersampling makes that picture
-            // finer.
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(stress);
             plot.setLegendLimits(0, file.percentile(0.995));
+            studio.nameAxes("x in mm", "y in mm", "z in mm");
             studio.show(plot, "Stress \\sigma_{v} in MPa").view(-35, 25);
             report.setLegendsShown(true);
             studio.renderer().writeHardcopy(
-                    studio.file("The image at 150 dpi, as a screen shows it."), report, pixels(12), pixels(7.5));
+                    studio.file("The image: at 150 dpi, texts and lines show their pixels when the page is enlarged."),
+                    report, pixels(12), pixels(7.5));
+
+            // The suffix of the file chooses the format. What the scene shows of faces is a picture in the page, in the
+            // resolution of the settings; axes, legend and title are vectors over it. Supersampling makes that picture
+            // finer.
             studio.renderer().setSupersampling(2);
             studio.renderer().writeHardcopy(studio.document(".svg"), report, pixels(12), pixels(7.5));
             studio.renderer().writeHardcopy(studio.document(".pdf"), report, pixels(12), pixels(7.5));
-            studio.renderer().setSupersampling(1);
 
             // A view of graphs alone has no picture at all: its lines are vectors too.
+            studio.renderer().setSupersampling(1);
             plot.setActive(false);
             graph.fillPlot(line);
             graph.setLineWidth(2);
@@ -73,6 +77,8 @@ public final class VectorFigure implements Picture {
             report.setLegendsShown(false);
             studio.renderer().writeHardcopy(
                     studio.file("The graph as an image at 150 dpi."), report, pixels(12), pixels(7.5));
+
+            // In an SVG file letters are shapes, so a browser needs no fonts to show it.
             studio.renderer().writeHardcopy(studio.document(".svg"), report, pixels(12), pixels(7.5));
         }
     }

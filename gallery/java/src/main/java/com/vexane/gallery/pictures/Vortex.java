@@ -18,7 +18,8 @@ import java.io.IOException;
 public final class Vortex implements Picture {
     private static final int SIDE = 25;
 
-    // At the distance r the flow goes round with the speed (1 - exp(-r^2)) / r. It is highest, 0.638, at r = 1.121.
+    // The core has a radius of 1 m. At the distance r in metres the flow goes round at (1 - exp(-r^2)) / r m/s, which is
+    // highest, 0.638 m/s, at r = 1.121 m.
     private static PostDataObject flow() {
         double[][] points = new double[2][SIDE * SIDE];
         double[][] velocity = new double[2][SIDE * SIDE];
@@ -51,8 +52,8 @@ public final class Vortex implements Picture {
             plot.fillPlot(record);
             plot.setAnchorPoint(SceneGraphPlotArrow.Anchor.CENTER);
             studio.size(1200, 1000);
-            studio.nameAxes("x", "y");
-            studio.show(plot, "Speed").flat();
+            studio.nameAxes("x in m", "y in m");
+            studio.show(plot, "Speed in m/s").flat();
             studio.save("The speed is highest on a ring around the core and falls off outwards; in the core there is "
                     + "hardly any flow.");
         }

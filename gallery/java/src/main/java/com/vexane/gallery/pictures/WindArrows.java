@@ -9,7 +9,7 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "Wind over the earth",
-        text = "The monthly mean of the wind at the surface: a vector at each point, drawn as a lit arrow.",
+        text = "The monthly mean of the wind at the surface: a vector at each point, drawn as a shaded arrow.",
         pages = "plots/vector-plots")
 public final class WindArrows implements Picture {
     @Override
