@@ -72,7 +72,7 @@ public final class ModelMarkers implements Picture {
             // domain.
             model.clearPhysicsMarkers();
             model.markSubdomain(0, MarkingAction.HIDDEN);
-            studio.save("Without the markers and the bracket, the bush remains: a sleeve with a flange and a "
+            studio.view(-35, 25).save("Without the markers and the bracket, the bush remains: a sleeve with a flange and a "
                     + "hole for oil. Faces between the two domains are shown as long as one of them is.");
         }
     }

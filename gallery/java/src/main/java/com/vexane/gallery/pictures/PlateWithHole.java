@@ -112,7 +112,7 @@ public final class PlateWithHole implements Picture {
                 PostDataObject stresses = stresses();
                 PostDataObject places = new PostDataBuilder(PlotKind.POINT_LABEL_2D)
                         .addGroup(new PostDataGroup().coordinates(new double[][] {{0, 0.6}, {0.6, 0}})).build()) {
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             plate.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plate.fillPlot(mesh);
             plate.setWireframeColor(0xb0b0b0);

@@ -47,7 +47,7 @@ public final class TubesFlat implements Picture {
         try (SceneGraphPlotTube2d plot = new SceneGraphPlotTube2d(1);
                 PostDataObject flat = modes(false);
                 PostDataObject raised = modes(true)) {
-            studio.size(1400, 900);
+            studio.size(1120, 720);
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(flat);
             studio.nameAxes("Position in dm", "Number of the mode");

@@ -51,7 +51,7 @@ public final class Vortex implements Picture {
             plot.setHeadLength(0.4f);
             plot.fillPlot(record);
             plot.setAnchorPoint(SceneGraphPlotArrow.Anchor.CENTER);
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             studio.nameAxes("x in m", "y in m");
             studio.show(plot, "Speed in m/s").flat();
             studio.save("The speed is highest on a ring around the core and falls off outwards; in the core there is "
