@@ -91,7 +91,8 @@ public final class PlateWithHole implements Picture {
             double[][] values = axis < 2 ? take(principal[axis], chosen) : new double[3][chosen.length];
             group.data(values[0]).data(values[1]).data(values[2]);
             record.role(DataRole.principalLength(axis), array++)
-                    .role(DataRole.principalDirection(axis, 0), array++).role(DataRole.principalDirection(axis, 1), array++);
+                    .role(DataRole.principalDirection(axis, 0), array++)
+                    .role(DataRole.principalDirection(axis, 1), array++);
         }
         return record.addGroup(group).build();
     }

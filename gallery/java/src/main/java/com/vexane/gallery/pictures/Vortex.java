@@ -18,8 +18,8 @@ import java.io.IOException;
 public final class Vortex implements Picture {
     private static final int SIDE = 25;
 
-    // The core has a radius of 1 m. At the distance r in metres the flow goes round at (1 - exp(-r^2)) / r m/s, which is
-    // highest, 0.638 m/s, at r = 1.121 m.
+    // The core has a radius of 1 m. At the distance r in metres the flow goes round at (1 - exp(-r^2)) / r m/s,
+    // which is highest, 0.638 m/s, at r = 1.121 m.
     private static PostDataObject flow() {
         double[][] points = new double[2][SIDE * SIDE];
         double[][] velocity = new double[2][SIDE * SIDE];
@@ -54,8 +54,8 @@ public final class Vortex implements Picture {
             studio.size(960, 800);
             studio.nameAxes("x in m", "y in m");
             studio.show(plot, "Speed in m/s").flat();
-            studio.save("The speed is highest on a ring around the core and falls off outwards; in the core there is "
-                    + "hardly any flow.");
+            studio.save("The speed is highest on a ring around the core and falls off outwards; in the core "
+                    + "there is hardly any flow.");
         }
     }
 }
