@@ -171,6 +171,11 @@ void placeLineLegend(const Frame& frame, FrameLayout& layout)
         layout.lineLegendLeft =
             placement.isLeft ? area.x + margin : area.x + area.width - layout.lineLegend->getWidth() - margin;
     }
+    // One that is wider than the axes stays in the picture.
+    if (placement.isRow && !placement.isInside) {
+        const int rightmost = layout.space.x + layout.space.width - layout.lineLegend->getWidth();
+        layout.lineLegendLeft = std::max(std::min(layout.lineLegendLeft, rightmost), layout.space.x);
+    }
     if (placement.isInside || !placement.isRow) {
         layout.lineLegendTop =
             placement.isBottom ? area.y + area.height - layout.lineLegend->getHeight() - margin : area.y + margin;

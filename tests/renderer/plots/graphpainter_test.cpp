@@ -269,6 +269,14 @@ TEST_F(GraphPainterTest, legendIsWhereTheAxisSetupPutsIt)
         }
     }
     EXPECT_EQ(pictures.size(), 24u);
+
+    // A row that is wider than the axes stays in the picture.
+    m_canvas.getCanvas3dSettings()->camera2d()->setPreserveAspectRatio(true);
+    axes().setLegendLayoutStrategy(2);
+    axes().setLegendPosition(0);
+    const int pixels = count(drawn(m_canvas), c_blue);
+    m_graph->setLegendDescription(0, "words that need more space than the axes");
+    EXPECT_EQ(count(drawn(m_canvas), c_blue), pixels);
 }
 
 } // namespace

@@ -136,8 +136,8 @@ public final class Gallery {
             new VectorFigure());
 
     /** Pixels of most pictures. */
-    static final int WIDTH = 1600;
-    private static final int HEIGHT = 1000;
+    static final int WIDTH = 1200;
+    private static final int HEIGHT = 750;
     /** Dots per inch of the pictures: texts of 12 points are 18 pixels high. */
     private static final int RESOLUTION = 108;
 

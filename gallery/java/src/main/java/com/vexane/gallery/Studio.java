@@ -161,7 +161,7 @@ public final class Studio implements AutoCloseable {
     }
 
     /**
-     * Makes the pictures that follow another size than 1600 by 1000 pixels. Drafts of the gallery scale it.
+     * Makes the pictures that follow another size than 1200 by 750 pixels. Drafts of the gallery scale it.
      *
      * @param width pixels
      * @param height pixels

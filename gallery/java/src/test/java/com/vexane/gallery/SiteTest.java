@@ -44,6 +44,7 @@ class SiteTest {
                 Pattern.compile("src=\"([\\w-]+\\.png)\"").matcher(figure).results().forEach(m -> shown.add(m.group(1)));
             }
             assertFalse(html.contains("<figure>") && html.indexOf("<figure>") < html.indexOf("<pre>"), page.toString());
+            assertFalse(html.contains("</pre>\n<pre>"), page + " has no prose between two blocks");
         }
         assertEquals(pictures.stream().map(file -> file.getFileName().toString()).sorted().toList(),
                 shown.stream().sorted().toList());

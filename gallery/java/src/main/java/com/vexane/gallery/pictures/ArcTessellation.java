@@ -24,6 +24,7 @@ public final class ArcTessellation implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // Each arc is drawn into a small picture, and a `Sheet` puts them side by side.
         studio.renderer().resize(SIDE, SIDE);
         studio.flat();
         Sheet sheet = new Sheet(TOLERANCES.length);
@@ -31,11 +32,12 @@ public final class ArcTessellation implements Picture {
             drawArc(studio, tolerance);
             sheet.add(studio.renderer());
         }
-        sheet.write(studio.file("The smaller the tolerance, the more points. The names of the axes give both."));
+        sheet.write(studio.file("The smaller the tolerance, the more points (orange) lie on the arc. Both "
+                + "numbers are below each drawing."));
     }
 
-    // An edge is halved until the middle of each segment is closer to the curve than the tolerance. The points of the
-    // tessellation are drawn over the curve.
+    // An edge is halved until the middle of each segment is closer to the curve than the tolerance. The points of
+    // the tessellation are drawn over the curve.
     private static void drawArc(Studio studio, double tolerance) {
         EditGeometryBuilder builder = new EditGeometryBuilder();
         int arc = builder.addArc(builder.addVertex(1, 0), builder.addVertex(0, -1), 0, 0);

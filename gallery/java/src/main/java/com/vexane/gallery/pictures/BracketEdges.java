@@ -27,7 +27,7 @@ public final class BracketEdges implements Picture {
         try (SceneGraphPlotEdge3d edges = new SceneGraphPlotEdge3d(1);
                 PostDataObject surface = record(file, file.triangles(), worst);
                 PostDataObject volume = record(file, file.tetrahedra(), worst)) {
-            studio.size(1400, 1000);
+            studio.size(1120, 800);
             edges.setColorTable("viridis", studio.colors("viridis"), true);
             edges.fillPlot(surface);
             studio.nameAxes("x in mm", "y in mm", "z in mm");

@@ -36,7 +36,7 @@ public final class BracketMesh implements Picture {
         try (SceneGraphPlotMesh3d plot = new SceneGraphPlotMesh3d(1, 3);
                 PostDataObject record = new PostDataBuilder(PlotKind.MESH_3D).role(DataRole.COLOR, 0)
                         .addGroup(faces).addGroup(edges).addGroup(points).build()) {
-            studio.size(1400, 1000);
+            studio.size(1120, 800);
             plot.setColorTable("viridis", studio.colors("viridis"), true);
             plot.fillPlot(record);
             plot.setWireframeColor(0x202830);

@@ -31,7 +31,7 @@ public final class BracketSlices implements Picture {
                 SceneGraphPlotSurface3d bracket = new SceneGraphPlotSurface3d(2);
                 PostDataObject record = builder.build();
                 PostDataObject surfaceRecord = surface.surface3d()) {
-            studio.size(1400, 1000);
+            studio.size(1120, 800);
             slices.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             slices.fillPlot(record);
             slices.setLegendLimits(0, file.percentile(0.995));

@@ -25,10 +25,12 @@ public final class BracketSolid implements Picture {
             studio.show(solid).nameAxes("x in mm", "y in mm", "z in mm").view(-35, 25);
             studio.save("Faces in grey with their edges and vertices in black.");
 
-            // Hiding is a mark. It is set for the faces in front of the middle plane, by the mean of their vertices.
+            // Hiding is a mark. It is set for the faces in front of the middle plane, by the mean of their
+            // vertices.
             IntStream.range(0, record.getNumSheets()).filter(face -> isInFront(record.getSheet(face)))
                     .forEach(face -> solid.markPart(ObjectPartType.SHEET, face, MarkingAction.HIDDEN));
-            studio.save("The faces of the front half are hidden, and with them the edges that belong to no other face.");
+            studio.save("The faces of the front half are hidden, and with them the edges that belong to no other "
+                    + "face.");
         }
     }
 

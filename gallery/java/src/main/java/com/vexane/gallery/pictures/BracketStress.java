@@ -23,7 +23,7 @@ public final class BracketStress implements Picture {
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(record);
             plot.setLegendLimits(0, file.percentile(0.995));
-            studio.size(1400, 1000);
+            studio.size(1120, 800);
             studio.nameAxes("x in mm", "y in mm", "z in mm");
             studio.show(plot, "Stress \\sigma_{v} in MPa").view(-35, 25);
             studio.save("Stress is highest at the upper bolts and along the flange. The extremes of the data are above "

@@ -62,7 +62,7 @@ public final class CityLabels implements Picture {
             names.fillPlot(record);
             names.setLabels(Arrays.stream(CITIES).map(City::name).toArray(String[]::new));
             names.setColor(0x101010);
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             studio.hideAxes();
             studio.show(globe, "").show(marks, "").show(names, "").view(20, 35);
             studio.save("Europe and Africa with their cities; the globe itself hides those behind it. A name "

@@ -21,7 +21,7 @@ public final class EarthRelief implements Picture {
             plot.setColorTable("relief", studio.colors("relief"), true);
             plot.setSymmetricColorTable(true);
             plot.fillPlot(record);
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             studio.hideAxes();
             studio.show(plot, "Height in m");
             studio.view(75, 20);

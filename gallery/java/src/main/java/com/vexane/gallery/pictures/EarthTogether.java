@@ -26,7 +26,7 @@ public final class EarthTogether implements Picture {
                 PostDataObject wind = Globe.wind(studio);
                 PostDataObject streamlines = Globe.streamlines(studio, 0.004);
                 PostDataObject earthquakes = Globe.earthquakes(studio)) {
-            studio.size(1400, 1000);
+            studio.size(1120, 800);
             globe.show(studio);
             arrows.fillPlot(wind);
             arrows.setScalingType(SceneGraphPlotArrow.Scaling.NORMALIZED);

@@ -33,7 +33,7 @@ public final class EarthquakeMap implements Picture {
                 PostDataObject map = studio.read("sea_temperature_2d.txt", PlotKind.SURFACE_2D, Map.of(DataRole.COLOR, 0));
                 PostDataObject record = new PostDataBuilder(PlotKind.GENERAL).role(DataRole.COLOR, 0)
                         .role(DataRole.RADIUS, 1).addGroup(points).build()) {
-            studio.size(1600, 900);
+            studio.size(1200, 675);
             sea.fillPlot(map);
             sea.setColor(0xa9c6dd);
             sea.setShowLegend(false);

@@ -28,7 +28,7 @@ public final class Earthquakes implements Picture {
             spheres.setColorTable("inferno", studio.colors("inferno"), true);
             spheres.setReverseColorTable(true);
             spheres.fillPlot(record);
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             studio.hideAxes();
             studio.show(globe, "").show(spheres, "Depth in km").view(-115, 25);
             studio.save("North America, where earthquakes follow the west coast. Most of them are shallow, which is "

@@ -26,6 +26,8 @@ public final class EditedGeometry implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // The overlay object shows the edges of a geometry that the program edits, here with the numbers of its
+        // vertices.
         studio.renderer().resize(WIDTH, HEIGHT);
         studio.flat().nameAxes("Before", "");
         Sheet sheet = new Sheet(2);
@@ -46,8 +48,8 @@ public final class EditedGeometry implements Picture {
             studio.renderer().draw();
             sheet.add(studio.renderer());
 
-            // A press, a drag and a release in pixels, as a mouse would make them. Moving a vertex changes the edges that end in
-            // it and marks them as modified.
+            // A press, a drag and a release in pixels, as a mouse would make them. Moving a vertex changes the
+            // edges that end in it and marks them as modified.
             int[] pointer = picker.pixelOf(4, 4, 0);
             editing.press(pointer[0], pointer[1]);
             editing.drag(pointer[0] + 120, pointer[1] - 70);
@@ -60,6 +62,8 @@ public final class EditedGeometry implements Picture {
         sheet.write(studio.file("Left before, right after: the modified edges are orange, with their control points."));
     }
 
+    // The object says which edges have been modified; marks show them in another colour. The geometry is built from
+    // lines, arcs about a centre, splines with their knots, and an ellipse.
     private static void markModified(OverlayRenderEdit2d curve) {
         for (int edge = 0; edge < curve.getNumberOfEdges(); ++edge) {
             if (curve.isEdgeModified(edge)) {

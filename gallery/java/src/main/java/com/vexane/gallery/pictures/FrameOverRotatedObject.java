@@ -27,7 +27,8 @@ import java.io.IOException;
 public final class FrameOverRotatedObject implements Picture {
     private static final int POINTS = 240;
 
-    /** A gear of 12 teeth as a fan of triangles around its middle. */
+    // A gear of 12 teeth is a fan of triangles around its middle. It is a plot that is filled from new coordinates when
+    // the gear has moved.
     private static double[][] gear() {
         double[][] points = new double[2][POINTS + 1];
         for (int i = 1; i <= POINTS; ++i) {
@@ -65,6 +66,7 @@ public final class FrameOverRotatedObject implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // The frame is a shape of an overlay, which lies over the scene.
         try (SceneGraphPlotSurface3d bracket = new SceneGraphPlotSurface3d(1);
                 Overlay overlay = new Overlay();
                 OverlayTransformation frame = new OverlayTransformation()) {
@@ -79,6 +81,7 @@ public final class FrameOverRotatedObject implements Picture {
         }
     }
 
+    // By itself the frame encloses all that the view shows, here a bracket.
     private static void drawInSpace(Studio studio, SceneGraphPlotSurface3d bracket) throws IOException {
         PlotFile file = PlotFile.read(studio.data("bracket_stress_3d.txt"));
         try (PostDataObject record = file.surface3d()) {
@@ -90,6 +93,7 @@ public final class FrameOverRotatedObject implements Picture {
         studio.save("In space the frame shows all edges of the box; its handles are in the plane z = 0.");
     }
 
+    // In the plane a user moves an object by the handles of its frame.
     private static void drawFlat(Studio studio, Overlay overlay, OverlayTransformation frame) throws IOException {
         int height = studio.renderer().getHeight();
         try (SceneGraphPlotSurface2d before = new SceneGraphPlotSurface2d(2);

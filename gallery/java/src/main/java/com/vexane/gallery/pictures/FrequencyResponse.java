@@ -50,7 +50,7 @@ public final class FrequencyResponse implements Picture {
             for (int i = 0; i < DELAYS.length; ++i) {
                 plot.setLegendDescription(i, "dead time " + DELAYS[i] + " s");
             }
-            studio.size(1200, 900);
+            studio.size(1000, 750);
             studio.nameAxes("Real part", "Imaginary part");
             studio.axes().setAxisType(AxisSetup.AxisType.GRAPH);
             studio.show(plot, "Frequency response of an open loop").flat();

@@ -68,7 +68,7 @@ public final class LocalAxes implements Picture {
                 SceneGraphPlotTube3d tube = new SceneGraphPlotTube3d(2);
                 PostDataObject systems = record.build();
                 PostDataObject lines = helix.build()) {
-            studio.size(1100, 1000);
+            studio.size(900, 800);
             plot.setColorTable("red, green, blue", new double[][] {{0.9, 0.1, 0.1}, {0.1, 0.7, 0.1}, {0.1, 0.2, 0.9}},
                     false);
             plot.setShowLegend(false);

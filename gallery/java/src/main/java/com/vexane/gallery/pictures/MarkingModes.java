@@ -26,6 +26,7 @@ import java.util.Map;
         section = Section.OBJECTS,
         pages = {"geometry/marking", "geometry/draw-objects"})
 public final class MarkingModes implements Picture {
+    // The panels of the roof along x and y.
     private static final int COLUMNS = 5;
     private static final int ROWS = 3;
 
@@ -56,8 +57,10 @@ public final class MarkingModes implements Picture {
             for (Row row : Row.values()) {
                 former.put(row, markings.getMarking(Mode.SECOND, row));
             }
-            markings.setMarking(Mode.SECOND, Row.NORMAL, new Marking(0x2f4858, 0x86a8b8, 1.5f, 0x86a8b8, 5, 0xffffff, 0));
-            markings.setMarking(Mode.SECOND, Row.PRIMARY, new Marking(0xf6ae2d, 0xffffff, 5, 0xffffff, 11, 0xffffff, 2));
+            markings.setMarking(Mode.SECOND, Row.NORMAL,
+                    new Marking(0x2f4858, 0x86a8b8, 1.5f, 0x86a8b8, 5, 0xffffff, 0));
+            markings.setMarking(Mode.SECOND, Row.PRIMARY,
+                    new Marking(0xf6ae2d, 0xffffff, 5, 0xffffff, 11, 0xffffff, 2));
             markings.setMarking(Mode.SECOND, Row.PRIMARY_ADJACENT,
                     new Marking(0xf6ae2d, 0xf6ae2d, 5, 0xf6ae2d, 11, 0xffffff, 2));
             markings.setMarkingHidden(Mode.SECOND, Row.SECONDARY);
@@ -74,6 +77,7 @@ public final class MarkingModes implements Picture {
         }
     }
 
+    // The roof is a parabola over its width.
     private static double height(double x) {
         return 1.2 - 0.25 * (x - 0.5 * COLUMNS) * (x - 0.5 * COLUMNS);
     }

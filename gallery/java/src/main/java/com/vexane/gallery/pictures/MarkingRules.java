@@ -46,7 +46,7 @@ public final class MarkingRules implements Picture {
             plate.fillObject2D(plane);
             rod.fillObject1D(axis);
             studio.settings().setShowLabels(true);
-            studio.show(plate).show(rod).hideAxes().flat();
+            studio.size(800, 540).show(plate).show(rod).hideAxes().flat();
 
             plate.markBoundary(0, MarkingAction.PRIMARY);
             plate.markBoundary(1, MarkingAction.SECONDARY);

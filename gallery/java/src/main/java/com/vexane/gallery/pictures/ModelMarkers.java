@@ -72,8 +72,9 @@ public final class ModelMarkers implements Picture {
             // domain.
             model.clearPhysicsMarkers();
             model.markSubdomain(0, MarkingAction.HIDDEN);
-            studio.save("Without the markers and the bracket, the bush remains: a sleeve with a flange and a "
-                    + "hole for oil. Faces between the two domains are shown as long as one of them is.");
+            studio.view(-35, 25).save("Without the markers and the bracket, the bush remains: a sleeve with a "
+                    + "flange and a hole for oil. Faces between the two domains are shown as long as one of them "
+                    + "is.");
         }
     }
 
@@ -98,7 +99,8 @@ public final class ModelMarkers implements Picture {
     private static double distance(float[][] vertices, double[] point) {
         double sum = 0;
         for (int i = 0; i < vertices[0].length; ++i) {
-            sum += Math.hypot(Math.hypot(vertices[0][i] - point[0], vertices[1][i] - point[1]), vertices[2][i] - point[2]);
+            sum += Math.hypot(
+                    Math.hypot(vertices[0][i] - point[0], vertices[1][i] - point[1]), vertices[2][i] - point[2]);
         }
         return vertices[0].length == 0 ? Double.MAX_VALUE : sum / vertices[0].length;
     }

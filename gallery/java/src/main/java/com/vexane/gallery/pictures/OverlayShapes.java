@@ -28,8 +28,8 @@ import java.io.IOException;
 public final class OverlayShapes implements Picture {
     @Override
     public void draw(Studio studio) throws IOException {
-        // The map is a plot of the scene. Shapes belong to an `Overlay`, which lies over the scene; a second overlay in
-        // pixels holds the rubber band.
+        // The map is a plot of the scene. Shapes belong to an `Overlay`, which lies over the scene; a second
+        // overlay in pixels holds the rubber band.
         PlotFile file = PlotFile.read(studio.data("sea_temperature_2d.txt"));
         PostDataGroup sea = new PostDataGroup()
                 .coordinates(file.coordinates()[0], file.coordinates()[1])
@@ -91,17 +91,17 @@ public final class OverlayShapes implements Picture {
             overlay.addOverlayObject(easterIsland, 5);
             studio.renderer().setOverlay(overlay);
 
-            // The rubber band follows a press and a drag in pixels. It has no colours of its own, so it gets those of
-            // the renderer.
+            // The rubber band follows a press and a drag in pixels. It has no colours of its own, so it gets those
+            // of the renderer.
             rectangle.setFilled(true);
             int width = studio.renderer().getWidth();
             int height = studio.renderer().getHeight();
             band.press(width * 60 / 100, height * 62 / 100);
             band.drag(width * 75 / 100, height * 78 / 100);
             studio.renderer().setScreenOverlay(screen);
-            studio.save("The region by which El Ni\u00f1o is recognised as a translucent rectangle, the warm pool of the "
-                    + "Pacific as an ellipse, the equator as a line, Hawaii as a symbol and Easter Island as a "
-                    + "point. At the lower right a rubber band is being dragged open.");
+            studio.save("The region by which El Ni\u00f1o is recognised as a translucent rectangle, the warm "
+                    + "pool of the Pacific as an ellipse, the equator as a line, Hawaii as a symbol and Easter "
+                    + "Island as a point. At the lower right a rubber band is being dragged open.");
         }
     }
 }

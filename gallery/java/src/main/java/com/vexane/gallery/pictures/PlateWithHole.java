@@ -91,7 +91,8 @@ public final class PlateWithHole implements Picture {
             double[][] values = axis < 2 ? take(principal[axis], chosen) : new double[3][chosen.length];
             group.data(values[0]).data(values[1]).data(values[2]);
             record.role(DataRole.principalLength(axis), array++)
-                    .role(DataRole.principalDirection(axis, 0), array++).role(DataRole.principalDirection(axis, 1), array++);
+                    .role(DataRole.principalDirection(axis, 0), array++)
+                    .role(DataRole.principalDirection(axis, 1), array++);
         }
         return record.addGroup(group).build();
     }
@@ -112,7 +113,7 @@ public final class PlateWithHole implements Picture {
                 PostDataObject stresses = stresses();
                 PostDataObject places = new PostDataBuilder(PlotKind.POINT_LABEL_2D)
                         .addGroup(new PostDataGroup().coordinates(new double[][] {{0, 0.6}, {0.6, 0}})).build()) {
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             plate.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plate.fillPlot(mesh);
             plate.setWireframeColor(0xb0b0b0);

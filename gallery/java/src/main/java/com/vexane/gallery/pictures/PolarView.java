@@ -54,7 +54,7 @@ public final class PolarView implements Picture {
             plot.setColorTable("magma", studio.colors("magma"), true);
             plot.fillPlot(record);
             plot.setLegendLimits(-40, 15);
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             studio.nameAxes("", "Distance in wavelengths");
             studio.axes().setAxisType(AxisSetup.AxisType.POLAR);
             studio.show(plot, "Pressure level in dB").flat();

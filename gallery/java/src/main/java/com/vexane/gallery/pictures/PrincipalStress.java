@@ -55,7 +55,7 @@ public final class PrincipalStress implements Picture {
                 SceneGraphPlotTube3d frame = new SceneGraphPlotTube3d(2);
                 PostDataObject stresses = stresses(CsvFile.read(studio.data("bracket_principal.csv")));
                 PostDataObject edges = edges(PlotFile.read(studio.data("bracket_stress_3d.txt")))) {
-            studio.size(1400, 1000);
+            studio.size(1120, 800);
             plot.setColorTable("principal axes", new double[][] {{0.8, 0.1, 0.1}, {0.2, 0.6, 0.2}, {0.1, 0.3, 0.8}},
                     false);
             plot.setShowLegend(false);

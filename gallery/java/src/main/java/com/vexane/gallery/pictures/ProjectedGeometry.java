@@ -25,8 +25,8 @@ public final class ProjectedGeometry implements Picture {
         try (SceneGraphDrawProj flange = new SceneGraphDrawProj(1); RenderDrawProj2D record = record()) {
             flange.fillObject(record);
             studio.nameAxes("x in mm", "y in mm").show(flange).flat();
-            studio.save("Red are the outline of the flange, its bolt holes and its bore, which the plane cuts; blue are "
-                    + "the hub and the foot behind it.");
+            studio.save("Red are the outline of the flange, its bolt holes and its bore, which the plane cuts; "
+                    + "blue are the hub and the foot behind it.");
         }
     }
 

@@ -31,7 +31,7 @@ public final class SeaTemperature implements Picture {
                         new PostDataBuilder(PlotKind.SURFACE_2D).role(DataRole.COLOR, 0).addGroup(sea).build()) {
             plot.setColorTable("inferno", studio.colors("inferno"), true);
             plot.fillPlot(record);
-            studio.size(1600, 900);
+            studio.size(1200, 675);
             studio.nameAxes("Longitude in degrees", "Latitude in degrees");
             studio.show(plot, "Temperature in \\degree C").flat();
             studio.save("Warm water is bright. A unit has the same length on both axes of a flat view, unless the "

@@ -34,7 +34,7 @@ public final class SeaTemperatureBands implements Picture {
                 PostDataObject record = bands.build()) {
             plot.setColorTable("plasma", studio.colors("plasma"), true);
             plot.fillPlot(record);
-            studio.size(1600, 900);
+            studio.size(1200, 675);
             studio.nameAxes("Longitude in degrees", "Latitude in degrees");
             studio.show(plot, "Temperature in \\degree C").flat();
             plot.setLegendLevels(0, 5, 10, 15, 20, 25, 30);

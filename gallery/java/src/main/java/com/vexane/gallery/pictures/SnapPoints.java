@@ -58,7 +58,8 @@ public final class SnapPoints implements Picture {
         int[] b = {1, 2, 3, 10, 3, 4, 4, 5, 6, 7};
         int[] c = {2, 3, 10, 11, 4, 9, 5, 6, 7, 8};
         return builder
-                .addSheet(new SheetGeometry().coordinates(X, Y).triangles(a, b, c)).sheetToLine(around).buildDraw(1, "Rail");
+                .addSheet(new SheetGeometry().coordinates(X, Y).triangles(a, b, c)).sheetToLine(around)
+                .buildDraw(1, "Rail");
     }
 
     private static String[] textsOf(double[][] points) {

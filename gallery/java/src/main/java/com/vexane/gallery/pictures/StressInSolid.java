@@ -45,8 +45,8 @@ public final class StressInSolid implements Picture {
                     .forEach(face -> solid.markPart(ObjectPartType.SHEET, face, MarkingAction.HIDDEN));
             studio.nameAxes("x in mm", "y in mm", "z in mm");
             studio.show(slices, "Stress \\sigma_{v} in MPa").show(solid).view(-35, 25);
-            studio.save("Coloured sections in the grey back half of the bracket. What is nearer covers what is farther, "
-                    + "whether it belongs to the plot or to the solid.");
+            studio.save("Coloured sections in the grey back half of the bracket. What is nearer covers what is "
+                    + "farther, whether it belongs to the plot or to the solid.");
         }
     }
 

@@ -36,7 +36,7 @@ public final class TerrainColors implements Picture {
                         .build()) {
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(record);
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             studio.nameAxes("x in km", "y in km");
             studio.show(plot, "Height above the mean in m").flat();
             studio.save("As filled: the legend covers the range of the data. Grey, the middle of the table, is not the "

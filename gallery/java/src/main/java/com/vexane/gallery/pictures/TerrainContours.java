@@ -57,7 +57,7 @@ public final class TerrainContours implements Picture {
             contours.setLabels(labels);
             contours.fillPlot(lineRecord);
             contours.setLegendLevels(levels);
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             studio.nameAxes("x in km", "y in km");
             studio.show(contours, "Elevation in m").flat();
             studio.save("Lines in the colours of their levels. The fill chooses a point for each label, far from the "

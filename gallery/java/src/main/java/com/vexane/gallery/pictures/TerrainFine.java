@@ -25,15 +25,15 @@ public final class TerrainFine implements Picture {
             plot.setColorTable("plasma", studio.colors("plasma"), true);
             plot.fillPlot(record);
 
-            // A fill makes the highest point as high as the map is wide. The height scale reduces that until a unit, which
-            // is a kilometre along the map, is 200 m upwards.
+            // A fill makes the highest point as high as the map is wide. The height scale reduces that until a
+            // unit, which is a kilometre along the map, is 200 m upwards.
             double[][] bounds = record.getBounds();
             double width = 0.5 * (bounds[0][1] - bounds[0][0] + bounds[1][1] - bounds[1][0]);
             plot.setHeightScale((float) (record.getDataMax(0)[1] / (200 * width)));
             studio.nameAxes("x in km", "y in km", "z in 200 m");
             studio.show(plot, "Slope, 1 being the steepest").view(-120, 40);
-            studio.save("Flanks are bright and valley floors dark, on a surface that is raised to five times the true "
-                    + "heights.");
+            studio.save("Flanks are bright and valley floors dark, on a surface that is raised to five times the "
+                    + "true heights.");
         }
     }
 }

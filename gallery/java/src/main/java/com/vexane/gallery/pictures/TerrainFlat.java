@@ -23,7 +23,7 @@ public final class TerrainFlat implements Picture {
                 PostDataObject record = studio.read("terrain_2d.txt", PlotKind.SURFACE_2D, Map.of(DataRole.COLOR, 0))) {
             plot.setColorTable("magma", studio.colors("magma"), true);
             plot.fillPlot(record);
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             studio.nameAxes("x in km", "y in km");
             studio.show(plot, "Slope, 1 being the steepest").flat();
             studio.save("Steep slopes are bright, level ground is dark. The reader scales the data of a file to the "

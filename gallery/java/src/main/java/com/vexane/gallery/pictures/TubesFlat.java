@@ -44,23 +44,25 @@ public final class TubesFlat implements Picture {
 
     @Override
     public void draw(Studio studio) throws IOException {
+        // A record without heights makes the plot flat.
         try (SceneGraphPlotTube2d plot = new SceneGraphPlotTube2d(1);
                 PostDataObject flat = modes(false);
                 PostDataObject raised = modes(true)) {
-            studio.size(1400, 900);
+            studio.size(1120, 720);
             plot.setColorTable("coolwarm", studio.colors("coolwarm"), true);
             plot.fillPlot(flat);
             studio.nameAxes("Position in dm", "Number of the mode");
             studio.show(plot, "Deflection in mm").flat();
-            studio.save("Flat bands with round ends: wide and grey at the nodes, narrow and coloured between them.");
+            studio.save("Flat bands with round ends: wide and grey at the nodes, narrow and coloured between "
+                    + "them.");
 
             // The same plot is filled from the other record.
             plot.fillPlot(raised);
             plot.setHeightScale(0.4f);
             studio.nameAxes("Position in dm", "Number of the mode", "Deflection in mm");
             studio.view(-60, 35);
-            studio.save("Each mode raised by its deflection: red tubes run above the plane, blue ones below it, and all "
-                    + "begin and end in it.");
+            studio.save("Each mode raised by its deflection: red tubes run above the plane, blue ones below it, "
+                    + "and all begin and end in it.");
         }
     }
 }

@@ -18,8 +18,8 @@ import com.vexane.producer.PostDataObject;
 import java.io.IOException;
 
 @About(title = "Figures of a report as vectors",
-        text = "A part and a graph as PDF and SVG files: texts and lines are sharp at any size, and texts of a PDF file "
-                + "can be searched and copied.",
+        text = "A part and a graph as PDF and SVG files: texts and lines are sharp at any size, and texts of a "
+                + "PDF file can be searched and copied.",
         section = Section.RECIPES,
         pages = {"common-tasks", "renderer"})
 public final class VectorFigure implements Picture {
@@ -60,9 +60,9 @@ public final class VectorFigure implements Picture {
                     studio.file("The image: at 150 dpi, texts and lines show their pixels when the page is enlarged."),
                     report, pixels(12), pixels(7.5));
 
-            // The suffix of the file chooses the format. What the scene shows of faces is a picture in the page, in the
-            // resolution of the settings; axes, legend and title are vectors over it. Supersampling makes that picture
-            // finer.
+            // The suffix of the file chooses the format. What the scene shows of faces is a picture in the page, in
+            // the resolution of the settings; axes, legend and title are vectors over it. Supersampling makes that
+            // picture finer.
             studio.renderer().setSupersampling(2);
             studio.renderer().writeHardcopy(studio.document(".svg"), report, pixels(12), pixels(7.5));
             studio.renderer().writeHardcopy(studio.document(".pdf"), report, pixels(12), pixels(7.5));

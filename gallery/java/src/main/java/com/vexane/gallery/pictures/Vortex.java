@@ -18,8 +18,8 @@ import java.io.IOException;
 public final class Vortex implements Picture {
     private static final int SIDE = 25;
 
-    // The core has a radius of 1 m. At the distance r in metres the flow goes round at (1 - exp(-r^2)) / r m/s, which is
-    // highest, 0.638 m/s, at r = 1.121 m.
+    // The core has a radius of 1 m. At the distance r in metres the flow goes round at (1 - exp(-r^2)) / r m/s,
+    // which is highest, 0.638 m/s, at r = 1.121 m.
     private static PostDataObject flow() {
         double[][] points = new double[2][SIDE * SIDE];
         double[][] velocity = new double[2][SIDE * SIDE];
@@ -51,11 +51,11 @@ public final class Vortex implements Picture {
             plot.setHeadLength(0.4f);
             plot.fillPlot(record);
             plot.setAnchorPoint(SceneGraphPlotArrow.Anchor.CENTER);
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             studio.nameAxes("x in m", "y in m");
             studio.show(plot, "Speed in m/s").flat();
-            studio.save("The speed is highest on a ring around the core and falls off outwards; in the core there is "
-                    + "hardly any flow.");
+            studio.save("The speed is highest on a ring around the core and falls off outwards; in the core "
+                    + "there is hardly any flow.");
         }
     }
 }

@@ -22,7 +22,7 @@ public final class WindArrows implements Picture {
             plot.setColorTable("plasma", studio.colors("plasma"), true);
             plot.setHeadRadius(0.15f);
             plot.setShaftRadius(0.05f);
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             globe.show(studio);
             studio.show(plot, "Speed of the wind in m/s");
             studio.view(-75, 5);

@@ -18,7 +18,7 @@ public final class WindRibbons implements Picture {
         try (Globe globe = new Globe(studio);
                 PostDataObject record = Globe.streamlines(studio, 0.014);
                 SceneGraphPlotRibbon3d lines = new SceneGraphPlotRibbon3d(2)) {
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             globe.show(studio);
             lines.setColorTable("plasma", studio.colors("plasma"), true);
             lines.fillPlot(record);

@@ -18,7 +18,7 @@ public final class WindTubes implements Picture {
         try (Globe globe = new Globe(studio);
                 PostDataObject record = Globe.streamlines(studio, 0.006);
                 SceneGraphPlotTube3d lines = new SceneGraphPlotTube3d(2)) {
-            studio.size(1200, 1000);
+            studio.size(960, 800);
             globe.show(studio);
             lines.setColorTable("plasma", studio.colors("plasma"), true);
             lines.fillPlot(record);
