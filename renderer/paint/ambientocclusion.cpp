@@ -113,7 +113,7 @@ void main()
 }
 )";
 
-// The mean of four neighbours in one direction, the outer two of five for half.
+// The mean of four neighbours in one direction, and of four such means. The pattern has four pixels in each direction.
 constexpr const char* c_blurMain = R"(
 out vec2 result;
 
@@ -127,10 +127,10 @@ void main()
     vec3 point = pointAt(pixel, result.y);
     vec3 n = texelFetch(normals, pixel, 0).xyz;
     float tolerance = 3.0 * pixelSize * wOf(result.y);
-    float sum = result.x;
-    float weights = 1.0;
+    float sum = 4.0 * result.x;
+    float weights = 4.0;
     ivec2 last = textureSize(found, 0) - 1;
-    for (int i = -2; i <= 2; ++i) {
+    for (int i = -3; i <= 3; ++i) {
         ivec2 other = pixel + i * c_step;
         if (i == 0 || any(lessThan(other, ivec2(0))) || any(greaterThan(other, last))) {
             continue;
@@ -141,7 +141,7 @@ void main()
         }
         // How far it is from the plane of this surface.
         float away = abs(dot(pointAt(other, its.y) - point, n)) / tolerance;
-        float weight = max(1.0 - away, 0.0) * (abs(i) == 2 ? 0.5 : 1.0);
+        float weight = max(1.0 - away, 0.0) * float(4 - abs(i));
         sum += weight * its.x;
         weights += weight;
     }

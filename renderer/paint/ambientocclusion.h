@@ -14,8 +14,8 @@ namespace vxrenderer {
 /// The surfaces are first drawn with their normals and depths, at half the resolution, or less in a very large picture.
 /// Each of these pixels then looks at others around it, and what rises above its surface within a radius hides some of
 /// the light from it. Neighbouring pixels look at different ones, in a pattern of four by four pixels that repeats; two
-/// passes of blurring take the mean of each such square as far as it belongs to one surface. So a picture has no noise
-/// and is the same each time.
+/// passes of blurring take the mean of means of such squares as far as they belong to one surface. So a picture has no
+/// noise and is the same each time.
 class AmbientOcclusion {
 public:
     /// Texture unit of the result.

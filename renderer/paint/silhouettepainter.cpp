@@ -13,7 +13,7 @@ namespace vxrenderer {
 namespace {
 
 /// What counts as a step, in pixels of the scale of the picture at the depth of the sample.
-constexpr float c_leastStep = 4.0f;
+constexpr float c_leastStep = 7.0f;
 
 constexpr const char* c_vertexMain = R"(
 void main()
@@ -53,7 +53,7 @@ float wOf(float depth)
 
 const float c_farSteeper = 3.0;
 
-const float c_fullStep = 4.0;
+const float c_fullStep = 3.0;
 
 // How much of a step there is to one of two opposite neighbours. A line fades where the step gets low.
 float stepAt(float here, float one, float other, float least)

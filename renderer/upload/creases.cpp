@@ -22,9 +22,6 @@ constexpr float c_clear = 1.7f;
 /// The shortest line with ends or without a clear edge, for each unit of the diagonal of a surface.
 constexpr float c_shortestLine = 0.1f;
 
-/// A corner of a triangle, after the site where it is.
-using SiteCorner = std::pair<std::uint32_t, std::uint32_t>;
-
 /// A number that tells vertices apart in sums.
 std::uint64_t scattered(std::uint32_t vertex)
 {
@@ -107,7 +104,7 @@ public:
     }
 
     /// Corners with their sites, in ascending order; only those of sites at which there is something to look for.
-    const std::vector<SiteCorner>& getCorners() const { return m_corners; }
+    const std::vector<std::pair<std::uint32_t, std::uint32_t>>& getCorners() const { return m_corners; }
     std::uint32_t vertexOf(std::uint32_t corner) const { return m_indices[corner]; }
     std::uint32_t siteOf(std::uint32_t corner) const
     {
@@ -198,7 +195,7 @@ private:
     float m_roughCosine;
     std::vector<bool> m_isOpen;
     std::vector<Welded> m_welded;
-    std::vector<SiteCorner> m_corners;
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> m_corners;
 };
 
 /// Takes up the corners of one site after another.
@@ -213,7 +210,7 @@ public:
     {}
 
     /// @param corners with their site
-    void begin(std::span<const SiteCorner> corners)
+    void begin(std::span<const std::pair<std::uint32_t, std::uint32_t>> corners)
     {
         m_site = corners.front().first;
         m_corners.clear();
@@ -222,53 +219,44 @@ public:
             m_corners.push_back(corner);
             m_areas.push_back(m_surface.areaOf(corner));
         }
+        m_fans.reset(m_corners.size());
+    }
+
+    /// Joins the triangles that are smooth at the edge between them, and reports all other edges that lead to higher
+    /// sites, as well as those that are almost as sharp.
+    void joinFans(EdgeLines::Found& edges)
+    {
         m_spokes.clear();
         for (std::uint32_t i = 0; i < m_corners.size(); ++i) {
             m_spokes.emplace_back(m_surface.siteOf(nextCorner(m_corners[i])), i);
             m_spokes.emplace_back(m_surface.siteOf(previousCorner(m_corners[i])), i);
         }
         std::ranges::sort(m_spokes);
-    }
-
-    /// Reports the edges that lead to higher sites and are not smooth.
-    void findEdges(EdgeLines::Found& edges)
-    {
-        forEachSpoke([&](std::uint32_t end, std::span<const Spoke> spokes) {
-            if (m_site >= end) {
-                return;
-            }
-            if (spokes.size() != 2) {
-                edges.clear.emplace_back(m_site, end);
-                return;
-            }
-            const auto isSmooth = [&](float cosine) {
-                return isWithin(cosine, m_areas[spokes[0].second], m_areas[spokes[1].second]);
-            };
-            if (!isSmooth(m_clearCosine)) {
-                edges.clear.emplace_back(m_site, end);
-            } else if (!isSmooth(m_cosine)) {
-                edges.sharp.emplace_back(m_site, end);
-            } else if (!isSmooth(m_bluntCosine)) {
-                edges.blunt.emplace_back(m_site, end);
-            }
-        });
-    }
-
-    /// Joins the triangles on both sides of an edge, unless it is one of the creases. Where more than two triangles
-    /// meet, those are joined that are smooth.
-    /// @param creases that lead away from the site, with their other ends, in ascending order
-    void joinFans(std::span<const EdgeLines::Edge> creases)
-    {
-        m_fans.reset(m_corners.size());
-        forEachSpoke([&](std::uint32_t end, std::span<const Spoke> spokes) {
-            const bool isCrease = std::ranges::binary_search(creases, end, {}, &EdgeLines::Edge::second);
-            for (std::size_t i = 1; i < spokes.size(); ++i) {
-                const auto [a, b] = std::pair(spokes[i - 1].second, spokes[i].second);
-                if (spokes.size() == 2 ? !isCrease : isWithin(m_cosine, m_areas[a], m_areas[b])) {
+        for (std::size_t first = 0, last = 0; first < m_spokes.size(); first = last) {
+            const std::uint32_t end = m_spokes[first].first;
+            bool isSmooth = false;
+            for (last = first + 1; last < m_spokes.size() && m_spokes[last].first == end; ++last) {
+                const auto [a, b] = std::pair(m_spokes[last - 1].second, m_spokes[last].second);
+                isSmooth = isWithin(m_cosine, m_areas[a], m_areas[b]);
+                if (isSmooth) {
                     m_fans.join(a, b);
                 }
             }
-        });
+            if (m_site >= end) {
+                continue;
+            }
+            if (last - first != 2) {
+                edges.clear.emplace_back(m_site, end);
+                continue;
+            }
+            const Vector3f& one = m_areas[m_spokes[first].second];
+            const Vector3f& other = m_areas[m_spokes[first + 1].second];
+            if (!isSmooth) {
+                (isWithin(m_clearCosine, one, other) ? edges.sharp : edges.clear).emplace_back(m_site, end);
+            } else if (!isWithin(m_bluntCosine, one, other)) {
+                edges.blunt.emplace_back(m_site, end);
+            }
+        }
     }
 
     /// Gives a new vertex to each fan of a vertex that belongs to several, and to a vertex of a crease that has the
@@ -303,26 +291,12 @@ public:
     }
 
 private:
-    /// The other end of an edge at the site, and the position of a corner in the list of the site.
-    using Spoke = std::pair<std::uint32_t, std::uint32_t>;
     struct Member {
         std::uint32_t vertex;
         std::uint32_t fan;
         std::uint32_t corner;
         auto operator<=>(const Member&) const = default;
     };
-
-    /// Calls a function with the other end of each edge at the site and what meets there.
-    template <class Take>
-    void forEachSpoke(Take take) const
-    {
-        for (std::size_t first = 0, last = 0; first < m_spokes.size(); first = last) {
-            for (last = first + 1; last < m_spokes.size() && m_spokes[last].first == m_spokes[first].first;) {
-                ++last;
-            }
-            take(m_spokes[first].first, std::span(m_spokes).subspan(first, last - first));
-        }
-    }
 
     const Surface& m_surface;
     float m_cosine;
@@ -332,23 +306,11 @@ private:
     std::vector<std::uint32_t> m_corners;
     std::vector<Vector3f> m_areas;
     Fans m_fans;
-    std::vector<Spoke> m_spokes;
+    /// The other end of an edge at the site, and the position of a corner in the list of the site.
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> m_spokes;
     std::vector<Member> m_members;
     std::vector<Vector3f> m_normals;
 };
-
-/// Calls a function with all corners of each site that is looked at.
-template <class Take>
-void forEachSite(const Surface& surface, Take take)
-{
-    const std::span<const SiteCorner> corners(surface.getCorners());
-    for (std::size_t first = 0, last = 0; first < corners.size(); first = last) {
-        for (last = first + 1; last < corners.size() && corners[last].first == corners[first].first;) {
-            ++last;
-        }
-        take(corners.subspan(first, last - first));
-    }
-}
 
 } // namespace
 
@@ -356,40 +318,28 @@ Creases::Creases(const VertexRecords& records, std::uint32_t numVertices, std::s
 {
     const Surface surface(records, numVertices, indices, angle);
     Finder finder(surface, angle);
-    EdgeLines::Found found;
-    forEachSite(surface, [&](std::span<const SiteCorner> corners) {
-        finder.begin(corners);
-        finder.findEdges(found);
-    });
-    if (found.clear.empty() && found.sharp.empty()) {
-        return;
-    }
-    EdgeLines lines(
-        std::move(found), numVertices, [&records](std::uint32_t vertex) { return records.position(vertex); },
-        c_shortestLine * diagonalOf(records, indices));
-    m_edges = std::move(lines.getEdges());
-    if (!surface.hasNormals()) {
-        return;
-    }
-    std::vector<Edge> creases = lines.getCreases();
-    for (const auto& [from, to] : lines.getCreases()) {
-        creases.emplace_back(to, from);
-    }
-    std::ranges::sort(creases);
     // They take effect at the end: the search needs the indices as they were.
     std::vector<std::pair<std::uint32_t, std::uint32_t>> changes;
-    forEachSite(surface, [&](std::span<const SiteCorner> corners) {
-        const std::uint32_t site = corners.front().first;
-        const auto first = std::ranges::lower_bound(creases, site, {}, &Edge::first);
-        const auto last = std::ranges::upper_bound(creases, site, {}, &Edge::first);
-        if (first != last) {
-            finder.begin(corners);
-            finder.joinFans({first, last});
+    EdgeLines::Found edges;
+    const std::span corners(surface.getCorners());
+    for (std::size_t first = 0, last = 0; first < corners.size(); first = last) {
+        for (last = first + 1; last < corners.size() && corners[last].first == corners[first].first;) {
+            ++last;
+        }
+        finder.begin(corners.subspan(first, last - first));
+        finder.joinFans(edges);
+        if (surface.hasNormals()) {
             finder.split(m_vertices, [&](std::uint32_t corner, std::uint32_t vertex) {
                 changes.emplace_back(corner, numVertices + vertex);
             });
         }
-    });
+    }
+    if (!edges.clear.empty() || !edges.sharp.empty()) {
+        EdgeLines lines(
+            std::move(edges), numVertices, [&records](std::uint32_t vertex) { return records.position(vertex); },
+            c_shortestLine * diagonalOf(records, indices));
+        m_edges = std::move(lines.getEdges());
+    }
     for (const auto& [corner, vertex] : changes) {
         indices[corner] = vertex;
     }

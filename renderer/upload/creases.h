@@ -19,9 +19,6 @@ class VertexRecords;
 /// and each fan has the sum of the normals of its triangles, weighted by their areas. A vertex that belongs to one fan
 /// keeps the normal that it has, unless that is not the normal of this fan at all. Vertices at one position belong
 /// together where they are on a border, since parts of a surface often have vertices of their own.
-///
-/// Edges that are put together to lines by `EdgeLines` are creases. A rounding of large triangles has sharp edges here
-/// and there: were they creases, it would look crumpled.
 class Creases {
 public:
     /// A vertex of one fan: a copy of another vertex with another normal.
@@ -38,7 +35,8 @@ public:
 
     /// The new vertices, which are numbered on from the others.
     const std::vector<Vertex>& getVertices() const { return m_vertices; }
-    /// The edges to be shown of creases, of borders, and those that more than two triangles meet at, each once.
+    /// The edges of creases, of borders, and those that more than two triangles meet at, each once. They are completed
+    /// and sorted out as `EdgeLines` does.
     const std::vector<Edge>& getEdges() const { return m_edges; }
 
 private:

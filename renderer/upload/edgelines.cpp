@@ -177,12 +177,12 @@ void dropShort(std::vector<Edge>& edges, std::size_t numClear, std::span<const V
 } // namespace
 
 EdgeLines::EdgeLines(Found found, std::size_t numVertices, const PositionOf& positionOf, float leastLength)
-    : m_creases(std::move(found.clear))
+    : m_edges(std::move(found.clear))
 {
-    const std::size_t numClear = m_creases.size();
-    m_creases.insert(m_creases.end(), found.sharp.begin(), found.sharp.end());
+    const std::size_t numClear = m_edges.size();
+    m_edges.insert(m_edges.end(), found.sharp.begin(), found.sharp.end());
     VertexNumbers numbers(numVertices);
-    for (std::vector<Edge>* edges : {&m_creases, &found.blunt}) {
+    for (std::vector<Edge>* edges : {&m_edges, &found.blunt}) {
         for (auto& [from, to] : *edges) {
             from = numbers.of(from);
             to = numbers.of(to);
@@ -193,14 +193,11 @@ EdgeLines::EdgeLines(Found found, std::size_t numVertices, const PositionOf& pos
     for (const std::uint32_t vertex : numbers.getVertices()) {
         positions.push_back(positionOf(vertex));
     }
-    Gaps(m_creases, found.blunt, positions).close();
-    trimEnds(m_creases, numClear, positions.size());
-    m_edges = m_creases;
+    Gaps(m_edges, found.blunt, positions).close();
+    trimEnds(m_edges, numClear, positions.size());
     dropShort(m_edges, numClear, positions, leastLength);
-    for (std::vector<Edge>* edges : {&m_creases, &m_edges}) {
-        for (auto& [from, to] : *edges) {
-            std::tie(from, to) = std::minmax(numbers.getVertices()[from], numbers.getVertices()[to]);
-        }
+    for (auto& [from, to] : m_edges) {
+        std::tie(from, to) = std::minmax(numbers.getVertices()[from], numbers.getVertices()[to]);
     }
 }
 

@@ -10,7 +10,7 @@
 
 namespace vxrenderer {
 
-/// Edges of a surface put together to lines that one likes to see.
+/// Sharp edges of a surface put together to lines, without those that distract.
 ///
 /// Along a rounding the angle between triangles varies from one to the next, so that a line of sharp edges has gaps. A
 /// gap is closed where edges that are almost as sharp lead straight from the end of a line to another line. Where a
@@ -35,14 +35,11 @@ public:
     /// @param leastLength of a line with ends, or without a clear edge
     EdgeLines(Found found, std::size_t numVertices, const PositionOf& positionOf, float leastLength);
 
-    /// The edges of all lines: first those that are clear, then those that are sharp, in their order, and those that
+    /// The edges that are left: first those that are clear, then those that are sharp, in their order, and those that
     /// close gaps.
-    const std::vector<Edge>& getCreases() const { return m_creases; }
-    /// Those to be shown: the same without short lines.
     std::vector<Edge>& getEdges() { return m_edges; }
 
 private:
-    std::vector<Edge> m_creases;
     std::vector<Edge> m_edges;
 };
 

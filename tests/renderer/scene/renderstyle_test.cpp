@@ -217,6 +217,33 @@ TEST_F(RenderStyleTest, theEdgesOfALineMeetWithoutAGap)
     }
 }
 
+TEST_F(RenderStyleTest, aLowStepHasNoSilhouetteAndAHighOneADarkOne)
+{
+    const RenderStyle style = {.creaseAngle = RenderStyle::c_widestAngle, .showFeatureEdges = true};
+    const auto plot = add(1, cube());
+    lookFrom(m_canvas, -90.0, 90.0);
+    const auto step = [&](float height) {
+        const std::vector<Vector3f> points = {{-1.0f, -1.0f, 0.0f},  {-1.0f, 1.0f, 0.0f},   {0.0f, -1.0f, 0.0f},
+                                              {0.0f, 1.0f, 0.0f},    {0.0f, -1.0f, height}, {0.0f, 1.0f, height},
+                                              {1.0f, -1.0f, height}, {1.0f, 1.0f, height}};
+        plot->fillPlot(bodyOf(points, {{0, 2, 3}, {0, 3, 1}, {2, 4, 5}, {2, 5, 3}, {4, 6, 7}, {4, 7, 5}}));
+        const Picture bare = pictureIn({.creaseAngle = RenderStyle::c_widestAngle});
+        const Picture picture = pictureIn(style);
+        float darkest = 1.0f;
+        for (float x = -0.05f; x < 0.05f; x += 0.005f) {
+            const Vector3f point(x, 0.0f, height);
+            darkest = std::min(darkest, static_cast<float>(brightness(at(picture, point))) /
+                                            static_cast<float>(brightness(at(bare, point))));
+        }
+        return darkest;
+    };
+    pictureIn(style);
+    const auto pixel =
+        static_cast<float>(1.0 / (pixelOf(m_canvas, {1.0f, 0.0f, 0.0f})[0] - pixelOf(m_canvas, {0.0f, 0.0f, 0.0f})[0]));
+    EXPECT_GT(step(3.0f * pixel), 0.98f);
+    EXPECT_LT(step(20.0f * pixel), 0.7f);
+}
+
 TEST_F(RenderStyleTest, silhouettesFollowTheOutlineInFrontOfOtherBodiesAndNothingInside)
 {
     add(1, globe(20));
@@ -295,6 +322,30 @@ TEST_F(RenderStyleTest, ambientLightIsWeakerInAnInnerCornerAndTheSameOnAFlatPlat
     // What is drawn is drawn in the same pixels as with plain light: the background around it is not touched.
     const Picture plain = pictureIn(c_plain);
     EXPECT_EQ(corner.countDrawn(0, 0, c_size, c_size), plain.countDrawn(0, 0, c_size, c_size));
+}
+
+TEST_F(RenderStyleTest, theShadeInFrontOfSomethingSmallHasNoPattern)
+{
+    m_canvas.resize(800, 800);
+    m_scene.addSquare(1, 0xc0c0c0);
+    add(2, bodyOf({{0.48f, 0.5f, 0.0f}, {0.52f, 0.5f, 0.0f}, {0.52f, 0.5f, 0.04f}, {0.48f, 0.5f, 0.04f}},
+                  {{0, 1, 2}, {0, 2, 3}}));
+    lookFrom(m_canvas, -90.0, 45.0);
+    const Picture picture = pictureIn(c_studio);
+    const auto [x0, y0] = pixelOf(m_canvas, {0.5f, 0.5f, 0.0f});
+    // Shade that changes evenly has small second differences.
+    int roughest = 0;
+    int darkest = 255;
+    for (int y = static_cast<int>(y0) + 8; y < static_cast<int>(y0) + 40; ++y) {
+        for (int x = static_cast<int>(x0) - 40; x < static_cast<int>(x0) + 40; ++x) {
+            const int here = brightness(picture.at(x, y));
+            roughest = std::max(
+                roughest, std::abs(brightness(picture.at(x - 4, y)) - 2 * here + brightness(picture.at(x + 4, y))));
+            darkest = std::min(darkest, here);
+        }
+    }
+    EXPECT_LE(roughest, 4);
+    EXPECT_LT(darkest, 190);
 }
 
 TEST_F(RenderStyleTest, studioLightKeepsHueAndSaturationWherePlainLightClips)

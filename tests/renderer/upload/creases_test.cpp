@@ -128,7 +128,7 @@ TEST(Creases, aVertexBelongsToAsManyFansAsSmoothPiecesMeetThere)
     EXPECT_GT(slope.x, 0.0f);
 }
 
-TEST(Creases, aRidgeThatEndsOnASurfaceIsRound)
+TEST(Creases, aRidgeThatEndsOnASurfaceHasTwoSidesButNoLine)
 {
     // It starts at a border, falls off at 1 and ends in a plane at 2. Its sides meet at 44 and 41 degrees.
     Surface tail({{0.0f, 0.0f, 10.4f},
@@ -141,11 +141,13 @@ TEST(Creases, aRidgeThatEndsOnASurfaceIsRound)
                   {1.0f, -1.0f, 10.0f},
                   {3.0f, -1.0f, 10.0f}},
                  {0, 1, 4, 0, 4, 3, 1, 2, 4, 2, 5, 4, 2, 8, 5, 2, 7, 8, 1, 7, 2, 0, 6, 7, 0, 7, 1});
-    const std::vector<std::uint32_t> before = tail.indices;
     const Creases creases = tail.creases();
     EXPECT_EQ(creases.getEdges().size(), 7u) << "the borders";
-    EXPECT_TRUE(creases.getVertices().empty());
-    EXPECT_EQ(tail.indices, before);
+    std::vector<std::uint32_t> split;
+    for (const Creases::Vertex& vertex : creases.getVertices()) {
+        split.push_back(vertex.source);
+    }
+    EXPECT_EQ(split, (std::vector<std::uint32_t>{0, 0, 1, 1}));
 }
 
 TEST(Creases, withTheWidestAngleOnlyBordersAreLeft)

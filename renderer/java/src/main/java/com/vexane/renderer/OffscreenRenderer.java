@@ -195,9 +195,8 @@ public final class OffscreenRenderer extends NativePeer {
 
     /**
      * Sets from which angle on two faces of a body meet in a sharp edge, at first 35 degrees. Each side of such an edge is
-     * shaded with its own normals, also where the data have one normal per point. Edges of up to 1.7 times the angle whose
-     * line ends on a smooth surface count as smooth: a rounding of large triangles has such edges. Surfaces in the plane,
-     * which are raised by heights, have no sharp edges. Another angle lets the next picture upload the bodies again.
+     * shaded with its own normals, also where the data have one normal per point. Surfaces in the plane, which are raised
+     * by heights, have no sharp edges. Another angle lets the next picture upload the bodies again.
      *
      * @param degrees the angle between the normals of the faces, 0 to 180; with 180 there are no sharp edges
      * @throws IllegalArgumentException if it is outside of that range or not a number
