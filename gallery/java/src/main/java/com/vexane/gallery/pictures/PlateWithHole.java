@@ -122,7 +122,7 @@ public final class PlateWithHole implements Picture {
             arrows.fillPlot(stresses);
             arrows.setCommonArrowScale(0.8f);
             labels.fillPlot(places);
-            labels.setLabels("3", "-1");
+            labels.setLabels("3", "\u22121");
             labels.setColor(0x202020);
             studio.nameAxes("x in radii of the hole", "y in radii of the hole");
             studio.show(plate, "Stress around the hole, 1 being that of the plate").show(arrows, "").show(labels, "");
