@@ -12,6 +12,8 @@ namespace {
 
 /// Free space between two labels side by side, in units of the font size. Lines above each other may touch.
 constexpr float c_labelGap = 0.3f;
+/// In pixels: labels that are laid out at that distance may be a little closer.
+constexpr float c_rounding = 0.01f;
 
 } // namespace
 
@@ -38,7 +40,7 @@ bool LabelPlacer::place(const AxisLabel& label)
     if (label.markup.empty() || !std::isfinite(rect.left) || !std::isfinite(rect.top)) {
         return false;
     }
-    const float gap = c_labelGap * m_metrics.ticks.fontSize();
+    const float gap = c_labelGap * m_metrics.ticks.fontSize() - c_rounding;
     const bool isFree = std::none_of(m_rects.begin(), m_rects.end(), [&](const LabelRect& other) {
         return rect.left < other.right + gap && other.left < rect.right + gap && rect.top < other.bottom &&
                other.top < rect.bottom;

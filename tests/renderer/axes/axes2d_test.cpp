@@ -238,6 +238,30 @@ TEST_F(Axes2d, theNumbersAtTheLeftTakeWhatTheyNeed)
     EXPECT_EQ(gapOf(2.0f, 9.0f), narrow);
 }
 
+/// Characters of sizes that no pixels have.
+struct NarrowMetrics : TextMetrics {
+    float size = 13.0f;
+
+    float fontSize() const override { return size; }
+    float advance(char32_t, const TextStyle&) override { return 0.61f * size; }
+    float kerning(char32_t, char32_t, const TextStyle&) override { return 0.0f; }
+    float ascent(const TextStyle&) override { return 0.93f * size; }
+    float descent(const TextStyle&) override { return 0.24f * size; }
+};
+
+TEST_F(Axes2d, theNumberNextToTheTitleIsShownWhereverTheAxesAre)
+{
+    setup.setYAxisTitle("U");
+    NarrowMetrics narrow;
+    for (area.x = 100; area.x < 160; ++area.x) {
+        for (narrow.size = 11.0f; narrow.size < 21.0f; narrow.size += 1.3f) {
+            show(0.0f, 10.0f, 10.0f, 30.0f);
+            const Axes2dLayout layout = layoutAxes2d(input(), area, narrow);
+            EXPECT_NE(textOf(layout, false).find(" 20 "), std::string::npos) << area.x << ", " << narrow.size;
+        }
+    }
+}
+
 TEST_F(Axes2d, anglesRunInStepsOf15To45Degrees)
 {
     setup.setAxisType(AxisSetup::AxisPolar);

@@ -58,7 +58,8 @@ public final class TerrainColors implements Picture {
             // whole ones.
             plot.setReverseColorTable(false);
             plot.setValueRestrictions(0, plot.getValueMax());
-            studio.save("Restricted to values above the mean: the border follows the level exactly.");
+            studio.save("Restricted to values above the mean: the border follows the level exactly. What is hidden is "
+                    + "empty in the legend, also the triangle for values beyond its lower end.");
         }
     }
 }
