@@ -47,9 +47,9 @@ void fillWith(_cairo& context, const PatternPointer& pattern, const Color& color
 }
 
 // Unit vectors: towards the light, the same as it is seen, and at right angles to both.
-const Vector3f c_light = Vector3f(-0.38, 0.54, 0.75).normalized();
-const Vector3f c_seenLight = Vector3f(-0.38, 0.54, 0.0).normalized();
-const Vector3f c_aside = Vector3f(0.54, 0.38, 0.0).normalized();
+const Vector3f c_light = c_signLight.normalized();
+const Vector3f c_seenLight = Vector3f(c_signLight.x, c_signLight.y, 0.0f).normalized();
+const Vector3f c_aside(c_seenLight.y, -c_seenLight.x, 0.0f);
 
 void drawBall(_cairo& context, const Solid& ball)
 {

@@ -60,8 +60,8 @@ constexpr int c_rings = 12;
 
 vxgraphics3d::Color litColor(const vxgraphics3d::Color& color, const Vector3f& normal)
 {
-    // As in the shader.
-    const float lit = 0.45f + 0.55f * std::max(normal.dot(Vector3f(-0.38f, 0.54f, 0.75f)), 0.0f);
+    // As in the shader, which repeats the light.
+    const float lit = 0.45f + 0.55f * std::max(normal.dot(c_signLight), 0.0f);
     const float shine = 0.35f * std::pow(std::max(normal.dot(Vector3f(-0.203f, 0.289f, 0.936f)), 0.0f), 24.0f);
     const auto channel = [&](int own) {
         return std::clamp(static_cast<int>(std::lround(std::lerp(static_cast<float>(own) * lit, 255.0f, shine))), 0,

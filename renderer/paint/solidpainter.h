@@ -25,6 +25,9 @@ struct Solid {
     vxgraphics3d::Color color;
 };
 
+/// Where the light of signs comes from, with a length of almost 1: the upper left of the viewer.
+inline const vxgraphics3d::Vector3f c_signLight{-0.38f, 0.54f, 0.75f};
+
 /// The colour of a body in the light of signs, where its surface has a direction.
 /// @param normal of length 1
 vxgraphics3d::Color litColor(const vxgraphics3d::Color& color, const vxgraphics3d::Vector3f& normal);
