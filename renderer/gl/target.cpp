@@ -81,9 +81,11 @@ Target::Target(int width, int height, int samples) : m_width(width), m_height(he
     glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, m_sceneColor.name());
     requireComplete("colours of the scene buffer");
 
-    glBindFramebuffer(GL_FRAMEBUFFER, m_plain.name());
-    attach(m_plainColor, GL_COLOR_ATTACHMENT0, GL_RGBA8, 1, width, height);
-    requireComplete("image buffer");
+    if (m_samples > 1) {
+        glBindFramebuffer(GL_FRAMEBUFFER, m_plain.name());
+        attach(m_plainColor, GL_COLOR_ATTACHMENT0, GL_RGBA8, 1, width, height);
+        requireComplete("image buffer");
+    }
     if (glGetError() == GL_OUT_OF_MEMORY) {
         throw std::runtime_error("The driver has no memory for a picture of this size.");
     }
@@ -112,16 +114,18 @@ void Target::beginScene() const
 void Target::beginOverlay() const
 {
     glDisable(GL_SCISSOR_TEST);
-    glBindFramebuffer(GL_READ_FRAMEBUFFER, m_scene.name());
-    glBindFramebuffer(GL_DRAW_FRAMEBUFFER, m_plain.name());
-    glBlitFramebuffer(0, 0, m_width, m_height, 0, 0, m_width, m_height, GL_COLOR_BUFFER_BIT, GL_NEAREST);
-    glBindFramebuffer(GL_FRAMEBUFFER, m_plain.name());
+    if (m_samples > 1) {
+        glBindFramebuffer(GL_READ_FRAMEBUFFER, m_scene.name());
+        glBindFramebuffer(GL_DRAW_FRAMEBUFFER, m_plain.name());
+        glBlitFramebuffer(0, 0, m_width, m_height, 0, 0, m_width, m_height, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    }
+    glBindFramebuffer(GL_FRAMEBUFFER, picture().name());
     glViewport(0, 0, m_width, m_height);
 }
 
 void Target::read(std::uint8_t* pixels) const
 {
-    glBindFramebuffer(GL_READ_FRAMEBUFFER, m_plain.name());
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, picture().name());
     glPixelStorei(GL_PACK_ALIGNMENT, 1);
     glReadPixels(0, 0, m_width, m_height, GL_RGBA, GL_UNSIGNED_BYTE, pixels);
 

@@ -6,8 +6,8 @@
 
 namespace vxrenderer {
 
-/// The buffers that a picture is drawn into: one with several samples per pixel for the scene, and a plain one that the
-/// scene is resolved to and that text and legends are drawn over.
+/// The buffers that a picture is drawn into: one for the scene and, if that has several samples per pixel, a plain one
+/// that it is resolved to. Text and legends are drawn over the plain one.
 class Target {
 public:
     /// The most pixels that a picture may have; with more, the buffers would use up the memory of the process.
@@ -32,13 +32,16 @@ public:
     void bindSceneColors() const;
     /// The depths of the scene: a texture with as many samples as the scene, of one sample an ordinary one.
     const GlTexture& getDepths() const { return m_sceneDepth; }
-    /// Brings the scene into the plain buffer and lets what follows draw over it.
+    /// Resolves the scene and lets what follows draw over it, without a depth test.
     void beginOverlay() const;
-    /// Copies the plain buffer out: four bytes per pixel, red first, the top row first.
+    /// Copies the picture out: four bytes per pixel, red first, the top row first.
     /// @param pixels space for 4 * width * height bytes
     void read(std::uint8_t* pixels) const;
 
 private:
+    /// The colours that text is drawn over.
+    const GlFramebuffer& picture() const { return m_samples > 1 ? m_plain : m_sceneColors; }
+
     int m_width;
     int m_height;
     int m_samples;
@@ -46,6 +49,7 @@ private:
     GlRenderbuffer m_sceneColor;
     GlTexture m_sceneDepth;
     GlFramebuffer m_sceneColors;
+    /// Of a scene with several samples.
     GlFramebuffer m_plain;
     GlRenderbuffer m_plainColor;
 };

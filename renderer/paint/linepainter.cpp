@@ -201,6 +201,12 @@ flat in vec3 partColor;
 #define materialColor(u) partColor
 )";
 
+// Without textures, which would be read in each pixel whether a material has a table or not.
+constexpr const char* c_oneColor = R"(
+#define materialColor(u) uniformColor.rgb
+#define isHidden(u) false
+)";
+
 constexpr const char* c_coverage = R"(
 centroid in float u;
 noperspective in vec2 local;
@@ -289,6 +295,17 @@ void main()
 }
 )";
 
+std::string linesVertexSource()
+{
+    return std::string(c_vertexInputs) + c_linesStart + c_vertexMain;
+}
+
+/// @param colors how lines get their colours, if not by their data
+std::string linesFragmentSource(FragmentOutput output, const char* colors)
+{
+    return withOutput(output, std::string(Material::c_source) + colors + c_coverage + c_fragmentMain);
+}
+
 /// From the middle of a pixel to where a line begins to touch it, and to its farthest sample from there.
 constexpr float c_fringe = 0.5f;
 constexpr float c_sampledFringe = 1.25f;
@@ -335,23 +352,24 @@ struct LinePainter::LineBlock {
 };
 
 LinePainter::Programs::Programs(FragmentOutput output)
-    : lines("lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
-            withOutput(output, std::string(Material::c_source) + c_coverage + c_fragmentMain).c_str()),
+    : dataLines("lines", linesVertexSource().c_str(), linesFragmentSource(output, "").c_str()),
+      plainLines("lines of one color", linesVertexSource().c_str(), linesFragmentSource(output, c_oneColor).c_str()),
       parts("the lines of objects",
             (layersDefinition(output) + c_renamed + c_vertexInputs + c_namedAgain + PartRows::c_source + c_partsStart +
              c_vertexMain)
                 .c_str(),
-            withOutput(output, std::string(Material::c_source) + c_partColor + c_coverage + c_fragmentMain).c_str())
+            linesFragmentSource(output, c_partColor).c_str())
 {
     if (output == FragmentOutput::layers) {
-        attachLayers(lines);
+        attachLayers(dataLines);
+        attachLayers(plainLines);
         attachLayers(parts);
     }
 }
 
 void LinePainter::attach(const Programs& programs) const
 {
-    for (const GlProgram* program : {&programs.lines, &programs.parts}) {
+    for (const GlProgram* program : {&programs.dataLines, &programs.plainLines, &programs.parts}) {
         m_line.attach(*program);
         m_material.attach(*program);
     }
@@ -373,7 +391,7 @@ void LinePainter::setOutput(FragmentOutput output, int numSamples)
 
 LinePainter::LinePainter()
     : m_shadedProgram(
-          "shaded lines", (std::string(c_vertexInputs) + c_linesStart + c_vertexMain).c_str(),
+          "shaded lines", linesVertexSource().c_str(),
           withOutput(FragmentOutput::picture, std::string(Material::c_source) + c_coverage + c_shadedMain).c_str())
 {
     attach(m_programs);
@@ -408,7 +426,7 @@ void LinePainter::setUp(const GlProgram& program, const Frame& frame, const Mate
 void LinePainter::draw(std::span<const LineSegment> lines, const Frame& frame, const vxgraphics3d::Color& color) const
 {
     const Material material = Material::of(color);
-    setUp(programs().lines, frame, material, !material.isTranslucent());
+    setUp(programs().plainLines, frame, material, !material.isTranslucent());
     drawPieces(lines);
 }
 
@@ -440,7 +458,8 @@ void LinePainter::drawPieces(std::span<const LineSegment> lines) const
 
 void LinePainter::draw(const LineMesh& lines, const Frame& frame, const Material& material) const
 {
-    setUp(programs().lines, frame, material, !material.isTranslucent());
+    const bool isPlain = material.hasTable == 0 && !material.isRestricted();
+    setUp(isPlain ? programs().plainLines : programs().dataLines, frame, material, !material.isTranslucent());
     const Blending blending(m_output);
     lines.draw();
 }

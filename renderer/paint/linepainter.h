@@ -69,7 +69,8 @@ private:
     struct Programs {
         explicit Programs(FragmentOutput output);
 
-        GlProgram lines;
+        GlProgram dataLines;
+        GlProgram plainLines;
         GlProgram parts;
     };
 

@@ -21,15 +21,23 @@ bool isHidden(float u)
     return u < restriction.x || u > restriction.y;
 }
 
-vec3 materialColor(float u)
+vec4 tableTexel(float u)
 {
-    if (!hasTable) {
-        return uniformColor.rgb;
-    }
     float l = mix(dataTex.x, dataTex.y, u);
     float t = mix(legendTex.x, legendTex.y, clamp(l, 0.0, 1.0));
     t = isReversed ? 1.0 - t : t;
-    return texelFetch(colorTable, clamp(int(t * float(c_tableSize)), 0, c_tableSize - 1), 0).rgb;
+    return texelFetch(colorTable, clamp(int(t * float(c_tableSize)), 0, c_tableSize - 1), 0);
+}
+
+vec3 materialColor(float u)
+{
+    return hasTable ? tableTexel(u).rgb : uniformColor.rgb;
+}
+
+// By how many texels of the table values differ at most.
+float inTexels(float difference)
+{
+    return abs(difference * (dataTex.y - dataTex.x) * (legendTex.y - legendTex.x)) * float(c_tableSize);
 }
 )";
 

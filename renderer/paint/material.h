@@ -22,7 +22,8 @@ std::array<float, 4> channelsOf(const vxgraphics3d::Color& color);
 struct Material {
     static constexpr const char* c_block = "Material";
     static constexpr GLuint c_binding = 2;
-    /// The block, with `bool isHidden(float u)` and `vec3 materialColor(float u)`, for fragment shaders.
+    /// The block, with `bool isHidden(float u)` and `vec3 materialColor(float u)`, for fragment shaders. Those that are
+    /// only for materials with a table use `vec4 tableTexel(float u)` instead, see `ColorTextures` for the alpha.
     static const char* const c_source;
 
     /// Channels from 0 to 1. Alpha is the opacity, also of colours of a table.

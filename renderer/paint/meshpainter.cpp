@@ -257,8 +257,9 @@ void MeshPainter::draw(const Mesh& mesh, const PartLook& parts, const Matrixf& t
 void MeshPainter::takeEdges(MeshShader& shader, const Material& material) const
 {
     const bool hasSteps = material.hasTable != 0 && material.hasSteps != 0;
-    const bool hasEdges = shader.shape == MeshShader::Shape::triangles && !shader.hasParts && !shader.isShape &&
-                          (shader.isRestricted || hasSteps);
+    const bool isPlain = shader.shape == MeshShader::Shape::triangles && !shader.hasParts && !shader.isShape;
+    shader.hasTable = isPlain && material.hasTable != 0;
+    const bool hasEdges = isPlain && (shader.isRestricted || hasSteps);
     if (hasEdges && m_numSamples > 1 && m_numSamples <= SampledEdges::c_mostSamples) {
         shader.numSamples = m_numSamples;
         shader.hasSteps = hasSteps;

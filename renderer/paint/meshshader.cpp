@@ -211,7 +211,7 @@ vec3 lit(vec3 color, vec3 n, vec3 point)
 constexpr const char* c_dataColor = R"(
 vec3 surfaceColor(float u)
 {
-    return materialColor(u);
+    return c_hasTable ? tableTexel(u).rgb : uniformColor.rgb;
 }
 )";
 
@@ -260,43 +260,51 @@ vec3 seenNormal()
 #ifdef SAMPLED
 in float middleU;
 
-// Hides the samples of the pixel whose values are.
+// Hides the samples of the pixel whose values are. A shader that writes a mask, or discards, keeps the driver from
+// testing depths before it runs.
 void hideSamples()
 {
+#ifdef RESTRICTED
 #ifdef GL_ARB_sample_shading
     int shown = 0;
     for (int i = 0; i < c_numSamples; ++i) {
         shown |= isHidden(atSample(middleU, i)) ? 0 : 1 << i;
     }
-    gl_SampleMask[0] = c_isRestricted ? shown : ~0;
+    gl_SampleMask[0] = shown;
     bool isShown = shown != 0;
 #else
     bool isShown = !isHidden(u);
 #endif
-    if (c_isRestricted && !isShown) {
+    if (!isShown) {
         discard;
     }
+#endif
 }
 
 // The mean of the samples that the triangle covers: others may have values that it does not have. What a restriction
-// hides has no part in it.
+// hides has no part in it. Pixels without a jump have the colour of their middle.
 vec3 sampledColor()
 {
     vec2 range = clamp(restriction, 0.0, 1.0);
+    float ownU = c_isRestricted ? clamp(u, range.x, range.y) : u;
     if (!c_hasSteps) {
-        return surfaceColor(c_isRestricted ? clamp(u, range.x, range.y) : u);
+        return surfaceColor(ownU);
     }
 #ifdef GL_ARB_gpu_shader5
     int covered = gl_SampleMaskIn[0];
 #else
     int covered = ~0;
 #endif
+    vec4 texel = tableTexel(ownU);
+    // Samples and the value at `centroid` are at most half a pixel from the middle in each direction.
+    bool isJumpFar = inTexels(fwidth(middleU)) < floor(255.0 * texel.a + 0.5);
+    int count = isJumpFar ? 0 : c_numSamples;
     vec4 sum = vec4(0.0);
-    for (int i = 0; i < c_numSamples; ++i) {
-        vec4 color = vec4(surfaceColor(clamp(atSample(middleU, i), range.x, range.y)), 1.0);
+    for (int i = 0; i < count; ++i) {
+        vec4 color = vec4(tableTexel(clamp(atSample(middleU, i), range.x, range.y)).rgb, 1.0);
         sum += (covered >> i & 1) != 0 ? color : vec4(0.0);
     }
-    return sum.rgb / max(sum.a, 1.0);
+    return isJumpFar ? texel.rgb : sum.rgb / max(sum.a, 1.0);
 }
 #else
 void hideSamples()
@@ -369,7 +377,8 @@ std::string MeshShader::lightSource() const
 std::string MeshShader::sampledSource() const
 {
     return numSamples == 1 ? ""
-                           : "#define SAMPLED\nconst int c_numSamples = " + std::to_string(numSamples) + ";\n" +
+                           : std::string(isRestricted ? "#define RESTRICTED\n" : "") +
+                                 "#define SAMPLED\nconst int c_numSamples = " + std::to_string(numSamples) + ";\n" +
                                  constant("hasSteps", hasSteps) + SampledEdges::c_source;
 }
 
@@ -380,8 +389,8 @@ std::string MeshShader::fragmentSource() const
         (numSamples == 1 ? "" : "#extension GL_ARB_gpu_shader5 : enable\n") + constant("isRestricted", isRestricted) +
         constant("isLit", isLit) + constant("lacksNormals", lacksNormals) + constant("hasPositions", hasPositions) +
         constant("hasCones", hasCones) + constant("hasHighlights", hasHighlights) + constant("isTextured", isTextured) +
-        "const int c_numLights = " + std::to_string(numLights) + ";\n" + shapeConstants() + c_viewBlock +
-        Material::c_source + lightSource() + sampledSource() + mainOfFragments();
+        constant("hasTable", hasTable) + "const int c_numLights = " + std::to_string(numLights) + ";\n" +
+        shapeConstants() + c_viewBlock + Material::c_source + lightSource() + sampledSource() + mainOfFragments();
     return withOutput(output, source, shape != Shape::triangles);
 }
 

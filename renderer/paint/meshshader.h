@@ -46,7 +46,9 @@ struct MeshShader {
     bool hasHighlights = false;
     /// Samples of a pixel of which some may be hidden, or have another colour of a table that jumps; 1 for none.
     int numSamples = 1;
-    /// Whether the colours are those of a table that jumps.
+    /// Whether the colours are those of a table.
+    bool hasTable = false;
+    /// Whether the table jumps.
     bool hasSteps = false;
     /// Where the colours go.
     FragmentOutput output = FragmentOutput::picture;

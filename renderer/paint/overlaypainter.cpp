@@ -16,41 +16,40 @@ using vxgraphics3d::Color;
 
 constexpr const char* c_block = R"(
 layout(std140) uniform Overlay {
-    vec4 color;
     vec2 pictureSize;
-    int mode;
     float depth;
+    int numSides;
     // Normals and distances of the sides of a polygon, positive within it.
     vec4 sides[6];
-    int numSides;
 };
 )";
 
 constexpr const char* c_vertexMain = R"(
 layout(location = 0) in vec2 position;
 layout(location = 1) in vec2 texturePlace;
+layout(location = 2) in vec4 color;
 out vec2 place;
 out vec2 pixel;
+flat out vec4 ownColor;
 
 void main()
 {
     place = texturePlace;
     pixel = position;
+    ownColor = color;
     gl_Position = vec4(position.x / pictureSize.x * 2.0 - 1.0, 1.0 - position.y / pictureSize.y * 2.0, depth, 1.0);
 }
 )";
 
-constexpr const char* c_fragmentMain = R"(
-const int c_tableSize = 1024;
-
-uniform sampler1D colorTable;
-uniform sampler2D glyphs;
-// With colours multiplied by alpha.
-uniform sampler2D image;
+// Each kind of picture has a shader of its own: one for all would read all textures in each pixel.
+constexpr const char* c_inputs = R"(
 in vec2 place;
 in vec2 pixel;
+flat in vec4 ownColor;
 out vec4 result;
+)";
 
+constexpr const char* c_covered = R"(
 // How much of the pixel lies within the polygon, if there is one.
 float covered()
 {
@@ -60,45 +59,55 @@ float covered()
     }
     return max(part, 0.0);
 }
+)";
 
+constexpr const char* c_plainMain = R"(
 void main()
 {
-    if (mode == 0) {
-        result = color;
-    } else if (mode == 1) {
-        int texel = clamp(int(place.y * float(c_tableSize)), 0, c_tableSize - 1);
-        result = vec4(texelFetch(colorTable, texel, 0).rgb, 1.0);
-    } else if (mode == 2) {
-        result = vec4(color.rgb, color.a * texelFetch(glyphs, ivec2(place), 0).r);
-    } else {
-        vec4 texel = texture(image, place);
-        result = vec4(texel.rgb / max(texel.a, 1.0 / 255.0), texel.a);
-    }
-    result.a *= covered();
+    result = vec4(ownColor.rgb, ownColor.a * covered());
 }
 )";
 
-constexpr int c_plainMode = 0;
-constexpr int c_colorTableMode = 1;
-constexpr int c_glyphMode = 2;
-constexpr int c_imageMode = 3;
+constexpr const char* c_colorTableMain = R"(
+const int c_tableSize = 1024;
 
-/// The moves of a text that together draw a rim of a width around it.
-std::vector<PixelPoint> haloOffsets(float width)
+uniform sampler1D colorTable;
+
+void main()
 {
-    std::vector<PixelPoint> offsets;
-    for (float y = -width; y <= width; ++y) {
-        for (float x = -width; x <= width; ++x) {
-            const float distance = std::hypot(x, y);
-            // The outer ring, with corners only where it is narrow, and one within a wide one.
-            const bool isOuter = distance <= width + 0.5f && distance > width - 0.6f;
-            const bool isInner = distance > 0.0f && std::abs(distance - 0.5f * width) < 0.5f;
-            if (isOuter || (width > 2.0f && isInner)) {
-                offsets.push_back({x, y});
-            }
-        }
-    }
-    return offsets;
+    int texel = clamp(int(place.y * float(c_tableSize)), 0, c_tableSize - 1);
+    result = vec4(texelFetch(colorTable, texel, 0).rgb, covered());
+}
+)";
+
+constexpr const char* c_glyphsMain = R"(
+uniform sampler2D glyphs;
+
+void main()
+{
+    result = vec4(ownColor.rgb, ownColor.a * texelFetch(glyphs, ivec2(place), 0).r);
+}
+)";
+
+constexpr const char* c_imageMain = R"(
+// With colours multiplied by alpha.
+uniform sampler2D image;
+
+void main()
+{
+    vec4 texel = texture(image, place);
+    result = vec4(texel.rgb / max(texel.a, 1.0 / 255.0), texel.a);
+}
+)";
+
+std::string vertexSource()
+{
+    return std::string(c_block) + c_vertexMain;
+}
+
+std::string fragmentSource(const char* main, bool isPolygon)
+{
+    return std::string(c_block) + c_inputs + (isPolygon ? c_covered : "") + main;
 }
 
 } // namespace
@@ -134,29 +143,32 @@ struct OverlayPainter::OverlayBlock {
     static constexpr const char* c_block = "Overlay";
     static constexpr GLuint c_binding = 5;
 
-    std::array<float, 4> color;
     std::array<float, 2> pictureSize;
-    std::int32_t mode;
-    float depth;
-    std::array<std::array<float, 4>, c_mostCorners> sides{};
+    float depth = 0.0f;
     std::int32_t numSides = 0;
-    std::array<std::int32_t, 3> unused{};
+    std::array<std::array<float, 4>, c_mostCorners> sides{};
 };
 
 OverlayPainter::OverlayPainter(UploadCounts& counts)
     : m_counts(counts),
-      m_program("the overlay", (std::string(c_block) + c_vertexMain).c_str(),
-                (std::string(c_block) + c_fragmentMain).c_str())
+      m_plain("plain shapes", vertexSource().c_str(), fragmentSource(c_plainMain, true).c_str()),
+      m_colorTable("the colors of a table", vertexSource().c_str(), fragmentSource(c_colorTableMain, true).c_str()),
+      m_glyphs("text", vertexSource().c_str(), fragmentSource(c_glyphsMain, false).c_str()),
+      m_image("an image", vertexSource().c_str(), fragmentSource(c_imageMain, false).c_str())
 {
-    m_block.attach(m_program);
-    m_program.setSampler("glyphs", 1);
-    m_program.setSampler("image", ImageTextures::c_unit);
+    for (const GlProgram* program : {&m_plain, &m_colorTable, &m_glyphs, &m_image}) {
+        m_block.attach(*program);
+    }
+    m_glyphs.setSampler("glyphs", c_glyphUnit);
+    m_image.setSampler("image", ImageTextures::c_unit);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
     glEnableVertexAttribArray(0);
     glVertexAttribPointer(0, 2, GL_FLOAT, GL_FALSE, sizeof(Vertex), nullptr);
     glEnableVertexAttribArray(1);
-    glVertexAttribPointer(1, 2, GL_FLOAT, GL_FALSE, sizeof(Vertex), offsetPointer(offsetof(Vertex, s)));
+    glVertexAttribPointer(1, 2, GL_FLOAT, GL_FALSE, sizeof(Vertex), offsetPointer(offsetof(Corner, s)));
+    glEnableVertexAttribArray(2);
+    glVertexAttribPointer(2, 4, GL_FLOAT, GL_FALSE, sizeof(Vertex), offsetPointer(offsetof(Vertex, color)));
     glBindVertexArray(0);
 }
 
@@ -169,29 +181,31 @@ void OverlayPainter::begin(int width, int height)
     m_height = static_cast<float>(height);
 }
 
-void OverlayPainter::addQuad(const PixelRect& rect, const PixelRect& texture)
+void OverlayPainter::addQuad(const PixelRect& rect, const PixelRect& texture, const Color& color)
 {
     addQuad({{{rect.left, rect.top, texture.left, texture.top},
               {rect.right, rect.top, texture.right, texture.top},
               {rect.right, rect.bottom, texture.right, texture.bottom},
-              {rect.left, rect.bottom, texture.left, texture.bottom}}});
+              {rect.left, rect.bottom, texture.left, texture.bottom}}},
+            color);
 }
 
-void OverlayPainter::addQuad(const std::array<Vertex, 4>& corners)
+void OverlayPainter::addQuad(const std::array<Corner, 4>& corners, const Color& color)
 {
-    for (const std::size_t corner : {0u, 1u, 2u, 0u, 2u, 3u}) {
-        m_quads.push_back(corners[corner]);
+    const std::array<float, 4> channels = channelsOf(color);
+    for (const std::size_t i : {0u, 1u, 2u, 0u, 2u, 3u}) {
+        m_quads.push_back({corners[i], channels});
     }
 }
 
-void OverlayPainter::drawQuads(int mode, const Color& color, float depth)
+void OverlayPainter::drawQuads(const GlProgram& program, float depth)
 {
-    drawQuads({.color = channelsOf(color), .pictureSize = {m_width, m_height}, .mode = mode, .depth = depth});
+    drawQuads(program, {.pictureSize = {m_width, m_height}, .depth = depth});
 }
 
-void OverlayPainter::drawQuads(const OverlayBlock& block)
+void OverlayPainter::drawQuads(const GlProgram& program, const OverlayBlock& block)
 {
-    m_program.use();
+    program.use();
     m_block.set(block);
     glBindVertexArray(m_array.name());
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.name());
@@ -203,29 +217,29 @@ void OverlayPainter::drawQuads(const OverlayBlock& block)
 
 void OverlayPainter::fillRect(const PixelRect& rect, const Color& color, float depth)
 {
-    addQuad(rect, {});
-    drawQuads(c_plainMode, color, depth);
+    addQuad(rect, {}, color);
+    drawQuads(m_plain, depth);
 }
 
 void OverlayPainter::drawImage(const PixelRect& rect, float depth)
 {
-    addQuad(rect, {0.0f, 0.0f, 1.0f, 1.0f});
-    drawQuads(c_imageMode, {}, depth);
+    addQuad(rect, {0.0f, 0.0f, 1.0f, 1.0f}, {});
+    drawQuads(m_image, depth);
 }
 
 void OverlayPainter::strokeRect(const PixelRect& rect, float width, const Color& color)
 {
-    addQuad({rect.left, rect.top, rect.right, rect.top + width}, {});
-    addQuad({rect.left, rect.bottom - width, rect.right, rect.bottom}, {});
-    addQuad({rect.left, rect.top, rect.left + width, rect.bottom}, {});
-    addQuad({rect.right - width, rect.top, rect.right, rect.bottom}, {});
-    drawQuads(c_plainMode, color);
+    addQuad({rect.left, rect.top, rect.right, rect.top + width}, {}, color);
+    addQuad({rect.left, rect.bottom - width, rect.right, rect.bottom}, {}, color);
+    addQuad({rect.left, rect.top, rect.left + width, rect.bottom}, {}, color);
+    addQuad({rect.right - width, rect.top, rect.right, rect.bottom}, {}, color);
+    drawQuads(m_plain);
 }
 
 void OverlayPainter::fillWithColorTable(const PixelRect& rect, float bottomColor, float topColor)
 {
-    addQuad(rect, {0.0f, topColor, 0.0f, bottomColor});
-    drawQuads(c_colorTableMode, {});
+    addQuad(rect, {0.0f, topColor, 0.0f, bottomColor}, {});
+    drawQuads(m_colorTable);
 }
 
 void OverlayPainter::fillWithColorTableAcross(const PixelRect& rect, float leftColor, float rightColor)
@@ -233,13 +247,15 @@ void OverlayPainter::fillWithColorTableAcross(const PixelRect& rect, float leftC
     addQuad({{{rect.left, rect.top, 0.0f, leftColor},
               {rect.right, rect.top, 0.0f, rightColor},
               {rect.right, rect.bottom, 0.0f, rightColor},
-              {rect.left, rect.bottom, 0.0f, leftColor}}});
-    drawQuads(c_colorTableMode, {});
+              {rect.left, rect.bottom, 0.0f, leftColor}}},
+            {});
+    drawQuads(m_colorTable);
 }
 
-void OverlayPainter::drawPolygon(std::span<const PixelPoint> corners, int mode, const Color& color, float tablePosition)
+void OverlayPainter::drawPolygon(std::span<const PixelPoint> corners, const GlProgram& program, const Color& color,
+                                 float tablePosition)
 {
-    OverlayBlock block = {.color = channelsOf(color), .pictureSize = {m_width, m_height}, .mode = mode, .depth = 0.0f};
+    OverlayBlock block = {.pictureSize = {m_width, m_height}};
     PixelRect box = {corners[0].x, corners[0].y, corners[0].x, corners[0].y};
     float area = 0.0f;
     for (std::size_t i = 0; i < corners.size(); ++i) {
@@ -261,24 +277,24 @@ void OverlayPainter::drawPolygon(std::span<const PixelPoint> corners, int mode, 
         }
     }
     addQuad({box.left - 1.0f, box.top - 1.0f, box.right + 1.0f, box.bottom + 1.0f},
-            {0.0f, tablePosition, 0.0f, tablePosition});
-    drawQuads(block);
+            {0.0f, tablePosition, 0.0f, tablePosition}, color);
+    drawQuads(program, block);
 }
 
 void OverlayPainter::fillPolygon(std::span<const PixelPoint> corners, const Color& color)
 {
-    drawPolygon(corners, c_plainMode, color, 0.0f);
+    drawPolygon(corners, m_plain, color, 0.0f);
 }
 
 void OverlayPainter::fillPolygonWithColorTable(std::span<const PixelPoint> corners, float position)
 {
-    drawPolygon(corners, c_colorTableMode, {}, position);
+    drawPolygon(corners, m_colorTable, {}, position);
 }
 
 void OverlayPainter::bindAtlas(const GlyphAtlas& atlas)
 {
     Atlas& copy = m_atlases[&atlas];
-    glActiveTexture(GL_TEXTURE1);
+    glActiveTexture(GL_TEXTURE0 + c_glyphUnit);
     glBindTexture(GL_TEXTURE_2D, copy.texture.name());
     if (!copy.lastChangeId.take(atlas.getChangeId())) {
         return;
@@ -296,10 +312,8 @@ void OverlayPainter::drawText(const TextLayout& text, FontSet& fonts, float left
 {
     const float x = std::round(left);
     const float y = std::round(top);
-    drawGlyphs(text, fonts, colors, depth, [&](const PixelRect& rect, const PixelRect& texture, PixelPoint offset) {
-        const float glyphLeft = x + rect.left + offset.x;
-        const float glyphTop = y + rect.top + offset.y;
-        addQuad({glyphLeft, glyphTop, glyphLeft + rect.right - rect.left, glyphTop + rect.bottom - rect.top}, texture);
+    drawGlyphs(text, fonts, colors, depth, [&](const PixelRect& rect, const PixelRect& texture, const Color& color) {
+        addQuad({x + rect.left, y + rect.top, x + rect.right, y + rect.bottom}, texture, color);
     });
 }
 
@@ -308,15 +322,16 @@ void OverlayPainter::drawTextUpwards(const TextLayout& text, FontSet& fonts, flo
 {
     const float firstX = std::round(left);
     const float firstY = std::round(bottom);
-    drawGlyphs(text, fonts, colors, 0.0f, [&](const PixelRect& rect, const PixelRect& texture, PixelPoint offset) {
-        const float x = firstX + rect.top + offset.x;
-        const float y = firstY - rect.left + offset.y;
-        const float right = x + rect.bottom - rect.top;
-        const float upper = y - (rect.right - rect.left);
+    drawGlyphs(text, fonts, colors, 0.0f, [&](const PixelRect& rect, const PixelRect& texture, const Color& color) {
+        const float x = firstX + rect.top;
+        const float y = firstY - rect.left;
+        const float right = firstX + rect.bottom;
+        const float upper = firstY - rect.right;
         addQuad({{{x, y, texture.left, texture.top},
                   {x, upper, texture.right, texture.top},
                   {right, upper, texture.right, texture.bottom},
-                  {right, y, texture.left, texture.bottom}}});
+                  {right, y, texture.left, texture.bottom}}},
+                color);
     });
 }
 
@@ -324,41 +339,40 @@ template <class AddGlyph>
 void OverlayPainter::drawGlyphs(const TextLayout& text, FontSet& fonts, const TextColors& colors, float depth,
                                 AddGlyph&& addGlyph)
 {
+    const GlyphAtlas* atlas = nullptr;
+    const auto draw = [&] {
+        if (atlas != nullptr) {
+            bindAtlas(*atlas);
+            drawQuads(m_glyphs, depth);
+        }
+    };
+    const auto rimWidth = static_cast<int>(haloWidth(fonts.fontSize()));
+    const auto add = [&](bool isRim, const Color& color) {
+        for (const PlacedCharacter& placed : text.characters) {
+            const FontSet::Found found = fonts.find(placed.character, placed.style);
+            const Font::Glyph& glyph = isRim ? found.font->rim(found.character, rimWidth) : *found.glyph;
+            if (glyph.width == 0) {
+                continue;
+            }
+            if (atlas != &found.font->getAtlas()) {
+                draw();
+                atlas = &found.font->getAtlas();
+            }
+            const float x = std::round(placed.x) + static_cast<float>(glyph.left);
+            const float y = std::round(placed.y) - static_cast<float>(glyph.top);
+            const auto s = static_cast<float>(glyph.atlasX);
+            const auto t = static_cast<float>(glyph.atlasY);
+            const auto width = static_cast<float>(glyph.width);
+            const auto height = static_cast<float>(glyph.height);
+            addGlyph(PixelRect{x, y, x + width, y + height}, PixelRect{s, t, s + width, t + height}, color);
+        }
+    };
+    // No rim covers strokes of a neighbour.
     if (colors.halo) {
-        drawGlyphs(text, fonts, *colors.halo, depth, haloOffsets(haloWidth(fonts.fontSize())), addGlyph);
+        add(true, *colors.halo);
     }
-    drawGlyphs(text, fonts, colors.text, depth, std::array{PixelPoint{0.0f, 0.0f}}, addGlyph);
-}
-
-template <class AddGlyph>
-void OverlayPainter::drawGlyphs(const TextLayout& text, FontSet& fonts, const Color& color, float depth,
-                                std::span<const PixelPoint> offsets, AddGlyph&& addGlyph)
-{
-    std::map<const GlyphAtlas*, std::vector<Vertex>> byAtlas;
-    for (const PlacedCharacter& placed : text.characters) {
-        const FontSet::Found found = fonts.find(placed.character, placed.style);
-        const Font::Glyph& glyph = *found.glyph;
-        if (glyph.width == 0) {
-            continue;
-        }
-        const float x = std::round(placed.x) + static_cast<float>(glyph.left);
-        const float y = std::round(placed.y) - static_cast<float>(glyph.top);
-        const auto s = static_cast<float>(glyph.atlasX);
-        const auto t = static_cast<float>(glyph.atlasY);
-        const auto width = static_cast<float>(glyph.width);
-        const auto height = static_cast<float>(glyph.height);
-        std::vector<Vertex>& quads = byAtlas[&found.font->getAtlas()];
-        m_quads.swap(quads);
-        for (const PixelPoint& offset : offsets) {
-            addGlyph(PixelRect{x, y, x + width, y + height}, PixelRect{s, t, s + width, t + height}, offset);
-        }
-        m_quads.swap(quads);
-    }
-    for (auto& [atlas, quads] : byAtlas) {
-        bindAtlas(*atlas);
-        m_quads.swap(quads);
-        drawQuads(c_glyphMode, color, depth);
-    }
+    add(false, colors.text);
+    draw();
 }
 
 } // namespace vxrenderer

@@ -86,13 +86,21 @@ public:
     void forgetFonts() { m_atlases.clear(); }
 
 private:
+    static constexpr int c_glyphUnit = 1;
+
     struct OverlayBlock;
 
-    struct Vertex {
+    /// A corner of a rectangle and its place in a texture.
+    struct Corner {
         float x;
         float y;
         float s;
         float t;
+    };
+
+    struct Vertex {
+        Corner corner;
+        std::array<float, 4> color;
     };
 
     struct Atlas {
@@ -100,23 +108,22 @@ private:
         vxgraphics3d::LastChangeId lastChangeId;
     };
 
-    void addQuad(const PixelRect& rect, const PixelRect& texture);
+    void addQuad(const PixelRect& rect, const PixelRect& texture, const vxgraphics3d::Color& color);
     /// Corners in a circle, the first one at the top left of its texture.
-    void addQuad(const std::array<Vertex, 4>& corners);
+    void addQuad(const std::array<Corner, 4>& corners, const vxgraphics3d::Color& color);
     template <class AddGlyph>
     void drawGlyphs(const TextLayout& text, FontSet& fonts, const TextColors& colors, float depth, AddGlyph&& addGlyph);
-    /// @param offsets a copy of each glyph is drawn at each of them
-    template <class AddGlyph>
-    void drawGlyphs(const TextLayout& text, FontSet& fonts, const vxgraphics3d::Color& color, float depth,
-                    std::span<const PixelPoint> offsets, AddGlyph&& addGlyph);
-    void drawQuads(int mode, const vxgraphics3d::Color& color, float depth = 0.0f);
-    void drawQuads(const OverlayBlock& block);
-    void drawPolygon(std::span<const PixelPoint> corners, int mode, const vxgraphics3d::Color& color,
+    void drawQuads(const GlProgram& program, float depth = 0.0f);
+    void drawQuads(const GlProgram& program, const OverlayBlock& block);
+    void drawPolygon(std::span<const PixelPoint> corners, const GlProgram& program, const vxgraphics3d::Color& color,
                      float tablePosition);
     void bindAtlas(const GlyphAtlas& atlas);
 
     UploadCounts& m_counts;
-    GlProgram m_program;
+    GlProgram m_plain;
+    GlProgram m_colorTable;
+    GlProgram m_glyphs;
+    GlProgram m_image;
     UniformBlock<OverlayBlock> m_block;
     float m_width = 1.0f;
     float m_height = 1.0f;

@@ -5,35 +5,10 @@
 #include "renderer/frame/view.h"
 #include "renderer/upload/colortextures.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-
 namespace vxrenderer {
 
 using vxgraphics3d::ColorTable;
 using vxgraphics3d::SceneGraphPlot;
-
-namespace {
-
-/// By how much a channel changes from texel to texel where a table jumps.
-constexpr int c_jump = 12;
-
-bool hasJumps(const ColorTable& table)
-{
-    const ColorTable::Texels& texels = table.getRgba();
-    for (std::size_t i = 1; i < texels.size(); ++i) {
-        for (const int shift : {8, 16, 24}) {
-            const auto channel = [shift](std::uint32_t texel) { return static_cast<int>(texel >> shift & 255u); };
-            if (std::abs(channel(texels[i]) - channel(texels[i - 1])) >= c_jump) {
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
-} // namespace
 
 std::optional<Look> lookOf(const PlotItem& item, const PaintContext& context)
 {
@@ -52,9 +27,9 @@ std::optional<Look> lookOf(const PlotItem& item, const PaintContext& context)
     material.color[3] = 1.0f;
     const boost::shared_ptr<ColorTable> table = plot.getColorTable();
     if (table) {
-        context.colorTextures.bind(item.group, plot.getColorTableTextureHandle(0), *table);
+        const int handle = plot.getColorTableTextureHandle(0);
         material.hasTable = 1;
-        material.hasSteps = hasJumps(*table) ? 1 : 0;
+        material.hasSteps = context.colorTextures.bind(item.group, handle, *table) ? 1 : 0;
     }
     material.dataTex = {plot.getDataTexMin(), plot.getDataTexMax()};
     material.legendTex = {plot.getLegendTexMin(), plot.getLegendTexMax()};

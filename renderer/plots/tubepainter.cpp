@@ -150,7 +150,7 @@ std::unique_ptr<SurfaceMesh> mergedMesh(const SceneGraphPlot& plot)
         const int count = vertices.getNumberOfVertices();
         const std::span copied(mesh->vertices.appendUnwritten(count), static_cast<std::size_t>(count));
         std::copy_n(vertices.vertices(), count, copied.begin());
-        if (resolution > 0 && count > 0) {
+        if (resolution > 0 && count > resolution) {
             TubeRings rings(copied, resolution);
             rings.roundEnds();
             rings.joinEnds();

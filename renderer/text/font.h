@@ -3,7 +3,9 @@
 #include "renderer/text/fontlibrary.h"
 #include "renderer/text/glyphatlas.h"
 
+#include <map>
 #include <unordered_map>
+#include <utility>
 
 namespace vxrenderer {
 
@@ -28,6 +30,10 @@ public:
 
     /// The glyph of a character, or null if the face does not have it. It lives as long as the font.
     const Glyph* glyph(char32_t character);
+    /// The rim around a character that the face has: what the strokes of the glyph cover when they are moved by a
+    /// distance to all sides. It is placed as the glyph is.
+    /// @param width the distance, in whole pixels
+    const Glyph& rim(char32_t character, int width);
     /// What the face stores for this pair.
     float kerning(char32_t left, char32_t right);
 
@@ -40,6 +46,7 @@ private:
     /// The size is a property of the shared face: it is set before every use.
     void useSize();
     Glyph draw(unsigned glyphIndex);
+    Glyph drawRim(const Glyph& glyph, int width);
 
     FontLibrary::Face m_face;
     int m_pixelSize;
@@ -47,6 +54,8 @@ private:
     float m_descent = 0.0f;
     GlyphAtlas m_atlas;
     std::unordered_map<char32_t, Glyph> m_glyphs;
+    /// By character and width.
+    std::map<std::pair<char32_t, int>, Glyph> m_rims;
 };
 
 } // namespace vxrenderer

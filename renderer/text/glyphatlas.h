@@ -2,6 +2,7 @@
 
 #include "graphics3d/foundation/changenumber.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -24,6 +25,10 @@ public:
     int getWidth() const { return m_width; }
     int getHeight() const { return m_height; }
     const std::vector<std::uint8_t>& getPixels() const { return m_pixels; }
+    std::uint8_t pixelAt(int x, int y) const
+    {
+        return m_pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) + static_cast<std::size_t>(x)];
+    }
     /// Rises with every glyph; the owner of a copy of the picture compares it.
     int getChangeId() const { return m_changeId.get(); }
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <numeric>
 
 namespace vxrenderer {
@@ -94,6 +95,49 @@ TEST(FontSet, drawsACharacterOnceAndReportsWhereItLies)
     for (int y = 0; y < found.glyph->height; ++y) {
         EXPECT_GT(at(1, y), 200) << y;
     }
+}
+
+TEST(FontSet, drawsRimsThatReachAroundAllStrokes)
+{
+    FontLibrary library;
+    FontSet fonts(library, "default", 24);
+    const FontSet::Found found = fonts.find(U'S', {});
+    const Font::Glyph& glyph = *found.glyph;
+    Font& font = *found.font;
+    const auto at = [&](const Font::Glyph& drawn, int x, int y) {
+        const bool isInside = x >= 0 && x < drawn.width && y >= 0 && y < drawn.height;
+        return isInside ? static_cast<int>(font.getAtlas().pixelAt(drawn.atlasX + x, drawn.atlasY + y)) : 0;
+    };
+    for (const int width : {1, 3}) {
+        const Font::Glyph& rim = font.rim(U'S', width);
+        ASSERT_EQ(rim.width, glyph.width + 2 * width);
+        ASSERT_EQ(rim.height, glyph.height + 2 * width);
+        EXPECT_EQ(rim.left, glyph.left - width);
+        EXPECT_EQ(rim.top, glyph.top + width);
+        int outside = 0;
+        for (int y = 0; y < rim.height; ++y) {
+            for (int x = 0; x < rim.width; ++x) {
+                int around = 0;
+                int near = 0;
+                for (int dy = -width - 1; dy <= width + 1; ++dy) {
+                    for (int dx = -width - 1; dx <= width + 1; ++dx) {
+                        const int stroke = at(glyph, x - width + dx, y - width + dy);
+                        const int square = dx * dx + dy * dy;
+                        around = std::max(around, square == width * width ? stroke : 0);
+                        near = std::max(near, square <= (width + 1) * (width + 1) ? stroke : 0);
+                    }
+                }
+                EXPECT_GE(at(rim, x, y), around) << width << ": " << x << ", " << y;
+                outside += near == 0 ? 1 : 0;
+                EXPECT_TRUE(near > 0 || at(rim, x, y) == 0) << width << ": " << x << ", " << y;
+            }
+        }
+        EXPECT_GT(outside, 0);
+    }
+    const int changeId = font.getAtlas().getChangeId();
+    EXPECT_EQ(&font.rim(U'S', 3), &font.rim(U'S', 3));
+    EXPECT_EQ(font.rim(U' ', 1).width, 0);
+    EXPECT_EQ(font.getAtlas().getChangeId(), changeId);
 }
 
 TEST(FontSet, kernsPairsThatTheFaceNames)
